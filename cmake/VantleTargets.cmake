@@ -1,0 +1,21 @@
+# One folder is one library, named after it: vantle_add_library(capture ...) makes vantle_capture.
+# Headers are included from src/ by folder ("capture/Capture.h").
+
+add_library(vantle_warnings INTERFACE)
+target_compile_options(
+  vantle_warnings
+  INTERFACE -Wall
+            -Wextra
+            -Wconversion
+            -Wshadow
+            -Wnon-virtual-dtor
+            # Designated initializers leave the rest at their defaults on purpose.
+            -Wno-missing-field-initializers
+            $<$<BOOL:${VANTLE_WARNINGS_AS_ERRORS}>:-Werror>)
+
+function(vantle_add_library name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(vantle_${name} STATIC ${arg_SOURCES})
+  target_include_directories(vantle_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_link_libraries(vantle_${name} PUBLIC ${arg_LINKS} PRIVATE vantle_warnings)
+endfunction()

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "support/Geometry.h"
+#include "support/Result.h"
+
+namespace vantle {
+
+/// The panel on the screen: borderless, transparent, above all other windows, on every workspace,
+/// in no taskbar. It never takes the keyboard from the window that has it, neither when it comes
+/// nor when it is clicked, and it catches clicks only inside its glass. Main thread only.
+class PanelWindow {
+public:
+    virtual ~PanelWindow() = default;
+
+    /// In screen coordinates (as Screens has them).
+    virtual void setFrame(const Rect& frame) = 0;
+
+    /// Shows it, above all others, whichever program is active.
+    virtual void orderFrontRegardless() = 0;
+
+    virtual void orderOut() = 0;
+
+    /// Where the glass stands inside the window, "{{x, y}, {w, h}}" in whole points from the top
+    /// left; absent while there is no glass.
+    virtual std::optional<std::string> glassFrameDescription() const = 0;
+
+    /// Text that tells where the thumbnails stand in the part of the row that is seen.
+    virtual std::string thumbnailFramesDescription() const = 0;
+
+    /// Draws a card over the current state off screen into a PNG file at `path`.
+    virtual Outcome writeSnapshot(const std::string& path) = 0;
+};
+
+}  // namespace vantle

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/Application.h"
+#include "platform/DirectoryEvents.h"
+#include "platform/FileManager.h"
+#include "platform/LoginItem.h"
+#include "platform/MediaLoader.h"
+#include "platform/PreferencesDomain.h"
+#include "platform/ProcessLauncher.h"
+#include "platform/Scheduler.h"
+#include "platform/Screens.h"
+#include "platform/SerialQueue.h"
+#include "platform/SoundPlayer.h"
+#include "platform/Updater.h"
+#include "platform/UserDefaults.h"
+#include "platform/WallClock.h"
+#include "platform/Window.h"
+#include "support/Environment.h"
+#include "support/NotificationCenter.h"
+
+namespace vantle {
+
+/// All that the program asks of its surroundings, made by main() and borrowed by everyone else.
+/// Members are destroyed in reverse order: the queue ends before what its work uses.
+struct Platform {
+    Environment environment;
+    NotificationCenter notifications;
+    std::unique_ptr<Scheduler> scheduler;
+    std::unique_ptr<WallClock> clock;
+    std::unique_ptr<FileManager> files;
+    std::unique_ptr<MediaLoader> media;
+    std::unique_ptr<UserDefaults> defaults;
+    std::unique_ptr<PreferencesDomain> screenshotPreferences;
+    std::unique_ptr<ProcessLauncher> launcher;
+    std::unique_ptr<LoginItem> loginItem;
+    std::unique_ptr<Screens> screens;
+    std::unique_ptr<Application> application;
+    std::unique_ptr<SerialQueue> watcherQueue;
+    std::unique_ptr<DirectoryEvents> directoryEvents;
+
+    /// Null on a surrounding that has none.
+    std::unique_ptr<SoundPlayer> sounds;
+
+    /// Empty on a surrounding that has none.
+    std::function<std::unique_ptr<Updater>()> makeUpdater;
+    std::function<std::unique_ptr<Window>(Size contentSize)> makeSettingsWindow;
+    std::function<std::unique_ptr<Window>(Size contentSize)> makeOnboardingWindow;
+};
+
+}  // namespace vantle

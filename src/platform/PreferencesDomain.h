@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/PreferenceValue.h"
+
+namespace vantle {
+
+/// The settings of another program, by key. Main thread only.
+class PreferencesDomain {
+public:
+    virtual ~PreferencesDomain() = default;
+
+    /// The stored value with the type that it has there; absent when there is none. Reads anew at
+    /// each call, so that a change made by others is seen.
+    virtual std::optional<PreferenceValue> value(const std::string& key) const = 0;
+
+    /// Takes effect at synchronize(), at the latest.
+    virtual void setValue(const std::string& key, const PreferenceValue& value) = 0;
+
+    /// Writes what was set. Failures are silent here: who needs to know reads the value back.
+    virtual void synchronize() = 0;
+};
+
+}  // namespace vantle

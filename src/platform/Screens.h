@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "support/Geometry.h"
+
+namespace vantle {
+
+/// One display. Coordinates are points with the origin at the bottom left of the primary display
+/// and y growing upwards.
+struct Screen {
+    Rect frame;
+    Rect visibleFrame;  ///< Without the desktop's own panels and docks.
+};
+
+/// The displays and the pointer. Main thread only.
+class Screens {
+public:
+    virtual ~Screens() = default;
+
+    /// In the system's order; empty while no display is connected.
+    virtual std::vector<Screen> all() const = 0;
+
+    /// The one that the user works on (else the primary one); absent when there is none.
+    virtual std::optional<Screen> main() const = 0;
+
+    virtual Point pointerLocation() const = 0;
+};
+
+}  // namespace vantle

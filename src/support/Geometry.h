@@ -1,0 +1,37 @@
+#pragma once
+
+namespace vantle {
+
+/// Lengths are points unless a name says pixels.
+struct Point {
+    double x = 0;
+    double y = 0;
+    friend bool operator==(const Point&, const Point&) = default;
+};
+
+struct Size {
+    double width = 0;
+    double height = 0;
+    friend bool operator==(const Size&, const Size&) = default;
+};
+
+struct Rect {
+    Point origin;
+    Size size;
+
+    double minX() const { return origin.x; }
+    double minY() const { return origin.y; }
+    double maxX() const { return origin.x + size.width; }
+    double maxY() const { return origin.y + size.height; }
+
+    friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+/// The point-in-rectangle test of coordinates whose y grows upwards: a rectangle owns its left
+/// and its top edge, so that of two screens that touch only one contains a point between them.
+constexpr bool containsUpwards(const Rect& rect, const Point& point) {
+    return point.x >= rect.origin.x && point.x < rect.origin.x + rect.size.width &&
+           point.y > rect.origin.y && point.y <= rect.origin.y + rect.size.height;
+}
+
+}  // namespace vantle

@@ -1,0 +1,63 @@
+#include "support/SystemLog.h"
+
+#include <cstdio>
+
+#include <mutex>
+#include <utility>
+
+namespace vantle {
+namespace {
+
+struct Log {
+    std::mutex mutex;
+    std::function<void(const std::string&)> receive;
+};
+
+Log& log() {
+    static Log instance;
+    return instance;
+}
+
+std::string escaped(std::string_view message) {
+    static constexpr char digits[] = "0123456789abcdef";
+    std::string line;
+    line.reserve(message.size());
+    for (const char character : message) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte >= 0x20 && byte != 0x7f) {
+            line += character;
+        } else if (character == '\n') {
+            line += "\\n";
+        } else {
+            line += "\\x";
+            line += digits[byte >> 4];
+            line += digits[byte & 0x0f];
+        }
+    }
+    return line;
+}
+
+}  // namespace
+
+void systemLog(std::string_view message) {
+    const std::string line = escaped(message);
+    const std::lock_guard lock(log().mutex);
+    if (log().receive) {
+        log().receive(line);
+        return;
+    }
+    std::fprintf(stderr, "%s\n", line.c_str());
+    std::fflush(stderr);
+}
+
+SystemLogSink::SystemLogSink(std::function<void(const std::string&)> receive) {
+    const std::lock_guard lock(log().mutex);
+    log().receive = std::move(receive);
+}
+
+SystemLogSink::~SystemLogSink() {
+    const std::lock_guard lock(log().mutex);
+    log().receive = nullptr;
+}
+
+}  // namespace vantle

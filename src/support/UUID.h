@@ -1,0 +1,32 @@
+#pragma once
+
+#include <array>
+#include <compare>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace vantle {
+
+/// A random identifier (version 4).
+class UUID {
+public:
+    /// A fresh one. Any thread.
+    static UUID random();
+
+    /// 36 characters, lower case: 8-4-4-4-12.
+    std::string text() const;
+
+    friend auto operator<=>(const UUID&, const UUID&) = default;
+
+private:
+    std::array<std::uint8_t, 16> bytes_{};
+    friend struct std::hash<UUID>;
+};
+
+}  // namespace vantle
+
+template <>
+struct std::hash<vantle::UUID> {
+    std::size_t operator()(const vantle::UUID& id) const noexcept;
+};

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/DirectoryEvents.h"
+#include "platform/FileManager.h"
+#include "platform/SerialQueue.h"
+
+namespace vantle::fakes {
+
+/// A file system in memory: answers as FileManager and tells its changes as DirectoryEvents, on
+/// the queue that it is made with. Folders list their entries in the order of creation.
+class FakeFileSystem final : public FileManager, public DirectoryEvents {
+public:
+    explicit FakeFileSystem(SerialQueue& queue);
+    ~FakeFileSystem() override;
+
+    struct Entry {
+        bool isDirectory = false;
+        std::int64_t size = 0;
+        std::optional<Date> created;
+        std::optional<Date> modified;
+        std::optional<bool> isRegularFile = true;
+        bool sizeIsReadable = true;
+        bool valuesAreReadable = true;
+        std::uint64_t order = 0;
+    };
+
+    /// Creates or replaces a file and reports the change in its folder.
+    void write(const Url& file, std::int64_t size, Date modified);
+    /// Changes a file's entry in place and reports the change in its folder.
+    void change(const Url& file, const std::function<void(Entry&)>& edit);
+    void remove(const Url& file);
+    void rename(const Url& from, const Url& to);
+
+    void removeDirectory(const Url& folder);
+    void moveDirectory(const Url& from, const Url& to);
+    /// Takes the folder away as an unmount does.
+    void revoke(const Url& folder);
+    /// Reports a change although nothing changed.
+    void touch(const Url& folder);
+    /// Tells of an overflow of the event queue: a change, with the events in between lost.
+    void overflow(const Url& folder) { touch(folder); }
+
+    /// From now on listing the folder fails with `error`; 0 makes it work again.
+    void failListing(const Url& folder, int error);
+    void failOpening(const Url& folder, int error);
+    /// From now on nothing can be created below `folder`.
+    void makeReadOnly(const Url& folder);
+
+    void setHome(const Url& home) { home_ = home; }
+    void setDesktop(std::optional<Url> desktop) { desktop_ = std::move(desktop); }
+
+    std::size_t openSources() const;
+    /// How often a folder was listed / a file's size or values were read.
+    int listings() const { return listings_; }
+    int inspections() const { return inspections_; }
+
+    Existence existence(const Url& url) const override;
+    Result<NameList> contentsOfDirectory(const Url& folder) const override;
+    Result<ResourceValues> resourceValues(const Url& url) const override;
+    std::optional<std::int64_t> fileSize(const Url& url) const override;
+    Outcome createDirectory(const Url& folder) override;
+    Url homeDirectory() const override { return home_; }
+    std::optional<Url> desktopDirectory() const override { return desktop_; }
+
+    Result<std::shared_ptr<DirectoryEventSource>> open(const Url& folder, Handler handler) override;
+
+private:
+    class Source;
+
+    void report(const Url& folder, DirectoryChange change);
+    bool isReadOnly(const Url& url) const;
+
+    SerialQueue& queue_;
+    std::map<std::string, Entry> entries_;
+    std::map<std::string, int> listingErrors_;
+    std::map<std::string, int> openingErrors_;
+    std::set<std::string> readOnly_;
+    std::vector<std::weak_ptr<Source>> sources_;
+    std::uint64_t nextOrder_ = 1;
+    int nextDescriptor_ = 3;
+    mutable int listings_ = 0;
+    mutable int inspections_ = 0;
+    Url home_ = Url::file("/home/user");
+    std::optional<Url> desktop_ = Url::file("/home/user/Desktop");
+};
+
+}  // namespace vantle::fakes
