@@ -1,0 +1,77 @@
+#include "capture/Capture.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace vantle {
+namespace {
+
+constexpr std::array<std::string_view, 8> imageExtensions = {"png",  "jpg", "jpeg", "heic",
+                                                             "tiff", "tif", "gif",  "pdf"};
+constexpr std::array<std::string_view, 3> videoExtensions = {"mov", "mp4", "m4v"};
+
+char lowercase(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
+                                                : character;
+}
+
+bool contains(const auto& extensions, std::string_view extension) {
+    return std::ranges::any_of(extensions, [extension](std::string_view candidate) {
+        return std::ranges::equal(candidate, extension, {}, {}, lowercase);
+    });
+}
+
+}  // namespace
+
+std::optional<CaptureKind> Capture::kind(const Url& url) {
+    const auto extension = url.pathExtension();
+    if (contains(imageExtensions, extension)) return CaptureKind::image;
+    if (contains(videoExtensions, extension)) return CaptureKind::video;
+    return std::nullopt;
+}
+
+std::shared_ptr<Capture> Capture::create(const Url& url, Date date) {
+    const auto kind = Capture::kind(url);
+    if (!kind) return nullptr;
+    return std::shared_ptr<Capture>(new Capture(url, date, *kind));
+}
+
+Capture::Capture(Url url, Date date, CaptureKind kind)
+    : id_(UUID::random()), url_(std::move(url)), date_(date), kind_(kind) {}
+
+void Capture::loadThumbnail(MediaLoader& media, double maximumDimension) {
+    switch (kind_) {
+        case CaptureKind::image: loadImage(media, maximumDimension); break;
+        case CaptureKind::video: loadRecording(media, maximumDimension); break;
+    }
+}
+
+void Capture::loadImage(MediaLoader& media, double maximumDimension) {
+    const auto file = media.openImage(url_);
+    if (!file) return;
+    const auto pixels = file->pixelSize();
+    if (!pixels) return;
+    const Size points = file->pointSize();
+    const bool isVector = pixels->width == 0 && pixels->height == 0;
+    pixelSize_ = isVector ? points : *pixels;
+
+    const double scale = maximumDimension / std::max(points.width, points.height);
+    thumbnail_ = scale >= 1.0 ? file->draw(points)
+                              : file->draw({points.width * scale, points.height * scale});
+}
+
+void Capture::loadRecording(MediaLoader& media, double maximumDimension) {
+    const auto file = media.openRecording(url_);
+    if (!file) return;
+    duration_ = file->duration();
+    // Half a second in, or the middle of a shorter clip, never before its beginning.
+    const double posterTime = std::min(std::max(duration_ * 0.5, 0.0), 0.5);
+    const auto frame = file->frame(posterTime, maximumDimension);
+    if (!frame) return;
+    thumbnail_ = frame;
+    pixelSize_ = file->videoTrackSize().value_or(frame->size);
+}
+
+}  // namespace vantle

@@ -1,0 +1,60 @@
+#include "capture/SystemScreenshotPrefs.h"
+
+namespace vantle {
+namespace {
+
+constexpr auto locationKey = "location";
+constexpr auto showThumbnailKey = "show-thumbnail";
+
+template <typename T>
+std::optional<T> valueOfType(const PreferencesDomain& preferences, const char* key) {
+    const auto value = preferences.value(key);
+    if (!value || !std::holds_alternative<T>(*value)) return std::nullopt;
+    return std::get<T>(*value);
+}
+
+}  // namespace
+
+Url SystemScreenshotPrefs::defaultLocation() const {
+    return files_.desktopDirectory().value_or(files_.homeDirectory().appending("Desktop"));
+}
+
+Url SystemScreenshotPrefs::location() const {
+    const auto path = valueOfType<std::string>(preferences_, locationKey);
+    if (!path || path->empty()) return defaultLocation();
+    const Url folder = expandingTilde(*path);
+    // A stale setting must never yield a folder that cannot be watched.
+    if (files_.existence(folder) != FileManager::Existence::directory) return defaultLocation();
+    return folder;
+}
+
+void SystemScreenshotPrefs::setLocation(const Url& folder) {
+    // Where the folder cannot be made, reading the location back shows that.
+    (void)files_.createDirectory(folder);
+    preferences_.setValue(locationKey, folder.path());
+    preferences_.synchronize();
+    restartSystemUIServer();
+}
+
+bool SystemScreenshotPrefs::showsThumbnail() const {
+    return valueOfType<bool>(preferences_, showThumbnailKey).value_or(true);
+}
+
+void SystemScreenshotPrefs::setShowsThumbnail(bool shows) {
+    preferences_.setValue(showThumbnailKey, shows);
+    preferences_.synchronize();
+    restartSystemUIServer();
+}
+
+void SystemScreenshotPrefs::restartSystemUIServer() {
+    // A system without that service reads its preferences anew by itself.
+    (void)launcher_.launch("/usr/bin/killall", {"SystemUIServer"});
+}
+
+Url SystemScreenshotPrefs::expandingTilde(const std::string& path) const {
+    if (path == "~") return files_.homeDirectory();
+    if (path.starts_with("~/")) return files_.homeDirectory().appending(path.substr(2));
+    return Url::file(path);
+}
+
+}  // namespace vantle

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/FileManager.h"
+#include "platform/PreferencesDomain.h"
+#include "platform/ProcessLauncher.h"
+#include "support/Url.h"
+
+namespace vantle {
+
+/// The system's own screenshot preferences: where it saves captures and whether it shows its
+/// floating thumbnail. Keeps nothing: each call asks the preferences. Failures are silent; who
+/// needs to know whether a change took effect reads the value back. Main thread only.
+class SystemScreenshotPrefs {
+public:
+    /// The preferences domain of the system's screenshot service.
+    static constexpr auto domain = "com.apple.screencapture";
+
+    /// All three are borrowed and outlive this. `preferences` is the one of `domain`.
+    SystemScreenshotPrefs(FileManager& files, PreferencesDomain& preferences,
+                          ProcessLauncher& launcher)
+        : files_(files), preferences_(preferences), launcher_(launcher) {}
+
+    /// The user's Desktop folder.
+    Url defaultLocation() const;
+
+    /// Where captures are saved: a folder that exists, or defaultLocation().
+    Url location() const;
+
+    /// Makes the system save captures into `folder` from now on; creates it when it is missing.
+    void setLocation(const Url& folder);
+
+    bool showsThumbnail() const;
+    void setShowsThumbnail(bool shows);
+
+    /// Makes the system service pick up changed preferences. Does not wait for it.
+    void restartSystemUIServer();
+
+private:
+    Url expandingTilde(const std::string& path) const;
+
+    FileManager& files_;
+    PreferencesDomain& preferences_;
+    ProcessLauncher& launcher_;
+};
+
+}  // namespace vantle

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace vantle {
+
+/// The corner of the screen in which the panel stands, in the order in which they are offered.
+enum class PanelCorner { bottomRight, bottomLeft, topRight, topLeft };
+
+inline constexpr std::array allPanelCorners = {PanelCorner::bottomRight, PanelCorner::bottomLeft,
+                                               PanelCorner::topRight, PanelCorner::topLeft};
+
+/// The text by which a corner is stored, and its identity in lists.
+constexpr std::string_view rawValue(PanelCorner corner) {
+    switch (corner) {
+        case PanelCorner::bottomRight: return "bottomRight";
+        case PanelCorner::bottomLeft: return "bottomLeft";
+        case PanelCorner::topRight: return "topRight";
+        case PanelCorner::topLeft: return "topLeft";
+    }
+    return {};
+}
+
+/// What the settings screen calls it.
+constexpr std::string_view label(PanelCorner corner) {
+    switch (corner) {
+        case PanelCorner::bottomRight: return "Bottom Right";
+        case PanelCorner::bottomLeft: return "Bottom Left";
+        case PanelCorner::topRight: return "Top Right";
+        case PanelCorner::topLeft: return "Top Left";
+    }
+    return {};
+}
+
+/// The corner stored as `text`, compared case by case; absent for any other text.
+constexpr std::optional<PanelCorner> panelCorner(std::string_view text) {
+    for (const PanelCorner corner : allPanelCorners)
+        if (rawValue(corner) == text) return corner;
+    return std::nullopt;
+}
+
+constexpr bool isBottom(PanelCorner corner) {
+    return corner == PanelCorner::bottomRight || corner == PanelCorner::bottomLeft;
+}
+
+constexpr bool isRight(PanelCorner corner) {
+    return corner == PanelCorner::bottomRight || corner == PanelCorner::topRight;
+}
+
+}  // namespace vantle
