@@ -47,7 +47,8 @@ struct Platform {
     /// Empty on a surrounding that has none.
     std::function<std::unique_ptr<Updater>()> makeUpdater;
     std::function<std::unique_ptr<Window>(Size contentSize)> makeSettingsWindow;
-    std::function<std::unique_ptr<Window>(Size contentSize)> makeOnboardingWindow;
+    std::function<std::unique_ptr<Window>(Size contentSize, std::function<void()> finish)>
+        makeOnboardingWindow;
 };
 
 }  // namespace vantle

@@ -1,0 +1,175 @@
+#include "app/AppDelegate.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "support/Debug.h"
+#include "support/Weakly.h"
+
+namespace vantle {
+namespace {
+
+constexpr Size settingsSize{480, 860};
+constexpr Size onboardingSize{600, 900};
+constexpr Size screenMargin{40, 60};
+constexpr Seconds updateCheckDelay{1.0};
+
+}  // namespace
+
+std::shared_ptr<AppDelegate> AppDelegate::create(Platform& platform,
+                                                 CapturePanelController::PanelFactory makePanel,
+                                                 FileActions fileActions) {
+    return std::shared_ptr<AppDelegate>(
+        new AppDelegate(platform, std::move(makePanel), std::move(fileActions)));
+}
+
+AppDelegate::AppDelegate(Platform& platform, CapturePanelController::PanelFactory makePanel,
+                         FileActions fileActions)
+    : platform_(platform),
+      settings_(*platform.defaults,
+                SystemScreenshotPrefs(*platform.files, *platform.screenshotPreferences,
+                                      *platform.launcher),
+                *platform.loginItem, *platform.application),
+      watcher_(CaptureWatcher::create({.main = *platform.scheduler,
+                                       .queue = *platform.watcherQueue,
+                                       .events = *platform.directoryEvents,
+                                       .files = *platform.files,
+                                       .media = *platform.media,
+                                       .clock = *platform.clock})),
+      panel_(CapturePanelController::create({.settings = settings_,
+                                             .scheduler = *platform.scheduler,
+                                             .screens = *platform.screens,
+                                             .environment = platform.environment,
+                                             .fileActions = std::move(fileActions),
+                                             .makePanel = std::move(makePanel)})) {}
+
+bool AppDelegate::applicationWillFinishLaunching() {
+    if (!platform_.application->anotherCopyIsRunning()) return true;
+    platform_.application->activateOtherCopy();
+    platform_.application->terminate();
+    return false;
+}
+
+void AppDelegate::applicationDidFinishLaunching() {
+    Settings::applyActivationPolicy(*platform_.application, settings_.showInDock.value());
+    platform_.application->onReopen =
+        weakly(shared_from_this(),
+               [](auto& self, bool visible) { self.applicationShouldHandleReopen(visible); });
+    connectStatusBar();
+    updater();  // its schedule runs from here on
+    if (platform_.environment("VANTLE_CHECK_UPDATES_NOW"))
+        platform_.scheduler->after(
+            updateCheckDelay, weakly(shared_from_this(), [](auto& self) { self.checkForUpdates(); }));
+    connectWatcher();
+    observeScreenshotFolder();
+    if (settings_.hasCompletedOnboarding.value())
+        startWatching();
+    else
+        showOnboarding();
+}
+
+void AppDelegate::connectStatusBar() {
+    const auto self = shared_from_this();
+    statusBar_.recent = [weak = weak_from_this()] {
+        const auto delegate = weak.lock();
+        return delegate ? delegate->recent_ : std::vector<CapturePointer>{};
+    };
+    statusBar_.onShow =
+        weakly(self, [](auto& delegate, const auto& capture) { delegate.panel_->show(capture); });
+    statusBar_.onSettings = weakly(self, [](auto& delegate) { delegate.showSettings(); });
+    statusBar_.onCheckForUpdates =
+        weakly(self, [](auto& delegate) { delegate.checkForUpdates(); });
+    statusBar_.onPause = weakly(self, [](auto& delegate, bool paused) {
+        if (paused)
+            delegate.watcher_->stop();
+        else
+            delegate.startWatching();
+    });
+}
+
+void AppDelegate::connectWatcher() {
+    const auto self = shared_from_this();
+    watcher_->onCapture =
+        weakly(self, [](auto& delegate, const auto& capture) { delegate.captured(capture); });
+    watcher_->onError =
+        weakly(self, [](auto& delegate, const auto& error) { delegate.handleWatchError(error); });
+}
+
+void AppDelegate::observeScreenshotFolder() {
+    std::optional<Url> last;
+    cancellables_.push_back(
+        settings_.screenshotFolder.observe([this, last](const Url& folder) mutable {
+            if (std::exchange(last, folder) == folder) return;
+            if (settings_.hasCompletedOnboarding.value() && !statusBar_.paused())
+                watcher_->start(folder);
+        }));
+}
+
+void AppDelegate::startWatching() {
+    watcher_->start(settings_.screenshotFolder.value());
+}
+
+void AppDelegate::captured(const CapturePointer& capture) {
+    if (capture->kind() == CaptureKind::video && !settings_.showRecordings.value()) return;
+    Debug::log([&] { return "captured " + capture->fileName(); });
+    std::erase_if(recent_, [&](const auto& earlier) { return *earlier == *capture; });
+    recent_.insert(recent_.begin(), capture);
+    if (recent_.size() > maximumRecent) recent_.pop_back();
+    if (settings_.copyOnCapture.value()) panel_->copy(capture);
+    if (settings_.playSound.value() && platform_.sounds) platform_.sounds->play("Pop");
+    panel_->show(capture);
+}
+
+bool AppDelegate::applicationShouldHandleReopen(bool) {
+    if (settings_.hasCompletedOnboarding.value())
+        showSettings();
+    else
+        showOnboarding();
+    return true;
+}
+
+void AppDelegate::showSettings() {
+    if (!platform_.makeSettingsWindow) return;
+    if (!settingsWindow_) settingsWindow_ = platform_.makeSettingsWindow(fit(settingsSize));
+    settingsWindow_->makeKeyAndOrderFront();
+    platform_.application->activate();
+}
+
+void AppDelegate::showOnboarding() {
+    if (!platform_.makeOnboardingWindow) {
+        finishOnboarding();
+        return;
+    }
+    if (!onboardingWindow_)
+        onboardingWindow_ = platform_.makeOnboardingWindow(
+            fit(onboardingSize),
+            weakly(shared_from_this(), [](auto& self) { self.finishOnboarding(); }));
+    onboardingWindow_->makeKeyAndOrderFront();
+    platform_.application->activate();
+}
+
+void AppDelegate::finishOnboarding() {
+    settings_.hasCompletedOnboarding.set(true);
+    if (const auto window = std::move(onboardingWindow_)) window->close();
+    startWatching();
+}
+
+Size AppDelegate::fit(Size size) const {
+    auto screen = platform_.screens->main();
+    if (const auto all = platform_.screens->all(); !screen && !all.empty()) screen = all.front();
+    // Without any screen the margin still counts.
+    const Size available = screen ? screen->visibleFrame.size : size;
+    return {std::min(size.width, available.width - screenMargin.width),
+            std::min(size.height, available.height - screenMargin.height)};
+}
+
+void AppDelegate::checkForUpdates() {
+    if (auto* current = updater()) current->checkForUpdates();
+}
+
+Updater* AppDelegate::updater() {
+    if (!updater_ && platform_.makeUpdater) updater_ = platform_.makeUpdater();
+    return updater_.get();
+}
+
+}  // namespace vantle

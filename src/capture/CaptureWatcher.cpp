@@ -1,0 +1,173 @@
+#include "capture/CaptureWatcher.h"
+
+#include <utility>
+
+#include "support/Debug.h"
+#include "support/SystemLog.h"
+#include "support/Weakly.h"
+
+namespace vantle {
+namespace {
+
+constexpr Seconds newestAge{120};  // an older file was moved in from elsewhere
+constexpr Seconds pollingInterval{0.25};
+constexpr int lastAttempt = 41;
+constexpr std::int64_t unknownSize = -1;
+
+constexpr int operationNotPermitted = 1;  // EPERM
+constexpr int permissionDenied = 13;      // EACCES
+
+WatchError watchError(const Failure& failure) {
+    if (failure.code == operationNotPermitted || failure.code == permissionDenied)
+        return WatchError::accessDenied();
+    return WatchError::other(failure.message);
+}
+
+}  // namespace
+
+std::shared_ptr<CaptureWatcher> CaptureWatcher::create(const Services& services) {
+    return std::shared_ptr<CaptureWatcher>(new CaptureWatcher(services));
+}
+
+CaptureWatcher::~CaptureWatcher() {
+    stop();
+}
+
+std::optional<WatchError> CaptureWatcher::start(const Url& folder) {
+    stop();
+    folder_ = folder;
+    auto error = watch(folder);
+    if (error) report(*error);
+    return error;
+}
+
+void CaptureWatcher::stop() {
+    currentWatch_ = notWatching;
+    if (source_) source_->cancel();
+    source_.reset();
+}
+
+std::optional<WatchError> CaptureWatcher::watch(const Url& folder) {
+    if (services_.files.existence(folder) != FileManager::Existence::directory)
+        return WatchError::missing();
+    const auto listing = services_.files.contentsOfDirectory(folder);
+    if (!listing) return watchError(listing.failure());
+
+    const WatchNumber watch = ++lastWatch_;
+    auto source = services_.events.open(
+        folder, weakly(shared_from_this(), [folder, watch](auto& self, DirectoryChange change) {
+            self.handleEvent(folder, watch, change);
+        }));
+    if (!source) return watchError(source.failure());
+    source_ = source.value();
+    currentWatch_ = watch;
+
+    const NameList& names = listing.value();
+    Debug::log([&] {
+        return "watching " + folder.path() + " (fd " + std::to_string(source_->descriptor()) +
+               ", " + std::to_string(names.size()) + " existing files)";
+    });
+    // What is known belongs to the queue. The scan finds what was saved after the listing and
+    // before the source was open.
+    services_.queue.async(weakly(shared_from_this(), [folder, watch, names](auto& self) {
+        self.known_ = KnownNames(folder, names);
+        self.handleEvent(folder, watch, {.contents = true});
+    }));
+    source_->resume();
+    return std::nullopt;
+}
+
+void CaptureWatcher::report(const WatchError& error) {
+    systemLog("Vantle: cannot watch " + (folder_ ? folder_->path() : "?") + ": " + error.text());
+    services_.main.async(weakly(shared_from_this(), [error](auto& self) {
+        if (self.onError) self.onError(error);
+    }));
+}
+
+void CaptureWatcher::handleEvent(const Url& folder, WatchNumber watch, DirectoryChange change) {
+    if (currentWatch_ != watch) return;
+    const bool folderIsThere =
+        !change.lost && services_.files.existence(folder) != FileManager::Existence::none;
+    if (folderIsThere) {
+        scan(folder);
+        return;
+    }
+    services_.main.async(
+        weakly(shared_from_this(), [watch](auto& self) { self.loseFolder(watch); }));
+}
+
+void CaptureWatcher::loseFolder(WatchNumber watch) {
+    if (currentWatch_ != watch) return;
+    stop();
+    if (onError) onError(WatchError::missing());
+}
+
+void CaptureWatcher::scan(const Url& folder) {
+    const auto listing = services_.files.contentsOfDirectory(folder);
+    if (!listing) return;
+    const NameList& names = listing.value();
+    const Date now = services_.clock.now();
+
+    const std::size_t knownBefore = known_.size();
+    std::size_t stillThere = 0;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (known_.contains(names[i]))
+            ++stillThere;
+        else
+            consider(folder, names[i], now);
+    }
+    // A name whose file has gone is forgotten, so that a new file of that name is seen as new.
+    if (stillThere < knownBefore) known_.keepOnly(names);
+}
+
+void CaptureWatcher::consider(const Url& folder, std::string_view name, Date now) {
+    if (name.starts_with('.')) return;
+    const Url url = folder.appending(name);
+    if (pending_.contains(url.path())) return;
+    if (!Capture::kind(url)) return;
+    const auto values = services_.files.resourceValues(url);
+    if (!values || values.value().isRegularFile != true) return;
+
+    const Date fileDate = values.value().contentModificationDate.value_or(
+        values.value().creationDate.value_or(now));
+    if (now - fileDate >= newestAge) {
+        known_.insert(name);
+        return;
+    }
+    pending_.insert(url.path());
+    waitUntilStable(url, 0, unknownSize,
+                    weakly(shared_from_this(),
+                           [url, fileDate](auto& self) { self.deliver(url, fileDate); }));
+}
+
+void CaptureWatcher::waitUntilStable(const Url& url, int attempts, std::int64_t lastSize,
+                                     const std::function<void()>& done) {
+    const auto size = services_.files.fileSize(url);
+    const bool hasContents = size && *size >= 1;
+    if (hasContents && (*size == lastSize || attempts >= lastAttempt)) {
+        done();
+        return;
+    }
+    // A file given up on stays pending, and so is never reported.
+    if (attempts >= lastAttempt) return;
+    services_.queue.after(
+        pollingInterval,
+        weakly(shared_from_this(),
+               [url, attempts, newLast = size.value_or(unknownSize), done](auto& self) {
+                   self.waitUntilStable(url, attempts + 1, newLast, done);
+               }));
+}
+
+void CaptureWatcher::deliver(const Url& url, Date fileDate) {
+    pending_.erase(url.path());
+    // Of another folder than the one watched by now, no listing would ever ask for it.
+    if (url.deletingLastPathComponent() == known_.folder()) known_.insert(url.lastPathComponent());
+    const auto capture = Capture::create(url, fileDate);
+    if (!capture) return;
+    capture->loadThumbnail(services_.media);
+    services_.main.async([self = shared_from_this(), capture] {
+        if (self->onCapture) self->onCapture(capture);
+    });
+}
+
+}  // namespace vantle

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+
+#include "capture/Capture.h"
+#include "capture/KnownNames.h"
+#include "capture/WatchError.h"
+#include "platform/DirectoryEvents.h"
+#include "platform/FileManager.h"
+#include "platform/MediaLoader.h"
+#include "platform/Scheduler.h"
+#include "platform/SerialQueue.h"
+#include "platform/WallClock.h"
+
+namespace vantle {
+
+/// Watches one folder and turns each new, finished capture file in it into a Capture. Files that
+/// were there when watching began, and files older than two minutes when first seen, are never
+/// reported.
+///
+/// start(), stop() and both callbacks belong to the main thread. Scans, polling and thumbnails run
+/// on the queue, which alone touches what is known and pending; the two sides share nothing but
+/// the finished Capture. Work on the queue holds the watcher weakly, so that a released watcher
+/// stops; its last reference may therefore end on the queue.
+class CaptureWatcher : public std::enable_shared_from_this<CaptureWatcher> {
+public:
+    struct Services {
+        Scheduler& main;
+        SerialQueue& queue;
+        DirectoryEvents& events;  ///< Its handlers run on `queue`.
+        FileManager& files;
+        MediaLoader& media;
+        WallClock& clock;
+    };
+
+    static std::shared_ptr<CaptureWatcher> create(const Services& services);
+    ~CaptureWatcher();
+
+    /// A new, finished capture, with its thumbnail. In the order in which the files settled.
+    std::function<void(const CapturePointer&)> onCapture;
+
+    /// Watching failed or ended. Called after the start() that it is about has returned.
+    std::function<void(const WatchError&)> onError;
+
+    /// Watches `folder` from now on instead of any other. Absent on success; otherwise the error
+    /// that is also logged and goes to onError. Starting again on the same folder is harmless.
+    std::optional<WatchError> start(const Url& folder);
+
+    /// Files that are settling at that moment may still be reported.
+    void stop();
+
+    /// The folder of the latest start(), also of a failed one.
+    const std::optional<Url>& folder() const { return folder_; }
+    bool isWatching() const { return source_ != nullptr; }
+
+private:
+    using WatchNumber = std::uint64_t;
+    static constexpr WatchNumber notWatching = 0;
+
+    explicit CaptureWatcher(const Services& services) : services_(services) {}
+
+    // Main thread.
+    std::optional<WatchError> watch(const Url& folder);
+    void report(const WatchError& error);
+    void loseFolder(WatchNumber watch);
+
+    // Queue.
+    void handleEvent(const Url& folder, WatchNumber watch, DirectoryChange change);
+    void scan(const Url& folder);
+    void consider(const Url& folder, std::string_view name, Date now);
+    void waitUntilStable(const Url& url, int attempts, std::int64_t lastSize,
+                         const std::function<void()>& done);
+    void deliver(const Url& url, Date fileDate);
+
+    Services services_;
+
+    std::optional<Url> folder_;
+    std::shared_ptr<DirectoryEventSource> source_;
+    WatchNumber lastWatch_ = notWatching;
+    /// Which of the successive watches runs. The queue reads it to let go of work for a watch
+    /// that has ended.
+    std::atomic<WatchNumber> currentWatch_ = notWatching;
+
+    // Queue only.
+    KnownNames known_;
+    std::unordered_set<std::string> pending_;
+};
+
+}  // namespace vantle

@@ -1,0 +1,182 @@
+#include "panel/CapturePanelController.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "panel/CardLayout.h"
+#include "support/Debug.h"
+#include "support/SystemLog.h"
+#include "support/Weakly.h"
+
+namespace vantle {
+namespace {
+
+constexpr Seconds hideDelay{0.5};
+constexpr Seconds debugDumpDelay{1.2};
+constexpr Seconds snapshotDelay{1.2};
+constexpr Animation removalSpring{.response = 0.45, .dampingFraction = 0.82};
+constexpr Rect frameWithoutScreens{{0, 0}, {1440, 900}};
+
+std::string text(bool value) {
+    return value ? "true" : "false";
+}
+
+/// The visible frame of the screen that holds the pointer.
+Rect visibleFrame(const Screens& screens) {
+    const auto all = screens.all();
+    const Point pointer = screens.pointerLocation();
+    for (const Screen& screen : all)
+        if (containsUpwards(screen.frame, pointer)) return screen.visibleFrame;
+    if (const auto main = screens.main()) return main->visibleFrame;
+    return all.empty() ? frameWithoutScreens : all.front().visibleFrame;
+}
+
+}  // namespace
+
+std::shared_ptr<CapturePanelController> CapturePanelController::create(Services services) {
+    return std::shared_ptr<CapturePanelController>(
+        new CapturePanelController(std::move(services)));
+}
+
+CapturePanelController::CapturePanelController(Services services)
+    : services_(std::move(services)) {
+    cancellables_.push_back(state_.hovering.observeChanges([this](bool hovering) {
+        if (hovering)
+            pauseCountdown();
+        else
+            resumeCountdown();
+    }));
+}
+
+CapturePanelController::~CapturePanelController() {
+    invalidateTimers();
+}
+
+void CapturePanelController::show(const CapturePointer& capture) {
+    if (panel_)
+        position(*panel_);
+    else
+        createPanel();
+    if (hideWork_) hideWork_->cancel();
+    hideWork_.reset();
+    state_.corner = services_.settings.corner.value();
+    add(capture);
+    state_.copiedID.set(std::nullopt);
+    present();
+    restartCountdown();
+    scheduleDebugHooks();
+}
+
+void CapturePanelController::createPanel() {
+    panel_ = services_.makePanel(state_, makeActions());
+    position(*panel_);
+}
+
+void CapturePanelController::position(PanelWindow& panel) {
+    panel.setFrame(CardLayout::windowFrame(services_.settings.corner.value(),
+                                           visibleFrame(services_.screens)));
+}
+
+void CapturePanelController::add(const CapturePointer& capture) {
+    auto captures = state_.captures.value();
+    std::erase_if(captures, [&](const auto& shown) { return *shown == *capture; });
+    captures.push_back(capture);
+    // The identifiers of those dropped may stay selected or pinned: they match nothing any more.
+    if (captures.size() > CardLayout::maxCaptures)
+        captures.erase(captures.begin(), captures.end() - CardLayout::maxCaptures);
+    state_.captures.set(std::move(captures));
+}
+
+void CapturePanelController::present() {
+    panel_->orderFrontRegardless();
+    if (state_.visible.value()) return;
+    // The card is to see the panel on the screen before it appears, so that it moves in.
+    services_.scheduler.async(
+        weakly(shared_from_this(), [](auto& self) { self.state_.visible.set(true); }));
+}
+
+void CapturePanelController::restartCountdown() {
+    invalidateTimers();
+    pausedRemaining_.reset();
+    state_.progress.set(1.0);
+    const Seconds dismissAfter(services_.settings.dismissAfter.value());
+    if (!(dismissAfter > Seconds(0))) return;
+    if (state_.hovering.value())
+        pausedRemaining_ = dismissAfter;
+    else
+        startTimers(dismissAfter);
+}
+
+void CapturePanelController::scheduleDebugHooks() {
+    if (const auto path = services_.environment("VANTLE_SNAPSHOT"))
+        services_.scheduler.after(
+            snapshotDelay,
+            weakly(shared_from_this(), [path](auto& self) { self.writeSnapshot(*path); }));
+    if (Debug::on())
+        services_.scheduler.after(debugDumpDelay, weakly(shared_from_this(), [](auto& self) {
+            Debug::log([&self] { return self.panel_->thumbnailFramesDescription(); });
+        }));
+}
+
+void CapturePanelController::writeSnapshot(const std::string& path) {
+    if (const Outcome failure = panel_->writeSnapshot(path))
+        systemLog("Vantle: snapshot failed " + failure->message);
+}
+
+void CapturePanelController::remove(const CapturePointer& capture) {
+    removeMany({capture});
+}
+
+void CapturePanelController::removeMany(const std::vector<CapturePointer>& captures) {
+    if (captures.empty()) return;
+    Debug::log([&] {
+        return "remove " + std::to_string(captures.size()) +
+               " capture(s); before=" + std::to_string(state_.captures.value().size());
+    });
+    std::set<UUID> removed;
+    for (const auto& capture : captures) removed.insert(capture->id());
+    const auto isRemoved = [&removed](const UUID& id) { return removed.contains(id); };
+
+    state_.animate(removalSpring, [&] {
+        auto left = state_.captures.value();
+        std::erase_if(left, [&](const auto& capture) { return isRemoved(capture->id()); });
+        auto selected = state_.selected.value();
+        std::erase_if(selected, isRemoved);
+        auto pinned = state_.pinned.value();
+        std::erase_if(pinned, isRemoved);
+        state_.captures.set(std::move(left));
+        state_.selected.set(std::move(selected));
+        state_.pinned.set(std::move(pinned));
+    });
+    if (state_.captures.value().empty()) {
+        dismiss();
+        return;
+    }
+    Debug::log([this] {
+        const auto frame = panel_ ? panel_->glassFrameDescription() : std::nullopt;
+        return "glassFrame(topleft) = " + frame.value_or("none");
+    });
+}
+
+void CapturePanelController::dismiss() {
+    Debug::log([this] {
+        return "dismiss; visible=" + text(state_.visible.value()) +
+               " count=" + std::to_string(state_.captures.value().size());
+    });
+    invalidateTimers();
+    pausedRemaining_.reset();
+    state_.hovering.set(false);
+    state_.selected.set({});
+    state_.pinned.set({});
+    state_.marquee.set(std::nullopt);
+    state_.visible.set(false);
+    hideWork_ = services_.scheduler.after(hideDelay, weakly(shared_from_this(), [](auto& self) {
+        // A second dismissal may have put its own work in the place of this one.
+        if (!self.hideWork_->isValid()) self.hideWork_.reset();
+        self.state_.captures.set({});
+        if (self.panel_) self.panel_->orderOut();
+    }));
+}
+
+}  // namespace vantle

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "panel/CardActions.h"
+#include "panel/FileActions.h"
+#include "panel/PanelState.h"
+#include "platform/PanelWindow.h"
+#include "platform/Scheduler.h"
+#include "platform/Screens.h"
+#include "settings/Settings.h"
+#include "support/Environment.h"
+#include "support/Subscription.h"
+
+namespace vantle {
+
+/// Owns the floating panel: its model, its window (made on the first show), and its countdown.
+/// Main thread only. Deferred work and the card's callbacks hold it weakly.
+class CapturePanelController : public std::enable_shared_from_this<CapturePanelController> {
+public:
+    /// Makes the panel's window over `state`; both that and the settings outlive it.
+    using PanelFactory =
+        std::function<std::unique_ptr<PanelWindow>(PanelState& state, CardActions actions)>;
+
+    struct Services {
+        Settings& settings;
+        Scheduler& scheduler;
+        Screens& screens;
+        Environment environment;
+        FileActions fileActions;
+        PanelFactory makePanel;
+    };
+
+    static std::shared_ptr<CapturePanelController> create(Services services);
+    ~CapturePanelController();
+
+    bool isVisible() const { return state_.visible.value(); }
+    const PanelState& state() const { return state_; }
+
+    /// Adds a capture, or moves it to the end, and presents the panel.
+    void show(const CapturePointer& capture);
+
+    /// Copies the capture to the clipboard.
+    void copy(const CapturePointer& capture);
+
+    void remove(const CapturePointer& capture);
+
+    /// Removes these captures with an animation; dismisses the panel when none is left.
+    void removeMany(const std::vector<CapturePointer>& captures);
+
+    /// Hides the panel at once and drops all captures half a second later. A show() in between
+    /// keeps them.
+    void dismiss();
+
+private:
+    explicit CapturePanelController(Services services);
+
+    /// The callbacks for the card, each holding this weakly.
+    CardActions makeActions();
+    std::vector<DragItem> dragItems(const CapturePointer& startingFrom) const;
+    void trash(const CapturePointer& capture);
+    void copyAll(const std::vector<CapturePointer>& captures);
+    void trashAll(const std::vector<CapturePointer>& captures);
+    void toggleSelect(const CapturePointer& capture);
+    void togglePin(const CapturePointer& capture);
+    void clearSelection();
+    std::vector<CapturePointer> selectedCaptures() const;
+
+    void createPanel();
+    void position(PanelWindow& panel);
+    void add(const CapturePointer& capture);
+    void present();
+    void restartCountdown();
+    void scheduleDebugHooks();
+    void writeSnapshot(const std::string& path);
+
+    void startTimers(Seconds remaining);
+    void invalidateTimers();
+    void expire();
+    void pauseCountdown();
+    void resumeCountdown();
+
+    Services services_;
+    PanelState state_;
+    std::unique_ptr<PanelWindow> panel_;
+    TimerPointer dismissTimer_;
+    TimerPointer progressTimer_;
+    std::optional<Seconds> pausedRemaining_;
+    std::vector<Subscription> cancellables_;
+    TimerPointer hideWork_;
+};
+
+}  // namespace vantle
