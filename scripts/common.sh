@@ -1,0 +1,160 @@
+# Functions that ./run, ./test and .ci/run share. To be sourced by bash.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+logs=$root/build/logs
+
+if [[ -t 1 ]]; then
+  bold=$'\e[1m' red=$'\e[31m' plain=$'\e[0m'
+else
+  bold='' red='' plain=''
+fi
+
+say() { printf '%s==>%s %s\n' "$bold" "$plain" "$*"; }
+
+# The first argument says what is wrong; each further one is a line about what to do.
+fail() {
+  printf '%sError:%s %s\n' "$red" "$plain" "$1" >&2
+  shift
+  if (($#)); then printf '  %s\n' "$@" >&2; fi
+  exit 1
+}
+
+# Ends with a failure that shows the end of a log file.
+fail_with_log() {
+  local log=$1
+  shift
+  if [[ -s $log ]]; then
+    printf '%s\n' "--- the end of $log ---" >&2
+    tail -n 40 "$log" >&2
+    printf '%s\n' '---' >&2
+  fi
+  fail "$@"
+}
+
+# package_lines LIST...: the lines "name reason" of the lists, without comments.
+package_lines() {
+  local list
+  for list in "$@"; do
+    sed -E '/^[[:space:]]*(#|$)/d' "$root/scripts/packages/$list.list"
+  done
+}
+
+is_installed() {
+  [[ $(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
+}
+
+# Runs a command as root, by sudo where needed. Without a terminal sudo must not ask.
+as_root() {
+  if ((EUID == 0)); then
+    "$@"
+  elif [[ -t 0 && -z ${CI-} ]]; then
+    sudo -- "$@"
+  else
+    sudo -n -- "$@"
+  fi
+}
+
+require_apt() {
+  if command -v apt-get >/dev/null && command -v dpkg-query >/dev/null; then return; fi
+  fail "Packages can be installed only on Debian and Ubuntu: there is no apt-get here." \
+    "Install your system's counterparts of the packages named in scripts/packages/*.list," \
+    "then start again with VANTLE_SKIP_PACKAGES=1."
+}
+
+require_root() {
+  if ((EUID == 0)); then return; fi
+  command -v sudo >/dev/null || fail "Installing needs root rights, and there is no sudo here." \
+    "As root, run:  apt-get update && apt-get install --no-install-recommends $*"
+  as_root true || fail "sudo did not give root rights." \
+    "As root, run:  apt-get update && apt-get install --no-install-recommends $*"
+}
+
+# Reads what apt-get writes, keeps it in a log, and shows every quarter of its status lines
+# ("pmstatus:package:percent:text").
+follow_apt() {
+  local log=$1 line kind percent stage='' shown=-1 quarter
+  while IFS= read -r line; do
+    case $line in
+    dlstatus:*) kind=downloading ;;
+    pmstatus:*) kind=installing ;;
+    *)
+      printf '%s\n' "$line" >>"$log"
+      continue
+      ;;
+    esac
+    percent=$(cut -d : -f 3 <<<"$line")
+    quarter=$((${percent%%.*} / 25))
+    if [[ $kind != "$stage" ]] || ((quarter > shown)); then
+      printf '    %s: %d %%\n' "$kind" $((quarter * 25))
+      stage=$kind shown=$quarter
+    fi
+  done
+}
+
+# The status lines share standard output with the rest, because sudo closes every other descriptor.
+run_apt_install() {
+  local log=$1
+  shift
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends \
+    -o DPkg::Lock::Timeout=300 -o APT::Status-Fd=1 "$@" 2>>"$log" </dev/null | follow_apt "$log"
+}
+
+# install_missing LIST...: installs what the lists name and this machine lacks.
+install_missing() {
+  if [[ -n ${VANTLE_SKIP_PACKAGES-} ]]; then return; fi
+  require_apt
+  local name reason missing=() lines=()
+  while read -r name reason; do
+    if is_installed "$name"; then continue; fi
+    missing+=("$name")
+    lines+=("$(printf '%-32s %s' "$name" "$reason")")
+  done < <(package_lines "$@")
+  if ((${#missing[@]} == 0)); then return; fi
+
+  say "Installing what is missing here (${#missing[@]} packages and what they depend on):"
+  printf '    %s\n' "${lines[@]}"
+  require_root "${missing[@]}"
+  install_packages "${missing[@]}"
+}
+
+install_packages() {
+  local log=$logs/apt.log started=$SECONDS
+  mkdir -p "$logs"
+  : >"$log"
+  # A mirror that fails here need not be one that the packages come from: the install decides.
+  as_root apt-get update -q >>"$log" 2>&1 </dev/null ||
+    say "apt-get update failed; trying with the package lists of last time."
+  if ! run_apt_install "$log" "$@"; then
+    fail_with_log "$log" "apt-get could not install what is missing." \
+      "Check the network connection and /etc/apt/sources.list, then run this again." \
+      "Vantle needs Debian 12, Ubuntu 24.04 or newer."
+  fi
+  say "Installed in $((SECONDS - started)) s."
+}
+
+require_cmake() {
+  local found
+  command -v cmake >/dev/null || fail "cmake is missing." "Install CMake 3.25 or newer."
+  found=$(cmake --version | sed -nE '1s/.* ([0-9]+\.[0-9]+).*/\1/p')
+  if [[ $(printf '%s\n' 3.25 "$found" | sort -V | head -n 1) != 3.25 ]]; then
+    fail "CMake $found is too old: 3.25 or newer is needed." \
+      "Debian 12, Ubuntu 24.04 and later have it. Elsewhere put a newer cmake first on the PATH."
+  fi
+}
+
+# build PRESET: configures and builds a preset of CMakePresets.json.
+build() {
+  local preset=$1 started=$SECONDS log=$logs/$1-configure.log
+  require_cmake
+  mkdir -p "$logs"
+  say "Building the preset $preset"
+  (cd "$root" && cmake --preset "$preset") >"$log" 2>&1 </dev/null ||
+    fail_with_log "$log" "The preset $preset could not be configured." \
+      "The message above says what is missing. After an update of the system, remove" \
+      "build/$preset and run this again."
+  (cd "$root" && cmake --build --preset "$preset" --parallel "$(build_jobs)") </dev/null ||
+    fail "The preset $preset could not be built." "The compiler's message is above."
+  say "Built $preset in $((SECONDS - started)) s."
+}
+
+build_jobs() { nproc 2>/dev/null || echo 2; }

@@ -1,0 +1,120 @@
+"""Vantle as a process on a private desktop: its settings, its log, its end."""
+
+import os
+import pathlib
+import re
+import signal
+
+from . import processes
+from .waiting import wait_until
+
+_DEBUG = "Vantle[dbg]: "
+_SETTINGS_KEYS_AT_HAND = {"hasCompletedOnboarding": "true"}
+
+
+class Program:
+    """One run of Vantle. Its log is its standard error, kept in a file."""
+
+    def __init__(self, binary, desktop, environment=None, name="vantle"):
+        self._desktop = desktop
+        self._binary = str(binary)
+        self._environment = {**desktop.environment, "VANTLE_DEBUG": "1", **(environment or {})}
+        self._log = desktop.log_folder / f"{name}.log"
+        self._process = None
+
+    @property
+    def pid(self):
+        return self._process.pid
+
+    @property
+    def config_folder(self):
+        return pathlib.Path(self._environment["XDG_CONFIG_HOME"], "vantle")
+
+    @property
+    def settings_file(self):
+        return self.config_folder / "vantle.conf"
+
+    @property
+    def log_file(self):
+        return self._log
+
+    def write_settings(self, **values):
+        """Writes the settings that the program finds at its next start."""
+        lines = {**_SETTINGS_KEYS_AT_HAND, **values}
+        text = "".join(f"{key}={value}\n" for key, value in lines.items())
+        self.config_folder.mkdir(parents=True, exist_ok=True)
+        self.settings_file.write_text("[General]\n" + text)
+
+    def start(self):
+        self._process = processes.start([self._binary], self._environment, self._log)
+        return self
+
+    def start_watching(self, limit=20.0):
+        self.start()
+        self.wait_for_log(r"^Vantle\[dbg\]: watching ", limit=limit)
+        return self
+
+    def is_running(self):
+        return self._process is not None and self._process.poll() is None
+
+    def log_text(self):
+        if not self._log.exists():
+            return ""
+        return self._log.read_bytes().decode("utf-8", "surrogateescape")
+
+    def log_lines(self):
+        return self.log_text().splitlines()
+
+    def wait_for_log(self, pattern, times=1, limit=20.0):
+        """Waits until the pattern stands in the log so many times; fails at once if it ended."""
+        expression = re.compile(pattern, re.MULTILINE)
+
+        def stands_there():
+            found = len(expression.findall(self.log_text())) >= times
+            assert found or self.is_running(), f"Vantle ended, its log says:\n{self.log_text()}"
+            return found
+
+        wait_until(stands_there, f"the log has {times} x {pattern}", limit)
+
+    def captured(self):
+        """The names of the captures taken in so far, in order."""
+        start = _DEBUG + "captured "
+        return [line[len(start) :] for line in self.log_lines() if line.startswith(start)]
+
+    def shown_counts(self):
+        """How many captures the panel held after each one that was added."""
+        found = re.findall(r"^Vantle\[dbg\]: panel shows (\d+) capture", self.log_text(), re.MULTILINE)
+        return [int(number) for number in found]
+
+    def voluntary_switches(self):
+        """How often its threads have waited for something so far."""
+        total = 0
+        for task in pathlib.Path("/proc", str(self.pid), "task").iterdir():
+            for line in (task / "status").read_text().splitlines():
+                if line.startswith("voluntary_ctxt_switches"):
+                    total += int(line.split()[1])
+        return total
+
+    def proportional_memory(self):
+        """PSS in KiB."""
+        for line in pathlib.Path("/proc", str(self.pid), "smaps_rollup").read_text().splitlines():
+            if line.startswith("Pss:"):
+                return int(line.split()[1])
+        raise RuntimeError("smaps_rollup without Pss")
+
+    def signal(self, number):
+        os.kill(self.pid, number)
+
+    def kill(self):
+        self.signal(signal.SIGKILL)
+        self._process.wait()
+
+    def wait_for_end(self, limit=20.0):
+        """Its exit status; a negative number is the signal that ended it."""
+        wait_until(lambda: self._process.poll() is not None, "Vantle ends", limit)
+        return self._process.returncode
+
+    def stop(self):
+        if self._process is None:
+            return None
+        return processes.end(self._process)

@@ -1,0 +1,222 @@
+"""What is on the screen of an X server, and real pointer and keyboard events for it."""
+
+import dataclasses
+
+from PIL import Image
+from Xlib import X, XK, Xatom, display, error
+from Xlib.ext import shape, xtest  # noqa: F401  (shape registers its requests on import)
+
+
+@dataclasses.dataclass(frozen=True)
+class Rectangle:
+    x: int
+    y: int
+    width: int
+    height: int
+
+    @property
+    def right(self):
+        return self.x + self.width
+
+    @property
+    def bottom(self):
+        return self.y + self.height
+
+    @property
+    def centre(self):
+        return self.x + self.width // 2, self.y + self.height // 2
+
+    @property
+    def box(self):
+        """As PIL wants it for crop()."""
+        return self.x, self.y, self.right, self.bottom
+
+    def moved(self, x, y):
+        return Rectangle(self.x + x, self.y + y, self.width, self.height)
+
+
+@dataclasses.dataclass(frozen=True)
+class Window:
+    number: int
+    frame: Rectangle
+    is_mapped: bool
+    is_override_redirect: bool
+    class_names: tuple
+
+
+class Pointer:
+    """Moves, presses and releases as a mouse does."""
+
+    def __init__(self, connection):
+        self._display = connection
+
+    def move(self, x, y):
+        xtest.fake_input(self._display, X.MotionNotify, x=int(x), y=int(y))
+        self._display.sync()
+
+    def press(self, button=1):
+        xtest.fake_input(self._display, X.ButtonPress, button)
+        self._display.sync()
+
+    def release(self, button=1):
+        xtest.fake_input(self._display, X.ButtonRelease, button)
+        self._display.sync()
+
+    def click(self, x, y, button=1):
+        self.move(x, y)
+        self.press(button)
+        self.release(button)
+
+    def drag(self, start, end, steps=20):
+        self.move(*start)
+        self.press()
+        for step in range(1, steps + 1):
+            part = step / steps
+            self.move(
+                start[0] + (end[0] - start[0]) * part,
+                start[1] + (end[1] - start[1]) * part,
+            )
+        self.release()
+
+
+class Keyboard:
+    """Types letters, digits and spaces."""
+
+    def __init__(self, connection):
+        self._display = connection
+
+    def type(self, text):
+        for character in text:
+            keysym = XK.string_to_keysym("space" if character == " " else character)
+            code = self._display.keysym_to_keycode(keysym)
+            xtest.fake_input(self._display, X.KeyPress, code)
+            xtest.fake_input(self._display, X.KeyRelease, code)
+        self._display.sync()
+
+
+class Screen:
+    """The only screen of an X server."""
+
+    def __init__(self, name):
+        self._display = display.Display(name)
+        self._root = self._display.screen().root
+        self.size = (self._display.screen().width_in_pixels, self._display.screen().height_in_pixels)
+        self.pointer = Pointer(self._display)
+        self.keyboard = Keyboard(self._display)
+
+    def close(self):
+        self._display.close()
+
+    def screenshot(self, area=None):
+        """The picture on the screen, or of a Rectangle of it, as a PIL image."""
+        area = area or Rectangle(0, 0, *self.size)
+        raw = self._root.get_image(
+            area.x, area.y, area.width, area.height, X.ZPixmap, 0xFFFFFFFF
+        )
+        size = (area.width, area.height)
+        return Image.frombytes("RGB", size, raw.data, "raw", "BGRX")
+
+    def _property(self, window, name, kind=X.AnyPropertyType):
+        answer = window.get_full_property(self._display.intern_atom(name), kind)
+        return answer.value if answer else None
+
+    def root_property(self, name):
+        return self._property(self._root, name)
+
+    def is_composited(self):
+        return self._owns("_NET_WM_CM_S0")
+
+    def has_tray(self):
+        return self._owns("_NET_SYSTEM_TRAY_S0")
+
+    def _owns(self, selection):
+        return bool(self._display.get_selection_owner(self._display.intern_atom(selection)))
+
+    def work_area(self):
+        values = self.root_property("_NET_WORKAREA")
+        return Rectangle(*values[:4]) if values else Rectangle(0, 0, *self.size)
+
+    def client_list(self):
+        """The windows that a taskbar or a pager shows."""
+        return list(self.root_property("_NET_CLIENT_LIST") or [])
+
+    def active_window(self):
+        values = self.root_property("_NET_ACTIVE_WINDOW")
+        return values[0] if values else 0
+
+    def focused_window(self):
+        focus = self._display.get_input_focus().focus
+        return focus if isinstance(focus, int) else focus.id
+
+    def current_workspace(self):
+        return self.root_property("_NET_CURRENT_DESKTOP")[0]
+
+    def switch_workspace(self, number):
+        self._send_to_root("_NET_CURRENT_DESKTOP", self._root, [number, X.CurrentTime, 0, 0, 0])
+
+    def change_state(self, window_number, action, state):
+        """Asks the window manager to add (1) or remove (0) a _NET_WM_STATE."""
+        window = self._display.create_resource_object("window", window_number)
+        atom = self._display.intern_atom(state)
+        self._send_to_root("_NET_WM_STATE", window, [action, atom, 0, 1, 0])
+
+    def _send_to_root(self, name, window, values):
+        from Xlib.protocol import event
+
+        message = event.ClientMessage(
+            window=window, client_type=self._display.intern_atom(name), data=(32, values)
+        )
+        mask = X.SubstructureRedirectMask | X.SubstructureNotifyMask
+        self._root.send_event(message, event_mask=mask)
+        self._display.sync()
+
+    def windows(self):
+        """The children of the root window, lowest first."""
+        found = []
+        for window in self._root.query_tree().children:
+            try:
+                found.append(self._describe(window))
+            except error.XError:
+                # It was destroyed while we asked.
+                continue
+        return found
+
+    def _describe(self, window):
+        attributes = window.get_attributes()
+        geometry = window.get_geometry()
+        return Window(
+            number=window.id,
+            frame=Rectangle(geometry.x, geometry.y, geometry.width, geometry.height),
+            is_mapped=attributes.map_state == X.IsViewable,
+            is_override_redirect=bool(attributes.override_redirect),
+            class_names=window.get_wm_class() or (),
+        )
+
+    def panels(self):
+        """Vantle's panels on the screen: there should be at most one."""
+        return [
+            window
+            for window in self.windows()
+            if window.is_mapped
+            and window.is_override_redirect
+            and "vantle" in (name.lower() for name in window.class_names)
+            and window.frame.width > 400
+        ]
+
+    def panel(self):
+        panels = self.panels()
+        return panels[0] if panels else None
+
+    def input_areas(self, window_number):
+        """The parts of a window that take clicks, in screen coordinates."""
+        window = self._display.create_resource_object("window", window_number)
+        geometry = window.get_geometry()
+        answer = window.shape_get_rectangles(shape.SK.Input)
+        return [
+            Rectangle(area.x, area.y, area.width, area.height).moved(geometry.x, geometry.y)
+            for area in answer.rectangles
+        ]
+
+    def title(self, window_number):
+        window = self._display.create_resource_object("window", window_number)
+        return self._property(window, "WM_NAME", Xatom.STRING)
