@@ -52,14 +52,15 @@ bool AppDelegate::applicationWillFinishLaunching() {
 
 void AppDelegate::applicationDidFinishLaunching() {
     Settings::applyActivationPolicy(*platform_.application, settings_.showInDock.value());
-    platform_.application->onReopen =
-        weakly(shared_from_this(),
-               [](auto& self, bool visible) { self.applicationShouldHandleReopen(visible); });
+    platform_.application->onReopen = weakly(shared_from_this(), [](auto& self, bool visible) {
+        self.applicationShouldHandleReopen(visible);
+    });
     connectStatusBar();
     updater();  // its schedule runs from here on
     if (platform_.environment("VANTLE_CHECK_UPDATES_NOW"))
-        platform_.scheduler->after(
-            updateCheckDelay, weakly(shared_from_this(), [](auto& self) { self.checkForUpdates(); }));
+        platform_.scheduler->after(updateCheckDelay, weakly(shared_from_this(), [](auto& self) {
+                                       self.checkForUpdates();
+                                   }));
     connectWatcher();
     observeScreenshotFolder();
     if (settings_.hasCompletedOnboarding.value())
@@ -77,8 +78,7 @@ void AppDelegate::connectStatusBar() {
     statusBar_.onShow =
         weakly(self, [](auto& delegate, const auto& capture) { delegate.panel_->show(capture); });
     statusBar_.onSettings = weakly(self, [](auto& delegate) { delegate.showSettings(); });
-    statusBar_.onCheckForUpdates =
-        weakly(self, [](auto& delegate) { delegate.checkForUpdates(); });
+    statusBar_.onCheckForUpdates = weakly(self, [](auto& delegate) { delegate.checkForUpdates(); });
     statusBar_.onPause = weakly(self, [](auto& delegate, bool paused) {
         if (paused)
             delegate.watcher_->stop();

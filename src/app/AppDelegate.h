@@ -21,9 +21,9 @@ public:
     static constexpr std::size_t maximumRecent = 20;
 
     /// `platform` outlives the delegate.
-    static std::shared_ptr<AppDelegate> create(
-        Platform& platform, CapturePanelController::PanelFactory makePanel,
-        FileActions fileActions = {});
+    static std::shared_ptr<AppDelegate> create(Platform& platform,
+                                               CapturePanelController::PanelFactory makePanel,
+                                               FileActions fileActions = {});
 
     /// Hands over to a copy that runs already: brings that one forward and terminates this one.
     /// False then: launching must not go on.

@@ -43,8 +43,12 @@ Capture::Capture(Url url, Date date, CaptureKind kind)
 
 void Capture::loadThumbnail(MediaLoader& media, double maximumDimension) {
     switch (kind_) {
-        case CaptureKind::image: loadImage(media, maximumDimension); break;
-        case CaptureKind::video: loadRecording(media, maximumDimension); break;
+        case CaptureKind::image:
+            loadImage(media, maximumDimension);
+            break;
+        case CaptureKind::video:
+            loadRecording(media, maximumDimension);
+            break;
     }
 }
 

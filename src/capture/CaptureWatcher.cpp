@@ -128,16 +128,16 @@ void CaptureWatcher::consider(const Url& folder, std::string_view name, Date now
     const auto values = services_.files.resourceValues(url);
     if (!values || values.value().isRegularFile != true) return;
 
-    const Date fileDate = values.value().contentModificationDate.value_or(
-        values.value().creationDate.value_or(now));
+    const Date fileDate =
+        values.value().contentModificationDate.value_or(values.value().creationDate.value_or(now));
     if (now - fileDate >= newestAge) {
         known_.insert(name);
         return;
     }
     pending_.insert(url.path());
-    waitUntilStable(url, 0, unknownSize,
-                    weakly(shared_from_this(),
-                           [url, fileDate](auto& self) { self.deliver(url, fileDate); }));
+    waitUntilStable(url, 0, unknownSize, weakly(shared_from_this(), [url, fileDate](auto& self) {
+                        self.deliver(url, fileDate);
+                    }));
 }
 
 void CaptureWatcher::waitUntilStable(const Url& url, int attempts, std::int64_t lastSize,

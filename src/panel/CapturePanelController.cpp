@@ -35,12 +35,10 @@ Rect visibleFrame(const Screens& screens) {
 }  // namespace
 
 std::shared_ptr<CapturePanelController> CapturePanelController::create(Services services) {
-    return std::shared_ptr<CapturePanelController>(
-        new CapturePanelController(std::move(services)));
+    return std::shared_ptr<CapturePanelController>(new CapturePanelController(std::move(services)));
 }
 
-CapturePanelController::CapturePanelController(Services services)
-    : services_(std::move(services)) {
+CapturePanelController::CapturePanelController(Services services) : services_(std::move(services)) {
     cancellables_.push_back(state_.hovering.observeChanges([this](bool hovering) {
         if (hovering)
             pauseCountdown();
@@ -66,6 +64,9 @@ void CapturePanelController::show(const CapturePointer& capture) {
     present();
     restartCountdown();
     scheduleDebugHooks();
+    Debug::log([this] {
+        return "panel shows " + std::to_string(state_.captures.value().size()) + " capture(s)";
+    });
 }
 
 void CapturePanelController::createPanel() {
@@ -110,13 +111,14 @@ void CapturePanelController::restartCountdown() {
 
 void CapturePanelController::scheduleDebugHooks() {
     if (const auto path = services_.environment("VANTLE_SNAPSHOT"))
-        services_.scheduler.after(
-            snapshotDelay,
-            weakly(shared_from_this(), [path](auto& self) { self.writeSnapshot(*path); }));
+        services_.scheduler.after(snapshotDelay, weakly(shared_from_this(), [path](auto& self) {
+                                      self.writeSnapshot(*path);
+                                  }));
     if (Debug::on())
-        services_.scheduler.after(debugDumpDelay, weakly(shared_from_this(), [](auto& self) {
-            Debug::log([&self] { return self.panel_->thumbnailFramesDescription(); });
-        }));
+        services_.scheduler.after(
+            debugDumpDelay, weakly(shared_from_this(), [](auto& self) {
+                Debug::log([&self] { return self.panel_->thumbnailFramesDescription(); });
+            }));
 }
 
 void CapturePanelController::writeSnapshot(const std::string& path) {
@@ -172,11 +174,13 @@ void CapturePanelController::dismiss() {
     state_.marquee.set(std::nullopt);
     state_.visible.set(false);
     hideWork_ = services_.scheduler.after(hideDelay, weakly(shared_from_this(), [](auto& self) {
-        // A second dismissal may have put its own work in the place of this one.
-        if (!self.hideWork_->isValid()) self.hideWork_.reset();
-        self.state_.captures.set({});
-        if (self.panel_) self.panel_->orderOut();
-    }));
+                                              // A second dismissal may have put its own work in the
+                                              // place of this one.
+                                              if (!self.hideWork_->isValid())
+                                                  self.hideWork_.reset();
+                                              self.state_.captures.set({});
+                                              if (self.panel_) self.panel_->orderOut();
+                                          }));
 }
 
 }  // namespace vantle

@@ -45,9 +45,10 @@ CardActions CapturePanelController::makeActions() {
     actions.open = onFile(services_.fileActions.open);
     actions.copy = onCapture(&Controller::copy);
     actions.reveal = onFile(services_.fileActions.reveal);
-    actions.share = [share = services_.fileActions.share](const auto& capture, const Rect& anchor) {
-        if (share) share(capture, anchor);
-    };
+    actions.share =
+        weakly(self, [](Controller& controller, const auto& capture, const Rect& anchor) {
+            if (const auto& share = controller.services_.fileActions.share) share(capture, anchor);
+        });
     actions.trash = onCapture(&Controller::trash);
     actions.toggleSelect = onCapture(&Controller::toggleSelect);
     actions.togglePin = onCapture(&Controller::togglePin);
@@ -60,15 +61,12 @@ CardActions CapturePanelController::makeActions() {
     actions.dragEnded = weakly(self, [](Controller& controller, bool, const std::vector<Url>&) {
         controller.resumeCountdown();
     });
-    actions.copySelected = weakly(self, [](Controller& controller) {
-        controller.copyAll(controller.selectedCaptures());
-    });
-    actions.trashSelected = weakly(self, [](Controller& controller) {
-        controller.trashAll(controller.selectedCaptures());
-    });
-    actions.removeSelected = weakly(self, [](Controller& controller) {
-        controller.removeMany(controller.selectedCaptures());
-    });
+    actions.copySelected = weakly(
+        self, [](Controller& controller) { controller.copyAll(controller.selectedCaptures()); });
+    actions.trashSelected = weakly(
+        self, [](Controller& controller) { controller.trashAll(controller.selectedCaptures()); });
+    actions.removeSelected = weakly(
+        self, [](Controller& controller) { controller.removeMany(controller.selectedCaptures()); });
     return actions;
 }
 
@@ -108,9 +106,8 @@ void CapturePanelController::toggleSelect(const CapturePointer& capture) {
 void CapturePanelController::togglePin(const CapturePointer& capture) {
     state_.animate(pinSpring,
                    [&] { state_.pinned.set(toggled(state_.pinned.value(), capture->id())); });
-    Debug::log([this] {
-        return "pin toggled; pinned=" + std::to_string(state_.pinned.value().size());
-    });
+    Debug::log(
+        [this] { return "pin toggled; pinned=" + std::to_string(state_.pinned.value().size()); });
 }
 
 void CapturePanelController::clearSelection() {
@@ -119,10 +116,9 @@ void CapturePanelController::clearSelection() {
 
 std::vector<CapturePointer> CapturePanelController::selectedCaptures() const {
     std::vector<CapturePointer> selected;
-    std::ranges::copy_if(state_.captures.value(), std::back_inserter(selected),
-                         [this](const auto& capture) {
-                             return state_.selected.value().contains(capture->id());
-                         });
+    std::ranges::copy_if(
+        state_.captures.value(), std::back_inserter(selected),
+        [this](const auto& capture) { return state_.selected.value().contains(capture->id()); });
     return selected;
 }
 

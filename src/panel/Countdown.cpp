@@ -40,9 +40,8 @@ void CapturePanelController::expire() {
     const auto& captures = state_.captures.value();
     const auto& pinned = state_.pinned.value();
     std::vector<CapturePointer> expiring;
-    std::ranges::copy_if(captures, std::back_inserter(expiring), [&](const auto& capture) {
-        return !pinned.contains(capture->id());
-    });
+    std::ranges::copy_if(captures, std::back_inserter(expiring),
+                         [&](const auto& capture) { return !pinned.contains(capture->id()); });
     if (expiring.size() == captures.size()) {
         dismiss();
         return;

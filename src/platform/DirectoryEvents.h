@@ -44,7 +44,7 @@ public:
     /// Opens `folder` for events only; it does not keep the volume busy. Fails with the error
     /// number of the system (EACCES, EPERM, ENOENT, ENOTDIR, ...). Any thread.
     virtual Result<std::shared_ptr<DirectoryEventSource>> open(const Url& folder,
-                                                              Handler handler) = 0;
+                                                               Handler handler) = 0;
 };
 
 }  // namespace vantle

@@ -35,7 +35,8 @@ public:
     virtual double duration() const = 0;
 
     /// The upright frame at `time` seconds, shrunk where needed so that neither side exceeds
-    /// `maximumDimension` pixels; its size in points is its size in pixels. Null when there is none.
+    /// `maximumDimension` pixels; its size in points is its size in pixels. Null when there is
+    /// none.
     virtual ImagePointer frame(double time, double maximumDimension) = 0;
 
     /// The upright natural size of the first video track; absent when there is no video track.

@@ -15,10 +15,14 @@ inline constexpr std::array allPanelCorners = {PanelCorner::bottomRight, PanelCo
 /// The text by which a corner is stored, and its identity in lists.
 constexpr std::string_view rawValue(PanelCorner corner) {
     switch (corner) {
-        case PanelCorner::bottomRight: return "bottomRight";
-        case PanelCorner::bottomLeft: return "bottomLeft";
-        case PanelCorner::topRight: return "topRight";
-        case PanelCorner::topLeft: return "topLeft";
+        case PanelCorner::bottomRight:
+            return "bottomRight";
+        case PanelCorner::bottomLeft:
+            return "bottomLeft";
+        case PanelCorner::topRight:
+            return "topRight";
+        case PanelCorner::topLeft:
+            return "topLeft";
     }
     return {};
 }
@@ -26,10 +30,14 @@ constexpr std::string_view rawValue(PanelCorner corner) {
 /// What the settings screen calls it.
 constexpr std::string_view label(PanelCorner corner) {
     switch (corner) {
-        case PanelCorner::bottomRight: return "Bottom Right";
-        case PanelCorner::bottomLeft: return "Bottom Left";
-        case PanelCorner::topRight: return "Top Right";
-        case PanelCorner::topLeft: return "Top Left";
+        case PanelCorner::bottomRight:
+            return "Bottom Right";
+        case PanelCorner::bottomLeft:
+            return "Bottom Left";
+        case PanelCorner::topRight:
+            return "Top Right";
+        case PanelCorner::topLeft:
+            return "Top Left";
     }
     return {};
 }

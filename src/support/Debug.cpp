@@ -1,8 +1,7 @@
 #include "support/Debug.h"
 
-#include <cstdlib>
-
 #include <atomic>
+#include <cstdlib>
 
 namespace vantle {
 namespace {

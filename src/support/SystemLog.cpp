@@ -1,7 +1,6 @@
 #include "support/SystemLog.h"
 
 #include <cstdio>
-
 #include <mutex>
 #include <utility>
 

@@ -1,7 +1,6 @@
 #include "support/UUID.h"
 
 #include <cstring>
-
 #include <random>
 
 namespace vantle {

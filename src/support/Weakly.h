@@ -9,10 +9,11 @@ namespace vantle {
 /// owner lives and does nothing afterwards.
 template <typename Owner, typename Function>
 auto weakly(const std::shared_ptr<Owner>& owner, Function function) {
-    return [weak = std::weak_ptr<Owner>(owner), function = std::move(function)](auto&&... arguments) {
-        if (const auto strong = weak.lock())
-            function(*strong, std::forward<decltype(arguments)>(arguments)...);
-    };
+    return
+        [weak = std::weak_ptr<Owner>(owner), function = std::move(function)](auto&&... arguments) {
+            if (const auto strong = weak.lock())
+                function(*strong, std::forward<decltype(arguments)>(arguments)...);
+        };
 }
 
 }  // namespace vantle

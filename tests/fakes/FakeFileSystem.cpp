@@ -1,9 +1,8 @@
 #include "fakes/FakeFileSystem.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
-
-#include <algorithm>
 
 namespace vantle::fakes {
 namespace {
@@ -119,8 +118,7 @@ void FakeFileSystem::moveDirectory(const Url& from, const Url& to) {
 }
 
 void FakeFileSystem::revoke(const Url& folder) {
-    std::erase_if(entries_,
-                  [&](const auto& entry) { return isBelow(entry.first, folder.path()); });
+    std::erase_if(entries_, [&](const auto& entry) { return isBelow(entry.first, folder.path()); });
     report(folder, {.lost = true});
 }
 
@@ -222,8 +220,8 @@ void FakeFileSystem::report(const Url& folder, DirectoryChange change) {
 }
 
 bool FakeFileSystem::isReadOnly(const Url& url) const {
-    return std::ranges::any_of(
-        readOnly_, [&](const auto& folder) { return isBelow(url.path(), folder); });
+    return std::ranges::any_of(readOnly_,
+                               [&](const auto& folder) { return isBelow(url.path(), folder); });
 }
 
 }  // namespace vantle::fakes

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/PanelWindow.h"
+
+namespace vantle::fakes {
+
+/// A panel that stands nowhere: records what it was asked for. Outlived by its record.
+class FakePanelWindow final : public PanelWindow {
+public:
+    struct Record {
+        std::vector<Rect> frames;
+        bool isOnScreen = false;
+        int timesOrderedFront = 0;
+        std::vector<std::string> snapshots;
+        std::optional<std::string> glassFrame;
+        Outcome snapshotOutcome;
+    };
+
+    explicit FakePanelWindow(Record& record) : record_(record) {}
+
+    void setFrame(const Rect& frame) override { record_.frames.push_back(frame); }
+    void orderFrontRegardless() override {
+        record_.isOnScreen = true;
+        ++record_.timesOrderedFront;
+    }
+    void orderOut() override { record_.isOnScreen = false; }
+    std::optional<std::string> glassFrameDescription() const override { return record_.glassFrame; }
+    std::string thumbnailFramesDescription() const override { return "no thumbnails"; }
+    Outcome writeSnapshot(const std::string& path) override {
+        record_.snapshots.push_back(path);
+        return record_.snapshotOutcome;
+    }
+
+private:
+    Record& record_;
+};
+
+}  // namespace vantle::fakes

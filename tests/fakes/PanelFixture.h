@@ -1,0 +1,103 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "fakes/FakeApplication.h"
+#include "fakes/FakeFileSystem.h"
+#include "fakes/FakeLoginItem.h"
+#include "fakes/FakePanelWindow.h"
+#include "fakes/FakePreferencesDomain.h"
+#include "fakes/FakeProcessLauncher.h"
+#include "fakes/FakeScreens.h"
+#include "fakes/FakeUserDefaults.h"
+#include "fakes/VirtualTime.h"
+#include "panel/CapturePanelController.h"
+#include "panel/CardLayout.h"
+
+namespace vantle::fakes {
+
+/// A panel controller on virtual time with a panel that stands nowhere, and the state and actions
+/// that its card would have.
+class PanelFixture : public testing::Test {
+protected:
+    static CapturePointer capture(const std::string& name) {
+        return Capture::create(Url::file("/shots/" + name + ".png"), VirtualClock::epoch);
+    }
+
+    CapturePanelController& controller() {
+        if (!controller_) controller_ = makeController();
+        return *controller_;
+    }
+    void releaseController() { controller_.reset(); }
+
+    /// Shows captures of these names and lets the panel come up.
+    std::vector<CapturePointer> show(const std::vector<std::string>& names) {
+        std::vector<CapturePointer> shown;
+        for (const auto& name : names) {
+            shown.push_back(capture(name));
+            controller().show(shown.back());
+        }
+        time.settle();
+        return shown;
+    }
+
+    std::vector<std::string> shownNames() {
+        std::vector<std::string> names;
+        for (const auto& shown : controller().state().captures.value())
+            names.push_back(std::string(shown->url().lastPathComponent()));
+        return names;
+    }
+
+    void hover(bool hovering) { state->hovering.set(hovering); }
+    void wait(double seconds) { time.advance(Seconds(seconds)); }
+
+    VirtualTime time;
+    ManualScheduler scheduler{time};
+    ManualQueue queue{time};
+    FakeFileSystem files{queue};
+    FakePreferencesDomain domain;
+    FakeProcessLauncher launcher;
+    FakeUserDefaults defaults;
+    FakeLoginItem loginItem;
+    FakeApplication application;
+    FakeScreens screens;
+    Settings settings{defaults, SystemScreenshotPrefs(files, domain, launcher), loginItem,
+                      application};
+    std::map<std::string, std::string> environment;
+    FileActions fileActions;
+
+    FakePanelWindow::Record panel;
+    int panelsMade = 0;
+    PanelState* state = nullptr;  ///< Of the controller, once it has shown something.
+    CardActions actions;          ///< As its card has them.
+
+private:
+    std::shared_ptr<CapturePanelController> makeController() {
+        return CapturePanelController::create(
+            {.settings = settings,
+             .scheduler = scheduler,
+             .screens = screens,
+             .environment = [this](const std::string& name) -> std::optional<std::string> {
+                 const auto found = environment.find(name);
+                 if (found == environment.end()) return std::nullopt;
+                 return found->second;
+             },
+             .fileActions = fileActions,
+             .makePanel =
+                 [this](PanelState& panelState, CardActions cardActions) {
+                     state = &panelState;
+                     actions = std::move(cardActions);
+                     ++panelsMade;
+                     return std::make_unique<FakePanelWindow>(panel);
+                 }});
+    }
+
+    std::shared_ptr<CapturePanelController> controller_;
+};
+
+}  // namespace vantle::fakes

@@ -1,0 +1,148 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "capture/Capture.h"
+#include "fakes/FakeMediaLoader.h"
+
+namespace vantle {
+namespace {
+
+using testing::ElementsAre;
+
+const Url shot = Url::file("/shots/Shot.png");
+const Url clip = Url::file("/shots/clip.mov");
+
+class CaptureTest : public testing::Test {
+protected:
+    std::shared_ptr<Capture> loaded(const Url& url) {
+        auto capture = Capture::create(url, Date{});
+        capture->loadThumbnail(media);
+        return capture;
+    }
+
+    fakes::FakeMediaLoader media;
+};
+
+TEST(CaptureKindOfFile, IsDecidedByTheExtensionWholeAndWithoutRegardToCase) {
+    const auto kind = [](const char* name) {
+        return Capture::kind(Url::file("/shots").appending(name));
+    };
+    EXPECT_EQ(kind("Shot.PNG"), CaptureKind::image);
+    EXPECT_EQ(kind("clip.MOV"), CaptureKind::video);
+    EXPECT_EQ(kind("notes.txt"), std::nullopt);
+    EXPECT_EQ(kind("Shot"), std::nullopt);
+    EXPECT_EQ(kind("Shot.png.download"), std::nullopt);
+    EXPECT_EQ(kind("Shot.png~"), std::nullopt);
+    for (const char* image :
+         {"a.png", "a.jpg", "a.jpeg", "a.heic", "a.tiff", "a.tif", "a.gif", "a.pdf", "a.b.Jpeg"})
+        EXPECT_EQ(kind(image), CaptureKind::image) << image;
+    for (const char* video : {"a.mov", "a.mp4", "a.m4v"})
+        EXPECT_EQ(kind(video), CaptureKind::video) << video;
+}
+
+TEST_F(CaptureTest, CannotBeMadeOfAnotherFile) {
+    EXPECT_EQ(Capture::create(Url::file("/shots/notes.txt"), Date{}), nullptr);
+}
+
+TEST_F(CaptureTest, IsEmptyUntilLoaded) {
+    const auto capture = Capture::create(shot, Date{});
+    EXPECT_EQ(capture->thumbnail(), nullptr);
+    EXPECT_EQ(capture->pixelSize(), Size{});
+    EXPECT_EQ(capture->duration(), 0);
+    EXPECT_EQ(capture->fileName(), "Shot.png");
+}
+
+TEST_F(CaptureTest, ALargeImageGetsAThumbnailWhoseLongerSideIsTheMaximum) {
+    media.addImage(shot, {4000, 3000}, {4000, 3000});
+    const auto capture = loaded(shot);
+    EXPECT_EQ(capture->thumbnail()->size, (Size{800, 600}));
+    EXPECT_EQ(capture->pixelSize(), (Size{4000, 3000}));
+}
+
+TEST_F(CaptureTest, AnImageThatFitsKeepsItselfAsThumbnail) {
+    media.addImage(shot, {640, 480}, {640, 480});
+    EXPECT_EQ(loaded(shot)->thumbnail()->size, (Size{640, 480}));
+}
+
+TEST_F(CaptureTest, AnImageOfExactlyTheMaximumKeepsItself) {
+    media.addImage(shot, {800, 800}, {800, 800});
+    EXPECT_EQ(loaded(shot)->thumbnail()->size, (Size{800, 800}));
+}
+
+TEST_F(CaptureTest, TheThumbnailIsMeasuredInPointsThePixelSizeInPixels) {
+    media.addImage(shot, {2940, 1912}, {1470, 956});
+    const auto capture = loaded(shot);
+    EXPECT_EQ(capture->pixelSize(), (Size{2940, 1912}));
+    EXPECT_DOUBLE_EQ(capture->thumbnail()->size.width, 800);
+    EXPECT_DOUBLE_EQ(capture->thumbnail()->size.height, 956 * 800.0 / 1470);
+}
+
+TEST_F(CaptureTest, AVectorImageWithoutPixelsGetsItsPointSize) {
+    media.addImage(shot, {0, 0}, {595, 842});
+    EXPECT_EQ(loaded(shot)->pixelSize(), (Size{595, 842}));
+}
+
+TEST_F(CaptureTest, ASingleZeroOfThePixelSizeIsKept) {
+    media.addImage(shot, {0, 700}, {595, 842});
+    EXPECT_EQ(loaded(shot)->pixelSize(), (Size{0, 700}));
+}
+
+TEST_F(CaptureTest, AnImageThatCannotBeOpenedLeavesEverythingAbsent) {
+    const auto capture = loaded(shot);
+    EXPECT_EQ(capture->thumbnail(), nullptr);
+    EXPECT_EQ(capture->pixelSize(), Size{});
+}
+
+TEST_F(CaptureTest, AShortVideoTakesItsPosterFrameInTheMiddle) {
+    media.addRecording(clip, 0.4, Size{640, 480}, {640, 480});
+    loaded(clip);
+    EXPECT_THAT(media.frameTimes, ElementsAre(0.2));
+}
+
+TEST_F(CaptureTest, ALongVideoTakesItsPosterFrameAtHalfASecond) {
+    media.addRecording(clip, 10, Size{640, 480}, {640, 480});
+    EXPECT_EQ(loaded(clip)->duration(), 10);
+    EXPECT_THAT(media.frameTimes, ElementsAre(0.5));
+}
+
+TEST_F(CaptureTest, AVideoOfUnknownDurationFollowsTheRuleLiterally) {
+    media.addRecording(clip, std::numeric_limits<double>::quiet_NaN(), Size{640, 480}, {640, 480});
+    const auto capture = loaded(clip);
+    EXPECT_TRUE(std::isnan(capture->duration()));
+    ASSERT_EQ(media.frameTimes.size(), 1u);
+    EXPECT_NE(capture->thumbnail(), nullptr);
+}
+
+TEST_F(CaptureTest, AnUprightRecordingReportsItsTrackSize) {
+    media.addRecording(clip, 5, Size{1080, 1920}, {450, 800});
+    const auto capture = loaded(clip);
+    EXPECT_EQ(capture->pixelSize(), (Size{1080, 1920}));
+    EXPECT_EQ(capture->thumbnail()->size, (Size{450, 800}));
+}
+
+TEST_F(CaptureTest, ARecordingWithoutVideoTrackReportsItsFrame) {
+    media.addRecording(clip, 5, std::nullopt, {800, 450});
+    EXPECT_EQ(loaded(clip)->pixelSize(), (Size{800, 450}));
+}
+
+TEST_F(CaptureTest, ARecordingWithoutFrameKeepsItsDurationOnly) {
+    media.addRecording(clip, 5, Size{640, 480}, std::nullopt);
+    const auto capture = loaded(clip);
+    EXPECT_EQ(capture->duration(), 5);
+    EXPECT_EQ(capture->thumbnail(), nullptr);
+    EXPECT_EQ(capture->pixelSize(), Size{});
+}
+
+TEST_F(CaptureTest, TwoOfTheSameFileAreEqualThoughTheirIdentifiersDiffer) {
+    const auto first = Capture::create(shot, Date{});
+    const auto second = Capture::create(shot, Date{});
+    EXPECT_EQ(*first, *second);
+    EXPECT_NE(first->id(), second->id());
+    EXPECT_FALSE(*first == *Capture::create(clip, Date{}));
+}
+
+}  // namespace
+}  // namespace vantle

@@ -1,0 +1,450 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include "capture/CaptureWatcher.h"
+#include "fakes/CapturedLog.h"
+#include "fakes/FakeFileSystem.h"
+#include "fakes/FakeMediaLoader.h"
+#include "fakes/VirtualTime.h"
+
+namespace vantle {
+namespace {
+
+using fakes::CapturedLog;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const Url folder = Url::file("/shots");
+
+class CaptureWatcherTest : public testing::Test {
+protected:
+    CaptureWatcherTest() {
+        (void)files.createDirectory(folder);
+        watcher = CaptureWatcher::create({scheduler, queue, files, files, media, clock});
+        watcher->onCapture = [this](const CapturePointer& capture) {
+            captured.push_back(capture->fileName());
+        };
+        watcher->onError = [this](const WatchError& error) { errors.push_back(error.text()); };
+    }
+
+    Url url(std::string_view name) const { return folder.appending(name); }
+    void save(std::string_view name, std::int64_t size = 1000) {
+        files.write(url(name), size, clock.now());
+    }
+    void start() {
+        ASSERT_EQ(watcher->start(folder), std::nullopt);
+        time.settle();
+    }
+    void wait(double seconds) { time.advance(Seconds(seconds)); }
+
+    fakes::VirtualTime time;
+    fakes::ManualScheduler scheduler{time};
+    fakes::ManualQueue queue{time};
+    fakes::VirtualClock clock{time};
+    fakes::FakeFileSystem files{queue};
+    fakes::FakeMediaLoader media;
+    std::shared_ptr<CaptureWatcher> watcher;
+    std::vector<std::string> captured;
+    std::vector<std::string> errors;
+};
+
+TEST_F(CaptureWatcherTest, FilesPresentAtTheStartAreNeverReported) {
+    save("old.png");
+    save("notes.txt");
+    (void)files.createDirectory(url("folder.png"));
+    start();
+    files.touch(folder);
+    wait(60);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(CaptureWatcherTest, ANewFileIsReportedOnceAQuarterSecondAfterItsSizeSettles) {
+    start();
+    save("new.png", 500);
+    wait(0.1);
+    files.change(url("new.png"), [](auto& entry) { entry.size = 1000; });
+    wait(0.15);
+    EXPECT_THAT(captured, IsEmpty());  // 0.25 s: the size differs from the first reading
+    wait(0.24);
+    EXPECT_THAT(captured, IsEmpty());
+    wait(0.01);
+    EXPECT_THAT(captured, ElementsAre("new.png"));
+    wait(60);
+    EXPECT_THAT(captured, ElementsAre("new.png"));
+}
+
+TEST_F(CaptureWatcherTest, FurtherEventsWhileAFileIsPendingStartNoSecondChain) {
+    start();
+    save("new.png");
+    time.settle();
+    const auto waiting = time.pending();
+    files.touch(folder);
+    time.settle();
+    EXPECT_EQ(time.pending(), waiting);
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("new.png"));
+}
+
+TEST_F(CaptureWatcherTest, AFileThreeMinutesOldIsKnownSilently) {
+    start();
+    files.write(url("copied.png"), 1000, clock.now() - std::chrono::minutes(3));
+    wait(10);
+    files.change(url("copied.png"), [this](auto& entry) { entry.modified = clock.now(); });
+    wait(10);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(CaptureWatcherTest, TwoMinutesAreTooOldAndAMomentLessIsNew) {
+    start();
+    files.write(url("old.png"), 1000, clock.now() - std::chrono::seconds(120));
+    files.write(url("new.png"), 1000, clock.now() - std::chrono::milliseconds(119'999));
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("new.png"));
+}
+
+TEST_F(CaptureWatcherTest, AFileDatedInTheFutureIsNew) {
+    start();
+    files.write(url("future.png"), 1000, clock.now() + std::chrono::hours(24));
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("future.png"));
+}
+
+TEST_F(CaptureWatcherTest, WithoutModificationDateTheCreationDateCounts) {
+    start();
+    save("undated.png");
+    files.change(url("undated.png"), [this](auto& entry) {
+        entry.modified.reset();
+        entry.created = clock.now() - std::chrono::minutes(3);
+    });
+    save("dateless.png");
+    files.change(url("dateless.png"), [](auto& entry) { entry.modified.reset(); });
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("dateless.png"));
+}
+
+TEST_F(CaptureWatcherTest, HiddenFilesAndOtherExtensionsAreNeverReportedAndNeverKnown) {
+    start();
+    save(".hidden.png");
+    save("notes.txt");
+    wait(1);
+    EXPECT_THAT(captured, IsEmpty());
+    // Not known: under a capture's name the same file is new.
+    files.rename(url(".hidden.png"), url("shown.png"));
+    files.rename(url("notes.txt"), url("notes.png"));
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("shown.png", "notes.png"));
+}
+
+TEST_F(CaptureWatcherTest, ADeletedFileSavedAgainIsReportedAgain) {
+    start();
+    save("shot.png");
+    wait(1);
+    files.remove(url("shot.png"));
+    wait(1);
+    save("shot.png");
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("shot.png", "shot.png"));
+}
+
+TEST_F(CaptureWatcherTest, AnEmptiedFolderForgetsEverything) {
+    save("old.png");
+    start();
+    files.remove(url("old.png"));
+    time.settle();
+    save("old.png");
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("old.png"));
+}
+
+TEST_F(CaptureWatcherTest, AZeroByteFileIsDroppedForGood) {
+    start();
+    save("empty.png", 0);
+    wait(10.3);
+    EXPECT_EQ(time.pending(), 0u);
+    files.change(url("empty.png"), [](auto& entry) { entry.size = 1000; });
+    wait(10);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(CaptureWatcherTest, AFileThatKeepsGrowingIsReportedAtThe42ndReading) {
+    start();
+    save("growing.png", 1);
+    time.settle();
+    for (int reading = 2; reading <= 41; ++reading) {
+        files.change(url("growing.png"), [](auto& entry) { entry.size += 1; });
+        wait(0.25);
+    }
+    EXPECT_THAT(captured, IsEmpty());
+    files.change(url("growing.png"), [](auto& entry) { entry.size += 1; });
+    wait(0.25);
+    EXPECT_THAT(captured, ElementsAre("growing.png"));
+}
+
+TEST_F(CaptureWatcherTest, AFileDeletedWhilePendingIsGivenUpOn) {
+    start();
+    save("gone.png");
+    time.settle();
+    files.remove(url("gone.png"));
+    wait(10.3);
+    EXPECT_EQ(time.pending(), 0u);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(CaptureWatcherTest, AFileThatComesBackWhilePendingIsReportedOnce) {
+    start();
+    save("back.png");
+    time.settle();
+    files.remove(url("back.png"));
+    wait(3);
+    save("back.png", 2000);
+    wait(10);
+    EXPECT_THAT(captured, ElementsAre("back.png"));
+}
+
+TEST_F(CaptureWatcherTest, AnUnreadableSizeIsPolledAgain) {
+    start();
+    save("locked.png");
+    files.change(url("locked.png"), [](auto& entry) { entry.sizeIsReadable = false; });
+    wait(5);
+    EXPECT_THAT(captured, IsEmpty());
+    files.change(url("locked.png"), [](auto& entry) { entry.sizeIsReadable = true; });
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("locked.png"));
+}
+
+TEST_F(CaptureWatcherTest, WhatIsNotKnownToBeARegularFileIsLookedAtAgain) {
+    start();
+    save("recording.mp4");
+    files.change(url("recording.mp4"), [](auto& entry) { entry.isRegularFile.reset(); });
+    wait(30);
+    EXPECT_THAT(captured, IsEmpty());
+    files.change(url("recording.mp4"), [this](auto& entry) {
+        entry.isRegularFile = true;
+        entry.modified = clock.now();
+    });
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("recording.mp4"));
+}
+
+TEST_F(CaptureWatcherTest, FilesWhoseValuesCannotBeReadAreLookedAtAgain) {
+    start();
+    save("shy.png");
+    files.change(url("shy.png"), [](auto& entry) { entry.valuesAreReadable = false; });
+    wait(5);
+    EXPECT_THAT(captured, IsEmpty());
+    files.change(url("shy.png"), [](auto& entry) { entry.valuesAreReadable = true; });
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("shy.png"));
+}
+
+TEST_F(CaptureWatcherTest, FilesThatSettleTogetherArriveInListingOrder) {
+    start();
+    for (const char* name : {"c.png", "a.png", "b.png"}) save(name);
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("c.png", "a.png", "b.png"));
+}
+
+TEST_F(CaptureWatcherTest, FilesThatSettleApartArriveAsTheySettle) {
+    start();
+    save("slow.png", 1);
+    save("fast.png");
+    wait(0.1);
+    files.change(url("slow.png"), [](auto& entry) { entry.size = 2; });
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("fast.png", "slow.png"));
+}
+
+TEST_F(CaptureWatcherTest, ADeliveredCaptureHasItsThumbnailAndTheFilesDate) {
+    start();
+    media.addImage(url("shot.png"), {1600, 1000}, {1600, 1000});
+    CapturePointer delivered;
+    watcher->onCapture = [&](const CapturePointer& capture) { delivered = capture; };
+    const Date saved = clock.now() - std::chrono::seconds(5);
+    files.write(url("shot.png"), 1000, saved);
+    wait(1);
+    ASSERT_NE(delivered, nullptr);
+    EXPECT_EQ(delivered->date(), saved);
+    EXPECT_EQ(delivered->pixelSize(), (Size{1600, 1000}));
+    EXPECT_EQ(delivered->thumbnail()->size, (Size{800, 500}));
+}
+
+TEST_F(CaptureWatcherTest, NamesOfAnyBytesAreReported) {
+    start();
+    const std::string longName = std::string(251, 'x') + ".png";
+    for (const std::string& name : {std::string("new\nline.png"), std::string("100% sure.png"),
+                                    std::string("\xff\xfe.png"), longName})
+        save(name);
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("new\nline.png", "100% sure.png", "\xff\xfe.png", longName));
+}
+
+TEST_F(CaptureWatcherTest, AFileSavedBetweenListingAndOpeningIsNotMissed) {
+    ASSERT_EQ(watcher->start(folder), std::nullopt);
+    save("between.png");
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("between.png"));
+}
+
+TEST_F(CaptureWatcherTest, AKnownFileCostsNoLookAtTheFile) {
+    for (int i = 0; i < 100; ++i) save(std::to_string(i) + ".png");
+    start();
+    const int before = files.inspections();
+    files.touch(folder);
+    time.settle();
+    EXPECT_EQ(files.inspections(), before);
+}
+
+TEST_F(CaptureWatcherTest, AnOverflowLeadsToARescan) {
+    start();
+    save("shot.png");
+    files.overflow(folder);
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("shot.png"));
+}
+
+TEST_F(CaptureWatcherTest, MovingTheFolderEndsInMissingOnceWithoutLogLine) {
+    CapturedLog log;
+    start();
+    files.moveDirectory(folder, Url::file("/elsewhere"));
+    wait(1);
+    EXPECT_THAT(errors, ElementsAre("missing"));
+    EXPECT_FALSE(watcher->isWatching());
+    EXPECT_EQ(files.openSources(), 0u);
+    EXPECT_THAT(log.lines(), IsEmpty());
+}
+
+TEST_F(CaptureWatcherTest, DeletingTheFolderEndsInMissingOnce) {
+    start();
+    save("shot.png");
+    files.removeDirectory(folder);
+    wait(20);
+    EXPECT_THAT(errors, ElementsAre("missing"));
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(CaptureWatcherTest, UnmountingTheFolderEndsInMissingOnce) {
+    start();
+    files.revoke(folder);
+    wait(1);
+    EXPECT_THAT(errors, ElementsAre("missing"));
+}
+
+TEST_F(CaptureWatcherTest, AFolderLostAfterAnotherWasChosenIsNoLoss) {
+    start();
+    files.removeDirectory(folder);
+    const Url other = Url::file("/other");
+    (void)files.createDirectory(other);
+    EXPECT_EQ(watcher->start(other), std::nullopt);
+    wait(1);
+    EXPECT_THAT(errors, IsEmpty());
+    EXPECT_TRUE(watcher->isWatching());
+}
+
+TEST_F(CaptureWatcherTest, AMissingFolderIsReturnedLoggedAndReportedLater) {
+    CapturedLog log;
+    EXPECT_EQ(watcher->start(Url::file("/none")), WatchError::missing());
+    EXPECT_THAT(log.lines(), ElementsAre("Vantle: cannot watch /none: missing"));
+    EXPECT_THAT(errors, IsEmpty());
+    time.settle();
+    EXPECT_THAT(errors, ElementsAre("missing"));
+    EXPECT_EQ(watcher->folder(), Url::file("/none"));
+    EXPECT_FALSE(watcher->isWatching());
+}
+
+TEST_F(CaptureWatcherTest, AFileInTheFoldersPlaceIsMissing) {
+    files.write(Url::file("/file"), 10, clock.now());
+    EXPECT_EQ(watcher->start(Url::file("/file")), WatchError::missing());
+}
+
+TEST_F(CaptureWatcherTest, ARefusedListingIsAccessDenied) {
+    CapturedLog log;
+    for (const int error : {EPERM, EACCES}) {
+        files.failListing(folder, error);
+        EXPECT_EQ(watcher->start(folder), WatchError::accessDenied());
+    }
+    EXPECT_EQ(log.lines().back(), "Vantle: cannot watch /shots: accessDenied");
+}
+
+TEST_F(CaptureWatcherTest, AnyOtherFailedListingCarriesTheReason) {
+    CapturedLog log;
+    files.failListing(folder, EIO);
+    EXPECT_EQ(watcher->start(folder), WatchError::other("Input/output error"));
+    EXPECT_THAT(log.lines(),
+                ElementsAre("Vantle: cannot watch /shots: other(\"Input/output error\")"));
+    time.settle();
+    EXPECT_THAT(errors, ElementsAre("other(\"Input/output error\")"));
+}
+
+TEST_F(CaptureWatcherTest, AFolderThatCannotBeOpenedIsReportedByItsErrorNumber) {
+    CapturedLog log;
+    files.failOpening(folder, EACCES);
+    EXPECT_EQ(watcher->start(folder), WatchError::accessDenied());
+    files.failOpening(folder, ENOSPC);
+    EXPECT_EQ(watcher->start(folder), WatchError::other("No space left on device"));
+}
+
+TEST_F(CaptureWatcherTest, AFailedListingDuringAScanIsSilent) {
+    CapturedLog log;
+    start();
+    files.failListing(folder, EIO);
+    save("shot.png");
+    wait(1);
+    EXPECT_THAT(errors, IsEmpty());
+    EXPECT_THAT(log.lines(), IsEmpty());
+    files.failListing(folder, 0);
+    files.touch(folder);
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("shot.png"));
+}
+
+TEST_F(CaptureWatcherTest, StartingTwiceOnTheSameFolderIsHarmless) {
+    ASSERT_EQ(watcher->start(folder), std::nullopt);
+    start();
+    EXPECT_EQ(files.openSources(), 1u);
+    save("shot.png");
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("shot.png"));
+}
+
+TEST_F(CaptureWatcherTest, AStoppedWatcherReportsOnlyWhatWasSettling) {
+    start();
+    save("settling.png");
+    time.settle();
+    watcher->stop();
+    watcher->stop();
+    save("later.png");
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("settling.png"));
+    EXPECT_EQ(files.openSources(), 0u);
+}
+
+TEST_F(CaptureWatcherTest, FilesSavedWhileStoppedAreOldAtTheNextStart) {
+    start();
+    watcher->stop();
+    save("meanwhile.png");
+    start();
+    wait(1);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(CaptureWatcherTest, AReleasedWatcherStopsAllWork) {
+    start();
+    save("shot.png");
+    time.settle();
+    watcher.reset();
+    wait(20);
+    EXPECT_THAT(captured, IsEmpty());
+    EXPECT_EQ(files.openSources(), 0u);
+}
+
+TEST_F(CaptureWatcherTest, SaysWhatItWatchesWhenDebugging) {
+    CapturedLog log(CapturedLog::DebugSwitch::on);
+    save("old.png");
+    start();
+    EXPECT_THAT(log.lines(), ElementsAre("Vantle[dbg]: watching /shots (fd 3, 1 existing files)"));
+}
+
+}  // namespace
+}  // namespace vantle

@@ -1,0 +1,218 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "fakes/CapturedLog.h"
+#include "fakes/PanelFixture.h"
+
+namespace vantle {
+namespace {
+
+using fakes::CapturedLog;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class PanelControllerTest : public fakes::PanelFixture {};
+
+TEST_F(PanelControllerTest, TheWindowIsMadeOnTheFirstShowOnly) {
+    controller();
+    EXPECT_EQ(panelsMade, 0);
+    show({"a", "b"});
+    controller().dismiss();
+    wait(1);
+    show({"c"});
+    EXPECT_EQ(panelsMade, 1);
+}
+
+TEST_F(PanelControllerTest, TheCardSeesThePanelOnTheScreenBeforeItAppears) {
+    controller().show(capture("a"));
+    EXPECT_TRUE(panel.isOnScreen);
+    EXPECT_FALSE(controller().isVisible());
+    time.settle();
+    EXPECT_TRUE(controller().isVisible());
+}
+
+TEST_F(PanelControllerTest, EachAddOrdersThePanelToTheFront) {
+    show({"a", "b", "c"});
+    EXPECT_EQ(panel.timesOrderedFront, 3);
+    EXPECT_THAT(shownNames(), ElementsAre("a.png", "b.png", "c.png"));
+}
+
+TEST_F(PanelControllerTest, AnEqualCaptureMovesToTheEnd) {
+    show({"a", "b", "a"});
+    EXPECT_THAT(shownNames(), ElementsAre("b.png", "a.png"));
+}
+
+TEST_F(PanelControllerTest, The41stCaptureDropsTheOldest) {
+    std::vector<std::string> names;
+    for (int i = 0; i < 41; ++i) names.push_back(std::to_string(i));
+    show(names);
+    EXPECT_EQ(shownNames().size(), 40u);
+    EXPECT_EQ(shownNames().front(), "1.png");
+    EXPECT_EQ(shownNames().back(), "40.png");
+}
+
+TEST_F(PanelControllerTest, AnAddClearsTheCopiedConfirmation) {
+    const auto shown = show({"a"});
+    state->copiedID.set(shown[0]->id());
+    show({"b"});
+    EXPECT_EQ(state->copiedID.value(), std::nullopt);
+}
+
+TEST_F(PanelControllerTest, ThePanelStandsInTheCornerOfTheSettings) {
+    screens.screens = {{{{0, 0}, {1920, 1080}}, {{0, 40}, {1920, 1010}}}};
+    show({"a"});
+    EXPECT_EQ(panel.frames.back(), (Rect{{1120, 40}, {800, 330}}));
+    settings.corner.set(PanelCorner::topLeft);
+    EXPECT_EQ(panel.frames.size(), 1u);  // not before the next add
+    show({"b"});
+    EXPECT_EQ(panel.frames.back(), (Rect{{0, 720}, {800, 330}}));
+    EXPECT_EQ(state->corner, PanelCorner::topLeft);
+}
+
+TEST_F(PanelControllerTest, ThePanelFollowsThePointerToASecondDisplay) {
+    screens.screens = {{{{0, 0}, {1920, 1080}}, {{0, 0}, {1920, 1080}}},
+                       {{{1920, 200}, {1280, 800}}, {{1920, 200}, {1280, 770}}}};
+    screens.pointer = {2000, 500};
+    show({"a"});
+    EXPECT_EQ(panel.frames.back(), (Rect{{2400, 200}, {800, 330}}));
+}
+
+TEST_F(PanelControllerTest, APointerOnNoDisplayMeansTheMainOne) {
+    const Screen first{{{0, 0}, {1000, 800}}, {{0, 0}, {1000, 800}}};
+    const Screen second{{{1000, 0}, {1000, 800}}, {{1000, 0}, {1000, 800}}};
+    screens.screens = {first, second};
+    screens.pointer = {-5, -5};
+    screens.mainScreen = second;
+    show({"a"});
+    EXPECT_EQ(panel.frames.back().origin, (Point{1200, 0}));
+    screens.mainScreen.reset();
+    show({"b"});
+    EXPECT_EQ(panel.frames.back().origin, (Point{200, 0}));
+}
+
+TEST_F(PanelControllerTest, WithoutScreensThePanelHasAFixedFrame) {
+    screens.screens.clear();
+    screens.mainScreen.reset();
+    show({"a"});
+    EXPECT_EQ(panel.frames.back(), (Rect{{640, 0}, {800, 330}}));
+}
+
+TEST_F(PanelControllerTest, ADismissalResetsTheStateAtOnceAndTheListHalfASecondLater) {
+    const auto shown = show({"a", "b"});
+    actions.toggleSelect(shown[0]);
+    actions.togglePin(shown[1]);
+    state->marquee.set(Rect{{1, 2}, {3, 4}});
+    hover(true);
+    controller().dismiss();
+    EXPECT_FALSE(controller().isVisible());
+    EXPECT_FALSE(state->hovering.value());
+    EXPECT_THAT(state->selected.value(), IsEmpty());
+    EXPECT_THAT(state->pinned.value(), IsEmpty());
+    EXPECT_EQ(state->marquee.value(), std::nullopt);
+    wait(0.49);
+    EXPECT_EQ(shownNames().size(), 2u);
+    EXPECT_TRUE(panel.isOnScreen);
+    wait(0.01);
+    EXPECT_THAT(shownNames(), IsEmpty());
+    EXPECT_FALSE(panel.isOnScreen);
+}
+
+TEST_F(PanelControllerTest, AShowDuringADismissalKeepsTheOldCaptures) {
+    show({"a", "b"});
+    controller().dismiss();
+    wait(0.3);
+    show({"c"});
+    wait(5);
+    EXPECT_THAT(shownNames(), ElementsAre("a.png", "b.png", "c.png"));
+    EXPECT_TRUE(controller().isVisible());
+    EXPECT_TRUE(panel.isOnScreen);
+}
+
+TEST_F(PanelControllerTest, RemovingTheLastCaptureDismisses) {
+    const auto shown = show({"a", "b"});
+    controller().remove(shown[0]);
+    EXPECT_TRUE(controller().isVisible());
+    controller().remove(shown[1]);
+    EXPECT_FALSE(controller().isVisible());
+    wait(0.5);
+    EXPECT_FALSE(panel.isOnScreen);
+}
+
+TEST_F(PanelControllerTest, RemovalTakesTheIdentifiersAlongInOneSpring) {
+    const auto shown = show({"a", "b", "c"});
+    for (const auto& one : shown) {
+        actions.toggleSelect(one);
+        actions.togglePin(one);
+    }
+    std::optional<Animation> animation;
+    const auto subscription =
+        state->captures.observeChanges([&](const auto&) { animation = state->animation(); });
+    controller().removeMany({shown[0], shown[2]});
+    EXPECT_THAT(shownNames(), ElementsAre("b.png"));
+    EXPECT_THAT(state->selected.value(), ElementsAre(shown[1]->id()));
+    EXPECT_THAT(state->pinned.value(), ElementsAre(shown[1]->id()));
+    EXPECT_EQ(animation, (Animation{.response = 0.45, .dampingFraction = 0.82}));
+}
+
+TEST_F(PanelControllerTest, RemovingNothingDoesNothing) {
+    CapturedLog log(CapturedLog::DebugSwitch::on);
+    controller().removeMany({});
+    EXPECT_EQ(time.pending(), 0u);
+    EXPECT_THAT(log.lines(), IsEmpty());
+}
+
+TEST_F(PanelControllerTest, RemovalDoesNotMoveThePanel) {
+    const auto shown = show({"a", "b"});
+    const auto frames = panel.frames.size();
+    controller().remove(shown[0]);
+    EXPECT_EQ(panel.frames.size(), frames);
+}
+
+TEST_F(PanelControllerTest, SaysWhatItDoesWhenDebugging) {
+    CapturedLog log(CapturedLog::DebugSwitch::on);
+    panel.glassFrame = "{{1, 2}, {3, 4}}";
+    const auto shown = show({"a", "b"});
+    controller().remove(shown[0]);
+    panel.glassFrame.reset();
+    show({"c"});
+    controller().remove(shown[1]);
+    controller().dismiss();
+    for (const char* line :
+         {"remove 1 capture(s); before=2", "glassFrame(topleft) = {{1, 2}, {3, 4}}",
+          "glassFrame(topleft) = none", "dismiss; visible=true count=1"})
+        EXPECT_TRUE(log.contains(std::string("Vantle[dbg]: ") + line)) << line;
+}
+
+TEST_F(PanelControllerTest, ASnapshotIsWrittenAfterEachAddWhenAskedFor) {
+    environment["VANTLE_SNAPSHOT"] = "/tmp/card.png";
+    show({"a"});
+    wait(1.1);
+    EXPECT_THAT(panel.snapshots, IsEmpty());
+    wait(0.1);
+    EXPECT_THAT(panel.snapshots, ElementsAre("/tmp/card.png"));
+    show({"b"});
+    wait(1.2);
+    EXPECT_EQ(panel.snapshots.size(), 2u);
+}
+
+TEST_F(PanelControllerTest, AFailedSnapshotIsLogged) {
+    CapturedLog log;
+    environment["VANTLE_SNAPSHOT"] = "/none/card.png";
+    panel.snapshotOutcome = Failure{.code = 2, .message = "No such file or directory"};
+    show({"a"});
+    wait(1.2);
+    EXPECT_THAT(log.lines(), ElementsAre("Vantle: snapshot failed No such file or directory"));
+}
+
+TEST_F(PanelControllerTest, NothingRunsOnceItHasGone) {
+    settings.dismissAfter.set(5);
+    show({"a"});
+    controller().dismiss();
+    releaseController();
+    wait(10);
+    EXPECT_EQ(time.pending(), 0u);
+    EXPECT_TRUE(panel.isOnScreen);  // nobody was left to order it out
+}
+
+}  // namespace
+}  // namespace vantle

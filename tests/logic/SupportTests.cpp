@@ -1,0 +1,181 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "fakes/CapturedLog.h"
+#include "support/Debug.h"
+#include "support/Geometry.h"
+#include "support/NotificationCenter.h"
+#include "support/Published.h"
+#include "support/UUID.h"
+#include "support/Url.h"
+#include "support/Weakly.h"
+
+namespace vantle {
+namespace {
+
+using fakes::CapturedLog;
+using testing::ElementsAre;
+
+TEST(Published, AnnouncesTheNewValueBeforeItIsStored) {
+    Published<int> property(1);
+    int announced = 0;
+    int stored = 0;
+    const auto subscription = property.observeChanges([&](int value) {
+        announced = value;
+        stored = property.value();
+    });
+    property.set(2);
+    EXPECT_EQ(announced, 2);
+    EXPECT_EQ(stored, 1);
+    EXPECT_EQ(property.value(), 2);
+}
+
+TEST(Published, ObserveTellsTheCurrentValueFirst) {
+    Published<int> property(1);
+    std::vector<int> seen;
+    const auto subscription = property.observe([&](int value) { seen.push_back(value); });
+    property.set(2);
+    property.set(2);
+    EXPECT_THAT(seen, ElementsAre(1, 2, 2));
+}
+
+TEST(Published, AnEndedSubscriptionHearsNothing) {
+    Published<int> property(1);
+    int calls = 0;
+    auto subscription = property.observeChanges([&](int) { ++calls; });
+    property.set(2);
+    subscription.end();
+    property.set(3);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(Published, AnObserverRemovedDuringANotificationIsNotCalledAnyMore) {
+    Published<int> property(1);
+    int calls = 0;
+    Subscription second;
+    const auto first = property.observeChanges([&](int) { second.end(); });
+    second = property.observeChanges([&](int) { ++calls; });
+    property.set(2);
+    EXPECT_EQ(calls, 0);
+}
+
+TEST(Published, AnObserverCanEndItselfDuringANotification) {
+    Published<int> property(1);
+    std::vector<std::string> calls;
+    Subscription first;
+    first = property.observeChanges([&, text = std::string("still here")](int) {
+        first.end();
+        calls.push_back(text);
+    });
+    const auto second = property.observeChanges([&](int) { calls.push_back("second"); });
+    property.set(2);
+    property.set(3);
+    EXPECT_THAT(calls, ElementsAre("still here", "second", "second"));
+}
+
+TEST(Published, AnObserverAddedDuringANotificationHearsOldAndNewValue) {
+    Published<int> property(1);
+    std::vector<int> seen;
+    Subscription late;
+    bool added = false;
+    const auto first = property.observeChanges([&](int) {
+        if (std::exchange(added, true)) return;
+        late = property.observe([&](int value) { seen.push_back(value); });
+    });
+    property.set(2);
+    EXPECT_THAT(seen, ElementsAre(1, 2));
+}
+
+TEST(Published, ASubscriptionMayOutliveTheProperty) {
+    Subscription subscription;
+    {
+        Published<int> property(1);
+        subscription = property.observeChanges([](int) {});
+    }
+    subscription.end();
+}
+
+TEST(Weakly, DoesNothingOnceTheOwnerIsGone) {
+    int calls = 0;
+    auto owner = std::make_shared<int>(3);
+    const auto callback = weakly(owner, [&](int& value, int factor) { calls += value * factor; });
+    callback(2);
+    owner.reset();
+    callback(2);
+    EXPECT_EQ(calls, 6);
+}
+
+TEST(Debug, BuildsItsMessageOnlyWhenItIsOn) {
+    int built = 0;
+    const auto message = [&] {
+        ++built;
+        return std::string("ready");
+    };
+    {
+        CapturedLog log(CapturedLog::DebugSwitch::off);
+        Debug::log(message);
+        EXPECT_TRUE(log.lines().empty());
+    }
+    CapturedLog log(CapturedLog::DebugSwitch::on);
+    Debug::log(message);
+    EXPECT_EQ(built, 1);
+    EXPECT_THAT(log.lines(), ElementsAre("Vantle[dbg]: ready"));
+}
+
+TEST(SystemLog, KeepsAMessageOnOneLineWhateverItHolds) {
+    CapturedLog log;
+    systemLog("two\nlines\x1b[31m");
+    EXPECT_THAT(log.lines(), ElementsAre("two\\nlines\\x1b[31m"));
+}
+
+TEST(NotificationCenter, CallsTheObserversOfThatNameOnly) {
+    NotificationCenter center;
+    int calls = 0;
+    const auto subscription = center.observe(vantleShowDemo, [&] { ++calls; });
+    center.post("other");
+    center.post(vantleShowDemo);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(UUID, IsFreshEachTimeAndWrittenTheUsualWay) {
+    const UUID first = UUID::random();
+    EXPECT_NE(first, UUID::random());
+    EXPECT_THAT(first.text(), testing::MatchesRegex("[0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-"
+                                                    "[89ab][0-9a-f]{3}-[0-9a-f]{12}"));
+}
+
+TEST(Url, TakesPathsApart) {
+    const Url url = Url::file("/home/me/Shot 1.PNG");
+    EXPECT_EQ(url.lastPathComponent(), "Shot 1.PNG");
+    EXPECT_EQ(url.pathExtension(), "PNG");
+    EXPECT_EQ(url.deletingLastPathComponent(), Url::file("/home/me/"));
+    EXPECT_EQ(Url::file("/a").deletingLastPathComponent(), Url::file("/"));
+    EXPECT_EQ(Url::file("/").appending("a"), Url::file("/a"));
+    EXPECT_EQ(Url::file("/.png").pathExtension(), "");
+    EXPECT_EQ(Url::file("/a.").pathExtension(), "");
+}
+
+TEST(Url, AddressesRoundTripWhateverTheNameHolds) {
+    const Url url = Url::file("/tmp/a b%20\n\xff\xe4.png");
+    EXPECT_EQ(url.address(), "file:///tmp/a%20b%2520%0A%FF%E4.png");
+    EXPECT_EQ(Url::fromFileAddress(url.address()), url);
+}
+
+TEST(Url, RefusesAddressesThatAreNotFilesHere) {
+    for (const auto* address : {"http://host/a", "file://host/a", "file:a", "file:///a%0", "",
+                                "file:///a%zz", "file:///a%00b", "/a"})
+        EXPECT_EQ(Url::fromFileAddress(address), std::nullopt) << address;
+    EXPECT_EQ(Url::fromFileAddress("file://localhost/a"), Url::file("/a"));
+    EXPECT_EQ(Url::fromFileAddress("file:/a"), Url::file("/a"));
+}
+
+TEST(Geometry, OfTwoScreensThatTouchOneContainsThePointBetweenThem) {
+    const Rect lower{{0, 0}, {100, 100}};
+    const Rect upper{{0, 100}, {100, 100}};
+    EXPECT_TRUE(containsUpwards(lower, {0, 100}));
+    EXPECT_FALSE(containsUpwards(upper, {0, 100}));
+    EXPECT_FALSE(containsUpwards(lower, {100, 50}));
+}
+
+}  // namespace
+}  // namespace vantle

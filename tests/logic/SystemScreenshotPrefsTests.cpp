@@ -1,0 +1,100 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "capture/SystemScreenshotPrefs.h"
+#include "fakes/FakeFileSystem.h"
+#include "fakes/FakePreferencesDomain.h"
+#include "fakes/FakeProcessLauncher.h"
+#include "fakes/VirtualTime.h"
+
+namespace vantle {
+namespace {
+
+const Url desktop = Url::file("/home/user/Desktop");
+const Url screenshots = Url::file("/home/user/Pictures/Screenshots");
+
+class SystemScreenshotPrefsTest : public testing::Test {
+protected:
+    fakes::VirtualTime time;
+    fakes::ManualQueue queue{time};
+    fakes::FakeFileSystem files{queue};
+    fakes::FakePreferencesDomain domain;
+    fakes::FakeProcessLauncher launcher;
+    SystemScreenshotPrefs prefs{files, domain, launcher};
+};
+
+TEST_F(SystemScreenshotPrefsTest, WithoutStoredLocationItIsTheDesktop) {
+    EXPECT_EQ(prefs.location(), desktop);
+}
+
+TEST_F(SystemScreenshotPrefsTest, WithoutDesktopFolderItIsDesktopInTheHomeDirectory) {
+    files.setDesktop(std::nullopt);
+    EXPECT_EQ(prefs.location(), desktop);
+    files.setDesktop(Url::file("/home/user/Bureau"));
+    EXPECT_EQ(prefs.location(), Url::file("/home/user/Bureau"));
+}
+
+TEST_F(SystemScreenshotPrefsTest, ALeadingTildeIsTheHomeDirectory) {
+    (void)files.createDirectory(screenshots);
+    domain.values["location"] = std::string("~/Pictures/Screenshots");
+    EXPECT_EQ(prefs.location(), screenshots);
+}
+
+TEST_F(SystemScreenshotPrefsTest, ADeletedFolderFallsBackToTheDesktop) {
+    domain.values["location"] = std::string("~/Pictures/Screenshots");
+    EXPECT_EQ(prefs.location(), desktop);
+}
+
+TEST_F(SystemScreenshotPrefsTest, AFileInTheFoldersPlaceFallsBackToTheDesktop) {
+    files.write(screenshots, 1, Date{});
+    domain.values["location"] = screenshots.path();
+    EXPECT_EQ(prefs.location(), desktop);
+}
+
+TEST_F(SystemScreenshotPrefsTest, EmptyTextOrANumberIsTheDesktop) {
+    domain.values["location"] = std::string();
+    EXPECT_EQ(prefs.location(), desktop);
+    domain.values["location"] = 5.0;
+    EXPECT_EQ(prefs.location(), desktop);
+}
+
+TEST_F(SystemScreenshotPrefsTest, TheThumbnailIsShownUnlessStoredAsFalse) {
+    EXPECT_TRUE(prefs.showsThumbnail());
+    domain.values["show-thumbnail"] = std::string("false");
+    EXPECT_TRUE(prefs.showsThumbnail());
+    domain.values["show-thumbnail"] = false;
+    EXPECT_FALSE(prefs.showsThumbnail());
+}
+
+TEST_F(SystemScreenshotPrefsTest, SettingALocationCreatesItStoresItAndRestartsTheServiceOnce) {
+    prefs.setLocation(screenshots);
+    EXPECT_EQ(files.existence(screenshots), FileManager::Existence::directory);
+    EXPECT_EQ(domain.values["location"], PreferenceValue(screenshots.path()));
+    EXPECT_EQ(domain.synchronizations, 1);
+    ASSERT_EQ(launcher.launched.size(), 1u);
+    EXPECT_EQ(launcher.launched[0].executable, "/usr/bin/killall");
+    EXPECT_THAT(launcher.launched[0].arguments, testing::ElementsAre("SystemUIServer"));
+}
+
+TEST_F(SystemScreenshotPrefsTest, AFolderThatCannotBeMadeIsStoredAllTheSame) {
+    files.makeReadOnly(Url::file("/"));
+    prefs.setLocation(screenshots);
+    EXPECT_EQ(domain.values["location"], PreferenceValue(screenshots.path()));
+    EXPECT_EQ(prefs.location(), desktop);
+}
+
+TEST_F(SystemScreenshotPrefsTest, SettingTheThumbnailStoresItAndRestartsTheServiceOnce) {
+    prefs.setShowsThumbnail(false);
+    EXPECT_EQ(domain.values["show-thumbnail"], PreferenceValue(false));
+    EXPECT_EQ(domain.synchronizations, 1);
+    EXPECT_EQ(launcher.launched.size(), 1u);
+}
+
+TEST_F(SystemScreenshotPrefsTest, AServiceThatCannotBeRestartedIsIgnored) {
+    launcher.failure = Failure{.code = 2, .message = "No such file or directory"};
+    prefs.setShowsThumbnail(true);
+    EXPECT_TRUE(prefs.showsThumbnail());
+}
+
+}  // namespace
+}  // namespace vantle
