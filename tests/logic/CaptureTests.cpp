@@ -56,24 +56,24 @@ TEST_F(CaptureTest, IsEmptyUntilLoaded) {
 }
 
 TEST_F(CaptureTest, ALargeImageGetsAThumbnailWhoseLongerSideIsTheMaximum) {
-    media.addImage(shot, {4000, 3000}, {4000, 3000});
+    media.addImage(shot, Size{4000, 3000}, {4000, 3000});
     const auto capture = loaded(shot);
     EXPECT_EQ(capture->thumbnail()->size, (Size{800, 600}));
     EXPECT_EQ(capture->pixelSize(), (Size{4000, 3000}));
 }
 
 TEST_F(CaptureTest, AnImageThatFitsKeepsItselfAsThumbnail) {
-    media.addImage(shot, {640, 480}, {640, 480});
+    media.addImage(shot, Size{640, 480}, {640, 480});
     EXPECT_EQ(loaded(shot)->thumbnail()->size, (Size{640, 480}));
 }
 
 TEST_F(CaptureTest, AnImageOfExactlyTheMaximumKeepsItself) {
-    media.addImage(shot, {800, 800}, {800, 800});
+    media.addImage(shot, Size{800, 800}, {800, 800});
     EXPECT_EQ(loaded(shot)->thumbnail()->size, (Size{800, 800}));
 }
 
 TEST_F(CaptureTest, TheThumbnailIsMeasuredInPointsThePixelSizeInPixels) {
-    media.addImage(shot, {2940, 1912}, {1470, 956});
+    media.addImage(shot, Size{2940, 1912}, {1470, 956});
     const auto capture = loaded(shot);
     EXPECT_EQ(capture->pixelSize(), (Size{2940, 1912}));
     EXPECT_DOUBLE_EQ(capture->thumbnail()->size.width, 800);
@@ -81,12 +81,12 @@ TEST_F(CaptureTest, TheThumbnailIsMeasuredInPointsThePixelSizeInPixels) {
 }
 
 TEST_F(CaptureTest, AVectorImageWithoutPixelsGetsItsPointSize) {
-    media.addImage(shot, {0, 0}, {595, 842});
+    media.addImage(shot, Size{0, 0}, {595, 842});
     EXPECT_EQ(loaded(shot)->pixelSize(), (Size{595, 842}));
 }
 
 TEST_F(CaptureTest, ASingleZeroOfThePixelSizeIsKept) {
-    media.addImage(shot, {0, 700}, {595, 842});
+    media.addImage(shot, Size{0, 700}, {595, 842});
     EXPECT_EQ(loaded(shot)->pixelSize(), (Size{0, 700}));
 }
 
@@ -97,19 +97,20 @@ TEST_F(CaptureTest, AnImageThatCannotBeOpenedLeavesEverythingAbsent) {
 }
 
 TEST_F(CaptureTest, AShortVideoTakesItsPosterFrameInTheMiddle) {
-    media.addRecording(clip, 0.4, Size{640, 480}, {640, 480});
+    media.addRecording(clip, 0.4, Size{640, 480}, Size{640, 480});
     loaded(clip);
     EXPECT_THAT(media.frameTimes, ElementsAre(0.2));
 }
 
 TEST_F(CaptureTest, ALongVideoTakesItsPosterFrameAtHalfASecond) {
-    media.addRecording(clip, 10, Size{640, 480}, {640, 480});
+    media.addRecording(clip, 10, Size{640, 480}, Size{640, 480});
     EXPECT_EQ(loaded(clip)->duration(), 10);
     EXPECT_THAT(media.frameTimes, ElementsAre(0.5));
 }
 
 TEST_F(CaptureTest, AVideoOfUnknownDurationFollowsTheRuleLiterally) {
-    media.addRecording(clip, std::numeric_limits<double>::quiet_NaN(), Size{640, 480}, {640, 480});
+    media.addRecording(clip, std::numeric_limits<double>::quiet_NaN(), Size{640, 480},
+                       Size{640, 480});
     const auto capture = loaded(clip);
     EXPECT_TRUE(std::isnan(capture->duration()));
     ASSERT_EQ(media.frameTimes.size(), 1u);
@@ -117,14 +118,14 @@ TEST_F(CaptureTest, AVideoOfUnknownDurationFollowsTheRuleLiterally) {
 }
 
 TEST_F(CaptureTest, AnUprightRecordingReportsItsTrackSize) {
-    media.addRecording(clip, 5, Size{1080, 1920}, {450, 800});
+    media.addRecording(clip, 5, Size{1080, 1920}, Size{450, 800});
     const auto capture = loaded(clip);
     EXPECT_EQ(capture->pixelSize(), (Size{1080, 1920}));
     EXPECT_EQ(capture->thumbnail()->size, (Size{450, 800}));
 }
 
 TEST_F(CaptureTest, ARecordingWithoutVideoTrackReportsItsFrame) {
-    media.addRecording(clip, 5, std::nullopt, {800, 450});
+    media.addRecording(clip, 5, std::nullopt, Size{800, 450});
     EXPECT_EQ(loaded(clip)->pixelSize(), (Size{800, 450}));
 }
 

@@ -258,7 +258,7 @@ TEST_F(CaptureWatcherTest, FilesThatSettleApartArriveAsTheySettle) {
 
 TEST_F(CaptureWatcherTest, ADeliveredCaptureHasItsThumbnailAndTheFilesDate) {
     start();
-    media.addImage(url("shot.png"), {1600, 1000}, {1600, 1000});
+    media.addImage(url("shot.png"), Size{1600, 1000}, {1600, 1000});
     CapturePointer delivered;
     watcher->onCapture = [&](const CapturePointer& capture) { delivered = capture; };
     const Date saved = clock.now() - std::chrono::seconds(5);

@@ -66,7 +66,7 @@ TEST(CardLayout, NarrowAndWideTilesAreClampedInARow) {
 }
 
 TEST(CardLayout, HalvesAreRoundedAwayFromZero) {
-    EXPECT_EQ(CardLayout::tileSize(3, *captureOfSize({1005, 1000})).width, 101);  // 100.5
+    EXPECT_EQ(CardLayout::tileSize(3, *captureOfSize({1125, 1000})).width, 113);  // 112.5
 }
 
 TEST(CardLayout, AnEmptyRowIsNoPointsWide) {

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/LoginItem.h"
+
+namespace vantle::fakes {
+
+/// A login item that is only remembered.
+class FakeLoginItem final : public LoginItem {
+public:
+    Status status() const override { return current; }
+    Outcome registerItem() override { return change(Status::enabled); }
+    Outcome unregisterItem() override { return change(Status::notRegistered); }
+
+    Status current = Status::notRegistered;
+    Outcome failure;  ///< When set, nothing changes and this is the outcome.
+
+private:
+    Outcome change(Status status) {
+        if (failure) return failure;
+        current = status;
+        return {};
+    }
+};
+
+}  // namespace vantle::fakes
