@@ -18,7 +18,9 @@ class Program:
     def __init__(self, binary, desktop, environment=None, name="vantle"):
         self._desktop = desktop
         self._binary = str(binary)
-        self._environment = {**desktop.environment, "VANTLE_DEBUG": "1", **(environment or {})}
+        wanted = {**desktop.environment, "VANTLE_DEBUG": "1", **(environment or {})}
+        # None takes a variable away.
+        self._environment = {name: text for name, text in wanted.items() if text is not None}
         self._log = desktop.log_folder / f"{name}.log"
         self._process = None
 

@@ -4,6 +4,7 @@ import dataclasses
 
 from PIL import Image
 from Xlib import X, XK, Xatom, display, error
+from Xlib.protocol import event
 from Xlib.ext import shape, xtest  # noqa: F401  (shape registers its requests on import)
 
 
@@ -161,8 +162,6 @@ class Screen:
         self._send_to_root("_NET_WM_STATE", window, [action, atom, 0, 1, 0])
 
     def _send_to_root(self, name, window, values):
-        from Xlib.protocol import event
-
         message = event.ClientMessage(
             window=window, client_type=self._display.intern_atom(name), data=(32, values)
         )

@@ -1,0 +1,93 @@
+"""Fixtures of the desktop tests: each test gets a private desktop and the real program on it."""
+
+import os
+import pathlib
+import shutil
+import sys
+
+import pytest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
+
+from privatedesktop import PrivateDesktop, Program  # noqa: E402
+from watched_folder import WatchedFolder  # noqa: E402
+
+# ctest is told that this exit status means "skipped".
+SKIPPED_EXIT_STATUS = 77
+
+
+def pytest_configure(config):
+    config.addinivalue_line("markers", "desktop(**options): how the private desktop is to be made")
+    config.passed_tests = 0
+    config.skipped_tests = 0
+
+
+@pytest.hookimpl(hookwrapper=True)
+def pytest_runtest_makereport(item, call):
+    report = (yield).get_result()
+    if report.skipped:
+        item.config.skipped_tests += 1
+    if report.when == "call" and report.passed:
+        item.config.passed_tests += 1
+    if report.failed and report.when in ("setup", "call"):
+        keep_evidence(item)
+
+
+def pytest_sessionfinish(session, exitstatus):
+    config = session.config
+    if exitstatus == 0 and config.skipped_tests and not config.passed_tests:
+        session.exitstatus = SKIPPED_EXIT_STATUS
+
+
+def keep_evidence(item):
+    """A failed test leaves the picture of its screen and the logs of its programs."""
+    folder = os.environ.get("VANTLE_FAILURES")
+    desktop = item.funcargs.get("desktop")
+    if not folder or desktop is None:
+        return
+    target = pathlib.Path(folder, item.name)
+    target.mkdir(parents=True, exist_ok=True)
+    desktop.screen.screenshot().save(target / "screen.png")
+    for log in desktop.log_folder.iterdir():
+        shutil.copy(log, target)
+
+
+@pytest.fixture
+def desktop(request):
+    marker = request.node.get_closest_marker("desktop")
+    with PrivateDesktop(**(marker.kwargs if marker else {})) as private_desktop:
+        yield private_desktop
+
+
+@pytest.fixture
+def binary():
+    return os.environ["VANTLE_BINARY"]
+
+
+@pytest.fixture
+def vantle(desktop, binary):
+    """The program, not started yet; with settings as after the first run."""
+    program = Program(binary, desktop)
+    program.write_settings()
+    yield program
+    program.stop()
+
+
+@pytest.fixture
+def folder(desktop, vantle):
+    """The folder that the program watches."""
+    return WatchedFolder(desktop.home / "Desktop", vantle)
+
+
+@pytest.fixture
+def need():
+    """need(tool): skips the test where a heavy tool is missing, unless none may be missing."""
+
+    def check(tool):
+        if shutil.which(tool):
+            return
+        if os.environ.get("VANTLE_REQUIRE_ALL_PEERS"):
+            pytest.fail(f"{tool} is not installed")
+        pytest.skip(f"{tool} is not installed; ./test --all installs it")
+
+    return check

@@ -1,0 +1,109 @@
+"""The watched folder disappears, and the program goes on."""
+
+import os
+import shutil
+import subprocess
+
+import pytest
+
+from privatedesktop import wait_until
+from watched_folder import png
+
+WATCHING = r"^Vantle\[dbg\]: watching "
+
+
+def wait_until_watching_again(vantle, folder, starts_before):
+    """The program makes the folder anew and watches it, without a word to the user."""
+    vantle.wait_for_log(WATCHING, times=starts_before + 1)
+    wait_until(folder.path.is_dir, "the folder is there again")
+
+
+def count_starts(vantle):
+    return sum("]: watching " in line for line in vantle.log_lines())
+
+
+def check_it_goes_on(vantle, folder):
+    folder.save("after.png")
+    folder.wait_for("after.png")
+    folder.wait_for_marker()
+    assert folder.captured() == ["after.png"]
+    assert "cannot watch" not in vantle.log_text()
+    assert vantle.is_running()
+
+
+def test_deleted(vantle, folder):
+    vantle.start_watching()
+    before = count_starts(vantle)
+    shutil.rmtree(folder.path)
+    wait_until_watching_again(vantle, folder, before)
+    check_it_goes_on(vantle, folder)
+
+
+def test_deleted_again_and_again(vantle, folder):
+    vantle.start_watching()
+    for _ in range(3):
+        before = count_starts(vantle)
+        shutil.rmtree(folder.path)
+        wait_until_watching_again(vantle, folder, before)
+    check_it_goes_on(vantle, folder)
+
+
+def test_moved_away(vantle, folder):
+    vantle.start_watching()
+    before = count_starts(vantle)
+    elsewhere = folder.path.with_name("Elsewhere")
+    folder.path.rename(elsewhere)
+    wait_until_watching_again(vantle, folder, before)
+    (elsewhere / "shot.png").write_bytes(png())
+    check_it_goes_on(vantle, folder)
+
+
+def test_replaced_by_another(vantle, folder):
+    """Deleted and made again before the program can: the new folder is the one that counts."""
+    vantle.start_watching()
+    before = count_starts(vantle)
+    folder.path.rename(folder.path.with_name("Elsewhere"))
+    folder.path.mkdir(exist_ok=True)
+    wait_until_watching_again(vantle, folder, before)
+    check_it_goes_on(vantle, folder)
+
+
+def test_missing_at_start(vantle, folder):
+    folder.path.rmdir()
+    vantle.start_watching()
+    assert folder.path.is_dir()
+    folder.save("shot.png")
+    folder.wait_for("shot.png")
+    assert vantle.is_running()
+
+
+def test_unmounted(vantle, folder):
+    mounted = subprocess.run(
+        ["mount", "-t", "tmpfs", "vantle-test", str(folder.path)], capture_output=True
+    )
+    if mounted.returncode != 0:
+        pytest.skip("mounting is not permitted here")
+    try:
+        vantle.start_watching()
+        folder.save("before.png")
+        folder.wait_for("before.png")
+        before = count_starts(vantle)
+    finally:
+        subprocess.run(["umount", str(folder.path)], check=True)
+    wait_until_watching_again(vantle, folder, before)
+    folder.save("after.png")
+    folder.wait_for("after.png")
+    folder.wait_for_marker()
+    assert folder.captured() == ["before.png", "after.png"]
+
+
+def test_unreadable(vantle, folder):
+    if os.geteuid() == 0:
+        pytest.skip("nothing is unreadable for root")
+    folder.path.chmod(0)
+    try:
+        vantle.start()
+        vantle.wait_for_log(r"^Vantle: cannot watch .*: accessDenied$")
+        assert vantle.is_running()
+    finally:
+        folder.path.chmod(0o700)

@@ -1,0 +1,112 @@
+"""Starting, starting twice, and ending."""
+
+import itertools
+import signal
+
+from PIL import Image
+
+from privatedesktop import Program, wait_until
+
+
+def test_second_start_ends_by_itself(desktop, vantle, folder, binary):
+    vantle.start_watching()
+    second = Program(binary, desktop, name="second").start()
+    try:
+        assert second.wait_for_end() == 0
+    finally:
+        second.stop()
+    assert vantle.is_running()
+    assert "watching" not in second.log_text()
+    folder.save("shot.png")
+    folder.wait_for("shot.png")
+    wait_until(desktop.screen.panel, "the panel appears")
+    assert len(desktop.screen.panels()) == 1
+
+
+def test_second_start_without_a_session_bus(desktop, vantle, binary):
+    no_bus = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent/bus"}
+    first = Program(binary, desktop, environment=no_bus, name="first")
+    second = Program(binary, desktop, environment=no_bus, name="second")
+    try:
+        first.start_watching()
+        second.start()
+        assert second.wait_for_end() == 0
+        assert first.is_running()
+        assert "watching" not in second.log_text()
+    finally:
+        second.stop()
+        first.stop()
+
+
+def test_starts_again_after_it_was_killed(desktop, vantle, binary):
+    vantle.start_watching()
+    vantle.kill()
+    again = Program(binary, desktop, name="again")
+    try:
+        again.start_watching()
+        assert again.is_running()
+    finally:
+        again.stop()
+
+
+def test_ends_when_asked(desktop, vantle):
+    vantle.start_watching()
+    vantle.signal(signal.SIGTERM)
+    assert vantle.wait_for_end(limit=5.0) == 0
+
+
+def test_ends_when_asked_with_a_tile_on_the_screen(desktop, vantle, folder):
+    vantle.start_watching()
+    folder.save("shot.png")
+    wait_until(desktop.screen.panel, "the panel appears")
+    vantle.signal(signal.SIGTERM)
+    assert vantle.wait_for_end(limit=5.0) == 0
+    wait_until(lambda: desktop.screen.panel() is None, "the panel is gone")
+
+
+def test_first_start_begins_to_watch(desktop, vantle, folder):
+    vantle.settings_file.unlink()
+    vantle.start_watching()
+    folder.save("shot.png")
+    folder.wait_for("shot.png")
+    wait_until(desktop.screen.panel, "the panel appears")
+
+
+def test_snapshot_of_the_card(desktop, folder, vantle, binary):
+    path = desktop.home / "card.png"
+    program = Program(
+        binary, desktop, environment={"VANTLE_SNAPSHOT": str(path), "VANTLE_RENDER_PLAIN": "1"}
+    )
+    try:
+        program.start_watching()
+        folder.save("shot.png")
+        wait_until(path.exists, "the snapshot is written")
+
+        def is_whole():
+            try:
+                with Image.open(path) as image:
+                    image.load()
+                    return image.size == (800, 330)
+            except OSError:
+                return False
+
+        wait_until(is_whole, "the snapshot is a whole picture of the panel")
+    finally:
+        program.stop()
+
+
+def test_without_debug_the_log_is_silent(desktop, folder, vantle, binary):
+    program = Program(binary, desktop, environment={"VANTLE_DEBUG": None}, name="silent")
+    numbers = itertools.count()
+
+    def save_one_more_and_look():
+        # Without its log nobody can tell when it begins to watch: save until it has seen one.
+        folder.save(f"shot {next(numbers)}.png")
+        return desktop.screen.panel()
+
+    try:
+        program.start()
+        wait_until(save_one_more_and_look, "the panel appears", interval=0.5)
+        assert program.log_text() == ""
+    finally:
+        program.stop()

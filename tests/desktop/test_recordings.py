@@ -1,0 +1,62 @@
+"""A recording is a capture when it has ended, and not before."""
+
+import signal
+
+from privatedesktop import wait_until
+
+
+def start_recording(desktop, path):
+    return desktop.start(
+        "ffmpeg", "-nostdin", "-loglevel", "error", "-f", "x11grab", "-framerate", "10",
+        "-video_size", "640x400", "-i", desktop.environment["DISPLAY"], str(path),
+    )  # fmt: skip
+
+
+def record(desktop, vantle, folder, seconds):
+    """Records for a while, looking all the time that no tile appears. Ends as Ctrl-C would."""
+    path = folder.path / "recording.mp4"
+    recorder = start_recording(desktop, path)
+    wait_until(path.exists, "the recording begins")
+    for _ in range(seconds):
+        # Each marker makes the watcher look at the whole folder again.
+        folder.wait_for_marker()
+        assert folder.captured() == []
+        assert recorder.poll() is None, "the recorder ended by itself"
+        try:
+            wait_until(folder.captured, "nothing", limit=1.0)
+        except AssertionError:
+            continue
+    assert folder.captured() == [], "a tile appeared while recording"
+    recorder.send_signal(signal.SIGINT)
+    recorder.wait(30)
+
+
+def test_ffmpeg_gives_one_tile_after_its_end(desktop, vantle, folder, need):
+    need("ffmpeg")
+    vantle.start_watching()
+    record(desktop, vantle, folder, seconds=8)
+    folder.wait_for("recording.mp4")
+    folder.wait_for_marker()
+    assert folder.captured() == ["recording.mp4"]
+
+
+def test_open_recording_waits_for_its_writer(desktop, vantle, folder):
+    """Without any recorder: a file that stays open for writing and does not grow."""
+    vantle.start_watching()
+    with open(folder.path / "clip.mp4", "wb") as file:
+        file.write(b"\0" * 4096)
+        file.flush()
+        folder.wait_for_marker()
+        folder.wait_for_marker()
+        assert folder.captured() == []
+    folder.wait_for("clip.mp4")
+    folder.wait_for_marker()
+    assert folder.captured() == ["clip.mp4"]
+
+
+def test_recordings_switched_off(desktop, vantle, folder):
+    vantle.write_settings(showRecordings="false")
+    vantle.start_watching()
+    folder.save("clip.mp4", b"\0" * 4096)
+    folder.wait_for_marker()
+    assert folder.shown_count() == 0

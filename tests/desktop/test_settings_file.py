@@ -1,0 +1,91 @@
+"""The settings file survives what happens to it."""
+
+import configparser
+
+from privatedesktop import Program, wait_until
+
+TRUTHS = ("true", "false")
+KEYS = {
+    "hasCompletedOnboarding": TRUTHS,
+    "corner": ("bottomRight", "bottomLeft", "topRight", "topLeft"),
+    "showRecordings": TRUTHS,
+    "copyOnCapture": TRUTHS,
+    "playSound": TRUTHS,
+    "removeAfterUse": TRUTHS,
+    "deleteAfterUse": TRUTHS,
+    "showInDock": TRUTHS,
+}
+
+
+def check_readable(path):
+    """Either nothing was written yet, or every line of it makes sense."""
+    if not path.exists():
+        return
+    parser = configparser.ConfigParser(interpolation=None)
+    parser.optionxform = str
+    parser.read(path)
+    for key, value in parser["General"].items():
+        if key == "dismissAfter":
+            float(value)
+        else:
+            assert value in KEYS[key], (key, value)
+
+
+def test_killed_while_it_writes(desktop, binary):
+    """Killed at ever later moments of a first start, which is when it writes its settings."""
+    for moment in range(16):
+        program = Program(binary, desktop, name=f"vantle-{moment}")
+        program.settings_file.unlink(missing_ok=True)
+        program.start()
+        try:
+            wait_until(lambda: False, "", limit=moment * 0.012, interval=0.001)
+        except AssertionError:
+            program.kill()
+        check_readable(program.settings_file)
+        left = [path.name for path in program.config_folder.glob("*.damaged")]
+        assert left == []
+    final = Program(binary, desktop, name="vantle-final")
+    try:
+        final.start_watching()
+        assert "damaged" not in final.log_text()
+        check_readable(final.settings_file)
+    finally:
+        final.stop()
+
+
+def test_killed_while_running(desktop, vantle, binary):
+    vantle.write_settings(corner="topLeft", dismissAfter="7.5")
+    vantle.start_watching()
+    written = vantle.settings_file.read_text()
+    vantle.kill()
+    assert vantle.settings_file.read_text() == written
+    again = Program(binary, desktop, name="vantle-again")
+    try:
+        again.start_watching()
+        assert again.settings_file.read_text() == written
+    finally:
+        again.stop()
+
+
+def test_damaged_file_means_defaults(desktop, vantle, folder):
+    damaged = b"\x00\xff[Gen\x00eral\ncorner=topLeft\n\x80\x81=\x00" + bytes(range(256))
+    vantle.settings_file.write_bytes(damaged)
+    vantle.start_watching()
+    lines = [line for line in vantle.log_lines() if "vantle.conf" in line]
+    assert len(lines) == 1, lines
+    kept = vantle.settings_file.with_name("vantle.conf.damaged")
+    assert kept.read_bytes() == damaged
+    folder.save("shot.png")
+    folder.wait_for("shot.png")
+    panel = wait_until(desktop.screen.panel, "the panel appears")
+    assert panel.frame.right == desktop.screen.work_area().right, "not the default corner"
+
+
+def test_unknown_values_are_tolerated(desktop, vantle, folder):
+    vantle.write_settings(corner="TOPLEFT", dismissAfter="soon", somethingElse="1")
+    vantle.start_watching()
+    folder.save("shot.png")
+    folder.wait_for("shot.png")
+    panel = wait_until(desktop.screen.panel, "the panel appears")
+    assert panel.frame.right == desktop.screen.work_area().right
+    assert vantle.is_running()
