@@ -19,6 +19,9 @@ from privatedesktop import (
 from privatedesktop.scene import show_scene
 
 
+INTERRUPTED_EXIT_STATUS = 130
+
+
 class Interrupted(BaseException):
     """Somebody wants us to end."""
 
@@ -127,6 +130,7 @@ def main():
         return 1
     except Interrupted:
         say("Ended.")
+        return INTERRUPTED_EXIT_STATUS if arguments.once else 0
     return 0
 
 

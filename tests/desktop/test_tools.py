@@ -63,7 +63,7 @@ def test_xfce4_screenshooter(desktop, vantle, folder, need):
     need("xfce4-screenshooter")
     check_one_tile(
         desktop, vantle, folder,
-        lambda: desktop.run("xfce4-screenshooter", "-f", "-s", str(folder.path)),
+        lambda: desktop.run("xfce4-screenshooter", "-f", "-s", str(folder.path / "shot.png")),
     )  # fmt: skip
 
 
