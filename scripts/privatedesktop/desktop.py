@@ -25,7 +25,7 @@ class DesktopFailure(RuntimeError):
 class PrivateDesktop:
     """Starts on entering a with statement and is gone, with all its processes, after it."""
 
-    def __init__(self, size=(1440, 900), compositor=True, tray=True, window_manager="openbox"):
+    def __init__(self, size=(1440, 900), compositor=True, tray=True, window_manager=("openbox",)):
         self.size = size
         self.screen = None
         self.environment = {}
@@ -161,7 +161,7 @@ class PrivateDesktop:
         self._require(socket.exists, "the session bus listens", bus)
 
     def _start_window_manager(self):
-        manager = self.start(self._window_manager)
+        manager = self.start(*self._window_manager)
         self._require(
             lambda: self.screen.root_property("_NET_SUPPORTING_WM_CHECK"),
             "the window manager manages windows",

@@ -7,6 +7,8 @@ from Xlib import X, XK, Xatom, display, error
 from Xlib.protocol import event
 from Xlib.ext import shape, xtest  # noqa: F401  (shape registers its requests on import)
 
+from .waiting import wait_until
+
 
 @dataclasses.dataclass(frozen=True)
 class Rectangle:
@@ -151,6 +153,13 @@ class Screen:
 
     def current_workspace(self):
         return self.root_property("_NET_CURRENT_DESKTOP")[0]
+
+    def make_workspaces(self, count):
+        self._send_to_root("_NET_NUMBER_OF_DESKTOPS", self._root, [count, 0, 0, 0, 0])
+        wait_until(
+            lambda: self.root_property("_NET_NUMBER_OF_DESKTOPS")[0] == count,
+            f"there are {count} workspaces",
+        )
 
     def switch_workspace(self, number):
         self._send_to_root("_NET_CURRENT_DESKTOP", self._root, [number, X.CurrentTime, 0, 0, 0])

@@ -52,10 +52,22 @@ def keep_evidence(item):
         shutil.copy(log, target)
 
 
+def require_peer(tool):
+    """Skips the test where a heavy peer is missing, unless none may be missing."""
+    if shutil.which(tool):
+        return
+    if os.environ.get("VANTLE_REQUIRE_ALL_PEERS"):
+        pytest.fail(f"{tool} is not installed")
+    pytest.skip(f"{tool} is not installed; ./test --all installs it")
+
+
 @pytest.fixture
 def desktop(request):
     marker = request.node.get_closest_marker("desktop")
-    with PrivateDesktop(**(marker.kwargs if marker else {})) as private_desktop:
+    options = marker.kwargs if marker else {}
+    for tool in options.get("window_manager", [])[:1]:
+        require_peer(tool)
+    with PrivateDesktop(**options) as private_desktop:
         yield private_desktop
 
 
@@ -77,17 +89,3 @@ def vantle(desktop, binary):
 def folder(desktop, vantle):
     """The folder that the program watches."""
     return WatchedFolder(desktop.home / "Desktop", vantle)
-
-
-@pytest.fixture
-def need():
-    """need(tool): skips the test where a heavy tool is missing, unless none may be missing."""
-
-    def check(tool):
-        if shutil.which(tool):
-            return
-        if os.environ.get("VANTLE_REQUIRE_ALL_PEERS"):
-            pytest.fail(f"{tool} is not installed")
-        pytest.skip(f"{tool} is not installed; ./test --all installs it")
-
-    return check

@@ -31,8 +31,7 @@ def record(desktop, vantle, folder, seconds):
     recorder.wait(30)
 
 
-def test_ffmpeg_gives_one_tile_after_its_end(desktop, vantle, folder, need):
-    need("ffmpeg")
+def test_ffmpeg_gives_one_tile_after_its_end(desktop, vantle, folder):
     vantle.start_watching()
     record(desktop, vantle, folder, seconds=8)
     folder.wait_for("recording.mp4")

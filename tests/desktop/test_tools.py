@@ -51,24 +51,21 @@ def test_maim(desktop, vantle, folder):
     )
 
 
-def test_gnome_screenshot(desktop, vantle, folder, need):
-    need("gnome-screenshot")
+def test_gnome_screenshot(desktop, vantle, folder):
     check_one_tile(
         desktop, vantle, folder,
         lambda: desktop.run("gnome-screenshot", "-f", str(folder.path / "shot.png")),
     )  # fmt: skip
 
 
-def test_xfce4_screenshooter(desktop, vantle, folder, need):
-    need("xfce4-screenshooter")
+def test_xfce4_screenshooter(desktop, vantle, folder):
     check_one_tile(
         desktop, vantle, folder,
         lambda: desktop.run("xfce4-screenshooter", "-f", "-s", str(folder.path / "shot.png")),
     )  # fmt: skip
 
 
-def test_flameshot(desktop, vantle, folder, need):
-    need("flameshot")
+def test_flameshot(desktop, vantle, folder):
     check_one_tile(
         desktop, vantle, folder, lambda: desktop.run("flameshot", "full", "-p", str(folder.path))
     )
