@@ -13,11 +13,14 @@ _SETTINGS_KEYS_AT_HAND = {"hasCompletedOnboarding": "true"}
 
 
 class Program:
-    """One run of Vantle. Its log is its standard error, kept in a file."""
+    """One run of Vantle. Its log is its standard error, kept in a file.
+
+    The binary may be a list: a program that starts Vantle, with its arguments.
+    """
 
     def __init__(self, binary, desktop, environment=None, name="vantle"):
         self._desktop = desktop
-        self._binary = str(binary)
+        self._command = [binary] if isinstance(binary, (str, os.PathLike)) else list(binary)
         wanted = {**desktop.environment, "VANTLE_DEBUG": "1", **(environment or {})}
         # None takes a variable away.
         self._environment = {name: text for name, text in wanted.items() if text is not None}
@@ -48,7 +51,7 @@ class Program:
         self.settings_file.write_text("[General]\n" + text)
 
     def start(self):
-        self._process = processes.start([self._binary], self._environment, self._log)
+        self._process = processes.start(self._command, self._environment, self._log)
         return self
 
     def start_watching(self, limit=20.0):
