@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Functions that ./run, ./test and .ci/run share. To be sourced by bash.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -96,7 +97,7 @@ run_apt_install() {
   local log=$1
   shift
   as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends \
-    -o DPkg::Lock::Timeout=300 -o APT::Status-Fd=1 "$@" 2>>"$log" </dev/null | follow_apt "$log"
+    -o DPkg::Lock::Timeout=300 -o APT::Status-Fd=1 "$@" 2>&1 </dev/null | follow_apt "$log"
 }
 
 # install_missing LIST...: installs what the lists name and this machine lacks.

@@ -6,7 +6,7 @@
 from .desktop import DesktopFailure, PrivateDesktop
 from .program import Program
 from .screen import Rectangle, Screen, Window
-from .waiting import WaitTimeout, wait_until, wait_until_still
+from .waiting import WaitTimeout, ensure_never, wait_until, wait_until_still
 
 __all__ = [
     "DesktopFailure",
@@ -16,6 +16,7 @@ __all__ = [
     "Screen",
     "WaitTimeout",
     "Window",
+    "ensure_never",
     "wait_until",
     "wait_until_still",
 ]

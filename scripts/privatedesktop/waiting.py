@@ -19,6 +19,15 @@ def wait_until(condition, what, limit=20.0, interval=0.02):
         time.sleep(interval)
 
 
+def ensure_never(condition, what, seconds, interval=0.02):
+    """Fails if condition() becomes true within the given time."""
+    try:
+        wait_until(condition, what, limit=seconds, interval=interval)
+    except WaitTimeout:
+        return
+    raise AssertionError(f"should not have happened: {what}")
+
+
 def wait_until_still(read, what, readings=6, limit=20.0, interval=0.1):
     """Returns the value of read() once it was the same several times in a row."""
     same = 0

@@ -2,7 +2,7 @@
 
 import signal
 
-from privatedesktop import wait_until
+from privatedesktop import ensure_never, wait_until
 
 
 def start_recording(desktop, path):
@@ -22,11 +22,7 @@ def record(desktop, vantle, folder, seconds):
         folder.wait_for_marker()
         assert folder.captured() == []
         assert recorder.poll() is None, "the recorder ended by itself"
-        try:
-            wait_until(folder.captured, "nothing", limit=1.0)
-        except AssertionError:
-            continue
-    assert folder.captured() == [], "a tile appeared while recording"
+        ensure_never(folder.captured, "a tile appears while recording", seconds=1.0)
     recorder.send_signal(signal.SIGINT)
     recorder.wait(30)
 
