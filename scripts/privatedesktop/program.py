@@ -6,7 +6,7 @@ import re
 import signal
 
 from . import processes
-from .waiting import wait_until
+from .waiting import wait_until, wait_until_still
 
 _DEBUG = "Vantle[dbg]: "
 _SETTINGS_KEYS_AT_HAND = {"hasCompletedOnboarding": "true"}
@@ -55,8 +55,13 @@ class Program:
         return self
 
     def start_watching(self, limit=20.0):
+        """Starts it and waits until files saved from now on are new to it.
+
+        The launch may begin to watch more than once; what is saved in between counts as old.
+        """
         self.start()
         self.wait_for_log(r"^Vantle\[dbg\]: watching ", limit=limit)
+        wait_until_still(self.log_text, "the launch", interval=0.05)
         return self
 
     def is_running(self):
