@@ -1,0 +1,88 @@
+import QtQuick
+import Vantle.Panel
+
+// One capture: its thumbnail with border and shadow, and its name where several stand in a row.
+Item {
+    id: tile
+
+    required property PanelModel panel
+    required property string captureId
+    required property string fileName
+    required property real tileWidth
+    required property real thumbnailHeight
+    required property bool isRecording
+    required property string durationText
+    required property bool isSelected
+
+    readonly property bool compact: panel.count >= 2
+
+    width: tileWidth
+    height: thumbnailHeight + (compact ? nameGap + name.height : 0)
+
+    readonly property real nameGap: 6
+
+    HoverHandler {
+        id: hover
+    }
+
+    ShadowView {
+        x: -blur
+        y: -blur + 2
+        width: thumbnail.width + 2 * blur
+        height: thumbnail.height + 2 * blur
+        blur: 6
+        strength: 0.25
+        cornerRadius: thumbnail.cornerRadius
+    }
+
+    Image {
+        id: thumbnail
+
+        readonly property real cornerRadius: 12
+
+        objectName: "thumbnail"
+        width: tile.tileWidth
+        height: tile.thumbnailHeight
+        sourceSize: Qt.size(width, height)
+        source: "image://thumbnail/%1/%2x%3".arg(tile.captureId).arg(width).arg(height)
+        cache: false
+
+        Rectangle {
+            anchors.fill: parent
+            radius: thumbnail.cornerRadius
+            color: "transparent"
+            border.width: tile.isSelected ? 3 : 1
+            border.color: tile.isSelected ? Appearance.accent : Qt.rgba(1, 1, 1, 0.25)
+        }
+    }
+
+    DurationBadge {
+        x: 8
+        y: 8
+        visible: tile.isRecording && tile.durationText !== ""
+        text: tile.durationText
+    }
+
+    CloseButton {
+        x: -8
+        y: -8
+        isOffered: hover.hovered && !tile.isSelected
+        onTapped: tile.panel.close(tile.captureId)
+    }
+
+    Text {
+        id: name
+
+        y: tile.thumbnailHeight + tile.nameGap
+        width: tile.tileWidth
+        visible: tile.compact
+        text: tile.fileName
+        textFormat: Text.PlainText
+        elide: Text.ElideMiddle
+        maximumLineCount: 1
+        horizontalAlignment: Text.AlignHCenter
+        color: Appearance.secondary
+        font.pixelSize: 10.5
+        font.weight: Font.Medium
+    }
+}

@@ -1,0 +1,76 @@
+#include <QGuiApplication>
+#include <memory>
+
+#include "app/AppDelegate.h"
+#include "panel/views/CapturePanel.h"
+#include "platform/Platform.h"
+#include "platform/linux/AutostartLoginItem.h"
+#include "platform/linux/IniPreferencesDomain.h"
+#include "platform/linux/IniUserDefaults.h"
+#include "platform/linux/InotifyDirectoryEvents.h"
+#include "platform/linux/LinuxFileManager.h"
+#include "platform/linux/PollQueue.h"
+#include "platform/linux/PosixProcessLauncher.h"
+#include "platform/linux/UserDirectories.h"
+#include "platform/qt/DBusApplication.h"
+#include "platform/qt/QtMediaLoader.h"
+#include "platform/qt/QtScheduler.h"
+#include "platform/qt/QtScreens.h"
+#include "platform/qt/UnixSignals.h"
+
+namespace {
+
+using namespace vantle;
+
+constexpr auto identifier = "org.vantle.Vantle";
+
+bool isRecording(const Url& url) {
+    return Capture::kind(url) == CaptureKind::video;
+}
+
+/// The services of a Linux desktop.
+Platform makePlatform() {
+    Platform platform;
+    platform.environment = processEnvironment();
+    const Url configuration = UserDirectories(platform.environment).configuration();
+    const Url own = configuration.appending("vantle");
+    platform.scheduler = std::make_unique<QtScheduler>();
+    platform.clock = std::make_unique<SystemWallClock>();
+    platform.files = std::make_unique<LinuxFileManager>(platform.environment, isRecording);
+    platform.media = std::make_unique<QtMediaLoader>(qGuiApp->devicePixelRatio());
+    platform.defaults = std::make_unique<IniUserDefaults>(own.appending("vantle.conf"));
+    platform.screenshotPreferences = std::make_unique<IniPreferencesDomain>(
+        own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));
+    platform.launcher = std::make_unique<PosixProcessLauncher>();
+    platform.loginItem =
+        std::make_unique<AutostartLoginItem>(configuration.appending("autostart"), identifier,
+                                             QCoreApplication::applicationFilePath().toStdString());
+    platform.screens = std::make_unique<QtScreens>();
+    platform.application = std::make_unique<DBusApplication>(identifier);
+    auto queue = std::make_unique<PollQueue>("vantle.watcher");
+    platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*queue);
+    platform.watcherQueue = std::move(queue);
+    return platform;
+}
+
+PanelModel::Rendering rendering(const Platform& platform) {
+    return platform.environment("VANTLE_RENDER_PLAIN") ? PanelModel::Rendering::plain
+                                                       : PanelModel::Rendering::glass;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+
+    Platform platform = makePlatform();
+    const auto delegate =
+        AppDelegate::create(platform, [&](PanelState& state, CardActions actions) {
+            return std::make_unique<CapturePanel>(state, std::move(actions), rendering(platform));
+        });
+    if (!delegate->applicationWillFinishLaunching()) return 0;
+    const UnixSignals endingSignals([&] { platform.application->terminate(); });
+    delegate->applicationDidFinishLaunching();
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <QImage>
+#include <QQuickPaintedItem>
+
+namespace vantle {
+
+/// The black shadow of a rounded plate of this item's size minus `blur` on each side. The blurred
+/// picture is made once for each size.
+class ShadowView : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(double cornerRadius MEMBER cornerRadius_)
+    Q_PROPERTY(double blur MEMBER blur_)
+    Q_PROPERTY(double strength MEMBER strength_)
+
+public:
+    using QQuickPaintedItem::QQuickPaintedItem;
+
+    void paint(QPainter* painter) override;
+
+private:
+    double cornerRadius_ = 0;
+    double blur_ = 0;
+    double strength_ = 0;
+    QImage shadow_;
+    QSize shadowSize_;
+};
+
+}  // namespace vantle

@@ -1,0 +1,61 @@
+#include "panel/views/ThumbnailProvider.h"
+
+#include <QPainter>
+#include <QStringList>
+
+#include "panel/views/RoundedShape.h"
+
+namespace vantle {
+namespace {
+
+constexpr double cornerRadius = 12;
+constexpr float groundOpacity = 0.25F;
+
+/// A view of the thumbnail's pixels, not a copy: valid while the thumbnail lives.
+QImage view(const Image& thumbnail) {
+    return {thumbnail.rgba.data(), thumbnail.pixelsWide, thumbnail.pixelsHigh,
+            thumbnail.pixelsWide * 4, QImage::Format_RGBA8888_Premultiplied};
+}
+
+void drawFitted(QPainter& painter, const QImage& image, const QSize& target) {
+    const QSize fitted = image.size().scaled(target, Qt::KeepAspectRatio).expandedTo({1, 1});
+    const QImage scaled = image.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    painter.drawImage((target.width() - fitted.width()) / 2,
+                      (target.height() - fitted.height()) / 2, scaled);
+}
+
+/// Keeps only what lies inside the rounded corners. A clip path would leave stair-steps.
+void roundCorners(QImage& picture, double radius) {
+    QImage mask(picture.size(), QImage::Format_ARGB32_Premultiplied);
+    mask.fill(Qt::transparent);
+    QPainter maskPainter(&mask);
+    maskPainter.setRenderHint(QPainter::Antialiasing);
+    maskPainter.fillPath(continuousRoundedRect(QRectF(picture.rect()), radius), Qt::black);
+    maskPainter.end();
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.drawImage(0, 0, mask);
+}
+
+}  // namespace
+
+QImage ThumbnailProvider::requestImage(const QString& id, QSize* size, const QSize& requestedSize) {
+    const QStringList parts = id.split(QLatin1Char('/'));
+    const QStringList points = parts.value(1).split(QLatin1Char('x'));
+    const double widthInPoints = points.value(0).toDouble();
+    const CapturePointer capture = lookup_(parts.value(0));
+    if (!requestedSize.isValid() || widthInPoints <= 0) return {};
+
+    QImage picture(requestedSize, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(QColor::fromRgbF(0, 0, 0, groundOpacity));
+    // A capture that left meanwhile is drawn as one without a picture.
+    if (capture && capture->thumbnail()) {
+        QPainter painter(&picture);
+        drawFitted(painter, view(*capture->thumbnail()), requestedSize);
+    }
+    roundCorners(picture, cornerRadius * requestedSize.width() / widthInPoints);
+    *size = picture.size();
+    return picture;
+}
+
+}  // namespace vantle

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <dirent.h>
+
+#include <memory>
+
+namespace vantle {
+
+struct DirectoryCloser {
+    void operator()(DIR* directory) const { closedir(directory); }
+};
+
+/// Owns what opendir() gives.
+using DirectoryStream = std::unique_ptr<DIR, DirectoryCloser>;
+
+}  // namespace vantle

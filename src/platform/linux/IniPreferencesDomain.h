@@ -1,0 +1,34 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <utility>
+
+#include "platform/PreferencesDomain.h"
+#include "platform/linux/IniFile.h"
+
+namespace vantle {
+
+/// Preferences in an INI file of their own, read anew at each call.
+class IniPreferencesDomain final : public PreferencesDomain {
+public:
+    explicit IniPreferencesDomain(const Url& file) : file_(file) {}
+
+    std::optional<PreferenceValue> value(const std::string& key) const override {
+        if (const auto found = waiting_.find(key); found != waiting_.end()) return found->second;
+        return file_.load().value(key);
+    }
+    void setValue(const std::string& key, const PreferenceValue& value) override {
+        waiting_.insert_or_assign(key, value);
+    }
+    void synchronize() override {
+        // A failure is logged by the file; who needs to know reads the value back.
+        for (const auto& [key, value] : std::exchange(waiting_, {})) (void)file_.store(key, value);
+    }
+
+private:
+    IniFile file_;
+    std::map<std::string, PreferenceValue> waiting_;
+};
+
+}  // namespace vantle

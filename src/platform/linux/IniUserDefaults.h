@@ -1,0 +1,30 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "platform/UserDefaults.h"
+#include "platform/linux/IniFile.h"
+
+namespace vantle {
+
+/// The program's settings in an INI file, read once at creation.
+class IniUserDefaults final : public UserDefaults {
+public:
+    explicit IniUserDefaults(const Url& file) : file_(file), stored_(file_.load()) {}
+
+    void registerDefaults(const std::map<std::string, PreferenceValue>& defaults) override;
+    bool boolean(const std::string& key) const override;
+    double number(const std::string& key) const override;
+    std::optional<std::string> text(const std::string& key) const override;
+    void set(const std::string& key, const PreferenceValue& value) override;
+
+private:
+    std::optional<PreferenceValue> value(const std::string& key) const;
+
+    IniFile file_;
+    IniDocument stored_;
+    std::map<std::string, PreferenceValue> registered_;
+};
+
+}  // namespace vantle

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/DirectoryEvents.h"
+#include "platform/linux/PollQueue.h"
+
+namespace vantle {
+
+/// Directory events from the kernel's inotify, read on the queue's own thread. The growth of a file
+/// is not told, only its closing: who cares for growth polls the size.
+class InotifyDirectoryEvents final : public DirectoryEvents {
+public:
+    explicit InotifyDirectoryEvents(const PollQueue& queue) : descriptors_(queue.descriptors()) {}
+
+    Result<std::shared_ptr<DirectoryEventSource>> open(const Url& folder, Handler handler) override;
+
+private:
+    std::shared_ptr<PollQueue::Descriptors> descriptors_;
+};
+
+}  // namespace vantle

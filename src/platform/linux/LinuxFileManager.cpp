@@ -1,0 +1,95 @@
+#include "platform/linux/LinuxFileManager.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+#include "platform/linux/DirectoryStream.h"
+#include "platform/linux/SystemFailure.h"
+#include "platform/linux/UserDirectories.h"
+#include "platform/linux/WriterCheck.h"
+
+namespace vantle {
+namespace {
+
+Date date(const statx_timestamp& stamp) {
+    // A file system can hold years that nanoseconds cannot count to.
+    constexpr std::int64_t furthest = 9'000'000'000;
+    const std::chrono::seconds seconds(std::clamp<std::int64_t>(stamp.tv_sec, -furthest, furthest));
+    return Date(seconds + std::chrono::nanoseconds(stamp.tv_nsec));
+}
+
+}  // namespace
+
+LinuxFileManager::LinuxFileManager(Environment environment,
+                                   std::function<bool(const Url&)> isRecording)
+    : environment_(std::move(environment)), isRecording_(std::move(isRecording)) {}
+
+FileManager::Existence LinuxFileManager::existence(const Url& url) const {
+    struct stat status {};
+    if (stat(url.path().c_str(), &status) != 0) return Existence::none;
+    return S_ISDIR(status.st_mode) ? Existence::directory : Existence::file;
+}
+
+Result<NameList> LinuxFileManager::contentsOfDirectory(const Url& folder) const {
+    const DirectoryStream directory(opendir(folder.path().c_str()));
+    if (!directory) return systemFailure(errno, folder.path());
+    NameList names;
+    for (;;) {
+        errno = 0;
+        const dirent* entry = readdir(directory.get());
+        if (!entry) break;
+        if (entry->d_name[0] != '.') names.add(entry->d_name);
+    }
+    if (errno != 0) return systemFailure(errno, folder.path());
+    return names;
+}
+
+Result<ResourceValues> LinuxFileManager::resourceValues(const Url& url) const {
+    struct statx status {};
+    if (statx(AT_FDCWD, url.path().c_str(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT,
+              STATX_TYPE | STATX_MTIME | STATX_BTIME, &status) != 0)
+        return systemFailure(errno, url.path());
+    ResourceValues values;
+    if (status.stx_mask & STATX_BTIME) values.creationDate = date(status.stx_btime);
+    if (status.stx_mask & STATX_MTIME) values.contentModificationDate = date(status.stx_mtime);
+    if (status.stx_mask & STATX_TYPE) values.isRegularFile = S_ISREG(status.stx_mode);
+    if (values.isRegularFile == true && isRecording_(url) && hasWriter(url))
+        values.isRegularFile.reset();
+    return values;
+}
+
+std::optional<std::int64_t> LinuxFileManager::fileSize(const Url& url) const {
+    struct stat status {};
+    if (stat(url.path().c_str(), &status) != 0) return std::nullopt;
+    return status.st_size;
+}
+
+Outcome LinuxFileManager::createDirectory(const Url& folder) {
+    if (existence(folder) == Existence::directory) return {};
+    if (mkdir(folder.path().c_str(), 0777) == 0) return {};
+    const int error = errno;
+    const Url parent = folder.deletingLastPathComponent();
+    if (error != ENOENT || parent == folder) {
+        // Somebody else may have made it meanwhile.
+        if (existence(folder) == Existence::directory) return {};
+        return systemFailure(error, folder.path());
+    }
+    if (auto failure = createDirectory(parent)) return failure;
+    if (mkdir(folder.path().c_str(), 0777) == 0 || existence(folder) == Existence::directory)
+        return {};
+    return systemFailure(errno, folder.path());
+}
+
+Url LinuxFileManager::homeDirectory() const {
+    return UserDirectories(environment_).home();
+}
+
+std::optional<Url> LinuxFileManager::desktopDirectory() const {
+    return UserDirectories(environment_).desktop();
+}
+
+}  // namespace vantle

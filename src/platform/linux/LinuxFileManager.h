@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/FileManager.h"
+#include "support/Environment.h"
+
+namespace vantle {
+
+/// The file system of a Linux desktop. A recording that some process still holds open for writing
+/// is not reported as a regular file: recorders leave gaps of many seconds in which the file does
+/// not grow, so its size alone would not tell that it is unfinished.
+class LinuxFileManager final : public FileManager {
+public:
+    /// `isRecording` says by its name whether a file is one. It is called on any thread.
+    LinuxFileManager(Environment environment, std::function<bool(const Url&)> isRecording);
+
+    Existence existence(const Url& url) const override;
+    Result<NameList> contentsOfDirectory(const Url& folder) const override;
+    Result<ResourceValues> resourceValues(const Url& url) const override;
+    std::optional<std::int64_t> fileSize(const Url& url) const override;
+    Outcome createDirectory(const Url& folder) override;
+    Url homeDirectory() const override;
+    std::optional<Url> desktopDirectory() const override;
+
+private:
+    Environment environment_;
+    std::function<bool(const Url&)> isRecording_;
+};
+
+}  // namespace vantle

@@ -1,0 +1,66 @@
+#include "platform/linux/PosixProcessLauncher.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+
+#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/SystemFailure.h"
+
+namespace vantle {
+namespace {
+
+/// In the grandchild, which nobody waits for. Only what is safe after a fork of a process with
+/// threads. Ends in the new program, or tells `report` why it cannot.
+[[noreturn]] void execute(const char* executable, char* const* arguments, int report) {
+    const int null = open("/dev/null", O_RDWR);
+    for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(null, standard);
+    if (null > STDERR_FILENO) close(null);
+    for (int number = 1; number < NSIG; ++number) signal(number, SIG_DFL);
+    sigset_t none;
+    sigemptyset(&none);
+    sigprocmask(SIG_SETMASK, &none, nullptr);
+    execv(executable, arguments);
+    const int error = errno;
+    [[maybe_unused]] const auto written = write(report, &error, sizeof error);
+    _exit(127);
+}
+
+}  // namespace
+
+Outcome PosixProcessLauncher::launch(const std::string& executable,
+                                     const std::vector<std::string>& arguments) {
+    std::vector<char*> values{const_cast<char*>(executable.c_str())};
+    for (const auto& argument : arguments) values.push_back(const_cast<char*>(argument.c_str()));
+    values.push_back(nullptr);
+
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) return systemFailure(errno, executable);
+    const FileDescriptor result(ends[0]);
+    FileDescriptor report(ends[1]);
+    const pid_t child = fork();
+    if (child < 0) return systemFailure(errno, executable);
+    if (child == 0) {
+        setsid();
+        // The middle process ends at once: the system adopts the program and collects it.
+        const pid_t grandchild = fork();
+        if (grandchild == 0) execute(executable.c_str(), values.data(), report.get());
+        const int error = grandchild < 0 ? errno : 0;
+        if (error != 0) [[maybe_unused]]
+            const auto written = write(report.get(), &error, sizeof error);
+        _exit(0);
+    }
+    report.reset();
+    while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) continue;
+    int error = 0;
+    // The pipe closes without a word when the program has started.
+    if (read(result.get(), &error, sizeof error) == sizeof error)
+        return systemFailure(error, executable);
+    return {};
+}
+
+}  // namespace vantle

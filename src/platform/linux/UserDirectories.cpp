@@ -1,0 +1,90 @@
+#include "platform/linux/UserDirectories.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <array>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace vantle {
+namespace {
+
+constexpr std::string_view blanks = " \t";
+
+std::string_view withoutLeadingBlanks(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    return text;
+}
+
+/// Takes `prefix` off the front of `text`; false when it is not there.
+bool take(std::string_view& text, std::string_view prefix) {
+    if (!text.starts_with(prefix)) return false;
+    text.remove_prefix(prefix.size());
+    return true;
+}
+
+/// The text up to the closing quote, backslashes resolved; absent when the quote is missing.
+std::optional<std::string> quoted(std::string_view text) {
+    std::string value;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '"') return value;
+        if (text[i] == '\\' && i + 1 < text.size()) ++i;
+        value += text[i];
+    }
+    return std::nullopt;
+}
+
+std::optional<Url> parseLine(std::string_view line, std::string_view key, const Url& home) {
+    line = withoutLeadingBlanks(line);
+    if (!take(line, key)) return std::nullopt;
+    line = withoutLeadingBlanks(line);
+    if (!take(line, "=")) return std::nullopt;
+    line = withoutLeadingBlanks(line);
+    if (!take(line, "\"")) return std::nullopt;
+    const bool isBelowHome = take(line, "$HOME");
+    // "$HOMEWARD" is another variable.
+    if (isBelowHome && !line.starts_with('/') && !line.starts_with('"')) return std::nullopt;
+    if (!isBelowHome && !line.starts_with('/')) return std::nullopt;
+    const auto path = quoted(line);
+    if (!path) return std::nullopt;
+    return Url::file(isBelowHome ? home.path() + *path : *path);
+}
+
+}  // namespace
+
+Url UserDirectories::home() const {
+    if (const auto home = environment_("HOME"); home && home->starts_with('/'))
+        return Url::file(*home);
+    passwd entry{};
+    passwd* found = nullptr;
+    std::array<char, 16 * 1024> buffer{};
+    getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found);
+    return Url::file(found ? found->pw_dir : "/");
+}
+
+Url UserDirectories::configuration() const {
+    if (const auto folder = environment_("XDG_CONFIG_HOME"); folder && folder->starts_with('/'))
+        return Url::file(*folder);
+    return home().appending(".config");
+}
+
+Url UserDirectories::desktop() const {
+    std::ifstream file(configuration().appending("user-dirs.dirs").path(), std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    return parse(text, "XDG_DESKTOP_DIR", home()).value_or(home().appending("Desktop"));
+}
+
+std::optional<Url> UserDirectories::parse(std::string_view text, std::string_view key,
+                                          const Url& home) {
+    std::optional<Url> folder;
+    while (!text.empty()) {
+        const auto end = std::min(text.find('\n'), text.size());
+        if (auto found = parseLine(text.substr(0, end), key, home)) folder = std::move(found);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return folder;
+}
+
+}  // namespace vantle

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "support/Environment.h"
+#include "support/Url.h"
+
+namespace vantle {
+
+/// The user's folders as the desktop's settings name them (XDG base directories and
+/// user-dirs.dirs). Reads the file anew at each call. Any thread.
+class UserDirectories {
+public:
+    explicit UserDirectories(const Environment& environment) : environment_(environment) {}
+
+    /// $HOME, else the account's.
+    Url home() const;
+
+    /// $XDG_CONFIG_HOME, else ~/.config.
+    Url configuration() const;
+
+    /// The Desktop folder; ~/Desktop when the settings do not name one.
+    Url desktop() const;
+
+    /// The folder that the text of a user-dirs.dirs file gives for a key such as
+    /// "XDG_DESKTOP_DIR": the last line that names an absolute path or one below $HOME counts.
+    static std::optional<Url> parse(std::string_view text, std::string_view key, const Url& home);
+
+private:
+    const Environment& environment_;
+};
+
+}  // namespace vantle

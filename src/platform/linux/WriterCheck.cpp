@@ -1,0 +1,74 @@
+#include "platform/linux/WriterCheck.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <fstream>
+#include <optional>
+#include <string>
+
+#include "platform/linux/DirectoryStream.h"
+#include "platform/linux/FileDescriptor.h"
+
+namespace vantle {
+namespace {
+
+/// Asks the kernel for a read lease, which it refuses while a writer exists. Absent where it gives
+/// this process none at all: for files of others, over a network, in FUSE.
+std::optional<bool> hasWriterByLease(int file) {
+    // A writer that comes in the moment of the lease would have us signalled: with SIGIO, the
+    // default, that would end the program.
+    if (fcntl(file, F_SETSIG, SIGURG) != 0) return std::nullopt;
+    if (fcntl(file, F_SETLEASE, F_RDLCK) == 0) {
+        fcntl(file, F_SETLEASE, F_UNLCK);
+        return false;
+    }
+    if (errno == EAGAIN) return true;
+    return std::nullopt;
+}
+
+bool isOpenForWriting(const std::string& process, const char* descriptor) {
+    std::ifstream info(process + "/fdinfo/" + descriptor);
+    for (std::string name, value; info >> name >> value;)
+        if (name == "flags:") return (std::strtoul(value.c_str(), nullptr, 8) & O_ACCMODE) != 0;
+    return false;
+}
+
+bool processWrites(const std::string& process, const struct stat& file) {
+    const std::string folder = process + "/fd";
+    const DirectoryStream descriptors(opendir(folder.c_str()));
+    if (!descriptors) return false;  // of another user, or ended meanwhile
+    while (const dirent* entry = readdir(descriptors.get())) {
+        struct stat other {};
+        const bool isSameFile = stat((folder + "/" + entry->d_name).c_str(), &other) == 0 &&
+                                other.st_dev == file.st_dev && other.st_ino == file.st_ino;
+        if (isSameFile && isOpenForWriting(process, entry->d_name)) return true;
+    }
+    return false;
+}
+
+bool hasWriterAmongProcesses(int descriptor) {
+    struct stat file {};
+    const DirectoryStream processes(opendir("/proc"));
+    if (!processes || fstat(descriptor, &file) != 0) return false;
+    while (const dirent* entry = readdir(processes.get())) {
+        const bool isProcess = entry->d_name[0] >= '1' && entry->d_name[0] <= '9';
+        if (isProcess && processWrites(std::string("/proc/") + entry->d_name, file)) return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+bool hasWriter(const Url& url) {
+    const FileDescriptor file(
+        open(url.path().c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
+    if (!file) return false;
+    const auto byLease = hasWriterByLease(file.get());
+    return byLease ? *byLease : hasWriterAmongProcesses(file.get());
+}
+
+}  // namespace vantle

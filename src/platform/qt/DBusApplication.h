@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <memory>
+#include <string>
+
+#include "platform/Application.h"
+
+namespace vantle {
+
+/// The program on a desktop with a session bus: copies find each other by a name on it, under which
+/// the first one answers as org.freedesktop.Application. The bus forgets a copy that dies.
+class DBusApplication final : public Application {
+public:
+    /// `identifier` is the bus name, such as "org.example.Program".
+    explicit DBusApplication(const std::string& identifier);
+    ~DBusApplication() override;
+
+    void setActivationPolicy(ActivationPolicy policy) override { policy_ = policy; }
+    ActivationPolicy activationPolicy() const { return policy_; }
+
+    bool anotherCopyIsRunning() override;
+    void activateOtherCopy() override;
+    void activate() override;
+    void terminate() override;
+
+private:
+    class BusObject;
+
+    QString identifier_;
+    QString path_;
+    ActivationPolicy policy_ = ActivationPolicy::accessory;
+    std::unique_ptr<BusObject> object_;
+};
+
+}  // namespace vantle
