@@ -82,7 +82,8 @@ Item {
         maximumLineCount: 1
         horizontalAlignment: Text.AlignHCenter
         color: Appearance.secondary
-        font.pixelSize: 10.5
+        // Half pixels can only be said in typographic points, of which an inch has 72.
+        font.pointSize: 10.5 * 72 / (Screen.logicalPixelDensity * 25.4)
         font.weight: Font.Medium
     }
 }

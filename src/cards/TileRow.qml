@@ -4,7 +4,7 @@ import QtQuick
 import Vantle.Panel
 
 // The tiles side by side, the newest at the end; it scrolls when they are wider than the card.
-ListView {
+Item {
     id: row
 
     required property PanelModel panel
@@ -14,51 +14,59 @@ ListView {
 
     objectName: "tileRow"
     width: Math.min(640, panel.contentWidth) + 2 * innerMargin
-    height: innerMargin + contentItem.childrenRect.height + overflowMargin
-    orientation: ListView.Horizontal
-    leftMargin: innerMargin
-    rightMargin: innerMargin
-    topMargin: innerMargin
-    spacing: 10
+    height: innerMargin + list.contentItem.childrenRect.height + overflowMargin
     clip: panel.overflows
-    interactive: false
-    // All tiles at once: their widths differ, and the row must know its whole width.
-    cacheBuffer: 10000
-    model: panel.captures
-
-    delegate: CaptureTile {
-        panel: row.panel
-    }
-
-    add: Transition {
-        NumberAnimation { properties: "scale"; from: 0.7; to: 1; duration: 260; easing.type: Easing.OutCubic }
-        NumberAnimation { properties: "opacity"; from: 0; to: 1; duration: 200 }
-    }
-    remove: Transition {
-        NumberAnimation { properties: "scale"; to: 0.8; duration: 200; easing.type: Easing.OutCubic }
-        NumberAnimation { properties: "opacity"; to: 0; duration: 200 }
-    }
-    displaced: Transition {
-        NumberAnimation { properties: "x,y"; duration: 260; easing.type: Easing.OutCubic }
-        // An arrival that is pushed on while it grows still ends whole.
-        NumberAnimation { properties: "scale,opacity"; to: 1; duration: 200 }
-    }
 
     function scrollTo(position: real) {
-        const end = Math.max(0, contentWidth + leftMargin + rightMargin - width);
-        contentX = originX - leftMargin + Math.min(Math.max(position, 0), end);
+        const whole = list.contentWidth + list.leftMargin + list.rightMargin;
+        const end = Math.max(0, whole - list.width);
+        list.contentX = list.originX - list.leftMargin + Math.min(Math.max(position, 0), end);
     }
 
-    onCountChanged: scrollTo(Infinity)
-    onContentWidthChanged: scrollTo(Infinity)
-    onWidthChanged: scrollTo(Infinity)
+    ListView {
+        id: list
+
+        y: row.innerMargin
+        width: row.width
+        height: row.height - row.innerMargin
+        orientation: ListView.Horizontal
+        leftMargin: row.innerMargin
+        rightMargin: row.innerMargin
+        spacing: 10
+        interactive: false
+        // All tiles at once: their widths differ, and the row must know its whole width.
+        cacheBuffer: 10000
+        model: row.panel.captures
+
+        delegate: CaptureTile {
+            panel: row.panel
+        }
+
+        add: Transition {
+            NumberAnimation { properties: "scale"; from: 0.7; to: 1; duration: 260; easing.type: Easing.OutCubic }
+            NumberAnimation { properties: "opacity"; from: 0; to: 1; duration: 200 }
+        }
+        remove: Transition {
+            NumberAnimation { properties: "scale"; to: 0.8; duration: 200; easing.type: Easing.OutCubic }
+            NumberAnimation { properties: "opacity"; to: 0; duration: 200 }
+        }
+        displaced: Transition {
+            NumberAnimation { properties: "x,y"; duration: 260; easing.type: Easing.OutCubic }
+            // An arrival that is pushed on while it grows still ends whole.
+            NumberAnimation { properties: "scale,opacity"; to: 1; duration: 200 }
+        }
+
+        onCountChanged: row.scrollTo(Infinity)
+        onContentWidthChanged: row.scrollTo(Infinity)
+        onWidthChanged: row.scrollTo(Infinity)
+    }
 
     WheelHandler {
         enabled: row.panel.overflows
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
         onWheel: event => {
             const steps = event.angleDelta.x !== 0 ? event.angleDelta.x : event.angleDelta.y;
-            row.scrollTo(row.contentX - row.originX + row.leftMargin - steps);
+            row.scrollTo(list.contentX - list.originX + list.leftMargin - steps);
         }
     }
 }

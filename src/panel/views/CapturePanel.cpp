@@ -1,13 +1,11 @@
 #include "panel/views/CapturePanel.h"
 
 #include <QFile>
-#include <QGuiApplication>
 #include <QImage>
 #include <QQmlEngine>
 #include <QQmlExtensionPlugin>
 #include <QQuickItem>
 #include <QQuickView>
-#include <QScreen>
 #include <QStringList>
 #include <utility>
 
@@ -34,11 +32,6 @@ void chooseRenderer() {
     const bool isChosen = qEnvironmentVariableIsSet("QT_QUICK_BACKEND") ||
                           qEnvironmentVariableIsSet("QSG_RHI_BACKEND");
     if (!isChosen) QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-}
-
-int primaryBottom() {
-    const QScreen* primary = QGuiApplication::primaryScreen();
-    return primary ? primary->geometry().y() + primary->geometry().height() : 0;
 }
 
 }  // namespace
@@ -71,7 +64,7 @@ std::unique_ptr<QQuickView> CapturePanel::makeView() {
 }
 
 void CapturePanel::setFrame(const Rect& frame) {
-    view_->setGeometry(fromScreenCoordinates(frame, primaryBottom()));
+    view_->setGeometry(fromScreenCoordinates(frame));
 }
 
 void CapturePanel::orderFrontRegardless() {

@@ -13,11 +13,13 @@ class CrossMark : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(QColor color MEMBER color_)
-    Q_PROPERTY(double lineWidth MEMBER lineWidth_)
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)
+    Q_PROPERTY(double lineWidth MEMBER lineWidth_ NOTIFY changed)
 
 public:
-    using QQuickPaintedItem::QQuickPaintedItem;
+    explicit CrossMark(QQuickItem* parent = nullptr) : QQuickPaintedItem(parent) {
+        connect(this, &CrossMark::changed, this, [this] { update(); });
+    }
 
     void paint(QPainter* painter) override {
         painter->setRenderHint(QPainter::Antialiasing);
@@ -27,6 +29,9 @@ public:
         painter->drawLine(box.topLeft(), box.bottomRight());
         painter->drawLine(box.topRight(), box.bottomLeft());
     }
+
+signals:
+    void changed();
 
 private:
     QColor color_ = Qt::white;

@@ -16,7 +16,7 @@ constexpr float plainOpacity = 0.85F;
 }  // namespace
 
 GlassBackdropView::GlassBackdropView(QQuickItem* parent) : QQuickPaintedItem(parent) {
-    setAntialiasing(true);
+    connect(this, &GlassBackdropView::changed, this, [this] { update(); });
 }
 
 void GlassBackdropView::paint(QPainter* painter) {

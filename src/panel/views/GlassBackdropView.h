@@ -12,9 +12,9 @@ class GlassBackdropView : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(double cornerRadius MEMBER cornerRadius_)
+    Q_PROPERTY(double cornerRadius MEMBER cornerRadius_ NOTIFY changed)
     /// An opaque plate in the colour of windows, for pictures that are to look alike everywhere.
-    Q_PROPERTY(bool plain MEMBER plain_)
+    Q_PROPERTY(bool plain MEMBER plain_ NOTIFY changed)
 
 public:
     explicit GlassBackdropView(QQuickItem* parent = nullptr);
@@ -24,6 +24,9 @@ public:
     /// Where it stands in its window, "{{x, y}, {w, h}}" in whole points from the top left;
     /// "(no window)" while it is in none.
     QString debugFrameDescription() const;
+
+signals:
+    void changed();
 
 private:
     double cornerRadius_ = 22;

@@ -7,6 +7,13 @@
 
 namespace vantle {
 
+ShadowView::ShadowView(QQuickItem* parent) : QQuickPaintedItem(parent) {
+    connect(this, &ShadowView::changed, this, [this] {
+        shadowSize_ = {};
+        update();
+    });
+}
+
 void ShadowView::paint(QPainter* painter) {
     const double scale = painter->device()->devicePixelRatioF();
     const auto pixels = [scale](double points) {

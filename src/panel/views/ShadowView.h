@@ -13,14 +13,17 @@ class ShadowView : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(double cornerRadius MEMBER cornerRadius_)
-    Q_PROPERTY(double blur MEMBER blur_)
-    Q_PROPERTY(double strength MEMBER strength_)
+    Q_PROPERTY(double cornerRadius MEMBER cornerRadius_ NOTIFY changed)
+    Q_PROPERTY(double blur MEMBER blur_ NOTIFY changed)
+    Q_PROPERTY(double strength MEMBER strength_ NOTIFY changed)
 
 public:
-    using QQuickPaintedItem::QQuickPaintedItem;
+    explicit ShadowView(QQuickItem* parent = nullptr);
 
     void paint(QPainter* painter) override;
+
+signals:
+    void changed();
 
 private:
     double cornerRadius_ = 0;

@@ -46,15 +46,13 @@ public:
     explicit BusObject(DBusApplication& application) : application_(application) {}
 
 public slots:
-    void Activate(const QVariantMap&) { reopen(); }
-    void Open(const QStringList&, const QVariantMap&) { reopen(); }
-    void ActivateAction(const QString&, const QVariantList&, const QVariantMap&) { reopen(); }
-
-private:
-    void reopen() {
-        if (application_.onReopen) application_.onReopen(hasVisibleWindows());
+    void Activate(const QVariantMap&) { application_.reopen(); }
+    void Open(const QStringList&, const QVariantMap&) { application_.reopen(); }
+    void ActivateAction(const QString&, const QVariantList&, const QVariantMap&) {
+        application_.reopen();
     }
 
+private:
     DBusApplication& application_;
 };
 
@@ -66,10 +64,7 @@ DBusApplication::~DBusApplication() = default;
 
 bool DBusApplication::anotherCopyIsRunning() {
     auto bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) {
-        systemLog("Vantle: no session bus; a second start cannot be detected");
-        return false;
-    }
+    if (!bus.isConnected()) return anotherHoldsTheRuntimeFolder();
     // The object stands before the name is there for others to call.
     object_ = std::make_unique<BusObject>(*this);
     bus.registerObject(path_, object_.get(), QDBusConnection::ExportAllSlots);
@@ -79,7 +74,24 @@ bool DBusApplication::anotherCopyIsRunning() {
     return reply.value() != QDBusConnectionInterface::ServiceRegistered;
 }
 
+bool DBusApplication::anotherHoldsTheRuntimeFolder() {
+    socket_ = std::make_unique<RuntimeSocket>(qEnvironmentVariable("XDG_RUNTIME_DIR").toStdString(),
+                                              [this] { reopen(); });
+    const auto claim = socket_->claim();
+    if (claim == RuntimeSocket::Claim::failed)
+        systemLog("Vantle: no session bus and no runtime folder; a second start goes unnoticed");
+    return claim == RuntimeSocket::Claim::second;
+}
+
+void DBusApplication::reopen() {
+    if (onReopen) onReopen(hasVisibleWindows());
+}
+
 void DBusApplication::activateOtherCopy() {
+    if (socket_) {
+        if (!socket_->call()) systemLog("Vantle: the copy that runs does not answer");
+        return;
+    }
     auto message = QDBusMessage::createMethodCall(
         identifier_, path_, QString::fromLatin1(interfaceName), QStringLiteral("Activate"));
     message << platformData();

@@ -6,11 +6,13 @@
 #include <string>
 
 #include "platform/Application.h"
+#include "platform/qt/RuntimeSocket.h"
 
 namespace vantle {
 
 /// The program on a desktop with a session bus: copies find each other by a name on it, under which
-/// the first one answers as org.freedesktop.Application. The bus forgets a copy that dies.
+/// the first one answers as org.freedesktop.Application. The bus forgets a copy that dies. Without
+/// a bus they find each other in the user's runtime folder.
 class DBusApplication final : public Application {
 public:
     /// `identifier` is the bus name, such as "org.example.Program".
@@ -28,10 +30,14 @@ public:
 private:
     class BusObject;
 
+    bool anotherHoldsTheRuntimeFolder();
+    void reopen();
+
     QString identifier_;
     QString path_;
     ActivationPolicy policy_ = ActivationPolicy::accessory;
     std::unique_ptr<BusObject> object_;
+    std::unique_ptr<RuntimeSocket> socket_;  ///< Only without a bus.
 };
 
 }  // namespace vantle

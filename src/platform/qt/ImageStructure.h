@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -8,12 +9,25 @@ namespace vantle {
 
 /// What the frame of an image file tells without decoding it.
 struct ImageStructure {
-    bool isComplete = false;  ///< Whether the file goes on to the end that its format marks.
-    double dotsPerInch = 72;  ///< 72 where the file does not say.
+    enum class Format { png, jpeg, gif };
+    struct Resolution {
+        double across = 72;
+        double down = 72;
+    };
+
+    Format format;
+    /// Whether the file goes on to the end that its format marks, in a number of steps that an
+    /// honest file keeps to.
+    bool isComplete = false;
+    Resolution dotsPerInch;  ///< 72 where the file does not say.
 };
 
-/// Walks the chunks of a PNG or the markers of a JPEG; absent when it is neither. Reads every byte
-/// at most once.
+/// Walks the chunks of a PNG, the markers of a JPEG or the blocks of a GIF; absent when it is none
+/// of them. Looks at every byte at most once.
 std::optional<ImageStructure> imageStructure(std::span<const std::uint8_t> file);
+
+/// Moves the chunks of a PNG together that its picture is made of, and returns how many bytes they
+/// take. The rest (texts that unfold to a thousand times their size, for one) is not worth reading.
+std::size_t keepPictureOfPng(std::span<std::uint8_t> file);
 
 }  // namespace vantle

@@ -1,24 +1,47 @@
 #include "platform/qt/QtGeometry.h"
 
+#include <QGuiApplication>
+#include <QScreen>
 #include <cmath>
 
 namespace vantle {
+namespace {
 
-Rect toScreenCoordinates(const QRect& rect, int primaryHeight) {
-    return {{static_cast<double>(rect.x()),
-             static_cast<double>(primaryHeight - rect.y() - rect.height())},
+int bottom(const QRect& rect) {
+    return rect.y() + rect.height();
+}
+
+int nearest(double value) {
+    return static_cast<int>(std::floor(value + 0.5));
+}
+
+}  // namespace
+
+Rect toScreenCoordinates(const QRect& rect, const QRect& primary) {
+    return {{static_cast<double>(rect.x() - primary.x()),
+             static_cast<double>(bottom(primary) - bottom(rect))},
             {static_cast<double>(rect.width()), static_cast<double>(rect.height())}};
 }
 
-Point toScreenCoordinates(const QPoint& point, int primaryHeight) {
-    return {static_cast<double>(point.x()), static_cast<double>(primaryHeight - point.y())};
+Point toScreenCoordinates(const QPoint& point, const QRect& primary) {
+    return {static_cast<double>(point.x() - primary.x()),
+            static_cast<double>(bottom(primary) - point.y())};
 }
 
-QRect fromScreenCoordinates(const Rect& rect, int primaryHeight) {
-    return {static_cast<int>(std::lround(rect.minX())),
-            primaryHeight - static_cast<int>(std::lround(rect.maxY())),
-            static_cast<int>(std::lround(rect.size.width)),
-            static_cast<int>(std::lround(rect.size.height))};
+QRect fromScreenCoordinates(const Rect& rect, const QRect& primary) {
+    const int left = nearest(rect.minX());
+    const int top = nearest(rect.maxY());
+    return {primary.x() + left, bottom(primary) - top, nearest(rect.maxX()) - left,
+            top - nearest(rect.minY())};
+}
+
+QRect fromScreenCoordinates(const Rect& rect) {
+    return fromScreenCoordinates(rect, primaryScreenGeometry());
+}
+
+QRect primaryScreenGeometry() {
+    const QScreen* primary = QGuiApplication::primaryScreen();
+    return primary ? primary->geometry() : QRect();
 }
 
 }  // namespace vantle

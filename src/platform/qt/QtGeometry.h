@@ -7,11 +7,18 @@
 
 namespace vantle {
 
-/// Converts between Qt's screen coordinates (y downwards from the top left of the primary screen)
-/// and the program's (y upwards from its bottom left). `primaryHeight` is that screen's height;
-/// both count points.
-Rect toScreenCoordinates(const QRect& rect, int primaryHeight);
-Point toScreenCoordinates(const QPoint& point, int primaryHeight);
-QRect fromScreenCoordinates(const Rect& rect, int primaryHeight);
+/// Converts between Qt's screen coordinates (y grows downwards) and the program's (y grows upwards
+/// from the bottom left of the primary screen). `primary` is that screen's geometry in Qt's
+/// coordinates, where it need not stand at the origin. Both count points.
+Rect toScreenCoordinates(const QRect& rect, const QRect& primary);
+Point toScreenCoordinates(const QPoint& point, const QRect& primary);
+/// To whole points: both edges go to the nearest one.
+QRect fromScreenCoordinates(const Rect& rect, const QRect& primary);
+
+/// With the primary screen of this moment. Main thread only.
+QRect fromScreenCoordinates(const Rect& rect);
+
+/// Where the primary screen stands in Qt's coordinates; empty while there is none.
+QRect primaryScreenGeometry();
 
 }  // namespace vantle

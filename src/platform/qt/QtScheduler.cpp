@@ -1,71 +1,86 @@
 #include "platform/qt/QtScheduler.h"
 
 #include <QMetaObject>
-#include <QPointer>
-#include <QTimer>
 #include <algorithm>
 #include <chrono>
+#include <cmath>
+#include <optional>
 #include <utility>
 
 namespace vantle {
 namespace {
 
-// Qt counts milliseconds in an int; nobody waits for longer.
-constexpr double longestInterval = 2'000'000;
+using Milliseconds = std::chrono::milliseconds;
 
-std::chrono::milliseconds milliseconds(Seconds interval) {
-    const double seconds = std::clamp(interval.count(), 0.0, longestInterval);
-    return std::chrono::ceil<std::chrono::milliseconds>(Seconds(seconds));
+// Qt counts milliseconds in an int; what waits for longer is looked at again on the way.
+constexpr Seconds longestAlarm = std::chrono::hours(24);
+constexpr Seconds shortestInterval = Milliseconds(1);
+
+/// The first turn after `now` of those that follow `last` at this interval.
+Instant nextTurn(Instant last, Seconds interval, Instant now) {
+    const double missed = std::max(0.0, std::floor((now - last) / interval));
+    return last + interval * (missed + 1);
 }
 
 }  // namespace
 
-/// Keeps itself alive while it is valid: nobody has to hold on to it.
-class QtScheduler::RunningTimer final : public Timer,
-                                        public std::enable_shared_from_this<RunningTimer> {
+/// Held by the scheduler while it waits, so nobody else has to.
+class QtScheduler::WaitingWork final : public Timer,
+                                       public std::enable_shared_from_this<WaitingWork> {
 public:
-    RunningTimer(QObject& context, Seconds interval, Repeats repeats, Work work)
-        : interval_(milliseconds(interval)), repeats_(repeats), work_(std::move(work)) {
-        timer_ = new QTimer(&context);
-        timer_->setTimerType(Qt::PreciseTimer);
-        timer_->setSingleShot(repeats == Repeats::no);
-    }
+    WaitingWork(QtScheduler& scheduler, std::optional<Seconds> interval, Work work)
+        : scheduler_(&scheduler),
+          interval_(interval),
+          work_(std::make_shared<const Work>(std::move(work))) {}
 
-    void start() {
-        // The connection owns this; deleting the timer ends the connection.
-        QObject::connect(timer_, &QTimer::timeout, timer_,
-                         [self = shared_from_this()] { self->fire(); });
-        fireDate_ = std::chrono::steady_clock::now() + interval_;
-        timer_->start(interval_);
-    }
+    void waitUntil(Instant date) { due_ = scheduler_->add(date, shared_from_this()); }
 
-    bool isValid() const override { return !timer_.isNull(); }
-    Instant fireDate() const override { return fireDate_; }
+    bool isValid() const override { return scheduler_ != nullptr; }
+    Instant fireDate() const override { return due_.at; }
 
     void cancel() override {
-        if (QTimer* timer = timer_.data()) {
-            timer_.clear();
-            timer->stop();
-            timer->deleteLater();  // this may be running inside its signal
-        }
+        QtScheduler* scheduler = std::exchange(scheduler_, nullptr);
+        if (!scheduler) return;
+        // What the work holds may hold the last reference to this.
+        const auto self = shared_from_this();
+        const auto work = std::move(work_);
+        scheduler->remove(due_);
     }
+
+    /// Called once it no longer waits.
+    void fire(QtScheduler& scheduler, Instant now) {
+        const auto work = work_;
+        if (interval_) {
+            waitUntil(nextTurn(due_.at, *interval_, now));
+        } else {
+            scheduler_ = nullptr;
+            work_.reset();
+        }
+        // The work may run an event loop of its own, in which the rest must not stand still.
+        scheduler.arm();
+        (*work)();
+    }
+
+    void abandon() { scheduler_ = nullptr; }
 
 private:
-    void fire() {
-        if (!isValid()) return;
-        if (repeats_ == Repeats::no)
-            cancel();
-        else
-            fireDate_ = std::chrono::steady_clock::now() + interval_;
-        work_();
-    }
-
-    const std::chrono::milliseconds interval_;
-    const Repeats repeats_;
-    const Work work_;
-    QPointer<QTimer> timer_;  // it goes with the run loop
-    Instant fireDate_{};
+    QtScheduler* scheduler_;  // null once it is not valid
+    const std::optional<Seconds> interval_;
+    std::shared_ptr<const Work> work_;
+    Due due_{};
 };
+
+QtScheduler::QtScheduler() {
+    alarm_.setSingleShot(true);
+    alarm_.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&alarm_, &QTimer::timeout, &context_, [this] { postTurn(); });
+}
+
+QtScheduler::~QtScheduler() {
+    for (const auto& [due, work] : waiting_) work->abandon();
+    // What the work holds may cancel others while it goes.
+    const auto abandoned = std::exchange(waiting_, {});
+}
 
 Instant QtScheduler::now() const {
     return std::chrono::steady_clock::now();
@@ -76,17 +91,55 @@ void QtScheduler::async(Work work) {
 }
 
 TimerPointer QtScheduler::after(Seconds delay, Work work) {
-    return start(delay, Repeats::no, std::move(work));
+    const bool isAtOnce = !(delay > Seconds(0));
+    const auto timer = std::make_shared<WaitingWork>(*this, std::nullopt, std::move(work));
+    timer->waitUntil(isAtOnce ? now() : now() + delay);
+    isAtOnce ? postTurn() : arm();
+    return timer;
 }
 
 TimerPointer QtScheduler::every(Seconds interval, Work work) {
-    return start(interval, Repeats::yes, std::move(work));
+    const Seconds usable = std::max(interval, shortestInterval);
+    const auto timer = std::make_shared<WaitingWork>(*this, usable, std::move(work));
+    timer->waitUntil(now() + usable);
+    arm();
+    return timer;
 }
 
-TimerPointer QtScheduler::start(Seconds interval, Repeats repeats, Work work) {
-    auto timer = std::make_shared<RunningTimer>(context_, interval, repeats, std::move(work));
-    timer->start();
-    return timer;
+QtScheduler::Due QtScheduler::add(Instant at, WaitingWorkPointer work) {
+    const Due due{at, nextOrder_++};
+    waiting_.emplace(due, std::move(work));
+    return due;
+}
+
+void QtScheduler::remove(const Due& due) {
+    waiting_.erase(due);
+    arm();
+}
+
+void QtScheduler::postTurn() {
+    async([this, end = nextOrder_] { runDue(end); });
+}
+
+void QtScheduler::runDue(std::uint64_t end) {
+    const Instant start = now();
+    while (!waiting_.empty()) {
+        const auto first = waiting_.begin();
+        if (first->first.at > start || first->first.order >= end) break;
+        const auto work = std::move(first->second);
+        waiting_.erase(first);
+        work->fire(*this, start);
+    }
+    arm();
+}
+
+void QtScheduler::arm() {
+    if (waiting_.empty()) {
+        alarm_.stop();
+        return;
+    }
+    const Seconds delay = std::clamp(waiting_.begin()->first.at - now(), Seconds(0), longestAlarm);
+    alarm_.start(std::chrono::ceil<Milliseconds>(delay));
 }
 
 }  // namespace vantle

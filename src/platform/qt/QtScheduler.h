@@ -1,25 +1,49 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
+#include <compare>
+#include <cstdint>
+#include <map>
 #include <memory>
 
 #include "platform/Scheduler.h"
 
 namespace vantle {
 
-/// The main run loop as Qt's event loop of the thread that makes this.
+/// The main run loop as Qt's event loop of the thread that makes this. All waiting work shares one
+/// timer of the system, which runs only while something waits.
 class QtScheduler final : public Scheduler {
 public:
+    QtScheduler();
+    ~QtScheduler() override;
+
     Instant now() const override;
     void async(Work work) override;
     TimerPointer after(Seconds delay, Work work) override;
     TimerPointer every(Seconds interval, Work work) override;
 
 private:
-    enum class Repeats { no, yes };
-    TimerPointer start(Seconds interval, Repeats repeats, Work work);
+    class WaitingWork;
+    using WaitingWorkPointer = std::shared_ptr<WaitingWork>;
 
-    class RunningTimer;
+    struct Due {
+        Instant at;
+        std::uint64_t order;
+        friend auto operator<=>(const Due&, const Due&) = default;
+    };
+
+    Due add(Instant at, WaitingWorkPointer work);
+    void remove(const Due& due);
+
+    /// Posts a turn that runs what is due then, as far as it was asked for before now.
+    void postTurn();
+    void runDue(std::uint64_t end);
+    void arm();
+
+    std::map<Due, WaitingWorkPointer> waiting_;
+    std::uint64_t nextOrder_ = 0;
+    QTimer alarm_;
     QObject context_;  ///< What is posted to it goes with it.
 };
 

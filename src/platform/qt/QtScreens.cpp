@@ -10,15 +10,9 @@
 namespace vantle {
 namespace {
 
-// The primary screen need not stand at Qt's origin.
-int primaryBottom() {
-    const QScreen* primary = QGuiApplication::primaryScreen();
-    return primary ? primary->geometry().y() + primary->geometry().height() : 0;
-}
-
 Screen converted(const QScreen& screen) {
-    return {toScreenCoordinates(screen.geometry(), primaryBottom()),
-            toScreenCoordinates(screen.availableGeometry(), primaryBottom())};
+    return {toScreenCoordinates(screen.geometry(), primaryScreenGeometry()),
+            toScreenCoordinates(screen.availableGeometry(), primaryScreenGeometry())};
 }
 
 }  // namespace
@@ -36,7 +30,7 @@ std::optional<Screen> QtScreens::main() const {
 }
 
 Point QtScreens::pointerLocation() const {
-    return toScreenCoordinates(QCursor::pos(), primaryBottom());
+    return toScreenCoordinates(QCursor::pos(), primaryScreenGeometry());
 }
 
 }  // namespace vantle

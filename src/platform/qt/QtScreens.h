@@ -4,6 +4,8 @@
 
 namespace vantle {
 
+/// The displays as Qt knows them. The user works on the one with the focused window of this
+/// program; of other programs' windows Qt knows nothing.
 class QtScreens final : public Screens {
 public:
     std::vector<Screen> all() const override;
