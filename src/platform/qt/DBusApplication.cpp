@@ -1,19 +1,18 @@
 #include "platform/qt/DBusApplication.h"
 
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QGuiApplication>
 #include <QVariantMap>
 #include <QWindow>
+#include <utility>
 
 #include "support/SystemLog.h"
 
 namespace vantle {
 namespace {
 
-constexpr auto interfaceName = "org.freedesktop.Application";
-constexpr int answerTimeout = 5000;  // milliseconds
+constexpr int answerTimeout = 3000;  // milliseconds
 
 bool isOrdinary(const QWindow& window) {
     return window.type() == Qt::Window || window.type() == Qt::Dialog;
@@ -23,6 +22,21 @@ bool hasVisibleWindows() {
     for (const QWindow* window : QGuiApplication::topLevelWindows())
         if (isOrdinary(*window) && window->isVisible()) return true;
     return false;
+}
+
+QDBusMessage ask(QDBusMessage message) {
+    message.setAutoStartService(false);
+    return QDBusConnection::sessionBus().call(message, QDBus::Block, answerTimeout);
+}
+
+/// Asks the bus itself: Qt's own object for that costs several calls more.
+QDBusMessage requestName(const QString& name) {
+    constexpr uint doNotQueue = 4;
+    const QString bus = QStringLiteral("org.freedesktop.DBus");
+    auto message = QDBusMessage::createMethodCall(bus, QStringLiteral("/org/freedesktop/DBus"), bus,
+                                                  QStringLiteral("RequestName"));
+    message << name << doNotQueue;
+    return ask(message);
 }
 
 /// What lets the other copy take the focus: the desktop gave it to this one with its start.
@@ -37,7 +51,8 @@ QVariantMap platformData() {
 
 }  // namespace
 
-/// What other copies and the desktop's launcher talk to.
+/// What other copies and the desktop's launcher talk to. There are no documents and no actions, so
+/// each request means: the user opens the program.
 class DBusApplication::BusObject final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -63,23 +78,31 @@ DBusApplication::DBusApplication(const std::string& identifier)
 DBusApplication::~DBusApplication() = default;
 
 bool DBusApplication::anotherCopyIsRunning() {
-    auto bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) return anotherHoldsTheRuntimeFolder();
-    // The object stands before the name is there for others to call.
-    object_ = std::make_unique<BusObject>(*this);
-    bus.registerObject(path_, object_.get(), QDBusConnection::ExportAllSlots);
-    const auto reply =
-        bus.interface()->registerService(identifier_, QDBusConnectionInterface::DontQueueService,
-                                         QDBusConnectionInterface::DontAllowReplacement);
-    return reply.value() != QDBusConnectionInterface::ServiceRegistered;
+    if (object_) return false;
+    return QDBusConnection::sessionBus().isConnected() ? anotherHoldsTheName()
+                                                       : anotherHoldsTheRuntimeFolder();
+}
+
+bool DBusApplication::anotherHoldsTheName() {
+    // The object stands before the name does: another copy may call as soon as it sees the name.
+    auto object = std::make_unique<BusObject>(*this);
+    QDBusConnection::sessionBus().registerObject(path_, object.get(),
+                                                 QDBusConnection::ExportAllSlots);
+    const auto reply = requestName(identifier_);
+    if (reply.type() == QDBusMessage::ErrorMessage) return anotherHoldsTheRuntimeFolder();
+    constexpr uint nameIsTaken = 3;
+    if (reply.arguments().value(0).toUInt() == nameIsTaken) return true;
+    object_ = std::move(object);
+    return false;
 }
 
 bool DBusApplication::anotherHoldsTheRuntimeFolder() {
-    socket_ = std::make_unique<RuntimeSocket>(qEnvironmentVariable("XDG_RUNTIME_DIR").toStdString(),
-                                              [this] { reopen(); });
+    if (!socket_)
+        socket_ = std::make_unique<RuntimeSocket>(
+            qEnvironmentVariable("XDG_RUNTIME_DIR").toStdString(), [this] { reopen(); });
     const auto claim = socket_->claim();
     if (claim == RuntimeSocket::Claim::failed)
-        systemLog("Vantle: no session bus and no runtime folder; a second start goes unnoticed");
+        systemLog("Vantle: no session bus; a second start cannot be detected");
     return claim == RuntimeSocket::Claim::second;
 }
 
@@ -92,10 +115,11 @@ void DBusApplication::activateOtherCopy() {
         if (!socket_->call()) systemLog("Vantle: the copy that runs does not answer");
         return;
     }
-    auto message = QDBusMessage::createMethodCall(
-        identifier_, path_, QString::fromLatin1(interfaceName), QStringLiteral("Activate"));
+    auto message = QDBusMessage::createMethodCall(identifier_, path_,
+                                                  QStringLiteral("org.freedesktop.Application"),
+                                                  QStringLiteral("Activate"));
     message << platformData();
-    const auto reply = QDBusConnection::sessionBus().call(message, QDBus::Block, answerTimeout);
+    const auto reply = ask(message);
     if (reply.type() == QDBusMessage::ErrorMessage)
         systemLog("Vantle: the copy that runs does not answer: " +
                   reply.errorMessage().toStdString());
@@ -110,7 +134,7 @@ void DBusApplication::activate() {
 }
 
 void DBusApplication::terminate() {
-    QMetaObject::invokeMethod(qGuiApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
 }  // namespace vantle

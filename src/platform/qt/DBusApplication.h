@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QObject>
 #include <QString>
 #include <memory>
 #include <string>
@@ -20,6 +19,9 @@ public:
     ~DBusApplication() override;
 
     void setActivationPolicy(ActivationPolicy policy) override { policy_ = policy; }
+
+    /// What ordinary windows go by when they are made: those of an accessory stay out of the
+    /// taskbar.
     ActivationPolicy activationPolicy() const { return policy_; }
 
     bool anotherCopyIsRunning() override;
@@ -30,6 +32,7 @@ public:
 private:
     class BusObject;
 
+    bool anotherHoldsTheName();
     bool anotherHoldsTheRuntimeFolder();
     void reopen();
 

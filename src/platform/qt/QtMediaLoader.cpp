@@ -54,17 +54,16 @@ QByteArray formatName(ImageStructure::Format format) {
 }
 
 /// Reads bytes of one format, and loads no other format's code.
-class Reader : public QImageReader {
-public:
-    Reader(QByteArray& file, ImageStructure::Format format) : buffer_(&file) {
-        setAutoDetectImageFormat(false);
-        setFormat(formatName(format));
-        setDevice(&buffer_);
-        setAutoTransform(true);
+struct Reader {
+    Reader(QByteArray& file, ImageStructure::Format format) : buffer(&file) {
+        image.setAutoDetectImageFormat(false);
+        image.setFormat(formatName(format));
+        image.setDevice(&buffer);
+        image.setAutoTransform(true);
     }
 
-private:
-    QBuffer buffer_;
+    QBuffer buffer;
+    QImageReader image;
 };
 
 /// How many of `available` pixels show `points`.
@@ -140,8 +139,8 @@ public:
                            pixelsFor(size.height, scale, available.height()));
         Reader reader(file_, structure_.format);
         if (structure_.format == ImageStructure::Format::jpeg)
-            reader.setScaledSize(quickSize(storedSize_, upright(target)));
-        QImage image = reader.read();
+            reader.image.setScaledSize(quickSize(storedSize_, upright(target)));
+        QImage image = reader.image.read();
         if (image.isNull()) return nullptr;
         image = reduced(std::move(image), target);
         return image.isNull() ? nullptr : packed(image, size);
@@ -175,10 +174,10 @@ std::unique_ptr<ImageFile> QtMediaLoader::openImage(const Url& url) {
         file.truncate(static_cast<qsizetype>(keepPictureOfPng(bytes(file))));
 
     Reader reader(file, structure->format);
-    const QSize size = reader.size();
+    const QSize size = reader.image.size();
     if (size.isEmpty() || static_cast<double>(size.width()) * size.height() > mostPixels)
         return nullptr;
-    const bool liesOnSide = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const bool liesOnSide = reader.image.transformation() & QImageIOHandler::TransformationRotate90;
     return std::make_unique<QtImageFile>(std::move(file), *structure, size, liesOnSide,
                                          pixelsPerPoint_);
 }

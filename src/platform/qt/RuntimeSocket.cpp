@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <cstring>
 #include <optional>
 #include <utility>
@@ -30,7 +31,8 @@ int openSocket() {
 }  // namespace
 
 RuntimeSocket::RuntimeSocket(const std::string& folder, std::function<void()> onCall)
-    : lockPath_(folder + "/vantle.lock"),
+    : isPlaced_(!folder.empty()),
+      lockPath_(folder + "/vantle.lock"),
       socketPath_(folder + "/vantle.socket"),
       onCall_(std::move(onCall)) {}
 
@@ -44,9 +46,12 @@ RuntimeSocket::~RuntimeSocket() {
 }
 
 RuntimeSocket::Claim RuntimeSocket::claim() {
-    lock_ = open(lockPath_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (!isPlaced_) return Claim::failed;
+    if (notifier_) return Claim::first;
+    if (lock_ < 0) lock_ = open(lockPath_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (lock_ < 0) return Claim::failed;
-    if (flock(lock_, LOCK_EX | LOCK_NB) != 0) return Claim::second;
+    if (flock(lock_, LOCK_EX | LOCK_NB) != 0)
+        return errno == EWOULDBLOCK ? Claim::second : Claim::failed;
     return listen() ? Claim::first : Claim::failed;
 }
 

@@ -32,6 +32,7 @@ public:
 private:
     bool listen();
 
+    bool isPlaced_;  ///< Without a folder the paths would name the root.
     std::string lockPath_;
     std::string socketPath_;
     std::function<void()> onCall_;

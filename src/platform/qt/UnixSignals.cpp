@@ -1,10 +1,9 @@
 #include "platform/qt/UnixSignals.h"
 
-#include <signal.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
-#include <array>
+#include <atomic>
 #include <cerrno>
 #include <cstdint>
 #include <utility>
@@ -12,8 +11,8 @@
 namespace vantle {
 namespace {
 
-constexpr std::array endingSignals = {SIGTERM, SIGINT, SIGHUP};
-int arrived = -1;  // written by the handler, which may use little else
+std::atomic<int> arrived = -1;  // an eventfd
+static_assert(std::atomic<int>::is_always_lock_free, "a signal handler may use nothing else");
 
 void note(int) {
     const int error = errno;
@@ -22,32 +21,40 @@ void note(int) {
     errno = error;
 }
 
-void handle(int number, void (*handler)(int)) {
+// Unlike SIG_IGN, a handler is not handed down to the programs that this one starts.
+void ignore(int) {}
+
+/// Returns what stood there before, and leaves alone what was ignored.
+struct sigaction handle(int number, void (*handler)(int)) {
+    struct sigaction previous {};
+    sigaction(number, nullptr, &previous);
+    if (previous.sa_handler == SIG_IGN) return previous;
     struct sigaction action {};
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
     sigaction(number, &action, nullptr);
+    return previous;
 }
 
 }  // namespace
 
 UnixSignals::UnixSignals(std::function<void()> onEnd) {
     arrived = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    notifier_ = std::make_unique<QSocketNotifier>(arrived, QSocketNotifier::Read);
+    notifier_ = std::make_unique<QSocketNotifier>(arrived.load(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
                      [onEnd = std::move(onEnd)] {
                          std::uint64_t count = 0;
                          [[maybe_unused]] const auto drained = read(arrived, &count, sizeof count);
                          onEnd();
                      });
-    for (const int number : endingSignals) handle(number, note);
-    handle(SIGPIPE, SIG_IGN);
+    for (std::size_t i = 0; i < numbers.size(); ++i)
+        previous_[i] = handle(numbers[i], numbers[i] == SIGPIPE ? ignore : note);
 }
 
 UnixSignals::~UnixSignals() {
-    for (const int number : endingSignals) handle(number, SIG_DFL);
+    for (std::size_t i = 0; i < numbers.size(); ++i) sigaction(numbers[i], &previous_[i], nullptr);
     notifier_.reset();
-    close(std::exchange(arrived, -1));
+    close(arrived.exchange(-1));
 }
 
 }  // namespace vantle

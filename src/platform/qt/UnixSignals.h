@@ -1,14 +1,18 @@
 #pragma once
 
+#include <signal.h>
+
 #include <QSocketNotifier>
+#include <array>
 #include <functional>
 #include <memory>
 
 namespace vantle {
 
 /// Turns the signals that ask a program to end (SIGTERM, SIGINT, SIGHUP) into a call on the main
-/// thread while it lives; one for the process. SIGPIPE is ignored from then on: a write to what
-/// nobody reads fails instead.
+/// thread while it lives; one for the process. Those that the parent had switched off (as nohup
+/// does) stay off. Meanwhile SIGPIPE does nothing: a write that nobody reads fails instead.
+/// Programs that this one starts get all signals as usual.
 class UnixSignals {
 public:
     explicit UnixSignals(std::function<void()> onEnd);
@@ -17,6 +21,9 @@ public:
     UnixSignals& operator=(const UnixSignals&) = delete;
 
 private:
+    static constexpr std::array numbers = {SIGTERM, SIGINT, SIGHUP, SIGPIPE};
+
+    std::array<struct sigaction, numbers.size()> previous_{};
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 
