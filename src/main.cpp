@@ -37,7 +37,7 @@ Platform makePlatform() {
     platform.scheduler = std::make_unique<QtScheduler>();
     platform.clock = std::make_unique<SystemWallClock>();
     platform.files = std::make_unique<LinuxFileManager>(platform.environment, isRecording);
-    platform.media = std::make_unique<QtMediaLoader>(qGuiApp->devicePixelRatio());
+    platform.media = std::make_unique<QtMediaLoader>();
     platform.defaults = std::make_unique<IniUserDefaults>(own.appending("vantle.conf"));
     platform.screenshotPreferences = std::make_unique<IniPreferencesDomain>(
         own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));

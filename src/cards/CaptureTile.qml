@@ -8,18 +8,32 @@ Item {
     required property PanelModel panel
     required property string captureId
     required property string fileName
+    required property real tileX
     required property real tileWidth
     required property real thumbnailHeight
     required property bool isRecording
     required property string durationText
     required property bool isSelected
 
+    // Whether it is new in the row, and so grows into it.
+    required property bool arrives
+    required property real nameGap
+
     readonly property bool compact: panel.count >= 2
 
+    x: tileX
     width: tileWidth
     height: thumbnailHeight + (compact ? nameGap + name.height : 0)
 
-    readonly property real nameGap: 6
+    Behavior on x {
+        NumberAnimation { duration: 300; easing.type: Easing.OutCubic }
+    }
+
+    ParallelAnimation {
+        running: tile.arrives
+        NumberAnimation { target: tile; property: "scale"; from: 0.7; to: 1; duration: 300; easing.type: Easing.OutCubic }
+        NumberAnimation { target: tile; property: "opacity"; from: 0; to: 1; duration: 200 }
+    }
 
     HoverHandler {
         id: hover

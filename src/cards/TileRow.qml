@@ -11,54 +11,41 @@ Item {
 
     readonly property real innerMargin: 10
     readonly property real overflowMargin: panel.overflows ? 6 : 0
+    readonly property real nameHeight: panel.count >= 2 ? nameGap + 14 : 0
+    readonly property real nameGap: 6
+    readonly property real farthest: Math.max(0, panel.contentWidth + 2 * innerMargin - width)
+    // Tiles that are there from the beginning do not arrive.
+    property bool isComplete: false
+    property real scrolled: farthest
 
     objectName: "tileRow"
     width: Math.min(640, panel.contentWidth) + 2 * innerMargin
-    height: innerMargin + list.contentItem.childrenRect.height + overflowMargin
+    height: innerMargin + panel.thumbnailHeight + nameHeight + overflowMargin
     clip: panel.overflows
 
-    function scrollTo(position: real) {
-        const whole = list.contentWidth + list.leftMargin + list.rightMargin;
-        const end = Math.max(0, whole - list.width);
-        list.contentX = list.originX - list.leftMargin + Math.min(Math.max(position, 0), end);
+    Component.onCompleted: isComplete = true
+
+    // The newest is to be seen, whatever the user looked at before.
+    onFarthestChanged: scrolled = farthest
+
+    Behavior on scrolled {
+        enabled: row.isComplete
+        NumberAnimation { duration: 300; easing.type: Easing.OutCubic }
     }
 
-    ListView {
-        id: list
-
+    Item {
+        x: row.innerMargin - row.scrolled
         y: row.innerMargin
-        width: row.width
-        height: row.height - row.innerMargin
-        orientation: ListView.Horizontal
-        leftMargin: row.innerMargin
-        rightMargin: row.innerMargin
-        spacing: 10
-        interactive: false
-        // All tiles at once: their widths differ, and the row must know its whole width.
-        cacheBuffer: 10000
-        model: row.panel.captures
 
-        delegate: CaptureTile {
-            panel: row.panel
-        }
+        Repeater {
+            model: row.panel.captures
 
-        add: Transition {
-            NumberAnimation { properties: "scale"; from: 0.7; to: 1; duration: 260; easing.type: Easing.OutCubic }
-            NumberAnimation { properties: "opacity"; from: 0; to: 1; duration: 200 }
+            delegate: CaptureTile {
+                panel: row.panel
+                arrives: row.isComplete
+                nameGap: row.nameGap
+            }
         }
-        remove: Transition {
-            NumberAnimation { properties: "scale"; to: 0.8; duration: 200; easing.type: Easing.OutCubic }
-            NumberAnimation { properties: "opacity"; to: 0; duration: 200 }
-        }
-        displaced: Transition {
-            NumberAnimation { properties: "x,y"; duration: 260; easing.type: Easing.OutCubic }
-            // An arrival that is pushed on while it grows still ends whole.
-            NumberAnimation { properties: "scale,opacity"; to: 1; duration: 200 }
-        }
-
-        onCountChanged: row.scrollTo(Infinity)
-        onContentWidthChanged: row.scrollTo(Infinity)
-        onWidthChanged: row.scrollTo(Infinity)
     }
 
     WheelHandler {
@@ -66,7 +53,7 @@ Item {
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
         onWheel: event => {
             const steps = event.angleDelta.x !== 0 ? event.angleDelta.x : event.angleDelta.y;
-            row.scrollTo(list.contentX - list.originX + list.leftMargin - steps);
+            row.scrolled = Math.min(Math.max(row.scrolled - steps, 0), row.farthest);
         }
     }
 }

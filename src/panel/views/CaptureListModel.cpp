@@ -33,6 +33,8 @@ QVariant CaptureListModel::data(const QModelIndex& index, int role) const {
             return QString::fromStdString(capture.id().text());
         case fileNameRole:
             return displayName(capture.fileName());
+        case tileXRole:
+            return tileX(index.row());
         case tileWidthRole:
             return tileWidth(capture, count);
         case thumbnailHeightRole:
@@ -55,6 +57,7 @@ QVariant CaptureListModel::data(const QModelIndex& index, int role) const {
 QHash<int, QByteArray> CaptureListModel::roleNames() const {
     return {{captureIdRole, "captureId"},
             {fileNameRole, "fileName"},
+            {tileXRole, "tileX"},
             {tileWidthRole, "tileWidth"},
             {thumbnailHeightRole, "thumbnailHeight"},
             {pixelSizeTextRole, "pixelSizeText"},
@@ -65,11 +68,10 @@ QHash<int, QByteArray> CaptureListModel::roleNames() const {
 }
 
 void CaptureListModel::setCaptures(const std::vector<CapturePointer>& captures) {
-    const auto before = captures_.size();
     removeMissing(captures);
     insertAndMove(captures);
-    // The size of a tile depends on how many there are.
-    if (captures_.size() != before) announce({tileWidthRole, thumbnailHeightRole});
+    // The size of a tile depends on how many there are, its place on those before it.
+    announce({tileXRole, tileWidthRole, thumbnailHeightRole});
 }
 
 void CaptureListModel::removeMissing(const std::vector<CapturePointer>& captures) {
@@ -108,6 +110,14 @@ void CaptureListModel::setSelected(const std::set<UUID>& selected) {
 void CaptureListModel::setPinned(const std::set<UUID>& pinned) {
     pinned_ = pinned;
     announce({isPinnedRole});
+}
+
+double CaptureListModel::tileX(int row) const {
+    double x = 0;
+    for (int before = 0; before < row; ++before)
+        x += tileWidth(*captures_[static_cast<std::size_t>(before)], rowCount()) +
+             CardLayout::spacing;
+    return x;
 }
 
 void CaptureListModel::announce(const QList<int>& roles) {

@@ -22,6 +22,7 @@ public:
     enum Role {
         captureIdRole = Qt::UserRole,
         fileNameRole,
+        tileXRole,  ///< From the left edge of the row's first tile.
         tileWidthRole,
         thumbnailHeightRole,
         pixelSizeTextRole,
@@ -48,6 +49,7 @@ public:
 private:
     void removeMissing(const std::vector<CapturePointer>& captures);
     void insertAndMove(const std::vector<CapturePointer>& captures);
+    double tileX(int row) const;
     void announce(const QList<int>& roles);
 
     std::vector<CapturePointer> captures_;

@@ -34,6 +34,28 @@ void chooseRenderer() {
     if (!isChosen) QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
+/// The first item of that name below `item`, depth first; null when there is none.
+const QQuickItem* findItem(const QQuickItem& item, const QString& name) {
+    for (const QQuickItem* child : item.childItems()) {
+        if (child->objectName() == name) return child;
+        if (const QQuickItem* found = findItem(*child, name)) return found;
+    }
+    return nullptr;
+}
+
+void describeThumbnails(const QQuickItem& item, const QQuickItem& row, QStringList& frames) {
+    for (const QQuickItem* child : item.childItems()) {
+        if (child->objectName() == QStringLiteral("thumbnail")) {
+            const QRectF frame = row.mapRectFromItem(child, child->boundingRect());
+            frames << QStringLiteral("top %1, left %2, right %3")
+                          .arg(frame.top())
+                          .arg(frame.left())
+                          .arg(row.width() - frame.right());
+        }
+        describeThumbnails(*child, row, frames);
+    }
+}
+
 }  // namespace
 
 CapturePanel::CapturePanel(PanelState& state, CardActions actions, PanelModel::Rendering rendering)
@@ -83,18 +105,9 @@ std::optional<std::string> CapturePanel::glassFrameDescription() const {
 }
 
 std::string CapturePanel::thumbnailFramesDescription() const {
-    const auto* row = view_->rootObject()->findChild<QQuickItem*>(QStringLiteral("tileRow"));
+    const auto* row = findItem(*view_->contentItem(), QStringLiteral("tileRow"));
     QStringList frames;
-    if (row) {
-        for (const QQuickItem* thumbnail :
-             row->findChildren<QQuickItem*>(QStringLiteral("thumbnail"))) {
-            const QRectF frame = thumbnail->mapRectToItem(row, thumbnail->boundingRect());
-            frames << QStringLiteral("top %1, left %2, right %3")
-                          .arg(frame.top())
-                          .arg(frame.left())
-                          .arg(row->width() - frame.right());
-        }
-    }
+    if (row) describeThumbnails(*row, *row, frames);
     return "thumbnails in the row: " + frames.join(QStringLiteral("; ")).toStdString();
 }
 

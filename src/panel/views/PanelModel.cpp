@@ -42,6 +42,12 @@ double PanelModel::contentWidth() const {
     return CardLayout::contentWidth(captures_.captures());
 }
 
+double PanelModel::thumbnailHeight() const {
+    const auto& shown = captures_.captures();
+    if (shown.empty()) return 0;
+    return CardLayout::tileSize(count(), *shown.front()).height;
+}
+
 bool PanelModel::overflows() const {
     return contentWidth() > CardLayout::maxContentWidth;
 }

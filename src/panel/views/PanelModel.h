@@ -23,6 +23,8 @@ class PanelModel : public QObject {
     Q_PROPERTY(vantle::CaptureListModel* captures READ captures CONSTANT)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
     Q_PROPERTY(double contentWidth READ contentWidth NOTIFY countChanged)
+    /// The height of the thumbnails in a row of several; of the one when there is only one.
+    Q_PROPERTY(double thumbnailHeight READ thumbnailHeight NOTIFY countChanged)
     Q_PROPERTY(bool overflows READ overflows NOTIFY countChanged)
     Q_PROPERTY(bool visible READ isVisible NOTIFY visibleChanged)
     Q_PROPERTY(bool hovering READ isHovering NOTIFY hoveringChanged)
@@ -42,6 +44,7 @@ public:
     CaptureListModel* captures() { return &captures_; }
     int count() const { return captures_.rowCount(); }
     double contentWidth() const;
+    double thumbnailHeight() const;
     bool overflows() const;
     bool isVisible() const { return visible_; }
     bool isHovering() const { return hovering_; }

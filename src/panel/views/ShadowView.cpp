@@ -8,10 +8,7 @@
 namespace vantle {
 
 ShadowView::ShadowView(QQuickItem* parent) : QQuickPaintedItem(parent) {
-    connect(this, &ShadowView::changed, this, [this] {
-        shadowSize_ = {};
-        update();
-    });
+    connect(this, &ShadowView::changed, this, [this] { update(); });
 }
 
 void ShadowView::paint(QPainter* painter) {
@@ -21,13 +18,10 @@ void ShadowView::paint(QPainter* painter) {
     };
     const QSize size(pixels(width() - 2 * blur_), pixels(height() - 2 * blur_));
     if (size.isEmpty()) return;
-    if (size != shadowSize_) {
-        shadow_ = softShadow(size, cornerRadius_ * scale, pixels(blur_));
-        shadow_.setDevicePixelRatio(scale);
-        shadowSize_ = size;
-    }
+    QImage shadow = softShadow(size, cornerRadius_ * scale, pixels(blur_));
+    shadow.setDevicePixelRatio(scale);
     painter->setOpacity(strength_);
-    painter->drawImage(0, 0, shadow_);
+    painter->drawImage(0, 0, shadow);
 }
 
 }  // namespace vantle

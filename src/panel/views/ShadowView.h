@@ -2,13 +2,12 @@
 
 #include <QtQml/qqmlregistration.h>
 
-#include <QImage>
 #include <QQuickPaintedItem>
 
 namespace vantle {
 
 /// The black shadow of a rounded plate of this item's size minus `blur` on each side. The blurred
-/// picture is made once for each size.
+/// picture is made once for each size: it is painted only when that changes.
 class ShadowView : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -29,8 +28,6 @@ private:
     double cornerRadius_ = 0;
     double blur_ = 0;
     double strength_ = 0;
-    QImage shadow_;
-    QSize shadowSize_;
 };
 
 }  // namespace vantle
