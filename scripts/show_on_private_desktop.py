@@ -46,7 +46,8 @@ def wait_for_tile(desktop, vantle):
 
     def panel():
         if not vantle.is_running():
-            raise DesktopFailure("Vantle ended before its panel appeared")
+            status = vantle.exit_status()
+            raise DesktopFailure(f"Vantle ended with status {status} before its panel appeared")
         return desktop.screen.panel()
 
     before = desktop.screen.screenshot()

@@ -75,16 +75,23 @@ class Program:
     def log_lines(self):
         return self.log_text().splitlines()
 
+    def exit_status(self):
+        """None while it runs; a negative number is the signal that ended it."""
+        return self._process.poll()
+
     def wait_for_log(self, pattern, times=1, limit=20.0):
         """Waits until the pattern stands in the log so many times; fails at once if it ended."""
         expression = re.compile(pattern, re.MULTILINE)
 
         def stands_there():
             found = len(expression.findall(self.log_text())) >= times
-            assert found or self.is_running(), f"Vantle ended, its log says:\n{self.log_text()}"
+            assert found or self.is_running(), self._end_report()
             return found
 
         wait_until(stands_there, f"the log has {times} x {pattern}", limit)
+
+    def _end_report(self):
+        return f"Vantle ended with status {self.exit_status()}, its log says:\n{self.log_text()}"
 
     def captured(self):
         """The names of the captures taken in so far, in order."""
@@ -120,9 +127,9 @@ class Program:
         self._process.wait()
 
     def wait_for_end(self, limit=20.0):
-        """Its exit status; a negative number is the signal that ended it."""
-        wait_until(lambda: self._process.poll() is not None, "Vantle ends", limit)
-        return self._process.returncode
+        """Its exit status."""
+        wait_until(lambda: not self.is_running(), "Vantle ends", limit)
+        return self.exit_status()
 
     def stop(self):
         if self._process is None:
