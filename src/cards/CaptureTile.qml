@@ -29,8 +29,11 @@ Item {
         NumberAnimation { duration: 300; easing.type: Easing.OutCubic }
     }
 
+    Component.onCompleted: if (arrives) arrival.start()
+
     ParallelAnimation {
-        running: tile.arrives
+        id: arrival
+
         NumberAnimation { target: tile; property: "scale"; from: 0.7; to: 1; duration: 300; easing.type: Easing.OutCubic }
         NumberAnimation { target: tile; property: "opacity"; from: 0; to: 1; duration: 200 }
     }
