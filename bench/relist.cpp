@@ -85,7 +85,7 @@ int main(int argc, char** argv) {
     fakes::ManualQueue queue(time);
     SystemWallClock clock;
     NoMedia media;
-    LinuxFileManager fileManager([](const Url&) { return false; });
+    LinuxFileManager fileManager(processEnvironment(), [](const Url&) { return false; });
     Trigger trigger;
     const auto watcher =
         CaptureWatcher::create({scheduler, queue, trigger, fileManager, media, clock});

@@ -105,19 +105,8 @@ void CaptureWatcher::loseFolder(WatchNumber watch) {
 void CaptureWatcher::scan(const Url& folder) {
     const auto listing = services_.files.contentsOfDirectory(folder);
     if (!listing) return;
-    const NameList& names = listing.value();
     const Date now = services_.clock.now();
-
-    const std::size_t knownBefore = known_.size();
-    std::size_t stillThere = 0;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        if (known_.contains(names[i]))
-            ++stillThere;
-        else
-            consider(folder, names[i], now);
-    }
-    // A name whose file has gone is forgotten, so that a new file of that name is seen as new.
-    if (stillThere < knownBefore) known_.keepOnly(names);
+    known_.reconcile(listing.value(), [&](std::string_view name) { consider(folder, name, now); });
 }
 
 void CaptureWatcher::consider(const Url& folder, std::string_view name, Date now) {

@@ -17,24 +17,38 @@ namespace vantle {
 class KnownNames {
 public:
     KnownNames() = default;
-    KnownNames(Url folder, const NameList& names) : folder_(std::move(folder)) {
-        names_.reserve(names.size());
-        for (std::size_t i = 0; i < names.size(); ++i) names_.emplace(names[i]);
+    KnownNames(Url folder, NameList names)
+        : folder_(std::move(folder)), ordered_(std::move(names)) {
+        names_.reserve(ordered_.size());
+        for (std::size_t i = 0; i < ordered_.size(); ++i) names_.emplace(ordered_[i]);
     }
 
     const Url& folder() const { return folder_; }
-    std::size_t size() const { return names_.size(); }
     bool contains(std::string_view name) const { return names_.contains(name); }
     void insert(std::string_view name) { names_.emplace(name); }
 
-    /// Forgets the names that are not in `listed`.
-    void keepOnly(const NameList& listed) {
-        Names kept;
-        kept.reserve(names_.size());
-        for (std::size_t i = 0; i < listed.size(); ++i)
-            if (const auto found = names_.find(listed[i]); found != names_.end())
-                kept.insert(names_.extract(found));
-        names_ = std::move(kept);
+    /// Calls `onUnknown` with each listed name that is not known, in order, and forgets the known
+    /// ones that are not listed. `onUnknown` may insert.
+    template <typename OnUnknown>
+    void reconcile(const NameList& listed, OnUnknown onUnknown) {
+        const std::size_t knownBefore = names_.size();
+        std::size_t stillThere = 0;
+        std::size_t place = 0;
+        std::size_t lookUps = 0;
+        for (std::size_t i = 0; i < listed.size(); ++i) {
+            // Of two listings the second is nearly the first: comparing costs less than looking up.
+            bool isKnown = takeNear(place, listed[i]);
+            if (!isKnown) {
+                ++lookUps;
+                isKnown = contains(listed[i]);
+            }
+            if (isKnown)
+                ++stillThere;
+            else
+                onUnknown(listed[i]);
+        }
+        if (stillThere < knownBefore) keepOnly(listed);
+        if (stillThere < knownBefore || lookUps > tolerableLookUps) takeOrder(listed);
     }
 
 private:
@@ -46,8 +60,33 @@ private:
     };
     using Names = std::unordered_set<std::string, Hash, std::equal_to<>>;
 
+    static constexpr std::size_t tolerableLookUps = 500;
+
+    /// Whether `name` is the one at `place` of the last order; moves on when it is.
+    bool takeNear(std::size_t& place, std::string_view name) const {
+        if (place >= ordered_.size() || ordered_[place] != name) return false;
+        ++place;
+        return true;
+    }
+
+    void keepOnly(const NameList& listed) {
+        Names kept;
+        kept.reserve(names_.size());
+        for (std::size_t i = 0; i < listed.size(); ++i)
+            if (const auto found = names_.find(listed[i]); found != names_.end())
+                kept.insert(names_.extract(found));
+        names_ = std::move(kept);
+    }
+
+    void takeOrder(const NameList& listed) {
+        ordered_ = NameList();
+        for (std::size_t i = 0; i < listed.size(); ++i)
+            if (contains(listed[i])) ordered_.add(listed[i]);
+    }
+
     Url folder_;
     Names names_;
+    NameList ordered_;  ///< Known names in the order of a listing; never one that is not known.
 };
 
 }  // namespace vantle
