@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/PreferenceConversion.h"
 #include "platform/UserDefaults.h"
 
 namespace vantle::fakes {
@@ -14,10 +15,14 @@ public:
     void registerDefaults(const std::map<std::string, PreferenceValue>& defaults) override {
         for (const auto& [key, value] : defaults) registered_.insert_or_assign(key, value);
     }
-    bool boolean(const std::string& key) const override { return value<bool>(key).value_or(false); }
-    double number(const std::string& key) const override { return value<double>(key).value_or(0); }
+    bool boolean(const std::string& key) const override {
+        return value(key, asBoolean).value_or(false);
+    }
+    double number(const std::string& key) const override {
+        return value(key, asNumber).value_or(0);
+    }
     std::optional<std::string> text(const std::string& key) const override {
-        return value<std::string>(key);
+        return value(key, asText);
     }
     void set(const std::string& key, const PreferenceValue& value) override {
         stored.insert_or_assign(key, value);
@@ -27,10 +32,11 @@ public:
 
 private:
     template <typename T>
-    std::optional<T> value(const std::string& key) const {
+    std::optional<T> value(const std::string& key,
+                           std::optional<T> (*meaning)(const PreferenceValue&)) const {
         for (const auto* values : {&stored, &registered_})
             if (const auto found = values->find(key); found != values->end())
-                if (const auto* typed = std::get_if<T>(&found->second)) return *typed;
+                if (auto meant = meaning(found->second)) return meant;
         return std::nullopt;
     }
 

@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <utility>
+
+#include "platform/PreferenceConversion.h"
 
 namespace vantle {
 namespace {
@@ -19,11 +20,9 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-std::optional<double> number(std::string_view text) {
-    double value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    const bool isWhole = error == std::errc() && end == text.data() + text.size();
-    return isWhole && std::isfinite(value) ? std::optional(value) : std::nullopt;
+bool isControl(char character) {
+    const auto byte = static_cast<unsigned char>(character);
+    return byte < 0x20 || byte == 0x7f;
 }
 
 bool isQuoted(std::string_view text) {
@@ -59,7 +58,7 @@ std::string quoted(std::string_view text) {
         const auto byte = static_cast<unsigned char>(character);
         if (character == '"' || character == '\\') {
             written += {'\\', character};
-        } else if (byte < 0x20 || byte == 0x7f) {
+        } else if (isControl(character)) {
             written += {'\\', 'x', digits[byte >> 4], digits[byte & 0x0f]};
         } else {
             written += character;
@@ -71,7 +70,7 @@ std::string quoted(std::string_view text) {
 PreferenceValue parsed(std::string_view text) {
     if (text == "true") return true;
     if (text == "false") return false;
-    if (const auto value = number(text)) return *value;
+    if (const auto value = numberFromText(text)) return *value;
     if (isQuoted(text)) return unquoted(text);
     return std::string(text);
 }
@@ -87,11 +86,7 @@ std::string written(double value) {
 }
 
 std::string written(const std::string& value) {
-    const bool hasControl = std::ranges::any_of(value, [](char character) {
-        const auto byte = static_cast<unsigned char>(character);
-        return byte < 0x20 || byte == 0x7f;
-    });
-    const bool readsBack = !hasControl && trimmed(value) == value &&
+    const bool readsBack = std::ranges::none_of(value, isControl) && trimmed(value) == value &&
                            parsed(value) == PreferenceValue(value) && !value.empty();
     return readsBack ? value : quoted(value);
 }
@@ -99,10 +94,13 @@ std::string written(const std::string& value) {
 }  // namespace
 
 std::optional<IniDocument> IniDocument::parse(std::string_view text) {
-    if (text.find('\0') != std::string_view::npos) return std::nullopt;
+    if (std::ranges::any_of(text, [](char one) {
+            return isControl(one) && one != '\n' && one != '\r' && one != '\t';
+        }))
+        return std::nullopt;
     if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
     IniDocument document;
-    std::string group;
+    std::string group(generalGroup);
     while (!text.empty()) {
         const auto end = std::min(text.find('\n'), text.size());
         auto raw = text.substr(0, end);
@@ -121,7 +119,6 @@ std::optional<IniDocument::Line> IniDocument::parseLine(std::string_view raw, st
     if (content.empty() || content.front() == '#' || content.front() == ';') return line;
     if (content.front() == '[') {
         if (content.back() != ']') return std::nullopt;
-        line.endsGeneral = group == generalGroup;
         group = content.substr(1, content.size() - 2);
         return line;
     }
@@ -152,11 +149,13 @@ void IniDocument::set(std::string_view key, const PreferenceValue& value) {
         return;
     }
     const auto isGeneral = [](const Line& one) { return trimmed(one.raw) == "[General]"; };
-    if (std::ranges::none_of(lines_, isGeneral)) {
-        lines_.insert(lines_.begin(), {{.raw = "[General]"}, std::move(line)});
-        return;
-    }
-    lines_.insert(std::ranges::find_if(lines_, &Line::endsGeneral), std::move(line));
+    auto header = std::ranges::find_if(lines_, isGeneral);
+    if (header == lines_.end()) header = lines_.insert(lines_.begin(), Line{.raw = "[General]"});
+    lines_.insert(std::find_if(header + 1, lines_.end(), isGroup), std::move(line));
+}
+
+bool IniDocument::isGroup(const Line& line) {
+    return trimmed(line.raw).starts_with('[');
 }
 
 std::string IniDocument::text() const {

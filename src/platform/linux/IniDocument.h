@@ -9,8 +9,8 @@
 
 namespace vantle {
 
-/// The text of an INI file, whose keys stand in the group [General]. Everything that is not asked
-/// for stays as it is written: other groups and keys, comments, order.
+/// The text of an INI file, whose keys stand in the group [General] or before the first group.
+/// Everything that is not asked for stays as it is written: other groups and keys, comments, order.
 ///
 /// A value is true or false, a finite number, or else text as it stands up to the end of the line.
 /// Text in double quotes is text whatever it looks like; in it \" \\ \n \r \t and \xHH are escapes.
@@ -18,9 +18,9 @@ class IniDocument {
 public:
     IniDocument() = default;
 
-    /// Absent when the text is no INI file: it holds a zero byte, or a line that is neither empty,
-    /// a comment (# or ;), a [group], nor key=value. Windows line ends and a byte order mark are
-    /// fine.
+    /// Absent when the text is no INI file: it holds a control character, or a line that is neither
+    /// empty, a comment (# or ;), a [group], nor key=value. Windows line ends and a byte order mark
+    /// are fine.
     static std::optional<IniDocument> parse(std::string_view text);
 
     std::optional<PreferenceValue> value(std::string_view key) const;
@@ -33,9 +33,9 @@ private:
         std::string raw;
         std::string key;    ///< Of a line in [General]; otherwise empty.
         std::string value;  ///< As written.
-        bool endsGeneral = false;
     };
 
+    static bool isGroup(const Line& line);
     static std::optional<Line> parseLine(std::string_view raw, std::string& group);
 
     std::vector<Line> lines_;

@@ -18,10 +18,10 @@ IniDocument IniFile::load() const {
     return document ? std::move(document.value()) : IniDocument();
 }
 
-Outcome IniFile::store(const std::string& key, const PreferenceValue& value) {
+Outcome IniFile::store(const std::map<std::string, PreferenceValue>& values) {
     auto document = read();
     if (!document) return document.failure();
-    document.value().set(key, value);
+    for (const auto& [key, value] : values) document.value().set(key, value);
     auto failure = replaceWholeFile(file_, document.value().text());
     if (failure) complain("cannot write " + file_.path() + ": " + failure->message);
     return failure;
@@ -34,7 +34,7 @@ Result<IniDocument> IniFile::read() const {
         return keepDamagedAside();
     }
     if (text.failure().code == ENOENT) return IniDocument();
-    if (text.failure().code == EFBIG) return keepDamagedAside();
+    if (text.failure().code == EFBIG || text.failure().code == EISDIR) return keepDamagedAside();
     complain("cannot read " + file_.path() + ": " + text.failure().message);
     return text.failure();
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <map>
 #include <string>
+#include <utility>
 
 #include "platform/PreferenceValue.h"
 #include "platform/linux/IniDocument.h"
@@ -18,9 +20,9 @@ public:
     /// What the file holds now; empty when it does not exist.
     IniDocument load() const;
 
-    /// Sets one key and leaves the rest of the file as others may have changed it meanwhile. What
-    /// it says stands on disk when it returns; a failure is logged once.
-    Outcome store(const std::string& key, const PreferenceValue& value);
+    /// Sets these keys and leaves the rest of the file as others may have changed it meanwhile.
+    /// All of them stand on disk when it returns, or none; a failure is logged once.
+    Outcome store(const std::map<std::string, PreferenceValue>& values);
 
 private:
     Result<IniDocument> read() const;

@@ -22,8 +22,9 @@ public:
         waiting_.insert_or_assign(key, value);
     }
     void synchronize() override {
+        const auto values = std::exchange(waiting_, {});
         // A failure is logged by the file; who needs to know reads the value back.
-        for (const auto& [key, value] : std::exchange(waiting_, {})) (void)file_.store(key, value);
+        if (!values.empty()) (void)file_.store(values);
     }
 
 private:

@@ -1,5 +1,7 @@
 #include "platform/linux/IniUserDefaults.h"
 
+#include "platform/PreferenceConversion.h"
+
 namespace vantle {
 
 void IniUserDefaults::registerDefaults(const std::map<std::string, PreferenceValue>& defaults) {
@@ -7,37 +9,31 @@ void IniUserDefaults::registerDefaults(const std::map<std::string, PreferenceVal
 }
 
 bool IniUserDefaults::boolean(const std::string& key) const {
-    const auto found = value(key);
-    if (!found) return false;
-    if (const auto* number = std::get_if<double>(&*found)) return *number != 0;
-    const auto* boolean = std::get_if<bool>(&*found);
-    return boolean && *boolean;
+    return value(key, asBoolean).value_or(false);
 }
 
 double IniUserDefaults::number(const std::string& key) const {
-    const auto found = value(key);
-    if (!found) return 0;
-    if (const auto* boolean = std::get_if<bool>(&*found)) return *boolean ? 1 : 0;
-    const auto* number = std::get_if<double>(&*found);
-    return number ? *number : 0;
+    return value(key, asNumber).value_or(0);
 }
 
 std::optional<std::string> IniUserDefaults::text(const std::string& key) const {
-    const auto found = value(key);
-    if (!found || !std::holds_alternative<std::string>(*found)) return std::nullopt;
-    return std::get<std::string>(*found);
+    return value(key, asText);
 }
 
 void IniUserDefaults::set(const std::string& key, const PreferenceValue& value) {
     stored_.set(key, value);
-    // A failure is logged by the file; the value holds for this run all the same.
-    (void)file_.store(key, value);
+    unsaved_.insert_or_assign(key, value);
+    // A failure is logged by the file; the value holds for this run, and goes with the next write.
+    if (!file_.store(unsaved_)) unsaved_.clear();
 }
 
-std::optional<PreferenceValue> IniUserDefaults::value(const std::string& key) const {
-    if (auto stored = stored_.value(key)) return stored;
+template <typename T>
+std::optional<T> IniUserDefaults::value(const std::string& key,
+                                        std::optional<T> (*meaning)(const PreferenceValue&)) const {
+    if (const auto stored = stored_.value(key))
+        if (auto meant = meaning(*stored)) return meant;
     const auto found = registered_.find(key);
-    return found == registered_.end() ? std::nullopt : std::optional(found->second);
+    return found == registered_.end() ? std::nullopt : meaning(found->second);
 }
 
 }  // namespace vantle

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 
 #include "platform/UserDefaults.h"
@@ -20,10 +21,13 @@ public:
     void set(const std::string& key, const PreferenceValue& value) override;
 
 private:
-    std::optional<PreferenceValue> value(const std::string& key) const;
+    template <typename T>
+    std::optional<T> value(const std::string& key,
+                           std::optional<T> (*meaning)(const PreferenceValue&)) const;
 
     IniFile file_;
     IniDocument stored_;
+    std::map<std::string, PreferenceValue> unsaved_;
     std::map<std::string, PreferenceValue> registered_;
 };
 
