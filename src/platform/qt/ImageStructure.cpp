@@ -34,9 +34,27 @@ Resolution resolution(std::uint32_t across, std::uint32_t down, double unitsPerI
     return inch.across >= 1 && inch.down >= 1 ? inch : Resolution();
 }
 
+std::uint32_t checksum(Bytes bytes) {
+    static const auto table = [] {
+        std::array<std::uint32_t, 256> remainders{};
+        for (std::uint32_t i = 0; i < remainders.size(); ++i) {
+            remainders[i] = i;
+            for (int bit = 0; bit < 8; ++bit)
+                remainders[i] = remainders[i] >> 1 ^ (remainders[i] & 1 ? 0xedb88320 : 0);
+        }
+        return remainders;
+    }();
+    std::uint32_t remainder = 0xffffffff;
+    for (const std::uint8_t byte : bytes)
+        remainder = table[(remainder ^ byte) & 0xff] ^ remainder >> 8;
+    return ~remainder;
+}
+
 struct PngChunk {
     std::string_view type;
     Bytes data;
+    Bytes checked;  ///< What its checksum covers.
+    std::uint32_t checksum = 0;
     std::size_t end = 0;  ///< Where the next one begins.
 };
 
@@ -46,8 +64,17 @@ std::optional<PngChunk> pngChunk(Bytes file, std::size_t offset) {
     if (file.size() - offset < frame) return std::nullopt;
     const std::size_t length = number(file.subspan(offset, 4));
     if (length > file.size() - offset - frame) return std::nullopt;
-    return PngChunk{text(file.subspan(offset + 4, 4)), file.subspan(offset + 8, length),
-                    offset + frame + length};
+    return PngChunk{.type = text(file.subspan(offset + 4, 4)),
+                    .data = file.subspan(offset + 8, length),
+                    .checked = file.subspan(offset + 4, length + 4),
+                    .checksum = number(file.subspan(offset + 8 + length, 4)),
+                    .end = offset + frame + length};
+}
+
+bool belongsToPicture(std::string_view type) {
+    constexpr std::array<std::string_view, 9> types = {"IHDR", "PLTE", "tRNS", "cHRM", "gAMA",
+                                                       "iCCP", "sRGB", "IDAT", "IEND"};
+    return std::ranges::find(types, type) != types.end();
 }
 
 ImageStructure pngStructure(Bytes file) {
@@ -55,6 +82,7 @@ ImageStructure pngStructure(Bytes file) {
     ImageStructure structure{ImageStructure::Format::png};
     std::size_t offset = pngSignature.size();
     while (const auto chunk = pngChunk(file, offset)) {
+        if (belongsToPicture(chunk->type) && checksum(chunk->checked) != chunk->checksum) break;
         const Bytes data = chunk->data;
         if (chunk->type == "pHYs" && data.size() == 9 && data[8] == perMetre)
             structure.dotsPerInch =
@@ -66,12 +94,6 @@ ImageStructure pngStructure(Bytes file) {
         offset = chunk->end;
     }
     return structure;
-}
-
-bool belongsToPicture(std::string_view type) {
-    constexpr std::array<std::string_view, 9> types = {"IHDR", "PLTE", "tRNS", "cHRM", "gAMA",
-                                                       "iCCP", "sRGB", "IDAT", "IEND"};
-    return std::ranges::find(types, type) != types.end();
 }
 
 Resolution jfifResolution(Bytes segment) {

@@ -16,8 +16,8 @@ struct ImageStructure {
     };
 
     Format format;
-    /// Whether the file goes on to the end that its format marks, in a number of steps that an
-    /// honest file keeps to.
+    /// Whether the file goes on to the end that its format marks, with the right checksums where
+    /// it has some, in a number of steps that an honest file keeps to.
     bool isComplete = false;
     Resolution dotsPerInch;  ///< 72 where the file does not say.
 };

@@ -131,8 +131,6 @@ public:
     }
 
     ImagePointer draw(Size size) override {
-        // Qt fills up what is missing of a JPEG, and calls that a success.
-        if (!structure_.isComplete) return nullptr;
         const double scale = pixelsPerPoint_();
         const QSize available = upright(storedSize_);
         const QSize target(pixelsFor(size.width, scale, available.width()),
@@ -169,7 +167,8 @@ QtMediaLoader::QtMediaLoader(std::function<double()> pixelsPerPoint)
 std::unique_ptr<ImageFile> QtMediaLoader::openImage(const Url& url) {
     QByteArray file = contents(url);
     const auto structure = imageStructure(bytes(file));
-    if (!structure) return nullptr;
+    // Qt fills up what is missing of a JPEG, and calls that a success.
+    if (!structure || !structure->isComplete) return nullptr;
     if (structure->format == ImageStructure::Format::png)
         file.truncate(static_cast<qsizetype>(keepPictureOfPng(bytes(file))));
 

@@ -1,0 +1,271 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/stat.h>
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "fakes/FakeApplication.h"
+#include "platform/qt/DBusApplication.h"
+
+namespace vantle {
+namespace {
+
+constexpr int limit = 30'000;  // milliseconds
+
+/// A program whose lines are read one by one.
+class RunningProgram {
+public:
+    RunningProgram(const QString& program, const QStringList& arguments,
+                   const QProcessEnvironment& environment) {
+        process_.setProcessEnvironment(environment);
+        process_.start(program, arguments);
+    }
+    ~RunningProgram() {
+        process_.kill();
+        process_.waitForFinished(limit);
+    }
+
+    /// The next line on standard output; empty when there is none any more.
+    std::string line() {
+        while (!process_.canReadLine() && process_.waitForReadyRead(limit)) {
+        }
+        return process_.readLine().trimmed().toStdString();
+    }
+    std::string errors() {
+        process_.waitForFinished(limit);
+        return process_.readAllStandardError().toStdString();
+    }
+    void closeInput() { process_.closeWriteChannel(); }
+    void send(int signal) { ::kill(static_cast<pid_t>(process_.processId()), signal); }
+    int result() {
+        process_.waitForFinished(limit);
+        return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
+    }
+
+private:
+    QProcess process_;
+};
+
+using Program = std::unique_ptr<RunningProgram>;
+
+/// A session of its own for the copies of the program.
+class Session {
+public:
+    Session() {
+        environment_.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment_.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder_.path());
+        environment_.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                            QStringLiteral("unix:path=%1/none").arg(folder_.path()));
+    }
+
+    void startBus() {
+        bus_ = std::make_unique<RunningProgram>(
+            QStringLiteral("dbus-daemon"),
+            QStringList{QStringLiteral("--session"), QStringLiteral("--nofork"),
+                        QStringLiteral("--print-address"),
+                        QStringLiteral("--address=unix:path=%1/bus").arg(folder_.path())},
+            environment_);
+        address_ = QString::fromStdString(bus_->line());
+        environment_.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), address_);
+    }
+    void takeRuntimeFolder() { environment_.remove(QStringLiteral("XDG_RUNTIME_DIR")); }
+
+    Program startCopy(const QStringList& arguments = {}) const {
+        return std::make_unique<RunningProgram>(QStringLiteral(VANTLE_APPLICATION_COPY), arguments,
+                                                environment_);
+    }
+    const QString& address() const { return address_; }
+
+private:
+    QTemporaryDir folder_;
+    QProcessEnvironment environment_ = QProcessEnvironment::systemEnvironment();
+    Program bus_;
+    QString address_;
+};
+
+struct FakeStart {
+    /// What a start finds that has, or has not, a copy before it.
+    static std::string start(bool anotherRuns) {
+        fakes::FakeApplication application;
+        application.otherCopyRuns = anotherRuns;
+        if (!application.anotherCopyIsRunning()) return "first";
+        application.activateOtherCopy();
+        return application.otherCopyActivations == 1 ? "second" : "told no copy";
+    }
+};
+
+template <bool withBus>
+struct RealStart {
+    static std::string start(bool anotherRuns) {
+        Session session;
+        if (withBus) session.startBus();
+        Program before;
+        if (anotherRuns) {
+            before = session.startCopy();
+            before->line();
+        }
+        const auto copy = session.startCopy();
+        std::string found = copy->line();
+        if (before && before->line() != "reopened without windows") return "told no copy";
+        return found;
+    }
+};
+
+template <typename Start>
+class ApplicationContract : public testing::Test {};
+
+using Starts = testing::Types<FakeStart, RealStart<true>, RealStart<false>>;
+TYPED_TEST_SUITE(ApplicationContract, Starts);
+
+TYPED_TEST(ApplicationContract, TheFirstCopyFindsNoOther) {
+    EXPECT_EQ(TypeParam::start(false), "first");
+}
+
+TYPED_TEST(ApplicationContract, TheSecondCopyFindsTheFirstAndTellsIt) {
+    EXPECT_EQ(TypeParam::start(true), "second");
+}
+
+enum class Meeting { onBus, inRuntimeFolder };
+
+class CopiesMeet : public testing::TestWithParam<Meeting> {
+protected:
+    CopiesMeet() {
+        if (GetParam() == Meeting::onBus) session.startBus();
+    }
+    Session session;
+};
+
+INSTANTIATE_TEST_SUITE_P(DBusApplication, CopiesMeet,
+                         testing::Values(Meeting::onBus, Meeting::inRuntimeFolder),
+                         [](const auto& tested) {
+                             return tested.param == Meeting::onBus ? "OnBus" : "InRuntimeFolder";
+                         });
+
+TEST_P(CopiesMeet, EachLaterCopyReopensTheFirst) {
+    const auto first = session.startCopy({QStringLiteral("--window")});
+    ASSERT_EQ(first->line(), "first");
+    for (int i = 0; i < 2; ++i) {
+        const auto later = session.startCopy();
+        EXPECT_EQ(later->line(), "second");
+        EXPECT_EQ(later->result(), 0);
+        EXPECT_EQ(later->errors(), "");
+        EXPECT_EQ(first->line(), "reopened with windows");
+    }
+}
+
+TEST_P(CopiesMeet, AKilledCopyStandsInNobodysWay) {
+    const auto killed = session.startCopy();
+    ASSERT_EQ(killed->line(), "first");
+    killed->send(SIGKILL);
+    ASSERT_EQ(killed->result(), -1);
+    const auto next = session.startCopy();
+    EXPECT_EQ(next->line(), "first");
+    const auto later = session.startCopy();
+    EXPECT_EQ(later->line(), "second");
+    EXPECT_EQ(next->line(), "reopened without windows");
+}
+
+TEST_P(CopiesMeet, ACopyThatEndedStandsInNobodysWay) {
+    const auto ended = session.startCopy();
+    ASSERT_EQ(ended->line(), "first");
+    ended->closeInput();
+    EXPECT_EQ(ended->line(), "ended");
+    EXPECT_EQ(ended->result(), 0);
+    EXPECT_EQ(session.startCopy()->line(), "first");
+}
+
+TEST_P(CopiesMeet, ACopyThatHangsDoesNotHangTheNext) {
+    const auto hanging = session.startCopy();
+    ASSERT_EQ(hanging->line(), "first");
+    hanging->send(SIGSTOP);
+    const auto next = session.startCopy();
+    EXPECT_EQ(next->line(), "second");
+    EXPECT_EQ(next->result(), 0);
+}
+
+TEST(DBusApplicationTest, WithoutBusAndRuntimeFolderACopyStartsAndSaysSo) {
+    Session session;
+    session.takeRuntimeFolder();
+    const auto copy = session.startCopy();
+    EXPECT_EQ(copy->line(), "first");
+    copy->closeInput();
+    EXPECT_THAT(copy->errors(),
+                testing::HasSubstr("Vantle: no session bus; a second start cannot be detected\n"));
+}
+
+TEST(DBusApplicationTest, ASignalEndsItInOrder) {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        const Session session;
+        const auto copy = session.startCopy();
+        ASSERT_EQ(copy->line(), "first");
+        copy->send(signal);
+        EXPECT_EQ(copy->line(), "ended");
+        EXPECT_EQ(copy->result(), 0);
+    }
+}
+
+/// Calls a method of the first copy as a launcher would.
+QDBusMessage call(const Session& session, const QString& method, const QVariantList& arguments,
+                  const QString& interface = QStringLiteral("org.freedesktop.Application")) {
+    const QString name = QStringLiteral("tests");
+    auto bus = QDBusConnection::connectToBus(session.address(), name);
+    auto message =
+        QDBusMessage::createMethodCall(QStringLiteral("org.vantle.Vantle"),
+                                       QStringLiteral("/org/vantle/Vantle"), interface, method);
+    message.setArguments(arguments);
+    const auto reply = bus.call(message, QDBus::Block, limit);
+    QDBusConnection::disconnectFromBus(name);
+    return reply;
+}
+
+TEST(DBusApplicationTest, ALauncherIsAnswered) {
+    Session session;
+    session.startBus();
+    const auto copy = session.startCopy();
+    ASSERT_EQ(copy->line(), "first");
+    const QVariantMap data{{QStringLiteral("desktop-startup-id"), QStringLiteral("1")}};
+    const std::array<std::pair<QString, QVariantList>, 3> calls{
+        {{QStringLiteral("Activate"), {data}},
+         {QStringLiteral("Open"), {QStringList{QStringLiteral("file:///tmp/a.png")}, data}},
+         {QStringLiteral("ActivateAction"), {QStringLiteral("settings"), QVariantList{}, data}}}};
+    for (const auto& [method, arguments] : calls) {
+        const auto reply = call(session, method, arguments);
+        EXPECT_EQ(reply.type(), QDBusMessage::ReplyMessage) << reply.errorMessage().toStdString();
+        EXPECT_EQ(copy->line(), "reopened without windows");
+    }
+}
+
+TEST(DBusApplicationTest, ItDescribesItsMethodsAsTheDesktopExpectsThem) {
+    Session session;
+    session.startBus();
+    const auto copy = session.startCopy();
+    ASSERT_EQ(copy->line(), "first");
+    const auto reply = call(session, QStringLiteral("Introspect"), {},
+                            QStringLiteral("org.freedesktop.DBus.Introspectable"));
+    const std::string description = reply.arguments().value(0).toString().toStdString();
+    EXPECT_THAT(description,
+                testing::HasSubstr("<interface name=\"org.freedesktop.Application\">"));
+    for (const auto* method : {"Activate", "Open", "ActivateAction"})
+        EXPECT_THAT(description,
+                    testing::HasSubstr("<method name=\"" + std::string(method) + "\">"));
+    EXPECT_THAT(description, testing::Not(testing::HasSubstr("reopen")));
+    EXPECT_THAT(description, testing::HasSubstr("type=\"a{sv}\""));
+}
+
+TEST(DBusApplicationTest, ItKeepsThePolicyForWindows) {
+    DBusApplication application("org.vantle.Vantle");
+    EXPECT_EQ(application.activationPolicy(), Application::ActivationPolicy::accessory);
+    application.setActivationPolicy(Application::ActivationPolicy::regular);
+    EXPECT_EQ(application.activationPolicy(), Application::ActivationPolicy::regular);
+}
+
+}  // namespace
+}  // namespace vantle
