@@ -19,7 +19,8 @@ namespace {
 [[noreturn]] void execute(const char* executable, char* const* arguments, int report) {
     const int null = open("/dev/null", O_RDWR);
     for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(null, standard);
-    if (null > STDERR_FILENO) close(null);
+    // Libraries open some without the mark that closes them here.
+    close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
     for (int number = 1; number < NSIG; ++number) signal(number, SIG_DFL);
     sigset_t none;
     sigemptyset(&none);

@@ -1,0 +1,128 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "Locked.h"
+#include "TemporaryFolder.h"
+#include "TextFile.h"
+#include "fakes/FakeLoginItem.h"
+#include "platform/linux/AutostartLoginItem.h"
+
+namespace vantle {
+namespace {
+
+using Status = LoginItem::Status;
+
+struct RememberedItem {
+    fakes::FakeLoginItem item;
+
+    int forbid() {
+        item.failure = Failure{EACCES, "Permission denied", ""};
+        return 0;
+    }
+};
+
+struct DesktopItem {
+    TemporaryFolder folder;
+    AutostartLoginItem item{folder.url(), "org.example.Program", "/opt/Program/program"};
+
+    std::unique_ptr<Locked> forbid() {
+        return std::make_unique<Locked>(
+            folder.url(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    }
+};
+
+template <typename Desktop>
+class LoginItemContract : public testing::Test {
+protected:
+    Desktop desktop;
+    LoginItem& item = desktop.item;
+};
+
+using Desktops = testing::Types<RememberedItem, DesktopItem>;
+TYPED_TEST_SUITE(LoginItemContract, Desktops);
+
+TYPED_TEST(LoginItemContract, IsNotRegisteredAtFirst) {
+    EXPECT_EQ(this->item.status(), Status::notRegistered);
+}
+
+TYPED_TEST(LoginItemContract, IsRegisteredAndUnregistered) {
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(this->item.registerItem(), std::nullopt);
+        EXPECT_EQ(this->item.registerItem(), std::nullopt);
+        EXPECT_EQ(this->item.status(), Status::enabled);
+        EXPECT_EQ(this->item.unregisterItem(), std::nullopt);
+        EXPECT_EQ(this->item.status(), Status::notRegistered);
+    }
+}
+
+TYPED_TEST(LoginItemContract, UnregisteringWhatIsNotRegisteredIsASuccess) {
+    EXPECT_EQ(this->item.unregisterItem(), std::nullopt);
+    EXPECT_EQ(this->item.status(), Status::notRegistered);
+}
+
+TYPED_TEST(LoginItemContract, AFailureIsToldAndChangesNothing) {
+    [[maybe_unused]] const auto forbidden = this->desktop.forbid();
+    const auto failure = this->item.registerItem();
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->code, EACCES);
+    EXPECT_EQ(this->item.status(), Status::notRegistered);
+}
+
+class AutostartLoginItemTest : public testing::Test {
+protected:
+    std::string entryFor(const std::string& executable) const {
+        AutostartLoginItem other(folder.url(), "org.example.Program", executable);
+        EXPECT_EQ(other.registerItem(), std::nullopt);
+        return readText(entry);
+    }
+
+    TemporaryFolder folder;
+    Url entry = folder / "org.example.Program.desktop";
+    AutostartLoginItem item{folder.url(), "org.example.Program", "/opt/Program/program"};
+};
+
+TEST_F(AutostartLoginItemTest, TheFolderIsMadeWhenItIsMissing) {
+    AutostartLoginItem deep((folder / "config").appending("autostart"), "org.example.Program",
+                            "/opt/program");
+    EXPECT_EQ(deep.registerItem(), std::nullopt);
+    EXPECT_EQ(deep.status(), Status::enabled);
+}
+
+TEST_F(AutostartLoginItemTest, ThePathOfTheProgramIsQuoted) {
+    const auto has = [](const char* line) { return testing::HasSubstr(line); };
+    EXPECT_THAT(entryFor("/opt/a b/program"), has("\nExec=\"/opt/a b/program\"\n"));
+    EXPECT_THAT(entryFor("/opt/100%/program"), has("\nExec=\"/opt/100%%/program\"\n"));
+    EXPECT_THAT(entryFor("/opt/$HOME`\"/program"),
+                has("\nExec=\"/opt/\\\\$HOME\\\\`\\\\\"/program\"\n"));
+    EXPECT_THAT(entryFor("/opt/a\\b/program"), has("\nExec=\"/opt/a\\\\\\\\b/program\"\n"));
+}
+
+TEST_F(AutostartLoginItemTest, AnEntryThatTheDesktopSwitchedOffIsNotRegistered) {
+    for (const auto* off : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n"}) {
+        ASSERT_EQ(item.registerItem(), std::nullopt);
+        writeText(entry,
+                  "[Desktop Entry]\nType=Application\nExec=/opt/program\n" + std::string(off));
+        EXPECT_EQ(item.status(), Status::notRegistered);
+        EXPECT_EQ(item.registerItem(), std::nullopt);
+        EXPECT_EQ(item.status(), Status::enabled);
+    }
+}
+
+TEST_F(AutostartLoginItemTest, WhatIsNoDesktopEntryIsNotRegistered) {
+    for (const auto& text : {std::string(), std::string("\0\xff", 2), std::string(1 << 20, 'x')}) {
+        writeText(entry, text);
+        EXPECT_EQ(item.status(), Status::notRegistered);
+    }
+    std::filesystem::remove(entry.path());
+    std::filesystem::create_directory(entry.path());
+    EXPECT_EQ(item.status(), Status::notRegistered);
+    EXPECT_NE(item.registerItem(), std::nullopt);
+}
+
+}  // namespace
+}  // namespace vantle

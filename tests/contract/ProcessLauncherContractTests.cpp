@@ -1,0 +1,140 @@
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "TemporaryFolder.h"
+#include "TextFile.h"
+#include "Waiting.h"
+#include "fakes/FakeProcessLauncher.h"
+#include "platform/linux/PosixProcessLauncher.h"
+
+namespace vantle {
+namespace {
+
+using Arguments = std::vector<std::string>;
+
+struct RecordedLauncher {
+    fakes::FakeProcessLauncher launcher;
+
+    Outcome launchSomething(const Arguments& arguments) {
+        return launcher.launch("/bin/sh", arguments);
+    }
+    Outcome launchNothing() {
+        launcher.failure = Failure{ENOENT, "No such file or directory", "/nothing"};
+        return launcher.launch("/nothing", {});
+    }
+    Arguments received() { return launcher.launched.at(0).arguments; }
+};
+
+/// Starts a shell that writes its arguments down, one behind a zero byte each.
+struct RealLauncher {
+    TemporaryFolder folder;
+    PosixProcessLauncher launcher;
+
+    Outcome launchSomething(const Arguments& arguments) {
+        const std::string script =
+            "cd '" + folder.url().path() + "'; printf '%s\\0' \"$@\" >new; mv new received";
+        Arguments all{"-c", script, "sh"};
+        all.insert(all.end(), arguments.begin(), arguments.end());
+        return launcher.launch("/bin/sh", all);
+    }
+    Outcome launchNothing() { return launcher.launch((folder / "nothing").path(), {}); }
+    Arguments received() {
+        const Url file = folder / "received";
+        EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(file.path()); }));
+        Arguments arguments;
+        std::istringstream text(readText(file));
+        for (std::string one; std::getline(text, one, '\0');) arguments.push_back(one);
+        return arguments;
+    }
+};
+
+template <typename Launcher>
+class ProcessLauncherContract : public testing::Test {
+protected:
+    Launcher launcher;
+};
+
+using Launchers = testing::Types<RecordedLauncher, RealLauncher>;
+TYPED_TEST_SUITE(ProcessLauncherContract, Launchers);
+
+TYPED_TEST(ProcessLauncherContract, TheProgramGetsItsArgumentsAsTheyAre) {
+    const Arguments arguments{"plain", "", "two words", "$HOME; `id`", "new\nline", "\xff%20\\"};
+    EXPECT_EQ(this->launcher.launchSomething(arguments), std::nullopt);
+    EXPECT_EQ(this->launcher.received(), arguments);
+}
+
+TYPED_TEST(ProcessLauncherContract, AProgramThatIsNotThereCannotBeStarted) {
+    const auto failure = this->launcher.launchNothing();
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->code, ENOENT);
+}
+
+class PosixProcessLauncherTest : public testing::Test {
+protected:
+    /// What a shell script, run with the folder as its working folder, leaves in the file "out".
+    std::string outputOf(const std::string& script) {
+        const Url file = folder / "out";
+        const std::string whole =
+            "cd '" + folder.url().path() + "'; { " + script + "; } >new; mv new out";
+        EXPECT_EQ(launcher.launch("/bin/sh", {"-c", whole}), std::nullopt);
+        EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(file.path()); }));
+        return readText(file);
+    }
+
+    TemporaryFolder folder;
+    PosixProcessLauncher launcher;
+};
+
+TEST_F(PosixProcessLauncherTest, AFileThatIsNoProgramCannotBeStarted) {
+    writeText(folder / "text", "No program.\n");
+    const auto failure = launcher.launch((folder / "text").path(), {});
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->code, EACCES);
+}
+
+TEST_F(PosixProcessLauncherTest, NothingIsLeftBehindToCollect) {
+    outputOf("true");
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+}
+
+TEST_F(PosixProcessLauncherTest, TheProgramHasNoStandardStreamsOfOurs) {
+    EXPECT_EQ(outputOf("readlink /proc/$$/fd/0; readlink /proc/$$/fd/2"), "/dev/null\n/dev/null\n");
+}
+
+TEST_F(PosixProcessLauncherTest, TheProgramInheritsNoOtherDescriptors) {
+    const int leaked = open("/dev/zero", O_RDONLY);
+    EXPECT_EQ(outputOf("ls -l /proc/$$/fd | grep -c /dev/zero || true"), "0\n");
+    close(leaked);
+}
+
+TEST_F(PosixProcessLauncherTest, TheProgramBlocksAndIgnoresNoSignals) {
+    sigset_t blocked;
+    sigset_t before;
+    sigemptyset(&blocked);
+    sigaddset(&blocked, SIGTERM);
+    pthread_sigmask(SIG_BLOCK, &blocked, &before);
+    const auto handlerBefore = signal(SIGPIPE, SIG_IGN);
+    EXPECT_EQ(outputOf("grep -E 'SigBlk|SigIgn' /proc/self/status"),
+              "SigBlk:\t0000000000000000\nSigIgn:\t0000000000000000\n");
+    signal(SIGPIPE, handlerBefore);
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+}
+
+TEST_F(PosixProcessLauncherTest, TheProgramIsInASessionOfItsOwn) {
+    const std::string session = outputOf("cut -d' ' -f6 /proc/self/stat");
+    EXPECT_NE(session, std::to_string(getsid(0)) + "\n");
+}
+
+}  // namespace
+}  // namespace vantle

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+#include "support/Url.h"
+
+namespace vantle {
+
+inline void writeText(const Url& file, std::string_view text) {
+    std::ofstream(file.path(), std::ios::binary) << text;
+}
+
+/// Empty when there is no such file.
+inline std::string readText(const Url& file) {
+    std::ifstream stream(file.path(), std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+}  // namespace vantle
