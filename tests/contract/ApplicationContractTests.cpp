@@ -135,6 +135,10 @@ TYPED_TEST(ApplicationContract, TheSecondCopyFindsTheFirstAndTellsIt) {
 
 enum class Meeting { onBus, inRuntimeFolder };
 
+void PrintTo(Meeting meeting, std::ostream* stream) {
+    *stream << (meeting == Meeting::onBus ? "OnBus" : "InRuntimeFolder");
+}
+
 class CopiesMeet : public testing::TestWithParam<Meeting> {
 protected:
     CopiesMeet() {
@@ -145,9 +149,7 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(DBusApplication, CopiesMeet,
                          testing::Values(Meeting::onBus, Meeting::inRuntimeFolder),
-                         [](const auto& tested) {
-                             return tested.param == Meeting::onBus ? "OnBus" : "InRuntimeFolder";
-                         });
+                         testing::PrintToStringParamName());
 
 TEST_P(CopiesMeet, EachLaterCopyReopensTheFirst) {
     const auto first = session.startCopy({QStringLiteral("--window")});
