@@ -60,7 +60,8 @@ Item {
         objectName: "thumbnail"
         width: tile.tileWidth
         height: tile.thumbnailHeight
-        sourceSize: Qt.size(width, height)
+        // One value, so that a change of both loads once. The linter takes it for a size in fractions.
+        sourceSize: Qt.size(width, height) // qmllint disable
         source: "image://thumbnail/%1/%2x%3".arg(tile.captureId).arg(width).arg(height)
         cache: false
 
