@@ -58,10 +58,31 @@ PanelModel::Rendering rendering(const Platform& platform) {
                                                        : PanelModel::Rendering::glass;
 }
 
+/// A window cannot choose its place on native Wayland: X11 comes first where both answer. Only for
+/// this program, not for those that it starts.
+class X11Preference {
+public:
+    X11Preference() {
+        if (!wasChosen_) qputenv(variable, "xcb;wayland");
+    }
+    ~X11Preference() {
+        if (!wasChosen_) qunsetenv(variable);
+    }
+
+private:
+    static constexpr auto variable = "QT_QPA_PLATFORM";
+    const bool wasChosen_ = qEnvironmentVariableIsSet(variable);
+};
+
+QGuiApplication makeApplication(int& argc, char** argv) {
+    const X11Preference preference;
+    return QGuiApplication(argc, argv);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    QGuiApplication application(argc, argv);
+    QGuiApplication application = makeApplication(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
 
     Platform platform = makePlatform();

@@ -15,6 +15,14 @@ _MARK = "VANTLE_PRIVATE_DESKTOP"
 _KEPT_VARIABLES = ("PATH", "LANG", "LC_ALL", "USER", "LOGNAME", "TZ")
 _KEPT_PREFIXES = ("VANTLE_", "ASAN_", "UBSAN_", "LSAN_", "TSAN_")
 BAR_HEIGHT = 26
+FONT_SETTINGS = """<?xml version="1.0"?>
+<fontconfig>
+  <alias binding="same">
+    <family>sans-serif</family>
+    <prefer><family>Inter</family></prefer>
+  </alias>
+</fontconfig>
+"""
 GRADIENT = ("#1d2b4a", "#4a5f8f", "#b78fa0", "#f0c9a4")
 
 
@@ -58,6 +66,7 @@ class PrivateDesktop:
 
     def _start(self):
         self._make_folders()
+        self._choose_font()
         self._start_server()
         self._start_bus()
         self._start_window_manager()
@@ -91,6 +100,12 @@ class PrivateDesktop:
             "XDG_CACHE_HOME": str(home / ".cache"),
             "XDG_SESSION_TYPE": "x11",
         }
+
+    def _choose_font(self):
+        """The letters of a real desktop, where they are installed."""
+        settings = pathlib.Path(self.environment["XDG_CONFIG_HOME"], "fontconfig/fonts.conf")
+        settings.parent.mkdir(parents=True)
+        settings.write_text(FONT_SETTINGS)
 
     def start(self, *arguments, **options):
         """Starts a program on this desktop; it is ended with the desktop at the latest."""
