@@ -9,7 +9,7 @@
 namespace vantle {
 namespace {
 
-constexpr std::size_t largestFile = 1024 * 1024;
+constexpr std::size_t largestFile = std::size_t{1024} * 1024;
 
 }  // namespace
 

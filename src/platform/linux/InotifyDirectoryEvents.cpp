@@ -52,7 +52,7 @@ public:
 private:
     void readEvents(int inotify) {
         DirectoryChange change;
-        alignas(inotify_event) std::array<char, 64 * 1024> buffer;
+        alignas(inotify_event) std::array<char, std::size_t{64} * 1024> buffer;
         ssize_t length = 0;
         while (!cancelled_ && (length = read(inotify, buffer.data(), buffer.size())) > 0)
             merge(buffer.data(), static_cast<std::size_t>(length), change);

@@ -60,7 +60,7 @@ Result<std::string> readWholeFile(const Url& file, std::size_t limit) {
     if (!S_ISREG(status.st_mode)) return systemFailure(EINVAL, file.path());
 
     std::string contents;
-    std::array<char, 16 * 1024> buffer;
+    std::array<char, std::size_t{16} * 1024> buffer;
     for (;;) {
         const ssize_t length = read(descriptor.get(), buffer.data(), buffer.size());
         if (length < 0 && errno == EINTR) continue;
