@@ -22,7 +22,7 @@ Url SystemScreenshotPrefs::defaultLocation() const {
 Url SystemScreenshotPrefs::location() const {
     const auto path = valueOfType<std::string>(preferences_, locationKey);
     if (!path || path->empty()) return defaultLocation();
-    const Url folder = expandingTilde(*path);
+    Url folder = expandingTilde(*path);
     // A stale setting must never yield a folder that cannot be watched.
     if (files_.existence(folder) != FileManager::Existence::directory) return defaultLocation();
     return folder;

@@ -83,9 +83,9 @@ TYPED_TEST(SchedulerContract, PostedWorkRunsInTheOrderOfTheCalls) {
 }
 
 TYPED_TEST(SchedulerContract, DeferredWorkRunsInTheOrderOfItsFireDates) {
-    this->scheduler.after(Seconds(0.03), this->note("third"));
-    this->scheduler.after(Seconds(0.01), this->note("first"));
-    this->scheduler.after(Seconds(0.02), this->note("second"));
+    this->scheduler.after(Seconds(0.3), this->note("third"));
+    this->scheduler.after(Seconds(0.1), this->note("first"));
+    this->scheduler.after(Seconds(0.2), this->note("second"));
     ASSERT_TRUE(this->loop.runUntil(this->count(3)));
     EXPECT_THAT(this->ran, ElementsAre("first", "second", "third"));
 }
@@ -211,19 +211,19 @@ TEST_F(QtSchedulerTest, WorkCanBePostedFromAnyThread) {
 }
 
 TEST_F(QtSchedulerTest, OverdueWorkRunsInTheOrderOfItsFireDates) {
-    loop.scheduler.after(Seconds(0.002), note("second"));
+    loop.scheduler.after(Seconds(0.1), note("second"));
     loop.scheduler.after(Seconds(0.001), note("first"));
-    runFor(Seconds(0.005));
+    runFor(Seconds(0.11));
     loop.scheduler.after(Seconds(0), note("third"));
     ASSERT_TRUE(loop.runUntil(count(3)));
     EXPECT_THAT(ran, ElementsAre("first", "second", "third"));
 }
 
 TEST_F(QtSchedulerTest, WorkDueSinceAnEarlierPieceKeepsItsPlace) {
-    loop.scheduler.after(Seconds(0.004), note("last"));
+    loop.scheduler.after(Seconds(0.1), note("last"));
     loop.scheduler.after(Seconds(0), [this] {
         loop.scheduler.after(Seconds(0.001), note("first"));
-        runFor(Seconds(0.008));
+        runFor(Seconds(0.11));
     });
     ASSERT_TRUE(loop.runUntil(count(2)));
     EXPECT_THAT(ran, ElementsAre("first", "last"));

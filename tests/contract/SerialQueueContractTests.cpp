@@ -75,9 +75,9 @@ TYPED_TEST(SerialQueueContract, WorkRunsInTheOrderOfTheCalls) {
 
 TYPED_TEST(SerialQueueContract, DelayedWorkRunsInTheOrderOfItsDueTimes) {
     this->queue.async([this] {
-        this->queue.after(Seconds(0.06), this->note("third"));
-        this->queue.after(Seconds(0.02), this->note("first"));
-        this->queue.after(Seconds(0.04), this->note("second"));
+        this->queue.after(Seconds(0.3), this->note("third"));
+        this->queue.after(Seconds(0.1), this->note("first"));
+        this->queue.after(Seconds(0.2), this->note("second"));
     });
     ASSERT_TRUE(this->made.waitUntil(this->count(3)));
     EXPECT_THAT(this->ran(), ElementsAre("first", "second", "third"));

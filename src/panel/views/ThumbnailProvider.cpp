@@ -14,7 +14,7 @@ constexpr float groundOpacity = 0.25F;
 /// A view of the thumbnail's pixels, not a copy: valid while the thumbnail lives.
 QImage view(const Image& thumbnail) {
     return {thumbnail.rgba.data(), thumbnail.pixelsWide, thumbnail.pixelsHigh,
-            thumbnail.pixelsWide * 4, QImage::Format_RGBA8888_Premultiplied};
+            qsizetype{4} * thumbnail.pixelsWide, QImage::Format_RGBA8888_Premultiplied};
 }
 
 void drawFitted(QPainter& painter, const QImage& image, const QSize& target) {

@@ -12,7 +12,7 @@
 namespace vantle {
 namespace {
 
-constexpr std::size_t largestEntry = 64 * 1024;
+constexpr std::size_t largestEntry = std::size_t{64} * 1024;
 
 /// An argument of an Exec line: in quotes, which themselves and backslash, backquote and dollar are
 /// escaped; the backslashes are escaped once more by the rules for text, and % stands doubled.

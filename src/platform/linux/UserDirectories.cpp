@@ -59,7 +59,7 @@ Url UserDirectories::home() const {
         return Url::file(*home);
     passwd entry{};
     passwd* found = nullptr;
-    std::array<char, 16 * 1024> buffer{};
+    std::array<char, std::size_t{16} * 1024> buffer{};
     getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found);
     return Url::file(found ? found->pw_dir : "/");
 }

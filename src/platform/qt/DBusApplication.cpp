@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QVariantMap>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 #include "support/SystemLog.h"
@@ -19,9 +20,9 @@ bool isOrdinary(const QWindow& window) {
 }
 
 bool hasVisibleWindows() {
-    for (const QWindow* window : QGuiApplication::topLevelWindows())
-        if (isOrdinary(*window) && window->isVisible()) return true;
-    return false;
+    return std::ranges::any_of(QGuiApplication::topLevelWindows(), [](const QWindow* window) {
+        return isOrdinary(*window) && window->isVisible();
+    });
 }
 
 QDBusMessage ask(QDBusMessage message) {

@@ -22,7 +22,7 @@ namespace {
 // Two 8K screens side by side, with 16 bits a channel.
 constexpr double mostPixels = 2.0 * 7680 * 4320;
 constexpr int mostMegabytes = 512;
-constexpr qint64 largestFile = 256 * 1024 * 1024;
+constexpr qint64 largestFile = qint64{256} * 1024 * 1024;
 constexpr double pointsPerInch = 72;
 
 /// The bytes of a regular file; empty for anything else, and for what is too large.
