@@ -144,4 +144,5 @@ def main():
         print(f"{what:<{width}}  {value}")
 
 
-main()
+if __name__ == "__main__":
+    main()

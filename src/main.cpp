@@ -1,3 +1,5 @@
+#include <malloc.h>
+
 #include <QGuiApplication>
 #include <memory>
 
@@ -74,6 +76,12 @@ private:
     const bool wasChosen_ = qEnvironmentVariableIsSet(variable);
 };
 
+/// Pictures come and go in many sizes. Where the allocator keeps their room for later, as it begins
+/// to after the first large one, forty captures cost a fifth more.
+void returnLargeBlocksAtOnce() {
+    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
+}
+
 QGuiApplication makeApplication(int& argc, char** argv) {
     const X11Preference preference;
     return QGuiApplication(argc, argv);
@@ -82,6 +90,7 @@ QGuiApplication makeApplication(int& argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    returnLargeBlocksAtOnce();
     QGuiApplication application = makeApplication(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
 

@@ -46,6 +46,7 @@ protected:
 
     /// A card over the state as it is, at rest.
     void makeCard() {
+        view.reset();
         model = std::make_unique<PanelModel>(state, actions, PanelModel::Rendering::glass);
         view = std::make_unique<QQuickView>();
         view->setResizeMode(QQuickView::SizeRootObjectToView);

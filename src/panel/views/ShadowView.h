@@ -2,13 +2,15 @@
 
 #include <QtQml/qqmlregistration.h>
 
-#include <QQuickPaintedItem>
+#include <QImage>
+#include <QQuickItem>
 
 namespace vantle {
 
-/// The black shadow of a rounded plate of this item's size minus `blur` on each side. The blurred
-/// picture is made once for each size: it is painted only when that changes.
-class ShadowView : public QQuickPaintedItem {
+/// The black shadow of a rounded plate of this item's size minus `blur` on each side. It is put
+/// together of four corners and what is stretched between them, so that a shadow of any size costs
+/// one small picture, and growing costs nothing.
+class ShadowView : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
 
@@ -19,15 +21,21 @@ class ShadowView : public QQuickPaintedItem {
 public:
     explicit ShadowView(QQuickItem* parent = nullptr);
 
-    void paint(QPainter* painter) override;
-
 signals:
     void changed();
 
+protected:
+    QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
+
 private:
+    /// The smallest shadow that has whole corners, whose sides are `corner` pixels long, and one
+    /// row and one column between them.
+    QImage cornersOnly(int corner, double pixelsPerPoint) const;
+
     double cornerRadius_ = 0;
     double blur_ = 0;
     double strength_ = 0;
+    double drawnPixelsPerPoint_ = 0;  ///< 0 when what is drawn does not show the properties.
 };
 
 }  // namespace vantle
