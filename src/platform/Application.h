@@ -16,8 +16,8 @@ public:
 
     virtual void setActivationPolicy(ActivationPolicy policy) = 0;
 
-    /// Whether a copy of this program was running in this session before this one. The copy that
-    /// asks first becomes the one that others find.
+    /// Whether a copy of this program was running in the same desktop session before this one. The
+    /// copy that asks first becomes the one that others find.
     virtual bool anotherCopyIsRunning() = 0;
 
     /// Brings that copy forward; it is told through its own `onReopen`. Returns when it was told.
