@@ -173,14 +173,17 @@ void CapturePanelController::dismiss() {
     state_.pinned.set({});
     state_.marquee.set(std::nullopt);
     state_.visible.set(false);
-    hideWork_ = services_.scheduler.after(hideDelay, weakly(shared_from_this(), [](auto& self) {
-                                              // A second dismissal may have put its own work in the
-                                              // place of this one.
-                                              if (!self.hideWork_->isValid())
-                                                  self.hideWork_.reset();
-                                              self.state_.captures.set({});
-                                              if (self.panel_) self.panel_->orderOut();
-                                          }));
+    hideWork_ = services_.scheduler.after(
+        hideDelay, weakly(shared_from_this(), [](auto& self) { self.hide(); }));
+}
+
+void CapturePanelController::hide() {
+    // Of two dismissals the first one's work is still under way: a capture that came since then
+    // has taken back both.
+    if (!hideWork_) return;
+    if (!hideWork_->isValid()) hideWork_.reset();
+    state_.captures.set({});
+    if (panel_) panel_->orderOut();
 }
 
 }  // namespace vantle

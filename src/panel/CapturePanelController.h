@@ -76,6 +76,7 @@ private:
     void restartCountdown();
     void scheduleDebugHooks();
     void writeSnapshot(const std::string& path);
+    void hide();
 
     void startTimers(Seconds remaining);
     void invalidateTimers();
@@ -90,7 +91,7 @@ private:
     TimerPointer progressTimer_;
     std::optional<Seconds> pausedRemaining_;
     std::vector<Subscription> cancellables_;
-    TimerPointer hideWork_;
+    TimerPointer hideWork_;  ///< Of the latest dismissal, until it has run or was taken back.
 };
 
 }  // namespace vantle

@@ -128,6 +128,18 @@ TEST_F(PanelControllerTest, AShowDuringADismissalKeepsTheOldCaptures) {
     EXPECT_TRUE(panel.isOnScreen);
 }
 
+TEST_F(PanelControllerTest, AShowAfterTwoDismissalsKeepsTheOldCaptures) {
+    show({"a", "b"});
+    controller().dismiss();
+    wait(0.1);
+    controller().dismiss();
+    wait(0.2);
+    show({"c"});
+    wait(5);
+    EXPECT_THAT(shownNames(), ElementsAre("a.png", "b.png", "c.png"));
+    EXPECT_TRUE(panel.isOnScreen);
+}
+
 TEST_F(PanelControllerTest, RemovingTheLastCaptureDismisses) {
     const auto shown = show({"a", "b"});
     controller().remove(shown[0]);
