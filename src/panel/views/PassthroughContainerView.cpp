@@ -3,8 +3,8 @@
 #include <QEvent>
 #include <QQuickItem>
 
-#include "panel/views/InputRegion.h"
 #include "panel/views/RoundedShape.h"
+#include "platform/qt/InputRegion.h"
 
 namespace vantle {
 namespace {

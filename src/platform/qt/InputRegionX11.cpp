@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "panel/views/InputRegion.h"
+#include "platform/qt/InputRegion.h"
 
 namespace vantle {
 namespace {
