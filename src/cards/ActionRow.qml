@@ -12,16 +12,14 @@ Item {
     height: 30
 
     Repeater {
-        model: row.panel.captures
+        model: row.panel.count === 1 ? row.panel.captures : null
 
         delegate: Column {
             id: lines
 
-            required property int index
             required property string fileName
             required property string pixelSizeText
 
-            visible: index === 0
             width: row.width
             spacing: 1
 
