@@ -1,5 +1,6 @@
 #include "capture/CaptureWatcher.h"
 
+#include <cerrno>
 #include <utility>
 
 #include "support/Debug.h"
@@ -14,12 +15,8 @@ constexpr Seconds pollingInterval{0.25};
 constexpr int lastAttempt = 41;
 constexpr std::int64_t unknownSize = -1;
 
-constexpr int operationNotPermitted = 1;  // EPERM
-constexpr int permissionDenied = 13;      // EACCES
-
 WatchError watchError(const Failure& failure) {
-    if (failure.code == operationNotPermitted || failure.code == permissionDenied)
-        return WatchError::accessDenied();
+    if (failure.code == EPERM || failure.code == EACCES) return WatchError::accessDenied();
     return WatchError::other(failure.message);
 }
 

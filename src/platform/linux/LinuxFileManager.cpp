@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "platform/linux/DirectoryStream.h"
@@ -69,19 +71,11 @@ std::optional<std::int64_t> LinuxFileManager::fileSize(const Url& url) const {
 }
 
 Outcome LinuxFileManager::createDirectory(const Url& folder) {
-    if (existence(folder) == Existence::directory) return {};
-    if (mkdir(folder.path().c_str(), 0777) == 0) return {};
-    const int error = errno;
-    const Url parent = folder.deletingLastPathComponent();
-    if (error != ENOENT || parent == folder) {
-        // Somebody else may have made it meanwhile.
-        if (existence(folder) == Existence::directory) return {};
-        return systemFailure(error, folder.path());
-    }
-    if (auto failure = createDirectory(parent)) return failure;
-    if (mkdir(folder.path().c_str(), 0777) == 0 || existence(folder) == Existence::directory)
-        return {};
-    return systemFailure(errno, folder.path());
+    if (existence(folder) == Existence::file) return systemFailure(EEXIST, folder.path());
+    std::error_code error;
+    std::filesystem::create_directories(folder.path(), error);
+    if (error) return systemFailure(error.value(), folder.path());
+    return {};
 }
 
 Url LinuxFileManager::homeDirectory() const {

@@ -75,7 +75,7 @@ Outcome replaceWholeFile(const Url& file, std::string_view contents) {
     const Url place = target(file);
     std::error_code error;
     std::filesystem::create_directories(place.deletingLastPathComponent().path(), error);
-    if (error) return Failure{error.value(), error.message(), place.path()};
+    if (error) return systemFailure(error.value(), place.path());
 
     std::string temporary = place.path() + ".XXXXXX";
     FileDescriptor descriptor(mkostemp(temporary.data(), O_CLOEXEC));
