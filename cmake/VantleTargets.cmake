@@ -12,12 +12,14 @@ target_compile_options(
             # Designated initializers leave the rest at their defaults on purpose.
             -Wno-missing-field-initializers
             # GCC 12 sees overlaps in std::string where there are none, once all is inlined.
-            -Wno-restrict
+            $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
             $<$<BOOL:${VANTLE_WARNINGS_AS_ERRORS}>:-Werror>)
 
 function(vantle_add_library name)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
   add_library(vantle_${name} STATIC ${arg_SOURCES})
   target_include_directories(vantle_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  # The decoder's modules are shared objects made of these libraries.
+  set_target_properties(vantle_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
   target_link_libraries(vantle_${name} PUBLIC ${arg_LINKS} PRIVATE vantle_warnings)
 endfunction()

@@ -10,8 +10,8 @@
 #include <cstring>
 #include <utility>
 
-#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/SystemFailure.h"
+#include "support/FileDescriptor.h"
 
 namespace vantle {
 namespace {

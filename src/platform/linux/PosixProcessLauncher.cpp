@@ -8,8 +8,8 @@
 #include <array>
 #include <cerrno>
 
-#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/SystemFailure.h"
+#include "support/FileDescriptor.h"
 
 namespace vantle {
 namespace {

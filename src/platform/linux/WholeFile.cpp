@@ -12,8 +12,8 @@
 #include <memory>
 #include <system_error>
 
-#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/SystemFailure.h"
+#include "support/FileDescriptor.h"
 
 namespace vantle {
 namespace {

@@ -11,7 +11,7 @@
 #include <string>
 
 #include "platform/linux/DirectoryStream.h"
-#include "platform/linux/FileDescriptor.h"
+#include "support/FileDescriptor.h"
 
 namespace vantle {
 namespace {

@@ -1,0 +1,103 @@
+#include "decoder/CommandLine.h"
+
+#include <sys/prctl.h>
+#include <sys/wait.h>
+
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "capture/Capture.h"
+#include "decoder/PngWriter.h"
+#include "platform/linux/ConfinedMediaLoader.h"
+
+namespace vantle::decoder {
+namespace {
+
+constexpr auto usage =
+    "Usage: vantle-decoder --thumbnail IN OUT.png [--max POINTS]\n"
+    "\n"
+    "Writes the thumbnail that Vantle shows of the file IN, at most POINTS (800) points on its\n"
+    "longer side, and prints the size of the original and, of a recording, its duration.\n";
+
+struct Arguments {
+    std::string in;
+    std::string out;
+    double most = 800;
+};
+
+std::optional<double> number(std::string_view text) {
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    const bool isUsable = error == std::errc{} && end == text.data() + text.size() && value >= 1 &&
+                          std::isfinite(value);
+    return isUsable ? std::optional(value) : std::nullopt;
+}
+
+std::optional<Arguments> parsed(std::span<char*> arguments) {
+    constexpr std::size_t fewest = 4;
+    constexpr std::size_t most = 6;
+    if ((arguments.size() != fewest && arguments.size() != most) ||
+        std::string_view(arguments[1]) != "--thumbnail")
+        return std::nullopt;
+    Arguments result{arguments[2], arguments[3]};
+    if (arguments.size() == most) {
+        const auto maximum = number(arguments[5]);
+        if (std::string_view(arguments[4]) != "--max" || !maximum) return std::nullopt;
+        result.most = *maximum;
+    }
+    return result;
+}
+
+void print(const Capture& capture) {
+    std::printf("%.15g x %.15g\n", capture.pixelSize().width, capture.pixelSize().height);
+    if (capture.kind() == CaptureKind::video) std::printf("%.6f s\n", capture.duration());
+}
+
+int makeThumbnail(const Arguments& arguments) {
+    std::error_code error;
+    const auto path = std::filesystem::canonical(arguments.in, error);
+    if (error) {
+        std::fprintf(stderr, "%s: %s\n", arguments.in.c_str(), error.message().c_str());
+        return 1;
+    }
+    const auto capture = Capture::create(Url::file(path.string()), Date{});
+    if (!capture) {
+        std::fprintf(stderr, "%s: no kind of file that is shown\n", arguments.in.c_str());
+        return 1;
+    }
+    {
+        const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+        ConfinedMediaLoader loader(program.string(), [] { return 1.0; });
+        capture->loadThumbnail(loader, arguments.most);
+    }
+    print(*capture);
+    if (!capture->thumbnail()) {
+        std::fprintf(stderr, "%s: no picture can be made of it\n", arguments.in.c_str());
+        return 1;
+    }
+    if (writePng(*capture->thumbnail(), arguments.out)) return 0;
+    std::perror(arguments.out.c_str());
+    return 1;
+}
+
+}  // namespace
+
+int runCommandLine(std::span<char*> arguments) {
+    const auto wanted = parsed(arguments);
+    if (!wanted) {
+        std::fputs(usage, stderr);
+        return 2;
+    }
+    // The decoder's time and memory are to be counted with ours: it ends before we do.
+    prctl(PR_SET_CHILD_SUBREAPER, 1);
+    const int status = makeThumbnail(*wanted);
+    while (wait(nullptr) > 0) continue;
+    return status;
+}
+
+}  // namespace vantle::decoder

@@ -1,0 +1,28 @@
+#include "decoder/Modules.h"
+
+#include <dlfcn.h>
+
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+#include "support/SystemLog.h"
+
+namespace vantle::decoder {
+
+const FormatModule* loadModule(Format format) {
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    const auto file = program.parent_path().parent_path() / "lib" / "vantle" /
+                      ("vantle-decoder-" + std::string(name(format)) + ".so");
+    void* library = dlopen(file.c_str(), RTLD_LAZY | RTLD_LOCAL);
+    const auto entry =
+        library ? reinterpret_cast<ModuleEntry>(dlsym(library, moduleEntry)) : nullptr;
+    if (!entry) {
+        systemLog(std::string("Decoder: ") + dlerror());
+        return nullptr;
+    }
+    return entry();
+}
+
+}  // namespace vantle::decoder

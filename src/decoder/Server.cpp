@@ -1,0 +1,137 @@
+#include "decoder/Server.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cmath>
+#include <new>
+#include <utility>
+
+#include "decoder/formats/Contents.h"
+#include "decoder/protocol/MessageSocket.h"
+#include "decoder/protocol/Messages.h"
+
+namespace vantle::decoder {
+namespace {
+
+/// Memory that holds a picture and that nobody can change any more; none when there is no room.
+FileDescriptor shared(const Picture& picture) {
+    FileDescriptor memory(memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING));
+    if (!memory) return {};
+    for (std::size_t done = 0; done < picture.rgba.size();) {
+        const auto count =
+            write(memory.get(), picture.rgba.data() + done, picture.rgba.size() - done);
+        if (count <= 0) return {};
+        done += static_cast<std::size_t>(count);
+    }
+    constexpr int seals = F_SEAL_SEAL | F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
+    return fcntl(memory.get(), F_ADD_SEALS, seals) == 0 ? std::move(memory) : FileDescriptor();
+}
+
+bool isDrawable(PixelSize target) {
+    return target.wide > 0 && target.high > 0 &&
+           std::int64_t{4} * target.wide * target.high <= largestPicture;
+}
+
+class Server {
+public:
+    Server(int socket, Format format, const FormatModule& module)
+        : socket_(socket), format_(format), module_(module) {}
+
+    void run() {
+        constexpr std::chrono::seconds patience(decoderPatience);
+        while (auto received = receive<Request>(socket_, patience)) {
+            Answer answer;
+            // The limit on memory stops what a file asks for; the next file has the whole again.
+            try {
+                answer = answerTo(received->message, std::move(received->descriptor));
+            } catch (const std::bad_alloc&) {
+                forget();
+            }
+            if (!send(socket_, answer.reply, answer.memory.get())) return;
+        }
+    }
+
+private:
+    struct Answer {
+        Reply reply;
+        FileDescriptor memory;
+    };
+
+    Answer answerTo(const Request& request, FileDescriptor file) {
+        switch (request.operation) {
+            case Operation::openImage:
+            case Operation::openRecording:
+                return open(request.operation, std::move(file));
+            case Operation::draw:
+                if (!image_ || !isDrawable(request.target)) return {};
+                return answerWith(image_->draw(request.target));
+            case Operation::frame:
+                if (!recording_) return {};
+                return answerWith(recording_->frame(request.time, request.maximumDimension));
+        }
+        return {};
+    }
+
+    void forget() {
+        image_.reset();
+        recording_.reset();
+        file_.reset();
+        descriptor_.reset();
+    }
+
+    Answer open(Operation operation, FileDescriptor descriptor) {
+        forget();
+        if (!descriptor) return {};
+        descriptor_ = std::move(descriptor);
+        file_.emplace(descriptor_.get());
+        const auto format = formatOf(*file_);
+        if (format && *format != format_)
+            return {{.status = Status::otherFormat, .format = *format}, {}};
+        return operation == Operation::openImage ? openImage() : openRecording();
+    }
+
+    Answer openImage() {
+        if (module_.openImage) image_ = module_.openImage(*file_);
+        if (!image_) return {};
+        return {
+            {.status = Status::done, .pixelSize = image_->pixelSize(), .size = image_->pointSize()},
+            {}};
+    }
+
+    Answer openRecording() {
+        if (module_.openRecording) recording_ = module_.openRecording(*file_);
+        if (!recording_) return {};
+        const auto track = recording_->videoTrackSize();
+        return {{.status = Status::done,
+                 .size = track.value_or(Size{}),
+                 .hasVideoTrack = track.has_value(),
+                 .duration = recording_->duration()},
+                {}};
+    }
+
+    static Answer answerWith(const std::optional<Picture>& picture) {
+        if (!picture) return {};
+        auto memory = shared(*picture);
+        if (!memory) return {};
+        return {{.status = Status::done, .picture = picture->size}, std::move(memory)};
+    }
+
+    const int socket_;
+    const Format format_;
+    const FormatModule& module_;
+    FileDescriptor descriptor_;
+    std::optional<InputFile> file_;
+    std::unique_ptr<StillImage> image_;
+    std::unique_ptr<Recording> recording_;
+};
+
+}  // namespace
+
+void serve(int socket, Format format, const FormatModule& module) {
+    Server(socket, format, module).run();
+}
+
+}  // namespace vantle::decoder

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "decoder/formats/MediaFile.h"
+#include "decoder/protocol/Format.h"
+
+namespace vantle::decoder {
+
+/// Answers requests on `socket` until the other end goes or says nothing for `decoderPatience`.
+void serve(int socket, Format format, const FormatModule& module);
+
+}  // namespace vantle::decoder

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <optional>
+
+#include "decoder/formats/InputFile.h"
+#include "decoder/protocol/Format.h"
+
+namespace vantle::decoder {
+
+/// The format that a file's first bytes tell, whatever its name says.
+std::optional<Format> formatOf(const InputFile& file);
+
+}  // namespace vantle::decoder

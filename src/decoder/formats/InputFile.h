@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace vantle::decoder {
+
+/// A file that somebody else opened and keeps open: any number of readers, each at a place of its
+/// own, because the descriptor's own position is never used.
+class InputFile {
+public:
+    explicit InputFile(int descriptor);
+
+    int descriptor() const { return descriptor_; }
+    /// In bytes, as it was when the file was opened.
+    std::int64_t size() const { return size_; }
+
+    /// Reads until `into` is full or the file ends; gives how many bytes were read.
+    std::size_t read(std::int64_t offset, std::span<std::uint8_t> into) const;
+
+private:
+    int descriptor_;
+    std::int64_t size_ = 0;
+};
+
+/// Reads a file from its beginning to its end, or from any other place on.
+class InputStream {
+public:
+    explicit InputStream(const InputFile& file, std::size_t bufferSize = 128 * 1024);
+
+    std::int64_t position() const;
+    void seek(std::int64_t position);
+
+    /// What is in memory from the position on, at least one byte unless the file has ended.
+    std::span<const std::uint8_t> peek();
+    /// Moves the position past bytes that peek() gave.
+    void consume(std::size_t count) { begin_ += count; }
+
+    /// Fills `into` or gives false.
+    bool read(std::span<std::uint8_t> into);
+
+private:
+    const InputFile& file_;
+    std::vector<std::uint8_t> buffer_;
+    std::int64_t offset_ = 0;  ///< Of the buffer's first byte.
+    std::size_t begin_ = 0;
+    std::size_t end_ = 0;
+};
+
+constexpr std::uint32_t bigEndian16(const std::uint8_t* bytes) {
+    return static_cast<std::uint32_t>(bytes[0] << 8 | bytes[1]);
+}
+
+constexpr std::uint32_t bigEndian32(const std::uint8_t* bytes) {
+    return bigEndian16(bytes) << 16 | bigEndian16(bytes + 2);
+}
+
+inline std::string_view text(std::span<const std::uint8_t> bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+}  // namespace vantle::decoder

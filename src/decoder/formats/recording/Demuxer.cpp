@@ -1,0 +1,116 @@
+#include "decoder/formats/recording/Demuxer.h"
+
+extern "C" {
+#include <libavutil/display.h>
+}
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+
+namespace vantle::decoder {
+namespace {
+
+constexpr int bufferSize = 64 * 1024;
+
+}  // namespace
+
+int Demuxer::read(void* self, std::uint8_t* bytes, int count) {
+    auto& demuxer = *static_cast<Demuxer*>(self);
+    const auto done = demuxer.file_.read(demuxer.position_,
+                                         {bytes, static_cast<std::size_t>(std::max(count, 0))});
+    demuxer.position_ += static_cast<std::int64_t>(done);
+    return done > 0 ? static_cast<int>(done) : AVERROR_EOF;
+}
+
+std::int64_t Demuxer::seek(void* self, std::int64_t offset, int origin) {
+    auto& demuxer = *static_cast<Demuxer*>(self);
+    const int way = origin & ~AVSEEK_FORCE;
+    if (way == AVSEEK_SIZE) return demuxer.file_.size();
+    const std::int64_t base = way == SEEK_CUR   ? demuxer.position_
+                              : way == SEEK_END ? demuxer.file_.size()
+                                                : 0;
+    std::int64_t position = 0;
+    if (__builtin_add_overflow(base, offset, &position) || position < 0) return AVERROR(EINVAL);
+    demuxer.position_ = position;
+    return position;
+}
+
+std::unique_ptr<Demuxer> Demuxer::open(const InputFile& file) {
+    std::unique_ptr<Demuxer> demuxer(new Demuxer(file));
+    if (!demuxer->openFormat()) return nullptr;
+    demuxer->chooseTracks();
+    return demuxer;
+}
+
+Demuxer::~Demuxer() {
+    format_.reset();
+    if (input_) av_freep(&input_->buffer);
+    avio_context_free(&input_);
+}
+
+bool Demuxer::openFormat() {
+    auto* buffer = static_cast<unsigned char*>(av_malloc(bufferSize));
+    if (!buffer) return false;
+    input_ = avio_alloc_context(buffer, bufferSize, 0, this, read, nullptr, seek);
+    AVFormatContext* format = input_ ? avformat_alloc_context() : nullptr;
+    if (!format) return false;
+    format->pb = input_;
+    format->flags |= AVFMT_FLAG_CUSTOM_IO;
+    // This one demuxer only: others open further files that a file names.
+    const AVInputFormat* quickTime = av_find_input_format("mov");
+    // On failure it frees the context.
+    if (avformat_open_input(&format, nullptr, quickTime, nullptr) < 0) return false;
+    format_.reset(format);
+    // A recording in fragments does not say at its beginning how long it is.
+    if (format->duration == AV_NOPTS_VALUE) avformat_find_stream_info(format, nullptr);
+    return true;
+}
+
+void Demuxer::chooseTracks() {
+    for (unsigned i = 0; i < format_->nb_streams; ++i) {
+        AVStream* track = format_->streams[i];
+        track->discard = AVDISCARD_ALL;
+        if (track->codecpar->codec_type != AVMEDIA_TYPE_VIDEO) continue;
+        auto*& chosen = track->disposition & AV_DISPOSITION_ATTACHED_PIC ? cover_ : videoTrack_;
+        if (!chosen) chosen = track;
+    }
+    if (AVStream* track = pictureTrack()) track->discard = AVDISCARD_DEFAULT;
+}
+
+double Demuxer::duration() const {
+    if (format_->duration == AV_NOPTS_VALUE || format_->duration < 0)
+        return std::numeric_limits<double>::quiet_NaN();
+    return static_cast<double>(format_->duration) / AV_TIME_BASE;
+}
+
+Orientation Demuxer::orientation(const AVStream& track) {
+    const auto* matrix = reinterpret_cast<const std::int32_t*>(
+        av_stream_get_side_data(&track, AV_PKT_DATA_DISPLAYMATRIX, nullptr));
+    const double angle = matrix ? av_display_rotation_get(matrix) : 0;
+    if (!std::isfinite(angle)) return Orientation::upright;
+    // The angle turns against the clock.
+    switch ((std::lround(-angle / 90) % 4 + 4) % 4) {
+        case 1:
+            return Orientation::turnRight;
+        case 2:
+            return Orientation::turnedAround;
+        case 3:
+            return Orientation::turnLeft;
+        default:
+            return Orientation::upright;
+    }
+}
+
+Size Demuxer::naturalSize(const AVStream& track) {
+    const AVCodecParameters& parameters = *track.codecpar;
+    const AVRational ratio = track.sample_aspect_ratio.num > 0 ? track.sample_aspect_ratio
+                                                               : parameters.sample_aspect_ratio;
+    const double stretch = ratio.num > 0 && ratio.den > 0 ? av_q2d(ratio) : 1;
+    const Size stored{std::round(parameters.width * stretch),
+                      static_cast<double>(parameters.height)};
+    return turned(stored, orientation(track));
+}
+
+}  // namespace vantle::decoder

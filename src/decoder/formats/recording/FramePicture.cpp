@@ -1,0 +1,62 @@
+#include "decoder/formats/recording/FramePicture.h"
+
+extern "C" {
+#include <libavutil/pixdesc.h>
+#include <libswscale/swscale.h>
+}
+
+#include <array>
+
+namespace vantle::decoder {
+namespace {
+
+struct ScalerFreer {
+    void operator()(SwsContext* scaler) const { sws_freeContext(scaler); }
+};
+using Scaler = std::unique_ptr<SwsContext, ScalerFreer>;
+
+/// Recorders that do not say which colours they write have left that to a converter, whose custom
+/// is this one.
+int matrixOf(const AVFrame& frame) {
+    return frame.colorspace == AVCOL_SPC_UNSPECIFIED ? SWS_CS_DEFAULT : frame.colorspace;
+}
+
+bool hasAlpha(const AVFrame& frame) {
+    const auto* format = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
+    return format && format->flags & AV_PIX_FMT_FLAG_ALPHA;
+}
+
+void setColors(SwsContext& scaler, const AVFrame& frame) {
+    constexpr int fullRange = 1;
+    constexpr int one = 1 << 16;
+    sws_setColorspaceDetails(&scaler, sws_getCoefficients(matrixOf(frame)),
+                             frame.color_range == AVCOL_RANGE_JPEG,
+                             sws_getCoefficients(SWS_CS_DEFAULT), fullRange, 0, one, one);
+}
+
+}  // namespace
+
+std::optional<Picture> pictureOf(const AVFrame& frame, PixelSize target) {
+    const Scaler scaler(sws_getContext(
+        frame.width, frame.height, static_cast<AVPixelFormat>(frame.format), target.wide,
+        target.high, AV_PIX_FMT_RGBA, SWS_LANCZOS | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT, nullptr,
+        nullptr, nullptr));
+    if (!scaler) return std::nullopt;
+    setColors(*scaler, frame);
+    Picture picture{target, {}};
+    const int rowSize = target.wide * 4;
+    picture.rgba.resize(static_cast<std::size_t>(rowSize) * static_cast<std::size_t>(target.high));
+    const std::array<std::uint8_t*, 4> planes = {picture.rgba.data()};
+    const std::array<int, 4> strides = {rowSize};
+    if (sws_scale(scaler.get(), frame.data, frame.linesize, 0, frame.height, planes.data(),
+                  strides.data()) != target.high)
+        return std::nullopt;
+    if (hasAlpha(frame))
+        for (std::size_t i = 0; i < picture.rgba.size(); i += 4)
+            for (std::size_t channel = 0; channel < 3; ++channel)
+                picture.rgba[i + channel] = static_cast<std::uint8_t>(
+                    (picture.rgba[i + channel] * picture.rgba[i + 3] + 127) / 255);
+    return picture;
+}
+
+}  // namespace vantle::decoder

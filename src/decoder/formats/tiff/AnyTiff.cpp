@@ -1,0 +1,73 @@
+#include <algorithm>
+#include <cstring>
+
+#include "decoder/formats/Limits.h"
+#include "decoder/formats/ThreadedReduction.h"
+#include "decoder/formats/tiff/TiffFile.h"
+
+namespace vantle::decoder {
+namespace {
+
+/// Owns libtiff's conversion to RGBA.
+class Conversion {
+public:
+    explicit Conversion(TIFF* tiff) {
+        char message[1024] = "";
+        constexpr int stopAtErrors = 1;
+        isMade_ = TIFFRGBAImageOK(tiff, message) &&
+                  TIFFRGBAImageBegin(&image_, tiff, stopAtErrors, message);
+        // Turning the thumbnail costs less.
+        if (isMade_) image_.req_orientation = image_.orientation;
+    }
+    ~Conversion() {
+        if (isMade_) TIFFRGBAImageEnd(&image_);
+    }
+    Conversion(const Conversion&) = delete;
+    Conversion& operator=(const Conversion&) = delete;
+
+    bool isMade() const { return isMade_; }
+
+    /// Rows of premultiplied pixels, each a number whose lowest byte is red.
+    bool read(int firstRow, int count, std::vector<std::uint32_t>& pixels) {
+        image_.row_offset = firstRow;
+        image_.col_offset = 0;
+        return TIFFRGBAImageGet(&image_, pixels.data(), image_.width,
+                                static_cast<std::uint32_t>(count)) == 1;
+    }
+
+private:
+    TIFFRGBAImage image_{};
+    bool isMade_ = false;
+};
+
+/// How many rows are stored together.
+int rowsInPart(TIFF* tiff, int high) {
+    std::uint32_t rows = 0;
+    const std::uint32_t name = TIFFIsTiled(tiff) ? TIFFTAG_TILELENGTH : TIFFTAG_ROWSPERSTRIP;
+    if (!TIFFGetFieldDefaulted(tiff, name, &rows) || rows == 0) return high;
+    return static_cast<int>(std::min<std::uint32_t>(rows, static_cast<std::uint32_t>(high)));
+}
+
+}  // namespace
+
+std::optional<Picture> drawAnyTiff(TiffFile& file, PixelSize target) {
+    const PixelSize size = file.header().size;
+    Conversion conversion(file.tiff());
+    const int rows = rowsInPart(file.tiff(), size.high);
+    if (!conversion.isMade() || !isReasonableInMemory(size.wide, rows)) return std::nullopt;
+    const auto wide = static_cast<std::size_t>(size.wide);
+    std::vector<std::uint32_t> pixels(wide * static_cast<std::size_t>(rows));
+    ThreadedReduction reduction(size, target, PixelLayout::premultipliedRgba);
+    for (int first = 0; first < size.high; first += rows) {
+        const int count = std::min(rows, size.high - first);
+        if (!conversion.read(first, count, pixels)) return std::nullopt;
+        for (int row = 0; row < count; ++row) {
+            std::memcpy(reduction.row(), pixels.data() + wide * static_cast<std::size_t>(row),
+                        wide * 4);
+            reduction.rowIsWritten();
+        }
+    }
+    return reduction.take();
+}
+
+}  // namespace vantle::decoder

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <tiffio.h>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "decoder/formats/InputFile.h"
+#include "decoder/formats/Orientation.h"
+#include "decoder/formats/Resolution.h"
+
+namespace vantle::decoder {
+
+/// What a TIFF file says about its first page.
+struct TiffHeader {
+    PixelSize size;  ///< As it is stored.
+    std::uint16_t bitsPerSample = 1;
+    std::uint16_t samplesPerPixel = 1;
+    std::uint16_t photometric = 0;
+    std::uint16_t compression = 0;
+    std::uint16_t planes = 0;
+    std::uint16_t sampleFormat = SAMPLEFORMAT_UINT;
+    std::optional<std::uint16_t> extraSample;  ///< What the first one beyond the colours means.
+    Orientation orientation = Orientation::upright;
+    Resolution resolution;
+    std::vector<std::uint8_t> colorProfile;
+};
+
+/// A TIFF file, open at its first page.
+class TiffFile {
+public:
+    /// Null when it cannot be opened.
+    static std::unique_ptr<TiffFile> open(const InputFile& file);
+
+    const TiffHeader& header() const { return header_; }
+    TIFF* tiff() { return tiff_.get(); }
+    const InputFile& file() const { return file_; }
+
+private:
+    struct Closer {
+        void operator()(TIFF* tiff) const { TIFFClose(tiff); }
+    };
+
+    explicit TiffFile(const InputFile& file) : file_(file) {}
+    void readHeader();
+
+    // What libtiff reads and moves by.
+    static tmsize_t read(thandle_t handle, void* bytes, tmsize_t count);
+    static tmsize_t write(thandle_t, void*, tmsize_t) { return -1; }
+    static toff_t seek(thandle_t handle, toff_t offset, int origin);
+    static int close(thandle_t) { return 0; }
+    static toff_t size(thandle_t handle);
+
+    const InputFile& file_;
+    std::int64_t position_ = 0;
+    std::unique_ptr<TIFF, Closer> tiff_;
+    TiffHeader header_;
+};
+
+/// Gray, RGB and CMYK of 1, 8 or 16 bits, the samples of a pixel side by side: by strip, row or
+/// row of tiles. Absent when the page is none of these.
+bool isPlain(const TiffHeader& header);
+std::optional<Picture> drawPlainTiff(TiffFile& file, PixelSize target);
+
+/// Everything else that libtiff can turn into RGBA.
+std::optional<Picture> drawAnyTiff(TiffFile& file, PixelSize target);
+
+}  // namespace vantle::decoder

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <type_traits>
+
+#include "decoder/protocol/Format.h"
+#include "decoder/reduction/Picture.h"
+#include "support/Geometry.h"
+
+/// What the program and its decoder say to each other, over a Unix socket that keeps messages
+/// apart. Both ends are of one build, so the structures travel as they are.
+///
+///   decoder → program   Hello, with a descriptor of the process
+///   decoder → program   Ready, when the decoder has given up its rights
+///   program → decoder   Request
+///   decoder → program   Reply, and so on; nothing else is said
+namespace vantle::decoder {
+
+/// Before anything else. Carries a pidfd, by which the decoder can be ended.
+struct Hello {};
+
+/// A guard that this system does not have.
+enum class Guard : std::uint32_t { fileSystem = 1, systemCalls = 2 };
+
+struct Ready {
+    std::uint32_t missingGuards = 0;  ///< Of Guard, added up.
+};
+
+enum class Operation : std::uint32_t { openImage, openRecording, draw, frame };
+
+/// openImage and openRecording carry the descriptor of the file, which the decoder then keeps
+/// until another one is opened; draw and frame are about that file.
+struct Request {
+    Operation operation = Operation::openImage;
+    PixelSize target;             ///< Of draw.
+    double time = 0;              ///< Of frame, in seconds.
+    double maximumDimension = 0;  ///< Of frame, in pixels.
+};
+
+enum class Status : std::uint32_t {
+    done,
+    failed,       ///< The file cannot be opened, or not be drawn.
+    otherFormat,  ///< The file's contents are those of `format`: ask its decoder.
+};
+
+/// A reply to draw or frame that is done carries the descriptor of shared memory, sealed so that
+/// nobody can change it any more: the rows of a Picture of the size `picture`.
+struct Reply {
+    Status status = Status::failed;
+    Format format = Format::png;
+    PixelSize pixelSize;  ///< Of the opened image; 0 × 0 of a vector image.
+    Size size;            ///< Of the opened image in points, or of the recording's video track.
+    std::uint32_t hasVideoTrack = 0;
+    double duration = 0;  ///< Of the opened recording; not a number when unknown.
+    PixelSize picture;
+};
+
+static_assert(std::is_trivially_copyable_v<Request> && std::is_trivially_copyable_v<Reply>);
+
+/// The descriptor of the socket in a decoder's process.
+constexpr int decoderSocket = 3;
+
+/// A decoder ends this long after the last request, in seconds.
+constexpr int decoderPatience = 10;
+
+/// The most that one picture may take, in bytes.
+constexpr std::int64_t largestPicture = std::int64_t{64} * 1024 * 1024;
+
+}  // namespace vantle::decoder

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <vector>
+
+#include "decoder/reduction/Kernels.h"
+
+namespace vantle::decoder {
+
+/// How each target sample of one axis is made of source samples by the Lanczos-3 filter.
+class Lanczos {
+public:
+    /// `extent` is how many source samples the target spans; it may end within the last one.
+    Lanczos(int sourceCount, double extent, int targetCount);
+
+    const Taps& at(int target) const { return taps_[static_cast<std::size_t>(target)]; }
+    const Taps* data() const { return taps_.data(); }
+    int mostTaps() const { return mostTaps_; }
+
+private:
+    std::vector<float> weights_;
+    std::vector<Taps> taps_;
+    int mostTaps_ = 0;
+};
+
+}  // namespace vantle::decoder

@@ -1,0 +1,192 @@
+#include "platform/linux/ConfinedMediaLoader.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <string_view>
+#include <utility>
+
+namespace vantle {
+namespace {
+
+using namespace decoder;
+
+/// A regular file, open for reading; none for anything else. Never waits.
+FileDescriptor openRegular(const Url& url) {
+    FileDescriptor file(
+        ::open(url.path().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | O_NOFOLLOW));
+    struct stat status {};
+    const bool isRegular = file && fstat(file.get(), &status) == 0 && S_ISREG(status.st_mode);
+    return isRegular ? std::move(file) : FileDescriptor();
+}
+
+/// What a name promises; the contents decide.
+Format formatNamedBy(const Url& url) {
+    struct Extension {
+        std::string_view text;
+        Format format;
+    };
+    constexpr std::array extensions = {
+        Extension{"jpg", Format::jpeg},  Extension{"jpeg", Format::jpeg},
+        Extension{"gif", Format::gif},   Extension{"tif", Format::tiff},
+        Extension{"tiff", Format::tiff}, Extension{"heic", Format::heic},
+        Extension{"pdf", Format::pdf}};
+    std::string extension(url.pathExtension());
+    std::ranges::transform(extension, extension.begin(), [](char letter) {
+        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    });
+    const auto found = std::ranges::find(extensions, extension, &Extension::text);
+    return found != extensions.end() ? found->format : Format::png;
+}
+
+/// How many of `available` pixels show `points`; 0 available of a vector image, which has any.
+int pixelsFor(double points, double pixelsPerPoint, int available) {
+    constexpr double most = 16'384;
+    const double wanted = std::clamp(std::round(points * pixelsPerPoint), 1.0, most);
+    return available > 0 ? static_cast<int>(std::min<double>(wanted, available))
+                         : static_cast<int>(wanted);
+}
+
+/// The decoder may say anything once a file has taken it over: what it gives is looked at.
+bool isSensible(double length) {
+    constexpr double longest = 1e9;
+    return length >= 0 && length <= longest;
+}
+
+bool isSensible(Size size) {
+    return isSensible(size.width) && isSensible(size.height);
+}
+
+/// The rows in the memory that came with a reply; null unless they are all there for good.
+ImagePointer picture(const DecoderProcess::Answer& answer, Size points) {
+    const auto [wide, high] = answer.reply.picture;
+    const auto bytes = std::int64_t{4} * wide * high;
+    constexpr int seals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
+    struct stat status {};
+    if (wide < 1 || high < 1 || bytes > largestPicture || !answer.memory ||
+        (fcntl(answer.memory.get(), F_GET_SEALS) & seals) != seals ||
+        fstat(answer.memory.get(), &status) != 0 || status.st_size != bytes)
+        return nullptr;
+    auto image = std::make_shared<Image>();
+    image->pixelsWide = wide;
+    image->pixelsHigh = high;
+    image->size = points;
+    image->rgba.resize(static_cast<std::size_t>(bytes));
+    const auto count = pread(answer.memory.get(), image->rgba.data(), image->rgba.size(), 0);
+    return count == bytes ? image : nullptr;
+}
+
+/// A file that a decoder opened for one of the classes below.
+class DecodedFile {
+public:
+    DecodedFile(DecoderSession& session, OpenedFile file)
+        : session_(session), file_(std::move(file)) {}
+    ~DecodedFile() { session_.forget(file_); }
+    DecodedFile(const DecodedFile&) = delete;
+    DecodedFile& operator=(const DecodedFile&) = delete;
+
+    std::optional<Reply> open() { return session_.open(file_); }
+    std::optional<DecoderProcess::Answer> ask(const Request& request) {
+        return session_.ask(file_, request);
+    }
+
+private:
+    DecoderSession& session_;
+    OpenedFile file_;
+};
+
+class DecodedImage final : public ImageFile {
+public:
+    DecodedImage(std::unique_ptr<DecodedFile> file, const Reply& reply,
+                 const std::function<double()>& pixelsPerPoint)
+        : file_(std::move(file)),
+          pixels_(reply.pixelSize),
+          points_(reply.size),
+          pixelsPerPoint_(pixelsPerPoint) {}
+
+    std::optional<Size> pixelSize() const override {
+        return Size{static_cast<double>(pixels_.wide), static_cast<double>(pixels_.high)};
+    }
+    Size pointSize() const override { return points_; }
+
+    ImagePointer draw(Size size) override {
+        const double scale = pixelsPerPoint_();
+        const PixelSize target{pixelsFor(size.width, scale, pixels_.wide),
+                               pixelsFor(size.height, scale, pixels_.high)};
+        const auto answer = file_->ask({.operation = Operation::draw, .target = target});
+        return answer && answer->reply.picture == target ? picture(*answer, size) : nullptr;
+    }
+
+private:
+    std::unique_ptr<DecodedFile> file_;
+    const PixelSize pixels_;
+    const Size points_;
+    const std::function<double()>& pixelsPerPoint_;
+};
+
+class DecodedRecording final : public RecordingFile {
+public:
+    DecodedRecording(std::unique_ptr<DecodedFile> file, const Reply& reply)
+        : file_(std::move(file)), duration_(reply.duration) {
+        if (reply.hasVideoTrack != 0 && isSensible(reply.size)) trackSize_ = reply.size;
+    }
+
+    double duration() const override { return duration_; }
+    std::optional<Size> videoTrackSize() const override { return trackSize_; }
+
+    ImagePointer frame(double time, double maximumDimension) override {
+        const auto answer = file_->ask(
+            {.operation = Operation::frame, .time = time, .maximumDimension = maximumDimension});
+        if (!answer) return nullptr;
+        const Size size{static_cast<double>(answer->reply.picture.wide),
+                        static_cast<double>(answer->reply.picture.high)};
+        const bool isBounded = std::max(size.width, size.height) <= maximumDimension;
+        return isBounded ? picture(*answer, size) : nullptr;
+    }
+
+private:
+    std::unique_ptr<DecodedFile> file_;
+    const double duration_;
+    std::optional<Size> trackSize_;
+};
+
+}  // namespace
+
+ConfinedMediaLoader::ConfinedMediaLoader(std::string program,
+                                         std::function<double()> pixelsPerPoint,
+                                         DecodingPatience patience)
+    : session_(std::move(program)),
+      pixelsPerPoint_(std::move(pixelsPerPoint)),
+      patience_(patience) {}
+
+std::unique_ptr<ImageFile> ConfinedMediaLoader::openImage(const Url& url) {
+    FileDescriptor descriptor = openRegular(url);
+    if (!descriptor) return nullptr;
+    auto file = std::make_unique<DecodedFile>(
+        session_, OpenedFile{std::move(descriptor), formatNamedBy(url), Operation::openImage,
+                             patience_.image});
+    const auto reply = file->open();
+    const bool isUsable = reply && reply->pixelSize.wide >= 0 && reply->pixelSize.high >= 0 &&
+                          isSensible(reply->size);
+    if (!isUsable) return nullptr;
+    return std::make_unique<DecodedImage>(std::move(file), *reply, pixelsPerPoint_);
+}
+
+std::unique_ptr<RecordingFile> ConfinedMediaLoader::openRecording(const Url& url) {
+    FileDescriptor descriptor = openRegular(url);
+    if (!descriptor) return nullptr;
+    auto file = std::make_unique<DecodedFile>(
+        session_, OpenedFile{std::move(descriptor), Format::recording, Operation::openRecording,
+                             patience_.recording});
+    const auto reply = file->open();
+    const bool isUsable = reply && (std::isnan(reply->duration) || isSensible(reply->duration));
+    if (!isUsable) return nullptr;
+    return std::make_unique<DecodedRecording>(std::move(file), *reply);
+}
+
+}  // namespace vantle
