@@ -1,5 +1,6 @@
 #include <malloc.h>
 
+#include <QDir>
 #include <QGuiApplication>
 #include <memory>
 
@@ -7,6 +8,7 @@
 #include "panel/views/CapturePanel.h"
 #include "platform/Platform.h"
 #include "platform/linux/AutostartLoginItem.h"
+#include "platform/linux/ConfinedMediaLoader.h"
 #include "platform/linux/IniPreferencesDomain.h"
 #include "platform/linux/IniUserDefaults.h"
 #include "platform/linux/InotifyDirectoryEvents.h"
@@ -15,7 +17,7 @@
 #include "platform/linux/PosixProcessLauncher.h"
 #include "platform/linux/UserDirectories.h"
 #include "platform/qt/DBusApplication.h"
-#include "platform/qt/QtMediaLoader.h"
+#include "platform/qt/DensestScreen.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/QtScreens.h"
 #include "platform/qt/UnixSignals.h"
@@ -30,6 +32,11 @@ bool isRecording(const Url& url) {
     return Capture::kind(url) == CaptureKind::video;
 }
 
+/// The path of another program that belongs to this one.
+std::string beside(const char* program) {
+    return QDir(QCoreApplication::applicationDirPath()).filePath(program).toStdString();
+}
+
 /// The services of a Linux desktop.
 Platform makePlatform() {
     Platform platform;
@@ -39,7 +46,8 @@ Platform makePlatform() {
     platform.scheduler = std::make_unique<QtScheduler>();
     platform.clock = std::make_unique<SystemWallClock>();
     platform.files = std::make_unique<LinuxFileManager>(platform.environment, isRecording);
-    platform.media = std::make_unique<QtMediaLoader>();
+    platform.media =
+        std::make_unique<ConfinedMediaLoader>(beside("vantle-decoder"), densestScreen());
     platform.defaults = std::make_unique<IniUserDefaults>(own.appending("vantle.conf"));
     platform.screenshotPreferences = std::make_unique<IniPreferencesDomain>(
         own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));

@@ -58,12 +58,14 @@ void Capture::loadImage(MediaLoader& media, double maximumDimension) {
     const auto pixels = file->pixelSize();
     if (!pixels) return;
     const Size points = file->pointSize();
+    const double scale = maximumDimension / std::max(points.width, points.height);
+    const auto drawn = scale >= 1.0 ? file->draw(points)
+                                    : file->draw({points.width * scale, points.height * scale});
+    // Only now is it known that the file could be loaded as a whole.
+    if (!drawn) return;
+    thumbnail_ = drawn;
     const bool isVector = pixels->width == 0 && pixels->height == 0;
     pixelSize_ = isVector ? points : *pixels;
-
-    const double scale = maximumDimension / std::max(points.width, points.height);
-    thumbnail_ = scale >= 1.0 ? file->draw(points)
-                              : file->draw({points.width * scale, points.height * scale});
 }
 
 void Capture::loadRecording(MediaLoader& media, double maximumDimension) {

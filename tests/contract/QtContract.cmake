@@ -1,28 +1,16 @@
 # The suites of the backends on Qt. They bring displays and a message bus of their own.
-set(samples ${CMAKE_CURRENT_BINARY_DIR}/samples)
-set(make_samples ${CMAKE_CURRENT_LIST_DIR}/../samples/make_samples.py)
-add_custom_command(
-  OUTPUT ${samples}.made
-  COMMAND /usr/bin/python3 ${make_samples} ${samples}
-  COMMAND ${CMAKE_COMMAND} -E touch ${samples}.made
-  DEPENDS ${make_samples}
-  COMMENT "Making sample images")
-add_custom_target(samples DEPENDS ${samples}.made)
-
 add_executable(application_copy ${CMAKE_CURRENT_LIST_DIR}/ApplicationContractCopy.cpp)
 target_link_libraries(application_copy PRIVATE vantle_platform_qt vantle_warnings)
 
 add_executable(
   qt_contract_tests
   ${CMAKE_CURRENT_LIST_DIR}/ApplicationContractTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/MediaLoaderContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/QtContractMain.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SchedulerContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ScreensContractTests.cpp)
 target_compile_definitions(
-  qt_contract_tests PRIVATE VANTLE_SAMPLES="${samples}"
-                            VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>")
+  qt_contract_tests PRIVATE VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>")
 target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt vantle_fakes vantle_warnings
                                                 GTest::gmock)
-add_dependencies(qt_contract_tests samples application_copy)
+add_dependencies(qt_contract_tests application_copy)
 gtest_discover_tests(qt_contract_tests PROPERTIES LABELS contract DISCOVERY_TIMEOUT 60)

@@ -9,8 +9,8 @@
 
 #include "TemporaryFolder.h"
 #include "TextFile.h"
-#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/WriterCheck.h"
+#include "support/FileDescriptor.h"
 
 namespace vantle {
 namespace {

@@ -16,6 +16,10 @@ public:
     void addImage(const Url& url, std::optional<Size> pixelSize, Size pointSize) {
         images_[url.path()] = {pixelSize, pointSize};
     }
+    /// It opens, and then turns out to be damaged.
+    void addDamagedImage(const Url& url, std::optional<Size> pixelSize, Size pointSize) {
+        images_[url.path()] = {pixelSize, pointSize, Condition::damaged};
+    }
     /// Without `frameSize` no frame can be read.
     void addRecording(const Url& url, double duration, std::optional<Size> trackSize,
                       std::optional<Size> frameSize) {
@@ -37,9 +41,11 @@ public:
     std::vector<double> frameTimes;
 
 private:
+    enum class Condition { intact, damaged };
     struct ImageContents {
         std::optional<Size> pixelSize;
         Size pointSize;
+        Condition condition = Condition::intact;
     };
     struct RecordingContents {
         double duration = 0;
@@ -65,7 +71,7 @@ private:
         Size pointSize() const override { return contents_.pointSize; }
         ImagePointer draw(Size size) override {
             drawnSizes_.push_back(size);
-            return blank(size);
+            return contents_.condition == Condition::intact ? blank(size) : nullptr;
         }
 
     private:

@@ -96,6 +96,13 @@ TEST_F(CaptureTest, AnImageThatCannotBeOpenedLeavesEverythingAbsent) {
     EXPECT_EQ(capture->pixelSize(), Size{});
 }
 
+TEST_F(CaptureTest, AnImageThatTurnsOutToBeDamagedLeavesEverythingAbsent) {
+    media.addDamagedImage(shot, Size{640, 480}, {640, 480});
+    const auto capture = loaded(shot);
+    EXPECT_EQ(capture->thumbnail(), nullptr);
+    EXPECT_EQ(capture->pixelSize(), Size{});
+}
+
 TEST_F(CaptureTest, AShortVideoTakesItsPosterFrameInTheMiddle) {
     media.addRecording(clip, 0.4, Size{640, 480}, Size{640, 480});
     loaded(clip);

@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "samples/Samples.h"
+
+namespace vantle {
+namespace {
+
+using namespace samples;
+
+class RecordingTest : public testing::Test {
+protected:
+    std::unique_ptr<RecordingFile> opened(const std::string& name) {
+        return loader.openRecording(file(name));
+    }
+
+    Loader loader;
+};
+
+TEST_F(RecordingTest, TheFrameIsThatOfTheTime) {
+    const auto recording = opened("colors.mp4");
+    ASSERT_NE(recording, nullptr);
+    const auto colorAtTime = [&](double time) {
+        const auto frame = recording->frame(time, 800);
+        return frame ? only(colorAt(*frame, 30, 20)) : only(nothing);
+    };
+    EXPECT_THAT(colorAtTime(0), IsAbout(only(red), 6));
+    EXPECT_THAT(colorAtTime(0.2), IsAbout(only(red), 6));
+    EXPECT_THAT(colorAtTime(0.39), IsAbout(only(red), 6));
+    EXPECT_THAT(colorAtTime(0.4), IsAbout(only(green), 6));
+    EXPECT_THAT(colorAtTime(0.5), IsAbout(only(green), 6));
+    EXPECT_THAT(colorAtTime(5), IsAbout(only(blue), 6));
+    // In any order, and behind the end.
+    EXPECT_THAT(colorAtTime(0.5), IsAbout(only(green), 6));
+    EXPECT_THAT(colorAtTime(100), IsAbout(only(blue), 6));
+    EXPECT_THAT(colorAtTime(-1), IsAbout(only(red), 6));
+}
+
+TEST_F(RecordingTest, ATimeThatIsNoNumberMeansTheBeginning) {
+    const auto recording = opened("colors.mp4");
+    ASSERT_NE(recording, nullptr);
+    const auto frame = recording->frame(std::numeric_limits<double>::quiet_NaN(), 800);
+    ASSERT_NE(frame, nullptr);
+    EXPECT_THAT(only(colorAt(*frame, 30, 20)), IsAbout(only(red), 6));
+}
+
+TEST_F(RecordingTest, AShortOneHasItsDuration) {
+    const auto recording = opened("short.mov");
+    ASSERT_NE(recording, nullptr);
+    EXPECT_NEAR(recording->duration(), 0.4, 0.001);
+    const auto frame = recording->frame(0.2, 800);
+    ASSERT_NE(frame, nullptr);
+    EXPECT_THAT(quarters(*frame), IsAbout(usualQuarters, 12));
+}
+
+TEST_F(RecordingTest, APortraitOneIsUpright) {
+    const auto recording = opened("portrait.mov");
+    ASSERT_NE(recording, nullptr);
+    EXPECT_EQ(recording->videoTrackSize(), usual);
+    const auto frame = recording->frame(0.5, 32);
+    ASSERT_NE(frame, nullptr);
+    EXPECT_EQ(frame->size, (Size{32, 24}));
+    EXPECT_THAT(quarters(*frame), IsAbout(usualQuarters, 12));
+}
+
+TEST_F(RecordingTest, WidePixelsCountAsWideAsTheyAre) {
+    const auto recording = opened("wide_pixels.mp4");
+    ASSERT_NE(recording, nullptr);
+    EXPECT_EQ(recording->videoTrackSize(), (Size{128, 48}));
+    const auto frame = recording->frame(0.5, 800);
+    ASSERT_NE(frame, nullptr);
+    EXPECT_EQ(frame->size, (Size{128, 48}));
+}
+
+TEST_F(RecordingTest, OneInFragmentsHasItsDuration) {
+    const auto recording = opened("fragments.mp4");
+    ASSERT_NE(recording, nullptr);
+    EXPECT_NEAR(recording->duration(), 2, 0.05);
+    EXPECT_NE(recording->frame(0.5, 800), nullptr);
+}
+
+TEST_F(RecordingTest, AnotherCodecWorksToo) {
+    const auto recording = opened("prores.mov");
+    ASSERT_NE(recording, nullptr);
+    const auto frame = recording->frame(0.25, 800);
+    ASSERT_NE(frame, nullptr);
+    EXPECT_THAT(quarters(*frame), IsAbout(usualQuarters, 12));
+}
+
+TEST_F(RecordingTest, NoSideOfAFrameExceedsTheMaximum) {
+    const auto recording = opened("ten_seconds.mp4");
+    ASSERT_NE(recording, nullptr);
+    for (const double most : {1.0, 10.0, 40.5, 64.0}) {
+        const auto frame = recording->frame(0.5, most);
+        ASSERT_NE(frame, nullptr);
+        EXPECT_LE(std::max(frame->size.width, frame->size.height), most);
+    }
+}
+
+}  // namespace
+}  // namespace vantle
