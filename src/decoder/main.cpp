@@ -1,62 +1,17 @@
-#include <fcntl.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
-#include <array>
 #include <string_view>
 
 #include "decoder/CommandLine.h"
 #include "decoder/Modules.h"
-#include "decoder/Server.h"
-#include "decoder/confinement/Confinement.h"
-#include "decoder/protocol/MessageSocket.h"
-#include "decoder/protocol/Messages.h"
-
-namespace {
-
-using namespace vantle;
-using namespace vantle::decoder;
-
-/// Goes on in a child, so that the program that started us has nothing to collect later, and tells
-/// it by which descriptor that child can be ended. Returns in the child only, and only when that
-/// has been said; false when it could not be.
-bool continueInChild() {
-    std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0) return false;
-    const FileDescriptor told(ends[0]);
-    FileDescriptor telling(ends[1]);
-    const pid_t child = fork();
-    if (child == 0) {
-        telling.reset();
-        char word = 0;
-        return read(told.get(), &word, sizeof word) == sizeof word;
-    }
-    const FileDescriptor process(child > 0 ? static_cast<int>(syscall(SYS_pidfd_open, child, 0))
-                                           : -1);
-    const bool isTold =
-        process && send(decoderSocket, Hello{}, process.get()) && write(telling.get(), "", 1) == 1;
-    _exit(isTold ? 0 : 1);
-}
-
-int serveFormat(std::string_view formatName) {
-    const auto format = formatNamed(formatName);
-    if (!format) return 2;
-    if (!continueInChild()) return 1;
-    const FormatModule* module = loadModule(*format);
-    if (!module) return 1;
-    const auto readable = module->prepare ? module->prepare() : std::vector<std::string>();
-    if (!send(decoderSocket, Ready{confine(readable)})) return 1;
-    serve(decoderSocket, *format, *module);
-    return 0;
-}
-
-}  // namespace
+#include "decoder/service/Service.h"
 
 int main(int argc, char** argv) {
+    using namespace vantle::decoder;
     if (argc == 3 && std::string_view(argv[1]) == "--serve") {
-        const int result = serveFormat(argv[2]);
+        const int status = runService(argv[2], loadModule);
         // Without the endings of the libraries, which may ask for what is given up.
-        _exit(result);
+        _exit(status);
     }
     return runCommandLine({argv, argv + argc});
 }

@@ -1,0 +1,194 @@
+#include <gtest/gtest.h>
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+
+#include "contract/TemporaryFolder.h"
+#include "samples/Samples.h"
+
+namespace vantle {
+namespace {
+
+using namespace samples;
+
+using Bytes = std::string;
+
+Bytes contents(const std::string& path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+bool isRecording(const std::string& name) {
+    return name.ends_with(".mp4") || name.ends_with(".mov") || name.ends_with(".m4v");
+}
+
+/// Opens whatever it is told to, and shows after it that the next good file still gets its picture.
+class HostileFile : public testing::Test {
+protected:
+    void open(const Url& url) {
+        if (isRecording(std::string(url.path()))) {
+            if (const auto recording = loader.openRecording(url)) recording->frame(0.5, 800);
+        } else if (const auto image = loader.openImage(url)) {
+            image->draw(usual);
+        }
+    }
+
+    void openBytes(const std::string& name, const Bytes& bytes) {
+        const Url url = folder / name;
+        std::ofstream(std::string(url.path()), std::ios::binary | std::ios::trunc) << bytes;
+        open(url);
+    }
+
+    void expectGoodFileWorks() {
+        const auto image = loader.openImage(file("rgb.png"));
+        ASSERT_NE(image, nullptr);
+        const auto picture = image->draw(usual);
+        ASSERT_NE(picture, nullptr);
+        EXPECT_THAT(quarters(*picture), IsAbout(usualQuarters, 0));
+    }
+
+    TemporaryFolder folder;
+    Loader loader;
+};
+
+class CutOff : public HostileFile, public testing::WithParamInterface<const char*> {};
+
+TEST_P(CutOff, EverySampleAtTwoHundredPlacesHarmsNobody) {
+    constexpr std::uintmax_t places = 200;
+    int count = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(VANTLE_SAMPLES)) {
+        // These take as long as anybody lets them, wherever they are cut off.
+        const bool isLong = entry.path().stem() == "endless" || entry.path().stem() == "many_scans";
+        if (entry.path().extension() != GetParam() || isLong) continue;
+        const Url copy = folder / entry.path().filename().string();
+        std::filesystem::copy_file(entry.path(), copy.path());
+        for (std::uintmax_t place = places; place-- > 0;) {
+            std::filesystem::resize_file(copy.path(), entry.file_size() * place / places);
+            open(copy);
+        }
+        ++count;
+    }
+    EXPECT_GT(count, 0);
+    expectGoodFileWorks();
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, CutOff,
+                         testing::Values(".png", ".jpg", ".gif", ".tif", ".tiff", ".heic", ".pdf",
+                                         ".mp4", ".mov", ".m4v"));
+
+/// One sample for each path through the decoder.
+constexpr std::array ofEachKind = {
+    "filters_rgba.png", "interlaced.png",  "palette.png",  "baseline.jpg", "progressive.jpg",
+    "interlaced.gif",   "strips.tif",      "tiled.tif",    "jpeg.tif",     "quarters.heic",
+    "letters.pdf",      "ten_seconds.mp4", "fragments.mp4"};
+
+class Flipped : public HostileFile, public testing::WithParamInterface<const char*> {};
+
+TEST_P(Flipped, BytesTwoThousandTimesHarmNobody) {
+    constexpr int times = 2000;
+    const Bytes whole = contents(std::string(file(GetParam()).path()));
+    ASSERT_FALSE(whole.empty());
+    std::mt19937 random(1);
+    for (int i = 0; i < times; ++i) {
+        Bytes bytes = whole;
+        for (unsigned flips = 1 + random() % 8; flips > 0; --flips)
+            bytes[random() % bytes.size()] = static_cast<char>(random());
+        openBytes(GetParam(), bytes);
+    }
+    expectGoodFileWorks();
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, Flipped, testing::ValuesIn(ofEachKind));
+
+class Bomb : public testing::TestWithParam<const char*> {
+protected:
+    /// What making the thumbnail takes, in the decoder or out of it, in KiB.
+    long peakMemory(const Url& url) {
+        const Url out = folder / "out.png";
+        std::string program = VANTLE_DECODER;
+        std::string in(url.path());
+        std::string target(out.path());
+        const std::array arguments = {program.data(), const_cast<char*>("--thumbnail"), in.data(),
+                                      target.data(), static_cast<char*>(nullptr)};
+        pid_t process = 0;
+        EXPECT_EQ(
+            posix_spawn(&process, program.c_str(), nullptr, nullptr, arguments.data(), environ), 0);
+        rusage usage{};
+        EXPECT_EQ(wait4(process, nullptr, 0, &usage), process);
+        return usage.ru_maxrss;
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_P(Bomb, EndsInTimeAndWithinTheLimitOfMemory) {
+    constexpr long limit = 1024 * 1024;
+    EXPECT_LT(peakMemory(file(GetParam())), limit);
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, Bomb,
+                         testing::Values("huge.png", "huge.jpg", "huge_progressive.jpg",
+                                         "large_progressive.jpg", "many_scans.jpg", "texts.png",
+                                         "huge.gif", "many_frames.gif", "huge.tif", "huge_tile.tif",
+                                         "four_gigabytes.tif", "directory_in_itself.tif",
+                                         "far_away.tif", "recursive_pages.pdf",
+                                         "recursive_form.pdf", "huge_page.pdf", "endless.pdf",
+                                         "lying_index.mp4", "long_index.mp4"));
+
+class LyingFile : public testing::TestWithParam<const char*> {};
+
+TEST_P(LyingFile, GivesNoPicture) {
+    EXPECT_EQ(drawn(GetParam()), nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, LyingFile,
+                         testing::Values("huge.png", "huge.jpg", "huge_progressive.jpg", "huge.gif",
+                                         "huge.tif", "four_gigabytes.tif", "many_scans.jpg",
+                                         "recursive_pages.pdf", "huge_page.pdf"));
+
+TEST_F(HostileFile, ALyingIndexOfARecordingGivesNoPicture) {
+    for (const auto* name : {"lying_index.mp4", "long_index.mp4"}) {
+        const auto recording = loader.openRecording(file(name));
+        EXPECT_EQ(recording ? recording->frame(0.5, 800) : nullptr, nullptr) << name;
+    }
+    expectGoodFileWorks();
+}
+
+TEST_F(HostileFile, OnlyTheFirstOfManyFramesIsLookedAt) {
+    const auto image = loader.openImage(file("many_frames.gif"));
+    ASSERT_NE(image, nullptr);
+    EXPECT_NE(image->draw({2, 2}), nullptr);
+}
+
+TEST_F(HostileFile, OnlyRegularFilesAreOpened) {
+    const Url pipe = folder / "pipe.png";
+    ASSERT_EQ(mkfifo(std::string(pipe.path()).c_str(), 0600), 0);
+    const Url link = folder / "link.png";
+    std::filesystem::create_symlink(file("rgb.png").path(), link.path());
+    for (const Url& url : {pipe, link, Url::file("/dev/zero"), folder.url()}) {
+        EXPECT_EQ(loader.openImage(url), nullptr);
+        EXPECT_EQ(loader.openRecording(url), nullptr);
+    }
+    expectGoodFileWorks();
+}
+
+TEST_F(HostileFile, AFileThatGrowsOrShrinksMeanwhileHarmsNobody) {
+    const Url copy = folder / "changing.pdf";
+    std::filesystem::copy_file(file("letters.pdf").path(), copy.path());
+    const auto image = loader.openImage(copy);
+    ASSERT_NE(image, nullptr);
+    // The decoder has it mapped.
+    std::filesystem::resize_file(copy.path(), 0);
+    EXPECT_EQ(image->draw(usual), nullptr);
+    expectGoodFileWorks();
+}
+
+}  // namespace
+}  // namespace vantle

@@ -1,4 +1,4 @@
-#include "decoder/Server.h"
+#include "decoder/service/Server.h"
 
 #include <fcntl.h>
 #include <sys/mman.h>

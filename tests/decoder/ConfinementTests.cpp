@@ -1,0 +1,85 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "fakes/CapturedLog.h"
+#include "samples/Samples.h"
+
+namespace vantle {
+namespace {
+
+using namespace samples;
+
+double one() {
+    return 1;
+}
+
+TEST(Confinement, TheKernelRefusesWhatADecoderMayNotDo) {
+    ConfinedMediaLoader loader(VANTLE_PROBE_DECODER, one);
+    const auto outcomes = loader.openImage(file("rgb.png"));
+    ASSERT_NE(outcomes, nullptr);
+    const double attempts = outcomes->pointSize().width;
+    EXPECT_GT(attempts, 10);
+    EXPECT_EQ(outcomes->pixelSize(), (Size{0, attempts}));
+}
+
+struct MissingGuard {
+    const char* decoder;
+    const char* name;
+};
+
+void PrintTo(const MissingGuard& guard, std::ostream* stream) {
+    *stream << guard.name;
+}
+
+class ConfinementWithout : public testing::TestWithParam<MissingGuard> {};
+
+TEST_P(ConfinementWithout, StillOpensFilesAndSaysSoOnce) {
+    fakes::CapturedLog log;
+    ConfinedMediaLoader loader(GetParam().decoder, one);
+    // Two formats, so that two decoders are started.
+    for (const auto* name : {"rgb.png", "baseline.jpg"}) {
+        const auto image = loader.openImage(file(name));
+        ASSERT_NE(image, nullptr);
+        const auto picture = image->draw(usual);
+        ASSERT_NE(picture, nullptr);
+        EXPECT_THAT(quarters(*picture), IsAbout(usualQuarters, 6));
+    }
+    EXPECT_THAT(log.lines(),
+                testing::ElementsAre("This system lacks " + std::string(GetParam().name) +
+                                     ": files are decoded without that guard"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Guards, ConfinementWithout,
+                         testing::Values(MissingGuard{VANTLE_WITHOUT_LANDLOCK, "Landlock"},
+                                         MissingGuard{VANTLE_WITHOUT_SECCOMP, "seccomp"},
+                                         MissingGuard{VANTLE_WITHOUT_BOTH,
+                                                      "Landlock and seccomp"}));
+
+TEST(Confinement, IsSilentWhereNothingIsMissing) {
+    fakes::CapturedLog log;
+    EXPECT_NE(drawn("rgb.png"), nullptr);
+    EXPECT_THAT(log.lines(), testing::IsEmpty());
+}
+
+TEST(Confinement, TheProgramItselfLoadsNoCodec) {
+    std::string libraries;
+    std::FILE* pipe = popen("ldd " VANTLE_PROGRAM, "r");
+    ASSERT_NE(pipe, nullptr);
+    char buffer[4096];
+    while (std::fgets(buffer, sizeof buffer, pipe)) libraries += buffer;
+    ASSERT_EQ(pclose(pipe), 0);
+    EXPECT_NE(libraries.find("libQt6Gui"), std::string::npos);
+    // Not libpng, which Qt brings with it for its own icons.
+    for (const auto* codec : {"libisal", "libjpeg", "libturbojpeg", "libtiff", "libgif", "libheif",
+                              "libde265", "libpoppler", "libavcodec", "libavformat", "libswscale",
+                              "liblcms", "libvantle", "vantle-decoder"})
+        EXPECT_EQ(libraries.find(codec), std::string::npos) << codec;
+}
+
+}  // namespace
+}  // namespace vantle
