@@ -101,20 +101,34 @@ private:
     std::array<std::uint8_t, 65'536> chunk_{};
 };
 
-/// As PNG has it: colours that are not multiplied by their alpha.
-void divideByAlpha(std::uint8_t* pixel) {
-    const int alpha = pixel[3];
-    if (alpha == 0 || alpha == 255) return;
-    for (int channel = 0; channel < 3; ++channel)
-        pixel[channel] = static_cast<std::uint8_t>((pixel[channel] * 255 + alpha / 2) / alpha);
+bool isOpaque(const Image& image) {
+    for (std::size_t i = 3; i < image.rgba.size(); i += 4)
+        if (image.rgba[i] != 255) return false;
+    return true;
 }
 
-void writeHeader(Output& output, const Image& image) {
-    constexpr std::array<std::uint8_t, 5> rgbaOfEightBits = {8, 6, 0, 0, 0};
+/// As PNG has it: colours that are not multiplied by their alpha.
+std::uint8_t straight(int color, int alpha) {
+    if (alpha == 0) return 0;
+    return static_cast<std::uint8_t>((color * 255 + alpha / 2) / alpha);
+}
+
+/// One row without padding, of three or four channels.
+void writeRow(const std::uint8_t* rgba, std::span<std::uint8_t> row, std::size_t channels) {
+    for (std::size_t out = 0; out < row.size(); out += channels, rgba += 4) {
+        std::copy_n(rgba, channels, &row[out]);
+        if (channels == 3 || rgba[3] == 255) continue;
+        for (std::size_t channel = 0; channel < 3; ++channel)
+            row[out + channel] = straight(rgba[channel], rgba[3]);
+    }
+}
+
+void writeHeader(Output& output, const Image& image, std::size_t channels) {
+    const std::uint8_t colorType = channels == 3 ? 2 : 6;
     std::array<std::uint8_t, 13> header{};
     std::ranges::copy(bigEndian(static_cast<std::uint32_t>(image.pixelsWide)), header.begin());
     std::ranges::copy(bigEndian(static_cast<std::uint32_t>(image.pixelsHigh)), header.begin() + 4);
-    std::ranges::copy(rgbaOfEightBits, header.begin() + 8);
+    std::ranges::copy(std::array<std::uint8_t, 2>{8, colorType}, header.begin() + 8);
     output.write(bytes("\x89PNG\r\n\x1a\n"));
     output.writeChunk("IHDR", header);
 }
@@ -122,15 +136,15 @@ void writeHeader(Output& output, const Image& image) {
 }  // namespace
 
 bool writePng(const Image& image, const std::string& path) {
+    const std::size_t channels = isOpaque(image) ? 3 : 4;
     Output output(path);
-    writeHeader(output, image);
+    writeHeader(output, image, channels);
     const auto compressor = std::make_unique<Compressor>(output);
+    const auto wide = static_cast<std::size_t>(image.pixelsWide);
     // Each row stands behind the number of its filter, which is none.
-    const auto rowSize = static_cast<std::size_t>(image.pixelsWide) * 4;
-    std::vector<std::uint8_t> row(rowSize + 1);
-    for (std::size_t begin = 0; begin < image.rgba.size(); begin += rowSize) {
-        std::copy_n(image.rgba.data() + begin, rowSize, row.begin() + 1);
-        for (std::size_t i = 1; i < row.size(); i += 4) divideByAlpha(&row[i]);
+    std::vector<std::uint8_t> row(1 + wide * channels);
+    for (std::size_t begin = 0; begin < image.rgba.size(); begin += wide * 4) {
+        writeRow(image.rgba.data() + begin, std::span(row).subspan(1), channels);
         compressor->add(row);
     }
     compressor->finish();

@@ -44,7 +44,8 @@ bool isOpaque(const Picture& picture) {
 }
 
 std::uint8_t divided(std::uint8_t color, std::uint8_t alpha) {
-    return alpha == 0 ? 0 : static_cast<std::uint8_t>((color * 255 + alpha / 2) / alpha);
+    if (alpha == 0) return 0;
+    return static_cast<std::uint8_t>((color * 255 + alpha / 2) / alpha);
 }
 
 std::uint8_t multiplied(std::uint8_t color, std::uint8_t alpha) {

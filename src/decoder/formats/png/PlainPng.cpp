@@ -56,22 +56,56 @@ private:
     bool isDamaged_ = false;
 };
 
-/// Unpacks until `into` is full. False when the data end before, or make no sense.
-bool inflate(inflate_state& state, PngStream& stream, std::span<std::uint8_t> into) {
-    state.next_out = into.data();
-    state.avail_out = static_cast<std::uint32_t>(into.size());
-    while (state.avail_out > 0) {
-        if (state.block_state == ISAL_BLOCK_FINISH) return false;
-        const auto left = state.avail_out;
-        if (isal_inflate(&state) != ISAL_DECOMP_OK) return false;
-        if (state.avail_in > 0 || state.avail_out < left) continue;
-        const auto more = stream.next();
-        if (more.empty()) return false;
-        state.next_in = const_cast<std::uint8_t*>(more.data());
-        state.avail_in = static_cast<std::uint32_t>(more.size());
+/// Unpacks the picture data.
+class Inflater {
+public:
+    explicit Inflater(PngStream& stream) : stream_(stream) {
+        isal_inflate_init(&state_);
+        // The chunks' checksums are compared: another one over the same data would tell nothing new.
+        state_.crc_flag = ISAL_DEFLATE;
     }
-    return true;
-}
+
+    /// Passes over what a zlib stream begins with. False when this is no such stream.
+    bool begin() {
+        const auto method = nextByte();
+        const auto flags = nextByte();
+        constexpr int deflate = 8;
+        constexpr int hasDictionary = 0x20;
+        return method && flags && (*method & 0x0f) == deflate && !(*flags & hasDictionary) &&
+               (*method * 256 + *flags) % 31 == 0;
+    }
+
+    /// Unpacks until `into` is full. False when the data end before, or make no sense.
+    bool fill(std::span<std::uint8_t> into) {
+        state_.next_out = into.data();
+        state_.avail_out = static_cast<std::uint32_t>(into.size());
+        while (state_.avail_out > 0) {
+            if (state_.block_state == ISAL_BLOCK_FINISH) return false;
+            const auto left = state_.avail_out;
+            if (isal_inflate(&state_) != ISAL_DECOMP_OK) return false;
+            const bool isWaiting = state_.avail_in == 0 && state_.avail_out == left;
+            if (isWaiting && !readMore()) return false;
+        }
+        return true;
+    }
+
+private:
+    bool readMore() {
+        const auto more = stream_.next();
+        state_.next_in = const_cast<std::uint8_t*>(more.data());
+        state_.avail_in = static_cast<std::uint32_t>(more.size());
+        return !more.empty();
+    }
+
+    std::optional<int> nextByte() {
+        if (state_.avail_in == 0 && !readMore()) return std::nullopt;
+        --state_.avail_in;
+        return *state_.next_in++;
+    }
+
+    PngStream& stream_;
+    inflate_state state_;
+};
 
 }  // namespace
 
@@ -83,14 +117,12 @@ std::optional<Picture> drawPlainPng(const InputFile& file, const PngHeader& head
     RowPipeline pipeline(rowCount * storedRowSize,
                          [&](std::span<const std::uint8_t> block) { rows.add(block); });
     PngStream stream(file, header);
-    const auto state = std::make_unique<inflate_state>();
-    isal_inflate_init(state.get());
-    state->crc_flag = ISAL_ZLIB;
-
+    const auto inflater = std::make_unique<Inflater>(stream);
+    if (!inflater->begin()) return std::nullopt;
     for (auto left = static_cast<std::size_t>(header.size.high); left > 0;) {
         const std::size_t count = std::min(left, rowCount);
         const auto block = pipeline.block().first(count * storedRowSize);
-        if (!inflate(*state, stream, block)) return std::nullopt;
+        if (!inflater->fill(block)) return std::nullopt;
         pipeline.submit(block.size());
         left -= count;
     }

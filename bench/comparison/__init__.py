@@ -1,0 +1,1 @@
+"""Measures our thumbnails against those of other programs."""
