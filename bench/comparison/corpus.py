@@ -74,14 +74,14 @@ def ffmpeg(*arguments):
     run("ffmpeg", "-nostdin", "-loglevel", "error", "-y", *arguments)
 
 
-def save_recordings(folder, name):
-    """The picture rolling by: 0.4 s, 10 s, 10 min, and 10 s to be turned by a quarter."""
+def save_recordings(folder, name, minutes=10):
+    """The picture rolling by: 0.4 s, 10 s, some minutes, and 10 s to be turned by a quarter."""
     rolling = ("-loop", "1", "-framerate", "30", "-i", folder / f"{name}.png", "-vf",
                "scroll=vertical=0.002", "-pix_fmt", "yuv420p", "-preset", "veryfast")
     ffmpeg(*rolling, "-t", "0.4", folder / f"{name}-short.mov")
     ffmpeg(*rolling, "-t", "10", folder / f"{name}-10s.mp4")
-    ffmpeg("-stream_loop", "59", "-i", folder / f"{name}-10s.mp4", "-c", "copy",
-           folder / f"{name}-10min.mp4")
+    ffmpeg("-stream_loop", 6 * minutes - 1, "-i", folder / f"{name}-10s.mp4", "-c", "copy",
+           folder / f"{name}-{minutes}min.mp4")
     ffmpeg("-i", folder / f"{name}-10s.mp4", "-c", "copy", "-metadata:s:v", "rotate=90",
            folder / f"{name}-turned.mov")
 
