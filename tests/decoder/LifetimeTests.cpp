@@ -23,7 +23,10 @@ using namespace std::chrono_literals;
 class DecoderLifetime : public testing::Test {
 protected:
     DecoderLifetime() { prctl(PR_SET_CHILD_SUBREAPER, 1); }
-    ~DecoderLifetime() override { prctl(PR_SET_CHILD_SUBREAPER, 0); }
+    ~DecoderLifetime() override {
+        while (wait(nullptr) > 0) continue;
+        prctl(PR_SET_CHILD_SUBREAPER, 0);
+    }
 
     static std::vector<pid_t> decoders() {
         const std::string self = std::to_string(getpid());

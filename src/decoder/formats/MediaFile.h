@@ -39,7 +39,8 @@ public:
     virtual std::optional<Picture> frame(double time, double maximumDimension) = 0;
 };
 
-/// What one format's module offers. The functions may throw std::bad_alloc, nothing else.
+/// What one format's module offers. The functions may throw
+/// std::exception where memory or threads are short.
 struct FormatModule {
     /// Called once, before the process gives up its rights; null when there is nothing to prepare.
     /// Gives the paths of files that belong to the system and that the module has to read later.

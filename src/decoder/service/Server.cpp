@@ -6,7 +6,7 @@
 
 #include <chrono>
 #include <cmath>
-#include <new>
+#include <exception>
 #include <utility>
 
 #include "decoder/formats/Contents.h"
@@ -44,10 +44,11 @@ public:
         constexpr std::chrono::seconds patience(decoderPatience);
         while (auto received = receive<Request>(socket_, patience)) {
             Answer answer;
-            // The limit on memory stops what a file asks for; the next file has the whole again.
+            // The limits stop what a file asks for: memory, or threads. The next file has all
+            // again.
             try {
                 answer = answerTo(received->message, std::move(received->descriptor));
-            } catch (const std::bad_alloc&) {
+            } catch (const std::exception&) {
                 forget();
             }
             if (!send(socket_, answer.reply, answer.memory.get())) return;

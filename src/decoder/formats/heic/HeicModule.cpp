@@ -73,8 +73,12 @@ public:
     explicit HeicImage(const InputFile& file) : reader_(file), context_(heif_context_alloc()) {}
 
     bool open() {
-        if (!context_ || !isDone(heif_context_read_from_reader(
-                             context_.get(), HeicReader::operations(), &reader_, nullptr)))
+        if (!context_) return false;
+        // What a file claims is not to be more than a decoder may use.
+        heif_context_set_maximum_image_size_limit(context_.get(), longestSide);
+        heif_context_set_max_decoding_threads(context_.get(), threads);
+        if (!isDone(heif_context_read_from_reader(context_.get(), HeicReader::operations(),
+                                                  &reader_, nullptr)))
             return false;
         heif_image_handle* handle = nullptr;
         if (!isDone(heif_context_get_primary_image_handle(context_.get(), &handle))) return false;
@@ -101,6 +105,9 @@ public:
     }
 
 private:
+    static constexpr int longestSide = 16'384;
+    static constexpr int threads = 2;
+
     Owned<heif_image> decoded(heif_chroma chroma) {
         const Owned<heif_decoding_options> options(heif_decoding_options_alloc());
         if (!options) return nullptr;
