@@ -75,7 +75,7 @@ int makeThumbnail(const Arguments& arguments) {
         ConfinedMediaLoader loader(program.string(), [] { return 1.0; });
         capture->loadThumbnail(loader, arguments.most);
     }
-    print(*capture);
+    if (capture->thumbnail() || capture->duration() > 0) print(*capture);
     if (!capture->thumbnail()) {
         std::fprintf(stderr, "%s: no picture can be made of it\n", arguments.in.c_str());
         return 1;

@@ -14,6 +14,19 @@ namespace {
 
 constexpr int bufferSize = 64 * 1024;
 
+/// The matrix by which pictures are turned before they are shown; null when they are not.
+const std::int32_t* displayMatrix(const AVStream& track) {
+#if LIBAVFORMAT_VERSION_INT >= AV_VERSION_INT(60, 15, 100)
+    const auto* data =
+        av_packet_side_data_get(track.codecpar->coded_side_data, track.codecpar->nb_coded_side_data,
+                                AV_PKT_DATA_DISPLAYMATRIX);
+    return data ? reinterpret_cast<const std::int32_t*>(data->data) : nullptr;
+#else
+    return reinterpret_cast<const std::int32_t*>(
+        av_stream_get_side_data(&track, AV_PKT_DATA_DISPLAYMATRIX, nullptr));
+#endif
+}
+
 }  // namespace
 
 int Demuxer::read(void* self, std::uint8_t* bytes, int count) {
@@ -86,8 +99,7 @@ double Demuxer::duration() const {
 }
 
 Orientation Demuxer::orientation(const AVStream& track) {
-    const auto* matrix = reinterpret_cast<const std::int32_t*>(
-        av_stream_get_side_data(&track, AV_PKT_DATA_DISPLAYMATRIX, nullptr));
+    const std::int32_t* matrix = displayMatrix(track);
     const double angle = matrix ? av_display_rotation_get(matrix) : 0;
     if (!std::isfinite(angle)) return Orientation::upright;
     // The angle turns against the clock.

@@ -37,6 +37,15 @@ Codec openCodec(const AVStream& track) {
 /// difference, and everybody would wait.
 constexpr std::int64_t mostPixels = std::int64_t{15} * 3840 * 2160;
 
+/// How long a frame is shown, in the units of its track; 0 when unknown.
+std::int64_t lengthOf(const AVFrame& frame) {
+#if LIBAVUTIL_VERSION_INT >= AV_VERSION_INT(57, 30, 100)
+    return frame.duration;
+#else
+    return frame.pkt_duration;
+#endif
+}
+
 /// Goes through a track until the frame of a time has come.
 class Search {
 public:
@@ -76,8 +85,8 @@ private:
         pixels_ += std::int64_t{frame->width} * frame->height;
         const bool isLater = begin != AV_NOPTS_VALUE && begin > wanted_;
         if (!isLater || !latest_) latest_ = std::move(frame);
-        const bool isLast = begin != AV_NOPTS_VALUE && latest_->pkt_duration > 0 &&
-                            begin + latest_->pkt_duration > wanted_;
+        const std::int64_t length = lengthOf(*latest_);
+        const bool isLast = begin != AV_NOPTS_VALUE && length > 0 && begin > wanted_ - length;
         isFound_ = isLater || isLast || begin == AV_NOPTS_VALUE || pixels_ >= mostPixels;
     }
 
