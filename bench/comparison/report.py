@@ -49,7 +49,7 @@ def axis(bottom):
 
 
 def legend(peers):
-    parts, x = [], LEFT
+    parts, x = [], 12
     for peer in peers:
         parts.append(f'<circle cx="{x}" cy="16" r="5" fill="{COLOURS.get(peer, "#999")}"/>')
         parts.append(f'<text x="{x + 9}" y="20">{escape(peer)}</text>')

@@ -29,7 +29,7 @@ private:
 /// Reads a file from its beginning to its end, or from any other place on.
 class InputStream {
 public:
-    explicit InputStream(const InputFile& file, std::size_t bufferSize = 128 * 1024);
+    explicit InputStream(const InputFile& file, std::size_t bufferSize = std::size_t{128} * 1024);
 
     std::int64_t position() const;
     void seek(std::int64_t position);

@@ -31,7 +31,7 @@ private:
 
 /// Blocks of whole rows that are worth handing to another thread.
 constexpr std::size_t rowsInBlock(std::size_t rowSize) {
-    constexpr std::size_t worthwhile = 128 * 1024;
+    constexpr std::size_t worthwhile = std::size_t{128} * 1024;
     return std::max<std::size_t>(1, worthwhile / rowSize);
 }
 

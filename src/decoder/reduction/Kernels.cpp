@@ -115,8 +115,9 @@ VANTLE_LOOP void reduceAcross(const float* row, const Taps* taps, int pixels, st
         const float* samples = row + static_cast<std::ptrdiff_t>(start) * channels;
         Float4 even{};
         Float4 odd{};
+        constexpr std::ptrdiff_t next = 2 * channels;
         int tap = 0;
-        for (; tap + 1 < count; tap += 2, samples += 2 * channels) {
+        for (; tap + 1 < count; tap += 2, samples += next) {
             even += all(weights[tap]) * loadFloats(samples);
             odd += all(weights[tap + 1]) * loadFloats(samples + channels);
         }
@@ -152,6 +153,8 @@ VANTLE_LOOP bool premultiply(const std::uint8_t* __restrict row, std::uint8_t* _
 }
 
 // What makes one set of functions from the loops, for one kind of processor.
+
+// NOLINTBEGIN(bugprone-macro-parentheses): an attribute cannot stand in parentheses
 #define VANTLE_KERNELS(NAME, TARGET)                                                              \
     struct NAME {                                                                                 \
         TARGET static void add(const std::uint8_t* row, std::uint16_t* sums, std::size_t count) { \
@@ -179,6 +182,8 @@ VANTLE_LOOP bool premultiply(const std::uint8_t* __restrict row, std::uint8_t* _
         }                                                                                         \
         static constexpr Kernels table{add, widen, average, down, across, multiply};              \
     };
+
+// NOLINTEND(bugprone-macro-parentheses)
 
 VANTLE_KERNELS(Portable, )
 #ifdef __x86_64__

@@ -127,7 +127,8 @@ private:
         const PixelSize size{heif_image_get_width(&image, heif_channel_interleaved),
                              heif_image_get_height(&image, heif_channel_interleaved)};
         if (!rows || size != size_) return std::nullopt;
-        const auto rowSize = static_cast<std::size_t>(size.wide * channelCount(layout));
+        const auto rowSize =
+            static_cast<std::size_t>(size.wide) * static_cast<std::size_t>(channelCount(layout));
         ThreadedReduction reduction(size, target, layout);
         for (int y = 0; y < size.high; ++y) {
             std::memcpy(reduction.row(), rows + std::ptrdiff_t{stride} * y, rowSize);

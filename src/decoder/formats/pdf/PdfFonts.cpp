@@ -67,7 +67,7 @@ std::vector<std::string> filesOfStandardFonts() {
 }  // namespace
 
 std::vector<std::string> usePdfFonts() {
-    const auto files = filesOfStandardFonts();
+    auto files = filesOfStandardFonts();
     const Config own(FcConfigCreate());
     if (!own) return {};
     FcConfigParseAndLoad(own.get(), text(rules), FcFalse);

@@ -61,7 +61,8 @@ class Inflater {
 public:
     explicit Inflater(PngStream& stream) : stream_(stream) {
         isal_inflate_init(&state_);
-        // The chunks' checksums are compared: another one over the same data would tell nothing new.
+        // The chunks' checksums are compared: another one over the same data would tell nothing
+        // new.
         state_.crc_flag = ISAL_DEFLATE;
     }
 

@@ -32,7 +32,7 @@ void appendChunk(std::vector<std::uint8_t>& bytes, const PngChunk& chunk,
 
 /// The profile within an iCCP chunk: a name, a zero, the method, and compressed data.
 std::vector<std::uint8_t> colorProfile(std::span<const std::uint8_t> data) {
-    constexpr std::size_t largest = 4 * 1024 * 1024;
+    constexpr std::size_t largest = std::size_t{4} * 1024 * 1024;
     const auto nameEnd = std::ranges::find(data, 0);
     const auto nameSize = static_cast<std::size_t>(nameEnd - data.begin());
     if (nameSize + 2 > data.size()) return {};
@@ -57,14 +57,14 @@ void readResolution(PngHeader& header, std::span<const std::uint8_t> data) {
     constexpr std::uint8_t perMetre = 1;
     if (data.size() != 9 || data[8] != perMetre) return;
     header.resolution =
-        Resolution::of(bigEndian32(&data[0]), bigEndian32(&data[4]), Resolution::metresInInch);
+        Resolution::of(bigEndian32(data.data()), bigEndian32(&data[4]), Resolution::metresInInch);
 }
 
 bool readSizes(PngHeader& header, std::span<const std::uint8_t> data) {
     constexpr std::uint32_t largest = 0x7fff'ffff;
-    if (data.size() != 13 || bigEndian32(&data[0]) > largest || bigEndian32(&data[4]) > largest)
+    if (data.size() != 13 || bigEndian32(data.data()) > largest || bigEndian32(&data[4]) > largest)
         return false;
-    header.size = {static_cast<int>(bigEndian32(&data[0])),
+    header.size = {static_cast<int>(bigEndian32(data.data())),
                    static_cast<int>(bigEndian32(&data[4]))};
     header.depth = data[8];
     header.colorType = data[9];
@@ -74,7 +74,7 @@ bool readSizes(PngHeader& header, std::span<const std::uint8_t> data) {
 
 /// Takes what a chunk before the picture says. False when the file is of no use.
 bool readChunk(PngHeader& header, PngChunks& chunks, const PngChunk& chunk) {
-    constexpr std::size_t largestProfile = 4 * 1024 * 1024;
+    constexpr std::size_t largestProfile = std::size_t{4} * 1024 * 1024;
     constexpr std::size_t largestTable = 768;
     const bool belongsToPicture = chunk.is("IHDR") || chunk.is("PLTE") || chunk.is("tRNS");
     if (!belongsToPicture && !chunk.is("pHYs") && !chunk.is("iCCP")) {

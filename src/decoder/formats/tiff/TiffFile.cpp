@@ -51,19 +51,19 @@ toff_t TiffFile::size(thandle_t handle) {
     return static_cast<toff_t>(static_cast<TiffFile*>(handle)->file_.size());
 }
 
-std::unique_ptr<TiffFile> TiffFile::open(const InputFile& input) {
+std::unique_ptr<TiffFile> TiffFile::open(const InputFile& file) {
     const std::unique_ptr<TIFFOpenOptions, OptionsFreer> options(TIFFOpenOptionsAlloc());
     if (!options) return nullptr;
     TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), largestAllocation);
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), ignore, nullptr);
     TIFFOpenOptionsSetWarningHandlerExtR(options.get(), ignore, nullptr);
-    std::unique_ptr<TiffFile> file(new TiffFile(input));
+    std::unique_ptr<TiffFile> opened(new TiffFile(file));
     // "m": the file is read, not mapped, because somebody may cut it off meanwhile.
-    file->tiff_.reset(TIFFClientOpenExt("", "rm", file.get(), read, write, seek, close, size,
-                                        nullptr, nullptr, options.get()));
-    if (!file->tiff_) return nullptr;
-    file->readHeader();
-    return file;
+    opened->tiff_.reset(TIFFClientOpenExt("", "rm", opened.get(), read, write, seek, close, size,
+                                          nullptr, nullptr, options.get()));
+    if (!opened->tiff_) return nullptr;
+    opened->readHeader();
+    return opened;
 }
 
 void TiffFile::readHeader() {
