@@ -1,6 +1,8 @@
 #pragma once
 
 #include <gmock/gmock.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -30,6 +32,13 @@ public:
 private:
     ConfinedMediaLoader loader_;
 };
+
+/// Whether this kernel can take the file system from a decoder. Tests of what goes only with that
+/// are skipped elsewhere.
+inline bool hasLandlock() {
+    constexpr unsigned askForVersion = 1;
+    return syscall(SYS_landlock_create_ruleset, nullptr, 0, askForVersion) > 0;
+}
 
 /// What most samples measure, in pixels and in points.
 constexpr Size usual{64, 48};
