@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstring>
 
 #include "decoder/formats/Limits.h"
 #include "decoder/formats/ThreadedReduction.h"
@@ -40,20 +39,12 @@ private:
     bool isMade_ = false;
 };
 
-/// How many rows are stored together.
-int rowsInPart(TIFF* tiff, int high) {
-    std::uint32_t rows = 0;
-    const std::uint32_t name = TIFFIsTiled(tiff) ? TIFFTAG_TILELENGTH : TIFFTAG_ROWSPERSTRIP;
-    if (!TIFFGetFieldDefaulted(tiff, name, &rows) || rows == 0) return high;
-    return static_cast<int>(std::min<std::uint32_t>(rows, static_cast<std::uint32_t>(high)));
-}
-
 }  // namespace
 
 std::optional<Picture> drawAnyTiff(TiffFile& file, PixelSize target) {
     const PixelSize size = file.header().size;
     Conversion conversion(file.tiff());
-    const int rows = rowsInPart(file.tiff(), size.high);
+    const int rows = file.rowsInPart();
     if (!conversion.isMade() || !isReasonableInMemory(size.wide, rows)) return std::nullopt;
     const auto wide = static_cast<std::size_t>(size.wide);
     std::vector<std::uint32_t> pixels(wide * static_cast<std::size_t>(rows));
@@ -61,11 +52,8 @@ std::optional<Picture> drawAnyTiff(TiffFile& file, PixelSize target) {
     for (int first = 0; first < size.high; first += rows) {
         const int count = std::min(rows, size.high - first);
         if (!conversion.read(first, count, pixels)) return std::nullopt;
-        for (int row = 0; row < count; ++row) {
-            std::memcpy(reduction.row(), pixels.data() + wide * static_cast<std::size_t>(row),
-                        wide * 4);
-            reduction.rowIsWritten();
-        }
+        for (int row = 0; row < count; ++row)
+            reduction.addRow(pixels.data() + wide * static_cast<std::size_t>(row));
     }
     return reduction.take();
 }

@@ -90,14 +90,13 @@ private:
 bool readUncompressed(TiffFile& file, RowSink& sink) {
     InputStream stream(file.file());
     std::vector<std::uint8_t> row(sink.storedRowSize());
-    const auto rowsPerStrip = [&] {
-        std::uint32_t rows = 0;
-        return TIFFGetFieldDefaulted(file.tiff(), TIFFTAG_ROWSPERSTRIP, &rows) ? rows : 0;
-    }();
-    if (rowsPerStrip == 0) return false;
+    const int rowsInStrip = file.rowsInPart();
     for (std::uint32_t strip = 0; sink.left() > 0; ++strip) {
-        stream.seek(static_cast<std::int64_t>(TIFFGetStrileOffset(file.tiff(), strip)));
-        for (std::uint32_t i = 0; i < rowsPerStrip && sink.left() > 0; ++i) {
+        const auto offset = static_cast<std::int64_t>(TIFFGetStrileOffset(file.tiff(), strip));
+        // No strip stands where the file begins: this one is missing.
+        if (offset <= 0) return false;
+        stream.seek(offset);
+        for (int i = 0; i < rowsInStrip && sink.left() > 0; ++i) {
             if (!stream.read(row)) return false;
             sink.add(row.data());
         }
@@ -172,7 +171,6 @@ bool isPlain(const TiffHeader& header) {
     const bool isUsualDepth = header.bitsPerSample == 8 || header.bitsPerSample == 16 ||
                               (header.bitsPerSample == 1 && header.samplesPerPixel == 1);
     const bool isOfNumbers = header.sampleFormat == SAMPLEFORMAT_UINT;
-    // Within a tile, rows of single bits may not begin at a byte.
     return isUsualDepth && isOfNumbers && header.planes == PLANARCONFIG_CONTIG &&
            layoutOf(header).has_value();
 }

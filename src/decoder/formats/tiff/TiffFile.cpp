@@ -66,6 +66,13 @@ std::unique_ptr<TiffFile> TiffFile::open(const InputFile& file) {
     return opened;
 }
 
+int TiffFile::rowsInPart() const {
+    std::uint32_t rows = 0;
+    const std::uint32_t name = TIFFIsTiled(tiff_.get()) ? TIFFTAG_TILELENGTH : TIFFTAG_ROWSPERSTRIP;
+    if (!TIFFGetFieldDefaulted(tiff_.get(), name, &rows) || rows == 0) return header_.size.high;
+    return static_cast<int>(std::min(rows, static_cast<std::uint32_t>(header_.size.high)));
+}
+
 void TiffFile::readHeader() {
     TIFF* tiff = tiff_.get();
     constexpr std::uint32_t longest = 0x7fff'ffff;

@@ -35,6 +35,8 @@ public:
 
     const TiffHeader& header() const { return header_; }
     TIFF* tiff() { return tiff_.get(); }
+    /// How many rows are stored together, in a strip or a row of tiles; at least 1.
+    int rowsInPart() const;
     const InputFile& file() const { return file_; }
 
 private:
