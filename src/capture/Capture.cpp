@@ -5,17 +5,14 @@
 #include <string_view>
 #include <utility>
 
+#include "support/Lowercase.h"
+
 namespace vantle {
 namespace {
 
 constexpr std::array<std::string_view, 8> imageExtensions = {"png",  "jpg", "jpeg", "heic",
                                                              "tiff", "tif", "gif",  "pdf"};
 constexpr std::array<std::string_view, 3> videoExtensions = {"mov", "mp4", "m4v"};
-
-char lowercase(char character) {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
-                                                : character;
-}
 
 bool contains(const auto& extensions, std::string_view extension) {
     return std::ranges::any_of(extensions, [extension](std::string_view candidate) {

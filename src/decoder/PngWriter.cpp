@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "decoder/reduction/Alpha.h"
+
 namespace vantle::decoder {
 namespace {
 
@@ -101,25 +103,13 @@ private:
     std::array<std::uint8_t, 65'536> chunk_{};
 };
 
-bool isOpaque(const Image& image) {
-    for (std::size_t i = 3; i < image.rgba.size(); i += 4)
-        if (image.rgba[i] != 255) return false;
-    return true;
-}
-
-/// As PNG has it: colours that are not multiplied by their alpha.
-std::uint8_t straight(int color, int alpha) {
-    if (alpha == 0) return 0;
-    return static_cast<std::uint8_t>((color * 255 + alpha / 2) / alpha);
-}
-
 /// One row without padding, of three or four channels.
 void writeRow(const std::uint8_t* rgba, std::span<std::uint8_t> row, std::size_t channels) {
     for (std::size_t out = 0; out < row.size(); out += channels, rgba += 4) {
         std::copy_n(rgba, channels, &row[out]);
         if (channels == 3 || rgba[3] == 255) continue;
         for (std::size_t channel = 0; channel < 3; ++channel)
-            row[out + channel] = straight(rgba[channel], rgba[3]);
+            row[out + channel] = dividedByAlpha(rgba[channel], rgba[3]);
     }
 }
 
@@ -136,7 +126,7 @@ void writeHeader(Output& output, const Image& image, std::size_t channels) {
 }  // namespace
 
 bool writePng(const Image& image, const std::string& path) {
-    const std::size_t channels = isOpaque(image) ? 3 : 4;
+    const std::size_t channels = isOpaque(image.rgba) ? 3 : 4;
     Output output(path);
     writeHeader(output, image, channels);
     const auto compressor = std::make_unique<Compressor>(output);

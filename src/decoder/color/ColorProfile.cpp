@@ -2,8 +2,9 @@
 
 #include <lcms2.h>
 
-#include <algorithm>
 #include <memory>
+
+#include "decoder/reduction/Alpha.h"
 
 namespace vantle::decoder {
 namespace {
@@ -37,28 +38,6 @@ std::size_t pixelCount(const Picture& picture) {
     return picture.rgba.size() / 4;
 }
 
-bool isOpaque(const Picture& picture) {
-    for (std::size_t i = 3; i < picture.rgba.size(); i += 4)
-        if (picture.rgba[i] != 255) return false;
-    return true;
-}
-
-std::uint8_t divided(std::uint8_t color, std::uint8_t alpha) {
-    if (alpha == 0) return 0;
-    return static_cast<std::uint8_t>((color * 255 + alpha / 2) / alpha);
-}
-
-std::uint8_t multiplied(std::uint8_t color, std::uint8_t alpha) {
-    return static_cast<std::uint8_t>((color * alpha + 127) / 255);
-}
-
-/// Applies `change` to each colour with the alpha that stands behind it.
-void changeColors(Picture& picture, std::uint8_t (*change)(std::uint8_t, std::uint8_t)) {
-    for (std::size_t i = 0; i < picture.rgba.size(); i += 4)
-        for (std::size_t channel = 0; channel < 3; ++channel)
-            picture.rgba[i + channel] = change(picture.rgba[i + channel], picture.rgba[i + 3]);
-}
-
 void apply(void* transform, Picture& picture) {
     cmsDoTransform(transform, picture.rgba.data(), picture.rgba.data(),
                    static_cast<cmsUInt32Number>(pixelCount(picture)));
@@ -83,10 +62,10 @@ void convertInkPlainly(Picture& picture) {
 void convertToScreen(Picture& picture, std::span<const std::uint8_t> colorProfile) {
     const Transform toScreen = transform(colorProfile, cmsSigRgbData, TYPE_RGBA_8);
     if (!toScreen) return;
-    const bool isTranslucent = !isOpaque(picture);
-    if (isTranslucent) changeColors(picture, divided);
+    const bool isTranslucent = !isOpaque(picture.rgba);
+    if (isTranslucent) changeColors(picture.rgba, dividedByAlpha);
     apply(toScreen.get(), picture);
-    if (isTranslucent) changeColors(picture, multiplied);
+    if (isTranslucent) changeColors(picture.rgba, multipliedByAlpha);
 }
 
 void convertInkToScreen(Picture& picture, InkSense sense, std::span<const std::uint8_t> profile) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 
 #include "decoder/reduction/Reducer.h"
@@ -17,6 +18,12 @@ public:
     /// Room for the next row, uninitialised; its contents count once rowIsWritten() is called.
     std::uint8_t* row();
     void rowIsWritten();
+
+    /// The same for a row that stands elsewhere already.
+    void addRow(const void* row) {
+        std::memcpy(this->row(), row, rowSize_);
+        rowIsWritten();
+    }
 
     /// Absent when rows are missing.
     std::optional<Picture> take();

@@ -7,9 +7,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <string_view>
 #include <utility>
+
+#include "support/Lowercase.h"
 
 namespace vantle {
 namespace {
@@ -37,9 +38,7 @@ Format formatNamedBy(const Url& url) {
         Extension{"tiff", Format::tiff}, Extension{"heic", Format::heic},
         Extension{"pdf", Format::pdf}};
     std::string extension(url.pathExtension());
-    std::ranges::transform(extension, extension.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    });
+    std::ranges::transform(extension, extension.begin(), lowercase);
     const auto found = std::ranges::find(extensions, extension, &Extension::text);
     return found != extensions.end() ? found->format : Format::png;
 }

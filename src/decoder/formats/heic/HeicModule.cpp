@@ -1,7 +1,6 @@
 #include <libheif/heif.h>
 
 #include <array>
-#include <cstring>
 #include <memory>
 
 #include "decoder/color/ColorProfile.h"
@@ -127,13 +126,8 @@ private:
         const PixelSize size{heif_image_get_width(&image, heif_channel_interleaved),
                              heif_image_get_height(&image, heif_channel_interleaved)};
         if (!rows || size != size_) return std::nullopt;
-        const auto rowSize =
-            static_cast<std::size_t>(size.wide) * static_cast<std::size_t>(channelCount(layout));
         ThreadedReduction reduction(size, target, layout);
-        for (int y = 0; y < size.high; ++y) {
-            std::memcpy(reduction.row(), rows + std::ptrdiff_t{stride} * y, rowSize);
-            reduction.rowIsWritten();
-        }
+        for (int y = 0; y < size.high; ++y) reduction.addRow(rows + std::ptrdiff_t{stride} * y);
         return reduction.take();
     }
 

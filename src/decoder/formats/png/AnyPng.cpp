@@ -1,7 +1,6 @@
 #include <png.h>
 
 #include <csetjmp>
-#include <cstring>
 
 #include "decoder/formats/Limits.h"
 #include "decoder/formats/ThreadedReduction.h"
@@ -43,19 +42,15 @@ public:
             png_progressive_combine_row(png, whole_.data() + rowSize_ * number, row);
             return;
         }
-        std::memcpy(reduction_->row(), row, rowSize_);
-        reduction_->rowIsWritten();
+        reduction_->addRow(row);
     }
 
     void end() { isComplete_ = true; }
-    bool isComplete() const { return isComplete_; }
 
     std::optional<Picture> take() {
         if (!isComplete_) return std::nullopt;
-        for (std::size_t begin = 0; begin < whole_.size(); begin += rowSize_) {
-            std::memcpy(reduction_->row(), whole_.data() + begin, rowSize_);
-            reduction_->rowIsWritten();
-        }
+        for (std::size_t begin = 0; begin < whole_.size(); begin += rowSize_)
+            reduction_->addRow(whole_.data() + begin);
         return reduction_->take();
     }
 

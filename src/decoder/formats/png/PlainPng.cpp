@@ -1,6 +1,5 @@
 #include <isa-l.h>
 
-#include <atomic>
 #include <memory>
 
 #include "decoder/formats/ThreadedReduction.h"
@@ -15,7 +14,7 @@ namespace {
 class FilteredRows {
 public:
     FilteredRows(const PngHeader& header, PixelSize target, std::size_t rowsInBlock)
-        : bytesPerPixel_(header.colorType == 6 ? 4 : 3),
+        : bytesPerPixel_(bytesPerPixel(header)),
           rowSize_(rowSize(header)),
           first_(rowSize_ + RowPipeline::padding),
           above_(first_.data()),
@@ -25,7 +24,8 @@ public:
           }) {}
 
     static std::size_t rowSize(const PngHeader& header) {
-        return static_cast<std::size_t>(header.size.wide) * (header.colorType == 6 ? 4 : 3);
+        return static_cast<std::size_t>(header.size.wide) *
+               static_cast<std::size_t>(bytesPerPixel(header));
     }
 
     /// At most a block of rows, each behind the number of its filter.
@@ -47,6 +47,10 @@ public:
     }
 
 private:
+    static int bytesPerPixel(const PngHeader& header) {
+        return header.colorType == PngHeader::rgba ? 4 : 3;
+    }
+
     const int bytesPerPixel_;
     const std::size_t rowSize_;
     const std::vector<std::uint8_t> first_;  ///< Zeros, which stand above the first row.

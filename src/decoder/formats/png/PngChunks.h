@@ -62,10 +62,11 @@ struct PngHeader {
     /// Of the first chunk of picture data.
     std::int64_t dataPosition = 0;
 
+    static constexpr int rgb = 2;
+    static constexpr int rgba = 6;
+
     /// What screenshot tools write: 8 bits a channel, RGB or RGBA, not interlaced.
     bool isPlain() const {
-        constexpr int rgb = 2;
-        constexpr int rgba = 6;
         return depth == 8 && !isInterlaced &&
                (colorType == rgba || (colorType == rgb && !hasTransparency));
     }

@@ -7,6 +7,8 @@ extern "C" {
 
 #include <array>
 
+#include "decoder/reduction/Alpha.h"
+
 namespace vantle::decoder {
 namespace {
 
@@ -51,11 +53,7 @@ std::optional<Picture> pictureOf(const AVFrame& frame, PixelSize target) {
     if (sws_scale(scaler.get(), frame.data, frame.linesize, 0, frame.height, planes.data(),
                   strides.data()) != target.high)
         return std::nullopt;
-    if (hasAlpha(frame))
-        for (std::size_t i = 0; i < picture.rgba.size(); i += 4)
-            for (std::size_t channel = 0; channel < 3; ++channel)
-                picture.rgba[i + channel] = static_cast<std::uint8_t>(
-                    (picture.rgba[i + channel] * picture.rgba[i + 3] + 127) / 255);
+    if (hasAlpha(frame)) changeColors(picture.rgba, multipliedByAlpha);
     return picture;
 }
 
