@@ -112,6 +112,26 @@ TEST(GrayImageTest, HasEqualParts) {
     }
 }
 
+class ProfiledImage : public testing::TestWithParam<const char*> {};
+
+TEST_P(ProfiledImage, IsShownInTheColorsOfAScreen) {
+    const auto image = drawn(GetParam());
+    ASSERT_NE(image, nullptr);
+    // Stored as red and green, by a profile in which the two have changed places.
+    EXPECT_THAT(quarters(*image), IsAbout(std::array{green, red, blue, yellow}, 12));
+}
+
+INSTANTIATE_TEST_SUITE_P(Formats, ProfiledImage,
+                         testing::Values("profile.png", "profile.jpg", "profile.tif"));
+
+TEST(ProfiledImageTest, MayBeTranslucent) {
+    const auto image = drawn("profile_translucent.png");
+    ASSERT_NE(image, nullptr);
+    constexpr std::array expected{Color{0, 128, 0, 128}, Color{128, 0, 0, 128},
+                                  Color{0, 0, 128, 128}, Color{128, 128, 0, 128}};
+    EXPECT_THAT(quarters(*image), IsAbout(expected, 6));
+}
+
 TEST(PdfTest, LettersOfAFontThatIsNotInTheFileAreDrawn) {
     if (!hasLandlock()) GTEST_SKIP() << "without Landlock no font can be read";
     const auto image = drawn("letters.pdf", {100, 48});
@@ -142,8 +162,8 @@ INSTANTIATE_TEST_SUITE_P(Formats, DamagedImage,
                                          "flipped.png", "too_few_rows.png", "cut.jpg",
                                          "cut_before_end.jpg", "cut_in_header.jpg",
                                          "zeros_at_end.jpg", "cut.gif", "cut.tif",
-                                         "too_few_rows.tif", "cut.heic", "cut.pdf", "no_pages.pdf",
-                                         "empty.png", "text.png"));
+                                         "too_few_rows.tif", "missing_strip.tif", "cut.heic",
+                                         "cut.pdf", "no_pages.pdf", "empty.png", "text.png"));
 
 TEST(DecoderTest, WritesNothingAboutAnyFile) {
     if (!hasLandlock()) GTEST_SKIP() << "the program says once that this kernel lacks Landlock";

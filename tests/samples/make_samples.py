@@ -10,7 +10,7 @@ from pathlib import Path
 from gifs import gifs
 from jpegs import jpeg, jpegs
 from pdfs import pdfs
-from picture import quarters
+from picture import quarters, swapped_profile
 from pngs import pngs
 from recordings import write_heics, write_recordings
 from tiffs import tiffs
@@ -24,12 +24,22 @@ def others():
     }
 
 
+def write_profiled(folder):
+    """Pictures whose stored colours are not those that a screen is to show."""
+    translucent = quarters().convert("RGBA")
+    translucent.putalpha(128)
+    translucent.save(folder / "profile_translucent.png", icc_profile=swapped_profile())
+    for name in ("profile.png", "profile.jpg", "profile.tif"):
+        quarters().save(folder / name, icc_profile=swapped_profile())
+
+
 def main():
     folder = Path(sys.argv[1])
     folder.mkdir(parents=True, exist_ok=True)
     for group in (pngs(), jpegs(), gifs(), tiffs(), pdfs(), others()):
         for name, data in group.items():
             (folder / name).write_bytes(data)
+    write_profiled(folder)
     write_heics(folder)
     write_recordings(folder)
 

@@ -124,6 +124,7 @@ def others():
         "straight_alpha.tif": tiff([translucent], tags(samples=4, t278=HEIGHT, t338=2)),
         "cut.tif": good[:len(good) // 2],
         "too_few_rows.tif": tiff([rows()], tags(high=2 * HEIGHT, t278=2 * HEIGHT)),
+        "missing_strip.tif": tiff([rows()], tags(high=2 * HEIGHT, t278=HEIGHT)),
         "huge.tif": tiff([rows()], tags(wide=HUGE, high=HUGE, t278=HUGE)),
         "huge_tile.tif": tiff([rows()], tags(t322=HUGE // 16 * 16, t323=HUGE // 16 * 16)),
         "four_gigabytes.tif": tiff([zlib.compress(b"\0" * 500)],
