@@ -90,6 +90,12 @@ void returnLargeBlocksAtOnce() {
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 }
 
+/// "vantle --focus-panel" asks the copy that runs for the action of that name.
+std::string requestedAction() {
+    const QString option = QGuiApplication::arguments().value(1);
+    return option.startsWith(QStringLiteral("--")) ? option.mid(2).toStdString() : std::string();
+}
+
 QGuiApplication makeApplication(int& argc, char** argv) {
     const X11Preference preference;
     return QGuiApplication(argc, argv);
@@ -104,10 +110,11 @@ int main(int argc, char** argv) {
 
     Platform platform = makePlatform();
     const auto delegate =
-        AppDelegate::create(platform, [&](PanelState& state, CardActions actions) {
-            return std::make_unique<CapturePanel>(state, std::move(actions), rendering(platform));
+        AppDelegate::create(platform, [&](PanelState& state, Settings& settings, CardActions actions) {
+            return std::make_unique<CapturePanel>(state, settings, std::move(actions),
+                                                  rendering(platform));
         });
-    if (!delegate->applicationWillFinishLaunching()) return 0;
+    if (!delegate->applicationWillFinishLaunching(requestedAction())) return 0;
     const UnixSignals endingSignals([&] { platform.application->terminate(); });
     delegate->applicationDidFinishLaunching();
     return QGuiApplication::exec();

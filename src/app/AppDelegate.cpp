@@ -43,18 +43,16 @@ AppDelegate::AppDelegate(Platform& platform, CapturePanelController::PanelFactor
                                              .fileActions = std::move(fileActions),
                                              .makePanel = std::move(makePanel)})) {}
 
-bool AppDelegate::applicationWillFinishLaunching() {
+bool AppDelegate::applicationWillFinishLaunching(const std::string& action) {
     if (!platform_.application->anotherCopyIsRunning()) return true;
-    platform_.application->activateOtherCopy();
+    platform_.application->activateOtherCopy(action);
     platform_.application->terminate();
     return false;
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
     Settings::applyActivationPolicy(*platform_.application, settings_.showInDock.value());
-    platform_.application->onReopen = weakly(shared_from_this(), [](auto& self, bool visible) {
-        self.applicationShouldHandleReopen(visible);
-    });
+    connectApplication();
     connectStatusBar();
     updater();  // its schedule runs from here on
     if (platform_.environment("VANTLE_CHECK_UPDATES_NOW"))
@@ -67,6 +65,18 @@ void AppDelegate::applicationDidFinishLaunching() {
         startWatching();
     else
         showOnboarding();
+}
+
+void AppDelegate::connectApplication() {
+    platform_.application->onReopen = weakly(shared_from_this(), [](auto& self, bool visible) {
+        self.applicationShouldHandleReopen(visible);
+    });
+    platform_.application->onAction = [weak = weak_from_this()](const std::string& action) {
+        const auto delegate = weak.lock();
+        if (!delegate || action != focusPanelAction) return false;
+        delegate->panel_->takeKeyboard();
+        return true;
+    };
 }
 
 void AppDelegate::connectStatusBar() {

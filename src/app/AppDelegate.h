@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "app/StatusBarController.h"
@@ -25,9 +26,12 @@ public:
                                                CapturePanelController::PanelFactory makePanel,
                                                FileActions fileActions = {});
 
-    /// Hands over to a copy that runs already: brings that one forward and terminates this one.
-    /// False then: launching must not go on.
-    bool applicationWillFinishLaunching();
+    /// What the launcher or a second start can ask for by name: the panel takes the keyboard.
+    static constexpr auto focusPanelAction = "focus-panel";
+
+    /// Hands over to a copy that runs already: asks that one for `action`, or brings it forward when
+    /// that is empty, and terminates this one. False then: launching must not go on.
+    bool applicationWillFinishLaunching(const std::string& action = {});
 
     /// Connects the components and starts watching, or the onboarding on the first run.
     void applicationDidFinishLaunching();
@@ -54,6 +58,7 @@ private:
     AppDelegate(Platform& platform, CapturePanelController::PanelFactory makePanel,
                 FileActions fileActions);
 
+    void connectApplication();
     void connectStatusBar();
     void connectWatcher();
     void observeScreenshotFolder();

@@ -70,7 +70,11 @@ void CapturePanelController::show(const CapturePointer& capture) {
 }
 
 void CapturePanelController::createPanel() {
-    panel_ = services_.makePanel(state_, makeActions());
+    panel_ = services_.makePanel(state_, services_.settings, makeActions());
+    panel_->onMarquee =
+        weakly(shared_from_this(), [](auto& self, const auto& rect) { self.marqueeChanged(rect); });
+    panel_->onBackgroundClick =
+        weakly(shared_from_this(), [](auto& self) { self.clearSelection(); });
     position(*panel_);
 }
 
@@ -159,6 +163,21 @@ void CapturePanelController::removeMany(const std::vector<CapturePointer>& captu
         const auto frame = panel_ ? panel_->glassFrameDescription() : std::nullopt;
         return "glassFrame(topleft) = " + frame.value_or("none");
     });
+}
+
+void CapturePanelController::takeKeyboard() {
+    if (panel_ && state_.visible.value()) panel_->takeKeyboard();
+}
+
+void CapturePanelController::marqueeChanged(const std::optional<Rect>& rect) {
+    state_.marquee.set(rect);
+    if (!rect) return;
+    std::set<UUID> hits;
+    for (const auto& [id, frame] : panel_->visibleThumbnails()) {
+        const bool isSeen = frame.size.width > 0 && frame.size.height > 0;
+        if (isSeen && intersects(frame, *rect)) hits.insert(id);
+    }
+    if (hits != state_.selected.value()) state_.selected.set(std::move(hits));
 }
 
 void CapturePanelController::dismiss() {

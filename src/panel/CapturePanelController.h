@@ -21,9 +21,9 @@ namespace vantle {
 /// Main thread only. Deferred work and the card's callbacks hold it weakly.
 class CapturePanelController : public std::enable_shared_from_this<CapturePanelController> {
 public:
-    /// Makes the panel's window over `state`; both that and the settings outlive it.
-    using PanelFactory =
-        std::function<std::unique_ptr<PanelWindow>(PanelState& state, CardActions actions)>;
+    /// Makes the panel's window over `state` and the settings, which both outlive it.
+    using PanelFactory = std::function<std::unique_ptr<PanelWindow>(
+        PanelState& state, Settings& settings, CardActions actions)>;
 
     struct Services {
         Settings& settings;
@@ -51,6 +51,9 @@ public:
     /// Removes these captures with an animation; dismisses the panel when none is left.
     void removeMany(const std::vector<CapturePointer>& captures);
 
+    /// Gives the panel the keyboard, if it is on the screen.
+    void takeKeyboard();
+
     /// Hides the panel at once and drops all captures half a second later. A show() in between
     /// keeps them.
     void dismiss();
@@ -67,6 +70,7 @@ private:
     void toggleSelect(const CapturePointer& capture);
     void togglePin(const CapturePointer& capture);
     void clearSelection();
+    void marqueeChanged(const std::optional<Rect>& rect);
     std::vector<CapturePointer> selectedCaptures() const;
 
     void createPanel();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 namespace vantle {
 
@@ -20,8 +21,10 @@ public:
     /// copy that asks first becomes the one that others find.
     virtual bool anotherCopyIsRunning() = 0;
 
-    /// Brings that copy forward; it is told through its own `onReopen`. Returns when it was told.
-    virtual void activateOtherCopy() = 0;
+    /// Asks that copy for an action; it is told through its own `onAction`. Without a name, or where
+    /// there is no session bus, it is brought forward and told through `onReopen`. Returns when it
+    /// was told.
+    virtual void activateOtherCopy(const std::string& action = {}) = 0;
 
     /// Brings the windows of this copy before those of all other programs.
     virtual void activate() = 0;
@@ -32,6 +35,10 @@ public:
     /// Called when the user opens the program while it runs, with whether any of its windows is
     /// visible (the panel does not count).
     std::function<void(bool hasVisibleWindows)> onReopen;
+
+    /// Called when the desktop's launcher or another copy asks for something by name. False when
+    /// there is no such action: the program is then reopened.
+    std::function<bool(const std::string& action)> onAction;
 };
 
 }  // namespace vantle

@@ -1,12 +1,22 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "support/Geometry.h"
 #include "support/Result.h"
+#include "support/UUID.h"
 
 namespace vantle {
+
+/// The part of a capture's thumbnail that can be seen, in the panel's content (points from its top
+/// left); empty when it is scrolled out of sight.
+struct VisibleThumbnail {
+    UUID captureID;
+    Rect frame;
+};
 
 /// The panel on the screen: borderless, transparent, above all other windows, on every workspace,
 /// in no taskbar. It never takes the keyboard from the window that has it, neither when it comes
@@ -30,8 +40,22 @@ public:
     /// Text that tells where the thumbnails stand in the part of the row that is seen.
     virtual std::string thumbnailFramesDescription() const = 0;
 
+    /// All thumbnails of the card, also those out of sight.
+    virtual std::vector<VisibleThumbnail> visibleThumbnails() const = 0;
+
+    /// Takes the keyboard from the window that has it, which gets it back when this panel lets it
+    /// go. It does nothing while the panel is not on the screen.
+    virtual void takeKeyboard() = 0;
+
     /// Draws a card over the current state off screen into a PNG file at `path`.
     virtual Outcome writeSnapshot(const std::string& path) = 0;
+
+    /// Called with the rubber band (in the panel's content) while one is drawn from the card's
+    /// background, and with nothing when it ends.
+    std::function<void(const std::optional<Rect>&)> onMarquee;
+
+    /// Called when a click on the card's background ends.
+    std::function<void()> onBackgroundClick;
 };
 
 }  // namespace vantle

@@ -27,6 +27,12 @@ struct Rect {
     friend bool operator==(const Rect&, const Rect&) = default;
 };
 
+/// Whether they share any point inside. A line inside the other rectangle counts.
+constexpr bool intersects(const Rect& a, const Rect& b) {
+    return a.origin.x < b.origin.x + b.size.width && b.origin.x < a.origin.x + a.size.width &&
+           a.origin.y < b.origin.y + b.size.height && b.origin.y < a.origin.y + a.size.height;
+}
+
 /// The point-in-rectangle test of coordinates whose y grows upwards: a rectangle owns its left
 /// and its top edge, so that of two screens that touch only one contains a point between them.
 constexpr bool containsUpwards(const Rect& rect, const Point& point) {

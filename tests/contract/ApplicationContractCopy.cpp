@@ -34,8 +34,16 @@ int main(int argc, char** argv) {
     application.onReopen = [](bool hasVisibleWindows) {
         say(hasVisibleWindows ? "reopened with windows" : "reopened without windows");
     };
+    application.onAction = [](const std::string& action) {
+        const bool isKnown = action == "known";
+        if (isKnown) say("asked for known");
+        return isKnown;
+    };
+    const QStringList arguments = QGuiApplication::arguments();
     if (application.anotherCopyIsRunning()) {
-        application.activateOtherCopy();
+        const auto action = arguments.indexOf(QStringLiteral("--action"));
+        application.activateOtherCopy(
+            action < 0 ? std::string() : arguments.value(action + 1).toStdString());
         say("second");
         return 0;
     }

@@ -163,6 +163,20 @@ TEST_P(CopiesMeet, EachLaterCopyReopensTheFirst) {
     }
 }
 
+TEST_P(CopiesMeet, ALaterCopyAsksTheFirstForAnAction) {
+    const auto first = session.startCopy();
+    ASSERT_EQ(first->line(), "first");
+    for (const auto& [action, onBus] :
+         {std::pair{"known", "asked for known"}, std::pair{"other", "reopened without windows"}}) {
+        const auto later =
+            session.startCopy({QStringLiteral("--action"), QString::fromLatin1(action)});
+        EXPECT_EQ(later->line(), "second");
+        EXPECT_EQ(later->errors(), "");
+        EXPECT_EQ(first->line(),
+                  GetParam() == Meeting::onBus ? onBus : "reopened without windows");
+    }
+}
+
 TEST_P(CopiesMeet, AKilledCopyStandsInNobodysWay) {
     const auto killed = session.startCopy();
     ASSERT_EQ(killed->line(), "first");

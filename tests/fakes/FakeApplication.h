@@ -11,13 +11,17 @@ class FakeApplication final : public Application {
 public:
     void setActivationPolicy(ActivationPolicy policy) override { policies.push_back(policy); }
     bool anotherCopyIsRunning() override { return otherCopyRuns; }
-    void activateOtherCopy() override { ++otherCopyActivations; }
+    void activateOtherCopy(const std::string& action = {}) override {
+        ++otherCopyActivations;
+        actionForOtherCopy = action;
+    }
     void activate() override { ++activations; }
     void terminate() override { ++terminations; }
 
     std::vector<ActivationPolicy> policies;
     bool otherCopyRuns = false;
     int otherCopyActivations = 0;
+    std::string actionForOtherCopy;
     int activations = 0;
     int terminations = 0;
 };

@@ -18,9 +18,12 @@ public:
         std::vector<std::string> snapshots;
         std::optional<std::string> glassFrame;
         Outcome snapshotOutcome;
+        std::vector<VisibleThumbnail> thumbnails;
+        int timesKeyboardTaken = 0;
+        FakePanelWindow* window = nullptr;  ///< The one that writes here.
     };
 
-    explicit FakePanelWindow(Record& record) : record_(record) {}
+    explicit FakePanelWindow(Record& record) : record_(record) { record.window = this; }
 
     void setFrame(const Rect& frame) override { record_.frames.push_back(frame); }
     void orderFrontRegardless() override {
@@ -30,6 +33,8 @@ public:
     void orderOut() override { record_.isOnScreen = false; }
     std::optional<std::string> glassFrameDescription() const override { return record_.glassFrame; }
     std::string thumbnailFramesDescription() const override { return "no thumbnails"; }
+    std::vector<VisibleThumbnail> visibleThumbnails() const override { return record_.thumbnails; }
+    void takeKeyboard() override { ++record_.timesKeyboardTaken; }
     Outcome writeSnapshot(const std::string& path) override {
         record_.snapshots.push_back(path);
         return record_.snapshotOutcome;

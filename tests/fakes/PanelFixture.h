@@ -89,7 +89,7 @@ private:
              },
              .fileActions = fileActions,
              .makePanel =
-                 [this](PanelState& panelState, CardActions cardActions) {
+                 [this](PanelState& panelState, Settings&, CardActions cardActions) {
                      state = &panelState;
                      actions = std::move(cardActions);
                      ++panelsMade;

@@ -113,7 +113,7 @@ protected:
         };
         delegate = AppDelegate::create(
             platform,
-            [this](PanelState&, CardActions) {
+            [this](PanelState&, Settings&, CardActions) {
                 events.push_back("panel made");
                 return std::make_unique<fakes::FakePanelWindow>(panel);
             },
@@ -174,6 +174,16 @@ TEST_F(AppDelegateTest, ASavedScreenshotComesToThePanelAndTheRecentList) {
     EXPECT_THAT(recentNames(), ElementsAre("shot.png"));
     EXPECT_TRUE(panel.isOnScreen);
     EXPECT_EQ(delegate->panel().state().captures.value().size(), 1u);
+}
+
+TEST_F(AppDelegateTest, TheLauncherCanGiveThePanelTheKeyboard) {
+    launch();
+    EXPECT_TRUE(application->onAction("focus-panel"));
+    EXPECT_EQ(panel.timesKeyboardTaken, 0);
+    save("shot.png");
+    EXPECT_TRUE(application->onAction("focus-panel"));
+    EXPECT_EQ(panel.timesKeyboardTaken, 1);
+    EXPECT_FALSE(application->onAction("dance"));
 }
 
 TEST_F(AppDelegateTest, The21stCapturePushesTheOldestOutOfRecent) {

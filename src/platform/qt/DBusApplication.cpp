@@ -52,8 +52,8 @@ QVariantMap platformData() {
 
 }  // namespace
 
-/// What other copies and the desktop's launcher talk to. There are no documents and no actions, so
-/// each request means: the user opens the program.
+/// What other copies and the desktop's launcher talk to. There are no documents, so what is not a
+/// known action means: the user opens the program.
 class DBusApplication::BusObject final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -64,8 +64,8 @@ public:
 public slots:
     void Activate(const QVariantMap&) { application_.reopen(); }
     void Open(const QStringList&, const QVariantMap&) { application_.reopen(); }
-    void ActivateAction(const QString&, const QVariantList&, const QVariantMap&) {
-        application_.reopen();
+    void ActivateAction(const QString& action, const QVariantList&, const QVariantMap&) {
+        application_.perform(action);
     }
 
 private:
@@ -111,14 +111,21 @@ void DBusApplication::reopen() {
     if (onReopen) onReopen(hasVisibleWindows());
 }
 
-void DBusApplication::activateOtherCopy() {
+void DBusApplication::perform(const QString& action) {
+    if (!onAction || !onAction(action.toStdString())) reopen();
+}
+
+void DBusApplication::activateOtherCopy(const std::string& action) {
     if (socket_) {
         if (!socket_->call()) systemLog("Vantle: the copy that runs does not answer");
         return;
     }
     auto message = QDBusMessage::createMethodCall(identifier_, path_,
                                                   QStringLiteral("org.freedesktop.Application"),
-                                                  QStringLiteral("Activate"));
+                                                  action.empty()
+                                                      ? QStringLiteral("Activate")
+                                                      : QStringLiteral("ActivateAction"));
+    if (!action.empty()) message << QString::fromStdString(action) << QVariantList();
     message << platformData();
     const auto reply = ask(message);
     if (reply.type() == QDBusMessage::ErrorMessage)

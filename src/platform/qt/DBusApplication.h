@@ -25,7 +25,7 @@ public:
     ActivationPolicy activationPolicy() const { return policy_; }
 
     bool anotherCopyIsRunning() override;
-    void activateOtherCopy() override;
+    void activateOtherCopy(const std::string& action = {}) override;
     void activate() override;
     void terminate() override;
 
@@ -35,6 +35,7 @@ private:
     bool anotherHoldsTheName();
     bool anotherHoldsTheRuntimeFolder();
     void reopen();
+    void perform(const QString& action);
 
     QString identifier_;
     QString path_;

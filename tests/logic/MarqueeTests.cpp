@@ -1,0 +1,105 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "fakes/PanelFixture.h"
+
+namespace vantle {
+namespace {
+
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+/// A row of three captures, each thumbnail 100 × 80, 10 apart, from (10, 10).
+class MarqueeTest : public fakes::PanelFixture {
+protected:
+    MarqueeTest() {
+        shown = show({"a", "b", "c"});
+        for (std::size_t i = 0; i < shown.size(); ++i)
+            panel.thumbnails.push_back(
+                {shown[i]->id(), {{10 + 110.0 * static_cast<double>(i), 10}, {100, 80}}});
+    }
+
+    void drag(const Rect& rect) { panel.window->onMarquee(rect); }
+    void release() { panel.window->onMarquee(std::nullopt); }
+    const std::set<UUID>& selected() const { return state->selected.value(); }
+
+    std::vector<CapturePointer> shown;
+};
+
+TEST_F(MarqueeTest, SelectsTheThumbnailsThatItTouches) {
+    drag({{100, 20}, {30, 10}});
+    EXPECT_THAT(selected(), UnorderedElementsAre(shown[0]->id(), shown[1]->id()));
+    EXPECT_EQ(state->marquee.value(), (Rect{{100, 20}, {30, 10}}));
+}
+
+TEST_F(MarqueeTest, BesideOrAgainstAThumbnailItSelectsNothing) {
+    drag({{110, 20}, {10, 10}});
+    EXPECT_THAT(selected(), IsEmpty());
+    drag({{10, 90}, {300, 10}});
+    EXPECT_THAT(selected(), IsEmpty());
+}
+
+TEST_F(MarqueeTest, AStraightLineAcrossThumbnailsSelectsThem) {
+    drag({{5, 50}, {300, 0}});
+    EXPECT_EQ(selected().size(), 3u);
+}
+
+TEST_F(MarqueeTest, ShrinkingBackDeselectsWhatItNoLongerTouches) {
+    drag({{5, 5}, {200, 50}});
+    EXPECT_EQ(selected().size(), 2u);
+    drag({{5, 5}, {50, 50}});
+    EXPECT_THAT(selected(), UnorderedElementsAre(shown[0]->id()));
+}
+
+TEST_F(MarqueeTest, EndingItKeepsTheSelectionAndClearsTheRectangle) {
+    drag({{5, 5}, {50, 50}});
+    release();
+    EXPECT_EQ(state->marquee.value(), std::nullopt);
+    EXPECT_THAT(selected(), UnorderedElementsAre(shown[0]->id()));
+}
+
+TEST_F(MarqueeTest, ReplacesTheSelection) {
+    actions.toggleSelect(shown[2]);
+    drag({{5, 5}, {50, 50}});
+    EXPECT_THAT(selected(), UnorderedElementsAre(shown[0]->id()));
+}
+
+TEST_F(MarqueeTest, AThumbnailScrolledOutOfSightIsNotSelected) {
+    panel.thumbnails[0].frame.size = {0, 80};
+    drag({{0, 0}, {400, 400}});
+    EXPECT_THAT(selected(), UnorderedElementsAre(shown[1]->id(), shown[2]->id()));
+}
+
+TEST_F(MarqueeTest, AnEqualSelectionIsNotAnnounced) {
+    drag({{5, 5}, {50, 50}});
+    int announcements = 0;
+    const auto subscription =
+        state->selected.observeChanges([&](const auto&) { ++announcements; });
+    drag({{5, 5}, {60, 60}});
+    EXPECT_EQ(announcements, 0);
+}
+
+TEST_F(MarqueeTest, AClickOnTheBackgroundClearsTheSelection) {
+    actions.toggleSelect(shown[1]);
+    panel.window->onBackgroundClick();
+    EXPECT_THAT(selected(), IsEmpty());
+}
+
+TEST_F(MarqueeTest, AfterTheControllerHasGoneThePanelsRequestsDoNothing) {
+    const auto onMarquee = panel.window->onMarquee;
+    const auto onBackgroundClick = panel.window->onBackgroundClick;
+    releaseController();
+    onMarquee(Rect{{0, 0}, {400, 400}});
+    onBackgroundClick();
+}
+
+TEST_F(MarqueeTest, OnlyAPanelOnTheScreenTakesTheKeyboard) {
+    controller().takeKeyboard();
+    EXPECT_EQ(panel.timesKeyboardTaken, 1);
+    controller().dismiss();
+    controller().takeKeyboard();
+    EXPECT_EQ(panel.timesKeyboardTaken, 1);
+}
+
+}  // namespace
+}  // namespace vantle
