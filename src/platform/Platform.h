@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/Application.h"
+#include "platform/DesktopAppearance.h"
 #include "platform/DirectoryEvents.h"
 #include "platform/FileManager.h"
 #include "platform/LoginItem.h"
@@ -38,6 +39,7 @@ struct Platform {
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<Screens> screens;
     std::unique_ptr<Application> application;
+    std::unique_ptr<DesktopAppearance> appearance;
     std::unique_ptr<SerialQueue> watcherQueue;
     std::unique_ptr<DirectoryEvents> directoryEvents;
 

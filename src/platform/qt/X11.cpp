@@ -1,0 +1,48 @@
+#include "platform/qt/X11.h"
+
+#include <QGuiApplication>
+#include <cmath>
+#include <cstring>
+#include <map>
+#include <string>
+
+namespace vantle::x11 {
+
+xcb_connection_t* connection() {
+    const auto* native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return native ? native->connection() : nullptr;
+}
+
+xcb_window_t root() {
+    // Qt stays on the first screen unless DISPLAY names another, which nobody does any more.
+    return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+}
+
+xcb_window_t number(const QWindow& window) {
+    return static_cast<xcb_window_t>(window.winId());
+}
+
+xcb_atom_t atom(const char* name) {
+    static std::map<std::string, xcb_atom_t> known;
+    const auto found = known.find(name);
+    if (found != known.end()) return found->second;
+    const auto reply = owned(xcb_intern_atom_reply(
+        connection(),
+        xcb_intern_atom(connection(), false, static_cast<uint16_t>(std::strlen(name)), name),
+        nullptr));
+    if (!reply) return XCB_ATOM_NONE;
+    return known[name] = reply->atom;
+}
+
+std::vector<xcb_rectangle_t> inPixels(const QRegion& region, double pixelsPerPoint) {
+    const auto pixels = [pixelsPerPoint](int points) { return std::lround(points * pixelsPerPoint); };
+    std::vector<xcb_rectangle_t> rectangles;
+    for (const QRect& rect : region)
+        rectangles.push_back({static_cast<int16_t>(pixels(rect.x())),
+                              static_cast<int16_t>(pixels(rect.y())),
+                              static_cast<uint16_t>(pixels(rect.width())),
+                              static_cast<uint16_t>(pixels(rect.height()))});
+    return rectangles;
+}
+
+}  // namespace vantle::x11

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <QRegion>
+#include <QWindow>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+namespace vantle::x11 {
+
+/// Null on another display server than X.
+xcb_connection_t* connection();
+
+/// The window that everything stands on.
+xcb_window_t root();
+
+xcb_window_t number(const QWindow& window);
+
+/// XCB_ATOM_NONE when it cannot be made. Asked for once.
+xcb_atom_t atom(const char* name);
+
+/// A region of a window in points, as rectangles in its pixels.
+std::vector<xcb_rectangle_t> inPixels(const QRegion& region, double pixelsPerPoint);
+
+/// What the server answers is ours to free.
+template <typename Reply>
+std::unique_ptr<Reply, decltype(&std::free)> owned(Reply* reply) {
+    return {reply, &std::free};
+}
+
+}  // namespace vantle::x11
