@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "app/AppDelegate.h"
+#include "panel/views/Appearance.h"
 #include "panel/views/CapturePanel.h"
 #include "platform/Platform.h"
 #include "platform/linux/AutostartLoginItem.h"
@@ -18,6 +19,7 @@
 #include "platform/linux/UserDirectories.h"
 #include "platform/qt/DBusApplication.h"
 #include "platform/qt/DensestScreen.h"
+#include "platform/qt/PortalAppearance.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/QtScreens.h"
 #include "platform/qt/UnixSignals.h"
@@ -57,6 +59,7 @@ Platform makePlatform() {
                                              QCoreApplication::applicationFilePath().toStdString());
     platform.screens = std::make_unique<QtScreens>();
     platform.application = std::make_unique<DBusApplication>(identifier);
+    platform.appearance = std::make_unique<PortalAppearance>();
     auto queue = std::make_unique<PollQueue>("vantle.watcher");
     platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*queue);
     platform.watcherQueue = std::move(queue);
@@ -111,8 +114,9 @@ int main(int argc, char** argv) {
     Platform platform = makePlatform();
     const auto delegate =
         AppDelegate::create(platform, [&](PanelState& state, Settings& settings, CardActions actions) {
-            return std::make_unique<CapturePanel>(state, settings, std::move(actions),
-                                                  rendering(platform));
+            Appearance::follow(platform.appearance.get());
+            return std::make_unique<CapturePanel>(PanelModel::Context{
+                state, settings, *platform.clock, std::move(actions), rendering(platform)});
         });
     if (!delegate->applicationWillFinishLaunching(requestedAction())) return 0;
     const UnixSignals endingSignals([&] { platform.application->terminate(); });

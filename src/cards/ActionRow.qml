@@ -3,7 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Panel
 
-// The line under a capture that is alone: what it is called, and how large it is.
+// Under a capture that is alone: what it is called, how large and how old it is, and what can be
+// done with it.
 Item {
     id: row
 
@@ -14,32 +15,55 @@ Item {
     Repeater {
         model: row.panel.count === 1 ? row.panel.captures : null
 
-        delegate: Column {
-            id: lines
+        delegate: Item {
+            id: line
 
-            required property string fileName
-            required property string pixelSizeText
+            required property string captureId
+            required property bool isPinned
+            required property bool isCopied
+            required property bool isLeaving
 
-            width: row.width
-            spacing: 1
+            anchors.fill: parent
+            visible: !isLeaving
 
-            Text {
-                width: lines.width
-                text: lines.fileName
-                textFormat: Text.PlainText
-                elide: Text.ElideMiddle
-                maximumLineCount: 1
-                color: Appearance.primary
-                font.pixelSize: 12
-                font.weight: Font.DemiBold
+            Column {
+                anchors.verticalCenter: parent.verticalCenter
+                width: actions.x - 8
+                spacing: 1
+
+                Text {
+                    width: parent.width
+                    text: row.panel.fileName
+                    textFormat: Text.PlainText
+                    elide: Text.ElideMiddle
+                    maximumLineCount: 1
+                    horizontalAlignment: Text.AlignLeft
+                    color: Appearance.primary
+                    font.pixelSize: 12
+                    font.weight: Font.DemiBold
+                }
+
+                Text {
+                    width: parent.width
+                    text: row.panel.subtitle
+                    textFormat: Text.PlainText
+                    elide: Text.ElideRight
+                    maximumLineCount: 1
+                    horizontalAlignment: Text.AlignLeft
+                    color: Appearance.secondary
+                    font.pixelSize: 11
+                }
             }
 
-            Text {
-                width: lines.width
-                text: lines.pixelSizeText
-                textFormat: Text.PlainText
-                color: Appearance.secondary
-                font.pixelSize: 11
+            TileActions {
+                id: actions
+
+                x: parent.width - width
+                anchors.verticalCenter: parent.verticalCenter
+                panel: row.panel
+                captureId: line.captureId
+                isPinned: line.isPinned
+                isCopied: line.isCopied
             }
         }
     }

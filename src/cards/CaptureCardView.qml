@@ -2,35 +2,83 @@ import QtQuick
 import Vantle.Panel
 
 // The whole content of the panel: one card in the panel's corner, on glass.
-Item {
+FocusScope {
     id: view
 
     required property PanelModel panel
 
     readonly property real panelPadding: 14
-    readonly property real cornerRadius: 22
-    readonly property bool isPresented: panel.visible && panel.count > 0
+    // Around the row of tiles, which has a margin of its own inside.
+    readonly property real sidePadding: 2
+    readonly property real bottomPadding: 12
+    readonly property real spacing: 10
     // How far the card moves in from the near edge.
-    readonly property real travel: (card.width + panelPadding) * (panel.atRight ? 1 : -1)
+    readonly property real travel: Appearance.reducesMotion ? 0 : (card.width + panelPadding) * (panel.atRight ? 1 : -1)
+
+    focus: true
+
+    // For a panel that takes the keyboard.
+    function focusNewest() {
+        row.focusTile(panel.count - 1);
+    }
+
+    CardKeys {
+        id: keys
+
+        panel: view.panel
+        row: row
+    }
+
+    Keys.onPressed: event => keys.handle(event)
+
+    Spring {
+        id: presence
+
+        target: view.panel.isPresented ? 1 : 0
+        response: 0.5
+        dampingFraction: 0.82
+    }
 
     Item {
         id: card
 
-        property real presence: view.isPresented ? 1 : 0
+        readonly property bool hasActions: view.panel.count === 1
+        readonly property bool hasTimerBar: view.panel.progress < 1
+        readonly property real actionsHeight: hasActions ? view.spacing + actions.height : 0
+        readonly property real timerBarHeight: hasTimerBar ? view.spacing + timerBar.height : 0
 
         x: (view.panel.atRight ? view.width - width - view.panelPadding : view.panelPadding)
-           + (1 - presence) * view.travel
+           + (1 - presence.value) * view.travel
         y: view.panel.atBottom ? view.height - height - view.panelPadding : view.panelPadding
-        width: content.width
-        height: content.height
-        opacity: presence
-        visible: presence > 0
+        width: wide.value
+        height: high.value
+        opacity: Math.min(Math.max(presence.value, 0), 1)
+        visible: view.panel.isPresented || presence.running
 
-        Behavior on presence {
-            NumberAnimation { duration: 320; easing.type: Easing.OutCubic }
+        ListSpring {
+            id: wide
+
+            panel: view.panel
+            target: row.naturalWidth + 2 * view.sidePadding
+        }
+
+        ListSpring {
+            id: high
+
+            panel: view.panel
+            target: view.sidePadding + row.naturalHeight + card.actionsHeight + card.timerBarHeight + view.bottomPadding
+        }
+
+        // A card that is not there has no size to change from.
+        onVisibleChanged: {
+            if (visible && !presence.value) {
+                wide.jumpTo(wide.target);
+                high.jumpTo(high.target);
+            }
         }
 
         HoverHandler {
+            id: hover
             onHoveredChanged: view.panel.setHovering(hovered)
         }
 
@@ -42,47 +90,70 @@ Item {
             visible: !view.panel.rendersPlain
             blur: 18
             strength: 0.28
-            cornerRadius: view.cornerRadius
+            cornerRadius: glass.cornerRadius
         }
 
         GlassBackdropView {
+            id: glass
+
+            readonly property color background: Appearance.windowBackground
+
             anchors.fill: parent
-            cornerRadius: view.cornerRadius
-            plain: view.panel.rendersPlain
+            fill: view.panel.rendersPlain ? Qt.rgba(background.r, background.g, background.b, 0.85)
+                  : isBlurred ? Appearance.glassMaterial : Appearance.popoverMaterial
+            borderWidth: view.panel.rendersPlain ? 0 : 1
+            borderColor: Qt.rgba(1, 1, 1, 0.18)
         }
 
-        Column {
-            id: content
+        TileRow {
+            id: row
 
-            leftPadding: 2
-            rightPadding: 2
-            topPadding: 2
-            bottomPadding: 12
-            spacing: 10
+            x: view.sidePadding
+            y: view.sidePadding
+            width: card.width - 2 * view.sidePadding
+            height: naturalHeight
+            focus: true
+            panel: view.panel
+            isHovered: hover.hovered
+        }
 
-            TileRow {
-                panel: view.panel
-            }
+        ActionRow {
+            id: actions
 
-            ActionRow {
-                visible: view.panel.count === 1
-                panel: view.panel
-                width: view.panel.contentWidth
-                anchors.horizontalCenter: parent.horizontalCenter
-            }
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: row.y + row.height + view.spacing
+            width: view.panel.contentWidth
+            opacity: card.hasActions ? 1 : 0
+            visible: opacity > 0
+            panel: view.panel
+        }
 
-            TimerBar {
-                visible: view.panel.progress < 1 && !view.panel.hovering
-                progress: view.panel.progress
-                availableWidth: parent.width - 2 * 2
-            }
+        TimerBar {
+            id: timerBar
+
+            x: view.sidePadding
+            y: card.height - view.bottomPadding - height
+            width: card.width - 2 * view.sidePadding
+            panel: view.panel
         }
 
         ClearAllPill {
             x: card.width - width + 6
             y: -8
-            isOffered: view.panel.hovering && view.panel.count >= 2 && !view.panel.hasSelection
+            isOffered: view.panel.hovering && view.panel.count >= 2 && view.panel.selectedCount === 0
             onTapped: view.panel.closeAll()
         }
+
+        SelectionBar {
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: -12
+            panel: view.panel
+        }
     }
+
+    MarqueeOverlay {
+        panel: view.panel
+    }
+
+    HelpTag {}
 }

@@ -1,41 +1,85 @@
 import QtQuick
 import Vantle.Panel
 
-// One capture: its thumbnail with border and shadow, and its name where several stand in a row.
-Item {
+// A delegate's loaders cannot make bound components (Qt 6.4), so theirs name the ids around them.
+// qmllint disable unqualified
+
+// One capture: its thumbnail with border and shadow, its marks and controls, and its name where
+// several stand in a row.
+FocusScope {
     id: tile
 
     required property PanelModel panel
     required property string captureId
     required property string fileName
+    required property int position
     required property real tileX
     required property real tileWidth
     required property real thumbnailHeight
+    required property bool hasThumbnail
     required property bool isRecording
     required property string durationText
     required property bool isSelected
+    required property bool isPinned
+    required property bool isCopied
+    required property bool isLeaving
 
     // Whether it is new in the row, and so grows into it.
     required property bool arrives
     required property real nameGap
+    // The part of the row that can be seen, from the row's first tile.
+    required property real seenFrom
+    required property real seenTo
 
+    // Forty captures have no need of forty times six buttons that nobody looks for.
+    property bool hasControls
     readonly property bool compact: panel.count >= 2
+    readonly property bool hovering: bar.isHovered || (hover.hovered && !isCovered)
+    // Whether the pointer is on another tile's actions, which reach over this one.
+    property bool isCovered: false
+    readonly property bool isActionsHovered: bar.isHovered
+    readonly property bool isAttended: (hovering || activeFocus) && !isLeaving
 
-    x: tileX
-    width: tileWidth
-    height: thumbnailHeight + (compact ? nameGap + name.height : 0)
+    x: left.value
+    z: isAttended ? 1 : isLeaving ? -1 : 0
+    width: wide.value
+    height: high.value + (compact ? nameGap + name.height : 0)
+    opacity: Math.min(Math.max(presence.value, 0), 1)
+    scale: size.value
+    activeFocusOnTab: true
+    enabled: !isLeaving
 
-    Behavior on x {
-        NumberAnimation { duration: 300; easing.type: Easing.OutCubic }
+    Accessible.role: Accessible.ListItem
+    Accessible.name: isRecording && durationText !== "" ? qsTr("%1, recording, %2").arg(fileName).arg(durationText) : fileName
+    Accessible.description: isPinned ? qsTr("Pinned") : ""
+    Accessible.selectable: true
+    Accessible.selected: isSelected
+    Accessible.focusable: true
+    Accessible.focused: activeFocus
+    Accessible.onPressAction: panel.open(captureId)
+    Accessible.onToggleAction: panel.toggleSelect(captureId)
+
+    ListSpring { id: left; panel: tile.panel; target: tile.tileX }
+    ListSpring { id: wide; panel: tile.panel; target: tile.tileWidth }
+    ListSpring { id: high; panel: tile.panel; target: tile.thumbnailHeight }
+    ListSpring {
+        id: size
+
+        panel: tile.panel
+        from: tile.arrives ? 0.7 : 1
+        target: tile.isLeaving ? 0.8 : 1
     }
+    Spring {
+        id: presence
 
-    Component.onCompleted: if (arrives) arrival.start()
-
-    ParallelAnimation {
-        id: arrival
-
-        NumberAnimation { target: tile; property: "scale"; from: 0.7; to: 1; duration: 300; easing.type: Easing.OutCubic }
-        NumberAnimation { target: tile; property: "opacity"; from: 0; to: 1; duration: 200 }
+        from: tile.arrives ? 0 : 1
+        target: tile.isLeaving ? 0 : 1
+        response: tile.panel.listResponse
+        dampingFraction: 1
+        onRunningChanged: {
+            if (!running && tile.isLeaving)
+                tile.panel.forget(tile.captureId);
+        }
     }
 
     HoverHandler {
@@ -52,47 +96,110 @@ Item {
         cornerRadius: thumbnail.cornerRadius
     }
 
-    Image {
+    DraggableThumbnail {
         id: thumbnail
 
-        readonly property real cornerRadius: 12
+        width: tile.width
+        height: high.value
+        panel: tile.panel
+        captureId: tile.captureId
+        fileName: tile.fileName
+        hasThumbnail: tile.hasThumbnail
+        isRecording: tile.isRecording
+        pictureWidth: tile.tileWidth
+        pictureHeight: tile.thumbnailHeight
+    }
 
-        objectName: "thumbnail"
-        width: tile.tileWidth
-        height: tile.thumbnailHeight
-        // One value, so that a change of both loads once. The linter takes it for a size in fractions.
-        sourceSize: Qt.size(width, height) // qmllint disable
-        source: "image://thumbnail/%1/%2x%3".arg(tile.captureId).arg(width).arg(height)
-        cache: false
+    PlateView {
+        anchors.fill: thumbnail
+        cornerRadius: thumbnail.cornerRadius
+        borderWidth: 1
+        borderColor: Qt.rgba(1, 1, 1, 0.25)
+    }
 
-        Rectangle {
-            anchors.fill: parent
-            radius: thumbnail.cornerRadius
-            color: "transparent"
-            border.width: tile.isSelected ? 3 : 1
-            border.color: tile.isSelected ? Appearance.accent : Qt.rgba(1, 1, 1, 0.25)
+    Loader {
+        id: selection
+
+        anchors.fill: thumbnail
+        opacity: tile.isSelected ? 1 : 0
+        active: opacity > 0
+
+        Behavior on opacity { NumberAnimation { duration: 180; easing.type: Easing.OutQuad } }
+
+        sourceComponent: PlateView {
+            cornerRadius: thumbnail.cornerRadius
+            borderWidth: 3
+            borderColor: Appearance.accent
+            fill: Qt.rgba(Appearance.accent.r, Appearance.accent.g, Appearance.accent.b, 0.18)
         }
     }
 
-    DurationBadge {
-        x: 8
-        y: 8
-        visible: tile.isRecording && tile.durationText !== ""
-        text: tile.durationText
+    FocusRing {
+        anchors.fill: thumbnail
+        anchors.margins: -4
+        isShown: tile.activeFocus
+        radius: 16
     }
 
-    CloseButton {
+    Loader {
+        x: 8
+        y: 8
+        active: tile.isRecording
+        sourceComponent: DurationBadge {
+            text: tile.durationText
+        }
+    }
+
+    CornerMark {
+        x: tile.width - width
+        isSelected: tile.isSelected
+        isPinned: tile.isPinned
+    }
+
+    Loader {
+        id: bar
+
+        readonly property bool isHovered: item && (item as HoverBar).hovering
+        readonly property real natural: (tile.width - width) / 2
+
+        // Where a tile is narrower than its actions they stay in the part of the row that is seen.
+        x: Math.max(tile.seenFrom - tile.x, Math.min(natural, tile.seenTo - tile.x - width))
+        y: high.value - height - 6
+        active: tile.hasControls
+        sourceComponent: HoverBar {
+            panel: tile.panel
+            captureId: tile.captureId
+            isPinned: tile.isPinned
+            isCopied: tile.isCopied
+            isOffered: tile.compact && tile.isAttended && tile.panel.selectedCount === 0
+        }
+    }
+
+    Loader {
+        id: close
+
         x: -8
         y: -8
-        isOffered: hover.hovered && !tile.isSelected
-        onTapped: tile.panel.close(tile.captureId)
+        active: tile.hasControls
+        sourceComponent: CloseButton {
+            isOffered: tile.isAttended && !tile.isSelected
+            onTapped: tile.panel.close(tile.captureId)
+        }
+    }
+
+    Binding {
+        target: tile
+        property: "hasControls"
+        value: true
+        when: tile.isAttended || tile.panel.isAssisted
+        restoreMode: Binding.RestoreNone
     }
 
     Text {
         id: name
 
-        y: tile.thumbnailHeight + tile.nameGap
-        width: tile.tileWidth
+        y: high.value + tile.nameGap
+        width: tile.width
         visible: tile.compact
         text: tile.fileName
         textFormat: Text.PlainText

@@ -1,30 +1,21 @@
 import QtQuick
-import Vantle.Panel
 
 // The button at the card's corner that takes all captures off it.
-Rectangle {
+Appearing {
     id: pill
-
-    property bool isOffered: false
 
     signal tapped()
 
     width: label.width + 2 * 8
     height: label.height + 2 * 4
-    radius: height / 2
-    color: Qt.rgba(0, 0, 0, 0.6)
-    border.width: 1
-    border.color: Qt.rgba(1, 1, 1, 0.35)
-    opacity: isOffered ? 1 : 0
-    scale: isOffered ? 1 : 0.6
-    visible: opacity > 0
 
-    Behavior on opacity { NumberAnimation { duration: 140 } }
-    Behavior on scale { NumberAnimation { duration: 140; easing.type: Easing.OutCubic } }
-
-    Accessible.role: Accessible.Button
-    Accessible.name: text.text
-    Accessible.onPressAction: tapped()
+    Rectangle {
+        anchors.fill: parent
+        radius: height / 2
+        color: Qt.rgba(0, 0, 0, press.isPressed ? 0.8 : 0.6)
+        border.width: 1
+        border.color: Qt.rgba(1, 1, 1, 0.35)
+    }
 
     Row {
         id: label
@@ -32,11 +23,11 @@ Rectangle {
         anchors.centerIn: parent
         spacing: 4
 
-        CrossMark {
+        Symbol {
             anchors.verticalCenter: parent.verticalCenter
-            width: 7
-            height: 7
-            lineWidth: 1.6
+            name: "xmark"
+            fontSize: 9
+            strokeWidth: 2.2
         }
 
         Text {
@@ -49,7 +40,11 @@ Rectangle {
         }
     }
 
-    TapHandler {
+    Press {
+        id: press
+
+        name: text.text
+        radius: pill.height / 2 + 2
         onTapped: pill.tapped()
     }
 }

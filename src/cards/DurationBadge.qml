@@ -4,17 +4,31 @@ import QtQuick
 Rectangle {
     property alias text: label.text
 
-    width: label.width + 2 * 7
-    height: label.height + 2 * 3
+    width: row.width + 2 * 7
+    height: row.height + 2 * 3
     radius: height / 2
     color: Qt.rgba(0, 0, 0, 0.55)
 
-    Text {
-        id: label
+    Row {
+        id: row
 
         anchors.centerIn: parent
-        color: "white"
-        font.pixelSize: 10
-        font.weight: Font.DemiBold
+        spacing: 4
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            name: "video.fill"
+            fontSize: 10
+        }
+
+        Text {
+            id: label
+
+            anchors.verticalCenter: parent.verticalCenter
+            visible: text !== ""
+            color: "white"
+            font.pixelSize: 10
+            font.weight: Font.DemiBold
+        }
     }
 }

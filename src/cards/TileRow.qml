@@ -4,56 +4,134 @@ import QtQuick
 import Vantle.Panel
 
 // The tiles side by side, the newest at the end; it scrolls when they are wider than the card.
-Item {
+FocusScope {
     id: row
 
     required property PanelModel panel
 
     readonly property real innerMargin: 10
-    readonly property real overflowMargin: panel.overflows ? 6 : 0
-    readonly property real nameHeight: panel.count >= 2 ? nameGap + 14 : 0
     readonly property real nameGap: 6
-    readonly property real farthest: Math.max(0, panel.contentWidth + 2 * innerMargin - width)
+    readonly property real nameHeight: panel.count >= 2 ? nameGap + 14 : 0
+    readonly property real overflowMargin: panel.overflows ? 6 : 0
+    // Its size once nothing moves.
+    readonly property real naturalWidth: Math.min(640, panel.contentWidth) + 2 * innerMargin
+    readonly property real naturalHeight: innerMargin + panel.thumbnailHeight + nameHeight + overflowMargin
+    readonly property real farthest: Math.max(0, panel.contentWidth + 2 * innerMargin - naturalWidth)
     // Tiles that are there from the beginning do not arrive.
     property bool isComplete: false
-    property real scrolled: farthest
+    property bool isHovered: false
+    // The tile on whose actions the pointer is.
+    property CaptureTile covering: null
+    // Where the tile is or was that has the keyboard.
+    property int focused: 0
 
     objectName: "tileRow"
-    width: Math.min(640, panel.contentWidth) + 2 * innerMargin
-    height: innerMargin + panel.thumbnailHeight + nameHeight + overflowMargin
     clip: panel.overflows
+
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("Captures")
 
     Component.onCompleted: isComplete = true
 
-    // The newest is to be seen, whatever the user looked at before.
-    onFarthestChanged: scrolled = farthest
+    function scrollTo(position) {
+        scrolled.target = Math.min(Math.max(position, 0), farthest);
+    }
 
-    Behavior on scrolled {
-        enabled: row.isComplete
-        NumberAnimation { duration: 300; easing.type: Easing.OutCubic }
+    // Scrolls only as far as it takes to see that tile.
+    function reveal(tile) {
+        const right = tile.tileX + tile.tileWidth + 2 * innerMargin - naturalWidth;
+        scrollTo(Math.min(Math.max(scrolled.target, right), tile.tileX));
+    }
+
+    function tileAt(position) {
+        for (let i = 0; i < tiles.count; ++i) {
+            const tile = tiles.itemAt(i) as CaptureTile;
+            if (tile && !tile.isLeaving && tile.position === position) return tile;
+        }
+        return null;
+    }
+
+    function focusTile(position) {
+        const tile = tileAt(Math.min(Math.max(position, 0), panel.count - 1));
+        if (!tile) return;
+        tile.forceActiveFocus(Qt.TabFocusReason);
+        reveal(tile);
+    }
+
+    function hasFocusedTile() {
+        for (let position = 0; position < panel.count; ++position)
+            if (tileAt(position).activeFocus) return true;
+        return false;
+    }
+
+    Connections {
+        target: row.panel
+
+        function onCountChanged() {
+            if (row.panel.count === 0) return;
+            // The newest is to be seen, whatever the user looked at before.
+            scrolled.target = row.farthest;
+            // The keyboard of a tile that goes is its neighbour's.
+            if (row.activeFocus && !row.hasFocusedTile()) row.focusTile(row.focused);
+        }
+    }
+
+    Spring {
+        id: scrolled
+
+        Component.onCompleted: jumpTo(row.farthest)
+        response: 0.5
+        dampingFraction: 0.85
+        enabled: !Appearance.reducesMotion
     }
 
     Item {
-        x: row.innerMargin - row.scrolled
+        x: row.innerMargin - scrolled.value
         y: row.innerMargin
 
         Repeater {
+            id: tiles
+
             model: row.panel.captures
 
             delegate: CaptureTile {
+                id: tile
+
                 panel: row.panel
                 arrives: row.isComplete
                 nameGap: row.nameGap
+                seenFrom: scrolled.value - row.innerMargin + 4
+                seenTo: seenFrom + row.naturalWidth - 8
+                onActiveFocusChanged: if (activeFocus) row.focused = position
+                isCovered: row.covering !== null && row.covering !== tile
+                onIsActionsHoveredChanged: {
+                    if (isActionsHovered)
+                        row.covering = tile;
+                    else if (row.covering === tile)
+                        row.covering = null;
+                }
             }
         }
+    }
+
+    ScrollIndicator {
+        x: row.innerMargin
+        y: parent.height - height
+        width: parent.width - 2 * row.innerMargin
+        isOffered: row.panel.overflows && row.isHovered
+        scrolled: scrolled.value
+        farthest: row.farthest
+        seen: row.naturalWidth
+        onScrollTo: position => row.scrollTo(position)
     }
 
     WheelHandler {
         enabled: row.panel.overflows
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
         onWheel: event => {
-            const steps = event.angleDelta.x !== 0 ? event.angleDelta.x : event.angleDelta.y;
-            row.scrolled = Math.min(Math.max(row.scrolled - steps, 0), row.farthest);
+            const angle = event.angleDelta.x !== 0 ? event.angleDelta.x : event.angleDelta.y;
+            const pixels = event.pixelDelta.x !== 0 ? event.pixelDelta.x : event.pixelDelta.y;
+            row.scrollTo(scrolled.target - (pixels !== 0 ? pixels : angle));
         }
     }
 }

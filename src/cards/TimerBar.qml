@@ -1,22 +1,22 @@
 import QtQuick
 import Vantle.Panel
 
-// The part of the countdown that is left.
+// The part of the countdown that is left. It hides while the pointer is over the card, but keeps its
+// room: nothing may jump under a pointer that has just come.
 Item {
     id: bar
 
-    property real progress: 1
-    property real availableWidth: 0
+    required property PanelModel panel
 
-    width: availableWidth
     height: 2 + 5
 
     Rectangle {
         x: 16
-        width: (bar.availableWidth - 2 * 16) * bar.progress
+        width: (bar.width - 2 * 16) * bar.panel.progress
         height: 2
         radius: 1
-        color: Appearance.primary
+        visible: bar.panel.progress < 1 && !bar.panel.hovering
+        color: Appearance.isDark ? "white" : "black"
         opacity: 0.18
     }
 }

@@ -56,6 +56,10 @@ TEST_F(CaptureListModelTest, ARemovalLeavesTheOtherRowsAlone) {
     model.setCaptures({a, b, c});
     changes.clear();
     model.setCaptures({a, c});
+    EXPECT_THAT(changes, IsEmpty()) << "its row stays until it has been shown leaving";
+    EXPECT_EQ(at(1, CaptureListModel::isLeavingRole), true);
+    EXPECT_EQ(at(2, CaptureListModel::positionRole), 1);
+    model.forget(QString::fromStdString(b->id().text()));
     EXPECT_THAT(changes, ElementsAre("remove 1"));
     EXPECT_EQ(model.captures(), (std::vector<CapturePointer>{a, c}));
 }
@@ -73,7 +77,28 @@ TEST_F(CaptureListModelTest, ARetakenCaptureOfTheSameFileIsAnotherRow) {
     changes.clear();
     const auto again = capture("a");
     model.setCaptures({b, again});
-    EXPECT_THAT(changes, ElementsAre("remove 0", "insert 1"));
+    EXPECT_THAT(changes, ElementsAre("insert 2"));
+    EXPECT_EQ(at(0, CaptureListModel::isLeavingRole), true);
+    model.forget(QString::fromStdString(a->id().text()));
+    EXPECT_EQ(at(1, CaptureListModel::captureIdRole), QString::fromStdString(again->id().text()));
+}
+
+TEST_F(CaptureListModelTest, ACaptureThatComesBackKeepsItsRow) {
+    model.setCaptures({a, b, c});
+    model.setCaptures({a, c});
+    model.setCaptures({a, c, b});
+    model.forget(QString::fromStdString(b->id().text()));
+    EXPECT_EQ(model.rowCount(), 3);
+    EXPECT_EQ(at(2, CaptureListModel::captureIdRole), QString::fromStdString(b->id().text()));
+    EXPECT_EQ(at(2, CaptureListModel::isLeavingRole), false);
+}
+
+TEST_F(CaptureListModelTest, ALeavingCaptureStaysWhereItWasAndAsLarge) {
+    model.setCaptures({a, b});
+    model.setCaptures({a});
+    EXPECT_EQ(at(0, CaptureListModel::tileWidthRole), 304);
+    EXPECT_EQ(at(1, CaptureListModel::tileXRole), 212);
+    EXPECT_EQ(at(1, CaptureListModel::tileWidthRole), 202);
 }
 
 TEST_F(CaptureListModelTest, TheSameListIsNoChangeOfRows) {

@@ -1,100 +1,30 @@
+// The card: where it stands, how large it is, and when its parts are seen.
+
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QFile>
-#include <QImage>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickView>
 #include <QTemporaryDir>
-#include <functional>
-#include <memory>
-#include <vector>
 
-#include "panel/PanelState.h"
-#include "panel/views/CapturePanel.h"
-#include "panel/views/GlassBackdropView.h"
-#include "panel/views/PanelModel.h"
-#include "panel/views/PassthroughContainerView.h"
-#include "panel/views/ThumbnailProvider.h"
+#include "CardFixture.h"
+#include "fakes/CapturedLog.h"
+#include "panel/CardLayout.h"
+#include "support/Debug.h"
 
 namespace vantle {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
-/// Lets events run until the condition holds.
-[[nodiscard]] bool waitUntil(const std::function<bool()>& condition) {
-    const QDeadlineTimer limit(20'000);
-    while (!condition() && !limit.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-    return condition();
+std::vector<CapturePointer> captures(int count) {
+    std::vector<CapturePointer> made;
+    for (int i = 0; i < count; ++i) made.push_back(capture(std::to_string(i)));
+    return made;
 }
 
-CapturePointer capture(const std::string& name, const std::string& extension = ".png") {
-    return Capture::create(Url::file("/shots/" + name + extension), Date{});
-}
-
-class CardTest : public testing::Test {
+class CardTest : public CardFixture {
 protected:
-    CardTest() {
-        actions.close = [this](const CapturePointer& one) { closed.push_back(one); };
-        actions.closeAll = [this] { ++timesAllClosed; };
-    }
-
-    /// A card over the state as it is, at rest.
-    void makeCard() {
-        view.reset();
-        model = std::make_unique<PanelModel>(state, actions, PanelModel::Rendering::glass);
-        view = std::make_unique<QQuickView>();
-        view->setResizeMode(QQuickView::SizeRootObjectToView);
-        view->resize(800, 330);
-        view->engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
-        view->engine()->addImageProvider(QStringLiteral("thumbnail"),
-                                         new ThumbnailProvider([this](const QString& id) {
-                                             return model->captures()->capture(id);
-                                         }));
-        view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(model.get())}});
-        view->setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Cards/CaptureCardView.qml")));
-        ASSERT_EQ(view->status(), QQuickView::Ready);
-        view->show();
-    }
-
-    void show(const std::vector<CapturePointer>& captures) {
-        state.captures.set(captures);
-        state.visible.set(true);
-    }
-
-    QRectF glassFrame() const {
-        const auto* glass = PassthroughContainerView::findGlass(*view->contentItem());
-        return glass ? glass->mapRectToScene(glass->boundingRect()) : QRectF();
-    }
-
-    /// All items whose QML type has that name, depth first.
-    std::vector<QQuickItem*> items(const QString& type, QQuickItem* below = nullptr) const {
-        std::vector<QQuickItem*> found;
-        QQuickItem* root = below ? below : view->contentItem();
-        for (QQuickItem* child : root->childItems()) {
-            if (QString::fromLatin1(child->metaObject()->className()).startsWith(type))
-                found.push_back(child);
-            const auto deeper = items(type, child);
-            found.insert(found.end(), deeper.begin(), deeper.end());
-        }
-        return found;
-    }
-    QQuickItem* item(const QString& type) const {
-        const auto found = items(type);
-        return found.empty() ? nullptr : found.front();
-    }
-
-    PanelState state;
-    CardActions actions;
-    std::vector<CapturePointer> closed;
-    int timesAllClosed = 0;
-    std::unique_ptr<PanelModel> model;
-    std::unique_ptr<QQuickView> view;
+    bool cardIsSeen() const { return panel->glassFrameDescription().has_value(); }
 };
 
 TEST_F(CardTest, KeepsToItsCornerWithFourteenPointsOfRoom) {
@@ -103,7 +33,7 @@ TEST_F(CardTest, KeepsToItsCornerWithFourteenPointsOfRoom) {
         {PanelCorner::bottomLeft, {14, 62}},
         {PanelCorner::topRight, {458, 14}},
         {PanelCorner::topLeft, {14, 14}}};
-    show({capture("a")});
+    show(captures(1));
     for (const auto& [corner, place] : places) {
         state.corner = corner;
         makeCard();
@@ -112,50 +42,84 @@ TEST_F(CardTest, KeepsToItsCornerWithFourteenPointsOfRoom) {
 }
 
 TEST_F(CardTest, GrowsWithTheRowAndStopsAtItsWidest) {
-    show({capture("a"), capture("b")});
+    show(captures(2));
     makeCard();
-    EXPECT_EQ(glassFrame().width(), 202 + 10 + 202 + 20 + 4);
-    EXPECT_EQ(glassFrame().height(), 2 + 10 + 126 + 6 + 14 + 12);
-    std::vector<CapturePointer> many;
-    for (int i = 0; i < 40; ++i) many.push_back(capture(std::to_string(i)));
-    state.captures.set(many);
-    const QSizeF widest(640 + 20 + 4, 2 + 10 + 100 + 6 + 14 + 6 + 12);
-    EXPECT_TRUE(waitUntil([&] { return glassFrame().size() == widest; }));
+    EXPECT_EQ(glassFrame().size(), QSizeF(202 + 10 + 202 + 20 + 4, 2 + 10 + 126 + 6 + 14 + 12));
+    show(captures(3));
+    EXPECT_EQ(glassFrame().size(), QSizeF(3 * 160 + 20 + 20 + 4, 2 + 10 + 100 + 6 + 14 + 12));
+    show(captures(40));
+    EXPECT_EQ(glassFrame().size(), QSizeF(640 + 20 + 4, 2 + 10 + 100 + 6 + 14 + 6 + 12));
 }
 
-TEST_F(CardTest, ThereIsNoCardWithoutCapturesOrWhileHidden) {
-    makeCard();
-    const auto isSeen = [this] {
-        return PassthroughContainerView::findGlass(*view->contentItem())->isVisible();
-    };
-    EXPECT_FALSE(isSeen());
-    state.visible.set(true);
-    EXPECT_FALSE(isSeen());
-    state.captures.set({capture("a")});
-    EXPECT_TRUE(waitUntil(isSeen));
+TEST_F(CardTest, WithoutCapturesOrWhileHiddenNoCardIsDrawn) {
     state.visible.set(false);
-    EXPECT_TRUE(waitUntil([&] { return !isSeen(); }));
+    makeCard();
+    EXPECT_FALSE(cardIsSeen());
+    state.visible.set(true);
+    EXPECT_FALSE(cardIsSeen());
+    show(captures(1));
+    EXPECT_TRUE(cardIsSeen());
+    state.visible.set(false);
+    EXPECT_TRUE(cardIsSeen());
+    rest();
+    EXPECT_FALSE(cardIsSeen());
+}
+
+TEST_F(CardTest, OneCaptureIsLargeAndHasItsActionsBelow) {
+    show({capture("a", {800, 800})});
+    makeCard();
+    EXPECT_EQ(tile(0)->width(), 260);
+    EXPECT_FALSE(flag(tile(0), "compact"));
+    const auto* row = item("ActionRow");
+    EXPECT_TRUE(row->isVisible());
+    EXPECT_EQ(frame(*row), QRectF(frame(*tile(0)).bottomLeft() + QPointF(0, 10), QSizeF(260, 30)));
+}
+
+TEST_F(CardTest, TwoCapturesAreCompact) {
+    show(captures(2));
+    makeCard();
+    EXPECT_TRUE(flag(tile(0), "compact"));
+    EXPECT_FALSE(item("ActionRow")->isVisible());
 }
 
 TEST_F(CardTest, TilesStandWhereTheLayoutSays) {
-    show({capture("a"), capture("b"), capture("c")});
-    makeCard();
-    std::vector<double> places;
-    for (const auto* tile : items(QStringLiteral("CaptureTile"))) {
-        EXPECT_EQ(tile->width(), 160);
-        places.push_back(tile->x());
+    for (const int count : {1, 2, 3, 40}) {
+        show(captures(count));
+        makeCard();
+        const auto tiles = items("CaptureTile");
+        ASSERT_EQ(tiles.size(), static_cast<std::size_t>(count));
+        const Size size = CardLayout::tileSize(count, *capture("a"));
+        for (std::size_t i = 0; i < tiles.size(); ++i) {
+            EXPECT_EQ(tiles[i]->x(), static_cast<double>(i) * (size.width + 10));
+            EXPECT_EQ(item("DraggableThumbnail", tiles[i])->size(),
+                      QSizeF(size.width, size.height));
+        }
+        const auto* row = item("TileRow");
+        EXPECT_EQ(frameIn(*tiles.front(), *row).top(), 10);
+        EXPECT_EQ(frameIn(*tiles.back(), *row).right(), row->width() - 10);
     }
-    EXPECT_THAT(places, ElementsAre(0, 170, 340));
+}
+
+TEST_F(CardTest, OnlyARowThatOverflowsHasAScrollIndicator) {
+    show(captures(3));
+    makeCard();
+    hover(*tile(0));
+    EXPECT_FALSE(item("ScrollIndicator")->isVisible());
+    show(captures(12));
+    hover(*tile(11));
+    EXPECT_TRUE(item("ScrollIndicator")->isVisible());
 }
 
 TEST_F(CardTest, TheNewestTileIsSeenWhenTheRowOverflows) {
-    std::vector<CapturePointer> many;
-    for (int i = 0; i < 12; ++i) many.push_back(capture(std::to_string(i)));
-    show(many);
+    show(captures(12));
     makeCard();
-    const auto* newest = items(QStringLiteral("CaptureTile")).back();
-    const auto* row = item(QStringLiteral("TileRow"));
-    EXPECT_EQ(row->mapRectFromItem(newest, newest->boundingRect()).right(), row->width() - 10);
+    const auto* row = item("TileRow");
+    EXPECT_EQ(frameIn(*tile(11), *row).right(), row->width() - 10);
+    QMetaObject::invokeMethod(item("TileRow"), "scrollTo", Q_ARG(QVariant, 0));
+    rest();
+    EXPECT_EQ(frameIn(*tile(0), *row).left(), 10);
+    show(captures(13));
+    EXPECT_EQ(frameIn(*tile(12), *row).right(), row->width() - 10);
 }
 
 TEST_F(CardTest, ThePillIsOfferedOverSeveralUnselectedCapturesOnly) {
@@ -163,9 +127,7 @@ TEST_F(CardTest, ThePillIsOfferedOverSeveralUnselectedCapturesOnly) {
     const auto b = capture("b");
     show({a});
     makeCard();
-    const auto isOffered = [this] {
-        return item(QStringLiteral("ClearAllPill"))->property("isOffered").toBool();
-    };
+    const auto isOffered = [this] { return flag(item("ClearAllPill"), "isOffered"); };
     state.hovering.set(true);
     EXPECT_FALSE(isOffered());
     state.captures.set({a, b});
@@ -179,102 +141,213 @@ TEST_F(CardTest, ThePillIsOfferedOverSeveralUnselectedCapturesOnly) {
 }
 
 TEST_F(CardTest, ThePillOverhangsTheCardsCorner) {
-    show({capture("a"), capture("b")});
+    show(captures(2));
     makeCard();
-    state.hovering.set(true);
-    const auto* pill = item(QStringLiteral("ClearAllPill"));
-    EXPECT_EQ(pill->x() + pill->width(), glassFrame().width() + 6);
-    EXPECT_EQ(pill->y(), -8);
-    QMetaObject::invokeMethod(item(QStringLiteral("ClearAllPill")), "tapped");
-    EXPECT_EQ(timesAllClosed, 1);
+    hover(*tile(0));
+    const auto* pill = item("ClearAllPill");
+    EXPECT_EQ(frame(*pill).topRight(), glassFrame().topRight() + QPointF(6, -8));
+    click(frame(*pill).bottomLeft() + QPointF(6, -3));
+    EXPECT_THAT(asked, ElementsAre("close all"));
 }
 
-TEST_F(CardTest, TheTimerBarShowsWhatIsLeftUnlessThePointerIsThere) {
-    show({capture("a")});
+TEST_F(CardTest, TheTimerBarIsAsWideAsWhatIsLeft) {
+    show(captures(1));
     makeCard();
-    auto* bar = item(QStringLiteral("TimerBar"));
-    EXPECT_FALSE(bar->isVisible());
-    state.progress.set(0.5);
-    EXPECT_TRUE(bar->isVisible());
+    const auto* bar = item("TimerBar");
     const auto* capsule = bar->childItems().front();
-    EXPECT_EQ(capsule->x(), 16);
-    EXPECT_EQ(capsule->width(), (324 - 32) * 0.5);
-    EXPECT_EQ(capsule->height(), 2);
-    state.hovering.set(true);
-    EXPECT_FALSE(bar->isVisible());
-    state.hovering.set(false);
+    EXPECT_FALSE(capsule->isVisible());
+    for (const double progress : {0.75, 0.5, 0.0}) {
+        state.progress.set(progress);
+        rest();
+        EXPECT_TRUE(capsule->isVisible());
+        EXPECT_EQ(capsule->size(), QSizeF((324 - 32) * progress, 2));
+        EXPECT_EQ(frame(*capsule).left(), glassFrame().left() + 2 + 16);
+        EXPECT_EQ(frame(*capsule).bottom(), glassFrame().bottom() - 12 - 5);
+    }
+    EXPECT_EQ(glassFrame().height(), 254 + 10 + 7);
     state.progress.set(1);
-    EXPECT_FALSE(bar->isVisible());
+    rest();
+    EXPECT_FALSE(capsule->isVisible());
+    EXPECT_EQ(glassFrame().height(), 254);
 }
 
-TEST_F(CardTest, OnlyRecordingsHaveADurationBadge) {
-    show({capture("a"), capture("b", ".mov")});
+TEST_F(CardTest, WhileThePointerIsOverTheCardTheTimerBarIsHidden) {
+    show(captures(1));
     makeCard();
-    const auto badges = items(QStringLiteral("DurationBadge"));
-    ASSERT_EQ(badges.size(), 2u);
-    EXPECT_FALSE(badges[0]->isVisible());
-    EXPECT_TRUE(badges[1]->isVisible());
+    state.progress.set(0.5);
+    rest();
+    const auto* capsule = item("TimerBar")->childItems().front();
+    hover(*tile(0));
+    EXPECT_TRUE(state.hovering.value());
+    EXPECT_FALSE(capsule->isVisible());
+    hover({5, 5});
+    EXPECT_FALSE(state.hovering.value());
+    EXPECT_TRUE(capsule->isVisible());
 }
 
-TEST_F(CardTest, ClosingATileClosesItsCapture) {
+TEST_F(CardTest, TheSelectionBarStandsOnTheCardsUpperEdge) {
     const auto a = capture("a");
     const auto b = capture("b");
     show({a, b});
     makeCard();
-    QMetaObject::invokeMethod(items(QStringLiteral("CloseButton"))[1], "tapped");
-    EXPECT_THAT(closed, ElementsAre(b));
+    const auto* bar = item("SelectionBar");
+    EXPECT_FALSE(bar->isVisible());
+    state.selected.set({a->id()});
+    rest();
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_NEAR(frame(*bar).center().x(), glassFrame().center().x(), 0.5);
+    EXPECT_EQ(frame(*bar).top(), glassFrame().top() - 12);
+    EXPECT_EQ(bar->height(), 28 + 2 * 2);
+    EXPECT_THAT(symbols(item("SelectionBar")), ElementsAre("doc.on.doc", "trash", "xmark"));
+}
+
+TEST_F(CardTest, WithOneSelectedCaptureTheBarReads1Selected) {
+    const auto a = capture("a");
+    const auto b = capture("b");
+    show({a, b});
+    makeCard();
+    const auto words = [this] { return text(item("QQuickText", item("SelectionBar")), "text"); };
+    state.selected.set({a->id()});
+    EXPECT_EQ(words(), "1 selected");
+    state.selected.set({a->id(), b->id()});
+    EXPECT_EQ(words(), "2 selected");
+    state.selected.set({});
+    EXPECT_EQ(words(), "2 selected") << "while it fades out";
+}
+
+TEST_F(CardTest, TheSelectionBarsButtonsAskForAllThatIsSelected) {
+    const auto a = capture("a");
+    show({a, capture("b")});
+    makeCard();
+    state.selected.set({a->id()});
+    rest();
+    for (const char* name : {"Copy selected", "Move selected to Trash", "Dismiss selected"})
+        click(frame(*button(name)).center() + QPointF(0, 6));
+    EXPECT_THAT(asked, ElementsAre("copy selected", "trash selected", "remove selected"));
+}
+
+TEST_F(CardTest, TheMarqueeIsDrawnWhereItIs) {
+    show(captures(2));
+    makeCard();
+    const auto* overlay = item("MarqueeOverlay");
+    EXPECT_FALSE(overlay->isVisible());
+    state.marquee.set(Rect{{400, 200}, {60, 30}});
+    EXPECT_TRUE(overlay->isVisible());
+    EXPECT_EQ(frame(*overlay), QRectF(400, 200, 60, 30));
+    state.marquee.set(std::nullopt);
+    EXPECT_FALSE(overlay->isVisible());
+}
+
+TEST_F(CardTest, TheActionRowNamesTheCapture) {
+    show({capture("a", {2940, 1912}, clock.now() - std::chrono::minutes(2))});
+    makeCard();
+    const auto texts = items("QQuickText", item("ActionRow"));
+    ASSERT_EQ(texts.size(), 2u);
+    EXPECT_EQ(text(texts[0], "text"), "a.png");
+    EXPECT_EQ(text(texts[1], "text"), "2940 × 1912  ·  2 min. ago");
+    EXPECT_THAT(symbols(item("ActionRow")),
+                ElementsAre("doc.on.doc", "folder", "trash", "square.and.arrow.up"));
+}
+
+TEST_F(CardTest, ACaptureOfUnknownSizeHasOnlyItsAgeAsSubtitle) {
+    show({capture("a", {}, clock.now() - std::chrono::hours(3))});
+    makeCard();
+    EXPECT_EQ(text(items("QQuickText", item("ActionRow"))[1], "text"), "3 hr. ago");
+}
+
+TEST_F(CardTest, ACapturesAgeIsToldAnewWhenThePointerComes) {
+    show({capture("a", {}, clock.now())});
+    makeCard();
+    time.advance(Seconds(70));
+    hover(*tile(0));
+    EXPECT_EQ(text(items("QQuickText", item("ActionRow"))[1], "text"), "1 min. ago");
+}
+
+TEST_F(CardTest, WithDebuggingOffTappingClearAllWritesNothing) {
+    show(captures(2));
+    makeCard();
+    hover(*tile(0));
+    fakes::CapturedLog log;
+    Debug::set(false);
+    click(frame(*item("ClearAllPill")).bottomLeft() + QPointF(6, -3));
+    EXPECT_THAT(log.lines(), IsEmpty());
+    Debug::set(true);
+    click(frame(*item("ClearAllPill")).bottomLeft() + QPointF(6, -3));
+    EXPECT_THAT(log.lines(), testing::Contains("Vantle[dbg]: tap Clear all"));
+    Debug::set(false);
 }
 
 TEST_F(CardTest, TheModelKeepsWhatIsAnnouncedBeforeItIsStored) {
-    makeCard();
+    PanelModel model({state, settings, clock, actions});
     bool seen = false;
-    QObject::connect(model.get(), &PanelModel::visibleChanged, model.get(),
-                     [&] { seen = model->isVisible(); });
+    state.captures.set(captures(1));
+    state.visible.set(false);
+    QObject::connect(&model, &PanelModel::isPresentedChanged, &model,
+                     [&] { seen = model.isPresented(); });
     state.visible.set(true);
     EXPECT_TRUE(seen);
+}
+
+TEST_F(CardTest, TellsWhereItsGlassStands) {
+    show(captures(1));
+    makeCard();
+    EXPECT_EQ(panel->glassFrameDescription(), "{{458, 62}, {328, 254}}");
+    EXPECT_EQ(panel->thumbnailFramesDescription(),
+              "thumbnails in the row: top 10, left 10, right 10");
+}
+
+TEST_F(CardTest, TheGlassHasItsRadiusAndALightBorder) {
+    show(captures(1));
+    makeCard();
+    const auto* glass = PassthroughContainerView::findGlass(*window().contentItem());
+    EXPECT_EQ(glass->cornerRadius(), 22);
+    EXPECT_EQ(glass->property("borderWidth").toDouble(), 1);
+    EXPECT_EQ(glass->property("borderColor").value<QColor>().rgba(), qRgba(255, 255, 255, 46));
+    EXPECT_LT(glass->property("fill").value<QColor>().alpha(), 255);
+}
+
+TEST_F(CardTest, RenderedPlainItIsAPlateInTheColourOfWindows) {
+    rendering = PanelModel::Rendering::plain;
+    show(captures(1));
+    makeCard();
+    const auto* glass = PassthroughContainerView::findGlass(*window().contentItem());
+    EXPECT_EQ(glass->property("borderWidth").toDouble(), 0);
+    EXPECT_NEAR(glass->property("fill").value<QColor>().alphaF(), 0.85, 0.01);
 }
 
 TEST(GlassBackdropView, WithoutAWindowItSaysSo) {
     const GlassBackdropView glass;
     EXPECT_EQ(glass.debugFrameDescription(), QStringLiteral("(no window)"));
+}
+
+TEST(GlassBackdropView, TakesNoClickAtAnyPoint) {
+    GlassBackdropView glass;
+    glass.setSize({300, 200});
+    for (const QPointF point : {QPointF(0, 0), QPointF(150, 100), QPointF(299, 199)})
+        EXPECT_FALSE(glass.contains(point));
     EXPECT_FALSE(glass.acceptedMouseButtons());
 }
 
-class CapturePanelTest : public testing::Test {
+class SnapshotTest : public CardFixture {
 protected:
-    CapturePanelTest() {
-        state.captures.set({capture("a")});
-        state.visible.set(true);
+    SnapshotTest() {
+        rendering = PanelModel::Rendering::plain;
+        show({capture("a")});
+        makeCard();
     }
     QTemporaryDir folder;
-    PanelState state;
 };
 
-TEST_F(CapturePanelTest, TellsWhereItsGlassStands) {
-    const CapturePanel panel(state, {}, PanelModel::Rendering::glass);
-    EXPECT_EQ(panel.glassFrameDescription(), "{{458, 62}, {328, 254}}");
-    EXPECT_EQ(panel.thumbnailFramesDescription(),
-              "thumbnails in the row: top 10, left 10, right 10");
-}
-
-TEST_F(CapturePanelTest, WithoutCardThereIsNoGlass) {
-    state.visible.set(false);
-    const CapturePanel panel(state, {}, PanelModel::Rendering::glass);
-    EXPECT_EQ(panel.glassFrameDescription(), std::nullopt);
-}
-
-TEST_F(CapturePanelTest, WritesASnapshotOfTheCardAtRest) {
-    CapturePanel panel(state, {}, PanelModel::Rendering::plain);
+TEST_F(SnapshotTest, ShowsTheCardAtRest) {
     const QString path = folder.filePath(QStringLiteral("card.png"));
-    EXPECT_FALSE(panel.writeSnapshot(path.toStdString()).has_value());
+    EXPECT_FALSE(panel->writeSnapshot(path.toStdString()).has_value());
     const QImage picture(path);
     EXPECT_EQ(picture.size(), QSize(800, 330));
     EXPECT_NE(picture.pixel(600, 306), picture.pixel(100, 100));
 }
 
-TEST_F(CapturePanelTest, SaysWhyASnapshotCannotBeWritten) {
-    CapturePanel panel(state, {}, PanelModel::Rendering::plain);
-    const auto failure = panel.writeSnapshot("/none/card.png");
+TEST_F(SnapshotTest, SaysWhyItCannotBeWritten) {
+    const auto failure = panel->writeSnapshot("/none/card.png");
     ASSERT_TRUE(failure.has_value());
     EXPECT_FALSE(failure->message.empty());
 }

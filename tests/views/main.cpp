@@ -1,12 +1,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QFont>
 #include <QGuiApplication>
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     const QGuiApplication application(argc, argv);
+    // The same letters on every machine, for the pictures that are compared.
+    QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
 }

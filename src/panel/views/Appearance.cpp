@@ -1,45 +1,80 @@
 #include "panel/views/Appearance.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
 
 namespace vantle {
 namespace {
 
-constexpr float primaryOpacity = 0.88F;
-constexpr float secondaryOpacity = 0.58F;
+DesktopAppearance* followed = nullptr;
 
-QColor withOpacity(QColor color, float opacity) {
-    color.setAlphaF(opacity);
-    return color;
+QColor white(float opacity) {
+    return QColor::fromRgbF(1, 1, 1, opacity);
 }
 
-}  // namespace
+QColor black(float opacity) {
+    return QColor::fromRgbF(0, 0, 0, opacity);
+}
 
-bool Appearance::isDark() {
+bool isDarkPalette() {
     const QPalette palette = QGuiApplication::palette();
     return palette.color(QPalette::Window).lightness() <
            palette.color(QPalette::WindowText).lightness();
 }
 
-QColor Appearance::primary() {
-    return withOpacity(isDark() ? Qt::white : Qt::black, primaryOpacity);
+}  // namespace
+
+void Appearance::follow(DesktopAppearance* desktop) {
+    followed = desktop;
 }
 
-QColor Appearance::secondary() {
-    return withOpacity(isDark() ? Qt::white : Qt::black, secondaryOpacity);
+Appearance::Appearance(QObject* parent) : QObject(parent) {
+    qGuiApp->installEventFilter(this);
+    if (!followed) return;
+    subscription_ = followed->look.observe([this](const DesktopLook& look) {
+        look_ = look;
+        emit changed();
+    });
 }
 
-QColor Appearance::accent() {
-    return QGuiApplication::palette().color(QPalette::Highlight);
+bool Appearance::eventFilter(QObject* object, QEvent* event) {
+    if (object == qGuiApp && event->type() == QEvent::ApplicationPaletteChange) emit changed();
+    return QObject::eventFilter(object, event);
 }
 
-QColor Appearance::windowBackground() {
-    return QGuiApplication::palette().color(QPalette::Window);
+bool Appearance::isDark() const {
+    return look_.scheme == ColorScheme::unknown ? isDarkPalette()
+                                                : look_.scheme == ColorScheme::dark;
 }
 
-QColor Appearance::popoverMaterial() {
-    return isDark() ? QColor(38, 38, 42, 214) : QColor(246, 246, 250, 210);
+QColor Appearance::primary() const {
+    return isDark() ? white(0.92F) : black(0.88F);
+}
+
+QColor Appearance::secondary() const {
+    return isDark() ? white(0.64F) : black(0.60F);
+}
+
+QColor Appearance::accent() const {
+    if (!look_.accent) return QGuiApplication::palette().color(QPalette::Highlight);
+    const auto& [red, green, blue] = *look_.accent;
+    return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green),
+                            static_cast<float>(blue));
+}
+
+QColor Appearance::windowBackground() const {
+    // The palette's own colour only where it is of the kind that the desktop asks for.
+    if (isDark() == isDarkPalette()) return QGuiApplication::palette().color(QPalette::Window);
+    return isDark() ? QColor(40, 40, 43) : QColor(239, 239, 241);
+}
+
+QColor Appearance::popoverMaterial() const {
+    return isDark() ? QColor(36, 36, 40, 222) : QColor(245, 245, 248, 218);
+}
+
+QColor Appearance::glassMaterial() const {
+    return isDark() ? QColor(32, 32, 36, 158) : QColor(246, 246, 250, 150);
 }
 
 }  // namespace vantle

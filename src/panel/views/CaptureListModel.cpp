@@ -8,10 +8,6 @@
 namespace vantle {
 namespace {
 
-auto positionOf(const std::vector<CapturePointer>& captures, const UUID& id) {
-    return std::ranges::find(captures, id, [](const auto& capture) { return capture->id(); });
-}
-
 /// Alone a capture's tile is at least as wide as the card's controls need.
 double tileWidth(const Capture& capture, int count) {
     return count == 1 ? CardLayout::singleWidth(capture)
@@ -21,34 +17,47 @@ double tileWidth(const Capture& capture, int count) {
 }  // namespace
 
 int CaptureListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(captures_.size());
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
 QVariant CaptureListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const Capture& capture = *captures_[static_cast<std::size_t>(index.row())];
-    const int count = rowCount();
+    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+    const Capture& capture = *row.capture;
     switch (role) {
         case captureIdRole:
             return QString::fromStdString(capture.id().text());
         case fileNameRole:
             return displayName(capture.fileName());
+        case positionRole:
+            return positionOf(capture.id());
         case tileXRole:
-            return tileX(index.row());
+            return row.x;
         case tileWidthRole:
-            return tileWidth(capture, count);
+            return row.width;
         case thumbnailHeightRole:
-            return CardLayout::tileSize(count, capture).height;
-        case pixelSizeTextRole:
-            return pixelSizeText(capture.pixelSize());
+            return row.height;
+        case hasThumbnailRole:
+            return capture.thumbnail() != nullptr;
         case isRecordingRole:
             return capture.kind() == CaptureKind::video;
         case durationTextRole:
             return durationText(capture.duration());
+        case isLeavingRole:
+            return row.isLeaving;
+        default:
+            return marks(capture.id(), role);
+    }
+}
+
+QVariant CaptureListModel::marks(const UUID& id, int role) const {
+    switch (role) {
         case isSelectedRole:
-            return selected_.contains(capture.id());
+            return selected_.contains(id);
         case isPinnedRole:
-            return pinned_.contains(capture.id());
+            return pinned_.contains(id);
+        case isCopiedRole:
+            return copied_ == id;
         default:
             return {};
     }
@@ -57,49 +66,68 @@ QVariant CaptureListModel::data(const QModelIndex& index, int role) const {
 QHash<int, QByteArray> CaptureListModel::roleNames() const {
     return {{captureIdRole, "captureId"},
             {fileNameRole, "fileName"},
+            {positionRole, "position"},
             {tileXRole, "tileX"},
             {tileWidthRole, "tileWidth"},
             {thumbnailHeightRole, "thumbnailHeight"},
-            {pixelSizeTextRole, "pixelSizeText"},
+            {hasThumbnailRole, "hasThumbnail"},
             {isRecordingRole, "isRecording"},
             {durationTextRole, "durationText"},
             {isSelectedRole, "isSelected"},
-            {isPinnedRole, "isPinned"}};
+            {isPinnedRole, "isPinned"},
+            {isCopiedRole, "isCopied"},
+            {isLeavingRole, "isLeaving"}};
 }
 
 void CaptureListModel::setCaptures(const std::vector<CapturePointer>& captures) {
-    removeMissing(captures);
-    insertAndMove(captures);
+    captures_ = captures;
+    markLeaving();
+    bringIntoOrder(laidOut());
     // The size of a tile depends on how many there are, its place on those before it.
-    announce({tileXRole, tileWidthRole, thumbnailHeightRole});
+    announce({isLeavingRole, positionRole, tileXRole, tileWidthRole, thumbnailHeightRole});
 }
 
-void CaptureListModel::removeMissing(const std::vector<CapturePointer>& captures) {
-    for (int row = rowCount() - 1; row >= 0; --row) {
-        const auto shown = captures_.begin() + row;
-        if (positionOf(captures, (*shown)->id()) != captures.end()) continue;
-        beginRemoveRows({}, row, row);
-        captures_.erase(shown);
-        endRemoveRows();
+std::vector<CaptureListModel::Row> CaptureListModel::laidOut() const {
+    const int count = static_cast<int>(captures_.size());
+    std::vector<Row> rows;
+    double x = 0;
+    for (const auto& capture : captures_) {
+        const double width = tileWidth(*capture, count);
+        rows.push_back({capture, x, width, CardLayout::tileSize(count, *capture).height});
+        x += width + CardLayout::spacing;
     }
+    return rows;
 }
 
-void CaptureListModel::insertAndMove(const std::vector<CapturePointer>& captures) {
-    for (int row = 0; row < static_cast<int>(captures.size()); ++row) {
-        const CapturePointer& wanted = captures[static_cast<std::size_t>(row)];
-        const auto from =
-            static_cast<int>(positionOf(captures_, wanted->id()) - captures_.cbegin());
+void CaptureListModel::markLeaving() {
+    for (Row& row : rows_) row.isLeaving = positionOf(row.capture->id()) < 0;
+}
+
+/// Brings in the rows of those that stay, in their order; the others keep their places between them.
+void CaptureListModel::bringIntoOrder(std::vector<Row> staying) {
+    int row = 0;
+    for (Row& wanted : staying) {
+        while (row < rowCount() && rows_[static_cast<std::size_t>(row)].isLeaving) ++row;
+        const int from = rowOf(wanted.capture->id(), row);
         if (from == rowCount()) {
             beginInsertRows({}, row, row);
-            captures_.insert(captures_.begin() + row, wanted);
+            rows_.insert(rows_.begin() + row, std::move(wanted));
             endInsertRows();
-        } else if (from != row) {
-            beginMoveRows({}, from, from, {}, row);
-            std::rotate(captures_.begin() + row, captures_.begin() + from,
-                        captures_.begin() + from + 1);
-            endMoveRows();
+        } else {
+            if (from != row) {
+                beginMoveRows({}, from, from, {}, row);
+                std::rotate(rows_.begin() + row, rows_.begin() + from, rows_.begin() + from + 1);
+                endMoveRows();
+            }
+            rows_[static_cast<std::size_t>(row)] = std::move(wanted);
         }
+        ++row;
     }
+}
+
+int CaptureListModel::rowOf(const UUID& id, int from) const {
+    while (from < rowCount() && rows_[static_cast<std::size_t>(from)].capture->id() != id) ++from;
+    return from;
 }
 
 void CaptureListModel::setSelected(const std::set<UUID>& selected) {
@@ -112,22 +140,47 @@ void CaptureListModel::setPinned(const std::set<UUID>& pinned) {
     announce({isPinnedRole});
 }
 
-double CaptureListModel::tileX(int row) const {
-    double x = 0;
-    for (int before = 0; before < row; ++before)
-        x += tileWidth(*captures_[static_cast<std::size_t>(before)], rowCount()) +
-             CardLayout::spacing;
-    return x;
+void CaptureListModel::setCopied(const std::optional<UUID>& copied) {
+    copied_ = copied;
+    announce({isCopiedRole});
+}
+
+void CaptureListModel::forget(const QString& captureId) {
+    for (int row = rowCount() - 1; row >= 0; --row) {
+        const Row& candidate = rows_[static_cast<std::size_t>(row)];
+        if (candidate.isLeaving && candidate.capture->id().text() == captureId.toStdString())
+            remove(row);
+    }
+}
+
+void CaptureListModel::clear() {
+    beginResetModel();
+    captures_.clear();
+    rows_.clear();
+    endResetModel();
+}
+
+void CaptureListModel::remove(int row) {
+    beginRemoveRows({}, row, row);
+    rows_.erase(rows_.begin() + row);
+    endRemoveRows();
+}
+
+int CaptureListModel::positionOf(const UUID& id) const {
+    const auto found =
+        std::ranges::find(captures_, id, [](const auto& capture) { return capture->id(); });
+    return found == captures_.end() ? -1 : static_cast<int>(found - captures_.begin());
 }
 
 void CaptureListModel::announce(const QList<int>& roles) {
-    if (!captures_.empty()) emit dataChanged(index(0), index(rowCount() - 1), roles);
+    if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1), roles);
 }
 
 CapturePointer CaptureListModel::capture(const QString& captureId) const {
-    const auto found = std::ranges::find(captures_, captureId.toStdString(),
-                                         [](const auto& one) { return one->id().text(); });
-    return found == captures_.end() ? nullptr : *found;
+    const auto found =
+        std::ranges::find(rows_, captureId.toStdString(),
+                          [](const Row& row) { return row.capture->id().text(); });
+    return found == rows_.end() ? nullptr : found->capture;
 }
 
 }  // namespace vantle

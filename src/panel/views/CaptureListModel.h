@@ -3,6 +3,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <QAbstractListModel>
+#include <optional>
 #include <set>
 #include <vector>
 
@@ -11,8 +12,9 @@
 
 namespace vantle {
 
-/// The captures on show as rows. Changes are told as inserts, removals and moves of single rows, by
-/// the captures' identifiers, so that views can animate them.
+/// The captures on the card as rows. Changes are told as inserts, removals and moves of single
+/// rows, by the captures' identifiers, so that views can animate them. A capture that is taken out
+/// keeps its row, where it was and as large as it was, until the view has shown it leaving.
 class CaptureListModel : public QAbstractListModel {
     Q_OBJECT
     QML_NAMED_ELEMENT(CaptureList)
@@ -22,14 +24,17 @@ public:
     enum Role {
         captureIdRole = Qt::UserRole,
         fileNameRole,
-        tileXRole,  ///< From the left edge of the row's first tile.
+        positionRole,  ///< Among the captures that stay, from 0.
+        tileXRole,     ///< From the left edge of the row's first tile.
         tileWidthRole,
         thumbnailHeightRole,
-        pixelSizeTextRole,
+        hasThumbnailRole,
         isRecordingRole,
         durationTextRole,
         isSelectedRole,
         isPinnedRole,
+        isCopiedRole,
+        isLeavingRole,
     };
 
     using QAbstractListModel::QAbstractListModel;
@@ -41,20 +46,40 @@ public:
     void setCaptures(const std::vector<CapturePointer>& captures);
     void setSelected(const std::set<UUID>& selected);
     void setPinned(const std::set<UUID>& pinned);
+    void setCopied(const std::optional<UUID>& copied);
 
-    /// Null when no capture has that identifier.
+    /// Takes the row of a capture that has been shown leaving; nothing when it is back.
+    void forget(const QString& captureId);
+    void clear();
+
+    /// Null when no row has that identifier.
     CapturePointer capture(const QString& captureId) const;
+    /// Those that stay.
     const std::vector<CapturePointer>& captures() const { return captures_; }
 
 private:
-    void removeMissing(const std::vector<CapturePointer>& captures);
-    void insertAndMove(const std::vector<CapturePointer>& captures);
-    double tileX(int row) const;
+    struct Row {
+        CapturePointer capture;
+        double x = 0;
+        double width = 0;
+        double height = 0;
+        bool isLeaving = false;
+    };
+
+    std::vector<Row> laidOut() const;
+    void markLeaving();
+    void bringIntoOrder(std::vector<Row> staying);
+    int rowOf(const UUID& id, int from) const;
+    QVariant marks(const UUID& id, int role) const;
+    int positionOf(const UUID& id) const;
+    void remove(int row);
     void announce(const QList<int>& roles);
 
     std::vector<CapturePointer> captures_;
+    std::vector<Row> rows_;
     std::set<UUID> selected_;
     std::set<UUID> pinned_;
+    std::optional<UUID> copied_;
 };
 
 }  // namespace vantle

@@ -5,11 +5,12 @@
 #include <QQmlEngine>
 #include <QQmlExtensionPlugin>
 #include <QQuickItem>
-#include <QQuickView>
 #include <QStringList>
 #include <utility>
 
 #include "panel/CardLayout.h"
+#include "panel/views/DragThumbnailView.h"
+#include "panel/views/SymbolProvider.h"
 #include "panel/views/ThumbnailProvider.h"
 #include "platform/qt/QtGeometry.h"
 
@@ -34,48 +35,66 @@ void chooseRenderer() {
     if (!isChosen) QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
-/// The first item of that name below `item`, depth first; null when there is none.
-const QQuickItem* findItem(const QQuickItem& item, const QString& name) {
+/// Every item of that kind below `item`, depth first.
+template <typename Kind>
+void collect(const QQuickItem& item, std::vector<const Kind*>& found) {
     for (const QQuickItem* child : item.childItems()) {
-        if (child->objectName() == name) return child;
-        if (const QQuickItem* found = findItem(*child, name)) return found;
+        if (const auto* kind = qobject_cast<const Kind*>(child)) found.push_back(kind);
+        collect(*child, found);
     }
-    return nullptr;
 }
 
-void describeThumbnails(const QQuickItem& item, const QQuickItem& row, QStringList& frames) {
-    for (const QQuickItem* child : item.childItems()) {
-        if (child->objectName() == QStringLiteral("thumbnail")) {
-            const QRectF frame = row.mapRectFromItem(child, child->boundingRect());
-            frames << QStringLiteral("top %1, left %2, right %3")
-                          .arg(frame.top())
-                          .arg(frame.left())
-                          .arg(row.width() - frame.right());
-        }
-        describeThumbnails(*child, row, frames);
-    }
+std::vector<const DragThumbnailView*> thumbnails(const QQuickWindow& window) {
+    std::vector<const DragThumbnailView*> found;
+    collect(*window.contentItem(), found);
+    return found;
+}
+
+/// The part of it that nothing cuts off, in the scene.
+QRectF visibleRect(const QQuickItem& item) {
+    QRectF visible = item.mapRectToScene(item.boundingRect());
+    for (const QQuickItem* above = item.parentItem(); above; above = above->parentItem())
+        if (above->clip()) visible &= above->mapRectToScene(above->boundingRect());
+    return visible;
+}
+
+/// The row in which it stands.
+const QQuickItem* rowOf(const QQuickItem& thumbnail) {
+    const QQuickItem* above = &thumbnail;
+    while (above && above->objectName() != QStringLiteral("tileRow")) above = above->parentItem();
+    return above;
 }
 
 }  // namespace
 
-CapturePanel::CapturePanel(PanelState& state, CardActions actions, PanelModel::Rendering rendering)
-    : model_(state, std::move(actions), rendering) {
+CapturePanel::CapturePanel(PanelModel::Context context) : model_(std::move(context)) {
     chooseRenderer();
     view_ = makeView();
     view_->setFlags(windowFlags);
+    view_->onMarquee = [this](const auto& rect) {
+        if (onMarquee) onMarquee(rect);
+    };
+    view_->onBackgroundClick = [this] {
+        if (onBackgroundClick) onBackgroundClick();
+    };
     container_ = std::make_unique<PassthroughContainerView>(*view_);
+    keyboard_ = std::make_unique<KeyboardFocus>(*view_);
+    connect(&model_, &PanelModel::isPresentedChanged, this, &CapturePanel::letGoOfKeyboard);
 }
 
 CapturePanel::~CapturePanel() = default;
 
-std::unique_ptr<QQuickView> CapturePanel::makeView() {
+std::unique_ptr<FirstMouseHostingView> CapturePanel::makeView() {
     QQuickWindow::setDefaultAlphaBuffer(true);
-    auto view = std::make_unique<QQuickView>();
+    // Letters look alike with every renderer, and sharp on ordinary screens.
+    QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
+    auto view = std::make_unique<FirstMouseHostingView>();
     view->setColor(Qt::transparent);
     view->setResizeMode(QQuickView::SizeRootObjectToView);
     view->resize(windowSize);
     view->setTitle(QStringLiteral("Vantle"));
     view->engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    view->engine()->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
     view->engine()->addImageProvider(QStringLiteral("thumbnail"),
                                      new ThumbnailProvider([this](const QString& id) {
                                          return model_.captures()->capture(id);
@@ -97,6 +116,17 @@ void CapturePanel::orderFrontRegardless() {
 
 void CapturePanel::orderOut() {
     view_->hide();
+    model_.cardHasLeft();
+}
+
+void CapturePanel::takeKeyboard() {
+    if (!view_->isExposed()) return;
+    keyboard_->take();
+    QMetaObject::invokeMethod(view_->rootObject(), "focusNewest");
+}
+
+void CapturePanel::letGoOfKeyboard() {
+    if (!model_.isPresented()) keyboard_->giveBack();
 }
 
 std::optional<std::string> CapturePanel::glassFrameDescription() const {
@@ -105,10 +135,28 @@ std::optional<std::string> CapturePanel::glassFrameDescription() const {
 }
 
 std::string CapturePanel::thumbnailFramesDescription() const {
-    const auto* row = findItem(*view_->contentItem(), QStringLiteral("tileRow"));
     QStringList frames;
-    if (row) describeThumbnails(*row, *row, frames);
+    for (const auto* thumbnail : thumbnails(*view_)) {
+        const QQuickItem* row = rowOf(*thumbnail);
+        const QRectF frame = row->mapRectFromItem(thumbnail, thumbnail->boundingRect());
+        frames << QStringLiteral("top %1, left %2, right %3")
+                      .arg(frame.top())
+                      .arg(frame.left())
+                      .arg(row->width() - frame.right());
+    }
     return "thumbnails in the row: " + frames.join(QStringLiteral("; ")).toStdString();
+}
+
+std::vector<VisibleThumbnail> CapturePanel::visibleThumbnails() const {
+    std::vector<VisibleThumbnail> visible;
+    for (const auto* thumbnail : thumbnails(*view_)) {
+        const auto capture = model_.list().capture(thumbnail->captureId());
+        if (!capture) continue;
+        const QRectF frame = visibleRect(*thumbnail);
+        visible.push_back(
+            {capture->id(), {{frame.x(), frame.y()}, {frame.width(), frame.height()}}});
+    }
+    return visible;
 }
 
 Outcome CapturePanel::writeSnapshot(const std::string& path) {

@@ -1,24 +1,22 @@
 #pragma once
 
-#include <QImage>
 #include <memory>
 
-#include "panel/CardActions.h"
-#include "panel/PanelState.h"
+#include "panel/views/FirstMouseHostingView.h"
 #include "panel/views/PanelModel.h"
 #include "panel/views/PassthroughContainerView.h"
 #include "platform/PanelWindow.h"
-
-class QQuickView;
+#include "platform/qt/KeyboardFocus.h"
 
 namespace vantle {
 
 /// The panel's window, with the card in it. Everything of the view toolkit is loaded with the first
 /// one that is made.
-class CapturePanel final : public PanelWindow {
+class CapturePanel final : public QObject, public PanelWindow {
+    Q_OBJECT
+
 public:
-    /// `state` outlives the panel.
-    CapturePanel(PanelState& state, CardActions actions, PanelModel::Rendering rendering);
+    explicit CapturePanel(PanelModel::Context context);
     ~CapturePanel() override;
 
     void setFrame(const Rect& frame) override;
@@ -26,14 +24,21 @@ public:
     void orderOut() override;
     std::optional<std::string> glassFrameDescription() const override;
     std::string thumbnailFramesDescription() const override;
+    std::vector<VisibleThumbnail> visibleThumbnails() const override;
+    void takeKeyboard() override;
     Outcome writeSnapshot(const std::string& path) override;
 
+    QQuickWindow& window() const { return *view_; }
+
 private:
-    std::unique_ptr<QQuickView> makeView();
+    std::unique_ptr<FirstMouseHostingView> makeView();
+    /// Once the card goes, the keyboard goes back where it came from.
+    void letGoOfKeyboard();
 
     PanelModel model_;
-    std::unique_ptr<QQuickView> view_;
+    std::unique_ptr<FirstMouseHostingView> view_;
     std::unique_ptr<PassthroughContainerView> container_;
+    std::unique_ptr<KeyboardFocus> keyboard_;
 };
 
 }  // namespace vantle

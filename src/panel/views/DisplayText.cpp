@@ -1,8 +1,49 @@
 #include "panel/views/DisplayText.h"
 
+#include <QCoreApplication>
+#include <QStringList>
+#include <array>
+#include <chrono>
 #include <cmath>
 
 namespace vantle {
+namespace {
+
+struct Unit {
+    std::chrono::seconds length;
+    const char* past;
+    const char* future;
+};
+
+using namespace std::chrono_literals;
+
+// The largest first. Only days are written out, so only they have a plural in English.
+constexpr std::array units = {
+    Unit{std::chrono::years(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 yr. ago"),
+         QT_TRANSLATE_NOOP("RelativeDate", "in %1 yr.")},
+    Unit{std::chrono::months(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 mo. ago"),
+         QT_TRANSLATE_NOOP("RelativeDate", "in %1 mo.")},
+    Unit{std::chrono::weeks(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 wk. ago"),
+         QT_TRANSLATE_NOOP("RelativeDate", "in %1 wk.")},
+    Unit{std::chrono::days(2), QT_TRANSLATE_NOOP("RelativeDate", "%1 days ago"),
+         QT_TRANSLATE_NOOP("RelativeDate", "in %1 days")},
+    Unit{std::chrono::days(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 day ago"),
+         QT_TRANSLATE_NOOP("RelativeDate", "in %1 day")},
+    Unit{1h, QT_TRANSLATE_NOOP("RelativeDate", "%1 hr. ago"),
+         QT_TRANSLATE_NOOP("RelativeDate", "in %1 hr.")},
+    Unit{1min, QT_TRANSLATE_NOOP("RelativeDate", "%1 min. ago"),
+         QT_TRANSLATE_NOOP("RelativeDate", "in %1 min.")},
+    Unit{1s, QT_TRANSLATE_NOOP("RelativeDate", "%1 sec. ago"),
+         QT_TRANSLATE_NOOP("RelativeDate", "in %1 sec.")},
+};
+
+/// How often the unit fits; two days are counted in days.
+long count(std::chrono::nanoseconds distance, const Unit& unit) {
+    const auto one = unit.length == std::chrono::days(2) ? std::chrono::days(1) : unit.length;
+    return static_cast<long>(distance / one);
+}
+
+}  // namespace
 
 QString displayName(const std::string& name) {
     constexpr char16_t firstControlPicture = 0x2400;
@@ -21,10 +62,37 @@ QString pixelSizeText(Size pixels) {
     return QStringLiteral("%1 × %2").arg(std::lround(pixels.width)).arg(std::lround(pixels.height));
 }
 
+QString relativeDateText(Date date, Date now) {
+    const auto distance = date < now ? now - date : date - now;
+    for (const Unit& unit : units) {
+        if (distance < unit.length) continue;
+        const char* text = date < now ? unit.past : unit.future;
+        return QCoreApplication::translate("RelativeDate", text).arg(count(distance, unit));
+    }
+    return QCoreApplication::translate("RelativeDate", "now");
+}
+
+QString subtitle(Size pixels, Date date, Date now) {
+    QStringList parts{pixelSizeText(pixels), relativeDateText(date, now)};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral("  ·  "));
+}
+
 QString durationText(double seconds) {
     if (!std::isfinite(seconds)) return {};
     const long whole = std::lround(seconds);
     return QStringLiteral("%1:%2").arg(whole / 60).arg(whole % 60, 2, 10, QLatin1Char('0'));
+}
+
+QString pointText(const QPointF& point) {
+    return QStringLiteral("{%1, %2}").arg(point.x()).arg(point.y());
+}
+
+QString rectText(const QRectF& rect) {
+    return QStringLiteral("{%1, {%2, %3}}")
+        .arg(pointText(rect.topLeft()))
+        .arg(rect.width())
+        .arg(rect.height());
 }
 
 }  // namespace vantle

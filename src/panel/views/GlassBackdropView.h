@@ -2,35 +2,38 @@
 
 #include <QtQml/qqmlregistration.h>
 
-#include <QQuickPaintedItem>
+#include "panel/views/PlateView.h"
 
 namespace vantle {
 
 /// The translucent plate on which the card's tiles stand. Clicks are caught exactly where it is, by
 /// the content above it: it takes none itself.
-class GlassBackdropView : public QQuickPaintedItem {
+class GlassBackdropView : public vantle::PlateView {  // in full: the linter reads it so
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(double cornerRadius MEMBER cornerRadius_ NOTIFY changed)
-    /// An opaque plate in the colour of windows, for pictures that are to look alike everywhere.
-    Q_PROPERTY(bool plain MEMBER plain_ NOTIFY changed)
+    /// Whether the compositor blurs what is behind it; set by the window that it stands in.
+    Q_PROPERTY(bool isBlurred READ isBlurred NOTIFY isBlurredChanged)
 
 public:
+    static constexpr double defaultCornerRadius = 22;
+
     explicit GlassBackdropView(QQuickItem* parent = nullptr);
 
-    void paint(QPainter* painter) override;
+    bool isBlurred() const { return isBlurred_; }
+    void setBlurred(bool isBlurred);
+
+    bool contains(const QPointF&) const override { return false; }
 
     /// Where it stands in its window, "{{x, y}, {w, h}}" in whole points from the top left;
     /// "(no window)" while it is in none.
     QString debugFrameDescription() const;
 
 signals:
-    void changed();
+    void isBlurredChanged();
 
 private:
-    double cornerRadius_ = 22;
-    bool plain_ = false;
+    bool isBlurred_ = false;
 };
 
 }  // namespace vantle

@@ -3,39 +3,86 @@
 #include <utility>
 
 #include "panel/CardLayout.h"
+#include "panel/views/DisplayText.h"
 #include "support/Debug.h"
 
 namespace vantle {
+namespace {
 
-PanelModel::PanelModel(PanelState& state, CardActions actions, Rendering rendering)
-    : state_(state), actions_(std::move(actions)), rendering_(rendering), corner_(state.corner) {
-    observe();
+/// Of changes that do not bring a spring of their own.
+constexpr Animation arrivalSpring{.response = 0.55, .dampingFraction = 0.8};
+
+}  // namespace
+
+PanelModel::PanelModel(Context context)
+    : context_(std::move(context)), corner_(context_.state.corner), listAnimation_(arrivalSpring) {
+    observeCaptures();
+    observeMarks();
+    observePresence();
+    QAccessible::installActivationObserver(this);
 }
 
-void PanelModel::observe() {
-    subscriptions_.push_back(state_.captures.observe([this](const auto& captures) {
-        captures_.setCaptures(captures);
-        emit countChanged();
-    }));
-    subscriptions_.push_back(state_.selected.observe([this](const auto& selected) {
-        captures_.setSelected(selected);
-        hasSelection_ = !selected.empty();
-        emit hasSelectionChanged();
-    }));
+PanelModel::~PanelModel() {
+    QAccessible::removeActivationObserver(this);
+}
+
+void PanelModel::observeCaptures() {
+    PanelState& state = context_.state;
     subscriptions_.push_back(
-        state_.pinned.observe([this](const auto& pinned) { captures_.setPinned(pinned); }));
-    subscriptions_.push_back(state_.visible.observe([this](bool visible) {
-        visible_ = visible;
-        emit visibleChanged();
+        state.captures.observe([this](const auto& captures) { setCaptures(captures); }));
+    subscriptions_.push_back(
+        state.pinned.observe([this](const auto& pinned) { captures_.setPinned(pinned); }));
+    subscriptions_.push_back(
+        state.copiedID.observe([this](const auto& copied) { captures_.setCopied(copied); }));
+    subscriptions_.push_back(state.selected.observe([this](const auto& selected) {
+        captures_.setSelected(selected);
+        selectedCount_ = static_cast<int>(selected.size());
+        emit selectedCountChanged();
     }));
-    subscriptions_.push_back(state_.hovering.observe([this](bool hovering) {
-        hovering_ = hovering;
-        emit hoveringChanged();
+}
+
+void PanelModel::observeMarks() {
+    PanelState& state = context_.state;
+    subscriptions_.push_back(state.marquee.observe([this](const auto& marquee) {
+        marquee_ = marquee;
+        emit marqueeChanged();
     }));
-    subscriptions_.push_back(state_.progress.observe([this](double progress) {
+    subscriptions_.push_back(state.progress.observe([this](double progress) {
+        if (progress == progress_) return;
         progress_ = progress;
         emit progressChanged();
     }));
+    subscriptions_.push_back(context_.settings.dismissAfter.observe([this](double seconds) {
+        dismissAfter_ = seconds;
+        emit hasTimerChanged();
+    }));
+}
+
+void PanelModel::observePresence() {
+    PanelState& state = context_.state;
+    subscriptions_.push_back(state.visible.observe([this](bool visible) {
+        visible_ = visible;
+        emit isPresentedChanged();
+        emit subtitleChanged();
+    }));
+    subscriptions_.push_back(state.hovering.observe([this](bool hovering) {
+        hovering_ = hovering;
+        emit hoveringChanged();
+        // The age of a capture goes on while nothing else happens.
+        emit subtitleChanged();
+    }));
+}
+
+void PanelModel::setCaptures(const std::vector<CapturePointer>& captures) {
+    isEmpty_ = captures.empty();
+    if (!isEmpty_) {
+        listAnimation_ = context_.state.animation().value_or(arrivalSpring);
+        emit listAnimationChanged();
+        captures_.setCaptures(captures);
+        emit countChanged();
+        emit subtitleChanged();
+    }
+    emit isPresentedChanged();
 }
 
 double PanelModel::contentWidth() const {
@@ -52,23 +99,106 @@ bool PanelModel::overflows() const {
     return contentWidth() > CardLayout::maxContentWidth;
 }
 
+const Capture* PanelModel::onlyCapture() const {
+    return count() == 1 ? captures_.captures().front().get() : nullptr;
+}
+
+QString PanelModel::fileName() const {
+    const Capture* capture = onlyCapture();
+    return capture ? displayName(capture->fileName()) : QString();
+}
+
+QString PanelModel::subtitle() const {
+    const Capture* capture = onlyCapture();
+    if (!capture) return {};
+    return vantle::subtitle(capture->pixelSize(), capture->date(), context_.clock.now());
+}
+
+QRectF PanelModel::marquee() const {
+    const Rect rect = marquee_.value_or(Rect{});
+    return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
 void PanelModel::readCorner() {
-    corner_ = state_.corner;
-    emit visibleChanged();
+    corner_ = context_.state.corner;
+    emit cornerChanged();
+}
+
+void PanelModel::cardHasLeft() {
+    captures_.clear();
+    emit countChanged();
+}
+
+void PanelModel::forget(const QString& captureId) {
+    QMetaObject::invokeMethod(
+        this, [this, captureId] { captures_.forget(captureId); }, Qt::QueuedConnection);
 }
 
 void PanelModel::setHovering(bool hovering) {
-    if (hovering != hovering_) state_.hovering.set(hovering);
+    if (hovering != hovering_) context_.state.hovering.set(hovering);
+}
+
+void PanelModel::perform(const CardActions::OnCapture& action, const QString& captureId) {
+    if (const auto capture = captures_.capture(captureId)) action(capture);
 }
 
 void PanelModel::close(const QString& captureId) {
     Debug::log([] { return "tap X"; });
-    if (const auto capture = captures_.capture(captureId)) actions_.close(capture);
+    perform(context_.actions.close, captureId);
 }
 
 void PanelModel::closeAll() {
     Debug::log([] { return "tap Clear all"; });
-    actions_.closeAll();
+    context_.actions.closeAll();
+}
+
+void PanelModel::open(const QString& captureId) {
+    perform(context_.actions.open, captureId);
+}
+
+void PanelModel::copy(const QString& captureId) {
+    perform(context_.actions.copy, captureId);
+}
+
+void PanelModel::reveal(const QString& captureId) {
+    perform(context_.actions.reveal, captureId);
+}
+
+void PanelModel::share(const QString& captureId, const QRectF& anchor) {
+    const Rect frame{{anchor.x(), anchor.y()}, {anchor.width(), anchor.height()}};
+    if (const auto capture = captures_.capture(captureId)) context_.actions.share(capture, frame);
+}
+
+void PanelModel::trash(const QString& captureId) {
+    perform(context_.actions.trash, captureId);
+}
+
+void PanelModel::toggleSelect(const QString& captureId) {
+    perform(context_.actions.toggleSelect, captureId);
+}
+
+void PanelModel::togglePin(const QString& captureId) {
+    perform(context_.actions.togglePin, captureId);
+}
+
+void PanelModel::clearSelection() {
+    context_.actions.clearSelection();
+}
+
+void PanelModel::copySelected() {
+    context_.actions.copySelected();
+}
+
+void PanelModel::trashSelected() {
+    context_.actions.trashSelected();
+}
+
+void PanelModel::removeSelected() {
+    context_.actions.removeSelected();
+}
+
+void PanelModel::log(const QString& line) const {
+    Debug::log([&line] { return line.toStdString(); });
 }
 
 }  // namespace vantle

@@ -2,84 +2,154 @@
 
 #include <QtQml/qqmlregistration.h>
 
+#include <QAccessible>
 #include <QObject>
+#include <QRectF>
 #include <QString>
 #include <vector>
 
 #include "panel/CardActions.h"
 #include "panel/PanelState.h"
 #include "panel/views/CaptureListModel.h"
+#include "platform/WallClock.h"
+#include "settings/Settings.h"
 #include "support/Subscription.h"
 
 namespace vantle {
 
 /// The panel's state for the card: properties that follow it, and the card's requests as verbs. It
 /// keeps what it is told, because a change is announced before it is stored.
-class PanelModel : public QObject {
+class PanelModel : public QObject, private QAccessible::ActivationObserver {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the panel")
 
     Q_PROPERTY(vantle::CaptureListModel* captures READ captures CONSTANT)
+    /// The captures on the card. A card that leaves because its last capture was taken still shows
+    /// that one.
     Q_PROPERTY(int count READ count NOTIFY countChanged)
     Q_PROPERTY(double contentWidth READ contentWidth NOTIFY countChanged)
     /// The height of the thumbnails in a row of several; of the one when there is only one.
     Q_PROPERTY(double thumbnailHeight READ thumbnailHeight NOTIFY countChanged)
     Q_PROPERTY(bool overflows READ overflows NOTIFY countChanged)
-    Q_PROPERTY(bool visible READ isVisible NOTIFY visibleChanged)
+    /// The spring of the latest change of the captures.
+    Q_PROPERTY(double listResponse READ listResponse NOTIFY listAnimationChanged)
+    Q_PROPERTY(double listDampingFraction READ listDampingFraction NOTIFY listAnimationChanged)
+    /// Of the capture that is alone.
+    Q_PROPERTY(QString fileName READ fileName NOTIFY countChanged)
+    Q_PROPERTY(QString subtitle READ subtitle NOTIFY subtitleChanged)
+
+    /// Whether there is a card: the panel is visible and has something to show.
+    Q_PROPERTY(bool isPresented READ isPresented NOTIFY isPresentedChanged)
     Q_PROPERTY(bool hovering READ isHovering NOTIFY hoveringChanged)
-    Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY hasSelectionChanged)
+    Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectedCountChanged)
     Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
+    Q_PROPERTY(bool hasMarquee READ hasMarquee NOTIFY marqueeChanged)
+    Q_PROPERTY(QRectF marquee READ marquee NOTIFY marqueeChanged)
     /// The corner in which the panel stands since it was shown last.
-    Q_PROPERTY(bool atRight READ atRight NOTIFY visibleChanged)
-    Q_PROPERTY(bool atBottom READ atBottom NOTIFY visibleChanged)
+    Q_PROPERTY(bool atRight READ atRight NOTIFY cornerChanged)
+    Q_PROPERTY(bool atBottom READ atBottom NOTIFY cornerChanged)
+    /// Whether captures are dismissed by a timer, which a pin is to stop.
+    Q_PROPERTY(bool hasTimer READ hasTimer NOTIFY hasTimerChanged)
     Q_PROPERTY(bool rendersPlain READ rendersPlain CONSTANT)
+    /// Whether an assistive program reads the card, and so needs all controls to be there.
+    Q_PROPERTY(bool isAssisted READ isAssisted NOTIFY isAssistedChanged)
 
 public:
     enum class Rendering { glass, plain };
 
-    /// `state` outlives this.
-    PanelModel(PanelState& state, CardActions actions, Rendering rendering);
+    /// What it shows and is told by; all but the actions outlives it.
+    struct Context {
+        PanelState& state;
+        Settings& settings;
+        const WallClock& clock;
+        CardActions actions;
+        Rendering rendering = Rendering::glass;
+    };
+
+    explicit PanelModel(Context context);
+    ~PanelModel() override;
 
     CaptureListModel* captures() { return &captures_; }
-    int count() const { return captures_.rowCount(); }
+    const CaptureListModel& list() const { return captures_; }
+    int count() const { return static_cast<int>(captures_.captures().size()); }
     double contentWidth() const;
     double thumbnailHeight() const;
     bool overflows() const;
-    bool isVisible() const { return visible_; }
+    double listResponse() const { return listAnimation_.response; }
+    double listDampingFraction() const { return listAnimation_.dampingFraction; }
+    QString fileName() const;
+    QString subtitle() const;
+    bool isPresented() const { return visible_ && !isEmpty_; }
     bool isHovering() const { return hovering_; }
-    bool hasSelection() const { return hasSelection_; }
+    int selectedCount() const { return selectedCount_; }
     double progress() const { return progress_; }
+    bool hasMarquee() const { return marquee_.has_value(); }
+    QRectF marquee() const;
     bool atRight() const { return isRight(corner_); }
     bool atBottom() const { return isBottom(corner_); }
-    bool rendersPlain() const { return rendering_ == Rendering::plain; }
+    bool hasTimer() const { return dismissAfter_ > 0; }
+    bool isAssisted() const { return QAccessible::isActive(); }
+    bool rendersPlain() const { return context_.rendering == Rendering::plain; }
 
     /// The corner may have changed: the panel is about to be shown there.
     void readCorner();
+    /// The card is gone from the screen: lets go of what it showed.
+    void cardHasLeft();
 
     Q_INVOKABLE void setHovering(bool hovering);
+    /// The capture has been shown leaving. Its row goes as soon as its tile is not at work.
+    Q_INVOKABLE void forget(const QString& captureId);
     Q_INVOKABLE void close(const QString& captureId);
     Q_INVOKABLE void closeAll();
+    Q_INVOKABLE void open(const QString& captureId);
+    Q_INVOKABLE void copy(const QString& captureId);
+    Q_INVOKABLE void reveal(const QString& captureId);
+    /// With the button's frame in the panel's content, to which the menu is to point.
+    Q_INVOKABLE void share(const QString& captureId, const QRectF& anchor);
+    Q_INVOKABLE void trash(const QString& captureId);
+    Q_INVOKABLE void toggleSelect(const QString& captureId);
+    Q_INVOKABLE void togglePin(const QString& captureId);
+    Q_INVOKABLE void clearSelection();
+    Q_INVOKABLE void copySelected();
+    Q_INVOKABLE void trashSelected();
+    Q_INVOKABLE void removeSelected();
+    /// One line in the debug log.
+    Q_INVOKABLE void log(const QString& line) const;
 
 signals:
     void countChanged();
-    void visibleChanged();
+    void listAnimationChanged();
+    void subtitleChanged();
+    void isPresentedChanged();
     void hoveringChanged();
-    void hasSelectionChanged();
+    void selectedCountChanged();
     void progressChanged();
+    void marqueeChanged();
+    void cornerChanged();
+    void hasTimerChanged();
+    void isAssistedChanged();
 
 private:
-    void observe();
+    void accessibilityActiveChanged(bool) override { emit isAssistedChanged(); }
+    void observeCaptures();
+    void observeMarks();
+    void observePresence();
+    void setCaptures(const std::vector<CapturePointer>& captures);
+    void perform(const CardActions::OnCapture& action, const QString& captureId);
+    const Capture* onlyCapture() const;
 
-    PanelState& state_;
-    CardActions actions_;
-    Rendering rendering_;
+    Context context_;
     CaptureListModel captures_;
     PanelCorner corner_;
+    Animation listAnimation_;
     bool visible_ = false;
+    bool isEmpty_ = true;
     bool hovering_ = false;
-    bool hasSelection_ = false;
+    int selectedCount_ = 0;
     double progress_ = 1;
+    double dismissAfter_ = 0;
+    std::optional<Rect> marquee_;
     std::vector<Subscription> subscriptions_;
 };
 

@@ -1,18 +1,52 @@
 #include "panel/views/PassthroughContainerView.h"
 
 #include <QEvent>
+#include <QMouseEvent>
 #include <QQuickItem>
 
+#include "panel/views/DisplayText.h"
 #include "panel/views/RoundedShape.h"
+#include "platform/qt/BlurBehind.h"
 #include "platform/qt/InputRegion.h"
+#include "support/Debug.h"
+#include "support/SystemLog.h"
 
 namespace vantle {
 namespace {
 
-QRegion cutOut(const GlassBackdropView& glass) {
-    const auto radius = glass.property("cornerRadius").toDouble();
-    const QRectF frame = glass.mapRectToScene(glass.boundingRect());
-    return {continuousRoundedRect(frame, radius).toFillPolygon().toPolygon()};
+QRectF frameOf(const GlassBackdropView& glass) {
+    return glass.mapRectToScene(glass.boundingRect());
+}
+
+QRegion shapeOf(const GlassBackdropView& glass) {
+    const QPainterPath outline = continuousRoundedRect(frameOf(glass), glass.cornerRadius());
+    return {outline.toFillPolygon().toPolygon()};
+}
+
+/// The topmost item below `item` that takes clicks at that point of the scene; null when there is
+/// none.
+QQuickItem* topmost(const QQuickItem& item, const QPointF& point) {
+    // Neither where an item is cut off.
+    if (item.clip() && !item.contains(item.mapFromScene(point))) return nullptr;
+    const auto children = item.childItems();
+    for (auto child = children.rbegin(); child != children.rend(); ++child) {
+        if (!(*child)->isVisible()) continue;
+        if (QQuickItem* found = topmost(**child, point)) return found;
+        if ((*child)->acceptedMouseButtons() && (*child)->contains((*child)->mapFromScene(point)))
+            return *child;
+    }
+    return nullptr;
+}
+
+void logHit(const QPointF& point, const QQuickItem& found) {
+    const QString type = QString::fromLatin1(found.metaObject()->className());
+    systemLog("Vantle[hit]: " + pointText(point).toStdString() + " -> " +
+              type.section(QStringLiteral("_QML"), 0, 0).toStdString());
+}
+
+void logPassThrough(const QPointF& point, const QRectF& card) {
+    systemLog("Vantle[hit]: pass-through at " + pointText(point).toStdString() + " (card " +
+              rectText(card).toStdString() + ")");
 }
 
 }  // namespace
@@ -36,21 +70,46 @@ GlassBackdropView* PassthroughContainerView::visibleGlass() const {
     return glass && glass->isVisible() ? glass : nullptr;
 }
 
+QQuickItem* PassthroughContainerView::hitTest(const QPointF& point) const {
+    const GlassBackdropView* glass = visibleGlass();
+    if (!glass) return nullptr;
+    if (!frameOf(*glass).contains(point)) {
+        if (Debug::on()) logPassThrough(point, frameOf(*glass));
+        return nullptr;
+    }
+    QQuickItem* background = window_.contentItem();
+    QQuickItem* control = topmost(*background, point);
+    QQuickItem* found = control ? control : background;
+    if (Debug::on()) logHit(point, *found);
+    return found;
+}
+
 bool PassthroughContainerView::eventFilter(QObject* object, QEvent* event) {
     // A region set before the window is on the screen is lost with some window managers.
     if (event->type() == QEvent::Expose && window_.isExposed()) follow(Repeat::always);
+    if (event->type() == QEvent::MouseButtonPress) {
+        const auto& press = static_cast<const QMouseEvent&>(*event);
+        if (press.button() == Qt::LeftButton && !hitTest(press.position())) return true;
+    }
     return QObject::eventFilter(object, event);
 }
 
 void PassthroughContainerView::follow(Repeat repeat) {
-    const GlassBackdropView* glass = visibleGlass();
-    const QRect frame =
-        glass ? glass->mapRectToScene(glass->boundingRect()).toAlignedRect() : QRect();
+    GlassBackdropView* glass = visibleGlass();
+    const QRect frame = glass ? frameOf(*glass).toAlignedRect() : QRect();
     if (!window_.isExposed() || (repeat == Repeat::whenChanged && frame == glassFrame_)) return;
     glassFrame_ = frame;
     setInputRegion(window_, frame);
+    const QRegion shape = glass ? shapeOf(*glass) : QRegion();
+    cutOut(glass, shape);
+    if (repeat == Repeat::always) blurIsOffered_ = blurBehindIsOffered();
+    if (glass) glass->setBlurred(blurIsOffered_);
+    if (blurIsOffered_) setBlurBehind(window_, shape);
+}
+
+void PassthroughContainerView::cutOut(const GlassBackdropView* glass, const QRegion& shape) {
     if (glass && !compositorIsRunning())
-        window_.setMask(cutOut(*glass));
+        window_.setMask(shape);
     else if (!window_.mask().isEmpty())
         window_.setMask({});
 }

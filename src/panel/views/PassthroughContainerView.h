@@ -8,8 +8,9 @@
 
 namespace vantle {
 
-/// Lets the clicks in a window fall through to what lies beneath, except inside its glass. Where
-/// nothing shows windows with their transparency, it cuts the window to the glass as well.
+/// Lets the clicks in a window fall through to what lies beneath, except inside its glass, and asks
+/// the compositor to blur what is behind that. Both follow the glass while it moves. Where nothing
+/// shows windows with their transparency, it cuts the window to the glass as well.
 class PassthroughContainerView final : public QObject {
 public:
     /// `window` outlives this.
@@ -21,15 +22,21 @@ public:
     /// The glass that can be seen in the window; null when there is none.
     GlassBackdropView* visibleGlass() const;
 
+    /// What takes a click at a point of the window; null where it falls through.
+    QQuickItem* hitTest(const QPointF& point) const;
+
 protected:
+    /// Drops the presses that fall through, where the window system delivers them nevertheless.
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     enum class Repeat { whenChanged, always };
     void follow(Repeat repeat);
+    void cutOut(const GlassBackdropView* glass, const QRegion& shape);
 
     QQuickWindow& window_;
     QRect glassFrame_;
+    bool blurIsOffered_ = false;
 };
 
 }  // namespace vantle

@@ -1,0 +1,77 @@
+import QtQuick
+import Vantle.Panel
+
+// What keys do while the panel has the keyboard.
+QtObject {
+    id: keys
+
+    required property PanelModel panel
+    required property TileRow row
+
+    // The tile that has the keyboard itself, not one of its buttons.
+    function currentTile() {
+        for (let position = 0; position < panel.count; ++position) {
+            const tile = row.tileAt(position);
+            if (tile && tile.activeFocus) return tile;
+        }
+        return null;
+    }
+
+    function trash(tile) {
+        if (tile.isSelected)
+            panel.trashSelected();
+        else
+            panel.trash(tile.captureId);
+    }
+
+    function goBack() {
+        if (panel.selectedCount > 0)
+            panel.clearSelection();
+        else
+            panel.closeAll();
+    }
+
+    function handleOnTile(event, tile) {
+        switch (event.key) {
+        case Qt.Key_Left:
+            row.focusTile(tile.position - 1);
+            break;
+        case Qt.Key_Right:
+            row.focusTile(tile.position + 1);
+            break;
+        case Qt.Key_Home:
+            row.focusTile(0);
+            break;
+        case Qt.Key_End:
+            row.focusTile(panel.count - 1);
+            break;
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+            panel.open(tile.captureId);
+            break;
+        case Qt.Key_Space:
+            panel.toggleSelect(tile.captureId);
+            break;
+        case Qt.Key_Delete:
+        case Qt.Key_Backspace:
+            trash(tile);
+            break;
+        default:
+            return;
+        }
+        event.accepted = true;
+    }
+
+    function handle(event) {
+        const tile = currentTile();
+        if (event.key === Qt.Key_Escape) {
+            goBack();
+            event.accepted = true;
+        } else if (tile) {
+            handleOnTile(event, tile);
+        } else if (event.key === Qt.Key_Left || event.key === Qt.Key_Right) {
+            row.focusTile(panel.count - 1);
+            event.accepted = true;
+        }
+    }
+}

@@ -1,0 +1,39 @@
+import QtQuick
+import Vantle.Panel
+
+// Tells that a capture is selected, or else that it is pinned.
+Appearing {
+    id: mark
+
+    property bool isSelected: false
+    property bool isPinned: false
+    readonly property string symbol: glyph.name
+
+    isOffered: isSelected || isPinned
+    width: glyph.width + 2 * 6
+    height: glyph.height + 2 * 6
+
+    Rectangle {
+        anchors.fill: glyph
+        anchors.margins: 2
+        radius: width / 2
+        color: glyph.isPin ? "#ff9500" : Appearance.accent
+    }
+
+    Symbol {
+        id: glyph
+
+        // While it goes it stays what it was.
+        property bool isPin
+
+        anchors.centerIn: parent
+        name: isPin ? "pin.circle.fill" : "checkmark.circle.fill"
+        fontSize: 16
+
+        Binding on isPin {
+            when: mark.isOffered
+            value: !mark.isSelected
+            restoreMode: Binding.RestoreNone
+        }
+    }
+}

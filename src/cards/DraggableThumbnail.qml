@@ -1,0 +1,51 @@
+import QtQuick
+import Vantle.Panel
+
+// A capture's picture, which can be clicked, selected and dragged away.
+Item {
+    id: thumbnail
+
+    required property PanelModel panel
+    required property string captureId
+    required property string fileName
+    required property bool hasThumbnail
+    required property bool isRecording
+    // What the picture is made for; while the tile changes its size, it is stretched.
+    required property real pictureWidth
+    required property real pictureHeight
+
+    readonly property real cornerRadius: 12
+
+    Image {
+        anchors.fill: parent
+        // One value, so that a change of both loads once. The linter takes it for a size in fractions.
+        sourceSize: Qt.size(thumbnail.pictureWidth, thumbnail.pictureHeight) // qmllint disable
+        source: "image://thumbnail/%1/%2x%3".arg(thumbnail.captureId).arg(thumbnail.pictureWidth).arg(thumbnail.pictureHeight)
+        cache: false
+    }
+
+    Loader {
+        anchors.centerIn: parent
+        active: !thumbnail.hasThumbnail
+        sourceComponent: Symbol {
+            // A delegate cannot make bound components (Qt 6.4), so the id around this one is meant.
+            name: thumbnail.isRecording ? "video.fill" : "photo" // qmllint disable unqualified
+            fontSize: 22
+            opacity: 0.7
+        }
+    }
+
+    DragThumbnailView {
+        id: source
+
+        anchors.fill: parent
+        captureId: thumbnail.captureId
+        fileName: thumbnail.fileName
+        onClicked: thumbnail.panel.open(thumbnail.captureId)
+        onSelectionToggled: thumbnail.panel.toggleSelect(thumbnail.captureId)
+
+        HoverHandler {
+            onHoveredChanged: Help.follow(thumbnail, hovered, qsTr("Drag into any app, or click to open. ⌘-click to select."))
+        }
+    }
+}

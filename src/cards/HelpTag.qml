@@ -1,0 +1,56 @@
+import QtQuick
+import Vantle.Panel
+
+// Says what the thing under the pointer is for, once the pointer has rested there.
+Rectangle {
+    id: tag
+
+    readonly property Item subject: Help.item && Help.item.visible ? Help.item : null
+    property bool isDue: false
+    property point place
+
+    width: Math.min(label.implicitWidth + 2 * 8, 320)
+    height: label.height + 2 * 4
+    radius: 6
+    color: Appearance.isDark ? Qt.rgba(0.27, 0.27, 0.29, 0.97) : Qt.rgba(0.13, 0.13, 0.15, 0.92)
+    x: Math.max(4, Math.min(place.x - width / 2, parent.width - width - 4))
+    y: place.y
+    opacity: subject && isDue ? 1 : 0
+    visible: opacity > 0
+
+    Behavior on opacity { NumberAnimation { duration: 120 } }
+
+    onSubjectChanged: {
+        isDue = false;
+        delay.restart();
+    }
+
+    function settle() {
+        if (!subject) return;
+        const frame = subject.mapToItem(parent, 0, 0, subject.width, subject.height);
+        const above = frame.y - height - 6;
+        label.text = Help.text;
+        place = Qt.point(frame.x + frame.width / 2, above >= 4 ? above : frame.y + frame.height + 6);
+        isDue = true;
+    }
+
+    Timer {
+        id: delay
+
+        interval: 800
+        running: tag.subject !== null
+        onTriggered: tag.settle()
+    }
+
+    Text {
+        id: label
+
+        anchors.centerIn: parent
+        width: tag.width - 2 * 8
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+        textFormat: Text.PlainText
+        color: "white"
+        font.pixelSize: 11
+    }
+}

@@ -1,0 +1,53 @@
+import QtQuick
+import Vantle.Panel
+
+// The actions of a capture, over the lower edge of its thumbnail.
+Item {
+    id: bar
+
+    required property PanelModel panel
+    required property string captureId
+    required property bool isPinned
+    required property bool isCopied
+    property bool isOffered: false
+    readonly property bool hovering: hover.hovered
+
+    width: actions.width + 2 * 6
+    height: actions.height + 2 * 3
+    opacity: Math.min(Math.max(presence.value, 0), 1)
+    visible: opacity > 0
+
+    transform: Translate {
+        y: Appearance.reducesMotion ? 0 : (1 - presence.value) * 16
+    }
+
+    Spring {
+        id: presence
+
+        target: bar.isOffered ? 1 : 0
+        from: 0
+        response: 0.25
+        dampingFraction: 1
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: height / 2
+        color: Qt.rgba(0, 0, 0, 0.55)
+    }
+
+    TileActions {
+        id: actions
+
+        anchors.centerIn: parent
+        panel: bar.panel
+        captureId: bar.captureId
+        isPinned: bar.isPinned
+        isCopied: bar.isCopied
+        isOnDark: true
+    }
+
+    HoverHandler {
+        id: hover
+    }
+}

@@ -1,0 +1,10 @@
+import Vantle.Panel
+
+// Follows a change of the captures on the card.
+Spring {
+    required property PanelModel panel
+
+    response: panel.listResponse
+    dampingFraction: panel.listDampingFraction
+    enabled: !Appearance.reducesMotion
+}

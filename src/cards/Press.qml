@@ -1,0 +1,44 @@
+import QtQuick
+
+// What makes its parent a button: a tap on it, the key for it, or an assistive program. It is
+// cancelled by moving away 14 points or more before the release.
+MouseArea {
+    id: press
+
+    property string name
+    property bool isPressed: pressed && !wandered
+    property real radius: 7
+
+    property point start
+    property bool wandered: false
+
+    signal tapped()
+
+    anchors.fill: parent
+    activeFocusOnTab: true
+    preventStealing: true
+
+    Accessible.role: Accessible.Button
+    Accessible.name: name
+    Accessible.onPressAction: tapped()
+
+    function isFar(mouse) {
+        return Math.abs(mouse.x - start.x) >= 14 || Math.abs(mouse.y - start.y) >= 14;
+    }
+
+    onPressed: mouse => {
+        start = Qt.point(mouse.x, mouse.y);
+        wandered = false;
+    }
+    onPositionChanged: mouse => wandered = isFar(mouse)
+    onReleased: mouse => { if (!isFar(mouse)) tapped(); }
+
+    Keys.onSpacePressed: tapped()
+    Keys.onReturnPressed: tapped()
+    Keys.onEnterPressed: tapped()
+
+    FocusRing {
+        isShown: press.activeFocus
+        radius: press.radius
+    }
+}

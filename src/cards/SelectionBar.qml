@@ -1,0 +1,86 @@
+import QtQuick
+import Vantle.Panel
+
+// What can be done with all selected captures, on the card's upper edge.
+Item {
+    id: bar
+
+    required property PanelModel panel
+    // While it fades out it keeps its last number.
+    property int shownCount
+
+    width: row.width
+    height: row.height
+    opacity: panel.selectedCount > 0 ? 1 : 0
+    visible: opacity > 0
+
+    Behavior on opacity { NumberAnimation { duration: 180; easing.type: Easing.OutQuad } }
+
+    Binding on shownCount {
+        when: bar.panel.selectedCount > 0
+        value: bar.panel.selectedCount
+        restoreMode: Binding.RestoreNone
+    }
+
+    ShadowView {
+        x: -blur
+        y: -blur + 2
+        width: bar.width + 2 * blur
+        height: bar.height + 2 * blur
+        blur: 6
+        strength: 0.25
+        cornerRadius: bar.height / 2
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: height / 2
+        color: Qt.rgba(0, 0, 0, 0.7)
+        border.width: 1
+        border.color: Qt.rgba(1, 1, 1, 0.35)
+    }
+
+    Row {
+        id: row
+
+        topPadding: 2
+        bottomPadding: 2
+        rightPadding: 2
+
+        Text {
+            id: label
+
+            anchors.verticalCenter: parent.verticalCenter
+            leftPadding: 8
+            rightPadding: 6
+            text: qsTr("%1 selected").arg(bar.shownCount)
+            color: "white"
+            font.pixelSize: 11
+            font.weight: Font.DemiBold
+        }
+
+        TapIcon {
+            panel: bar.panel
+            symbol: "doc.on.doc"
+            help: qsTr("Copy selected")
+            isOnDark: true
+            onAction: bar.panel.copySelected()
+        }
+
+        TapIcon {
+            panel: bar.panel
+            symbol: "trash"
+            help: qsTr("Move selected to Trash")
+            isOnDark: true
+            onAction: bar.panel.trashSelected()
+        }
+
+        TapIcon {
+            panel: bar.panel
+            symbol: "xmark"
+            help: qsTr("Dismiss selected")
+            isOnDark: true
+            onAction: bar.panel.removeSelected()
+        }
+    }
+}

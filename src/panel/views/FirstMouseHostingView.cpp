@@ -1,0 +1,72 @@
+#include "panel/views/FirstMouseHostingView.h"
+
+#include <QMouseEvent>
+#include <algorithm>
+#include <cmath>
+
+#include "panel/views/DisplayText.h"
+#include "support/Debug.h"
+
+namespace vantle {
+namespace {
+
+Rect rectBetween(const QPointF& a, const QPointF& b) {
+    return {{std::min(a.x(), b.x()), std::min(a.y(), b.y())},
+            {std::abs(a.x() - b.x()), std::abs(a.y() - b.y())}};
+}
+
+/// Whether something on the card holds the mouse since this press.
+bool isTaken(const QMouseEvent& event) {
+    return event.exclusiveGrabber(event.points().front()) != nullptr;
+}
+
+}  // namespace
+
+bool FirstMouseHostingView::event(QEvent* event) {
+    const bool isHandled = QQuickView::event(event);
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+            mouseDown(static_cast<const QMouseEvent&>(*event));
+            break;
+        case QEvent::MouseMove:
+            mouseDragged(static_cast<const QMouseEvent&>(*event));
+            break;
+        case QEvent::MouseButtonRelease:
+            mouseUp(static_cast<const QMouseEvent&>(*event));
+            break;
+        default:
+            break;
+    }
+    return isHandled;
+}
+
+void FirstMouseHostingView::mouseDown(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton || isTaken(event)) return;
+    downPoint_ = event.scenePosition();
+    marqueeActive_ = false;
+    Debug::log([&] { return "host mouseDown at " + pointText(event.scenePosition()).toStdString(); });
+}
+
+void FirstMouseHostingView::mouseDragged(const QMouseEvent& event) {
+    if (!downPoint_) return;
+    const QPointF way = event.scenePosition() - *downPoint_;
+    if (!marqueeActive_ && !(std::hypot(way.x(), way.y()) > marqueeThreshold)) return;
+    marqueeActive_ = true;
+    tellMarquee(rectBetween(*downPoint_, event.scenePosition()));
+}
+
+void FirstMouseHostingView::mouseUp(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton) return;
+    if (marqueeActive_)
+        tellMarquee(std::nullopt);
+    else if (downPoint_ && onBackgroundClick)
+        onBackgroundClick();
+    downPoint_.reset();
+    marqueeActive_ = false;
+}
+
+void FirstMouseHostingView::tellMarquee(const std::optional<Rect>& rect) const {
+    if (onMarquee) onMarquee(rect);
+}
+
+}  // namespace vantle

@@ -1,0 +1,81 @@
+#include "panel/views/NinePartView.h"
+
+#include <QQuickWindow>
+#include <QSGImageNode>
+#include <QSGTexture>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <memory>
+
+namespace vantle {
+namespace {
+
+/// Where the corners end and what is stretched between them begins, in one direction.
+using Cuts = std::array<double, 4>;
+
+Cuts cuts(double length, double corner) {
+    const double kept = std::min(corner, length / 2);
+    return {0, kept, length - kept, length};
+}
+
+QRectF cell(const Cuts& across, const Cuts& down, std::size_t column, std::size_t row) {
+    return {QPointF(across[column], down[row]), QPointF(across[column + 1], down[row + 1])};
+}
+
+/// Nine parts of one picture.
+class NinePartNode final : public QSGNode {
+public:
+    NinePartNode(QQuickWindow& window, const QImage& picture)
+        : texture_(window.createTextureFromImage(picture)), side_(picture.width()) {
+        for (auto& part : parts_) {
+            part = window.createImageNode();
+            part->setTexture(texture_.get());
+            // What is stretched is one pixel wide: nothing of its neighbours may come in.
+            part->setFiltering(QSGTexture::Nearest);
+            appendChildNode(part);
+        }
+    }
+
+    /// All in points.
+    void place(QSizeF size, double corner, double pixelsPerPoint) {
+        const Cuts across = cuts(size.width(), corner);
+        const Cuts down = cuts(size.height(), corner);
+        const Cuts source = cuts(side_, corner * pixelsPerPoint);
+        for (std::size_t i = 0; i < parts_.size(); ++i) {
+            parts_[i]->setRect(cell(across, down, i % 3, i / 3));
+            parts_[i]->setSourceRect(cell(source, source, i % 3, i / 3));
+        }
+    }
+
+private:
+    std::unique_ptr<QSGTexture> texture_;
+    double side_;
+    std::array<QSGImageNode*, 9> parts_{};  // owned as children
+};
+
+}  // namespace
+
+NinePartView::NinePartView(QQuickItem* parent) : QQuickItem(parent) {
+    setFlag(ItemHasContents);
+    connect(this, &NinePartView::changed, this, [this] {
+        drawnPixelsPerPoint_ = 0;
+        update();
+    });
+}
+
+QSGNode* NinePartView::updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) {
+    Q_UNUSED(data)
+    const double pixelsPerPoint = window()->effectiveDevicePixelRatio();
+    const int corner = static_cast<int>(std::ceil(cornerLength() * pixelsPerPoint));
+    auto* node = static_cast<NinePartNode*>(old);
+    if (!node || drawnPixelsPerPoint_ != pixelsPerPoint) {
+        delete node;
+        node = new NinePartNode(*window(), cornersOnly(corner, pixelsPerPoint));
+        drawnPixelsPerPoint_ = pixelsPerPoint;
+    }
+    node->place(size(), corner / pixelsPerPoint, pixelsPerPoint);
+    return node;
+}
+
+}  // namespace vantle

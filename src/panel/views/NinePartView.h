@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <QImage>
+#include <QQuickItem>
+
+namespace vantle {
+
+/// A rounded shape of any size, put together of four corners and what is stretched between them:
+/// it costs one small picture, and growing costs nothing.
+class NinePartView : public QQuickItem {
+    Q_OBJECT
+    QML_ANONYMOUS
+
+public:
+    explicit NinePartView(QQuickItem* parent = nullptr);
+
+signals:
+    /// A property that the picture depends on has changed.
+    void changed();
+
+protected:
+    /// The length of a corner's sides in points: beyond it the shape has straight edges.
+    virtual double cornerLength() const = 0;
+
+    /// The smallest picture that has whole corners, whose sides are `corner` pixels long, and one
+    /// row and one column between them.
+    virtual QImage cornersOnly(int corner, double pixelsPerPoint) const = 0;
+
+    QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
+
+private:
+    double drawnPixelsPerPoint_ = 0;  ///< 0 when what is drawn does not show the properties.
+};
+
+}  // namespace vantle

@@ -1,0 +1,83 @@
+#include "panel/views/SpringValue.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vantle {
+namespace {
+
+/// What nobody sees: a twentieth of a point, or a small part of a short way.
+double tolerance(double distance) {
+    return std::min(0.05, std::max(std::abs(distance), 0.01) / 2000);
+}
+
+constexpr double seconds(int milliseconds) {
+    return milliseconds / 1000.0;
+}
+
+}  // namespace
+
+SpringValue::SpringValue(QObject* parent) : QObject(parent) {
+    connect(&clock_, &QAbstractAnimation::stateChanged, this, &SpringValue::runningChanged);
+}
+
+void SpringValue::setTarget(double target) {
+    if (target == target_) return;
+    target_ = target;
+    if (isComplete_) follow();
+    emit targetChanged();
+}
+
+void SpringValue::setFrom(double from) {
+    from_ = from;
+    emit fromChanged();
+}
+
+void SpringValue::componentComplete() {
+    isComplete_ = true;
+    state_ = {from(), 0};
+    emit valueChanged();
+    if (state_.value != target_) follow();
+}
+
+void SpringValue::jumpTo(double value) {
+    target_ = value;
+    rest();
+    emit targetChanged();
+}
+
+void SpringValue::follow() {
+    if (!enabled_) {
+        rest();
+        return;
+    }
+    spring_.emplace(Animation{.response = response_, .dampingFraction = dampingFraction_}, state_,
+                    target_);
+    if (isRunning()) {
+        begun_ = clock_.currentTime();
+    } else {
+        begun_ = 0;
+        clock_.start();
+    }
+}
+
+void SpringValue::stepTo(int milliseconds) {
+    if (!spring_) return;
+    const double now = seconds(milliseconds - begun_);
+    if (now >= spring_->settlingTime(tolerance(spring_->at(0).value - target_))) {
+        rest();
+        return;
+    }
+    state_ = spring_->at(now);
+    emit valueChanged();
+}
+
+void SpringValue::rest() {
+    spring_.reset();
+    state_ = {target_, 0};
+    emit valueChanged();
+    // A listener may have set it going again.
+    if (!spring_) clock_.stop();
+}
+
+}  // namespace vantle

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <QAbstractAnimation>
+#include <QObject>
+#include <QQmlParserStatus>
+#include <optional>
+
+#include "panel/Spring.h"
+
+namespace vantle {
+
+/// A number that follows its target as a damped spring does, one step a frame. A target that
+/// changes on the way turns the motion without a jump. While nothing moves it costs nothing.
+class SpringValue : public QObject, public QQmlParserStatus {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(Spring)
+    Q_INTERFACES(QQmlParserStatus)
+
+    Q_PROPERTY(double target READ target WRITE setTarget NOTIFY targetChanged)
+    Q_PROPERTY(double value READ value NOTIFY valueChanged)
+    /// Where it begins; at the target when this is not given.
+    Q_PROPERTY(double from READ from WRITE setFrom NOTIFY fromChanged)
+    /// The period of the undamped motion in seconds.
+    Q_PROPERTY(double response MEMBER response_ NOTIFY animationChanged)
+    /// 1 is critical. Both count from the next change of the target on.
+    Q_PROPERTY(double dampingFraction MEMBER dampingFraction_ NOTIFY animationChanged)
+    /// When it is not, the value is the target.
+    Q_PROPERTY(bool enabled MEMBER enabled_ NOTIFY enabledChanged)
+    Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
+
+public:
+    explicit SpringValue(QObject* parent = nullptr);
+
+    double target() const { return target_; }
+    void setTarget(double target);
+    double value() const { return state_.value; }
+    double from() const { return from_.value_or(target_); }
+    void setFrom(double from);
+    bool isRunning() const { return clock_.state() == QAbstractAnimation::Running; }
+
+    /// Stands still at that value, which is the target from now on.
+    Q_INVOKABLE void jumpTo(double value);
+
+    void classBegin() override {}
+    void componentComplete() override;
+
+signals:
+    void targetChanged();
+    void valueChanged();
+    void fromChanged();
+    void animationChanged();
+    void enabledChanged();
+    void runningChanged();
+
+private:
+    /// Tells the time of each frame.
+    class FrameClock final : public QAbstractAnimation {
+    public:
+        explicit FrameClock(SpringValue& spring) : spring_(spring) {}
+        int duration() const override { return -1; }
+
+    protected:
+        void updateCurrentTime(int milliseconds) override { spring_.stepTo(milliseconds); }
+
+    private:
+        SpringValue& spring_;
+    };
+
+    void follow();
+    void stepTo(int milliseconds);
+    void rest();
+
+    double target_ = 0;
+    std::optional<double> from_;
+    double response_ = 0.5;
+    double dampingFraction_ = 0.82;
+    bool enabled_ = true;
+    bool isComplete_ = false;
+    Spring::State state_{0, 0};
+    std::optional<Spring> spring_;
+    int begun_ = 0;  ///< When the motion began, in milliseconds on the clock.
+    FrameClock clock_{*this};
+};
+
+}  // namespace vantle

@@ -1,0 +1,79 @@
+#include "panel/views/Appearance.h"
+
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace vantle {
+namespace {
+
+class AppearanceTest : public testing::Test {
+protected:
+    AppearanceTest() : before(QGuiApplication::palette()) { Appearance::follow(&desktop); }
+    ~AppearanceTest() override {
+        Appearance::follow(nullptr);
+        QGuiApplication::setPalette(before);
+    }
+
+    static void setPalette(const QColor& window, const QColor& text) {
+        QPalette palette;
+        palette.setColor(QPalette::Window, window);
+        palette.setColor(QPalette::WindowText, text);
+        palette.setColor(QPalette::Highlight, Qt::magenta);
+        QGuiApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+    }
+
+    QPalette before;
+    DesktopAppearance desktop;
+};
+
+TEST_F(AppearanceTest, TheDesktopsWishDecides) {
+    setPalette(Qt::white, Qt::black);
+    desktop.look.set({.scheme = ColorScheme::dark});
+    const Appearance appearance;
+    EXPECT_TRUE(appearance.isDark());
+    EXPECT_GT(appearance.primary().lightness(), 200);
+    EXPECT_LT(appearance.windowBackground().lightness(), 80);
+    desktop.look.set({.scheme = ColorScheme::light});
+    EXPECT_FALSE(appearance.isDark());
+    EXPECT_LT(appearance.primary().lightness(), 50);
+}
+
+TEST_F(AppearanceTest, WithoutAWishThePaletteDecides) {
+    const Appearance appearance;
+    setPalette(Qt::black, Qt::white);
+    EXPECT_TRUE(appearance.isDark());
+    setPalette(Qt::white, Qt::black);
+    EXPECT_FALSE(appearance.isDark());
+    EXPECT_EQ(appearance.windowBackground(), QColor(Qt::white));
+}
+
+TEST_F(AppearanceTest, TellsOfEachChange) {
+    const Appearance appearance;
+    int changes = 0;
+    QObject::connect(&appearance, &Appearance::changed, &appearance, [&] { ++changes; });
+    desktop.look.set({.scheme = ColorScheme::dark});
+    EXPECT_EQ(changes, 1);
+    setPalette(Qt::black, Qt::white);
+    EXPECT_GE(changes, 2);
+}
+
+TEST_F(AppearanceTest, TheAccentIsTheDesktopsOrThePalettesHighlight) {
+    setPalette(Qt::white, Qt::black);
+    const Appearance appearance;
+    EXPECT_EQ(appearance.accent(), QColor(Qt::magenta));
+    desktop.look.set({.accent = Color{1, 0.5, 0}});
+    EXPECT_EQ(appearance.accent().rgb(), qRgb(255, 128, 0));
+}
+
+TEST_F(AppearanceTest, LessMotionIsPassedOn) {
+    const Appearance appearance;
+    EXPECT_FALSE(appearance.reducesMotion());
+    desktop.look.set({.reducesMotion = true});
+    EXPECT_TRUE(appearance.reducesMotion());
+}
+
+}  // namespace
+}  // namespace vantle

@@ -1,0 +1,108 @@
+#include "CardFixture.h"
+
+namespace vantle {
+
+CardFixture::CardFixture() {
+    state.visible.set(true);
+    recordRequests();
+}
+
+void CardFixture::recordRequests() {
+    const auto onCapture = [this](const char* what) {
+        return [this, what](const CapturePointer& one) {
+            asked.push_back(std::string(what) + " " + one->fileName());
+        };
+    };
+    const auto onPanel = [this](const char* what) { return [this, what] { asked.push_back(what); }; };
+    actions.close = onCapture("close");
+    actions.closeAll = onPanel("close all");
+    actions.open = onCapture("open");
+    actions.copy = onCapture("copy");
+    actions.reveal = onCapture("reveal");
+    actions.share = [this](const CapturePointer& one, const Rect& anchor) {
+        asked.push_back("share " + one->fileName());
+        shareAnchor = anchor;
+    };
+    actions.trash = onCapture("trash");
+    actions.toggleSelect = onCapture("toggle select");
+    actions.togglePin = onCapture("toggle pin");
+    actions.clearSelection = onPanel("clear selection");
+    actions.copySelected = onPanel("copy selected");
+    actions.trashSelected = onPanel("trash selected");
+    actions.removeSelected = onPanel("remove selected");
+}
+
+void CardFixture::makeCard() {
+    panel.reset();
+    panel = std::make_unique<CapturePanel>(
+        PanelModel::Context{state, settings, clock, actions, rendering});
+    panel->orderFrontRegardless();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+    rest();
+}
+
+void CardFixture::show(const std::vector<CapturePointer>& captures) {
+    state.captures.set(captures);
+    if (panel) rest();
+}
+
+QRectF CardFixture::glassFrame() const {
+    const auto* glass = PassthroughContainerView::findGlass(*window().contentItem());
+    return glass ? frame(*glass) : QRectF();
+}
+
+std::vector<QQuickItem*> CardFixture::items(const char* type, QQuickItem* below) const {
+    std::vector<QQuickItem*> found;
+    QQuickItem* root = below ? below : window().contentItem();
+    for (QQuickItem* child : root->childItems()) {
+        const QString name = QString::fromLatin1(child->metaObject()->className());
+        if (name.section(QStringLiteral("_QML"), 0, 0).section(QStringLiteral("::"), -1) ==
+            QLatin1String(type))
+            found.push_back(child);
+        const auto deeper = items(type, child);
+        found.insert(found.end(), deeper.begin(), deeper.end());
+    }
+    return found;
+}
+
+QQuickItem* CardFixture::item(const char* type, QQuickItem* below) const {
+    const auto found = items(type, below);
+    if (found.empty()) throw std::runtime_error(std::string("there is no ") + type);
+    return found.front();
+}
+
+QQuickItem* CardFixture::button(const char* name, QQuickItem* below) const {
+    for (QQuickItem* press : items("Press", below))
+        if (press->property("name").toString() == QString::fromUtf8(name)) return press;
+    throw std::runtime_error(std::string("there is no button ") + name);
+}
+
+std::vector<std::string> CardFixture::symbols(QQuickItem* below) const {
+    std::vector<std::string> names;
+    for (const char* type : {"TapIcon", "ShareButton"})
+        for (const QQuickItem* icon : items(type, below))
+            if (icon->isVisible()) names.push_back(text(icon, "symbol"));
+    return names;
+}
+
+QRectF CardFixture::frameIn(const QQuickItem& item, const QQuickItem& other) {
+    return other.mapRectFromItem(&item, QRectF(QPointF(), item.size()));
+}
+
+QRectF CardFixture::frame(const QQuickItem& item) const {
+    return frameIn(item, *window().contentItem());
+}
+
+void CardFixture::hover(const QPointF& point) {
+    // Qt tells of a pointer only when it moves.
+    QTest::mouseMove(&window(), {1, 1});
+    QTest::mouseMove(&window(), point.toPoint());
+    rest();
+}
+
+void CardFixture::click(const QPointF& point, Qt::KeyboardModifiers modifiers) {
+    QTest::mouseClick(&window(), Qt::LeftButton, modifiers, point.toPoint());
+    rest();
+}
+
+}  // namespace vantle

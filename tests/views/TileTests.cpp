@@ -1,0 +1,280 @@
+// A tile: its marks, its badge and its controls.
+
+#include <gmock/gmock.h>
+
+#include "CardFixture.h"
+#include "fakes/CapturedLog.h"
+#include "support/Debug.h"
+
+namespace vantle {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class TileTest : public CardFixture {
+protected:
+    CapturePointer a = capture("a");
+    CapturePointer b = capture("b");
+
+    void showTwo() {
+        show({a, b});
+        makeCard();
+    }
+    void pin(const CapturePointer& capture) { state.pinned.set({capture->id()}); }
+    void select(const CapturePointer& capture) { state.selected.set({capture->id()}); }
+    QQuickItem* mark(std::size_t position) const { return item("CornerMark", tile(position)); }
+
+    /// Whether a control of that kind can be seen on the tile.
+    bool isSeen(const char* type, std::size_t position) const {
+        const auto found = items(type, tile(position));
+        return !found.empty() && found.front()->isVisible();
+    }
+    void press(const QPointF& from, const QPointF& to) {
+        QTest::mousePress(&window(), Qt::LeftButton, {}, from.toPoint());
+        QTest::mouseMove(&window(), to.toPoint());
+        QTest::mouseRelease(&window(), Qt::LeftButton, {}, to.toPoint());
+        rest();
+    }
+};
+
+TEST_F(TileTest, APinnedCaptureHasAPin) {
+    showTwo();
+    EXPECT_FALSE(mark(0)->isVisible());
+    pin(a);
+    rest();
+    EXPECT_TRUE(mark(0)->isVisible());
+    EXPECT_FALSE(mark(1)->isVisible());
+    EXPECT_EQ(text(mark(0), "symbol"), "pin.circle.fill");
+    EXPECT_EQ(frameIn(*mark(0), *tile(0)).topRight(), QPointF(tile(0)->width(), 0));
+    EXPECT_EQ(mark(0)->size(), QSizeF(20 + 12, 20 + 12));
+}
+
+TEST_F(TileTest, APinnedCaptureThatIsSelectedShowsTheCheckMark) {
+    showTwo();
+    pin(a);
+    select(a);
+    rest();
+    EXPECT_EQ(text(mark(0), "symbol"), "checkmark.circle.fill");
+    state.selected.set({});
+    rest();
+    EXPECT_EQ(text(mark(0), "symbol"), "pin.circle.fill");
+    state.pinned.set({});
+    EXPECT_EQ(text(mark(0), "symbol"), "pin.circle.fill") << "while it fades out";
+}
+
+TEST_F(TileTest, ASelectedCaptureHasABroadBorderAndATint) {
+    showTwo();
+    const auto plates = [this](std::size_t position) {
+        std::vector<double> widths;
+        for (const auto* plate : items("PlateView", tile(position)))
+            if (plate->isVisible()) widths.push_back(plate->property("borderWidth").toDouble());
+        return widths;
+    };
+    EXPECT_THAT(plates(0), ElementsAre(1));
+    select(a);
+    rest();
+    EXPECT_THAT(plates(0), ElementsAre(1, 3));
+    EXPECT_NEAR(items("PlateView", tile(0))[1]->property("fill").value<QColor>().alphaF(), 0.18,
+                0.005);
+    EXPECT_THAT(plates(1), ElementsAre(1));
+}
+
+TEST_F(TileTest, ARecordingHasABadge) {
+    show({a, recording("b", 59.5)});
+    makeCard();
+    EXPECT_THAT(items("DurationBadge", tile(0)), IsEmpty());
+    const auto* badge = item("DurationBadge", tile(1));
+    EXPECT_EQ(text(badge, "text"), "1:00");
+    EXPECT_EQ(frameIn(*badge, *tile(1)).topLeft(), QPointF(8, 8));
+}
+
+TEST_F(TileTest, ThumbnailsKeepTheirShadowAndTheirName) {
+    showTwo();
+    const auto* shadow = item("ShadowView", tile(0));
+    EXPECT_EQ(frameIn(*shadow, *tile(0)), QRectF(-6, -6 + 2, 202 + 12, 126 + 12));
+    EXPECT_EQ(shadow->property("strength").toDouble(), 0.25);
+    const auto* name = items("QQuickText", tile(0)).back();
+    EXPECT_EQ(text(name, "text"), "a.png");
+    EXPECT_EQ(name->width(), 202);
+    EXPECT_EQ(frameIn(*name, *tile(0)).top(), 126 + 6);
+}
+
+TEST_F(TileTest, TheCloseButtonOverhangsTheTileUnderThePointer) {
+    showTwo();
+    EXPECT_FALSE(isSeen("CloseButton", 0));
+    hover(*tile(0));
+    EXPECT_TRUE(isSeen("CloseButton", 0));
+    EXPECT_FALSE(isSeen("CloseButton", 1));
+    EXPECT_EQ(frameIn(*item("CloseButton", tile(0)), *tile(0)), QRectF(-8, -8, 22, 22));
+    click(*item("CloseButton", tile(0)));
+    EXPECT_THAT(asked, ElementsAre("close a.png"));
+}
+
+TEST_F(TileTest, TheCloseButtonsCornersBelongToTheThumbnail) {
+    showTwo();
+    hover(*tile(0));
+    click(frame(*item("CloseButton", tile(0))).bottomRight() - QPointF(1, 1));
+    EXPECT_THAT(asked, ElementsAre("open a.png"));
+}
+
+TEST_F(TileTest, WhileAnythingIsSelectedOnlyAnUnselectedTileHasACloseButtonAndNoneHasAHoverBar) {
+    showTwo();
+    select(a);
+    hover(*tile(0));
+    EXPECT_FALSE(isSeen("CloseButton", 0));
+    EXPECT_FALSE(isSeen("HoverBar", 0));
+    hover(*tile(1));
+    EXPECT_TRUE(isSeen("CloseButton", 1));
+    EXPECT_FALSE(isSeen("HoverBar", 1));
+}
+
+TEST_F(TileTest, TheHoverBarStandsOnTheThumbnailsLowerEdge) {
+    showTwo();
+    hover(*tile(0));
+    ASSERT_TRUE(isSeen("HoverBar", 0));
+    const QRectF bar = frameIn(*item("HoverBar", tile(0)), *tile(0));
+    EXPECT_EQ(bar.size(), QSizeF(4 * 28 + 12, 28 + 6));
+    EXPECT_EQ(bar.center().x(), 101);
+    EXPECT_LE(bar.bottom(), 126);
+    EXPECT_FALSE(isSeen("HoverBar", 1));
+}
+
+TEST_F(TileTest, ALoneCaptureHasNoHoverBar) {
+    show({a});
+    makeCard();
+    hover(*tile(0));
+    EXPECT_FALSE(isSeen("HoverBar", 0));
+    EXPECT_TRUE(isSeen("CloseButton", 0));
+}
+
+TEST_F(TileTest, ActionsThatReachOverTheNextTileAreStillThoseOfTheirOwn) {
+    show({capture("a", {300, 1000}), capture("b", {300, 1000}), capture("c", {300, 1000})});
+    makeCard();
+    hover(*tile(1));
+    const QRectF bar = frame(*item("HoverBar", tile(1)));
+    ASSERT_LT(bar.left() + 12, frame(*tile(0)).right());
+    hover({bar.left() + 12, bar.center().y()});
+    EXPECT_TRUE(isSeen("HoverBar", 1));
+    EXPECT_FALSE(isSeen("HoverBar", 0));
+}
+
+TEST_F(TileTest, WithoutATimerThereIsNoPin) {
+    showTwo();
+    hover(*tile(0));
+    EXPECT_THAT(symbols(tile(0)),
+                testing::UnorderedElementsAre("doc.on.doc", "square.and.arrow.up", "folder",
+                                              "trash"));
+    settings.dismissAfter.set(10);
+    EXPECT_EQ(symbols(tile(0)).size(), 5u);
+    EXPECT_THAT(symbols(tile(0)), testing::Contains("pin"));
+    pin(a);
+    EXPECT_THAT(symbols(tile(0)), testing::Contains("pin.fill"));
+    settings.dismissAfter.set(0);
+    EXPECT_EQ(symbols(tile(0)).size(), 4u);
+}
+
+TEST_F(TileTest, TheCaptureJustCopiedShowsACheckMark) {
+    showTwo();
+    hover(*tile(0));
+    state.copiedID.set(a->id());
+    EXPECT_THAT(symbols(tile(0)), testing::Contains("checkmark"));
+    state.copiedID.set(b->id());
+    EXPECT_THAT(symbols(tile(0)), testing::Contains("doc.on.doc"));
+}
+
+TEST_F(TileTest, EachActionAsksForItself) {
+    settings.dismissAfter.set(10);
+    showTwo();
+    hover(*tile(1));
+    for (const char* name : {"Pin (ignore the timer)", "Copy to clipboard", "Share…",
+                             "Reveal in Finder", "Move to Trash"})
+        click(*button(name, tile(1)));
+    EXPECT_THAT(asked, ElementsAre("toggle pin b.png", "copy b.png", "share b.png",
+                                   "reveal b.png", "trash b.png"));
+}
+
+TEST_F(TileTest, TheShareMenuPointsAtItsButton) {
+    showTwo();
+    hover(*tile(0));
+    const QRectF frameOfButton = frame(*item("ShareButton", tile(0)));
+    click(*item("ShareButton", tile(0)));
+    EXPECT_EQ(shareAnchor, (Rect{{frameOfButton.x(), frameOfButton.y()}, {28, 28}}));
+}
+
+TEST_F(TileTest, AReusedShareButtonAsksForTheCaptureThatItStandsFor) {
+    show({a});
+    makeCard();
+    QQuickItem* actionsOfTile = item("TileActions", item("ActionRow"));
+    actionsOfTile->setProperty("captureId", QString::fromStdString(b->id().text()));
+    click(*item("ShareButton"));
+    EXPECT_THAT(asked, IsEmpty());
+    actionsOfTile->setProperty("captureId", QString::fromStdString(a->id().text()));
+    click(*item("ShareButton"));
+    EXPECT_THAT(asked, ElementsAre("share a.png"));
+}
+
+TEST_F(TileTest, OnADarkPlateTheSameShareButtonIsWhite) {
+    show({a});
+    makeCard();
+    QQuickItem* share = item("ShareButton");
+    EXPECT_EQ(share->property("baseColor").value<QColor>(), QColor(Qt::black));
+    share->setProperty("isOnDark", true);
+    EXPECT_EQ(item("ShareButton"), share);
+    EXPECT_EQ(item("Symbol", share)->property("color").value<QColor>(), QColor(Qt::white));
+}
+
+TEST_F(TileTest, APressThatWandersFourteenPointsIsNoTap) {
+    showTwo();
+    hover(*tile(0));
+    const QPointF centre = frame(*button("Copy to clipboard", tile(0))).center().toPoint();
+    press(centre, centre + QPointF(14, 0));
+    press(centre, centre + QPointF(0, -14));
+    EXPECT_THAT(asked, IsEmpty());
+    press(centre, centre + QPointF(13, -13));
+    EXPECT_THAT(asked, ElementsAre("copy a.png"));
+}
+
+TEST_F(TileTest, TapsAreLogged) {
+    showTwo();
+    hover(*tile(0));
+    fakes::CapturedLog log;
+    Debug::set(true);
+    click(*button("Copy to clipboard", tile(0)));
+    click(*item("CloseButton", tile(0)));
+    Debug::set(false);
+    EXPECT_THAT(log.lines(), testing::IsSupersetOf({"Vantle[dbg]: tap icon doc.on.doc",
+                                                    "Vantle[dbg]: tap X"}));
+}
+
+TEST_F(TileTest, AnIconIsDimWhileItIsPressed) {
+    show({a});
+    makeCard();
+    QQuickItem* icon = button("Copy to clipboard")->parentItem();
+    const auto opacities = [&] {
+        return std::pair{icon->childItems()[0]->opacity(), item("Symbol", icon)->opacity()};
+    };
+    EXPECT_EQ(opacities(), std::pair(0.0, 0.9));
+    hover(*icon);
+    EXPECT_EQ(opacities(), std::pair(0.08, 0.9));
+    QTest::mousePress(&window(), Qt::LeftButton, {}, frame(*icon).center().toPoint());
+    EXPECT_EQ(opacities(), std::pair(0.16, 0.5));
+    QTest::mouseRelease(&window(), Qt::LeftButton, {}, frame(*icon).center().toPoint());
+    EXPECT_EQ(opacities(), std::pair(0.08, 0.9));
+}
+
+TEST_F(TileTest, AControlUnderThePointerSaysWhatItIsFor) {
+    show({a});
+    makeCard();
+    hover(*button("Move to Trash"));
+    const auto* tag = item("HelpTag");
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        frames.advance(50);
+        return tag->opacity() == 1;
+    }, 20'000));
+    EXPECT_EQ(text(item("QQuickText", item("HelpTag")), "text"), "Move to Trash");
+    EXPECT_TRUE(QRectF(0, 0, 800, 330).contains(frame(*tag)));
+}
+
+}  // namespace
+}  // namespace vantle
