@@ -2,12 +2,22 @@
 add_executable(application_copy ${CMAKE_CURRENT_LIST_DIR}/ApplicationContractCopy.cpp)
 target_link_libraries(application_copy PRIVATE vantle_platform_qt vantle_warnings)
 
+# Also used by the desktop tests.
+add_executable(settings-portal ${CMAKE_CURRENT_LIST_DIR}/SettingsPortalProgram.cpp
+                               ${CMAKE_CURRENT_LIST_DIR}/SettingsPortal.h)
+set_target_properties(settings-portal PROPERTIES AUTOMOC ON)
+target_include_directories(settings-portal PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+target_link_libraries(settings-portal PRIVATE Qt6::DBus vantle_warnings)
+
 add_executable(
   qt_contract_tests
   ${CMAKE_CURRENT_LIST_DIR}/ApplicationContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/DesktopAppearanceTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/QtContractMain.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SchedulerContractTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/ScreensContractTests.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/ScreensContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SettingsPortal.h)
+set_target_properties(qt_contract_tests PROPERTIES AUTOMOC ON)
 target_compile_definitions(
   qt_contract_tests PRIVATE VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>")
 target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt vantle_fakes vantle_warnings

@@ -1,7 +1,6 @@
 #include "platform/qt/PortalAppearance.h"
 
 #include <QDBusArgument>
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
@@ -59,20 +58,18 @@ bool reducesMotion(const Settings& settings) {
 
 }  // namespace
 
-PortalAppearance::PortalAppearance() {
+PortalAppearance::PortalAppearance(const QDBusConnection& bus) {
     qDBusRegisterMetaType<Settings>();
-    QDBusConnection::sessionBus().connect(
-        service, path, interface, QStringLiteral("SettingChanged"), this,
-        SLOT(settingChanged(QString, QString, QDBusVariant)));
-    ask();
+    QDBusConnection(bus).connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+                                 SLOT(settingChanged(QString, QString, QDBusVariant)));
+    ask(bus);
 }
 
-void PortalAppearance::ask() {
+void PortalAppearance::ask(const QDBusConnection& bus) {
     auto message =
         QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("ReadAll"));
     message << QStringList{appearance, gnome, kde};
-    auto* call =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
+    auto* call = new QDBusPendingCallWatcher(bus.asyncCall(message), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] { answered(*call); });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QMap>
 #include <QObject>
 #include <QVariantMap>
@@ -18,13 +19,13 @@ class PortalAppearance final : public QObject, public DesktopAppearance {
     Q_OBJECT
 
 public:
-    PortalAppearance();
+    explicit PortalAppearance(const QDBusConnection& bus = QDBusConnection::sessionBus());
 
 private slots:
     void settingChanged(const QString& space, const QString& key, const QDBusVariant& value);
 
 private:
-    void ask();
+    void ask(const QDBusConnection& bus);
     void answered(QDBusPendingCallWatcher& call);
     void publish();
 

@@ -1,0 +1,112 @@
+// What the portal tells about how programs shall look, asked over a real bus.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDBusArgument>
+#include <QDeadlineTimer>
+#include <QUuid>
+#include <functional>
+
+#include "contract/PrivateBus.h"
+#include "contract/SettingsPortal.h"
+#include "platform/qt/PortalAppearance.h"
+
+namespace vantle {
+namespace {
+
+const QString appearance = QStringLiteral("org.freedesktop.appearance");
+
+[[nodiscard]] bool waitUntil(const std::function<bool()>& condition) {
+    const QDeadlineTimer limit(20'000);
+    while (!condition() && !limit.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    return condition();
+}
+
+class PortalAppearanceTest : public testing::Test {
+protected:
+    PortalAppearanceTest() : portal(bus.connect(name(QStringLiteral("portal")))) {}
+
+    /// Connections are known by name in the whole process.
+    static QString name(const QString& role) {
+        return role + QUuid::createUuid().toString();
+    }
+    QVariant rgb(double red, double green, double blue) {
+        QDBusArgument structure;
+        structure.beginStructure();
+        structure << red << green << blue;
+        structure.endStructure();
+        return QVariant::fromValue(structure);
+    }
+    const DesktopLook& look() {
+        if (!backend) backend = std::make_unique<PortalAppearance>(bus.connect(name(QStringLiteral("client"))));
+        return backend->look.value();
+    }
+    void set(const char* key, const QVariant& value) {
+        portal.set(appearance, QString::fromLatin1(key), value);
+    }
+
+    PrivateBus bus;
+    SettingsPortal portal;
+    std::unique_ptr<PortalAppearance> backend;
+};
+
+TEST_F(PortalAppearanceTest, TellsWhatIsSetAtTheStart) {
+    ASSERT_TRUE(portal.isThere());
+    set("color-scheme", 1U);
+    EXPECT_EQ(look(), DesktopLook{}) << "it does not wait";
+    EXPECT_TRUE(waitUntil([this] { return look().scheme == ColorScheme::dark; }));
+}
+
+TEST_F(PortalAppearanceTest, FollowsEachChange) {
+    EXPECT_EQ(look().scheme, ColorScheme::unknown);
+    set("color-scheme", 2U);
+    EXPECT_TRUE(waitUntil([this] { return look().scheme == ColorScheme::light; }));
+    set("color-scheme", 1U);
+    EXPECT_TRUE(waitUntil([this] { return look().scheme == ColorScheme::dark; }));
+    set("color-scheme", 0U);
+    EXPECT_TRUE(waitUntil([this] { return look().scheme == ColorScheme::unknown; }));
+}
+
+TEST_F(PortalAppearanceTest, AnAccentOutsideOfTheRangeIsNone) {
+    set("accent-color", rgb(0.25, 0.5, 1));
+    const Color blue{0.25, 0.5, 1};
+    EXPECT_TRUE(waitUntil([&] { return look().accent == blue; }));
+    set("accent-color", rgb(-1, -1, -1));
+    EXPECT_TRUE(waitUntil([this] { return !look().accent; }));
+    set("accent-color", QStringLiteral("blue"));
+    set("color-scheme", 1U);
+    EXPECT_TRUE(waitUntil([this] { return look().scheme == ColorScheme::dark; }));
+    EXPECT_FALSE(look().accent);
+}
+
+TEST_F(PortalAppearanceTest, EachDesktopCanAskForLessMotion) {
+    const QString gnome = QStringLiteral("org.gnome.desktop.interface");
+    const QString kde = QStringLiteral("org.kde.kdeglobals.KDE");
+    struct Wish {
+        QString space;
+        QString key;
+        QVariant reduced;
+        QVariant usual;
+    };
+    for (const auto& [space, key, reduced, usual] :
+         {Wish{appearance, QStringLiteral("reduced-motion"), 1U, 0U},
+          Wish{gnome, QStringLiteral("enable-animations"), false, true},
+          Wish{kde, QStringLiteral("AnimationDurationFactor"), QStringLiteral("0"),
+               QStringLiteral("1.5")}}) {
+        EXPECT_FALSE(look().reducesMotion);
+        portal.set(space, key, reduced);
+        EXPECT_TRUE(waitUntil([this] { return look().reducesMotion; })) << key.toStdString();
+        portal.set(space, key, usual);
+        EXPECT_TRUE(waitUntil([this] { return !look().reducesMotion; })) << key.toStdString();
+    }
+}
+
+TEST(PortalAppearance, WithoutABusNothingIsKnown) {
+    const PortalAppearance alone(QDBusConnection(QStringLiteral("none")));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(alone.look.value(), DesktopLook{});
+}
+
+}  // namespace
+}  // namespace vantle

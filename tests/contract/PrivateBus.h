@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace vantle {
+
+/// A message bus of its own, for as long as it lives.
+class PrivateBus {
+public:
+    PrivateBus() {
+        process_.start(QStringLiteral("dbus-daemon"),
+                       {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                        QStringLiteral("--print-address"),
+                        QStringLiteral("--address=unix:path=%1/bus").arg(folder_.path())});
+        while (!process_.canReadLine() && process_.waitForReadyRead(30'000)) {
+        }
+        address_ = QString::fromUtf8(process_.readLine().trimmed());
+    }
+    ~PrivateBus() {
+        process_.kill();
+        process_.waitForFinished();
+    }
+
+    QDBusConnection connect(const QString& name) const {
+        return QDBusConnection::connectToBus(address_, name);
+    }
+
+private:
+    QTemporaryDir folder_;
+    QProcess process_;
+    QString address_;
+};
+
+}  // namespace vantle
