@@ -83,12 +83,11 @@ FocusScope {
         }
 
         ShadowView {
-            x: -blur
-            y: -blur + 8
-            width: card.width + 2 * blur
-            height: card.height + 2 * blur
+            anchors.fill: glass
+            anchors.margins: -margin
             visible: !view.panel.rendersPlain
             blur: 18
+            drop: 8
             strength: 0.28
             cornerRadius: glass.cornerRadius
         }
@@ -155,5 +154,7 @@ FocusScope {
         panel: view.panel
     }
 
-    HelpTag {}
+    HelpTag {
+        card: card
+    }
 }

@@ -87,11 +87,10 @@ FocusScope {
     }
 
     ShadowView {
-        x: -blur
-        y: -blur + 2
-        width: thumbnail.width + 2 * blur
-        height: thumbnail.height + 2 * blur
+        anchors.fill: thumbnail
+        anchors.margins: -margin
         blur: 6
+        drop: 2
         strength: 0.25
         cornerRadius: thumbnail.cornerRadius
     }

@@ -5,11 +5,13 @@ import Vantle.Panel
 Rectangle {
     id: tag
 
+    // Where the tag may not cover anything when it is about a whole thumbnail.
+    required property Item card
     readonly property Item subject: Help.item && Help.item.visible ? Help.item : null
     property bool isDue: false
     property point place
 
-    width: Math.min(label.implicitWidth + 2 * 8, 320)
+    width: Math.min(label.implicitWidth + 2 * 8, 340)
     height: label.height + 2 * 4
     radius: 6
     color: Appearance.isDark ? Qt.rgba(0.27, 0.27, 0.29, 0.97) : Qt.rgba(0.13, 0.13, 0.15, 0.92)
@@ -27,10 +29,11 @@ Rectangle {
 
     function settle() {
         if (!subject) return;
-        const frame = subject.mapToItem(parent, 0, 0, subject.width, subject.height);
-        const above = frame.y - height - 6;
         label.text = Help.text;
-        place = Qt.point(frame.x + frame.width / 2, above >= 4 ? above : frame.y + frame.height + 6);
+        const frame = subject.mapToItem(parent, 0, 0, subject.width, subject.height);
+        const avoided = subject instanceof DraggableThumbnail ? Qt.rect(0, card.y - 12, 0, card.height + 12) : frame;
+        const above = avoided.y - height - 6;
+        place = Qt.point(frame.x + frame.width / 2, above >= 4 ? above : avoided.y + avoided.height + 6);
         isDue = true;
     }
 

@@ -23,11 +23,10 @@ Item {
     }
 
     ShadowView {
-        x: -blur
-        y: -blur + 2
-        width: bar.width + 2 * blur
-        height: bar.height + 2 * blur
+        anchors.fill: parent
+        anchors.margins: -margin
         blur: 6
+        drop: 2
         strength: 0.25
         cornerRadius: bar.height / 2
     }

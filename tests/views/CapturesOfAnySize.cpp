@@ -13,7 +13,7 @@ namespace {
 
 /// A sky, a sun and two hills, in colours that follow from the name.
 ImagePointer landscape(const std::string& name, Size size) {
-    const int hue = static_cast<int>(name.empty() ? 0 : name.front() * 47 % 360);
+    const int hue = name.empty() ? 0 : static_cast<unsigned char>(name.front()) * 47 % 360;
     QImage picture(static_cast<int>(size.width), static_cast<int>(size.height),
                    QImage::Format_RGBA8888_Premultiplied);
     QPainter painter(&picture);

@@ -15,6 +15,8 @@ namespace {
 constexpr double radius = 12;
 constexpr int blur = 6;
 constexpr double strength = 0.5;
+constexpr int drop = 3;
+constexpr int margin = blur + drop;
 
 class ShadowViewTest : public testing::Test {
 protected:
@@ -25,6 +27,7 @@ protected:
         shadow.setProperty("cornerRadius", radius);
         shadow.setProperty("blur", blur);
         shadow.setProperty("strength", strength);
+        shadow.setProperty("drop", drop);
     }
 
     QImage drawn(QSize size) {
@@ -37,11 +40,21 @@ protected:
     /// The greatest difference from a shadow made in one piece.
     int difference(QSize size) {
         const QImage found = drawn(size);
-        const QImage whole = softShadow(size - QSize(2 * blur, 2 * blur), radius, blur);
+        const QSize plate = size - 2 * QSize(margin, margin);
+        const QImage whole = softShadow(plate, radius, blur);
+        const QPainterPath inside =
+            continuousRoundedRect(QRectF(QPointF(margin, margin), QSizeF(plate)), radius);
         int greatest = 0;
         for (int y = 0; y < size.height(); ++y)
             for (int x = 0; x < size.width(); ++x) {
-                const double expected = 255 - strength * whole.constScanLine(y)[x];
+                const QRectF pixel(x, y, 1, 1);
+                // What the edge of the plate cuts is drawn in part.
+                if (inside.intersects(pixel) && !inside.contains(pixel)) continue;
+                // It falls `drop` lower, and the picture of it begins `blur` above and beside.
+                const QPoint at(x - drop, y - 2 * drop);
+                const bool isShaded = whole.rect().contains(at) && !inside.contains(pixel);
+                const double shade = isShaded ? whole.constScanLine(at.y())[at.x()] : 0;
+                const double expected = 255 - strength * shade;
                 greatest = std::max(
                     greatest, std::abs(found.constScanLine(y)[x] - static_cast<int>(expected)));
             }
@@ -53,14 +66,20 @@ protected:
 };
 
 TEST_F(ShadowViewTest, LooksAsIfMadeInOnePieceAtEachSize) {
-    for (const QSize size : {QSize(100, 80), QSize(61, 61), QSize(180, 70), QSize(75, 150)})
+    for (const QSize size : {QSize(100, 80), QSize(67, 67), QSize(180, 70), QSize(75, 150)})
         EXPECT_LE(difference(size), 2) << size.width() << " x " << size.height();
 }
 
 TEST_F(ShadowViewTest, FollowsItsProperties) {
     (void)drawn({100, 80});
     shadow.setProperty("strength", 0);
-    EXPECT_EQ(drawn({100, 80}).pixelColor(50, 40), QColor(Qt::white));
+    EXPECT_EQ(drawn({100, 80}).pixelColor(50, 74), QColor(Qt::white));
+}
+
+TEST_F(ShadowViewTest, DoesNotDarkenThePlateItself) {
+    const QImage found = drawn({100, 80});
+    EXPECT_EQ(found.pixelColor(50, 40), QColor(Qt::white));
+    EXPECT_LT(found.pixelColor(50, 80 - margin + 1).lightness(), 200);
 }
 
 TEST_F(ShadowViewTest, IsDrawnAnewInAnotherWindow) {

@@ -92,7 +92,9 @@ TEST_F(TileTest, ARecordingHasABadge) {
 TEST_F(TileTest, ThumbnailsKeepTheirShadowAndTheirName) {
     showTwo();
     const auto* shadow = item("ShadowView", tile(0));
-    EXPECT_EQ(frameIn(*shadow, *tile(0)), QRectF(-6, -6 + 2, 202 + 12, 126 + 12));
+    EXPECT_EQ(frameIn(*shadow, *tile(0)), QRectF(-8, -8, 202 + 16, 126 + 16));
+    EXPECT_EQ(shadow->property("blur").toDouble(), 6);
+    EXPECT_EQ(shadow->property("drop").toDouble(), 2);
     EXPECT_EQ(shadow->property("strength").toDouble(), 0.25);
     const auto* name = items("QQuickText", tile(0)).back();
     EXPECT_EQ(text(name, "text"), "a.png");

@@ -23,12 +23,15 @@ QRectF cell(const Cuts& across, const Cuts& down, std::size_t column, std::size_
     return {QPointF(across[column], down[row]), QPointF(across[column + 1], down[row + 1])};
 }
 
-/// Nine parts of one picture.
+constexpr std::size_t middle = 4;
+
+/// Nine parts of one picture, or eight around nothing.
 class NinePartNode final : public QSGNode {
 public:
-    NinePartNode(QQuickWindow& window, const QImage& picture)
+    NinePartNode(QQuickWindow& window, const QImage& picture, bool isHollow)
         : texture_(window.createTextureFromImage(picture)), side_(picture.width()) {
         for (auto& part : parts_) {
+            if (isHollow && &part == &parts_[middle]) continue;
             part = window.createImageNode();
             part->setTexture(texture_.get());
             // What is stretched is one pixel wide: nothing of its neighbours may come in.
@@ -43,6 +46,7 @@ public:
         const Cuts down = cuts(size.height(), corner);
         const Cuts source = cuts(side_, corner * pixelsPerPoint);
         for (std::size_t i = 0; i < parts_.size(); ++i) {
+            if (!parts_[i]) continue;
             parts_[i]->setRect(cell(across, down, i % 3, i / 3));
             parts_[i]->setSourceRect(cell(source, source, i % 3, i / 3));
         }
@@ -71,7 +75,7 @@ QSGNode* NinePartView::updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) 
     auto* node = static_cast<NinePartNode*>(old);
     if (!node || drawnPixelsPerPoint_ != pixelsPerPoint) {
         delete node;
-        node = new NinePartNode(*window(), cornersOnly(corner, pixelsPerPoint));
+        node = new NinePartNode(*window(), cornersOnly(corner, pixelsPerPoint), isHollow());
         drawnPixelsPerPoint_ = pixelsPerPoint;
     }
     node->place(size(), corner / pixelsPerPoint, pixelsPerPoint);

@@ -28,6 +28,9 @@ protected:
     /// row and one column between them.
     virtual QImage cornersOnly(int corner, double pixelsPerPoint) const = 0;
 
+    /// Whether there is anything to draw between the corners and edges.
+    virtual bool isHollow() const { return false; }
+
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
 
 private:

@@ -11,10 +11,16 @@
 namespace vantle {
 namespace {
 
-// A superellipse that begins a third earlier than the arc and meets it in the corner's middle.
-constexpr double extent = 1.3;
-constexpr double exponent = 2.715;
+// How much earlier than the arc the corner begins, where there is room.
+constexpr double widestExtent = 1.3;
 constexpr int steps = 16;
+
+/// Of the superellipse that meets the arc in the corner's middle; without room for more than the
+/// arc it is the arc.
+double exponent(double extent) {
+    const double middle = 1 - 1 / std::numbers::sqrt2;
+    return -std::numbers::ln2 / std::log(1 - middle / extent);
+}
 
 /// One box blur along rows: each value becomes the mean of the 2 × reach + 1 around it. Written
 /// transposed, so that a second call blurs the columns and turns the picture back.
@@ -41,7 +47,9 @@ void blurAndTranspose(const std::vector<std::uint8_t>& from, std::vector<std::ui
 }  // namespace
 
 QPainterPath continuousRoundedRect(const QRectF& rect, double radius) {
-    const double reach = std::min({radius * extent, rect.width() / 2, rect.height() / 2});
+    const double room = std::min(rect.width(), rect.height()) / 2;
+    const double reach = std::min(radius * widestExtent, room);
+    const double power = 2 / exponent(std::max(reach / radius, 1.0));
     struct Corner {
         QPointF centre;  // of the superellipse
         double firstAngle;
@@ -53,8 +61,8 @@ QPainterPath continuousRoundedRect(const QRectF& rect, double radius) {
     for (const Corner& corner : corners) {
         for (int step = 0; step <= steps; ++step) {
             const double angle = (corner.firstAngle + 90.0 * step / steps) * std::numbers::pi / 180;
-            const auto along = [](double part) {
-                return std::copysign(std::pow(std::abs(part), 2 / exponent), part);
+            const auto along = [power](double part) {
+                return std::copysign(std::pow(std::abs(part), power), part);
             };
             outline << corner.centre +
                            QPointF(along(std::cos(angle)), along(std::sin(angle))) * reach;

@@ -9,18 +9,28 @@ namespace vantle {
 
 double ShadowView::cornerLength() const {
     // Beyond the corner itself the blur reaches as far inwards as outwards.
-    return 2 * blur_ + 1.5 * cornerRadius_;
+    return margin() + blur_ + 1.5 * cornerRadius_;
 }
 
 QImage ShadowView::cornersOnly(int corner, double pixelsPerPoint) const {
-    const int blurred = static_cast<int>(std::lround(blur_ * pixelsPerPoint));
+    const auto pixels = [pixelsPerPoint](double points) {
+        return static_cast<int>(std::lround(points * pixelsPerPoint));
+    };
     const int side = 2 * corner + 1;
-    const QSize plate(side - 2 * blurred, side - 2 * blurred);
+    const int inset = pixels(margin());
+    const QRect plate(inset, inset, side - 2 * inset, side - 2 * inset);
+    const double radius = cornerRadius_ * pixelsPerPoint;
+    const int blurred = pixels(blur_);
     QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setOpacity(strength_);
-    painter.drawImage(0, 0, softShadow(plate, cornerRadius_ * pixelsPerPoint, blurred));
+    painter.drawImage(plate.topLeft() + QPoint(-blurred, pixels(drop_) - blurred),
+                      softShadow(plate.size(), radius, blurred));
+    painter.setOpacity(1);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    painter.fillPath(continuousRoundedRect(plate, radius), Qt::black);
     return picture;
 }
 

@@ -6,7 +6,8 @@
 
 namespace vantle {
 
-/// The black shadow of a rounded plate of this item's size minus `blur` on each side.
+/// The black shadow around a rounded plate, which stands `margin` inside this item. There is none
+/// beneath the plate: one that lets light through is not to be darkened by its own shadow.
 class ShadowView : public vantle::NinePartView {  // in full: the linter reads it so
     Q_OBJECT
     QML_ELEMENT
@@ -14,18 +15,25 @@ class ShadowView : public vantle::NinePartView {  // in full: the linter reads i
     Q_PROPERTY(double cornerRadius MEMBER cornerRadius_ NOTIFY changed)
     Q_PROPERTY(double blur MEMBER blur_ NOTIFY changed)
     Q_PROPERTY(double strength MEMBER strength_ NOTIFY changed)
+    /// How far the shadow falls downwards.
+    Q_PROPERTY(double drop MEMBER drop_ NOTIFY changed)
+    Q_PROPERTY(double margin READ margin NOTIFY changed)
 
 public:
     using NinePartView::NinePartView;
 
+    double margin() const { return blur_ + drop_; }
+
 protected:
     double cornerLength() const override;
     QImage cornersOnly(int corner, double pixelsPerPoint) const override;
+    bool isHollow() const override { return true; }
 
 private:
     double cornerRadius_ = 0;
     double blur_ = 0;
     double strength_ = 0;
+    double drop_ = 0;
 };
 
 }  // namespace vantle

@@ -1,13 +1,15 @@
-#include "CardFixture.h"
+#include "CardStage.h"
+
+#include <stdexcept>
 
 namespace vantle {
 
-CardFixture::CardFixture() {
+CardStage::CardStage() {
     state.visible.set(true);
     recordRequests();
 }
 
-void CardFixture::recordRequests() {
+void CardStage::recordRequests() {
     const auto onCapture = [this](const char* what) {
         return [this, what](const CapturePointer& one) {
             asked.push_back(std::string(what) + " " + one->fileName());
@@ -32,26 +34,26 @@ void CardFixture::recordRequests() {
     actions.removeSelected = onPanel("remove selected");
 }
 
-void CardFixture::makeCard() {
+void CardStage::makeCard() {
     panel.reset();
     panel = std::make_unique<CapturePanel>(
         PanelModel::Context{state, settings, clock, actions, rendering});
     panel->orderFrontRegardless();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+    if (!QTest::qWaitForWindowExposed(&window())) throw std::runtime_error("no window came up");
     rest();
 }
 
-void CardFixture::show(const std::vector<CapturePointer>& captures) {
+void CardStage::show(const std::vector<CapturePointer>& captures) {
     state.captures.set(captures);
     if (panel) rest();
 }
 
-QRectF CardFixture::glassFrame() const {
+QRectF CardStage::glassFrame() const {
     const auto* glass = PassthroughContainerView::findGlass(*window().contentItem());
     return glass ? frame(*glass) : QRectF();
 }
 
-std::vector<QQuickItem*> CardFixture::items(const char* type, QQuickItem* below) const {
+std::vector<QQuickItem*> CardStage::items(const char* type, QQuickItem* below) const {
     std::vector<QQuickItem*> found;
     QQuickItem* root = below ? below : window().contentItem();
     for (QQuickItem* child : root->childItems()) {
@@ -65,19 +67,19 @@ std::vector<QQuickItem*> CardFixture::items(const char* type, QQuickItem* below)
     return found;
 }
 
-QQuickItem* CardFixture::item(const char* type, QQuickItem* below) const {
+QQuickItem* CardStage::item(const char* type, QQuickItem* below) const {
     const auto found = items(type, below);
     if (found.empty()) throw std::runtime_error(std::string("there is no ") + type);
     return found.front();
 }
 
-QQuickItem* CardFixture::button(const char* name, QQuickItem* below) const {
+QQuickItem* CardStage::button(const char* name, QQuickItem* below) const {
     for (QQuickItem* press : items("Press", below))
         if (press->property("name").toString() == QString::fromUtf8(name)) return press;
     throw std::runtime_error(std::string("there is no button ") + name);
 }
 
-std::vector<std::string> CardFixture::symbols(QQuickItem* below) const {
+std::vector<std::string> CardStage::symbols(QQuickItem* below) const {
     std::vector<std::string> names;
     for (const char* type : {"TapIcon", "ShareButton"})
         for (const QQuickItem* icon : items(type, below))
@@ -85,22 +87,22 @@ std::vector<std::string> CardFixture::symbols(QQuickItem* below) const {
     return names;
 }
 
-QRectF CardFixture::frameIn(const QQuickItem& item, const QQuickItem& other) {
+QRectF CardStage::frameIn(const QQuickItem& item, const QQuickItem& other) {
     return other.mapRectFromItem(&item, QRectF(QPointF(), item.size()));
 }
 
-QRectF CardFixture::frame(const QQuickItem& item) const {
+QRectF CardStage::frame(const QQuickItem& item) const {
     return frameIn(item, *window().contentItem());
 }
 
-void CardFixture::hover(const QPointF& point) {
+void CardStage::hover(const QPointF& point) {
     // Qt tells of a pointer only when it moves.
     QTest::mouseMove(&window(), {1, 1});
     QTest::mouseMove(&window(), point.toPoint());
     rest();
 }
 
-void CardFixture::click(const QPointF& point, Qt::KeyboardModifiers modifiers) {
+void CardStage::click(const QPointF& point, Qt::KeyboardModifiers modifiers) {
     QTest::mouseClick(&window(), Qt::LeftButton, modifiers, point.toPoint());
     rest();
 }

@@ -1,0 +1,100 @@
+// Writes sheets of pictures of the card: each scene, light and dark, over a light and a dark
+// wallpaper, at the scale that QT_SCALE_FACTOR says.
+#include <QFont>
+#include <QGuiApplication>
+#include <QLinearGradient>
+#include <QPainter>
+#include <cstdio>
+
+#include "Scenes.h"
+#include "panel/views/Appearance.h"
+
+namespace {
+
+using namespace vantle;
+
+constexpr int columns = 3;
+// What of the panel is worth showing, in points.
+constexpr QRect part(100, 20, 700, 310);
+
+enum class Wallpaper { light, dark };
+
+const char* name(Wallpaper wallpaper) {
+    return wallpaper == Wallpaper::light ? "light" : "dark";
+}
+
+/// A soft landscape, with edges that show how much of it comes through the plate.
+QImage paper(Wallpaper wallpaper, const QSize& size) {
+    QImage picture(size, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient sky(0, 0, size.width(), size.height());
+    const bool isLight = wallpaper == Wallpaper::light;
+    sky.setColorAt(0, isLight ? QColor(250, 244, 236) : QColor(20, 24, 44));
+    sky.setColorAt(1, isLight ? QColor(205, 222, 240) : QColor(48, 36, 70));
+    painter.fillRect(picture.rect(), sky);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isLight ? QColor(240, 200, 170) : QColor(70, 90, 140));
+    painter.drawEllipse(QPointF(size.width() * 0.62, size.height() * 0.4), size.height() * 0.28,
+                        size.height() * 0.28);
+    painter.setBrush(isLight ? QColor(255, 255, 255) : QColor(12, 14, 24));
+    painter.drawRect(QRectF(0, size.height() * 0.72, size.width(), size.height() * 0.3));
+    return picture;
+}
+
+QImage onPaper(const Scene& scene, const QImage& wallpaper) {
+    CardStage stage;
+    scene.set(stage);
+    const QImage panel = drawn(stage);
+    const double scale = panel.width() / static_cast<double>(stage.window().width());
+    QImage picture = wallpaper;
+    QPainter painter(&picture);
+    painter.drawImage(QPointF(-part.x() * scale, -part.y() * scale),
+                      QImage(panel.constBits(), panel.width(), panel.height(),
+                             panel.bytesPerLine(), QImage::Format_ARGB32_Premultiplied));
+    return picture;
+}
+
+QImage sheet(Wallpaper wallpaper, double scale) {
+    const auto& scenes = allScenes();
+    const QSize cell = part.size() * scale;
+    const int rows = (static_cast<int>(scenes.size()) + columns - 1) / columns;
+    QImage picture(cell.width() * columns, cell.height() * rows, QImage::Format_RGB32);
+    picture.fill(Qt::gray);
+    QPainter painter(&picture);
+    const QImage background = paper(wallpaper, cell);
+    for (int i = 0; i < static_cast<int>(scenes.size()); ++i)
+        painter.drawImage(i % columns * cell.width(), i / columns * cell.height(),
+                          onPaper(scenes[static_cast<std::size_t>(i)], background));
+    return picture;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    const QGuiApplication application(argc, argv);
+    if (argc != 2) {
+        std::fputs("Usage: gallery FOLDER\n", stderr);
+        return 2;
+    }
+    QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
+    const double scale = application.devicePixelRatio();
+    DesktopAppearance desktop;
+    Appearance::follow(&desktop);
+    for (const auto& [scheme, look] :
+         {std::pair{ColorScheme::light, "light"}, std::pair{ColorScheme::dark, "dark"}})
+        for (const Wallpaper wallpaper : {Wallpaper::light, Wallpaper::dark}) {
+            desktop.look.set({.scheme = scheme});
+            const QString path = QStringLiteral("%1/card-%2-on-%3@%4x.png")
+                                     .arg(QString::fromLocal8Bit(argv[1]), QLatin1String(look),
+                                          QLatin1String(name(wallpaper)))
+                                     .arg(scale);
+            if (!sheet(wallpaper, scale).save(path)) {
+                std::fprintf(stderr, "%s cannot be written\n", qPrintable(path));
+                return 1;
+            }
+        }
+    return 0;
+}
