@@ -137,7 +137,7 @@ FocusScope {
         anchors.fill: thumbnail
         anchors.margins: -4
         isShown: tile.activeFocus
-        radius: 16
+        cornerRadius: 16
     }
 
     Loader {

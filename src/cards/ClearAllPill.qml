@@ -1,4 +1,5 @@
 import QtQuick
+import Vantle.Panel
 
 // The button at the card's corner that takes all captures off it.
 Appearing {
@@ -9,12 +10,12 @@ Appearing {
     width: label.width + 2 * 8
     height: label.height + 2 * 4
 
-    Rectangle {
+    PlateView {
         anchors.fill: parent
-        radius: height / 2
-        color: Qt.rgba(0, 0, 0, press.isPressed ? 0.8 : 0.6)
-        border.width: 1
-        border.color: Qt.rgba(1, 1, 1, 0.35)
+        cornerRadius: height / 2
+        fill: Qt.rgba(0, 0, 0, press.isPressed ? 0.8 : 0.6)
+        borderWidth: 1
+        borderColor: Qt.rgba(1, 1, 1, 0.35)
     }
 
     Row {

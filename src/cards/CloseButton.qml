@@ -1,4 +1,5 @@
 import QtQuick
+import Vantle.Panel
 
 // The round button that takes one capture off the card.
 Appearing {
@@ -9,12 +10,12 @@ Appearing {
     width: 22
     height: 22
 
-    Rectangle {
+    PlateView {
         anchors.fill: parent
-        radius: 11
-        color: Qt.rgba(0, 0, 0, press.isPressed ? 0.8 : 0.6)
-        border.width: 1
-        border.color: Qt.rgba(1, 1, 1, 0.4)
+        cornerRadius: 11
+        fill: Qt.rgba(0, 0, 0, press.isPressed ? 0.8 : 0.6)
+        borderWidth: 1
+        borderColor: Qt.rgba(1, 1, 1, 0.4)
     }
 
     Symbol {

@@ -1,13 +1,14 @@
 import QtQuick
+import Vantle.Panel
 
 // How long a recording is.
-Rectangle {
+PlateView {
     property alias text: label.text
 
     width: row.width + 2 * 7
     height: row.height + 2 * 3
-    radius: height / 2
-    color: Qt.rgba(0, 0, 0, 0.55)
+    cornerRadius: height / 2
+    fill: Qt.rgba(0, 0, 0, 0.55)
 
     Row {
         id: row

@@ -2,7 +2,7 @@ import QtQuick
 import Vantle.Panel
 
 // Says what the thing under the pointer is for, once the pointer has rested there.
-Rectangle {
+PlateView {
     id: tag
 
     // Where the tag may not cover anything when it is about a whole thumbnail.
@@ -13,8 +13,8 @@ Rectangle {
 
     width: Math.min(label.implicitWidth + 2 * 8, 340)
     height: label.height + 2 * 4
-    radius: 6
-    color: Appearance.isDark ? Qt.rgba(0.27, 0.27, 0.29, 0.97) : Qt.rgba(0.13, 0.13, 0.15, 0.92)
+    cornerRadius: 6
+    fill: Appearance.isDark ? Qt.rgba(0.27, 0.27, 0.29, 0.97) : Qt.rgba(0.13, 0.13, 0.15, 0.92)
     x: Math.max(4, Math.min(place.x - width / 2, parent.width - width - 4))
     y: place.y
     opacity: subject && isDue ? 1 : 0

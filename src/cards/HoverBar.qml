@@ -30,10 +30,10 @@ Item {
         dampingFraction: 1
     }
 
-    Rectangle {
+    PlateView {
         anchors.fill: parent
-        radius: height / 2
-        color: Qt.rgba(0, 0, 0, 0.55)
+        cornerRadius: height / 2
+        fill: Qt.rgba(0, 0, 0, 0.55)
     }
 
     TileActions {

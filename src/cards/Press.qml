@@ -39,6 +39,6 @@ MouseArea {
 
     FocusRing {
         isShown: press.activeFocus
-        radius: press.radius
+        cornerRadius: press.radius
     }
 }

@@ -31,12 +31,12 @@ Item {
         cornerRadius: bar.height / 2
     }
 
-    Rectangle {
+    PlateView {
         anchors.fill: parent
-        radius: height / 2
-        color: Qt.rgba(0, 0, 0, 0.7)
-        border.width: 1
-        border.color: Qt.rgba(1, 1, 1, 0.35)
+        cornerRadius: height / 2
+        fill: Qt.rgba(0, 0, 0, 0.7)
+        borderWidth: 1
+        borderColor: Qt.rgba(1, 1, 1, 0.35)
     }
 
     Row {

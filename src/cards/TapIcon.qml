@@ -18,10 +18,10 @@ Item {
     width: 28
     height: 28
 
-    Rectangle {
+    PlateView {
         anchors.fill: parent
-        radius: 7
-        color: icon.baseColor
+        cornerRadius: 7
+        fill: icon.baseColor
         opacity: icon.pressed ? 0.16 : icon.hovering ? 0.08 : 0
     }
 

@@ -15,8 +15,17 @@ namespace {
 using Cuts = std::array<double, 4>;
 
 Cuts cuts(double length, double corner) {
-    const double kept = std::min(corner, length / 2);
-    return {0, kept, length - kept, length};
+    return {0, corner, length - corner, length};
+}
+
+/// The same in points, for a length in points and a corner in pixels. All cuts stand on whole
+/// pixels, and a trace beside: an item may stand on half ones, and neighbours that round their
+/// common edge to different sides would leave a gap.
+Cuts cutsInPoints(double length, int corner, double pixelsPerPoint) {
+    constexpr double trace = 1.0 / 64;
+    Cuts inPoints = cuts(std::round(length * pixelsPerPoint), corner);
+    for (double& cut : inPoints) cut = (cut + trace) / pixelsPerPoint;
+    return inPoints;
 }
 
 QRectF cell(const Cuts& across, const Cuts& down, std::size_t column, std::size_t row) {
@@ -40,11 +49,11 @@ public:
         }
     }
 
-    /// All in points.
-    void place(QSizeF size, double corner, double pixelsPerPoint) {
-        const Cuts across = cuts(size.width(), corner);
-        const Cuts down = cuts(size.height(), corner);
-        const Cuts source = cuts(side_, corner * pixelsPerPoint);
+    /// The size in points, the corner in pixels.
+    void place(QSizeF size, int corner, double pixelsPerPoint) {
+        const Cuts across = cutsInPoints(size.width(), corner, pixelsPerPoint);
+        const Cuts down = cutsInPoints(size.height(), corner, pixelsPerPoint);
+        const Cuts source = cuts(side_, corner);
         for (std::size_t i = 0; i < parts_.size(); ++i) {
             if (!parts_[i]) continue;
             parts_[i]->setRect(cell(across, down, i % 3, i / 3));
@@ -71,14 +80,18 @@ NinePartView::NinePartView(QQuickItem* parent) : QQuickItem(parent) {
 QSGNode* NinePartView::updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) {
     Q_UNUSED(data)
     const double pixelsPerPoint = window()->effectiveDevicePixelRatio();
-    const int corner = static_cast<int>(std::ceil(cornerLength() * pixelsPerPoint));
+    const double room = (std::min(width(), height()) * pixelsPerPoint - 1) / 2;
+    const int corner =
+        std::max(1, static_cast<int>(std::min(std::ceil(cornerLength() * pixelsPerPoint),
+                                              std::floor(room))));
     auto* node = static_cast<NinePartNode*>(old);
-    if (!node || drawnPixelsPerPoint_ != pixelsPerPoint) {
+    if (!node || drawnPixelsPerPoint_ != pixelsPerPoint || drawnCorner_ != corner) {
         delete node;
         node = new NinePartNode(*window(), cornersOnly(corner, pixelsPerPoint), isHollow());
         drawnPixelsPerPoint_ = pixelsPerPoint;
+        drawnCorner_ = corner;
     }
-    node->place(size(), corner / pixelsPerPoint, pixelsPerPoint);
+    node->place(size(), corner, pixelsPerPoint);
     return node;
 }
 

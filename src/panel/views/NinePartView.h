@@ -24,8 +24,9 @@ protected:
     /// The length of a corner's sides in points: beyond it the shape has straight edges.
     virtual double cornerLength() const = 0;
 
-    /// The smallest picture that has whole corners, whose sides are `corner` pixels long, and one
-    /// row and one column between them.
+    /// The smallest picture of the shape that has whole corners, whose sides are `corner` pixels
+    /// long, and one row and one column between them. Where the item has no room for corners of
+    /// that length, `corner` is what there is.
     virtual QImage cornersOnly(int corner, double pixelsPerPoint) const = 0;
 
     /// Whether there is anything to draw between the corners and edges.
@@ -35,6 +36,7 @@ protected:
 
 private:
     double drawnPixelsPerPoint_ = 0;  ///< 0 when what is drawn does not show the properties.
+    int drawnCorner_ = 0;             ///< In pixels.
 };
 
 }  // namespace vantle

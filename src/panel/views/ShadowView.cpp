@@ -1,6 +1,7 @@
 #include "panel/views/ShadowView.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 #include "panel/views/RoundedShape.h"
@@ -18,7 +19,8 @@ QImage ShadowView::cornersOnly(int corner, double pixelsPerPoint) const {
     };
     const int side = 2 * corner + 1;
     const int inset = pixels(margin());
-    const QRect plate(inset, inset, side - 2 * inset, side - 2 * inset);
+    const int plateSide = std::max(side - 2 * inset, 1);
+    const QRect plate(inset, inset, plateSide, plateSide);
     const double radius = cornerRadius_ * pixelsPerPoint;
     const int blurred = pixels(blur_);
     QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
