@@ -83,7 +83,7 @@ class Pointer:
 
 
 class Keyboard:
-    """Types letters, digits and spaces."""
+    """Types letters, digits and spaces, and presses keys by their X names."""
 
     def __init__(self, connection):
         self._display = connection
@@ -95,6 +95,21 @@ class Keyboard:
             xtest.fake_input(self._display, X.KeyPress, code)
             xtest.fake_input(self._display, X.KeyRelease, code)
         self._display.sync()
+
+    def _fake(self, kind, name):
+        code = self._display.keysym_to_keycode(XK.string_to_keysym(name))
+        xtest.fake_input(self._display, kind, code)
+        self._display.sync()
+
+    def hold(self, name):
+        self._fake(X.KeyPress, name)
+
+    def let_go(self, name):
+        self._fake(X.KeyRelease, name)
+
+    def press(self, name):
+        self.hold(name)
+        self.let_go(name)
 
 
 class Screen:
@@ -224,6 +239,16 @@ class Screen:
             Rectangle(area.x, area.y, area.width, area.height).moved(geometry.x, geometry.y)
             for area in answer.rectangles
         ]
+
+    def set_root_property(self, name):
+        """Marks the root window as a compositor does that offers something."""
+        atom = self._display.intern_atom(name)
+        self._root.change_property(atom, Xatom.CARDINAL, 32, [0])
+        self._display.sync()
+
+    def window_property(self, window_number, name):
+        window = self._display.create_resource_object("window", window_number)
+        return self._property(window, name)
 
     def title(self, window_number):
         window = self._display.create_resource_object("window", window_number)

@@ -155,6 +155,7 @@ FocusScope {
     }
 
     HelpTag {
+        panel: view.panel
         card: card
     }
 }

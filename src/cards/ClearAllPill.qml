@@ -7,7 +7,7 @@ Appearing {
 
     signal tapped()
 
-    width: label.width + 2 * 8
+    width: Math.ceil(label.width) + 2 * 8
     height: label.height + 2 * 4
 
     PlateView {

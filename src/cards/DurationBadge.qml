@@ -5,7 +5,7 @@ import Vantle.Panel
 PlateView {
     property alias text: label.text
 
-    width: row.width + 2 * 7
+    width: Math.ceil(row.width) + 2 * 7
     height: row.height + 2 * 3
     cornerRadius: height / 2
     fill: Qt.rgba(0, 0, 0, 0.55)

@@ -7,15 +7,16 @@ PlateView {
 
     // Where the tag may not cover anything when it is about a whole thumbnail.
     required property Item card
-    readonly property Item subject: Help.item && Help.item.visible ? Help.item : null
+    required property PanelModel panel
+    readonly property Item subject: Help.item && Help.item.visible && !panel.hasMarquee ? Help.item : null
     property bool isDue: false
     property point place
 
-    width: Math.min(label.implicitWidth + 2 * 8, 340)
+    width: Math.ceil(Math.min(label.implicitWidth + 2 * 8, 340))
     height: label.height + 2 * 4
     cornerRadius: 6
     fill: Appearance.isDark ? Qt.rgba(0.27, 0.27, 0.29, 0.97) : Qt.rgba(0.13, 0.13, 0.15, 0.92)
-    x: Math.max(4, Math.min(place.x - width / 2, parent.width - width - 4))
+    x: Math.round(Math.max(4, Math.min(place.x - width / 2, parent.width - width - 4)))
     y: place.y
     opacity: subject && isDue ? 1 : 0
     visible: opacity > 0

@@ -9,7 +9,7 @@ Item {
     // While it fades out it keeps its last number.
     property int shownCount
 
-    width: row.width
+    width: Math.ceil(row.width)
     height: row.height
     opacity: panel.selectedCount > 0 ? 1 : 0
     visible: opacity > 0

@@ -50,6 +50,16 @@ def wait_for_card(desktop, panel):
     return wait_until_still(lambda: card_of(desktop, panel), "the card's input shape")
 
 
+def show_several(desktop, folder, count):
+    """Takes so many screenshots in a row; returns the card that shows them, once it stands still."""
+    for number in range(1, count + 1):
+        folder.save(f"{number}.png", encoded(pattern()))
+        folder.wait_for(f"{number}.png")
+    panel = wait_until(desktop.screen.panel, "the panel appears")
+    wait_until_still(lambda: desktop.screen.screenshot(panel.frame).tobytes(), "the card")
+    return card_of(desktop, panel)
+
+
 def expected_frame(work_area, corner):
     width, height = WINDOW_SIZE
     x = work_area.right - width if corner.endswith("Right") else work_area.x

@@ -19,12 +19,10 @@ Cuts cuts(double length, double corner) {
 }
 
 /// The same in points, for a length in points and a corner in pixels. All cuts stand on whole
-/// pixels, and a trace beside: an item may stand on half ones, and neighbours that round their
-/// common edge to different sides would leave a gap.
+/// pixels: neighbours that round their common edge to different sides would leave a gap.
 Cuts cutsInPoints(double length, int corner, double pixelsPerPoint) {
-    constexpr double trace = 1.0 / 64;
     Cuts inPoints = cuts(std::round(length * pixelsPerPoint), corner);
-    for (double& cut : inPoints) cut = (cut + trace) / pixelsPerPoint;
+    for (double& cut : inPoints) cut /= pixelsPerPoint;
     return inPoints;
 }
 

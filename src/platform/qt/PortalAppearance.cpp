@@ -60,6 +60,8 @@ bool reducesMotion(const Settings& settings) {
 
 PortalAppearance::PortalAppearance(const QDBusConnection& bus) {
     qDBusRegisterMetaType<Settings>();
+    // Without that Qt 6.4 refuses the slot, until somebody else has registered it.
+    qRegisterMetaType<QDBusVariant>();
     QDBusConnection(bus).connect(service, path, interface, QStringLiteral("SettingChanged"), this,
                                  SLOT(settingChanged(QString, QString, QDBusVariant)));
     ask(bus);

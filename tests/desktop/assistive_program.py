@@ -1,0 +1,84 @@
+#!/usr/bin/python3
+"""Reads and operates Vantle as a screen reader does, over AT-SPI. It runs on the private desktop.
+
+  assistive_program.py list             every accessible thing, as JSON
+  assistive_program.py act NAME ACTION  does an action of the thing of that name
+"""
+
+import json
+import sys
+import warnings
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+# The names of the bindings that Debian 12 has are old ones for newer releases.
+warnings.simplefilter("ignore")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+STATES = {
+    "selected": Atspi.StateType.SELECTED,
+    "focused": Atspi.StateType.FOCUSED,
+    "focusable": Atspi.StateType.FOCUSABLE,
+    "showing": Atspi.StateType.SHOWING,
+}
+
+
+def program():
+    desktop = Atspi.get_desktop(0)
+    # What Qt puts into the cache holds no children.
+    desktop.set_cache_mask(Atspi.Cache.NONE)
+    for index in range(desktop.get_child_count()):
+        child = desktop.get_child_at_index(index)
+        if child and child.get_name() == "vantle":
+            return child
+    return None
+
+
+def descendants(item):
+    for index in range(item.get_child_count()):
+        child = item.get_child_at_index(index)
+        if child is None:
+            continue
+        yield child
+        yield from descendants(child)
+
+
+def actions(item):
+    return [Atspi.Action.get_action_name(item, i) for i in range(Atspi.Action.get_n_actions(item))]
+
+
+def described(item):
+    states = item.get_state_set()
+    return {
+        "name": item.get_name(),
+        "description": item.get_description(),
+        "role": item.get_role_name(),
+        "states": [name for name, state in STATES.items() if states.contains(state)],
+        "actions": actions(item) if item.get_action_iface() else [],
+    }
+
+
+def act(found, name, action):
+    for item in found:
+        if item.get_name() == name and item.get_action_iface():
+            index = [one.lower() for one in actions(item)].index(action.lower())
+            return Atspi.Action.do_action(item, index)
+    return False
+
+
+def main():
+    root = program()
+    found = list(descendants(root)) if root else []
+    if sys.argv[1] == "list":
+        print(json.dumps([described(item) for item in found]))
+        return 0
+    return 0 if act(found, *sys.argv[2:]) else 1
+
+
+try:
+    sys.exit(main())
+except GLib.Error as gone:
+    # Something left the card while it was looked at.
+    print(gone)
+    sys.exit(75)
