@@ -1,6 +1,6 @@
-// How long the card's frames take on this display: its arrival, a tile's, a removal, and a row of 40
-// tiles that scrolls. For each: the work of a frame (from its animations to its last pixel handed
-// over), the time between frames, and the processor time of the whole process.
+// How long the card's frames take on this display: its arrival, a tile's, a removal, and a row of
+// 40 tiles that scrolls. For each: the work of a frame (from its animations to its last pixel
+// handed over), the time between frames, and the processor time of the whole process.
 
 #include <sys/resource.h>
 
@@ -56,10 +56,12 @@ public:
     Stage() {
         panel.setFrame(CardLayout::windowFrame(PanelCorner::bottomRight, visibleFrame()));
         panel.orderFrontRegardless();
-        QObject::connect(&panel.window(), &QQuickWindow::afterAnimating, &panel,
-                         [this] { begun_ = clock_.nsecsElapsed(); }, Qt::DirectConnection);
-        QObject::connect(&panel.window(), &QQuickWindow::frameSwapped, &panel, [this] { ended(); },
-                         Qt::DirectConnection);
+        QObject::connect(
+            &panel.window(), &QQuickWindow::afterAnimating, &panel,
+            [this] { begun_ = clock_.nsecsElapsed(); }, Qt::DirectConnection);
+        QObject::connect(
+            &panel.window(), &QQuickWindow::frameSwapped, &panel, [this] { ended(); },
+            Qt::DirectConnection);
         clock_.start();
     }
 
@@ -76,11 +78,11 @@ public:
             QTimer::singleShot(150, &loop, &QEventLoop::quit);
             loop.exec();
         } while (drawn_);
-        std::printf("%-24s %4zu frames  work %5.1f ms (95 %%: %5.1f, worst %5.1f)  apart %5.1f ms "
-                    "(95 %%: %5.1f)  processor %5.0f ms\n",
-                    what, work_.values.size(), work_.part(0.5), work_.part(0.95), work_.part(1),
-                    intervals_.part(0.5), intervals_.part(0.95),
-                    processorMilliseconds() - before);
+        std::printf(
+            "%-24s %4zu frames  work %5.1f ms (95 %%: %5.1f, worst %5.1f)  apart %5.1f ms "
+            "(95 %%: %5.1f)  processor %5.0f ms\n",
+            what, work_.values.size(), work_.part(0.5), work_.part(0.95), work_.part(1),
+            intervals_.part(0.5), intervals_.part(0.95), processorMilliseconds() - before);
     }
 
     QObject* row() { return panel.window().findChild<QObject*>(QStringLiteral("tileRow")); }
@@ -143,9 +145,8 @@ int main(int argc, char** argv) {
     const auto some = std::vector(all.begin(), all.end() - 1);
     stage.measure("to 39 tiles", [&] { state.captures.set(some); });
     stage.measure("the 40th tile arrives", [&] { state.captures.set(all); });
-    stage.measure("the row scrolls", [&] {
-        QMetaObject::invokeMethod(stage.row(), "scrollTo", Q_ARG(QVariant, 0));
-    });
+    stage.measure("the row scrolls",
+                  [&] { QMetaObject::invokeMethod(stage.row(), "scrollTo", Q_ARG(QVariant, 0)); });
     all.erase(all.begin() + 2);
     stage.measure("a tile is removed", [&] { state.captures.set(all); });
     stage.measure("the card leaves", [&] { state.visible.set(false); });

@@ -29,8 +29,8 @@ public:
     /// What the launcher or a second start can ask for by name: the panel takes the keyboard.
     static constexpr auto focusPanelAction = "focus-panel";
 
-    /// Hands over to a copy that runs already: asks that one for `action`, or brings it forward when
-    /// that is empty, and terminates this one. False then: launching must not go on.
+    /// Hands over to a copy that runs already: asks that one for `action`, or brings it forward
+    /// when that is empty, and terminates this one. False then: launching must not go on.
     bool applicationWillFinishLaunching(const std::string& action = {});
 
     /// Connects the components and starts watching, or the onboarding on the first run.

@@ -21,9 +21,9 @@ public:
     /// copy that asks first becomes the one that others find.
     virtual bool anotherCopyIsRunning() = 0;
 
-    /// Asks that copy for an action; it is told through its own `onAction`. Without a name, or where
-    /// there is no session bus, it is brought forward and told through `onReopen`. Returns when it
-    /// was told.
+    /// Asks that copy for an action; it is told through its own `onAction`. Without a name, or
+    /// where there is no session bus, it is brought forward and told through `onReopen`. Returns
+    /// when it was told.
     virtual void activateOtherCopy(const std::string& action = {}) = 0;
 
     /// Brings the windows of this copy before those of all other programs.

@@ -42,8 +42,8 @@ int main(int argc, char** argv) {
     const QStringList arguments = QGuiApplication::arguments();
     if (application.anotherCopyIsRunning()) {
         const auto action = arguments.indexOf(QStringLiteral("--action"));
-        application.activateOtherCopy(
-            action < 0 ? std::string() : arguments.value(action + 1).toStdString());
+        application.activateOtherCopy(action < 0 ? std::string()
+                                                 : arguments.value(action + 1).toStdString());
         say("second");
         return 0;
     }

@@ -172,8 +172,7 @@ TEST_P(CopiesMeet, ALaterCopyAsksTheFirstForAnAction) {
             session.startCopy({QStringLiteral("--action"), QString::fromLatin1(action)});
         EXPECT_EQ(later->line(), "second");
         EXPECT_EQ(later->errors(), "");
-        EXPECT_EQ(first->line(),
-                  GetParam() == Meeting::onBus ? onBus : "reopened without windows");
+        EXPECT_EQ(first->line(), GetParam() == Meeting::onBus ? onBus : "reopened without windows");
     }
 }
 

@@ -28,9 +28,7 @@ protected:
     PortalAppearanceTest() : portal(bus.connect(name(QStringLiteral("portal")))) {}
 
     /// Connections are known by name in the whole process.
-    static QString name(const QString& role) {
-        return role + QUuid::createUuid().toString();
-    }
+    static QString name(const QString& role) { return role + QUuid::createUuid().toString(); }
     QVariant rgb(double red, double green, double blue) {
         QDBusArgument structure;
         structure.beginStructure();
@@ -39,7 +37,9 @@ protected:
         return QVariant::fromValue(structure);
     }
     const DesktopLook& look() {
-        if (!backend) backend = std::make_unique<PortalAppearance>(bus.connect(name(QStringLiteral("client"))));
+        if (!backend)
+            backend =
+                std::make_unique<PortalAppearance>(bus.connect(name(QStringLiteral("client"))));
         return backend->look.value();
     }
     void set(const char* key, const QVariant& value) {

@@ -73,8 +73,7 @@ TEST_F(MarqueeTest, AThumbnailScrolledOutOfSightIsNotSelected) {
 TEST_F(MarqueeTest, AnEqualSelectionIsNotAnnounced) {
     drag({{5, 5}, {50, 50}});
     int announcements = 0;
-    const auto subscription =
-        state->selected.observeChanges([&](const auto&) { ++announcements; });
+    const auto subscription = state->selected.observeChanges([&](const auto&) { ++announcements; });
     drag({{5, 5}, {60, 60}});
     EXPECT_EQ(announcements, 0);
 }

@@ -1,9 +1,9 @@
-#include "panel/Spring.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+
+#include "panel/Spring.h"
 
 namespace vantle {
 namespace {

@@ -1,9 +1,9 @@
-#include "panel/views/Appearance.h"
-
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
 #include <QPalette>
+
+#include "panel/views/Appearance.h"
 
 namespace vantle {
 namespace {

@@ -27,9 +27,11 @@ ImagePointer landscape(const std::string& name, Size size) {
     const double unit = std::min(size.width, size.height);
     painter.drawEllipse(QPointF(size.width * 0.7, size.height * 0.35), unit * 0.13, unit * 0.13);
     painter.setBrush(QColor::fromHsv((hue + 20) % 360, 150, 160));
-    painter.drawEllipse(QPointF(size.width * 0.25, size.height * 1.1), size.width * 0.5, unit * 0.5);
+    painter.drawEllipse(QPointF(size.width * 0.25, size.height * 1.1), size.width * 0.5,
+                        unit * 0.5);
     painter.setBrush(QColor::fromHsv((hue + 10) % 360, 170, 110));
-    painter.drawEllipse(QPointF(size.width * 0.8, size.height * 1.15), size.width * 0.5, unit * 0.4);
+    painter.drawEllipse(QPointF(size.width * 0.8, size.height * 1.15), size.width * 0.5,
+                        unit * 0.4);
     painter.end();
     auto image = std::make_shared<Image>();
     image->pixelsWide = picture.width();

@@ -11,7 +11,6 @@ namespace vantle {
 CapturePointer capture(const std::string& name, Size pixels = {}, Date date = {});
 
 /// The same for a recording.
-CapturePointer recording(const std::string& name, double seconds, Size pixels = {},
-                         Date date = {});
+CapturePointer recording(const std::string& name, double seconds, Size pixels = {}, Date date = {});
 
 }  // namespace vantle

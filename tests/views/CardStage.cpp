@@ -15,7 +15,9 @@ void CardStage::recordRequests() {
             asked.push_back(std::string(what) + " " + one->fileName());
         };
     };
-    const auto onPanel = [this](const char* what) { return [this, what] { asked.push_back(what); }; };
+    const auto onPanel = [this](const char* what) {
+        return [this, what] { asked.push_back(what); };
+    };
     actions.close = onCapture("close");
     actions.closeAll = onPanel("close all");
     actions.open = onCapture("open");

@@ -50,8 +50,8 @@ QImage onPaper(const Scene& scene, const QImage& wallpaper) {
     QImage picture = wallpaper;
     QPainter painter(&picture);
     painter.drawImage(QPointF(-part.x() * scale, -part.y() * scale),
-                      QImage(panel.constBits(), panel.width(), panel.height(),
-                             panel.bytesPerLine(), QImage::Format_ARGB32_Premultiplied));
+                      QImage(panel.constBits(), panel.width(), panel.height(), panel.bytesPerLine(),
+                             QImage::Format_ARGB32_Premultiplied));
     return picture;
 }
 

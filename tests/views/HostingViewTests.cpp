@@ -66,9 +66,11 @@ TEST_F(HostingViewTest, HitsAreLoggedWhileDebugging) {
     click(QPointF(5, 6));
     click(frame(*tile(0)).center());
     Debug::set(false);
-    EXPECT_THAT(log.lines(), Contains("Vantle[hit]: pass-through at {5, 6} (card {{348, 146}, {438, 170}})"));
-    EXPECT_THAT(log.lines(), Contains(testing::MatchesRegex(
-                                 "Vantle\\[hit\\]: \\{[0-9.]+, [0-9.]+\\} -> vantle::DragThumbnailView")));
+    EXPECT_THAT(log.lines(),
+                Contains("Vantle[hit]: pass-through at {5, 6} (card {{348, 146}, {438, 170}})"));
+    EXPECT_THAT(log.lines(),
+                Contains(testing::MatchesRegex(
+                    "Vantle\\[hit\\]: \\{[0-9.]+, [0-9.]+\\} -> vantle::DragThumbnailView")));
     EXPECT_THAT(log.lines(), Contains("Vantle[dbg]: thumb mouseDown a.png"));
     EXPECT_THAT(log.lines(), Contains("Vantle[dbg]: thumb mouseUp dragging=false"));
 }

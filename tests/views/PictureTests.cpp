@@ -40,9 +40,9 @@ double difference(const QImage& a, const QImage& b) {
         for (int x = 0; x < a.width(); ++x) {
             const QRgb one = a.pixel(x, y);
             const QRgb other = b.pixel(x, y);
-            const int most = std::max({std::abs(qRed(one) - qRed(other)),
-                                       std::abs(qGreen(one) - qGreen(other)),
-                                       std::abs(qBlue(one) - qBlue(other))});
+            const int most =
+                std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                          std::abs(qBlue(one) - qBlue(other))});
             if (most > toleratedDifference) ++different;
         }
     return different / static_cast<double>(a.width() * a.height());

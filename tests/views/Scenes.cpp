@@ -112,8 +112,10 @@ const std::vector<Scene>& allScenes() {
         {"long-names",
          [](CardStage& stage) {
              const std::string name =
-                 "Screenshot from the quarterly review of the northern offices, 2026-11-21 12.14.14";
-             showOnly(stage, {capture(name + " (1)", screen), capture(name + " (2)", {1200, 1600})});
+                 "Screenshot from the quarterly review of the northern offices, 2026-11-21 "
+                 "12.14.14";
+             showOnly(stage,
+                      {capture(name + " (1)", screen), capture(name + " (2)", {1200, 1600})});
          }},
         {"right-to-left-names",
          [](CardStage& stage) {

@@ -1,11 +1,10 @@
-#include "panel/views/SpringValue.h"
-
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
 #include <cmath>
 
 #include "ManualFrames.h"
+#include "panel/views/SpringValue.h"
 
 namespace vantle {
 namespace {

@@ -164,9 +164,8 @@ TEST_F(TileTest, ActionsThatReachOverTheNextTileAreStillThoseOfTheirOwn) {
 TEST_F(TileTest, WithoutATimerThereIsNoPin) {
     showTwo();
     hover(*tile(0));
-    EXPECT_THAT(symbols(tile(0)),
-                testing::UnorderedElementsAre("doc.on.doc", "square.and.arrow.up", "folder",
-                                              "trash"));
+    EXPECT_THAT(symbols(tile(0)), testing::UnorderedElementsAre("doc.on.doc", "square.and.arrow.up",
+                                                                "folder", "trash"));
     settings.dismissAfter.set(10);
     EXPECT_EQ(symbols(tile(0)).size(), 5u);
     EXPECT_THAT(symbols(tile(0)), testing::Contains("pin"));
@@ -192,8 +191,8 @@ TEST_F(TileTest, EachActionAsksForItself) {
     for (const char* name : {"Pin (ignore the timer)", "Copy to clipboard", "Share…",
                              "Reveal in Finder", "Move to Trash"})
         click(*button(name, tile(1)));
-    EXPECT_THAT(asked, ElementsAre("toggle pin b.png", "copy b.png", "share b.png",
-                                   "reveal b.png", "trash b.png"));
+    EXPECT_THAT(asked, ElementsAre("toggle pin b.png", "copy b.png", "share b.png", "reveal b.png",
+                                   "trash b.png"));
 }
 
 TEST_F(TileTest, TheShareMenuPointsAtItsButton) {
@@ -245,8 +244,8 @@ TEST_F(TileTest, TapsAreLogged) {
     click(*button("Copy to clipboard", tile(0)));
     click(*item("CloseButton", tile(0)));
     Debug::set(false);
-    EXPECT_THAT(log.lines(), testing::IsSupersetOf({"Vantle[dbg]: tap icon doc.on.doc",
-                                                    "Vantle[dbg]: tap X"}));
+    EXPECT_THAT(log.lines(),
+                testing::IsSupersetOf({"Vantle[dbg]: tap icon doc.on.doc", "Vantle[dbg]: tap X"}));
 }
 
 TEST_F(TileTest, AnIconIsDimWhileItIsPressed) {
@@ -270,10 +269,12 @@ TEST_F(TileTest, AControlUnderThePointerSaysWhatItIsFor) {
     makeCard();
     hover(*button("Move to Trash"));
     const auto* tag = item("HelpTag");
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-        frames.advance(50);
-        return tag->opacity() == 1;
-    }, 20'000));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            frames.advance(50);
+            return tag->opacity() == 1;
+        },
+        20'000));
     EXPECT_EQ(text(item("QQuickText", item("HelpTag")), "text"), "Move to Trash");
     EXPECT_TRUE(QRectF(0, 0, 800, 330).contains(frame(*tag)));
 }

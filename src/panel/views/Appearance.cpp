@@ -74,7 +74,7 @@ QColor Appearance::popoverMaterial() const {
 }
 
 QColor Appearance::glassMaterial() const {
-    return isDark() ? QColor(32, 32, 36, 158) : QColor(246, 246, 250, 150);
+    return isDark() ? QColor(32, 32, 36, 200) : QColor(246, 246, 250, 190);
 }
 
 }  // namespace vantle

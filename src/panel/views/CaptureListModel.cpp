@@ -64,18 +64,12 @@ QVariant CaptureListModel::marks(const UUID& id, int role) const {
 }
 
 QHash<int, QByteArray> CaptureListModel::roleNames() const {
-    return {{captureIdRole, "captureId"},
-            {fileNameRole, "fileName"},
-            {positionRole, "position"},
-            {tileXRole, "tileX"},
-            {tileWidthRole, "tileWidth"},
-            {thumbnailHeightRole, "thumbnailHeight"},
-            {hasThumbnailRole, "hasThumbnail"},
-            {isRecordingRole, "isRecording"},
-            {durationTextRole, "durationText"},
-            {isSelectedRole, "isSelected"},
-            {isPinnedRole, "isPinned"},
-            {isCopiedRole, "isCopied"},
+    return {{captureIdRole, "captureId"},       {fileNameRole, "fileName"},
+            {positionRole, "position"},         {tileXRole, "tileX"},
+            {tileWidthRole, "tileWidth"},       {thumbnailHeightRole, "thumbnailHeight"},
+            {hasThumbnailRole, "hasThumbnail"}, {isRecordingRole, "isRecording"},
+            {durationTextRole, "durationText"}, {isSelectedRole, "isSelected"},
+            {isPinnedRole, "isPinned"},         {isCopiedRole, "isCopied"},
             {isLeavingRole, "isLeaving"}};
 }
 
@@ -103,7 +97,8 @@ void CaptureListModel::markLeaving() {
     for (Row& row : rows_) row.isLeaving = positionOf(row.capture->id()) < 0;
 }
 
-/// Brings in the rows of those that stay, in their order; the others keep their places between them.
+/// Brings in the rows of those that stay, in their order; the others keep their places between
+/// them.
 void CaptureListModel::bringIntoOrder(std::vector<Row> staying) {
     int row = 0;
     for (Row& wanted : staying) {
@@ -177,9 +172,8 @@ void CaptureListModel::announce(const QList<int>& roles) {
 }
 
 CapturePointer CaptureListModel::capture(const QString& captureId) const {
-    const auto found =
-        std::ranges::find(rows_, captureId.toStdString(),
-                          [](const Row& row) { return row.capture->id().text(); });
+    const auto found = std::ranges::find(rows_, captureId.toStdString(),
+                                         [](const Row& row) { return row.capture->id().text(); });
     return found == rows_.end() ? nullptr : found->capture;
 }
 

@@ -28,7 +28,8 @@ void DragThumbnailView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void DragThumbnailView::mouseReleaseEvent(QMouseEvent* event) {
-    Debug::log([this] { return std::string("thumb mouseUp dragging=") + (dragging_ ? "true" : "false"); });
+    Debug::log(
+        [this] { return std::string("thumb mouseUp dragging=") + (dragging_ ? "true" : "false"); });
     const bool isClick = mouseDownPoint_ && !dragging_ && contains(event->position());
     mouseDownPoint_.reset();
     if (!isClick) return;

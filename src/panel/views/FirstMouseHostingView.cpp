@@ -44,7 +44,8 @@ void FirstMouseHostingView::mouseDown(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton || isTaken(event)) return;
     downPoint_ = event.scenePosition();
     marqueeActive_ = false;
-    Debug::log([&] { return "host mouseDown at " + pointText(event.scenePosition()).toStdString(); });
+    Debug::log(
+        [&] { return "host mouseDown at " + pointText(event.scenePosition()).toStdString(); });
 }
 
 void FirstMouseHostingView::mouseDragged(const QMouseEvent& event) {

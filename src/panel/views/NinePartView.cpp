@@ -79,9 +79,9 @@ QSGNode* NinePartView::updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) 
     Q_UNUSED(data)
     const double pixelsPerPoint = window()->effectiveDevicePixelRatio();
     const double room = (std::min(width(), height()) * pixelsPerPoint - 1) / 2;
-    const int corner =
-        std::max(1, static_cast<int>(std::min(std::ceil(cornerLength() * pixelsPerPoint),
-                                              std::floor(room))));
+    const int corner = std::max(
+        1,
+        static_cast<int>(std::min(std::ceil(cornerLength() * pixelsPerPoint), std::floor(room))));
     auto* node = static_cast<NinePartNode*>(old);
     if (!node || drawnPixelsPerPoint_ != pixelsPerPoint || drawnCorner_ != corner) {
         delete node;

@@ -35,8 +35,7 @@ void setBlurBehind(QWindow& window, const QRegion& region) {
         return;
     }
     std::vector<uint32_t> numbers;
-    for (const auto& [left, top, width, height] :
-         x11::inPixels(region, window.devicePixelRatio()))
+    for (const auto& [left, top, width, height] : x11::inPixels(region, window.devicePixelRatio()))
         for (const int part : {int{left}, int{top}, int{width}, int{height}})
             numbers.push_back(static_cast<uint32_t>(part));
     constexpr uint8_t bits = 32;

@@ -120,11 +120,9 @@ void DBusApplication::activateOtherCopy(const std::string& action) {
         if (!socket_->call()) systemLog("Vantle: the copy that runs does not answer");
         return;
     }
-    auto message = QDBusMessage::createMethodCall(identifier_, path_,
-                                                  QStringLiteral("org.freedesktop.Application"),
-                                                  action.empty()
-                                                      ? QStringLiteral("Activate")
-                                                      : QStringLiteral("ActivateAction"));
+    auto message = QDBusMessage::createMethodCall(
+        identifier_, path_, QStringLiteral("org.freedesktop.Application"),
+        action.empty() ? QStringLiteral("Activate") : QStringLiteral("ActivateAction"));
     if (!action.empty()) message << QString::fromStdString(action) << QVariantList();
     message << platformData();
     const auto reply = ask(message);

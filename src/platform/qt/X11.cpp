@@ -35,7 +35,9 @@ xcb_atom_t atom(const char* name) {
 }
 
 std::vector<xcb_rectangle_t> inPixels(const QRegion& region, double pixelsPerPoint) {
-    const auto pixels = [pixelsPerPoint](int points) { return std::lround(points * pixelsPerPoint); };
+    const auto pixels = [pixelsPerPoint](int points) {
+        return std::lround(points * pixelsPerPoint);
+    };
     std::vector<xcb_rectangle_t> rectangles;
     for (const QRect& rect : region)
         rectangles.push_back({static_cast<int16_t>(pixels(rect.x())),
