@@ -33,13 +33,17 @@ class DesktopFailure(RuntimeError):
 class PrivateDesktop:
     """Starts on entering a with statement and is gone, with all its processes, after it."""
 
-    def __init__(self, size=(1440, 900), compositor=True, tray=True, window_manager=("openbox",)):
+    def __init__(self, size=(1440, 900), compositor=True, tray=True, window_manager=("openbox",),
+                 environment=None, configuration=None):
+        """configuration: the contents of files in XDG_CONFIG_HOME, by their names."""
         self.size = size
         self.screen = None
         self.environment = {}
         self._compositor = compositor
         self._tray = tray
         self._window_manager = window_manager
+        self._own_environment = environment or {}
+        self._configuration = configuration or {}
         self._mark = uuid.uuid4().hex
         self._processes = []
         self._connections = []
@@ -67,6 +71,7 @@ class PrivateDesktop:
     def _start(self):
         self._make_folders()
         self._choose_font()
+        self._write_configuration()
         self._start_server()
         self._start_bus()
         self._start_window_manager()
@@ -99,6 +104,7 @@ class PrivateDesktop:
             "XDG_STATE_HOME": str(home / ".local/state"),
             "XDG_CACHE_HOME": str(home / ".cache"),
             "XDG_SESSION_TYPE": "x11",
+            **self._own_environment,
         }
 
     def _choose_font(self):
@@ -106,6 +112,11 @@ class PrivateDesktop:
         settings = pathlib.Path(self.environment["XDG_CONFIG_HOME"], "fontconfig/fonts.conf")
         settings.parent.mkdir(parents=True)
         settings.write_text(FONT_SETTINGS)
+
+    def _write_configuration(self):
+        folder = pathlib.Path(self.environment["XDG_CONFIG_HOME"])
+        for name, text in self._configuration.items():
+            (folder / name).write_text(text)
 
     def start(self, *arguments, **options):
         """Starts a program on this desktop; it is ended with the desktop at the latest."""

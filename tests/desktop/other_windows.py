@@ -33,6 +33,18 @@ class OtherWindow:
         wait_until(lambda: self._screen.active_window() == self.number, "the other window is active")
         wait_until(lambda: self._screen.focused_window() == self.number, "the other window has the focus")
 
+    def paint_stripes(self, width=12, colours=(0x1E285A, 0xF0C850)):
+        """Fills it with upright stripes."""
+        size = self._window.get_geometry()
+        pattern = self._window.create_pixmap(2 * width, 1, size.depth)
+        brush = pattern.create_gc()
+        for number, colour in enumerate(colours):
+            brush.change(foreground=colour)
+            pattern.fill_rectangle(brush, number * width, 0, width, 1)
+        self._window.change_attributes(background_pixmap=pattern)
+        self._window.clear_area()
+        self._display.sync()
+
     @property
     def number(self):
         return self._window.id

@@ -3,6 +3,10 @@
 import pytest
 
 import panel_checks
+from other_windows import OtherWindow
+from privatedesktop import Rectangle, wait_until
+
+BLUR_PROPERTY = "_KDE_NET_WM_BLUR_BEHIND_REGION"
 
 CHECKS = [
     panel_checks.check_above_a_full_screen_window,
@@ -31,3 +35,31 @@ def test_kwin(desktop, vantle, folder, check):
 @pytest.mark.desktop(window_manager=["mutter", "--x11"], compositor=False)
 def test_mutter(desktop, vantle, folder, check):
     check(desktop, vantle, folder)
+
+
+KWIN_WITH_BLUR = {
+    "window_manager": ["kwin_x11"],
+    "compositor": False,
+    "environment": {"KWIN_COMPOSE": "O2", "LIBGL_ALWAYS_SOFTWARE": "1"},
+    "configuration": {"kwinrc": "[Plugins]\nblurEnabled=true\n[Compositing]\nEnabled=true\n"},
+}
+
+
+@pytest.mark.desktop(**KWIN_WITH_BLUR)
+def test_kwin_blurs_what_is_behind_the_glass(desktop, vantle, folder):
+    screen = desktop.screen
+    wait_until(lambda: screen.root_property(BLUR_PROPERTY) is not None, "KWin offers its blur")
+    behind = OtherWindow(desktop, Rectangle(0, 0, *desktop.size), is_full_screen=True)
+    behind.paint_stripes()
+    vantle.start_watching()
+    panel = panel_checks.show_one(desktop, folder)
+    card = panel_checks.wait_for_card(desktop, panel)
+    # Under the tile, left of its actions, there is nothing but glass; beside the card, stripes.
+    glass = Rectangle(card.x + 30, card.bottom - 7, 200, 3)
+    beside = glass.moved(-300, 0)
+
+    def contrast(area):
+        darkest, brightest = screen.screenshot(area).convert("L").getextrema()
+        return brightest - darkest
+
+    wait_until(lambda: contrast(beside) > 120 and contrast(glass) < 12, "the stripes are blurred")
