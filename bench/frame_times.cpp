@@ -13,13 +13,7 @@
 #include <functional>
 #include <vector>
 
-#include "fakes/FakeApplication.h"
-#include "fakes/FakeFileSystem.h"
-#include "fakes/FakeLoginItem.h"
-#include "fakes/FakePreferencesDomain.h"
-#include "fakes/FakeProcessLauncher.h"
-#include "fakes/FakeUserDefaults.h"
-#include "fakes/VirtualTime.h"
+#include "fakes/SettingsOnFakes.h"
 #include "panel/CardLayout.h"
 #include "panel/views/CapturePanel.h"
 #include "platform/qt/QtGeometry.h"
@@ -51,7 +45,7 @@ struct Series {
 };
 
 /// A panel on the display and the frames that it draws.
-class Stage {
+class Stage : public fakes::SettingsOnFakes {
 public:
     Stage() {
         panel.setFrame(CardLayout::windowFrame(PanelCorner::bottomRight, visibleFrame()));
@@ -87,17 +81,7 @@ public:
 
     QObject* row() { return panel.window().findChild<QObject*>(QStringLiteral("tileRow")); }
 
-    fakes::VirtualTime time;
     fakes::VirtualClock wallClock{time};
-    fakes::ManualQueue queue{time};
-    fakes::FakeFileSystem files{queue};
-    fakes::FakePreferencesDomain domain;
-    fakes::FakeProcessLauncher launcher;
-    fakes::FakeUserDefaults defaults;
-    fakes::FakeLoginItem loginItem;
-    fakes::FakeApplication application;
-    Settings settings{defaults, SystemScreenshotPrefs(files, domain, launcher), loginItem,
-                      application};
     PanelState state;
     CapturePanel panel{PanelModel::Context{state, settings, wallClock, {}}};
 

@@ -7,15 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "fakes/FakeApplication.h"
-#include "fakes/FakeFileSystem.h"
-#include "fakes/FakeLoginItem.h"
 #include "fakes/FakePanelWindow.h"
-#include "fakes/FakePreferencesDomain.h"
-#include "fakes/FakeProcessLauncher.h"
 #include "fakes/FakeScreens.h"
-#include "fakes/FakeUserDefaults.h"
-#include "fakes/VirtualTime.h"
+#include "fakes/SettingsOnFakes.h"
 #include "panel/CapturePanelController.h"
 #include "panel/CardLayout.h"
 
@@ -23,7 +17,7 @@ namespace vantle::fakes {
 
 /// A panel controller on virtual time with a panel that stands nowhere, and the state and actions
 /// that its card would have.
-class PanelFixture : public testing::Test {
+class PanelFixture : public testing::Test, protected SettingsOnFakes {
 protected:
     static CapturePointer capture(const std::string& name) {
         return Capture::create(Url::file("/shots/" + name + ".png"), VirtualClock::epoch);
@@ -56,18 +50,8 @@ protected:
     void hover(bool hovering) { state->hovering.set(hovering); }
     void wait(double seconds) { time.advance(Seconds(seconds)); }
 
-    VirtualTime time;
     ManualScheduler scheduler{time};
-    ManualQueue queue{time};
-    FakeFileSystem files{queue};
-    FakePreferencesDomain domain;
-    FakeProcessLauncher launcher;
-    FakeUserDefaults defaults;
-    FakeLoginItem loginItem;
-    FakeApplication application;
     FakeScreens screens;
-    Settings settings{defaults, SystemScreenshotPrefs(files, domain, launcher), loginItem,
-                      application};
     std::map<std::string, std::string> environment;
     FileActions fileActions;
 

@@ -9,13 +9,7 @@
 
 #include "CapturesOfAnySize.h"
 #include "ManualFrames.h"
-#include "fakes/FakeApplication.h"
-#include "fakes/FakeFileSystem.h"
-#include "fakes/FakeLoginItem.h"
-#include "fakes/FakePreferencesDomain.h"
-#include "fakes/FakeProcessLauncher.h"
-#include "fakes/FakeUserDefaults.h"
-#include "fakes/VirtualTime.h"
+#include "fakes/SettingsOnFakes.h"
 #include "panel/PanelState.h"
 #include "panel/views/CapturePanel.h"
 
@@ -23,7 +17,7 @@ namespace vantle {
 
 /// A panel with its card, on a screen that nobody sees and under a clock that the test turns, and a
 /// record of what it asks for.
-class CardStage {
+class CardStage : public fakes::SettingsOnFakes {
 public:
     CardStage();
 
@@ -63,7 +57,6 @@ public:
     }
 
     ManualFrames frames;
-    fakes::VirtualTime time;
     fakes::VirtualClock clock{time};
     PanelState state;
     CardActions actions;
@@ -71,15 +64,6 @@ public:
     Rect shareAnchor;
     std::unique_ptr<CapturePanel> panel;
 
-    fakes::ManualQueue queue{time};
-    fakes::FakeFileSystem files{queue};
-    fakes::FakePreferencesDomain domain;
-    fakes::FakeProcessLauncher launcher;
-    fakes::FakeUserDefaults defaults;
-    fakes::FakeLoginItem loginItem;
-    fakes::FakeApplication application;
-    Settings settings{defaults, SystemScreenshotPrefs(files, domain, launcher), loginItem,
-                      application};
     PanelModel::Rendering rendering = PanelModel::Rendering::glass;
 
 private:
