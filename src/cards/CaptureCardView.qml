@@ -15,7 +15,11 @@ FocusScope {
     // How far the card moves in from the near edge.
     readonly property real travel: Appearance.reducesMotion ? 0 : (card.width + panelPadding) * (panel.atRight ? 1 : -1)
 
+    // The pointer is over the card, or the user works on it with the keyboard.
+    readonly property bool isAttended: panel.isPresented && (hover.hovered || Window.active)
+
     focus: true
+    onIsAttendedChanged: panel.setHovering(isAttended)
 
     // For a panel that takes the keyboard.
     function focusNewest() {
@@ -71,15 +75,13 @@ FocusScope {
 
         // A card that is not there has no size to change from.
         onVisibleChanged: {
-            if (visible && !presence.value) {
-                wide.jumpTo(wide.target);
-                high.jumpTo(high.target);
-            }
+            if (!visible || presence.value) return;
+            wide.jumpTo(wide.target);
+            high.jumpTo(high.target);
         }
 
         HoverHandler {
             id: hover
-            onHoveredChanged: view.panel.setHovering(hovered)
         }
 
         ShadowView {

@@ -70,7 +70,10 @@ FocusScope {
         function onCountChanged() {
             if (row.panel.count === 0) return;
             // The newest is to be seen, whatever the user looked at before.
-            scrolled.target = row.farthest;
+            if (row.panel.isPresented)
+                scrolled.target = row.farthest;
+            else
+                scrolled.jumpTo(row.farthest);
             // The keyboard of a tile that goes is its neighbour's.
             if (row.activeFocus && !row.hasFocusedTile()) row.focusTile(row.focused);
         }
@@ -98,7 +101,8 @@ FocusScope {
                 id: tile
 
                 panel: row.panel
-                arrives: row.isComplete
+                // The first ones come with the card.
+                arrives: row.isComplete && row.panel.isPresented
                 nameGap: row.nameGap
                 seenFrom: scrolled.value - row.innerMargin + 4
                 seenTo: seenFrom + row.naturalWidth - 8

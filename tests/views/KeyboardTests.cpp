@@ -53,6 +53,12 @@ TEST_F(KeyboardTest, ArrowsMoveBetweenTilesAndStopAtTheEnds) {
     EXPECT_EQ(focused(), 2);
 }
 
+TEST_F(KeyboardTest, ACardInUseIsAttendedAsUnderThePointer) {
+    showThree();
+    EXPECT_TRUE(state.hovering.value());
+    EXPECT_TRUE(flag(item("ClearAllPill"), "isOffered"));
+}
+
 TEST_F(KeyboardTest, ReturnOpensSpaceSelectsDeleteTrashes) {
     showThree();
     key(Qt::Key_Left);

@@ -72,6 +72,36 @@ TEST_F(MotionTest, ATileGrowsIntoTheRow) {
     EXPECT_EQ(tile(2)->opacity(), 1);
 }
 
+TEST_F(MotionTest, TheFirstTileComesWithTheCardAndTheNextByItself) {
+    state.visible.set(false);
+    makeCard();
+    state.captures.set({a});
+    state.visible.set(true);
+    frames.advance(32);
+    EXPECT_EQ(tile(0)->scale(), 1);
+    EXPECT_EQ(tile(0)->opacity(), 1);
+    state.captures.set({a, b});
+    frames.advance(32);
+    EXPECT_LT(tile(1)->scale(), 1);
+}
+
+TEST_F(MotionTest, ACardThatComesAgainKnowsNothingOfTheOneBefore) {
+    std::vector<CapturePointer> many;
+    for (int i = 0; i < 12; ++i) many.push_back(capture(std::to_string(i)));
+    show(many);
+    makeCard();
+    state.visible.set(false);
+    rest();
+    state.captures.set({});
+    panel->orderOut();
+    panel->orderFrontRegardless();
+    state.captures.set({a});
+    state.visible.set(true);
+    frames.advance(32);
+    EXPECT_EQ(glassFrame().size(), QSizeF(328, 254));
+    EXPECT_EQ(frameIn(*tile(0), *item("TileRow")), QRectF(10, 10, 304, 190));
+}
+
 TEST_F(MotionTest, ATileThatLeavesShrinksAndFadesWhereItIs) {
     show({a, b, c});
     makeCard();
