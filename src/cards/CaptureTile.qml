@@ -206,8 +206,7 @@ FocusScope {
         maximumLineCount: 1
         horizontalAlignment: Text.AlignHCenter
         color: Appearance.secondary
-        // Half pixels can only be said in typographic points, of which an inch has 72.
-        font.pointSize: 10.5 * 72 / (Screen.logicalPixelDensity * 25.4)
+        font.pointSize: Appearance.fontPoints(10.5)
         font.weight: Font.Medium
     }
 }

@@ -10,13 +10,14 @@ from panel_checks import (
     check_on_every_workspace,
     check_stays_above_a_window_that_becomes_full_screen,
     check_stays_above_a_window_that_is_raised,
+    encoded,
     expected_frame,
     show_one,
     wait_for_card,
 )
-from pictures import NEUTRAL, mask_of, plain
-from privatedesktop import Rectangle, wait_until
-from watched_folder import png
+from pictures import NEUTRAL, count_patterns, mask_of, pattern, plain
+from privatedesktop import Program, Rectangle, wait_until
+from watched_folder import WatchedFolder, png
 
 MARGIN = 14
 
@@ -94,6 +95,32 @@ def test_no_black_rectangle_without_a_compositor(desktop, vantle, folder):
     for area in (beside, above):
         picture = screen.crop(area.box)
         assert mask_of(picture, NEUTRAL, tolerance=2).getextrema() == (255, 255)
+
+
+@pytest.mark.desktop(size=(2880, 1200))
+def test_screens_of_different_scales(desktop, binary):
+    """The panel goes to the screen with the pointer, and is as large there as its scale says."""
+    desktop.run("xrandr", "--setmonitor", "left", "1280/300x1200/300+0+0", "screen")
+    desktop.run("xrandr", "--setmonitor", "right", "1600/300x1200/300+1280+0", "none")
+    vantle = Program(binary, desktop, environment={"QT_SCREEN_SCALE_FACTORS": "left=1;right=2"})
+    vantle.write_settings()
+    vantle.start_watching()
+    folder = WatchedFolder(desktop.home / "Desktop", vantle)
+    pointer = desktop.screen.pointer
+    expected = {200: Rectangle(480, 870, 800, 330), 2000: Rectangle(1280, 540, 1600, 660)}
+    try:
+        for number, x in enumerate((200, 2000, 200)):
+            pointer.move(x, 300)
+            folder.save(f"{number}.png", encoded(pattern()))
+            panel = wait_until(desktop.screen.panel, "the panel appears")
+            wait_until(lambda: desktop.screen.panel().frame == expected[x], "it stands there")
+            wait_until(
+                lambda: count_patterns(desktop.screen.screenshot(expected[x])) == number + 1,
+                "it shows all tiles",
+            )
+            assert desktop.screen.panel().number == panel.number
+    finally:
+        vantle.stop()
 
 
 def test_countdown_dismisses(desktop, vantle, folder):

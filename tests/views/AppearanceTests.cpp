@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -66,6 +67,19 @@ TEST_F(AppearanceTest, TheAccentIsTheDesktopsOrThePalettesHighlight) {
     EXPECT_EQ(appearance.accent(), QColor(Qt::magenta));
     desktop.look.set({.accent = Color{1, 0.5, 0}});
     EXPECT_EQ(appearance.accent().rgb(), qRgb(255, 128, 0));
+}
+
+TEST_F(AppearanceTest, FontsCanHaveHalfPixels) {
+    QFont small;
+    small.setPointSizeF(Appearance::fontPoints(10.5));
+    QFont smaller;
+    smaller.setPointSizeF(Appearance::fontPoints(10));
+    QFont whole;
+    whole.setPixelSize(10);
+    EXPECT_EQ(QFontMetricsF(smaller).horizontalAdvance(QStringLiteral("Screenshot")),
+              QFontMetricsF(whole).horizontalAdvance(QStringLiteral("Screenshot")));
+    EXPECT_GT(QFontMetricsF(small).horizontalAdvance(QStringLiteral("Screenshot")),
+              QFontMetricsF(whole).horizontalAdvance(QStringLiteral("Screenshot")));
 }
 
 TEST_F(AppearanceTest, LessMotionIsPassedOn) {

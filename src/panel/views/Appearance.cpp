@@ -1,6 +1,7 @@
 #include "panel/views/Appearance.h"
 
 #include <QEvent>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -36,6 +37,13 @@ Appearance::Appearance(QObject* parent) : QObject(parent) {
         look_ = look;
         emit changed();
     });
+}
+
+double Appearance::fontPoints(double pixels) {
+    constexpr double pointsInAnInch = 72;
+    QFont oneInch;
+    oneInch.setPointSizeF(pointsInAnInch);
+    return pixels * pointsInAnInch / QFontInfo(oneInch).pixelSize();
 }
 
 bool Appearance::eventFilter(QObject* object, QEvent* event) {

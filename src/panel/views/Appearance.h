@@ -44,6 +44,10 @@ public:
     QColor glassMaterial() const;
     bool reducesMotion() const { return look_.reducesMotion; }
 
+    /// What a font is to be told so that it is so many pixels large: fonts know whole pixels, or
+    /// typographic points by the resolution of the first screen, whichever they are drawn on.
+    Q_INVOKABLE static double fontPoints(double pixels);
+
     bool eventFilter(QObject* object, QEvent* event) override;
 
 signals:
