@@ -6,11 +6,18 @@ Item {
     id: appearing
 
     property bool isOffered: false
+    // 0 for what is made only when it is offered, and yet is to be seen coming.
+    property alias from: presence.from
 
-    opacity: isOffered ? 1 : 0
-    scale: isOffered || Appearance.reducesMotion ? 1 : 0.6
+    opacity: Math.min(Math.max(presence.value, 0), 1)
+    scale: Appearance.reducesMotion ? 1 : 0.6 + 0.4 * presence.value
     visible: opacity > 0
 
-    Behavior on opacity { NumberAnimation { duration: 140; easing.type: Easing.OutQuad } }
-    Behavior on scale { NumberAnimation { duration: 180; easing.type: Easing.OutBack; easing.overshoot: 1.2 } }
+    Spring {
+        id: presence
+
+        target: appearing.isOffered ? 1 : 0
+        response: 0.3
+        dampingFraction: 0.7
+    }
 }

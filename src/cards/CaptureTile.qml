@@ -194,19 +194,12 @@ FocusScope {
         restoreMode: Binding.RestoreNone
     }
 
-    Text {
+    TileName {
         id: name
 
         y: high.value + tile.nameGap
         width: tile.width
         visible: tile.compact
         text: tile.fileName
-        textFormat: Text.PlainText
-        elide: Text.ElideMiddle
-        maximumLineCount: 1
-        horizontalAlignment: Text.AlignHCenter
-        color: Appearance.secondary
-        font.pointSize: Appearance.fontPoints(10.5)
-        font.weight: Font.Medium
     }
 }

@@ -9,6 +9,7 @@ Appearing {
 
     width: 22
     height: 22
+    from: 0
 
     PlateView {
         anchors.fill: parent

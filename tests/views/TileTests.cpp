@@ -96,7 +96,7 @@ TEST_F(TileTest, ThumbnailsKeepTheirShadowAndTheirName) {
     EXPECT_EQ(shadow->property("blur").toDouble(), 6);
     EXPECT_EQ(shadow->property("drop").toDouble(), 2);
     EXPECT_EQ(shadow->property("strength").toDouble(), 0.25);
-    const auto* name = items("QQuickText", tile(0)).back();
+    const auto* name = item("TileName", tile(0));
     EXPECT_EQ(text(name, "text"), "a.png");
     EXPECT_EQ(name->width(), 202);
     EXPECT_EQ(frameIn(*name, *tile(0)).top(), 126 + 6);

@@ -1,0 +1,13 @@
+import QtQuick
+import Vantle.Panel
+
+// What the capture of a tile is called, on one line.
+Text {
+    textFormat: Text.PlainText
+    elide: Text.ElideMiddle
+    maximumLineCount: 1
+    horizontalAlignment: Text.AlignHCenter
+    color: Appearance.secondary
+    font.pointSize: Appearance.fontPoints(10.5)
+    font.weight: Font.Medium
+}
