@@ -26,8 +26,8 @@ Appearing {
         strokeWidth: 2.2
     }
 
-    HoverHandler {
-        onHoveredChanged: Help.follow(button, hovered, press.name)
+    HelpHover {
+        help: press.name
     }
 
     Press {

@@ -36,16 +36,14 @@ Item {
     }
 
     DragThumbnailView {
-        id: source
-
         anchors.fill: parent
         captureId: thumbnail.captureId
         fileName: thumbnail.fileName
         onClicked: thumbnail.panel.open(thumbnail.captureId)
         onSelectionToggled: thumbnail.panel.toggleSelect(thumbnail.captureId)
+    }
 
-        HoverHandler {
-            onHoveredChanged: Help.follow(thumbnail, hovered, qsTr("Drag into any app, or click to open. ⌘-click to select."))
-        }
+    HelpHover {
+        help: qsTr("Drag into any app, or click to open. ⌘-click to select.")
     }
 }

@@ -32,9 +32,9 @@ Item {
         opacity: icon.pressed ? 0.5 : 0.9
     }
 
-    HoverHandler {
+    HelpHover {
         id: hover
-        onHoveredChanged: Help.follow(icon, hovered, icon.help)
+        help: icon.help
     }
 
     Press {

@@ -279,5 +279,17 @@ TEST_F(TileTest, AControlUnderThePointerSaysWhatItIsFor) {
     EXPECT_TRUE(QRectF(0, 0, 800, 330).contains(frame(*tag)));
 }
 
+TEST_F(TileTest, WhatIsSaidAboutATileGoesWithIt) {
+    showTwo();
+    hover(*tile(1));
+    hover(*button("Dismiss", tile(1)));
+    const auto* tag = item("HelpTag");
+    ASSERT_EQ(tag->opacity(), 1);
+    const auto* words = item("QQuickText", item("HelpTag"));
+    ASSERT_EQ(text(words, "text"), "Dismiss");
+    show({a});
+    EXPECT_TRUE(tag->opacity() == 0 || text(words, "text") != "Dismiss");
+}
+
 }  // namespace
 }  // namespace vantle
