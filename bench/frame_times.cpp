@@ -51,10 +51,10 @@ public:
         panel.setFrame(CardLayout::windowFrame(PanelCorner::bottomRight, visibleFrame()));
         panel.orderFrontRegardless();
         QObject::connect(
-            &panel.window(), &QQuickWindow::afterAnimating, &panel,
+            &panel.window(), &QQuickWindow::afterAnimating, &panel.window(),
             [this] { begun_ = clock_.nsecsElapsed(); }, Qt::DirectConnection);
         QObject::connect(
-            &panel.window(), &QQuickWindow::frameSwapped, &panel, [this] { ended(); },
+            &panel.window(), &QQuickWindow::frameSwapped, &panel.window(), [this] { ended(); },
             Qt::DirectConnection);
         clock_.start();
     }

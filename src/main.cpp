@@ -112,9 +112,9 @@ int main(int argc, char** argv) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
 
     Platform platform = makePlatform();
+    Appearance::follow(platform.appearance.get());
     const auto delegate = AppDelegate::create(
         platform, [&](PanelState& state, Settings& settings, CardActions actions) {
-            Appearance::follow(platform.appearance.get());
             return std::make_unique<CapturePanel>(PanelModel::Context{
                 state, settings, *platform.clock, std::move(actions), rendering(platform)});
         });

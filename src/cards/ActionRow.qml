@@ -19,6 +19,7 @@ Item {
             id: line
 
             required property string captureId
+            required property string fileName
             required property bool isPinned
             required property bool isCopied
             required property bool isLeaving
@@ -33,7 +34,7 @@ Item {
 
                 Text {
                     width: parent.width
-                    text: row.panel.fileName
+                    text: line.fileName
                     textFormat: Text.PlainText
                     elide: Text.ElideMiddle
                     maximumLineCount: 1

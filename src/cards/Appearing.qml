@@ -9,7 +9,7 @@ Item {
     // 0 for what is made only when it is offered, and yet is to be seen coming.
     property alias from: presence.from
 
-    opacity: Math.min(Math.max(presence.value, 0), 1)
+    opacity: presence.value
     scale: Appearance.reducesMotion ? 1 : 0.6 + 0.4 * presence.value
     visible: opacity > 0
 

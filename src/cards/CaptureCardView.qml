@@ -56,7 +56,7 @@ FocusScope {
         y: view.panel.atBottom ? view.height - height - view.panelPadding : view.panelPadding
         width: wide.value
         height: high.value
-        opacity: Math.min(Math.max(presence.value, 0), 1)
+        opacity: presence.value
         visible: view.panel.isPresented || presence.running
 
         ListSpring {
@@ -97,10 +97,8 @@ FocusScope {
         GlassBackdropView {
             id: glass
 
-            readonly property color background: Appearance.windowBackground
-
             anchors.fill: parent
-            fill: view.panel.rendersPlain ? Qt.rgba(background.r, background.g, background.b, 0.85)
+            fill: view.panel.rendersPlain ? Qt.alpha(Appearance.windowBackground, 0.85)
                   : isBlurred ? Appearance.glassMaterial : Appearance.popoverMaterial
             borderWidth: view.panel.rendersPlain ? 0 : 1
             borderColor: Qt.rgba(1, 1, 1, 0.18)

@@ -44,7 +44,7 @@ FocusScope {
     z: isAttended ? 1 : isLeaving ? -1 : 0
     width: wide.value
     height: high.value + (compact ? nameGap + name.height : 0)
-    opacity: Math.min(Math.max(presence.value, 0), 1)
+    opacity: presence.value
     scale: size.value
     activeFocusOnTab: true
     enabled: !isLeaving
@@ -117,8 +117,6 @@ FocusScope {
     }
 
     Loader {
-        id: selection
-
         anchors.fill: thumbnail
         opacity: tile.isSelected ? 1 : 0
         active: opacity > 0
@@ -129,7 +127,7 @@ FocusScope {
             cornerRadius: thumbnail.cornerRadius
             borderWidth: 3
             borderColor: Appearance.accent
-            fill: Qt.rgba(Appearance.accent.r, Appearance.accent.g, Appearance.accent.b, 0.18)
+            fill: Qt.alpha(Appearance.accent, 0.18)
         }
     }
 

@@ -8,15 +8,6 @@ QtObject {
     required property PanelModel panel
     required property TileRow row
 
-    // The tile that has the keyboard itself, not one of its buttons.
-    function currentTile() {
-        for (let position = 0; position < panel.count; ++position) {
-            const tile = row.tileAt(position);
-            if (tile && tile.activeFocus) return tile;
-        }
-        return null;
-    }
-
     function trash(tile) {
         if (tile.isSelected)
             panel.trashSelected();
@@ -63,7 +54,7 @@ QtObject {
     }
 
     function handle(event) {
-        const tile = currentTile();
+        const tile = row.focusedTile();
         if (event.key === Qt.Key_Escape) {
             goBack();
             event.accepted = true;

@@ -7,5 +7,4 @@ HoverHandler {
     required property string help
 
     onHoveredChanged: Help.follow(parent, hovered, help)
-    Component.onDestruction: Help.follow(parent, false, help)
 }

@@ -14,7 +14,7 @@ Item {
 
     width: actions.width + 2 * 6
     height: actions.height + 2 * 3
-    opacity: Math.min(Math.max(presence.value, 0), 1)
+    opacity: presence.value
     visible: opacity > 0
 
     transform: Translate {

@@ -58,10 +58,13 @@ FocusScope {
         reveal(tile);
     }
 
-    function hasFocusedTile() {
-        for (let position = 0; position < panel.count; ++position)
-            if (tileAt(position).activeFocus) return true;
-        return false;
+    // The tile that has the keyboard, itself or one of its buttons; null when none has.
+    function focusedTile() {
+        for (let position = 0; position < panel.count; ++position) {
+            const tile = tileAt(position);
+            if (tile && tile.activeFocus) return tile;
+        }
+        return null;
     }
 
     Connections {
@@ -75,7 +78,7 @@ FocusScope {
             else
                 scrolled.jumpTo(row.farthest);
             // The keyboard of a tile that goes is its neighbour's.
-            if (row.activeFocus && !row.hasFocusedTile()) row.focusTile(row.focused);
+            if (row.activeFocus && !row.focusedTile()) row.focusTile(row.focused);
         }
     }
 

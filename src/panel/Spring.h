@@ -20,7 +20,6 @@ public:
     Spring(const Animation& animation, State start, double target);
 
     State at(double seconds) const;
-    double target() const { return target_; }
 
     /// When the motion stays within `tolerance` (above 0) of the target for good.
     double settlingTime(double tolerance) const;

@@ -281,14 +281,13 @@ TEST_F(TileTest, AControlUnderThePointerSaysWhatItIsFor) {
 
 TEST_F(TileTest, WhatIsSaidAboutATileGoesWithIt) {
     showTwo();
-    hover(*tile(1));
-    hover(*button("Dismiss", tile(1)));
+    hover(*tile(0));
+    hover(*button("Dismiss", tile(0)));
     const auto* tag = item("HelpTag");
     ASSERT_EQ(tag->opacity(), 1);
-    const auto* words = item("QQuickText", item("HelpTag"));
-    ASSERT_EQ(text(words, "text"), "Dismiss");
-    show({a});
-    EXPECT_TRUE(tag->opacity() == 0 || text(words, "text") != "Dismiss");
+    // The card of one is so narrow that nothing of it is where the pointer is.
+    show({b});
+    EXPECT_EQ(tag->opacity(), 0);
 }
 
 }  // namespace

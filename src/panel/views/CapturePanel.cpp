@@ -79,7 +79,8 @@ CapturePanel::CapturePanel(PanelModel::Context context) : model_(std::move(conte
     };
     container_ = std::make_unique<PassthroughContainerView>(*view_);
     keyboard_ = std::make_unique<KeyboardFocus>(*view_);
-    connect(&model_, &PanelModel::isPresentedChanged, this, &CapturePanel::letGoOfKeyboard);
+    QObject::connect(&model_, &PanelModel::isPresentedChanged, view_.get(),
+                     [this] { letGoOfKeyboard(); });
 }
 
 CapturePanel::~CapturePanel() = default;
@@ -150,7 +151,7 @@ std::string CapturePanel::thumbnailFramesDescription() const {
 std::vector<VisibleThumbnail> CapturePanel::visibleThumbnails() const {
     std::vector<VisibleThumbnail> visible;
     for (const auto* thumbnail : thumbnails(*view_)) {
-        const auto capture = model_.list().capture(thumbnail->captureId());
+        const auto capture = model_.captures()->capture(thumbnail->captureId());
         if (!capture) continue;
         const QRectF frame = visibleRect(*thumbnail);
         visible.push_back(

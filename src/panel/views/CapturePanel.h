@@ -12,9 +12,7 @@ namespace vantle {
 
 /// The panel's window, with the card in it. Everything of the view toolkit is loaded with the first
 /// one that is made.
-class CapturePanel final : public QObject, public PanelWindow {
-    Q_OBJECT
-
+class CapturePanel final : public PanelWindow {
 public:
     explicit CapturePanel(PanelModel::Context context);
     ~CapturePanel() override;

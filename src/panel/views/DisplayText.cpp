@@ -13,6 +13,7 @@ struct Unit {
     std::chrono::seconds length;
     const char* past;
     const char* future;
+    int least = 1;  ///< How many of them it takes to be told in this one.
 };
 
 using namespace std::chrono_literals;
@@ -25,8 +26,8 @@ constexpr std::array units = {
          QT_TRANSLATE_NOOP("RelativeDate", "in %1 mo.")},
     Unit{std::chrono::weeks(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 wk. ago"),
          QT_TRANSLATE_NOOP("RelativeDate", "in %1 wk.")},
-    Unit{std::chrono::days(2), QT_TRANSLATE_NOOP("RelativeDate", "%1 days ago"),
-         QT_TRANSLATE_NOOP("RelativeDate", "in %1 days")},
+    Unit{std::chrono::days(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 days ago"),
+         QT_TRANSLATE_NOOP("RelativeDate", "in %1 days"), 2},
     Unit{std::chrono::days(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 day ago"),
          QT_TRANSLATE_NOOP("RelativeDate", "in %1 day")},
     Unit{1h, QT_TRANSLATE_NOOP("RelativeDate", "%1 hr. ago"),
@@ -36,12 +37,6 @@ constexpr std::array units = {
     Unit{1s, QT_TRANSLATE_NOOP("RelativeDate", "%1 sec. ago"),
          QT_TRANSLATE_NOOP("RelativeDate", "in %1 sec.")},
 };
-
-/// How often the unit fits; two days are counted in days.
-long count(std::chrono::nanoseconds distance, const Unit& unit) {
-    const auto one = unit.length == std::chrono::days(2) ? std::chrono::days(1) : unit.length;
-    return static_cast<long>(distance / one);
-}
 
 }  // namespace
 
@@ -65,9 +60,9 @@ QString pixelSizeText(Size pixels) {
 QString relativeDateText(Date date, Date now) {
     const auto distance = date < now ? now - date : date - now;
     for (const Unit& unit : units) {
-        if (distance < unit.length) continue;
+        if (distance < unit.least * unit.length) continue;
         const char* text = date < now ? unit.past : unit.future;
-        return QCoreApplication::translate("RelativeDate", text).arg(count(distance, unit));
+        return QCoreApplication::translate("RelativeDate", text).arg(distance / unit.length);
     }
     return QCoreApplication::translate("RelativeDate", "now");
 }

@@ -103,11 +103,6 @@ const Capture* PanelModel::onlyCapture() const {
     return count() == 1 ? captures_.captures().front().get() : nullptr;
 }
 
-QString PanelModel::fileName() const {
-    const Capture* capture = onlyCapture();
-    return capture ? displayName(capture->fileName()) : QString();
-}
-
 QString PanelModel::subtitle() const {
     const Capture* capture = onlyCapture();
     if (!capture) return {};

@@ -35,8 +35,7 @@ class PanelModel : public QObject, private QAccessible::ActivationObserver {
     /// The spring of the latest change of the captures.
     Q_PROPERTY(double listResponse READ listResponse NOTIFY listAnimationChanged)
     Q_PROPERTY(double listDampingFraction READ listDampingFraction NOTIFY listAnimationChanged)
-    /// Of the capture that is alone.
-    Q_PROPERTY(QString fileName READ fileName NOTIFY countChanged)
+    /// Under the name of the capture that is alone.
     Q_PROPERTY(QString subtitle READ subtitle NOTIFY subtitleChanged)
 
     /// Whether there is a card: the panel is visible and has something to show.
@@ -71,14 +70,13 @@ public:
     ~PanelModel() override;
 
     CaptureListModel* captures() { return &captures_; }
-    const CaptureListModel& list() const { return captures_; }
+    const CaptureListModel* captures() const { return &captures_; }
     int count() const { return static_cast<int>(captures_.captures().size()); }
     double contentWidth() const;
     double thumbnailHeight() const;
     bool overflows() const;
     double listResponse() const { return listAnimation_.response; }
     double listDampingFraction() const { return listAnimation_.dampingFraction; }
-    QString fileName() const;
     QString subtitle() const;
     bool isPresented() const { return visible_ && !isEmpty_; }
     bool isHovering() const { return hovering_; }
