@@ -65,9 +65,17 @@ Url UserDirectories::home() const {
 }
 
 Url UserDirectories::configuration() const {
-    if (const auto folder = environment_("XDG_CONFIG_HOME"); folder && folder->starts_with('/'))
+    return baseDirectory("XDG_CONFIG_HOME", ".config");
+}
+
+Url UserDirectories::data() const {
+    return baseDirectory("XDG_DATA_HOME", ".local/share");
+}
+
+Url UserDirectories::baseDirectory(const std::string& variable, std::string_view inHome) const {
+    if (const auto folder = environment_(variable); folder && folder->starts_with('/'))
         return Url::file(*folder);
-    return home().appending(".config");
+    return home().appending(inHome);
 }
 
 Url UserDirectories::desktop() const {

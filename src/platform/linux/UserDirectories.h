@@ -20,6 +20,9 @@ public:
     /// $XDG_CONFIG_HOME, else ~/.config.
     Url configuration() const;
 
+    /// $XDG_DATA_HOME, else ~/.local/share.
+    Url data() const;
+
     /// The Desktop folder; ~/Desktop when the settings do not name one.
     Url desktop() const;
 
@@ -28,6 +31,8 @@ public:
     static std::optional<Url> parse(std::string_view text, std::string_view key, const Url& home);
 
 private:
+    Url baseDirectory(const std::string& variable, std::string_view inHome) const;
+
     const Environment& environment_;
 };
 

@@ -1,0 +1,95 @@
+#include "platform/linux/TrashFolder.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <utility>
+
+#include "platform/linux/SystemFailure.h"
+
+namespace vantle {
+namespace {
+
+constexpr mode_t ownerOnly = 0700;
+// A link could lead anywhere: other users can write to the roots of some volumes.
+constexpr int asFolder = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+/// Makes the folder where it is missing. It has to be a real one, and the user's own.
+Result<FileDescriptor> openOwnFolder(int parent, const std::string& name) {
+    if (mkdirat(parent, name.c_str(), ownerOnly) != 0 && errno != EEXIST)
+        return systemFailure(errno, name);
+    FileDescriptor folder(openat(parent, name.c_str(), asFolder));
+    if (!folder) return systemFailure(errno, name);
+    struct stat status {};
+    if (fstat(folder.get(), &status) != 0) return systemFailure(errno, name);
+    if (status.st_uid != geteuid()) return systemFailure(EPERM, name);
+    return folder;
+}
+
+Result<TrashFolder> openInside(Result<FileDescriptor> trash, std::string top) {
+    if (!trash) return trash.failure();
+    auto files = openOwnFolder(trash.value().get(), "files");
+    if (!files) return files.failure();
+    auto info = openOwnFolder(trash.value().get(), "info");
+    if (!info) return info.failure();
+    return TrashFolder{std::move(files.value()), std::move(info.value()), std::move(top)};
+}
+
+/// The folder of this user in the one that the administrator made for everybody. That has to be a
+/// real folder in which nobody can touch what belongs to others.
+Result<FileDescriptor> openShared(int top, const std::string& user) {
+    const FileDescriptor shared(openat(top, ".Trash", asFolder));
+    struct stat status {};
+    if (!shared || fstat(shared.get(), &status) != 0) return systemFailure(errno, ".Trash");
+    if ((status.st_mode & S_ISVTX) == 0) return systemFailure(EPERM, ".Trash");
+    return openOwnFolder(shared.get(), user);
+}
+
+/// The highest folder of the volume above `folder`.
+std::string topOf(const std::string& folder, const Volume& volume) {
+    std::filesystem::path top = folder;
+    while (top.has_relative_path()) {
+        const auto above = volumeOf(top.parent_path());
+        if (!above || above.value() != volume) break;
+        top = top.parent_path();
+    }
+    return top;
+}
+
+}  // namespace
+
+Result<Volume> volumeOf(const std::string& folder) {
+    struct statx status {};
+    if (statx(AT_FDCWD, folder.c_str(), 0, STATX_BASIC_STATS | STATX_MNT_ID, &status) != 0) {
+        const std::filesystem::path path = folder;
+        if (errno == ENOENT && path.has_relative_path()) return volumeOf(path.parent_path());
+        return systemFailure(errno, folder);
+    }
+    return Volume{status.stx_mnt_id, makedev(status.stx_dev_major, status.stx_dev_minor)};
+}
+
+Result<TrashFolder> openHomeTrash(const Url& dataFolder) {
+    std::error_code error;
+    std::filesystem::create_directories(dataFolder.path(), error);
+    if (error) return systemFailure(error.value(), dataFolder.path());
+    const FileDescriptor data(open(dataFolder.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!data) return systemFailure(errno, dataFolder.path());
+    return openInside(openOwnFolder(data.get(), "Trash"), {});
+}
+
+Result<TrashFolder> openVolumeTrash(const std::string& folder, const Volume& volume) {
+    const std::string path = topOf(folder, volume);
+    const FileDescriptor top(open(path.c_str(), asFolder));
+    if (!top) return systemFailure(errno, path);
+    const std::string user = std::to_string(geteuid());
+    const std::string prefix = path == "/" ? path : path + "/";
+    auto shared = openInside(openShared(top.get(), user), prefix);
+    if (shared) return shared;
+    return openInside(openOwnFolder(top.get(), ".Trash-" + user), prefix);
+}
+
+}  // namespace vantle

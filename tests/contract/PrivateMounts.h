@@ -1,0 +1,51 @@
+#pragma once
+
+#include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "support/Url.h"
+
+namespace vantle {
+
+/// Mounts that only this process sees; they go with it.
+class PrivateMounts {
+public:
+    /// False where the system does not let this user have any.
+    bool enter() {
+        const auto user = std::to_string(geteuid());
+        const auto group = std::to_string(getegid());
+        const bool isRoot = geteuid() == 0;
+        if (unshare(isRoot ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) != 0) return false;
+        if (!isRoot) {
+            std::ofstream("/proc/self/setgroups") << "deny";
+            std::ofstream("/proc/self/uid_map") << user << ' ' << user << " 1";
+            std::ofstream("/proc/self/gid_map") << group << ' ' << group << " 1";
+        }
+        return mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+    }
+
+    /// An empty file system of its own at `folder`, which is made.
+    static bool mountVolume(const Url& folder, const std::string& options = "size=1m") {
+        std::filesystem::create_directories(folder.path());
+        return mount("none", folder.path().c_str(), "tmpfs", 0, options.c_str()) == 0;
+    }
+
+    /// `folder` becomes another way to `original`.
+    static bool bind(const Url& original, const Url& folder) {
+        std::filesystem::create_directories(folder.path());
+        return mount(original.path().c_str(), folder.path().c_str(), nullptr, MS_BIND, nullptr) ==
+               0;
+    }
+
+    static bool makeReadOnly(const Url& folder) {
+        return mount("none", folder.path().c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr) == 0;
+    }
+};
+
+}  // namespace vantle
