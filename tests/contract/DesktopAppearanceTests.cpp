@@ -1,12 +1,9 @@
 // What the portal tells about how programs shall look, asked over a real bus.
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QDBusArgument>
-#include <QDeadlineTimer>
-#include <QUuid>
-#include <functional>
 
+#include "contract/EventLoop.h"
 #include "contract/PrivateBus.h"
 #include "contract/SettingsPortal.h"
 #include "platform/qt/PortalAppearance.h"
@@ -16,19 +13,10 @@ namespace {
 
 const QString appearance = QStringLiteral("org.freedesktop.appearance");
 
-[[nodiscard]] bool waitUntil(const std::function<bool()>& condition) {
-    const QDeadlineTimer limit(20'000);
-    while (!condition() && !limit.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-    return condition();
-}
-
 class PortalAppearanceTest : public testing::Test {
 protected:
-    PortalAppearanceTest() : portal(bus.connect(name(QStringLiteral("portal")))) {}
+    PortalAppearanceTest() : portal(bus.connect()) {}
 
-    /// Connections are known by name in the whole process.
-    static QString name(const QString& role) { return role + QUuid::createUuid().toString(); }
     QVariant rgb(double red, double green, double blue) {
         QDBusArgument structure;
         structure.beginStructure();
@@ -37,9 +25,7 @@ protected:
         return QVariant::fromValue(structure);
     }
     const DesktopLook& look() {
-        if (!backend)
-            backend =
-                std::make_unique<PortalAppearance>(bus.connect(name(QStringLiteral("client"))));
+        if (!backend) backend = std::make_unique<PortalAppearance>(bus.connect());
         return backend->look.value();
     }
     void set(const char* key, const QVariant& value) {
@@ -55,28 +41,28 @@ TEST_F(PortalAppearanceTest, TellsWhatIsSetAtTheStart) {
     ASSERT_TRUE(portal.isThere());
     set("color-scheme", 1U);
     EXPECT_EQ(look(), DesktopLook{}) << "it does not wait";
-    EXPECT_TRUE(waitUntil([this] { return look().scheme == ColorScheme::dark; }));
+    EXPECT_TRUE(runUntil([this] { return look().scheme == ColorScheme::dark; }));
 }
 
 TEST_F(PortalAppearanceTest, FollowsEachChange) {
     EXPECT_EQ(look().scheme, ColorScheme::unknown);
     set("color-scheme", 2U);
-    EXPECT_TRUE(waitUntil([this] { return look().scheme == ColorScheme::light; }));
+    EXPECT_TRUE(runUntil([this] { return look().scheme == ColorScheme::light; }));
     set("color-scheme", 1U);
-    EXPECT_TRUE(waitUntil([this] { return look().scheme == ColorScheme::dark; }));
+    EXPECT_TRUE(runUntil([this] { return look().scheme == ColorScheme::dark; }));
     set("color-scheme", 0U);
-    EXPECT_TRUE(waitUntil([this] { return look().scheme == ColorScheme::unknown; }));
+    EXPECT_TRUE(runUntil([this] { return look().scheme == ColorScheme::unknown; }));
 }
 
 TEST_F(PortalAppearanceTest, AnAccentOutsideOfTheRangeIsNone) {
     set("accent-color", rgb(0.25, 0.5, 1));
     const Color blue{0.25, 0.5, 1};
-    EXPECT_TRUE(waitUntil([&] { return look().accent == blue; }));
+    EXPECT_TRUE(runUntil([&] { return look().accent == blue; }));
     set("accent-color", rgb(-1, -1, -1));
-    EXPECT_TRUE(waitUntil([this] { return !look().accent; }));
+    EXPECT_TRUE(runUntil([this] { return !look().accent; }));
     set("accent-color", QStringLiteral("blue"));
     set("color-scheme", 1U);
-    EXPECT_TRUE(waitUntil([this] { return look().scheme == ColorScheme::dark; }));
+    EXPECT_TRUE(runUntil([this] { return look().scheme == ColorScheme::dark; }));
     EXPECT_FALSE(look().accent);
 }
 
@@ -96,9 +82,9 @@ TEST_F(PortalAppearanceTest, EachDesktopCanAskForLessMotion) {
                QStringLiteral("1.5")}}) {
         EXPECT_FALSE(look().reducesMotion);
         portal.set(space, key, reduced);
-        EXPECT_TRUE(waitUntil([this] { return look().reducesMotion; })) << key.toStdString();
+        EXPECT_TRUE(runUntil([this] { return look().reducesMotion; })) << key.toStdString();
         portal.set(space, key, usual);
-        EXPECT_TRUE(waitUntil([this] { return !look().reducesMotion; })) << key.toStdString();
+        EXPECT_TRUE(runUntil([this] { return !look().reducesMotion; })) << key.toStdString();
     }
 }
 

@@ -3,6 +3,7 @@
 #include <QDBusConnection>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QUuid>
 
 namespace vantle {
 
@@ -23,8 +24,9 @@ public:
         process_.waitForFinished();
     }
 
-    QDBusConnection connect(const QString& name) const {
-        return QDBusConnection::connectToBus(address_, name);
+    /// A connection of its own each time.
+    QDBusConnection connect() const {
+        return QDBusConnection::connectToBus(address_, QUuid::createUuid().toString());
     }
 
 private:

@@ -13,6 +13,8 @@ add_executable(
   qt_contract_tests
   ${CMAKE_CURRENT_LIST_DIR}/ApplicationContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DesktopAppearanceTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/DesktopServices.h
+  ${CMAKE_CURRENT_LIST_DIR}/FileOpenerContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/QtContractMain.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SchedulerContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ScreensContractTests.cpp

@@ -1,0 +1,114 @@
+#include "platform/qt/DesktopFileOpener.h"
+
+#include <fcntl.h>
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusUnixFileDescriptor>
+#include <QFile>
+#include <QStandardPaths>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+#include "support/FileDescriptor.h"
+#include "support/SystemLog.h"
+
+namespace vantle {
+namespace {
+
+struct OpenerProgram {
+    const char* name;
+    const char* argument;  ///< In front of the file; null when there is none.
+};
+
+// The first one asks the desktop that runs; the others are for installations without it.
+constexpr std::array openerPrograms{OpenerProgram{"xdg-open", nullptr},
+                                    OpenerProgram{"gio", "open"},
+                                    OpenerProgram{"kde-open", nullptr}};
+
+void logFailure(const Url& url, const std::string& reason) {
+    systemLog("Vantle: cannot open " + url.path() + ": " + reason);
+}
+
+}  // namespace
+
+DesktopFileOpener::DesktopFileOpener(ProcessLauncher& launcher, Sandbox sandbox,
+                                     const QDBusConnection& bus)
+    : launcher_(launcher), sandbox_(sandbox), bus_(bus) {}
+
+DesktopFileOpener::Sandbox DesktopFileOpener::currentSandbox() {
+    return QFile::exists(QStringLiteral("/.flatpak-info")) ? Sandbox::flatpak : Sandbox::none;
+}
+
+void DesktopFileOpener::open(const Url& url) {
+    if (sandbox_ == Sandbox::flatpak)
+        openByPortal("OpenFile", url);
+    else if (const Outcome failure = openByDesktop(url))
+        logFailure(url, failure->message);
+}
+
+Outcome DesktopFileOpener::openByDesktop(const Url& url) {
+    for (const auto& [name, argument] : openerPrograms) {
+        const QString program = QStandardPaths::findExecutable(QString::fromLatin1(name));
+        if (program.isEmpty()) continue;
+        std::vector<std::string> arguments;
+        if (argument) arguments.emplace_back(argument);
+        arguments.push_back(url.path());
+        return launcher_.launch(QFile::encodeName(program).toStdString(), arguments);
+    }
+    return Failure{ENOENT, "xdg-open is not installed", url.path()};
+}
+
+void DesktopFileOpener::openByPortal(const char* method, const Url& url) {
+    const FileDescriptor file(::open(url.path().c_str(), O_PATH | O_CLOEXEC));
+    if (!file) {
+        logFailure(url, std::strerror(errno));
+        return;
+    }
+    auto message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.portal.Desktop"),
+                                                  QStringLiteral("/org/freedesktop/portal/desktop"),
+                                                  QStringLiteral("org.freedesktop.portal.OpenURI"),
+                                                  QString::fromLatin1(method));
+    message << QString() << QVariant::fromValue(QDBusUnixFileDescriptor(file.get()))
+            << QVariantMap();
+    ask(message, [url](const QString& error) { logFailure(url, error.toStdString()); });
+}
+
+void DesktopFileOpener::reveal(const std::vector<Url>& urls) {
+    if (urls.empty()) return;
+    if (sandbox_ == Sandbox::flatpak) {
+        openByPortal("OpenDirectory", urls.front());
+        return;
+    }
+    QStringList addresses;
+    for (const Url& url : urls) addresses << QString::fromStdString(url.address());
+    auto message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.FileManager1"),
+                                                  QStringLiteral("/org/freedesktop/FileManager1"),
+                                                  QStringLiteral("org.freedesktop.FileManager1"),
+                                                  QStringLiteral("ShowItems"));
+    message << addresses << QString();
+    ask(message, [this, folder = urls.front().deletingLastPathComponent()](const QString&) {
+        open(folder);
+    });
+}
+
+void DesktopFileOpener::ask(const QDBusMessage& message,
+                            std::function<void(const QString& error)> otherwise) {
+    // Without a bus nothing would ever answer, not even that there is none.
+    if (!bus_.isConnected()) {
+        otherwise(QStringLiteral("there is no session bus"));
+        return;
+    }
+    auto* call = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
+    connect(call, &QDBusPendingCallWatcher::finished, this,
+            [call, otherwise = std::move(otherwise)] {
+                const QDBusPendingReply<> reply = *call;
+                call->deleteLater();
+                if (reply.isError()) otherwise(reply.error().message());
+            });
+}
+
+}  // namespace vantle
