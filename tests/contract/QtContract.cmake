@@ -15,6 +15,7 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/DesktopAppearanceTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DesktopServices.h
   ${CMAKE_CURRENT_LIST_DIR}/FileOpenerContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PasteboardContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/QtContractMain.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SchedulerContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ScreensContractTests.cpp

@@ -65,6 +65,6 @@ constexpr int decoderSocket = 3;
 constexpr int decoderPatience = 10;
 
 /// The most that one picture may take, in bytes.
-constexpr std::int64_t largestPicture = std::int64_t{64} * 1024 * 1024;
+constexpr std::int64_t largestPicture = std::int64_t{256} * 1024 * 1024;
 
 }  // namespace vantle::decoder

@@ -1,0 +1,63 @@
+#include "platform/qt/FileMimeData.h"
+
+#include <utility>
+
+namespace vantle {
+namespace {
+
+const QString addressList = QStringLiteral("text/uri-list");
+// What GNOME's, Xfce's and LXDE's, and MATE's file managers ask for: whether to copy or to cut.
+const QString gnomeFiles = QStringLiteral("x-special/gnome-copied-files");
+const QString mateFiles = QStringLiteral("x-special/mate-copied-files");
+// KDE's only asks whether it is to be cut.
+const QString kdeCut = QStringLiteral("application/x-kde-cutselection");
+const QString plainText = QStringLiteral("text/plain");
+
+QByteArray joined(const std::vector<Url>& files, std::string (*describe)(const Url&),
+                  const char* between) {
+    QByteArray all;
+    for (const Url& file : files) {
+        if (!all.isEmpty()) all += between;
+        all += QByteArray::fromStdString(describe(file));
+    }
+    return all;
+}
+
+std::string address(const Url& file) {
+    return file.address();
+}
+
+std::string path(const Url& file) {
+    return file.path();
+}
+
+}  // namespace
+
+FileMimeData::FileMimeData(std::vector<Url> files, std::shared_ptr<const PictureContents> picture,
+                           Use use)
+    : files_(std::move(files)), picture_(std::move(picture)), use_(use) {}
+
+QStringList FileMimeData::fileFormats() const {
+    if (files_.empty()) return {};
+    if (use_ == Use::drag) return {addressList};
+    return {addressList, gnomeFiles, mateFiles, kdeCut, plainText};
+}
+
+QStringList FileMimeData::formats() const {
+    return (picture_ ? picture_->types() : QStringList()) + fileFormats();
+}
+
+bool FileMimeData::hasFormat(const QString& type) const {
+    return formats().contains(type);
+}
+
+QVariant FileMimeData::retrieveData(const QString& type, QMetaType) const {
+    if (picture_ && picture_->types().contains(type)) return picture_->as(type);
+    if (!fileFormats().contains(type)) return {};
+    if (type == addressList) return joined(files_, address, "\r\n") + "\r\n";
+    if (type == gnomeFiles || type == mateFiles) return "copy\n" + joined(files_, address, "\n");
+    if (type == kdeCut) return QByteArray("0");
+    return joined(files_, path, "\n");
+}
+
+}  // namespace vantle

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QMimeData>
+#include <memory>
+#include <vector>
+
+#include "platform/qt/PictureContents.h"
+#include "support/Url.h"
+
+namespace vantle {
+
+/// Files, and perhaps the picture that is in the only one, as other programs take them from the
+/// clipboard or from a drag. The picture is read and converted when somebody asks for it.
+class FileMimeData final : public QMimeData {
+    Q_OBJECT
+
+public:
+    enum class Use {
+        clipboard,  ///< With what file managers need for pasting, and the paths as text.
+        drag,
+    };
+
+    /// `picture` may be null.
+    FileMimeData(std::vector<Url> files, std::shared_ptr<const PictureContents> picture, Use use);
+
+    QStringList formats() const override;
+    bool hasFormat(const QString& type) const override;
+
+protected:
+    QVariant retrieveData(const QString& type, QMetaType wanted) const override;
+
+private:
+    QStringList fileFormats() const;
+
+    const std::vector<Url> files_;
+    const std::shared_ptr<const PictureContents> picture_;
+    const Use use_;
+};
+
+}  // namespace vantle

@@ -1,0 +1,131 @@
+#include "platform/qt/PictureContents.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageWriter>
+#include <QPainter>
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <string_view>
+#include <utility>
+
+namespace vantle {
+namespace {
+
+using namespace std::string_view_literals;
+
+const QString png = QStringLiteral("image/png");
+const QString jpeg = QStringLiteral("image/jpeg");
+const QString bmp = QStringLiteral("image/bmp");
+
+// A vector image has no pixels of its own: enough for a dense screen.
+constexpr double pixelsPerPointOfVectors = 2;
+
+/// All that is in the file, or its first bytes.
+QByteArray read(int file, qsizetype most) {
+    QByteArray bytes(most, Qt::Uninitialized);
+    qsizetype length = 0;
+    while (length < most) {
+        const auto count =
+            pread(file, bytes.data() + length, static_cast<std::size_t>(most - length), length);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) return {};
+        if (count == 0) break;
+        length += count;
+    }
+    bytes.truncate(length);
+    return bytes;
+}
+
+QByteArray readAll(int file) {
+    struct stat status {};
+    if (fstat(file, &status) != 0) return {};
+    return read(file, status.st_size);
+}
+
+/// The media type that the first bytes show.
+QString typeOf(int file) {
+    struct Signature {
+        std::string_view text;
+        std::size_t offset;
+        const char* type;
+    };
+    constexpr std::array signatures = {Signature{"\x89PNG\r\n\x1a\n"sv, 0, "image/png"},
+                                       Signature{"\xff\xd8\xff"sv, 0, "image/jpeg"},
+                                       Signature{"GIF8"sv, 0, "image/gif"},
+                                       Signature{"II*\0"sv, 0, "image/tiff"},
+                                       Signature{"MM\0*"sv, 0, "image/tiff"},
+                                       Signature{"%PDF-"sv, 0, "application/pdf"},
+                                       Signature{"ftyphei"sv, 4, "image/heic"},
+                                       Signature{"ftypmif1"sv, 4, "image/heif"}};
+    const QByteArray start = read(file, 16);
+    const std::string_view text(start.data(), static_cast<std::size_t>(start.size()));
+    for (const auto& signature : signatures)
+        if (text.substr(std::min(signature.offset, text.size())).starts_with(signature.text))
+            return QString::fromLatin1(signature.type);
+    return {};
+}
+
+/// White where the picture lets through: not every type can.
+QImage opaque(const QImage& picture) {
+    QImage paper(picture.size(), QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    QPainter(&paper).drawImage(0, 0, picture);
+    return paper;
+}
+
+QByteArray encoded(const QImage& picture, const QString& type) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, type.section(QLatin1Char('/'), 1).toLatin1());
+    // Somebody waits for it, and it is not kept: quick is better than small.
+    if (type == png) writer.setCompression(1);
+    if (type == jpeg) writer.setQuality(92);
+    const bool isWritten = writer.write(type == png ? picture : opaque(picture));
+    return isWritten ? bytes : QByteArray();
+}
+
+}  // namespace
+
+std::shared_ptr<const PictureContents> PictureContents::open(const Url& url,
+                                                             std::shared_ptr<MediaLoader> media) {
+    FileDescriptor file(
+        ::open(url.path().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | O_NOFOLLOW));
+    auto image = file ? media->openImage(url) : nullptr;
+    if (!image) return nullptr;
+    const std::shared_ptr<PictureContents> contents(new PictureContents);
+    contents->ownType_ = typeOf(file.get());
+    contents->file_ = std::move(file);
+    contents->media_ = std::move(media);
+    contents->image_ = std::move(image);
+    return contents;
+}
+
+QStringList PictureContents::types() const {
+    QStringList types{png, jpeg, bmp};
+    if (ownType_.isEmpty()) return types;
+    types.removeAll(ownType_);
+    types.prepend(ownType_);
+    return types;
+}
+
+QByteArray PictureContents::as(const QString& type) const {
+    if (type == ownType_) return readAll(file_.get());
+    Size size = image_->pixelSize().value_or(Size{});
+    if (size.width < 1 || size.height < 1) {
+        const Size points = image_->pointSize();
+        size = {points.width * pixelsPerPointOfVectors, points.height * pixelsPerPointOfVectors};
+    }
+    const ImagePointer drawn = image_->draw(size);
+    if (!drawn) return {};
+    const QImage picture(drawn->rgba.data(), drawn->pixelsWide, drawn->pixelsHigh,
+                         qsizetype{4} * drawn->pixelsWide, QImage::Format_RGBA8888_Premultiplied);
+    return encoded(picture, type);
+}
+
+}  // namespace vantle
