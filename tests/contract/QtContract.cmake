@@ -19,11 +19,13 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/QtContractMain.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SchedulerContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ScreensContractTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/SettingsPortal.h)
+  ${CMAKE_CURRENT_LIST_DIR}/SettingsPortal.h
+  ${CMAKE_CURRENT_LIST_DIR}/SharingServices.h
+  ${CMAKE_CURRENT_LIST_DIR}/SharingSourceTests.cpp)
 set_target_properties(qt_contract_tests PROPERTIES AUTOMOC ON)
 target_compile_definitions(
   qt_contract_tests PRIVATE VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>")
-target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt vantle_fakes vantle_warnings
+target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt_sharing vantle_fakes vantle_warnings
                                                 GTest::gmock)
 add_dependencies(qt_contract_tests application_copy)
 gtest_discover_tests(qt_contract_tests PROPERTIES LABELS contract DISCOVERY_TIMEOUT 60)

@@ -2,17 +2,14 @@
 
 #include <fcntl.h>
 
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
 #include <QFile>
 #include <QStandardPaths>
 #include <array>
 #include <cerrno>
 #include <cstring>
-#include <utility>
 
+#include "platform/qt/BusCall.h"
 #include "support/FileDescriptor.h"
 #include "support/SystemLog.h"
 
@@ -74,7 +71,9 @@ void DesktopFileOpener::openByPortal(const char* method, const Url& url) {
                                                   QString::fromLatin1(method));
     message << QString() << QVariant::fromValue(QDBusUnixFileDescriptor(file.get()))
             << QVariantMap();
-    ask(message, [url](const QString& error) { logFailure(url, error.toStdString()); });
+    callBus(bus_, message, *this, [url](const QDBusMessage& reply) {
+        if (isError(reply)) logFailure(url, reply.errorMessage().toStdString());
+    });
 }
 
 void DesktopFileOpener::reveal(const std::vector<Url>& urls) {
@@ -90,25 +89,10 @@ void DesktopFileOpener::reveal(const std::vector<Url>& urls) {
                                                   QStringLiteral("org.freedesktop.FileManager1"),
                                                   QStringLiteral("ShowItems"));
     message << addresses << QString();
-    ask(message, [this, folder = urls.front().deletingLastPathComponent()](const QString&) {
-        open(folder);
+    const Url folder = urls.front().deletingLastPathComponent();
+    callBus(bus_, message, *this, [this, folder](const QDBusMessage& reply) {
+        if (isError(reply)) open(folder);
     });
-}
-
-void DesktopFileOpener::ask(const QDBusMessage& message,
-                            std::function<void(const QString& error)> otherwise) {
-    // Without a bus nothing would ever answer, not even that there is none.
-    if (!bus_.isConnected()) {
-        otherwise(QStringLiteral("there is no session bus"));
-        return;
-    }
-    auto* call = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
-    connect(call, &QDBusPendingCallWatcher::finished, this,
-            [call, otherwise = std::move(otherwise)] {
-                const QDBusPendingReply<> reply = *call;
-                call->deleteLater();
-                if (reply.isError()) otherwise(reply.error().message());
-            });
 }
 
 }  // namespace vantle

@@ -2,13 +2,10 @@
 
 #include <QDBusConnection>
 #include <QObject>
-#include <functional>
 
 #include "platform/FileOpener.h"
 #include "platform/ProcessLauncher.h"
 #include "support/Result.h"
-
-class QDBusMessage;
 
 namespace vantle {
 
@@ -34,12 +31,10 @@ public:
 private:
     Outcome openByDesktop(const Url& url);
     void openByPortal(const char* method, const Url& url);
-    /// Asks, and calls `otherwise` when nobody answers well.
-    void ask(const QDBusMessage& message, std::function<void(const QString& error)> otherwise);
 
     ProcessLauncher& launcher_;
     const Sandbox sandbox_;
-    QDBusConnection bus_;
+    const QDBusConnection bus_;
 };
 
 }  // namespace vantle

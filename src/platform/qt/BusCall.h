@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <chrono>
+#include <functional>
+
+class QObject;
+
+namespace vantle {
+
+/// Sends a message and calls `answered` once, on the main thread, with the reply or the error: at
+/// once where there is no bus, else when it comes or `patience` is over. Not any more once `owner`
+/// has gone.
+void callBus(const QDBusConnection& bus, const QDBusMessage& message, QObject& owner,
+             std::function<void(const QDBusMessage& reply)> answered,
+             std::chrono::milliseconds patience = std::chrono::seconds(25));
+
+inline bool isError(const QDBusMessage& reply) {
+    return reply.type() != QDBusMessage::ReplyMessage;
+}
+
+}  // namespace vantle

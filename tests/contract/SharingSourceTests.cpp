@@ -1,0 +1,258 @@
+// Who takes files, asked over a real bus.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <map>
+#include <optional>
+
+#include "contract/EventLoop.h"
+#include "contract/PrivateBus.h"
+#include "contract/SharingServices.h"
+#include "contract/TemporaryFolder.h"
+#include "contract/TextFile.h"
+#include "fakes/CapturedLog.h"
+#include "fakes/FakeProcessLauncher.h"
+#include "platform/qt/sharing/BluetoothSharing.h"
+#include "platform/qt/sharing/GsConnectSharing.h"
+#include "platform/qt/sharing/KdeConnectSharing.h"
+#include "platform/qt/sharing/MailSharing.h"
+#include "platform/qt/sharing/SharingSources.h"
+
+namespace vantle {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class SharingSourceTest : public testing::Test {
+protected:
+    SharingSourceTest() {
+        writeText(file, "picture");
+        qputenv("PATH", QByteArray::fromStdString((place / "bin").path()));
+        std::filesystem::create_directory((place / "bin").path());
+    }
+    ~SharingSourceTest() override { qputenv("PATH", path); }
+
+    std::vector<SharingOffer> find(SharingSource& source) {
+        std::optional<std::vector<SharingOffer>> offers;
+        source.find([&](auto found) { offers = std::move(found); });
+        EXPECT_TRUE(runUntil([&] { return offers.has_value(); }));
+        return offers.value_or(std::vector<SharingOffer>{});
+    }
+    static std::vector<std::string> titles(const std::vector<SharingOffer>& offers) {
+        std::vector<std::string> titles;
+        for (const auto& offer : offers) titles.push_back(offer.title);
+        return titles;
+    }
+    void install(const char* program) {
+        const Url url = (place / "bin").appending(program);
+        writeText(url, "#!/bin/sh\n");
+        std::filesystem::permissions(url.path(), std::filesystem::perms::owner_all);
+    }
+
+    TemporaryFolder place;
+    const Url file = place / "a shot.png";
+    const QByteArray path = qgetenv("PATH");
+    PrivateBus bus;
+    fakes::FakeProcessLauncher launcher;
+    fakes::CapturedLog log;
+};
+
+TEST_F(SharingSourceTest, ADesktopWithoutAnybodyOffersNothing) {
+    KdeConnectSharing kde(bus.connect());
+    GsConnectSharing gnome(bus.connect());
+    BluetoothSharing bluetooth(launcher, bus.connect());
+    EXPECT_THAT(find(kde), IsEmpty());
+    EXPECT_THAT(find(gnome), IsEmpty());
+    EXPECT_THAT(find(bluetooth), IsEmpty());
+}
+
+TEST_F(SharingSourceTest, WithoutABusNothingIsOffered) {
+    const QDBusConnection none(QStringLiteral("none"));
+    KdeConnectSharing kde(none);
+    GsConnectSharing gnome(none);
+    EXPECT_THAT(find(kde), IsEmpty());
+    EXPECT_THAT(find(gnome), IsEmpty());
+}
+
+TEST_F(SharingSourceTest, KdeConnectOffersItsDevicesByName) {
+    KdeConnectService service(bus.connect());
+    service.daemon.names = {{QStringLiteral("b1"), QStringLiteral("Phone")},
+                            {QStringLiteral("c2"), QStringLiteral("Table & Top")}};
+    KdeConnectSharing source(bus.connect());
+    const auto offers = find(source);
+    EXPECT_THAT(titles(offers), ElementsAre("Phone", "Table & Top"));
+    offers[0].perform({file});
+    EXPECT_TRUE(runUntil([&] { return !service.device.received.isEmpty(); }));
+    EXPECT_THAT(service.device.received, ElementsAre(QString::fromStdString(file.address())));
+}
+
+TEST_F(SharingSourceTest, ADeviceThatHasGoneMeanwhileIsLogged) {
+    KdeConnectService service(bus.connect());
+    service.daemon.names = {{QStringLiteral("gone"), QStringLiteral("Phone")}};
+    KdeConnectSharing source(bus.connect());
+    find(source)[0].perform({file});
+    EXPECT_TRUE(runUntil([&] { return !log.lines().empty(); }));
+    EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("Vantle: cannot send to the device: ")));
+}
+
+TEST_F(SharingSourceTest, GsConnectOffersDevicesThatArePairedAndConnected) {
+    QDBusConnection connection = bus.connect();
+    GsConnectDevice phone;
+    connection.registerObject(QStringLiteral("/phone"), &phone, QDBusConnection::ExportAllSlots);
+    ObjectManager manager(connection, "org.gnome.Shell.Extensions.GSConnect",
+                          "/org/gnome/Shell/Extensions/GSConnect");
+    const auto device = [&](const char* objectPath, const char* name, bool connected, bool paired) {
+        manager.objects[QDBusObjectPath(QString::fromLatin1(objectPath))]
+                       [QStringLiteral("org.gnome.Shell.Extensions.GSConnect.Device")] = {
+            {QStringLiteral("Name"), QString::fromLatin1(name)},
+            {QStringLiteral("Connected"), connected},
+            {QStringLiteral("Paired"), paired}};
+    };
+    device("/phone", "Phone", true, true);
+    device("/stranger", "Stranger", true, false);
+    device("/away", "Away", false, true);
+    GsConnectSharing source(bus.connect());
+    const auto offers = find(source);
+    EXPECT_THAT(titles(offers), ElementsAre("Phone"));
+    offers[0].perform({file});
+    EXPECT_TRUE(runUntil([&] { return !phone.received.isEmpty(); }));
+    EXPECT_THAT(phone.received, ElementsAre(QString::fromStdString(file.address())));
+}
+
+class BluetoothSharingTest : public SharingSourceTest {
+protected:
+    void plugIn() {
+        manager.objects[QDBusObjectPath(QStringLiteral("/org/bluez/hci0"))]
+                       [QStringLiteral("org.bluez.Adapter1")] = {};
+    }
+
+    ObjectManager manager{bus.connect(), "org.bluez", "/"};
+    BluetoothSharing source{launcher, bus.connect()};
+};
+
+TEST_F(BluetoothSharingTest, NeedsAnAdapterAndAProgram) {
+    EXPECT_THAT(find(source), IsEmpty());
+    install("bluetooth-sendto");
+    EXPECT_THAT(find(source), IsEmpty());
+    plugIn();
+    EXPECT_THAT(titles(find(source)), ElementsAre("Bluetooth…"));
+}
+
+TEST_F(BluetoothSharingTest, StartsWhatTheDesktopHas) {
+    plugIn();
+    install("bluedevil-sendfile");
+    find(source)[0].perform({file});
+    ASSERT_EQ(launcher.launched.size(), 1u);
+    EXPECT_THAT(launcher.launched[0].arguments, ElementsAre("--files", file.path()));
+    install("blueman-sendto");
+    find(source)[0].perform({file});
+    EXPECT_THAT(launcher.launched[1].executable, HasSubstr("/blueman-sendto"));
+    EXPECT_THAT(launcher.launched[1].arguments, ElementsAre(file.path()));
+}
+
+class MailSharingTest : public SharingSourceTest {
+protected:
+    MailSharingTest() {
+        std::filesystem::create_directories((place / "data/applications").path());
+        environment["XDG_CONFIG_HOME"] = (place / "configuration").path();
+        environment["XDG_CONFIG_DIRS"] = (place / "none").path();
+        environment["XDG_DATA_HOME"] = (place / "none").path();
+        environment["XDG_DATA_DIRS"] = (place / "none").path() + ":" + (place / "data").path();
+    }
+    void installMailProgram() {
+        writeText(place / "data/applications/mimeinfo.cache",
+                  "[MIME Cache]\ntext/plain=editor.desktop;\n"
+                  "x-scheme-handler/mailto=mail.desktop;\n");
+    }
+
+    std::map<std::string, std::string> environment;
+    MailSharing source{launcher,
+                       [this](const std::string& name) -> std::optional<std::string> {
+                           const auto found = environment.find(name);
+                           if (found == environment.end()) return std::nullopt;
+                           return found->second;
+                       },
+                       bus.connect()};
+};
+
+TEST_F(MailSharingTest, NeedsAProgramThatTakesMailAddresses) {
+    install("xdg-email");
+    EXPECT_THAT(find(source), IsEmpty());
+    installMailProgram();
+    EXPECT_THAT(titles(find(source)), ElementsAre("Mail…"));
+}
+
+TEST_F(MailSharingTest, NeedsSomebodyToAsk) {
+    installMailProgram();
+    EXPECT_THAT(find(source), IsEmpty());
+}
+
+TEST_F(MailSharingTest, TheUsersOwnChoiceCountsAsWell) {
+    install("xdg-email");
+    std::filesystem::create_directory((place / "configuration").path());
+    writeText(place / "configuration/mimeapps.list",
+              "[Default Applications]\nx-scheme-handler/mailto=mine.desktop\n");
+    EXPECT_THAT(titles(find(source)), ElementsAre("Mail…"));
+}
+
+TEST_F(MailSharingTest, AttachesTheFileByTheDesktopsProgram) {
+    install("xdg-email");
+    installMailProgram();
+    find(source)[0].perform({file});
+    ASSERT_EQ(launcher.launched.size(), 1u);
+    EXPECT_THAT(launcher.launched[0].executable, HasSubstr("/xdg-email"));
+    EXPECT_THAT(launcher.launched[0].arguments, ElementsAre("--attach", file.path()));
+}
+
+TEST_F(MailSharingTest, AttachesTheFileByThePortalWhereThereIsOne) {
+    const EmailPortal portal(bus.connect());
+    install("xdg-email");
+    installMailProgram();
+    find(source)[0].perform({file});
+    EXPECT_TRUE(runUntil([&] { return !portal.attached.isEmpty(); }));
+    EXPECT_THAT(portal.attached, ElementsAre("picture"));
+    EXPECT_THAT(launcher.launched, IsEmpty());
+}
+
+/// Answers with one title, at once or when it is told to.
+class PreparedSource final : public SharingSource {
+public:
+    explicit PreparedSource(std::string title) : title_(std::move(title)) {}
+    void find(Found found) override { found_ = std::move(found); }
+    void answer() { found_({SharingOffer{title_, "", {}}}); }
+
+private:
+    std::string title_;
+    Found found_;
+};
+
+TEST(SharingSourcesTest, GiveTheirOffersInOrderOnceAllHaveAnswered) {
+    auto first = std::make_unique<PreparedSource>("first");
+    auto second = std::make_unique<PreparedSource>("second");
+    PreparedSource* const one = first.get();
+    PreparedSource* const two = second.get();
+    std::vector<std::unique_ptr<SharingSource>> list;
+    list.push_back(std::move(first));
+    list.push_back(std::move(second));
+    SharingSources sources(std::move(list));
+    std::vector<std::string> titles;
+    sources.find([&](const auto& offers) {
+        for (const auto& offer : offers) titles.push_back(offer.title);
+    });
+    two->answer();
+    EXPECT_THAT(titles, IsEmpty());
+    one->answer();
+    EXPECT_THAT(titles, ElementsAre("first", "second"));
+}
+
+TEST(SharingSourcesTest, NoneOfThemFindNothing) {
+    bool isTold = false;
+    SharingSources({}).find([&](const auto& offers) { isTold = offers.empty(); });
+    EXPECT_TRUE(isTold);
+}
+
+}  // namespace
+}  // namespace vantle
