@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <QObject>
+#include <QVariantList>
+
+#include "platform/Menu.h"
+
+namespace vantle {
+
+/// A menu for its view: its lines, and which of them is the current one.
+class MenuModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the menu's window")
+
+    /// Of each line: "title", "symbol", "isSeparator".
+    Q_PROPERTY(QVariantList lines READ lines NOTIFY linesChanged)
+    /// -1 while there is none.
+    Q_PROPERTY(int current READ current WRITE setCurrent NOTIFY currentChanged)
+
+public:
+    static constexpr int none = -1;
+
+    void setMenu(const Menu& menu);
+    QVariantList lines() const { return lines_; }
+
+    int current() const { return current_; }
+    /// A separator cannot be it.
+    void setCurrent(int line);
+    /// To the next line that can be chosen, in steps of 1 or -1, around the end.
+    void step(int direction);
+    /// To the next line that begins with that letter.
+    void stepTo(QChar letter);
+
+    Q_INVOKABLE void choose(int line);
+
+signals:
+    void linesChanged();
+    void currentChanged();
+    void chosen(int line);
+
+private:
+    bool isAction(int line) const;
+
+    Menu menu_;
+    QVariantList lines_;
+    int current_ = none;
+};
+
+}  // namespace vantle

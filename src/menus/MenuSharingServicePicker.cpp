@@ -1,0 +1,70 @@
+#include "menus/MenuSharingServicePicker.h"
+
+#include <utility>
+
+#include "platform/qt/QtGeometry.h"
+
+namespace vantle {
+
+/// What one menu is for.
+struct MenuSharingServicePicker::Request {
+    std::vector<Url> items;
+    Rect anchor;
+    std::weak_ptr<SharingServicePickerDelegate> delegate;
+    std::vector<SharingOffer> offers;  ///< Of each line; nothing to perform at a separator.
+    bool isEnded = false;
+};
+
+MenuSharingServicePicker::MenuSharingServicePicker(std::unique_ptr<SharingSource> source,
+                                                   Pasteboard& pasteboard, FileOpener& opener)
+    : source_(std::move(source)), pasteboard_(pasteboard), opener_(opener) {}
+
+MenuSharingServicePicker::~MenuSharingServicePicker() = default;
+
+void MenuSharingServicePicker::show(const std::vector<Url>& items, const Rect& anchor,
+                                    std::weak_ptr<SharingServicePickerDelegate> delegate) {
+    // One that is open, or one for which others are still being asked.
+    if (window_) window_->closeMenu();
+    if (request_) end(*request_, std::nullopt);
+    request_ = std::make_shared<Request>(Request{items, anchor, std::move(delegate), {}, false});
+    source_->find([this, weak = std::weak_ptr(request_)](std::vector<SharingOffer> found) {
+        // Another menu may have been asked for meanwhile.
+        if (const auto request = weak.lock()) open(request, std::move(found));
+    });
+}
+
+std::vector<SharingOffer> MenuSharingServicePicker::withOwn(std::vector<SharingOffer> found) const {
+    if (!found.empty()) found.push_back({});
+    found.push_back({"Copy file", "doc.on.doc", [this](const std::vector<Url>& items) {
+                         pasteboard_.clearContents();
+                         pasteboard_.writeObjects({items.begin(), items.end()});
+                     }});
+    found.push_back(
+        {"Reveal", "folder", [this](const std::vector<Url>& items) { opener_.reveal(items); }});
+    return found;
+}
+
+void MenuSharingServicePicker::open(const std::shared_ptr<Request>& request,
+                                    std::vector<SharingOffer> found) {
+    request->offers = withOwn(std::move(found));
+    Menu menu;
+    for (const auto& offer : request->offers)
+        menu.push_back({offer.perform ? MenuItem::Kind::action : MenuItem::Kind::separator,
+                        offer.title, offer.symbol});
+    if (!window_) window_ = std::make_unique<MenuWindow>();
+    window_->open(menu, fromScreenCoordinates(request->anchor),
+                  [request](std::optional<int> chosen) { end(*request, chosen); });
+}
+
+void MenuSharingServicePicker::end(Request& request, std::optional<int> chosen) {
+    if (std::exchange(request.isEnded, true)) return;
+    const SharingOffer* offer =
+        chosen ? &request.offers[static_cast<std::size_t>(*chosen)] : nullptr;
+    if (offer) offer->perform(request.items);
+    const auto delegate = request.delegate.lock();
+    if (!delegate) return;
+    const SharingService service{offer ? offer->title : std::string()};
+    delegate->sharingServicePickerDidChoose(offer ? &service : nullptr);
+}
+
+}  // namespace vantle

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+
+#include "menus/MenuWindow.h"
+#include "platform/FileOpener.h"
+#include "platform/Pasteboard.h"
+#include "platform/SharingServicePicker.h"
+#include "platform/qt/sharing/SharingSource.h"
+
+namespace vantle {
+
+/// The share menu: what the source offers at the moment, then "Copy file" and "Reveal". Its window
+/// is made for the first menu.
+class MenuSharingServicePicker final : public SharingServicePicker {
+public:
+    /// The clipboard and the opener outlive it.
+    MenuSharingServicePicker(std::unique_ptr<SharingSource> source, Pasteboard& pasteboard,
+                             FileOpener& opener);
+    ~MenuSharingServicePicker() override;
+
+    void show(const std::vector<Url>& items, const Rect& anchor,
+              std::weak_ptr<SharingServicePickerDelegate> delegate) override;
+
+    /// Null before the first menu.
+    MenuWindow* window() const { return window_.get(); }
+
+private:
+    struct Request;
+
+    std::vector<SharingOffer> withOwn(std::vector<SharingOffer> found) const;
+    void open(const std::shared_ptr<Request>& request, std::vector<SharingOffer> found);
+    static void end(Request& request, std::optional<int> chosen);
+
+    const std::unique_ptr<SharingSource> source_;
+    Pasteboard& pasteboard_;
+    FileOpener& opener_;
+    std::unique_ptr<MenuWindow> window_;
+    std::shared_ptr<Request> request_;  ///< The last one.
+};
+
+}  // namespace vantle

@@ -1,0 +1,70 @@
+import QtQuick
+import Vantle.Menus
+import Vantle.Panel
+
+// A menu: its lines on a plate, with a shadow around it.
+Item {
+    id: view
+
+    required property MenuModel menu
+    // Room for the shadow.
+    readonly property real margin: shadow.margin
+    readonly property real padding: 5
+
+    width: plate.width + 2 * margin
+    height: plate.height + 2 * margin
+
+    Accessible.role: Accessible.PopupMenu
+    Accessible.name: qsTr("Share")
+
+    ShadowView {
+        id: shadow
+
+        anchors.fill: plate
+        anchors.margins: -margin
+        blur: 14
+        drop: 4
+        strength: 0.3
+        cornerRadius: plate.cornerRadius
+    }
+
+    PlateView {
+        id: plate
+
+        x: view.margin
+        y: view.margin
+        width: lines.width + 2 * view.padding
+        height: lines.natural.height + 2 * view.padding
+        cornerRadius: 10
+        fill: Appearance.isDark ? Qt.rgba(0.17, 0.17, 0.185, 0.97) : Qt.rgba(0.97, 0.97, 0.98, 0.97)
+        borderWidth: 1
+        borderColor: Appearance.isDark ? Qt.rgba(1, 1, 1, 0.16) : Qt.rgba(0, 0, 0, 0.12)
+    }
+
+    Column {
+        id: lines
+
+        // Known at once: the window takes its place before anything is laid out.
+        readonly property size natural: {
+            let size = Qt.size(0, 0);
+            for (let i = 0; i < children.length; ++i) {
+                size.width = Math.max(size.width, children[i].implicitWidth);
+                size.height += children[i].height;
+            }
+            return size;
+        }
+
+        x: plate.x + view.padding
+        y: plate.y + view.padding
+        width: Math.ceil(Math.max(170, Math.min(natural.width, 320)))
+
+        Repeater {
+            model: view.menu.lines
+
+            MenuLine {
+                menu: view.menu
+                width: lines.width
+            }
+        }
+    }
+}

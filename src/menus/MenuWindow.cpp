@@ -1,0 +1,140 @@
+#include "menus/MenuWindow.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QQmlEngine>
+#include <QQmlExtensionPlugin>
+#include <QQuickItem>
+#include <QScreen>
+#include <algorithm>
+#include <utility>
+
+#include "panel/views/SymbolProvider.h"
+
+Q_IMPORT_QML_PLUGIN(Vantle_MenusPlugin)
+
+namespace vantle {
+namespace {
+
+constexpr int gap = 4;   // points between the menu and what it points to
+constexpr int edge = 6;  // points between the menu and the sides of the screen
+
+const QScreen& screenAt(const QRect& anchor) {
+    const QScreen* screen = QGuiApplication::screenAt(anchor.center());
+    return screen ? *screen : *QGuiApplication::primaryScreen();
+}
+
+}  // namespace
+
+MenuWindow::MenuWindow() {
+    setFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    setColor(Qt::transparent);
+    setTitle(QStringLiteral("Vantle"));
+    setResizeMode(QQuickView::SizeViewToRootObject);
+    engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine()->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
+    setInitialProperties({{QStringLiteral("menu"), QVariant::fromValue(&model_)}});
+    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Menus/MenuView.qml")));
+    connect(&model_, &MenuModel::chosen, this, [this](int line) { end(line); });
+}
+
+MenuWindow::~MenuWindow() {
+    // The view goes before the model that it shows.
+    delete rootObject();
+}
+
+void MenuWindow::open(const Menu& menu, const QRect& anchor, Ended ended) {
+    end(std::nullopt);
+    ended_ = std::move(ended);
+    model_.setMenu(menu);
+    place(anchor);
+    show();
+    raise();
+}
+
+QRect MenuWindow::plate() const {
+    const int margin = qRound(rootObject()->property("margin").toReal());
+    return QRect(QPoint(), size()).marginsRemoved({margin, margin, margin, margin});
+}
+
+void MenuWindow::place(const QRect& anchor) {
+    resize(rootObject()->size().toSize());
+    const QRect shown = plate();
+    const QRect room = screenAt(anchor).availableGeometry();
+    const int below = anchor.bottom() + 1 + gap;
+    const int above = anchor.top() - gap - shown.height();
+    const int y = below + shown.height() <= room.bottom() + 1 ? below : above;
+    const int rightmost = room.right() + 1 - edge - shown.width();
+    const int x = std::max(room.left() + edge, std::min(anchor.left(), rightmost));
+    setPosition(QPoint(x, std::max(room.top(), y)) - shown.topLeft());
+}
+
+void MenuWindow::grab() {
+    setMouseGrabEnabled(true);
+    setKeyboardGrabEnabled(true);
+}
+
+bool MenuWindow::event(QEvent* event) {
+    switch (event->type()) {
+        case QEvent::Expose: {
+            const bool handled = QQuickView::event(event);
+            if (isExposed() && ended_) grab();
+            return handled;
+        }
+        case QEvent::MouseButtonPress:
+            if (!plate().contains(static_cast<QMouseEvent*>(event)->position().toPoint())) {
+                closeMenu();
+                return true;
+            }
+            break;
+        case QEvent::KeyPress:
+            if (handleKey(*static_cast<QKeyEvent*>(event))) return true;
+            break;
+        case QEvent::Close:
+            closeMenu();
+            break;
+        default:
+            break;
+    }
+    return QQuickView::event(event);
+}
+
+bool MenuWindow::handleKey(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Escape:
+            closeMenu();
+            return true;
+        case Qt::Key_Down:
+        case Qt::Key_Tab:
+            model_.step(1);
+            return true;
+        case Qt::Key_Up:
+        case Qt::Key_Backtab:
+            model_.step(-1);
+            return true;
+        case Qt::Key_Home:
+        case Qt::Key_End:
+            model_.setCurrent(MenuModel::none);
+            model_.step(event.key() == Qt::Key_Home ? 1 : -1);
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            model_.choose(model_.current());
+            return true;
+        default:
+            if (!event.text().isEmpty()) model_.stepTo(event.text().front());
+            return false;
+    }
+}
+
+void MenuWindow::end(std::optional<int> chosen) {
+    const auto ended = std::exchange(ended_, nullptr);
+    if (!ended) return;
+    setMouseGrabEnabled(false);
+    setKeyboardGrabEnabled(false);
+    hide();
+    ended(chosen);
+}
+
+}  // namespace vantle

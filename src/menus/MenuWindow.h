@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QQuickView>
+#include <functional>
+#include <optional>
+
+#include "menus/MenuModel.h"
+
+namespace vantle {
+
+/// A menu that we draw ourselves, because the toolkit without its widgets has none. While it is
+/// open it has the pointer and the keyboard; a click beside it or Escape closes it.
+class MenuWindow final : public QQuickView {
+public:
+    /// With the line that was chosen, if one was.
+    using Ended = std::function<void(std::optional<int> chosen)>;
+
+    MenuWindow();
+    ~MenuWindow() override;
+
+    /// Opens below `anchor`, in Qt's screen coordinates, or above it where there is no room.
+    /// `ended` is called once, when it has closed. One that is open closes without a choice.
+    void open(const Menu& menu, const QRect& anchor, Ended ended);
+    void closeMenu() { end(std::nullopt); }
+
+    const MenuModel& model() const { return model_; }
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    void place(const QRect& anchor);
+    /// Where the menu stands in the window, without its shadow.
+    QRect plate() const;
+    void grab();
+    bool handleKey(const QKeyEvent& event);
+    void end(std::optional<int> chosen);
+
+    MenuModel model_;
+    Ended ended_;
+};
+
+}  // namespace vantle

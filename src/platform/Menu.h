@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace vantle {
+
+/// A line of a menu, as plain data.
+struct MenuItem {
+    enum class Kind { action, separator };
+
+    Kind kind = Kind::action;
+    std::string title;
+    std::string symbol;  ///< A name in assets/symbols; empty for none.
+};
+
+using Menu = std::vector<MenuItem>;
+
+}  // namespace vantle

@@ -1,0 +1,175 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QScreen>
+#include <QTest>
+#include <optional>
+
+#include "menus/MenuWindow.h"
+
+namespace vantle {
+namespace {
+
+const MenuItem rule{MenuItem::Kind::separator, "", ""};
+
+class MenuTest : public testing::Test {
+protected:
+    void open(const Menu& shown, const QRect& anchor = {300, 200, 28, 28}) {
+        window.open(shown, anchor, [this](std::optional<int> line) {
+            ++timesEnded;
+            chosen = line;
+        });
+        // Lays the lines out.
+        window.grabWindow();
+    }
+    void press(Qt::Key key) { QTest::keyClick(&window, key); }
+    /// Of the menu without its shadow, on the screen.
+    QRect plate() {
+        const int margin = qRound(window.rootObject()->property("margin").toReal());
+        return window.geometry().marginsRemoved({margin, margin, margin, margin});
+    }
+    QPoint inLine(int line) {
+        int lines = 0;
+        for (const auto* item : window.rootObject()->childItems().back()->childItems())
+            if (item->property("isSeparator").isValid() && lines++ == line)
+                return item->mapToScene(item->boundingRect().center()).toPoint();
+        ADD_FAILURE() << "there is no line " << line;
+        return {};
+    }
+    int current() { return window.model().current(); }
+
+    const Menu menu{{.title = "Mail…", .symbol = "envelope"},
+                    {.title = "Phone", .symbol = "phone"},
+                    rule,
+                    {.title = "Copy file", .symbol = "doc.on.doc"},
+                    {.title = "Reveal", .symbol = "folder"}};
+    MenuWindow window;
+    int timesEnded = 0;
+    std::optional<int> chosen;
+};
+
+TEST_F(MenuTest, AClickChoosesAndCloses) {
+    open(menu);
+    QTest::mouseClick(&window, Qt::LeftButton, {}, inLine(3));
+    EXPECT_EQ(chosen, 3);
+    EXPECT_EQ(timesEnded, 1);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(MenuTest, AClickOnARuleDoesNothing) {
+    open(menu);
+    QTest::mouseClick(&window, Qt::LeftButton, {}, inLine(2));
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(MenuTest, APressBesideItClosesItWithoutAChoice) {
+    open(menu);
+    QTest::mousePress(&window, Qt::LeftButton, {}, QPoint(-200, 40));
+    EXPECT_EQ(timesEnded, 1);
+    EXPECT_EQ(chosen, std::nullopt);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(MenuTest, APressOnItsShadowIsBesideIt) {
+    open(menu);
+    QTest::mousePress(&window, Qt::LeftButton, {}, QPoint(2, 2));
+    EXPECT_EQ(timesEnded, 1);
+}
+
+TEST_F(MenuTest, EscapeClosesItWithoutAChoice) {
+    open(menu);
+    press(Qt::Key_Down);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(timesEnded, 1);
+    EXPECT_EQ(chosen, std::nullopt);
+}
+
+TEST_F(MenuTest, ArrowsGoAroundAndPassOverRules) {
+    open(menu);
+    EXPECT_EQ(current(), MenuModel::none);
+    for (const int line : {0, 1, 3, 4, 0}) {
+        press(Qt::Key_Down);
+        EXPECT_EQ(current(), line);
+    }
+    for (const int line : {4, 3, 1}) {
+        press(Qt::Key_Up);
+        EXPECT_EQ(current(), line);
+    }
+    press(Qt::Key_Home);
+    EXPECT_EQ(current(), 0);
+    press(Qt::Key_End);
+    EXPECT_EQ(current(), 4);
+}
+
+TEST_F(MenuTest, ALetterGoesToTheNextLineThatBeginsWithIt) {
+    open(menu);
+    press(Qt::Key_R);
+    EXPECT_EQ(current(), 4);
+    press(Qt::Key_X);
+    EXPECT_EQ(current(), 4);
+    press(Qt::Key_C);
+    EXPECT_EQ(current(), 3);
+}
+
+TEST_F(MenuTest, ReturnChoosesTheCurrentLine) {
+    open(menu);
+    press(Qt::Key_Return);
+    EXPECT_EQ(timesEnded, 0) << "there is none yet";
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(chosen, 1);
+}
+
+TEST_F(MenuTest, ThePointerMakesALineTheCurrentOne) {
+    open(menu);
+    QTest::mouseMove(&window, inLine(4));
+    EXPECT_EQ(current(), 4);
+    QTest::mouseMove(&window, inLine(2));
+    EXPECT_EQ(current(), MenuModel::none);
+}
+
+TEST_F(MenuTest, AnotherMenuClosesTheFirstAndHasNoCurrentLine) {
+    open(menu);
+    press(Qt::Key_Down);
+    open({{.title = "Other"}});
+    EXPECT_EQ(timesEnded, 1);
+    EXPECT_EQ(current(), MenuModel::none);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(timesEnded, 2);
+    EXPECT_EQ(chosen, 0);
+}
+
+TEST_F(MenuTest, OpensBelowWhatItPointsTo) {
+    open(menu, {300, 200, 28, 28});
+    EXPECT_EQ(plate().topLeft(), QPoint(300, 200 + 28 + 4));
+}
+
+TEST_F(MenuTest, OpensAboveWhereThereIsNoRoomBelow) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    open(menu, {300, room.bottom() - 40, 28, 28});
+    EXPECT_EQ(plate().bottom() + 1 + 4, room.bottom() - 40);
+}
+
+TEST_F(MenuTest, StaysOffTheSidesOfTheScreen) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    open(menu, {room.right() - 20, 200, 28, 28});
+    EXPECT_EQ(plate().right(), room.right() - 6);
+    open(menu, {room.left() - 20, 200, 28, 28});
+    EXPECT_EQ(plate().left(), room.left() + 6);
+}
+
+TEST_F(MenuTest, IsAsLargeAsItsLinesAndCutsALongOne) {
+    open(menu);
+    EXPECT_EQ(plate().height(), 4 * 28 + 9 + 2 * 5);
+    EXPECT_EQ(plate().width(), 170 + 2 * 5);
+    open({{.title = "A telephone with a name that somebody wrote a small novel into, and more"}});
+    EXPECT_EQ(plate().height(), 28 + 2 * 5);
+    EXPECT_EQ(plate().width(), 320 + 2 * 5);
+}
+
+}  // namespace
+}  // namespace vantle
