@@ -5,11 +5,13 @@
 #include <memory>
 
 #include "app/AppDelegate.h"
+#include "menus/MenuSharingServicePicker.h"
 #include "panel/views/Appearance.h"
 #include "panel/views/CapturePanel.h"
 #include "platform/Platform.h"
 #include "platform/linux/AutostartLoginItem.h"
 #include "platform/linux/ConfinedMediaLoader.h"
+#include "platform/linux/FreedesktopTrash.h"
 #include "platform/linux/IniPreferencesDomain.h"
 #include "platform/linux/IniUserDefaults.h"
 #include "platform/linux/InotifyDirectoryEvents.h"
@@ -19,10 +21,17 @@
 #include "platform/linux/UserDirectories.h"
 #include "platform/qt/DBusApplication.h"
 #include "platform/qt/DensestScreen.h"
+#include "platform/qt/DesktopFileOpener.h"
 #include "platform/qt/PortalAppearance.h"
+#include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/QtScreens.h"
 #include "platform/qt/UnixSignals.h"
+#include "platform/qt/sharing/BluetoothSharing.h"
+#include "platform/qt/sharing/GsConnectSharing.h"
+#include "platform/qt/sharing/KdeConnectSharing.h"
+#include "platform/qt/sharing/MailSharing.h"
+#include "platform/qt/sharing/SharingSources.h"
 
 namespace {
 
@@ -37,6 +46,28 @@ bool isRecording(const Url& url) {
 /// The path of another program that belongs to this one.
 std::string beside(const char* program) {
     return QDir(QCoreApplication::applicationDirPath()).filePath(program).toStdString();
+}
+
+/// All who may take files, in the order of the share menu.
+std::unique_ptr<SharingSource> makeSharingSource(const Platform& platform) {
+    std::vector<std::unique_ptr<SharingSource>> sources;
+    sources.push_back(std::make_unique<MailSharing>(*platform.launcher, platform.environment));
+    sources.push_back(std::make_unique<KdeConnectSharing>());
+    sources.push_back(std::make_unique<GsConnectSharing>());
+    sources.push_back(std::make_unique<BluetoothSharing>(*platform.launcher));
+    return std::make_unique<SharingSources>(std::move(sources));
+}
+
+/// What a capture can be used for.
+void addUses(Platform& platform) {
+    platform.opener = std::make_unique<DesktopFileOpener>(*platform.launcher,
+                                                          DesktopFileOpener::currentSandbox());
+    platform.trash = std::make_unique<FreedesktopTrash>(*platform.scheduler, platform.environment);
+    // Whole pictures for other programs, whatever the screens.
+    platform.pasteboard = std::make_unique<QtPasteboard>(
+        std::make_shared<ConfinedMediaLoader>(beside("vantle-decoder"), [] { return 1.0; }));
+    platform.sharing = std::make_unique<MenuSharingServicePicker>(
+        makeSharingSource(platform), *platform.pasteboard, *platform.opener);
 }
 
 /// The services of a Linux desktop.
@@ -63,6 +94,7 @@ Platform makePlatform() {
     auto queue = std::make_unique<PollQueue>("vantle.watcher");
     platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*queue);
     platform.watcherQueue = std::move(queue);
+    addUses(platform);
     return platform;
 }
 

@@ -17,14 +17,11 @@ constexpr Seconds updateCheckDelay{1.0};
 }  // namespace
 
 std::shared_ptr<AppDelegate> AppDelegate::create(Platform& platform,
-                                                 CapturePanelController::PanelFactory makePanel,
-                                                 FileActions fileActions) {
-    return std::shared_ptr<AppDelegate>(
-        new AppDelegate(platform, std::move(makePanel), std::move(fileActions)));
+                                                 CapturePanelController::PanelFactory makePanel) {
+    return std::shared_ptr<AppDelegate>(new AppDelegate(platform, std::move(makePanel)));
 }
 
-AppDelegate::AppDelegate(Platform& platform, CapturePanelController::PanelFactory makePanel,
-                         FileActions fileActions)
+AppDelegate::AppDelegate(Platform& platform, CapturePanelController::PanelFactory makePanel)
     : platform_(platform),
       settings_(*platform.defaults,
                 SystemScreenshotPrefs(*platform.files, *platform.screenshotPreferences,
@@ -39,8 +36,11 @@ AppDelegate::AppDelegate(Platform& platform, CapturePanelController::PanelFactor
       panel_(CapturePanelController::create({.settings = settings_,
                                              .scheduler = *platform.scheduler,
                                              .screens = *platform.screens,
+                                             .opener = *platform.opener,
+                                             .pasteboard = *platform.pasteboard,
+                                             .sharing = *platform.sharing,
+                                             .trash = *platform.trash,
                                              .environment = platform.environment,
-                                             .fileActions = std::move(fileActions),
                                              .makePanel = std::move(makePanel)})) {}
 
 bool AppDelegate::applicationWillFinishLaunching(const std::string& action) {

@@ -23,8 +23,7 @@ public:
 
     /// `platform` outlives the delegate.
     static std::shared_ptr<AppDelegate> create(Platform& platform,
-                                               CapturePanelController::PanelFactory makePanel,
-                                               FileActions fileActions = {});
+                                               CapturePanelController::PanelFactory makePanel);
 
     /// What the launcher or a second start can ask for by name: the panel takes the keyboard.
     static constexpr auto focusPanelAction = "focus-panel";
@@ -55,8 +54,7 @@ public:
     const std::vector<CapturePointer>& recent() const { return recent_; }
 
 private:
-    AppDelegate(Platform& platform, CapturePanelController::PanelFactory makePanel,
-                FileActions fileActions);
+    AppDelegate(Platform& platform, CapturePanelController::PanelFactory makePanel);
 
     void connectApplication();
     void connectStatusBar();

@@ -6,11 +6,15 @@
 #include <vector>
 
 #include "panel/CardActions.h"
-#include "panel/FileActions.h"
 #include "panel/PanelState.h"
+#include "panel/ShareCompletion.h"
+#include "platform/FileOpener.h"
 #include "platform/PanelWindow.h"
+#include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/Screens.h"
+#include "platform/SharingServicePicker.h"
+#include "platform/Trash.h"
 #include "settings/Settings.h"
 #include "support/Environment.h"
 #include "support/Subscription.h"
@@ -29,8 +33,11 @@ public:
         Settings& settings;
         Scheduler& scheduler;
         Screens& screens;
+        FileOpener& opener;
+        Pasteboard& pasteboard;
+        SharingServicePicker& sharing;
+        Trash& trash;
         Environment environment;
-        FileActions fileActions;
         PanelFactory makePanel;
     };
 
@@ -43,7 +50,7 @@ public:
     /// Adds a capture, or moves it to the end, and presents the panel.
     void show(const CapturePointer& capture);
 
-    /// Copies the capture to the clipboard.
+    /// Copies the capture to the clipboard, which is a use of it.
     void copy(const CapturePointer& capture);
 
     void remove(const CapturePointer& capture);
@@ -63,13 +70,23 @@ private:
 
     /// The callbacks for the card, each holding this weakly.
     CardActions makeActions();
-    std::vector<DragItem> dragItems(const CapturePointer& startingFrom) const;
+    void copySelected();
+    void copyToPasteboard(const std::vector<CapturePointer>& captures);
+    void share(const CapturePointer& capture, const Rect& anchor);
     void trash(const CapturePointer& capture);
-    void copyAll(const std::vector<CapturePointer>& captures);
+    void trashSelected();
     void trashAll(const std::vector<CapturePointer>& captures);
+    void removeSelected();
+    /// Captures that were used leave the panel after `delay`, if the settings say so.
+    void afterUse(const std::vector<CapturePointer>& captures, Seconds delay = Seconds(0));
+    /// The files of captures that were used go to the Trash a little later, if the settings say so.
+    void trashLater(const std::vector<CapturePointer>& captures);
     void toggleSelect(const CapturePointer& capture);
     void togglePin(const CapturePointer& capture);
     void clearSelection();
+    std::vector<DragItem> dragItems(const CapturePointer& startingFrom) const;
+    void dragBegan();
+    void dragEnded(bool completed, const std::vector<Url>& urls);
     void marqueeChanged(const std::optional<Rect>& rect);
     std::vector<CapturePointer> selectedCaptures() const;
 
@@ -94,6 +111,9 @@ private:
     TimerPointer dismissTimer_;
     TimerPointer progressTimer_;
     std::optional<Seconds> pausedRemaining_;
+    bool isDragging_ = false;
+    bool isSharing_ = false;
+    std::shared_ptr<ShareCompletion> shareDelegate_;  ///< Lives as long as the menu.
     std::vector<Subscription> cancellables_;
     TimerPointer hideWork_;  ///< Of the latest dismissal, until it has run or was taken back.
 };

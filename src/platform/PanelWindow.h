@@ -43,6 +43,9 @@ public:
     /// All thumbnails of the card, also those out of sight.
     virtual std::vector<VisibleThumbnail> visibleThumbnails() const = 0;
 
+    /// A rectangle of the panel's content in screen coordinates (as Screens has them).
+    virtual Rect onScreen(const Rect& inContent) const = 0;
+
     /// Takes the keyboard from the window that has it, which gets it back when this panel lets it
     /// go. It does nothing while the panel is not on the screen.
     virtual void takeKeyboard() = 0;

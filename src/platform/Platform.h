@@ -7,14 +7,18 @@
 #include "platform/DesktopAppearance.h"
 #include "platform/DirectoryEvents.h"
 #include "platform/FileManager.h"
+#include "platform/FileOpener.h"
 #include "platform/LoginItem.h"
 #include "platform/MediaLoader.h"
+#include "platform/Pasteboard.h"
 #include "platform/PreferencesDomain.h"
 #include "platform/ProcessLauncher.h"
 #include "platform/Scheduler.h"
 #include "platform/Screens.h"
 #include "platform/SerialQueue.h"
+#include "platform/SharingServicePicker.h"
 #include "platform/SoundPlayer.h"
+#include "platform/Trash.h"
 #include "platform/Updater.h"
 #include "platform/UserDefaults.h"
 #include "platform/WallClock.h"
@@ -40,6 +44,10 @@ struct Platform {
     std::unique_ptr<Screens> screens;
     std::unique_ptr<Application> application;
     std::unique_ptr<DesktopAppearance> appearance;
+    std::unique_ptr<FileOpener> opener;
+    std::unique_ptr<Trash> trash;
+    std::unique_ptr<Pasteboard> pasteboard;
+    std::unique_ptr<SharingServicePicker> sharing;
     std::unique_ptr<SerialQueue> watcherQueue;
     std::unique_ptr<DirectoryEvents> directoryEvents;
 

@@ -34,6 +34,12 @@ public:
     std::optional<std::string> glassFrameDescription() const override { return record_.glassFrame; }
     std::string thumbnailFramesDescription() const override { return "no thumbnails"; }
     std::vector<VisibleThumbnail> visibleThumbnails() const override { return record_.thumbnails; }
+    Rect onScreen(const Rect& inContent) const override {
+        const Rect& frame = record_.frames.back();
+        const double bottom = inContent.origin.y + inContent.size.height;
+        return {{frame.origin.x + inContent.origin.x, frame.origin.y + frame.size.height - bottom},
+                inContent.size};
+    }
     void takeKeyboard() override { ++record_.timesKeyboardTaken; }
     Outcome writeSnapshot(const std::string& path) override {
         record_.snapshots.push_back(path);

@@ -7,8 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "fakes/FakeFileOpener.h"
 #include "fakes/FakePanelWindow.h"
+#include "fakes/FakePasteboard.h"
 #include "fakes/FakeScreens.h"
+#include "fakes/FakeSharingServicePicker.h"
+#include "fakes/FakeTrash.h"
 #include "fakes/SettingsOnFakes.h"
 #include "panel/CapturePanelController.h"
 #include "panel/CardLayout.h"
@@ -22,6 +26,9 @@ protected:
     static CapturePointer capture(const std::string& name) {
         return Capture::create(Url::file("/shots/" + name + ".png"), VirtualClock::epoch);
     }
+    static CapturePointer recording(const std::string& name) {
+        return Capture::create(Url::file("/shots/" + name + ".mov"), VirtualClock::epoch);
+    }
 
     CapturePanelController& controller() {
         if (!controller_) controller_ = makeController();
@@ -32,12 +39,17 @@ protected:
     /// Shows captures of these names and lets the panel come up.
     std::vector<CapturePointer> show(const std::vector<std::string>& names) {
         std::vector<CapturePointer> shown;
-        for (const auto& name : names) {
-            shown.push_back(capture(name));
-            controller().show(shown.back());
+        for (const auto& name : names) shown.push_back(capture(name));
+        showAll(shown);
+        return shown;
+    }
+    /// The same with captures; their files are there, too.
+    void showAll(const std::vector<CapturePointer>& captures) {
+        for (const auto& capture : captures) {
+            files.write(capture->url(), 1000, VirtualClock::epoch);
+            controller().show(capture);
         }
         time.settle();
-        return shown;
     }
 
     std::vector<std::string> shownNames() {
@@ -53,7 +65,10 @@ protected:
     ManualScheduler scheduler{time};
     FakeScreens screens;
     std::map<std::string, std::string> environment;
-    FileActions fileActions;
+    FakeFileOpener opener;
+    FakePasteboard pasteboard{files};
+    FakeSharingServicePicker sharing;
+    FakeTrash trash{scheduler, files};
 
     FakePanelWindow::Record panel;
     int panelsMade = 0;
@@ -66,12 +81,15 @@ private:
             {.settings = settings,
              .scheduler = scheduler,
              .screens = screens,
+             .opener = opener,
+             .pasteboard = pasteboard,
+             .sharing = sharing,
+             .trash = trash,
              .environment = [this](const std::string& name) -> std::optional<std::string> {
                  const auto found = environment.find(name);
                  if (found == environment.end()) return std::nullopt;
                  return found->second;
              },
-             .fileActions = fileActions,
              .makePanel =
                  [this](PanelState& panelState, Settings&, CardActions cardActions) {
                      state = &panelState;

@@ -4,13 +4,17 @@
 #include "app/AppDelegate.h"
 #include "fakes/CapturedLog.h"
 #include "fakes/FakeApplication.h"
+#include "fakes/FakeFileOpener.h"
 #include "fakes/FakeFileSystem.h"
 #include "fakes/FakeLoginItem.h"
 #include "fakes/FakeMediaLoader.h"
 #include "fakes/FakePanelWindow.h"
+#include "fakes/FakePasteboard.h"
 #include "fakes/FakePreferencesDomain.h"
 #include "fakes/FakeProcessLauncher.h"
 #include "fakes/FakeScreens.h"
+#include "fakes/FakeSharingServicePicker.h"
+#include "fakes/FakeTrash.h"
 #include "fakes/FakeUserDefaults.h"
 #include "fakes/VirtualTime.h"
 
@@ -72,7 +76,7 @@ protected:
             if (found == environment.end()) return std::nullopt;
             return found->second;
         };
-        add(platform.scheduler, std::make_unique<fakes::ManualScheduler>(time));
+        auto* scheduler = add(platform.scheduler, std::make_unique<fakes::ManualScheduler>(time));
         clock = add(platform.clock, std::make_unique<fakes::VirtualClock>(time));
         auto* queue = add(platform.watcherQueue, std::make_unique<fakes::ManualQueue>(time));
         auto fileSystem = std::make_unique<fakes::FakeFileSystem>(*queue);
@@ -88,6 +92,10 @@ protected:
         add(platform.loginItem, std::make_unique<fakes::FakeLoginItem>());
         screens = add(platform.screens, std::make_unique<fakes::FakeScreens>());
         application = add(platform.application, std::make_unique<fakes::FakeApplication>());
+        platform.opener = std::make_unique<fakes::FakeFileOpener>();
+        pasteboard = add(platform.pasteboard, std::make_unique<fakes::FakePasteboard>(*files));
+        platform.sharing = std::make_unique<fakes::FakeSharingServicePicker>();
+        platform.trash = std::make_unique<fakes::FakeTrash>(*scheduler, *files);
         platform.sounds = std::make_unique<RecordingSounds>(events);
         platform.makeUpdater = [this] { return std::make_unique<RecordingUpdater>(events); };
         defaults->stored["hasCompletedOnboarding"] = true;
@@ -107,17 +115,11 @@ protected:
     };
 
     AppDelegate& make() {
-        FileActions actions;
-        actions.copy = [this](const auto& captures) {
-            events.push_back("copy " + captures.front()->fileName());
-        };
-        delegate = AppDelegate::create(
-            platform,
-            [this](PanelState&, Settings&, CardActions) {
-                events.push_back("panel made");
-                return std::make_unique<fakes::FakePanelWindow>(panel);
-            },
-            actions);
+        pasteboard->onWrite = [this] { events.push_back("copy " + pasteboard->contents().back()); };
+        delegate = AppDelegate::create(platform, [this](PanelState&, Settings&, CardActions) {
+            events.push_back("panel made");
+            return std::make_unique<fakes::FakePanelWindow>(panel);
+        });
         return *delegate;
     }
 
@@ -162,6 +164,7 @@ protected:
     fakes::FakeUserDefaults* defaults = nullptr;
     fakes::FakePreferencesDomain* domain = nullptr;
     fakes::FakeScreens* screens = nullptr;
+    fakes::FakePasteboard* pasteboard = nullptr;
     fakes::FakeApplication* application = nullptr;
     std::vector<Size> windowSizes;
     std::function<void()> finishOnboarding;
@@ -222,7 +225,27 @@ TEST_F(AppDelegateTest, ClipboardAndSoundComeBeforeThePanel) {
     launch();
     events.clear();
     save("shot.png");
-    EXPECT_THAT(events, ElementsAre("copy shot.png", "sound Pop", "panel made"));
+    EXPECT_THAT(events,
+                ElementsAre("copy file /home/user/Desktop/shot.png", "sound Pop", "panel made"));
+}
+
+TEST_F(AppDelegateTest, ACaptureThatIsCopiedAtOnceLeavesAndGoesToTheTrashFromWhenItAppeared) {
+    defaults->stored["copyOnCapture"] = true;
+    defaults->stored["removeAfterUse"] = true;
+    defaults->stored["deleteAfterUse"] = true;
+    launch();
+    files->write(folder.appending("shot.png"), 1000, clock->now());
+    while (!panel.isOnScreen) time.advance(Seconds(0.01));
+    EXPECT_THAT(pasteboard->contents(), ElementsAre("image /home/user/Desktop/shot.png",
+                                                    "file /home/user/Desktop/shot.png"));
+    time.advance(Seconds(0.69));
+    EXPECT_TRUE(delegate->panel().isVisible());
+    time.advance(Seconds(0.01));
+    EXPECT_FALSE(delegate->panel().isVisible());
+    time.advance(Seconds(4.29));
+    EXPECT_EQ(files->existence(folder.appending("shot.png")), FileManager::Existence::file);
+    time.advance(Seconds(0.02));
+    EXPECT_EQ(files->existence(folder.appending("shot.png")), FileManager::Existence::none);
 }
 
 TEST_F(AppDelegateTest, WithoutASoundServiceTheCaptureIsShownAllTheSame) {

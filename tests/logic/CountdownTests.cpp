@@ -141,9 +141,9 @@ TEST_F(CountdownTest, ASecondPauseChangesNothing) {
     settings.dismissAfter.set(10);
     show({"a"});
     wait(4);
-    actions.dragBegan();
     hover(true);
-    hover(false);
+    actions.dragBegan();
+    actions.dragEnded(false, {});
     wait(5.9);
     EXPECT_TRUE(controller().isVisible());
     wait(0.2);

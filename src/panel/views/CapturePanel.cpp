@@ -120,6 +120,13 @@ void CapturePanel::orderOut() {
     model_.cardHasLeft();
 }
 
+Rect CapturePanel::onScreen(const Rect& inContent) const {
+    const QRectF content(inContent.origin.x, inContent.origin.y, inContent.size.width,
+                         inContent.size.height);
+    return toScreenCoordinates(content.translated(view_->position()).toAlignedRect(),
+                               primaryScreenGeometry());
+}
+
 void CapturePanel::takeKeyboard() {
     if (!view_->isExposed()) return;
     keyboard_->take();

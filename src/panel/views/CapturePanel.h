@@ -23,6 +23,7 @@ public:
     std::optional<std::string> glassFrameDescription() const override;
     std::string thumbnailFramesDescription() const override;
     std::vector<VisibleThumbnail> visibleThumbnails() const override;
+    Rect onScreen(const Rect& inContent) const override;
     void takeKeyboard() override;
     Outcome writeSnapshot(const std::string& path) override;
 
