@@ -13,6 +13,7 @@
 #include <functional>
 #include <vector>
 
+#include "fakes/FakeDraggingSessions.h"
 #include "fakes/SettingsOnFakes.h"
 #include "panel/CardLayout.h"
 #include "panel/views/CapturePanel.h"
@@ -82,8 +83,9 @@ public:
     QObject* row() { return panel.window().findChild<QObject*>(QStringLiteral("tileRow")); }
 
     fakes::VirtualClock wallClock{time};
+    fakes::FakeDraggingSessions dragging;
     PanelState state;
-    CapturePanel panel{PanelModel::Context{state, settings, wallClock, {}}};
+    CapturePanel panel{PanelModel::Context{state, settings, wallClock, dragging, {}}};
 
 private:
     static Rect visibleFrame() {

@@ -8,6 +8,7 @@
 #include "menus/MenuSharingServicePicker.h"
 #include "panel/views/Appearance.h"
 #include "panel/views/CapturePanel.h"
+#include "panel/views/dragging/QtDraggingSessions.h"
 #include "platform/Platform.h"
 #include "platform/linux/AutostartLoginItem.h"
 #include "platform/linux/ConfinedMediaLoader.h"
@@ -58,14 +59,17 @@ std::unique_ptr<SharingSource> makeSharingSource(const Platform& platform) {
     return std::make_unique<SharingSources>(std::move(sources));
 }
 
+/// Draws whole pictures for other programs, whatever the screens.
+std::shared_ptr<MediaLoader> makePictureLoader() {
+    return std::make_shared<ConfinedMediaLoader>(beside("vantle-decoder"), [] { return 1.0; });
+}
+
 /// What a capture can be used for.
 void addUses(Platform& platform) {
     platform.opener = std::make_unique<DesktopFileOpener>(*platform.launcher,
                                                           DesktopFileOpener::currentSandbox());
     platform.trash = std::make_unique<FreedesktopTrash>(*platform.scheduler, platform.environment);
-    // Whole pictures for other programs, whatever the screens.
-    platform.pasteboard = std::make_unique<QtPasteboard>(
-        std::make_shared<ConfinedMediaLoader>(beside("vantle-decoder"), [] { return 1.0; }));
+    platform.pasteboard = std::make_unique<QtPasteboard>(makePictureLoader());
     platform.sharing = std::make_unique<MenuSharingServicePicker>(
         makeSharingSource(platform), *platform.pasteboard, *platform.opener);
 }
@@ -145,11 +149,12 @@ int main(int argc, char** argv) {
 
     Platform platform = makePlatform();
     Appearance::follow(platform.appearance.get());
-    const auto delegate = AppDelegate::create(
-        platform, [&](PanelState& state, Settings& settings, CardActions actions) {
-            return std::make_unique<CapturePanel>(PanelModel::Context{
-                state, settings, *platform.clock, std::move(actions), rendering(platform)});
-        });
+    QtDraggingSessions dragging(makePictureLoader());
+    const auto delegate = AppDelegate::create(platform, [&](PanelState& state, Settings& settings,
+                                                            CardActions actions) {
+        return std::make_unique<CapturePanel>(PanelModel::Context{
+            state, settings, *platform.clock, dragging, std::move(actions), rendering(platform)});
+    });
     if (!delegate->applicationWillFinishLaunching(requestedAction())) return 0;
     const UnixSignals endingSignals([&] { platform.application->terminate(); });
     delegate->applicationDidFinishLaunching();

@@ -37,6 +37,7 @@ Item {
 
     DragThumbnailView {
         anchors.fill: parent
+        panel: thumbnail.panel
         captureId: thumbnail.captureId
         fileName: thumbnail.fileName
         onClicked: thumbnail.panel.open(thumbnail.captureId)

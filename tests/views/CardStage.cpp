@@ -31,6 +31,13 @@ void CardStage::recordRequests() {
     actions.toggleSelect = onCapture("toggle select");
     actions.togglePin = onCapture("toggle pin");
     actions.clearSelection = onPanel("clear selection");
+    actions.dragItems = [this](const CapturePointer&) { return dragItems; };
+    actions.dragBegan = onPanel("drag began");
+    actions.dragEnded = [this](bool completed, const std::vector<Url>& urls) {
+        std::string what = completed ? "dragged" : "not dragged";
+        for (const Url& url : urls) what += " " + std::string(url.lastPathComponent());
+        asked.push_back(what);
+    };
     actions.copySelected = onPanel("copy selected");
     actions.trashSelected = onPanel("trash selected");
     actions.removeSelected = onPanel("remove selected");
@@ -39,7 +46,7 @@ void CardStage::recordRequests() {
 void CardStage::makeCard() {
     panel.reset();
     panel = std::make_unique<CapturePanel>(
-        PanelModel::Context{state, settings, clock, actions, rendering});
+        PanelModel::Context{state, settings, clock, dragging, actions, rendering});
     panel->orderFrontRegardless();
     if (!QTest::qWaitForWindowExposed(&window())) throw std::runtime_error("no window came up");
     rest();

@@ -9,6 +9,7 @@
 
 #include "CapturesOfAnySize.h"
 #include "ManualFrames.h"
+#include "fakes/FakeDraggingSessions.h"
 #include "fakes/SettingsOnFakes.h"
 #include "panel/PanelState.h"
 #include "panel/views/CapturePanel.h"
@@ -59,6 +60,8 @@ public:
     ManualFrames frames;
     fakes::VirtualClock clock{time};
     PanelState state;
+    fakes::FakeDraggingSessions dragging;
+    std::vector<DragItem> dragItems;  ///< What a drag carries; empty: what it started from.
     CardActions actions;
     std::vector<std::string> asked;  ///< "copy a.png", "clear selection", ...
     Rect shareAnchor;

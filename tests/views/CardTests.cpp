@@ -278,7 +278,7 @@ TEST_F(CardTest, WithDebuggingOffTappingClearAllWritesNothing) {
 }
 
 TEST_F(CardTest, TheModelKeepsWhatIsAnnouncedBeforeItIsStored) {
-    PanelModel model({state, settings, clock, actions});
+    PanelModel model({state, settings, clock, dragging, actions});
     bool seen = false;
     state.captures.set(captures(1));
     state.visible.set(false);

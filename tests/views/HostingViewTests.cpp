@@ -138,21 +138,6 @@ TEST_F(HostingViewTest, AClickOnATileOpensItAndWithAModifierSelectsIt) {
     EXPECT_THAT(asked, ElementsAre("open a.png", "toggle select b.png", "toggle select b.png"));
 }
 
-TEST_F(HostingViewTest, APressOnATileThatMovesOrLeavesIsNoClick) {
-    showTwo();
-    const QPointF centre = frame(*tile(0)).center().toPoint();
-    press(centre);
-    move(centre + QPointF(3, 0));
-    release(centre + QPointF(3, 0));
-    EXPECT_THAT(asked, ElementsAre("open a.png")) << "exactly three points are still a click";
-    press(centre);
-    move(centre + QPointF(4, 0));
-    release(centre + QPointF(4, 0));
-    press({frame(*tile(0)).left() + 1, centre.y()});
-    release({frame(*tile(0)).left() - 2, centre.y()});
-    EXPECT_THAT(asked, ElementsAre("open a.png"));
-}
-
 TEST_F(HostingViewTest, VisibleThumbnailsAreCutToTheRow) {
     std::vector<CapturePointer> many;
     for (int i = 0; i < 12; ++i) many.push_back(capture(std::to_string(i)));

@@ -5,15 +5,20 @@
 #include <QPointF>
 #include <QQuickItem>
 #include <optional>
+#include <vector>
+
+#include "panel/views/PanelModel.h"
+#include "panel/views/dragging/DraggingSession.h"
 
 namespace vantle {
 
 /// What takes the mouse on a capture's thumbnail: it tells a click from one with a modifier key and
-/// from the beginning of a drag.
+/// from a drag, and starts that. A drag is still told to the panel when the tile goes meanwhile.
 class DragThumbnailView : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
 
+    Q_PROPERTY(vantle::PanelModel* panel MEMBER panel_ NOTIFY changed)
     Q_PROPERTY(QString captureId MEMBER captureId_ NOTIFY changed)
     Q_PROPERTY(QString fileName MEMBER fileName_ NOTIFY changed)
 
@@ -21,6 +26,10 @@ public:
     explicit DragThumbnailView(QQuickItem* parent = nullptr);
 
     const QString& captureId() const { return captureId_; }
+
+    /// The largest rectangle of that size's proportions in the middle of `bounds`; `bounds` where
+    /// the size has none.
+    static QRectF fittedRect(const QSizeF& size, const QRectF& bounds);
 
 signals:
     void changed();
@@ -35,6 +44,12 @@ protected:
     void mouseUngrabEvent() override;
 
 private:
+    void startDrag();
+    std::vector<DraggingItem> draggingItems(const std::vector<DragItem>& items) const;
+    QImage preview(const DragItem& item) const;
+    void dragEnded(DragOperation operation);
+
+    PanelModel* panel_ = nullptr;
     QString captureId_;
     QString fileName_;
     std::optional<QPointF> mouseDownPoint_;  ///< In the window; absent when nothing is pressed.

@@ -133,6 +133,22 @@ void PanelModel::setHovering(bool hovering) {
     if (hovering != hovering_) context_.state.hovering.set(hovering);
 }
 
+std::vector<DragItem> PanelModel::dragItems(const QString& captureId) const {
+    const auto capture = captures_.capture(captureId);
+    if (!capture) return {};
+    auto items = context_.actions.dragItems(capture);
+    if (items.empty()) items.push_back({capture->url(), capture->thumbnail()});
+    return items;
+}
+
+void PanelModel::dragBegan() {
+    context_.actions.dragBegan();
+}
+
+void PanelModel::dragEnded(bool completed, const std::vector<Url>& urls) {
+    context_.actions.dragEnded(completed, urls);
+}
+
 void PanelModel::perform(const CardActions::OnCapture& action, const QString& captureId) {
     if (const auto capture = captures_.capture(captureId)) action(capture);
 }

@@ -11,6 +11,7 @@
 #include "panel/CardActions.h"
 #include "panel/PanelState.h"
 #include "panel/views/CaptureListModel.h"
+#include "panel/views/dragging/DraggingSession.h"
 #include "platform/WallClock.h"
 #include "settings/Settings.h"
 #include "support/Subscription.h"
@@ -62,6 +63,7 @@ public:
         PanelState& state;
         Settings& settings;
         const WallClock& clock;
+        DraggingSessions& dragging;
         CardActions actions;
         Rendering rendering = Rendering::glass;
     };
@@ -94,6 +96,12 @@ public:
     void readCorner();
     /// The card is gone from the screen: lets go of what it showed.
     void cardHasLeft();
+
+    DraggingSessions& draggingSessions() { return context_.dragging; }
+    /// What a drag from that capture carries; its own file at least, while its tile is there.
+    std::vector<DragItem> dragItems(const QString& captureId) const;
+    void dragBegan();
+    void dragEnded(bool completed, const std::vector<Url>& urls);
 
     Q_INVOKABLE void setHovering(bool hovering);
     /// The capture has been shown leaving. Its row goes as soon as its tile is not at work.

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QStringList>
 
+#include "platform/qt/Pixels.h"
 #include "panel/views/RoundedShape.h"
 
 namespace vantle {
@@ -10,12 +11,6 @@ namespace {
 
 constexpr double cornerRadius = 12;
 constexpr float groundOpacity = 0.25F;
-
-/// A view of the thumbnail's pixels, not a copy: valid while the thumbnail lives.
-QImage view(const Image& thumbnail) {
-    return {thumbnail.rgba.data(), thumbnail.pixelsWide, thumbnail.pixelsHigh,
-            qsizetype{4} * thumbnail.pixelsWide, QImage::Format_RGBA8888_Premultiplied};
-}
 
 void drawFitted(QPainter& painter, const QImage& image, const QSize& target) {
     const QSize fitted = image.size().scaled(target, Qt::KeepAspectRatio).expandedTo({1, 1});
@@ -51,7 +46,7 @@ QImage ThumbnailProvider::requestImage(const QString& id, QSize* size, const QSi
     // A capture that left meanwhile is drawn as one without a picture.
     if (capture && capture->thumbnail()) {
         QPainter painter(&picture);
-        drawFitted(painter, view(*capture->thumbnail()), requestedSize);
+        drawFitted(painter, pixels(*capture->thumbnail()), requestedSize);
     }
     roundCorners(picture, cornerRadius * requestedSize.width() / widthInPoints);
     *size = picture.size();

@@ -13,6 +13,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/qt/Pixels.h"
+
 namespace vantle {
 namespace {
 
@@ -123,9 +125,7 @@ QByteArray PictureContents::as(const QString& type) const {
     }
     const ImagePointer drawn = image_->draw(size);
     if (!drawn) return {};
-    const QImage picture(drawn->rgba.data(), drawn->pixelsWide, drawn->pixelsHigh,
-                         qsizetype{4} * drawn->pixelsWide, QImage::Format_RGBA8888_Premultiplied);
-    return encoded(picture, type);
+    return encoded(pixels(*drawn), type);
 }
 
 }  // namespace vantle

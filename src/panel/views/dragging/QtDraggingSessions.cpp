@@ -1,0 +1,94 @@
+#include "panel/views/dragging/QtDraggingSessions.h"
+
+#include <QCursor>
+#include <QDrag>
+#include <QPixmap>
+#include <QPointer>
+#include <QWindow>
+#include <utility>
+
+#include "capture/Capture.h"
+#include "panel/views/Appearance.h"
+#include "panel/views/dragging/DragPile.h"
+#include "panel/views/dragging/FlyBack.h"
+#include "platform/qt/DropAnswer.h"
+#include "platform/qt/FileMimeData.h"
+
+namespace vantle {
+namespace {
+
+/// One drag, from its beginning to the answer of whoever it was dropped on.
+class Session final : public QObject {
+public:
+    Session(QWindow& window, std::vector<DraggingItem> items, const QPointF& grip,
+            DraggingSessions::Ended ended)
+        : window_(&window),
+          pile_(dragPile(items, window.devicePixelRatio())),
+          start_(window.position() + pile_.frame.topLeft().toPoint()),
+          hotSpot_((grip - pile_.frame.topLeft()).toPoint()),
+          ended_(std::move(ended)) {
+        for (auto& item : items) urls_.push_back(std::move(item.url));
+    }
+
+    /// Returns when the button was released or the drag was given up; events go on meanwhile.
+    void run(const std::shared_ptr<MediaLoader>& media) {
+        if (!window_) {
+            finish(DragOperation::none);
+            return;
+        }
+        auto* drag = new QDrag(window_);
+        drag->setMimeData(contents(media).release());
+        drag->setPixmap(QPixmap::fromImage(pile_.picture));
+        drag->setHotSpot(hotSpot_);
+        // Without the keyboard Escape would go to the window that has it.
+        window_->setKeyboardGrabEnabled(true);
+        const Qt::DropAction action = drag->exec(Qt::CopyAction);
+        if (window_) window_->setKeyboardGrabEnabled(false);
+        end_ = QCursor::pos() - hotSpot_;
+        if (action == Qt::IgnoreAction)
+            finish(DragOperation::none);
+        else
+            answer_.wait([this](bool wasTaken) {
+                finish(wasTaken ? DragOperation::copy : DragOperation::none);
+            });
+    }
+
+private:
+    std::unique_ptr<QMimeData> contents(const std::shared_ptr<MediaLoader>& media) const {
+        const bool isPicture =
+            urls_.size() == 1 && Capture::kind(urls_.front()) == CaptureKind::image;
+        auto picture = isPicture ? PictureContents::open(urls_.front(), media) : nullptr;
+        return std::make_unique<FileMimeData>(urls_, std::move(picture), FileMimeData::Use::drag);
+    }
+
+    void finish(DragOperation operation) {
+        if (operation == DragOperation::none && !Appearance().reducesMotion())
+            FlyBack::start(pile_.picture, end_, start_);
+        ended_(operation);
+        deleteLater();
+    }
+
+    const QPointer<QWindow> window_;
+    std::vector<Url> urls_;
+    const DragPile pile_;
+    const QPoint start_;
+    const QPoint hotSpot_;
+    const DraggingSessions::Ended ended_;
+    DropAnswer answer_;
+    QPoint end_;
+};
+
+}  // namespace
+
+QtDraggingSessions::QtDraggingSessions(std::shared_ptr<MediaLoader> media)
+    : media_(std::move(media)) {}
+
+void QtDraggingSessions::begin(QWindow& window, std::vector<DraggingItem> items,
+                               const QPointF& grip, Ended ended) {
+    auto* session = new Session(window, std::move(items), grip, std::move(ended));
+    // Not inside the mouse event: a drag is an event loop of its own.
+    QMetaObject::invokeMethod(
+        session, [session, media = media_] { session->run(media); }, Qt::QueuedConnection);
+}
+
+}  // namespace vantle

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+
+#include "panel/views/dragging/DraggingSession.h"
+
+namespace vantle {
+
+class MediaLoader;
+
+/// Drags as the desktop's programs know them (XDND, or the compositor's). Escape ends one.
+class QtDraggingSessions final : public DraggingSessions {
+public:
+    /// `media` draws a pixel for a point.
+    explicit QtDraggingSessions(std::shared_ptr<MediaLoader> media);
+
+    void begin(QWindow& window, std::vector<DraggingItem> items, const QPointF& grip,
+               Ended ended) override;
+
+private:
+    const std::shared_ptr<MediaLoader> media_;
+};
+
+}  // namespace vantle

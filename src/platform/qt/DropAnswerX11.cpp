@@ -1,0 +1,104 @@
+#include <QAbstractNativeEventFilter>
+#include <QCoreApplication>
+#include <QTimer>
+#include <optional>
+#include <utility>
+
+#include "platform/qt/DropAnswer.h"
+#include "platform/qt/X11.h"
+
+namespace vantle {
+namespace {
+
+constexpr auto patience = std::chrono::seconds(20);
+// From this version of the protocol on the answer says whether it was taken; before it, there is
+// one only if it was.
+constexpr std::uint32_t versionWithAnswer = 5;
+
+std::uint32_t protocolVersion(xcb_connection_t* x, xcb_window_t target) {
+    const auto reply = x11::owned(xcb_get_property_reply(
+        x, xcb_get_property(x, 0, target, x11::atom("XdndAware"), XCB_GET_PROPERTY_TYPE_ANY, 0, 1),
+        nullptr));
+    if (!reply || xcb_get_property_value_length(reply.get()) < 4) return 0;
+    return *static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+}
+
+}  // namespace
+
+class DropAnswer::Watch final : public QObject, public QAbstractNativeEventFilter {
+public:
+    Watch() {
+        QCoreApplication::instance()->installNativeEventFilter(this);
+        limit_.setSingleShot(true);
+        limit_.setInterval(patience);
+        connect(&limit_, &QTimer::timeout, this, [this] { answer(false); });
+    }
+
+    void wait(std::function<void(bool)> told) {
+        told_ = std::move(told);
+        if (!answer_ && !watchTarget()) answer_ = false;
+        if (answer_)
+            answer(*answer_);
+        else
+            limit_.start();
+    }
+
+    bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override {
+        const auto* event = static_cast<const xcb_generic_event_t*>(message);
+        const int type = event->response_type & 0x7f;
+        if (type == XCB_CLIENT_MESSAGE)
+            hear(*reinterpret_cast<const xcb_client_message_event_t*>(event));
+        if (type == XCB_DESTROY_NOTIFY &&
+            reinterpret_cast<const xcb_destroy_notify_event_t*>(event)->window == target_)
+            answer(false);
+        return false;
+    }
+
+private:
+    void hear(const xcb_client_message_event_t& message) {
+        const auto* data = message.data.data32;
+        if (message.type == x11::atom("XdndStatus")) target_ = data[0];
+        if (message.type != x11::atom("XdndFinished") || data[0] != target_) return;
+        answer(protocolVersion(x11::connection(), target_) < versionWithAnswer ||
+               (data[1] & 1) != 0);
+    }
+
+    /// From now on its end is noticed. False when it has gone already.
+    bool watchTarget() {
+        xcb_connection_t* x = x11::connection();
+        const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+        const auto error = x11::owned(xcb_request_check(
+            x, xcb_change_window_attributes_checked(x, target_, XCB_CW_EVENT_MASK, &mask)));
+        return !error;
+    }
+
+    /// Told later: this goes when it is told.
+    void answer(bool wasTaken) {
+        answer_ = wasTaken;
+        limit_.stop();
+        if (told_)
+            QMetaObject::invokeMethod(
+                this, [told = std::exchange(told_, nullptr), wasTaken] { told(wasTaken); },
+                Qt::QueuedConnection);
+    }
+
+    xcb_window_t target_ = XCB_NONE;
+    std::optional<bool> answer_;
+    std::function<void(bool)> told_;
+    QTimer limit_;
+};
+
+DropAnswer::DropAnswer() {
+    if (x11::connection()) watch_ = std::make_unique<Watch>();
+}
+
+DropAnswer::~DropAnswer() = default;
+
+void DropAnswer::wait(std::function<void(bool wasTaken)> told) {
+    if (watch_)
+        watch_->wait(std::move(told));
+    else
+        told(true);
+}
+
+}  // namespace vantle

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "panel/views/dragging/DraggingSession.h"
+
+namespace vantle::fakes {
+
+/// Drags that a test ends.
+class FakeDraggingSessions final : public DraggingSessions {
+public:
+    void begin(QWindow&, std::vector<DraggingItem> items, const QPointF& grip,
+               Ended ended) override {
+        dragged = std::move(items);
+        grippedAt = grip;
+        ended_ = std::move(ended);
+        ++timesBegun;
+    }
+
+    void end(DragOperation operation) { std::exchange(ended_, nullptr)(operation); }
+
+    std::vector<DraggingItem> dragged;
+    QPointF grippedAt;
+    int timesBegun = 0;
+
+private:
+    Ended ended_;
+};
+
+}  // namespace vantle::fakes
