@@ -142,12 +142,13 @@ class Screen:
         return self._property(self._root, name)
 
     def is_composited(self):
-        return self._owns("_NET_WM_CM_S0")
+        return self.owns("_NET_WM_CM_S0")
 
     def has_tray(self):
-        return self._owns("_NET_SYSTEM_TRAY_S0")
+        return self.owns("_NET_SYSTEM_TRAY_S0")
 
-    def _owns(self, selection):
+    def owns(self, selection):
+        """Whether some program stands for that selection."""
         return bool(self._display.get_selection_owner(self._display.intern_atom(selection)))
 
     def work_area(self):
@@ -245,6 +246,13 @@ class Screen:
         atom = self._display.intern_atom(name)
         self._root.change_property(atom, Xatom.CARDINAL, 32, [0])
         self._display.sync()
+
+    def area(self, window_number):
+        """Where a window stands on the screen, without what its manager puts around it."""
+        window = self._display.create_resource_object("window", window_number)
+        geometry = window.get_geometry()
+        place = window.translate_coords(self._root, 0, 0)
+        return Rectangle(-place.x, -place.y, geometry.width, geometry.height)
 
     def window_property(self, window_number, name):
         window = self._display.create_resource_object("window", window_number)

@@ -6,6 +6,7 @@
 
 #include "platform/qt/DropAnswer.h"
 #include "platform/qt/X11.h"
+#include "support/Debug.h"
 
 namespace vantle {
 namespace {
@@ -57,10 +58,19 @@ public:
 private:
     void hear(const xcb_client_message_event_t& message) {
         const auto* data = message.data.data32;
-        if (message.type == x11::atom("XdndStatus")) target_ = data[0];
+        if (message.type == x11::atom("XdndStatus")) hearPromise(data[0], (data[1] & 1) != 0);
         if (message.type != x11::atom("XdndFinished") || data[0] != target_) return;
         answer(protocolVersion(x11::connection(), target_) < versionWithAnswer ||
                (data[1] & 1) != 0);
+    }
+
+    void hearPromise(xcb_window_t target, bool isPromised) {
+        if (target == target_ && isPromised == isPromised_) return;
+        target_ = target;
+        isPromised_ = isPromised;
+        Debug::log([isPromised] {
+            return std::string("drop target promised=") + (isPromised ? "true" : "false");
+        });
     }
 
     /// From now on its end is noticed. False when it has gone already.
@@ -82,7 +92,8 @@ private:
                 Qt::QueuedConnection);
     }
 
-    xcb_window_t target_ = XCB_NONE;
+    xcb_window_t target_ = XCB_NONE;  ///< Which was heard of last.
+    bool isPromised_ = false;
     std::optional<bool> answer_;
     std::function<void(bool)> told_;
     QTimer limit_;

@@ -1,0 +1,191 @@
+"""Opening, showing, sharing and throwing away, with the desktop's own programs."""
+
+import os
+
+import pytest
+
+from panel_checks import encoded, show_one, wait_for_card
+from pictures import pattern
+from privatedesktop import ensure_never, wait_until, wait_until_still
+from using import press_button, press_with_control, select_all, tile_of, window_titled
+
+# Of a share menu that has only its own two lines.
+MENU_WIDTH, MENU_LINE = 180, 28
+
+
+@pytest.fixture
+def card(desktop, vantle, folder):
+    """With one capture on it, which leaves when it is used."""
+    vantle.write_settings(removeAfterUse="true", deleteAfterUse="false")
+    vantle.start_watching()
+    return wait_for_card(desktop, show_one(desktop, folder))
+
+
+def is_dismissed(desktop):
+    return desktop.screen.panel() is None
+
+
+def trashed(desktop):
+    """The names of what the desktop's own tool finds in the Trash."""
+    lines = desktop.run("gio", "trash", "--list").stdout.decode().splitlines()
+    return sorted(line.split("\t")[0].rsplit("/", 1)[-1] for line in lines)
+
+
+def restore(desktop, name):
+    desktop.run("gio", "trash", "--restore", f"trash:///{name}")
+
+
+def menus(desktop):
+    """The windows of open menus of ours."""
+    return [
+        window
+        for window in desktop.screen.windows()
+        if window.is_mapped
+        and "vantle" in (name.lower() for name in window.class_names)
+        and window.frame.width < 400
+    ]
+
+
+def open_share_menu(desktop, card):
+    press_button(desktop, card, "share")
+    wait_until(lambda: menus(desktop), "the menu is open")
+
+
+def test_a_click_opens_the_file_with_its_default_application(desktop, vantle, folder):
+    applications = desktop.home / ".config"
+    (applications / "mimeapps.list").write_text("[Default Applications]\nimage/png=mtpaint.desktop\n")
+    vantle.write_settings(removeAfterUse="true")
+    vantle.start_watching()
+    card = wait_for_card(desktop, show_one(desktop, folder))
+    desktop.screen.pointer.click(*tile_of(card))
+    window_titled(desktop, str(folder.path / "shot.png"))
+    wait_until(lambda: is_dismissed(desktop), "the used capture leaves")
+    assert (folder.path / "shot.png").exists()
+
+
+def test_reveal_shows_the_file_in_the_file_manager(desktop, vantle, folder, card):
+    press_button(desktop, card, "reveal")
+    # A file manager that ran before nobody asked for it.
+    window_titled(desktop, "Desktop")
+    wait_until(lambda: is_dismissed(desktop), "the used capture leaves")
+
+
+def test_what_is_thrown_away_comes_back_with_its_name(desktop, vantle, folder, card):
+    original = folder.path / "shot.png"
+    content = original.read_bytes()
+    press_button(desktop, card, "trash")
+    wait_until(lambda: is_dismissed(desktop), "the capture leaves")
+    wait_until(lambda: trashed(desktop) == ["shot.png"], "the desktop's tool finds it in the Trash")
+    assert not original.exists()
+    restore(desktop, "shot.png")
+    assert original.read_bytes() == content
+
+
+def test_names_of_all_kinds_come_back_by_a_file_manager(desktop, vantle, folder):
+    names = {"50% of 100 #1?.png", "übung größe.png", "percent%20.png"}
+    vantle.start_watching()
+    for name in names:
+        folder.save(name, encoded(pattern()))
+        folder.wait_for(name)
+    card = wait_for_card(desktop, wait_until(desktop.screen.panel, "the panel appears"))
+    select_all(desktop, card)
+    # The second button of the bar on the card's upper edge.
+    desktop.screen.pointer.click(card.centre[0] + 20, card.y + 6)
+    wait_until(lambda: len(trashed(desktop)) == len(names), "all are trashed")
+    assert not os.listdir(folder.path)
+    restore_all_by_file_manager(desktop)
+    wait_until(lambda: set(os.listdir(folder.path)) == names, "all are back")
+
+
+def restore_all_by_file_manager(desktop):
+    desktop.start("thunar", "trash:///")
+    area = desktop.screen.area(window_titled(desktop, "Trash"))
+    before = desktop.screen.screenshot(area).tobytes()
+    pointer = desktop.screen.pointer
+
+    def is_listed():
+        pointer.click(area.right - 20, area.bottom - 120)
+        press_with_control(desktop, "a")
+        return desktop.screen.screenshot(area).tobytes() != before
+
+    wait_until(is_listed, "the file manager selects what is in the Trash", interval=0.3)
+    wait_until_still(lambda: desktop.screen.screenshot(area).tobytes(), "the selection")
+    # "Restore Selected Items".
+    pointer.click(area.right - 299, area.bottom - 50)
+
+
+def test_the_trash_is_shared_with_other_programs(desktop, vantle, folder, card):
+    original = folder.path / "shot.png"
+    content = original.read_bytes()
+    other = desktop.home / "shot.png"
+    other.write_bytes(b"of somebody else")
+    desktop.run("gio", "trash", str(other))
+    press_button(desktop, card, "trash")
+    wait_until(lambda: len(trashed(desktop)) == 2, "both are in the Trash")
+    for name in trashed(desktop):
+        restore(desktop, name)
+    assert original.read_bytes() == content
+    assert other.read_bytes() == b"of somebody else"
+
+
+def test_a_trash_that_cannot_be_made_loses_nothing(desktop, vantle, folder, card):
+    data = desktop.home / ".local/share"
+    data.mkdir(parents=True, exist_ok=True)
+    (data / "Trash").write_text("a file where the folder should be")
+    press_button(desktop, card, "trash")
+    vantle.wait_for_log("^Trash failed: .*shot.png: ")
+    wait_until(lambda: is_dismissed(desktop), "the capture leaves all the same")
+    assert (folder.path / "shot.png").exists()
+
+
+def test_copying_counts_as_use_with_its_delays(desktop, vantle, folder):
+    vantle.write_settings(removeAfterUse="true", deleteAfterUse="true")
+    vantle.start_watching()
+    card = wait_for_card(desktop, show_one(desktop, folder))
+    press_button(desktop, card, "copy")
+    wait_until(lambda: is_dismissed(desktop), "the used capture leaves")
+    # Long after the card has gone.
+    assert (folder.path / "shot.png").exists()
+    wait_until(lambda: trashed(desktop) == ["shot.png"], "its file goes to the Trash")
+
+
+def test_the_share_menu_shows_the_file(desktop, vantle, folder, card):
+    open_share_menu(desktop, card)
+    for key in ("Down", "Down", "Return"):
+        desktop.screen.keyboard.press(key)
+    window_titled(desktop, "Desktop")
+    wait_until(lambda: is_dismissed(desktop), "the shared capture leaves")
+
+
+def test_the_share_menu_copies_the_file_by_a_click(desktop, vantle, folder, card):
+    open_share_menu(desktop, card)
+    plate = wait_until_still(lambda: menus(desktop)[0].frame, "the menu")
+    desktop.screen.pointer.click(plate.centre[0], plate.centre[1] - MENU_LINE // 2)
+    wait_until(lambda: is_dismissed(desktop), "the shared capture leaves")
+    address = (folder.path / "shot.png").as_uri() + "\r\n"
+    paste = ("xclip", "-selection", "clipboard", "-t", "text/uri-list", "-o")
+    wait_until(lambda: desktop.run(*paste, check=False).stdout.decode() == address, "it is copied")
+
+
+def test_a_share_menu_that_is_closed_is_no_use(desktop, vantle, folder, card):
+    pointer = desktop.screen.pointer
+    for close in (
+        lambda: desktop.screen.keyboard.press("Escape"),
+        lambda: pointer.click(300, 300),
+    ):
+        open_share_menu(desktop, card)
+        close()
+        wait_until(lambda: not menus(desktop), "the menu is closed")
+    ensure_never(lambda: is_dismissed(desktop), "the capture leaves", 1.0)
+
+
+def test_the_countdown_waits_for_the_share_menu(desktop, vantle, folder):
+    vantle.write_settings(dismissAfter="3")
+    vantle.start_watching()
+    card = wait_for_card(desktop, show_one(desktop, folder))
+    # A fifth button stands before the others where there is a timer; these are from the right.
+    open_share_menu(desktop, card)
+    desktop.screen.pointer.move(300, 300)
+    ensure_never(lambda: is_dismissed(desktop), "the countdown goes on", 4.0)
+    desktop.screen.keyboard.press("Escape")
+    wait_until(lambda: is_dismissed(desktop), "the countdown goes on")

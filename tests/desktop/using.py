@@ -1,0 +1,93 @@
+"""What a person does with a tile: presses its buttons, drags it away."""
+
+import re
+
+from privatedesktop import wait_until, wait_until_still
+
+# Of a card with one capture of the pattern, from its right and its upper edge, in points.
+BUTTONS = {"copy": 110, "share": 82, "reveal": 54, "trash": 26}
+_BUTTONS_BELOW_EDGE = 227
+_TILE = (164, 100)
+
+
+def press_button(desktop, card, name):
+    desktop.screen.pointer.click(card.right - BUTTONS[name], card.y + _BUTTONS_BELOW_EDGE)
+
+
+def tile_of(card):
+    """A point on the first tile."""
+    return card.x + min(_TILE[0], card.width // 2), card.y + _TILE[1]
+
+
+def select_all(desktop, card):
+    """Draws a marquee over all that the card shows, and waits for the bar of the selection."""
+    desktop.screen.pointer.drag((card.x + 4, card.bottom - 5), (card.right - 4, card.y + 20))
+    panel = desktop.screen.panel().frame
+    wait_until_still(lambda: desktop.screen.screenshot(panel).tobytes(), "the card")
+
+
+class Drag:
+    """A drag of the tile at `start`, begun by being made; the button is held until drop()."""
+
+    def __init__(self, desktop, vantle, start):
+        self._pointer = desktop.screen.pointer
+        self._vantle = vantle
+        self._start = start
+        self._log_before = len(vantle.log_text())
+        self._pointer.move(*start)
+        self._pointer.press()
+        self._pointer.move(start[0] - 6, start[1] - 6)
+        wait_until(lambda: "thumb drag begins" in self._log(), "the drag begins")
+
+    def _log(self):
+        return self._vantle.log_text()[self._log_before :]
+
+    def move(self, x, y):
+        for step in range(1, 11):
+            self._pointer.move(*(a + (b - a) * step / 10 for a, b in zip(self._start, (x, y))))
+        return self
+
+    def hold_over(self, x, y):
+        """Waits there until the program under the pointer promises to take what is dragged."""
+        self.move(x, y)
+        turn = 0
+
+        def is_promised():
+            # Nobody is asked while the pointer rests.
+            nonlocal turn
+            turn += 1
+            self._pointer.move(x + turn % 3, y)
+            return re.findall(r"drop target promised=(\w+)", self._log())[-1:] == ["true"]
+
+        wait_until(is_promised, "the drop target promises to take it", interval=0.1)
+        return self
+
+    def drop(self):
+        self._pointer.release()
+        return self.was_taken()
+
+    def was_taken(self):
+        """Whether whoever it was dropped on has taken it, once that is known."""
+        ends = wait_until(
+            lambda: re.findall(r"thumb drag ended op=(\d)", self._log()), "the drag ends", limit=30
+        )
+        return ends == ["1"]
+
+
+def window_titled(desktop, text):
+    """The number of a window whose title has that text in it, once there is one."""
+
+    def find():
+        for number in desktop.screen.client_list():
+            if text in (desktop.screen.title(number) or b"").decode("utf-8", "replace"):
+                return number
+        return None
+
+    return wait_until(find, f"a window has {text} in its title")
+
+
+def press_with_control(desktop, key):
+    keyboard = desktop.screen.keyboard
+    keyboard.hold("Control_L")
+    keyboard.press(key)
+    keyboard.let_go("Control_L")

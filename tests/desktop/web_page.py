@@ -1,0 +1,101 @@
+"""A browser with a page that tells what is dropped and pasted on it."""
+
+import base64
+import http.server
+import json
+import threading
+
+from privatedesktop import wait_until
+
+_PAGE = """<!doctype html>
+<body style="margin: 0; background: #f4f4f6; font: 16px sans-serif">
+<textarea id="text" style="width: 400px; height: 100px"></textarea>
+<div style="height: 400px; padding: 40px">Drop files here</div>
+<script>
+const text = document.getElementById("text");
+const tell = (what, told) => fetch("/" + what, {method: "POST", body: JSON.stringify(told)});
+async function contents(files) {
+  const all = [];
+  for (const file of files) {
+    const bytes = new Uint8Array(await file.arrayBuffer());
+    let binary = "";
+    for (const byte of bytes) binary += String.fromCharCode(byte);
+    all.push({name: file.name, type: file.type, size: file.size, content: btoa(binary)});
+  }
+  return all;
+}
+document.ondragover = event => {
+  event.preventDefault();
+  event.dataTransfer.dropEffect = "copy";
+};
+document.ondrop = async event => {
+  event.preventDefault();
+  tell("drop", {files: await contents(event.dataTransfer.files)});
+};
+document.onpaste = async event => tell("paste", {files: await contents(event.clipboardData.files)});
+text.oninput = () => tell("text", {text: text.value});
+tell("ready", {isReady: true});
+</script>
+"""
+
+
+class File:
+    def __init__(self, told):
+        self.name = told["name"]
+        self.type = told["type"]
+        self.size = told["size"]
+        self.content = base64.b64decode(told["content"])
+
+
+class WebPage:
+    """Open in a window of its own while it lives; `middle` is where to drop, `text` to paste."""
+
+    middle = (420, 420)
+    text = (120, 130)
+
+    def __init__(self, desktop):
+        self._told = {}
+        page = self
+
+        class Handler(http.server.BaseHTTPRequestHandler):
+            def do_GET(self):
+                self.send_response(200)
+                self.send_header("Content-Type", "text/html; charset=utf-8")
+                self.end_headers()
+                self.wfile.write(_PAGE.encode())
+
+            def do_POST(self):
+                length = int(self.headers["Content-Length"])
+                page._told[self.path] = json.loads(self.rfile.read(length))
+                self.send_response(204)
+                self.end_headers()
+
+            def log_message(self, *_):
+                pass
+
+        self._server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
+        threading.Thread(target=self._server.serve_forever, daemon=True).start()
+        desktop.start(
+            "chromium", "--no-sandbox", "--no-first-run", "--disable-gpu", "--password-store=basic",
+            "--disable-background-networking", "--disable-component-update",
+            f"--user-data-dir={desktop.home / 'browser'}",
+            "--window-position=20,60", "--window-size=900,600",
+            f"--app=http://127.0.0.1:{self._server.server_port}/",
+        )  # fmt: skip
+        self._wait_for("ready")
+
+    def _wait_for(self, what):
+        return wait_until(lambda: self._told.get("/" + what), f"the page tells of {what}", limit=60)
+
+    def dropped(self):
+        return [File(told) for told in self._wait_for("drop")["files"]]
+
+    def pasted(self):
+        return [File(told) for told in self._wait_for("paste")["files"]]
+
+    def typed(self):
+        return self._wait_for("text")["text"]
+
+    def close(self):
+        self._server.shutdown()
+        self._server.server_close()
