@@ -9,19 +9,27 @@
 #include <algorithm>
 #include <utility>
 
+#include "panel/views/RoundedShape.h"
 #include "panel/views/SymbolProvider.h"
+#include "platform/qt/InputRegion.h"
 
 Q_IMPORT_QML_PLUGIN(Vantle_MenusPlugin)
 
 namespace vantle {
 namespace {
 
-constexpr int gap = 4;   // points between the menu and what it points to
+constexpr int gap = 4;  // points between the menu and what it points to
+constexpr double cornerRadius = 10;
 constexpr int edge = 6;  // points between the menu and the sides of the screen
 
 const QScreen& screenAt(const QRect& anchor) {
     const QScreen* screen = QGuiApplication::screenAt(anchor.center());
     return screen ? *screen : *QGuiApplication::primaryScreen();
+}
+
+/// The plate without its shadow, for screens on which nothing shines through.
+QRegion roundedRegion(const QRect& plate) {
+    return {continuousRoundedRect(plate, cornerRadius).toFillPolygon().toPolygon()};
 }
 
 }  // namespace
@@ -67,6 +75,7 @@ void MenuWindow::place(const QRect& anchor) {
     const int rightmost = room.right() + 1 - edge - shown.width();
     const int x = std::max(room.left() + edge, std::min(anchor.left(), rightmost));
     setPosition(QPoint(x, std::max(room.top(), y)) - shown.topLeft());
+    setMask(compositorIsRunning() ? QRegion() : roundedRegion(shown));
 }
 
 void MenuWindow::grab() {

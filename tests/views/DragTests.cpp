@@ -224,7 +224,7 @@ TEST_F(DragPileTest, TheFirstOfSeveralIsOnTopAndTheOthersShowBehindIt) {
 TEST_F(DragPileTest, SeveralHaveTheirNumberAtTheCorner) {
     const DragPile pile = dragPile({item(Qt::red, 0), item(Qt::green, 6)}, 1);
     EXPECT_EQ(pile.frame, QRectF(90, 90, 176, 116));
-    EXPECT_GT(colorAt(pile, 100, 93).alpha(), 250);
+    EXPECT_GT(colorAt(pile, 100, 93).alpha(), 230);
 }
 
 TEST_F(DragPileTest, IsDrawnForTheScreensPixels) {

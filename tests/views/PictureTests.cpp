@@ -9,9 +9,13 @@
 #include <QPainter>
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 
 #include "Scenes.h"
+#include "menus/MenuWindow.h"
 #include "panel/views/Appearance.h"
+#include "panel/views/dragging/DragPile.h"
+#include "platform/qt/Pixels.h"
 
 namespace vantle {
 namespace {
@@ -26,10 +30,55 @@ struct Look {
     QColor wallpaper;
 };
 
-using Picture = std::tuple<Scene, Look>;
+/// What there is to see, without what is behind it.
+struct Subject {
+    std::string name;
+    std::function<QImage()> draw;
+};
+
+QImage drawnMenu() {
+    MenuWindow window;
+    const Menu menu{{.title = "Mail…", .symbol = "envelope"},
+                    {.title = "Telephone of somebody", .symbol = "phone"},
+                    {.title = "Bluetooth…", .symbol = "radiowaves"},
+                    {.kind = MenuItem::Kind::separator},
+                    {.title = "Copy file", .symbol = "doc.on.doc"},
+                    {.title = "Reveal", .symbol = "folder"}};
+    window.open(menu, {20, 20, 28, 28}, [](auto) {});
+    QTest::keyClick(&window, Qt::Key_End);
+    QTest::keyClick(&window, Qt::Key_Up);
+    return window.grabWindow();
+}
+
+QImage drawnPile(DragPile::Edges edges) {
+    std::vector<DraggingItem> items;
+    for (int i = 0; i < 7; ++i) {
+        const auto one = capture(std::string(1, static_cast<char>('a' + i)), {1600, 1000});
+        const double offset = 6 * std::min(i, 4);
+        items.push_back({one->url(), pixels(*one->thumbnail()).copy(),
+                         QRectF(20 + offset, 20 + offset, 160, 100)});
+    }
+    return dragPile(items, 1, edges).picture;
+}
+
+std::vector<Subject> subjects() {
+    std::vector<Subject> all;
+    for (const Scene& scene : allScenes())
+        all.push_back({scene.name, [scene] {
+                           CardStage stage;
+                           scene.set(stage);
+                           return drawn(stage);
+                       }});
+    all.push_back({"menu", drawnMenu});
+    all.push_back({"pile", [] { return drawnPile(DragPile::Edges::soft); }});
+    all.push_back({"pile-opaque", [] { return drawnPile(DragPile::Edges::opaque); }});
+    return all;
+}
+
+using Picture = std::tuple<Subject, Look>;
 
 std::string pictureName(const Picture& picture) {
-    return std::get<Scene>(picture).name + "-" + std::get<Look>(picture).name;
+    return std::get<Subject>(picture).name + "-" + std::get<Look>(picture).name;
 }
 
 /// The part of the pixels that differ visibly.
@@ -58,15 +107,13 @@ protected:
     ~PictureTest() override { Appearance::follow(nullptr); }
 
     QImage take() const {
-        CardStage stage;
-        std::get<Scene>(GetParam()).set(stage);
-        const QImage panel = drawn(stage);
-        QImage picture(panel.size(), QImage::Format_RGB32);
+        const QImage subject = std::get<Subject>(GetParam()).draw();
+        QImage picture(subject.size(), QImage::Format_RGB32);
         picture.fill(std::get<Look>(GetParam()).wallpaper);
         QPainter painter(&picture);
         painter.drawImage(0, 0,
-                          QImage(panel.constBits(), panel.width(), panel.height(),
-                                 panel.bytesPerLine(), QImage::Format_ARGB32_Premultiplied));
+                          QImage(subject.constBits(), subject.width(), subject.height(),
+                                 subject.bytesPerLine(), QImage::Format_ARGB32_Premultiplied));
         return picture;
     }
 
@@ -93,7 +140,7 @@ TEST_P(PictureTest, LooksAsItShould) {
 
 INSTANTIATE_TEST_SUITE_P(
     Card, PictureTest,
-    testing::Combine(testing::ValuesIn(allScenes()),
+    testing::Combine(testing::ValuesIn(subjects()),
                      testing::Values(Look{"light", ColorScheme::light, QColor(70, 90, 140)},
                                      Look{"dark", ColorScheme::dark, QColor(200, 190, 180)})),
     [](const auto& picture) {

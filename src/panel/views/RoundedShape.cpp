@@ -47,6 +47,11 @@ void blurAndTranspose(const std::vector<std::uint8_t>& from, std::vector<std::ui
 }  // namespace
 
 QPainterPath continuousRoundedRect(const QRectF& rect, double radius) {
+    if (radius <= 0) {
+        QPainterPath square;
+        square.addRect(rect);
+        return square;
+    }
     const double room = std::min(rect.width(), rect.height()) / 2;
     const double reach = std::min(radius * widestExtent, room);
     const double power = 2 / exponent(std::max(reach / radius, 1.0));

@@ -3,9 +3,9 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QPalette>
 #include <algorithm>
 
+#include "panel/views/Appearance.h"
 #include "panel/views/RoundedShape.h"
 
 namespace vantle {
@@ -13,8 +13,7 @@ namespace {
 
 constexpr double cornerRadius = 12;
 constexpr double badgeHeight = 20;
-// Behind it one still sees where one is going.
-constexpr double opacity = 0.94;
+constexpr float opacity = 0.94F;
 
 /// The part of the image that has the frame's proportions: all items of a pile are alike in size.
 QRectF filling(const QSize& image, const QSizeF& frame) {
@@ -23,8 +22,7 @@ QRectF filling(const QSize& image, const QSizeF& frame) {
             part};
 }
 
-void drawItem(QPainter& painter, const DraggingItem& item) {
-    const double radius = std::min({cornerRadius, item.frame.width() / 4, item.frame.height() / 4});
+void drawItem(QPainter& painter, const DraggingItem& item, double radius) {
     const QPainterPath shape = continuousRoundedRect(item.frame, radius);
     QBrush brush(item.image);
     const QRectF part = filling(item.image.size(), item.frame.size());
@@ -34,22 +32,16 @@ void drawItem(QPainter& painter, const DraggingItem& item) {
         QTransform()
             .translate(item.frame.x() - part.x() * scale, item.frame.y() - part.y() * scale)
             .scale(scale, scale));
-    painter.fillPath(shape, QColor(0, 0, 0, 64));
+    // Pictures may let through, too.
+    painter.fillPath(shape, QColor(150, 150, 154));
     painter.fillPath(shape, brush);
-    painter.strokePath(
-        continuousRoundedRect(item.frame.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5),
-        QPen(QColor(255, 255, 255, 90), 1));
-}
-
-/// At the upper left corner, which nothing of the pile covers.
-QRectF badgeFrame(const QRectF& first, std::size_t count) {
-    const double width = badgeHeight + (count > 9 ? 8 : 0);
-    return {first.x() - badgeHeight / 2, first.y() - badgeHeight / 2, width, badgeHeight};
+    painter.strokePath(continuousRoundedRect(item.frame.adjusted(0.5, 0.5, -0.5, -0.5), radius),
+                       QPen(QColor(255, 255, 255, 90), 1));
 }
 
 void drawBadge(QPainter& painter, const QRectF& frame, std::size_t count) {
     painter.setPen(QPen(Qt::white, 1.5));
-    painter.setBrush(QGuiApplication::palette().color(QPalette::Highlight));
+    painter.setBrush(Appearance().accent());
     painter.drawRoundedRect(frame.adjusted(0.75, 0.75, -0.75, -0.75), badgeHeight / 2,
                             badgeHeight / 2);
     QFont font = QGuiApplication::font();
@@ -59,13 +51,26 @@ void drawBadge(QPainter& painter, const QRectF& frame, std::size_t count) {
     painter.drawText(frame, Qt::AlignCenter, QString::number(count));
 }
 
+/// Behind it one still sees where one is going.
+void letThrough(QPainter& painter, const QRect& all) {
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(all, QColor::fromRgbF(0, 0, 0, opacity));
+}
+
 }  // namespace
 
-DragPile dragPile(const std::vector<DraggingItem>& items, double pixelsPerPoint) {
-    QRectF frame;
+DragPile dragPile(std::vector<DraggingItem> items, double pixelsPerPoint, DragPile::Edges edges) {
+    const std::size_t count = items.size();
+    const bool isSoft = edges == DragPile::Edges::soft;
+    if (!isSoft) items.resize(1);
+    const QRectF first = items.front().frame;
+    const double radius = std::min({cornerRadius, first.width() / 4, first.height() / 4});
+    // At the upper left corner, which nothing of the pile covers.
+    const double overhang = isSoft ? badgeHeight / 2 : -4;
+    const QRectF badge(first.x() - overhang, first.y() - overhang,
+                       badgeHeight + (count > 9 ? 8 : 0), badgeHeight);
+    QRectF frame = count > 1 ? badge : first;
     for (const auto& item : items) frame |= item.frame;
-    const QRectF badge = badgeFrame(items.front().frame, items.size());
-    if (items.size() > 1) frame |= badge;
     const QRect whole = frame.toAlignedRect();
 
     QImage picture(whole.size() * pixelsPerPoint, QImage::Format_ARGB32_Premultiplied);
@@ -74,12 +79,12 @@ DragPile dragPile(const std::vector<DraggingItem>& items, double pixelsPerPoint)
     QPainter painter(&picture);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.translate(-whole.topLeft());
-    painter.setOpacity(opacity);
     // Of the items that stand on one place only the first can be seen.
     for (std::size_t i = items.size(); i-- > 0;)
-        if (i == 0 || items[i].frame != items[i - 1].frame) drawItem(painter, items[i]);
-    painter.setOpacity(1);
-    if (items.size() > 1) drawBadge(painter, badge, items.size());
+        if (i == 0 || items[i].frame != items[i - 1].frame)
+            drawItem(painter, items[i], isSoft ? radius : 0);
+    if (count > 1) drawBadge(painter, badge, count);
+    if (isSoft) letThrough(painter, whole);
     return {picture, whole};
 }
 

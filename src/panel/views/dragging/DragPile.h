@@ -11,10 +11,16 @@ namespace vantle {
 /// The picture of a drag: its items as a pile with rounded corners, the first on top, and their
 /// number where there are several.
 struct DragPile {
+    enum class Edges {
+        soft,
+        opaque,  ///< The first item alone, for screens on which nothing shines through.
+    };
+
     QImage picture;
     QRectF frame;  ///< Where it starts, in the window's points.
 };
 
-DragPile dragPile(const std::vector<DraggingItem>& items, double pixelsPerPoint);
+DragPile dragPile(std::vector<DraggingItem> items, double pixelsPerPoint,
+                  DragPile::Edges edges = DragPile::Edges::soft);
 
 }  // namespace vantle

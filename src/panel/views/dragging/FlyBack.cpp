@@ -1,13 +1,8 @@
 #include "panel/views/dragging/FlyBack.h"
 
-#include <QBitmap>
 #include <QEasingCurve>
-#include <QGuiApplication>
 #include <QPainter>
-#include <QPixmap>
 #include <utility>
-
-#include "platform/qt/InputRegion.h"
 
 namespace vantle {
 namespace {
@@ -31,9 +26,6 @@ FlyBack::FlyBack(QImage picture, const QPoint& from, const QPoint& to)
     setFormat(format);
     resize((QSizeF(picture_.size()) / picture_.devicePixelRatio()).toSize());
     setPosition(from);
-    // Nobody would let what is behind it shine through.
-    if (!compositorIsRunning())
-        setMask(QRegion(QBitmap::fromImage(picture_.scaled(size()).createAlphaMask())));
     flight_.setStartValue(from);
     flight_.setEndValue(to);
     flight_.setDuration(duration);

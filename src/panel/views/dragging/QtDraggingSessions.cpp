@@ -13,9 +13,14 @@
 #include "panel/views/dragging/FlyBack.h"
 #include "platform/qt/DropAnswer.h"
 #include "platform/qt/FileMimeData.h"
+#include "platform/qt/InputRegion.h"
 
 namespace vantle {
 namespace {
+
+DragPile::Edges possibleEdges() {
+    return compositorIsRunning() ? DragPile::Edges::soft : DragPile::Edges::opaque;
+}
 
 /// One drag, from its beginning to the answer of whoever it was dropped on.
 class Session final : public QObject {
@@ -23,7 +28,7 @@ public:
     Session(QWindow& window, std::vector<DraggingItem> items, const QPointF& grip,
             DraggingSessions::Ended ended)
         : window_(&window),
-          pile_(dragPile(items, window.devicePixelRatio())),
+          pile_(dragPile(items, window.devicePixelRatio(), possibleEdges())),
           start_(window.position() + pile_.frame.topLeft().toPoint()),
           hotSpot_((grip - pile_.frame.topLeft()).toPoint()),
           ended_(std::move(ended)) {
