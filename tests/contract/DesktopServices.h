@@ -4,12 +4,14 @@
 
 #include <QDBusConnection>
 #include <QDBusContext>
+#include <QDBusMetaType>
 #include <QDBusUnixFileDescriptor>
 #include <QFile>
 #include <QObject>
 #include <QStringList>
 #include <QVariantMap>
 #include <QtDBus/QDBusObjectPath>
+#include <algorithm>
 
 namespace vantle {
 
@@ -64,6 +66,37 @@ public slots:
 private:
     static QString pathOf(const QDBusUnixFileDescriptor& file) {
         return QFile::symLinkTarget(QStringLiteral("/proc/self/fd/%1").arg(file.fileDescriptor()));
+    }
+};
+
+/// The document portal, as far as files are passed to programs in a sandbox.
+class DocumentPortal final : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileTransfer")
+
+public:
+    explicit DocumentPortal(QDBusConnection bus) {
+        qDBusRegisterMetaType<QList<QDBusUnixFileDescriptor>>();
+        bus.registerObject(QStringLiteral("/org/freedesktop/portal/documents"), this,
+                           QDBusConnection::ExportAllSlots);
+        bus.registerService(QStringLiteral("org.freedesktop.portal.Documents"));
+    }
+
+    QMap<QString, QStringList> transfers;  ///< The paths, by their keys.
+    int largestMessage = 0;                ///< The most files in one.
+
+public slots:
+    QString StartTransfer(const QVariantMap& options) {
+        const QString key = QStringLiteral("key %1").arg(transfers.size() + 1);
+        if (!options[QStringLiteral("autostop")].toBool()) transfers[key] = {};
+        return key;
+    }
+    void AddFiles(const QString& key, const QList<QDBusUnixFileDescriptor>& files,
+                  const QVariantMap&) {
+        largestMessage = std::max(largestMessage, static_cast<int>(files.size()));
+        for (const auto& file : files)
+            transfers[key] << QFile::symLinkTarget(
+                QStringLiteral("/proc/self/fd/%1").arg(file.fileDescriptor()));
     }
 };
 

@@ -16,8 +16,9 @@ namespace vantle {
 /// Mounts that only this process sees; they go with it.
 class PrivateMounts {
 public:
-    /// False where the system does not let this user have any.
-    bool enter() {
+    /// From now on what is mounted below `folder` is. False where the system does not let this user
+    /// mount anything.
+    static bool enter(const Url& folder) {
         const auto user = std::to_string(geteuid());
         const auto group = std::to_string(getegid());
         const bool isRoot = geteuid() == 0;
@@ -27,7 +28,11 @@ public:
             std::ofstream("/proc/self/uid_map") << user << ' ' << user << " 1";
             std::ofstream("/proc/self/gid_map") << group << ' ' << group << " 1";
         }
-        return mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+        // Of the mount that the folder is on.
+        for (Url place = folder;; place = place.deletingLastPathComponent()) {
+            if (mount("none", place.path().c_str(), nullptr, MS_PRIVATE, nullptr) == 0) return true;
+            if (place.path() == "/") return false;
+        }
     }
 
     /// An empty file system of its own at `folder`, which is made.

@@ -27,5 +27,6 @@ target_compile_definitions(
   qt_contract_tests PRIVATE VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>")
 target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt_sharing vantle_fakes vantle_warnings
                                                 GTest::gmock)
+vantle_precompile(qt_contract_tests <gmock/gmock.h> <QDBusConnection> <QDBusMessage> <QGuiApplication>)
 add_dependencies(qt_contract_tests application_copy)
 gtest_discover_tests(qt_contract_tests PROPERTIES LABELS contract DISCOVERY_TIMEOUT 60)

@@ -190,7 +190,7 @@ TEST_F(TrashMoveTest, ATrashThatLeadsElsewhereIsNotFollowed) {
 class VolumeTrashTest : public TrashMoveTest {
 protected:
     void SetUp() override {
-        if (!mounts.enter() || !PrivateMounts::mountVolume(data) ||
+        if (!PrivateMounts::enter(place.url()) || !PrivateMounts::mountVolume(data) ||
             !PrivateMounts::mountVolume(volume))
             GTEST_SKIP() << "this user may not mount anything";
         fs::create_directories(inside.path());
@@ -210,7 +210,6 @@ protected:
         for (std::ofstream out(file.path()); out.write(block.data(), 4096).flush();) continue;
     }
 
-    PrivateMounts mounts;
     const std::string user = std::to_string(geteuid());
     const Url volume = place / "volume";
     const Url inside = volume.appending("a/b");

@@ -49,7 +49,7 @@ public:
         const int type = event->response_type & 0x7f;
         if (type == XCB_CLIENT_MESSAGE)
             hear(*reinterpret_cast<const xcb_client_message_event_t*>(event));
-        if (type == XCB_DESTROY_NOTIFY &&
+        if (type == XCB_DESTROY_NOTIFY && told_ &&
             reinterpret_cast<const xcb_destroy_notify_event_t*>(event)->window == target_)
             answer(false);
         return false;
@@ -65,6 +65,8 @@ private:
     }
 
     void hearPromise(xcb_window_t target, bool isPromised) {
+        // It goes on: what was answered was about an earlier drag.
+        answer_.reset();
         if (target == target_ && isPromised == isPromised_) return;
         target_ = target;
         isPromised_ = isPromised;

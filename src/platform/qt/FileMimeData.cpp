@@ -5,6 +5,7 @@
 namespace vantle {
 namespace {
 
+const QString transferKey = QStringLiteral("application/vnd.portal.filetransfer");
 const QString addressList = QStringLiteral("text/uri-list");
 // What GNOME's, Xfce's and LXDE's, and MATE's file managers ask for: whether to copy or to cut.
 const QString gnomeFiles = QStringLiteral("x-special/gnome-copied-files");
@@ -34,13 +35,20 @@ std::string path(const Url& file) {
 }  // namespace
 
 FileMimeData::FileMimeData(std::vector<Url> files, std::shared_ptr<const PictureContents> picture,
-                           Use use)
-    : files_(std::move(files)), picture_(std::move(picture)), use_(use) {}
+                           Use use, FileTransferPortal portal)
+    : files_(std::move(files)),
+      picture_(std::move(picture)),
+      use_(use),
+      portal_(std::move(portal)),
+      hasPortal_(portal_.isThere()) {}
 
 QStringList FileMimeData::fileFormats() const {
     if (files_.empty()) return {};
-    if (use_ == Use::drag) return {addressList};
-    return {addressList, gnomeFiles, mateFiles, kdeCut, plainText};
+    // Programs outside a sandbox take the addresses.
+    QStringList formats = hasPortal_ ? QStringList{transferKey} : QStringList();
+    formats << addressList;
+    if (use_ == Use::clipboard) formats << gnomeFiles << mateFiles << kdeCut << plainText;
+    return formats;
 }
 
 QStringList FileMimeData::formats() const {
@@ -54,6 +62,7 @@ bool FileMimeData::hasFormat(const QString& type) const {
 QVariant FileMimeData::retrieveData(const QString& type, QMetaType) const {
     if (picture_ && picture_->types().contains(type)) return picture_->as(type);
     if (!fileFormats().contains(type)) return {};
+    if (type == transferKey) return portal_.keyFor(files_);
     if (type == addressList) return joined(files_, address, "\r\n") + "\r\n";
     if (type == gnomeFiles || type == mateFiles) return "copy\n" + joined(files_, address, "\n");
     if (type == kdeCut) return QByteArray("0");

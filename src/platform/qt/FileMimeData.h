@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "platform/qt/FileTransferPortal.h"
 #include "platform/qt/PictureContents.h"
 #include "support/Url.h"
 
@@ -20,8 +21,9 @@ public:
         drag,
     };
 
-    /// `picture` may be null.
-    FileMimeData(std::vector<Url> files, std::shared_ptr<const PictureContents> picture, Use use);
+    /// `picture` may be null. `portal` is asked for programs in a sandbox, if it is there now.
+    FileMimeData(std::vector<Url> files, std::shared_ptr<const PictureContents> picture, Use use,
+                 FileTransferPortal portal = FileTransferPortal());
 
     QStringList formats() const override;
     bool hasFormat(const QString& type) const override;
@@ -35,6 +37,8 @@ private:
     const std::vector<Url> files_;
     const std::shared_ptr<const PictureContents> picture_;
     const Use use_;
+    const FileTransferPortal portal_;
+    const bool hasPortal_;
 };
 
 }  // namespace vantle
