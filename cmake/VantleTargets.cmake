@@ -23,3 +23,11 @@ function(vantle_add_library name)
   set_target_properties(vantle_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
   target_link_libraries(vantle_${name} PUBLIC ${arg_LINKS} PRIVATE vantle_warnings)
 endfunction()
+
+# Reads headers of others once for all files of a target. Only under the sanitizers, where whole
+# builds are the rule: elsewhere each file is to prove that it includes what it uses.
+function(vantle_precompile target)
+  if(VANTLE_SANITIZE)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
