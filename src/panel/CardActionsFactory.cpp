@@ -13,11 +13,10 @@ CardActions CapturePanelController::makeActions() {
             (controller.*operation)(arguments...);
         });
     };
-    const auto onPanel = [&weak](void (Controller::*operation)()) { return weak(operation); };
 
     CardActions actions;
     actions.close = weak(&Controller::remove);
-    actions.closeAll = onPanel(&Controller::dismiss);
+    actions.closeAll = weak(&Controller::dismiss);
     // The file is opened and shown also when the controller has gone.
     const auto used = weakly(self, [](Controller& controller, const CapturePointer& capture) {
         controller.afterUse({capture});
@@ -35,16 +34,16 @@ CardActions CapturePanelController::makeActions() {
     actions.trash = weak(&Controller::trash);
     actions.toggleSelect = weak(&Controller::toggleSelect);
     actions.togglePin = weak(&Controller::togglePin);
-    actions.clearSelection = onPanel(&Controller::clearSelection);
+    actions.clearSelection = weak(&Controller::clearSelection);
     actions.dragItems = [weakSelf = weak_from_this()](const CapturePointer& startingFrom) {
         const auto controller = weakSelf.lock();
         return controller ? controller->dragItems(startingFrom) : std::vector<DragItem>{};
     };
-    actions.dragBegan = onPanel(&Controller::dragBegan);
+    actions.dragBegan = weak(&Controller::dragBegan);
     actions.dragEnded = weak(&Controller::dragEnded);
-    actions.copySelected = onPanel(&Controller::copySelected);
-    actions.trashSelected = onPanel(&Controller::trashSelected);
-    actions.removeSelected = onPanel(&Controller::removeSelected);
+    actions.copySelected = weak(&Controller::copySelected);
+    actions.trashSelected = weak(&Controller::trashSelected);
+    actions.removeSelected = weak(&Controller::removeSelected);
     return actions;
 }
 

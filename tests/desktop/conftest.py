@@ -11,6 +11,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
 
 from privatedesktop import PrivateDesktop, Program  # noqa: E402
 from watched_folder import WatchedFolder  # noqa: E402
+from web_page import WebPage  # noqa: E402
 
 # ctest is told that this exit status means "skipped".
 SKIPPED_EXIT_STATUS = 77
@@ -89,3 +90,11 @@ def vantle(desktop, binary):
 def folder(desktop, vantle):
     """The folder that the program watches."""
     return WatchedFolder(desktop.home / "Desktop", vantle)
+
+
+@pytest.fixture
+def page(desktop):
+    """A browser with a page on which things can be dropped and pasted."""
+    opened = WebPage(desktop)
+    yield opened
+    opened.close()

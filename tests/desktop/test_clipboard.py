@@ -9,7 +9,6 @@ from panel_checks import encoded, show_one, show_several, wait_for_card
 from pictures import BLUE, GREEN, RED, YELLOW, area_of, pattern, plain
 from privatedesktop import Rectangle, wait_until
 from using import press_button, press_with_control, select_all, window_titled
-from web_page import WebPage
 
 
 @pytest.fixture
@@ -18,13 +17,6 @@ def card(desktop, vantle, folder):
     vantle.write_settings(removeAfterUse="false", deleteAfterUse="false")
     vantle.start_watching()
     return wait_for_card(desktop, show_one(desktop, folder))
-
-
-@pytest.fixture
-def page(desktop):
-    opened = WebPage(desktop)
-    yield opened
-    opened.close()
 
 
 def paste(desktop, target):

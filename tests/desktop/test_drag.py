@@ -7,7 +7,6 @@ from panel_checks import show_one, show_several, wait_for_card
 from privatedesktop import Rectangle, ensure_never, wait_until, wait_until_still
 from using import Drag, select_all, tile_of, window_titled
 from watched_folder import jpeg
-from web_page import WebPage
 
 TARGET = Rectangle(200, 200, 300, 300)
 
@@ -18,13 +17,6 @@ def card(desktop, vantle, folder):
     vantle.write_settings(removeAfterUse="true", deleteAfterUse="false")
     vantle.start_watching()
     return wait_for_card(desktop, show_one(desktop, folder))
-
-
-@pytest.fixture
-def page(desktop):
-    opened = WebPage(desktop)
-    yield opened
-    opened.close()
 
 
 def is_dismissed(desktop):

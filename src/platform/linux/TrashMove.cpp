@@ -143,11 +143,13 @@ int copyAs(int file, const struct stat& status, const TrashFolder& trash, const 
     return result == 0 ? 0 : errno;
 }
 
-/// Takes the file away, unless it is not what was copied any more. Else the copy goes again.
+/// Takes the file away once its copy would outlast a loss of power, unless it is not what was
+/// copied any more. Else the copy goes again.
 int removeCopied(const std::string& path, const struct stat& status, const TrashFolder& trash,
                  const std::string& name) {
     struct stat now {};
-    int error = lstat(path.c_str(), &now) == 0 ? 0 : errno;
+    const bool isKept = fsync(trash.info.get()) == 0 && fsync(trash.files.get()) == 0;
+    int error = isKept && lstat(path.c_str(), &now) == 0 ? 0 : errno;
     if (error == 0 && !isSame(now, status)) error = EBUSY;
     if (error == 0 && unlink(path.c_str()) != 0) error = errno;
     if (error != 0) unlinkat(trash.files.get(), name.c_str(), 0);
@@ -180,10 +182,11 @@ Outcome moveFrom(const std::string& folder, const std::string& path, const Url& 
     const auto volume = volumeOf(folder);
     if (!volume) return volume.failure();
     const auto homeVolume = volumeOf(dataFolder.path());
-    if (homeVolume && homeVolume.value() == volume.value())
-        return moveInto(openHomeTrash(dataFolder), path, renaming(path));
-    const Outcome failure = moveInto(openVolumeTrash(folder, volume.value()), path, renaming(path));
-    if (!failure) return {};
+    const bool isAtHome = homeVolume && homeVolume.value() == volume.value();
+    const Outcome failure =
+        moveInto(isAtHome ? openHomeTrash(dataFolder) : openVolumeTrash(folder, volume.value()),
+                 path, renaming(path));
+    if (!failure || (isAtHome && failure->code != EXDEV)) return failure;
     return moveInto(openHomeTrash(dataFolder), path, copying(path));
 }
 

@@ -4,27 +4,21 @@
 
 #include <QDBusUnixFileDescriptor>
 #include <QFile>
-#include <QStandardPaths>
 #include <array>
 #include <cerrno>
 #include <cstring>
 
 #include "platform/qt/BusCall.h"
+#include "platform/qt/FileCommand.h"
 #include "support/FileDescriptor.h"
 #include "support/SystemLog.h"
 
 namespace vantle {
 namespace {
 
-struct OpenerProgram {
-    const char* name;
-    const char* argument;  ///< In front of the file; null when there is none.
-};
-
 // The first one asks the desktop that runs; the others are for installations without it.
-constexpr std::array openerPrograms{OpenerProgram{"xdg-open", nullptr},
-                                    OpenerProgram{"gio", "open"},
-                                    OpenerProgram{"kde-open", nullptr}};
+constexpr std::array openerPrograms{FileProgram{"xdg-open", nullptr}, FileProgram{"gio", "open"},
+                                    FileProgram{"kde-open", nullptr}};
 
 void logFailure(const Url& url, const std::string& reason) {
     systemLog("Vantle: cannot open " + url.path() + ": " + reason);
@@ -48,15 +42,9 @@ void DesktopFileOpener::open(const Url& url) {
 }
 
 Outcome DesktopFileOpener::openByDesktop(const Url& url) {
-    for (const auto& [name, argument] : openerPrograms) {
-        const QString program = QStandardPaths::findExecutable(QString::fromLatin1(name));
-        if (program.isEmpty()) continue;
-        std::vector<std::string> arguments;
-        if (argument) arguments.emplace_back(argument);
-        arguments.push_back(url.path());
-        return launcher_.launch(QFile::encodeName(program).toStdString(), arguments);
-    }
-    return Failure{ENOENT, "xdg-open is not installed", url.path()};
+    const auto command = commandFor(openerPrograms, {url});
+    if (!command) return Failure{ENOENT, "xdg-open is not installed", url.path()};
+    return launcher_.launch(command->program, command->arguments);
 }
 
 void DesktopFileOpener::openByPortal(const char* method, const Url& url) {

@@ -55,10 +55,6 @@ QStringList FileMimeData::formats() const {
     return (picture_ ? picture_->types() : QStringList()) + fileFormats();
 }
 
-bool FileMimeData::hasFormat(const QString& type) const {
-    return formats().contains(type);
-}
-
 QVariant FileMimeData::retrieveData(const QString& type, QMetaType) const {
     if (picture_ && picture_->types().contains(type)) return picture_->as(type);
     if (!fileFormats().contains(type)) return {};

@@ -26,7 +26,6 @@ public:
                  FileTransferPortal portal = FileTransferPortal());
 
     QStringList formats() const override;
-    bool hasFormat(const QString& type) const override;
 
 protected:
     QVariant retrieveData(const QString& type, QMetaType wanted) const override;

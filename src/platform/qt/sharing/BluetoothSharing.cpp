@@ -1,47 +1,22 @@
 #include "platform/qt/sharing/BluetoothSharing.h"
 
-#include <QFile>
-#include <QStandardPaths>
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <utility>
 
 #include "platform/qt/BusCall.h"
+#include "platform/qt/FileCommand.h"
 #include "platform/qt/sharing/ManagedObjects.h"
 #include "support/SystemLog.h"
 
 namespace vantle {
 namespace {
 
-struct SendingProgram {
-    const char* name;
-    const char* option;  ///< In front of each file; null when there is none.
-};
-
 // Of GNOME, of Blueman (Xfce, MATE, LXQt), and of KDE.
-constexpr std::array sendingPrograms{SendingProgram{"bluetooth-sendto", nullptr},
-                                     SendingProgram{"blueman-sendto", nullptr},
-                                     SendingProgram{"bluedevil-sendfile", "--files"}};
-
-struct Command {
-    std::string program;  ///< Empty when none is installed.
-    std::vector<std::string> arguments;
-};
-
-Command commandFor(const std::vector<Url>& files) {
-    Command command;
-    for (const auto& [name, option] : sendingPrograms) {
-        const QString path = QStandardPaths::findExecutable(QString::fromLatin1(name));
-        if (path.isEmpty()) continue;
-        command.program = QFile::encodeName(path).toStdString();
-        for (const Url& file : files) {
-            if (option) command.arguments.emplace_back(option);
-            command.arguments.push_back(file.path());
-        }
-        break;
-    }
-    return command;
-}
+constexpr std::array sendingPrograms{FileProgram{"bluetooth-sendto", nullptr},
+                                     FileProgram{"blueman-sendto", nullptr},
+                                     FileProgram{"bluedevil-sendfile", "--files"}};
 
 bool hasAdapter(const ManagedObjects& objects) {
     return std::ranges::any_of(objects, [](const auto& interfaces) {
@@ -55,7 +30,7 @@ BluetoothSharing::BluetoothSharing(ProcessLauncher& launcher, std::optional<QDBu
     : launcher_(launcher), bus_(std::move(bus)) {}
 
 void BluetoothSharing::find(Found found) {
-    if (commandFor({}).program.empty()) {
+    if (!commandFor(sendingPrograms, {})) {
         found({});
         return;
     }
@@ -72,9 +47,10 @@ void BluetoothSharing::find(Found found) {
 }
 
 void BluetoothSharing::send(const std::vector<Url>& files) {
-    const Command command = commandFor(files);
-    if (const Outcome failure = launcher_.launch(command.program, command.arguments))
-        systemLog("Vantle: cannot send over Bluetooth: " + failure->message);
+    const auto command = commandFor(sendingPrograms, files);
+    const Outcome failure = command ? launcher_.launch(command->program, command->arguments)
+                                    : Outcome(Failure{ENOENT, "the program has gone", {}});
+    if (failure) systemLog("Vantle: cannot send over Bluetooth: " + failure->message);
 }
 
 }  // namespace vantle

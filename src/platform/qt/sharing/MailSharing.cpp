@@ -5,16 +5,20 @@
 #include <QDBusMetaType>
 #include <QDBusUnixFileDescriptor>
 #include <QFile>
-#include <QStandardPaths>
 #include <QStringList>
+#include <array>
+#include <cerrno>
 #include <utility>
 
 #include "platform/qt/BusCall.h"
+#include "platform/qt/FileCommand.h"
 #include "support/FileDescriptor.h"
 #include "support/SystemLog.h"
 
 namespace vantle {
 namespace {
+
+constexpr std::array mailPrograms{FileProgram{"xdg-email", "--attach"}};
 
 using Descriptors = QList<QDBusUnixFileDescriptor>;
 
@@ -34,10 +38,6 @@ bool namesMailProgram(const QString& path) {
         if (line.startsWith("x-scheme-handler/mailto=") && line.contains(".desktop")) return true;
     }
     return false;
-}
-
-QString mailProgram() {
-    return QStandardPaths::findExecutable(QStringLiteral("xdg-email"));
 }
 
 }  // namespace
@@ -78,7 +78,7 @@ void MailSharing::find(Found found) {
         SharingOffer offer{"Mail…", "envelope", {}};
         if (!isError(reply))
             offer.perform = [this](const auto& files) { composeByPortal(files); };
-        else if (!mailProgram().isEmpty())
+        else if (commandFor(mailPrograms, {}))
             offer.perform = [this](const auto& files) { composeByDesktop(files); };
         found(offer.perform ? std::vector{offer} : std::vector<SharingOffer>{});
     };
@@ -100,14 +100,10 @@ void MailSharing::composeByPortal(const std::vector<Url>& files) {
 }
 
 void MailSharing::composeByDesktop(const std::vector<Url>& files) {
-    std::vector<std::string> arguments;
-    for (const Url& file : files) {
-        arguments.emplace_back("--attach");
-        arguments.push_back(file.path());
-    }
-    if (const Outcome failure =
-            launcher_.launch(QFile::encodeName(mailProgram()).toStdString(), arguments))
-        systemLog("Vantle: cannot write a mail: " + failure->message);
+    const auto command = commandFor(mailPrograms, files);
+    const Outcome failure = command ? launcher_.launch(command->program, command->arguments)
+                                    : Outcome(Failure{ENOENT, "xdg-email is not installed", {}});
+    if (failure) systemLog("Vantle: cannot write a mail: " + failure->message);
 }
 
 }  // namespace vantle
