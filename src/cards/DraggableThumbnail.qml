@@ -40,8 +40,8 @@ Item {
         panel: thumbnail.panel
         captureId: thumbnail.captureId
         fileName: thumbnail.fileName
-        onClicked: thumbnail.panel.open(thumbnail.captureId)
-        onSelectionToggled: thumbnail.panel.toggleSelect(thumbnail.captureId)
+        onClick: thumbnail.panel.open(thumbnail.captureId)
+        onToggleSelect: thumbnail.panel.toggleSelect(thumbnail.captureId)
     }
 
     HelpHover {

@@ -62,8 +62,9 @@ Item {
             model: view.menu.lines
 
             MenuLine {
-                menu: view.menu
-                width: lines.width
+                // A delegate's component cannot be bound (Qt 6.4), so the ids around it are meant.
+                menu: view.menu // qmllint disable unqualified
+                width: lines.width // qmllint disable unqualified
             }
         }
     }

@@ -114,7 +114,7 @@ def test_pasted_into_a_web_page_it_is_a_file_and_in_its_text_field_the_path(
     desktop, vantle, folder, card, page
 ):
     copy(desktop, card)
-    desktop.screen.pointer.click(*page.text)
+    page.focus_text()
     press_with_control(desktop, "v")
     [file] = page.pasted()
     content = (folder.path / "shot.png").read_bytes()

@@ -33,6 +33,7 @@ document.ondrop = async event => {
   tell("drop", {files: await contents(event.dataTransfer.files)});
 };
 document.onpaste = async event => tell("paste", {files: await contents(event.clipboardData.files)});
+text.onfocus = () => tell("focus", {isFocused: true});
 text.oninput = () => tell("text", {text: text.value});
 tell("ready", {isReady: true});
 </script>
@@ -48,12 +49,13 @@ class File:
 
 
 class WebPage:
-    """Open in a window of its own while it lives; `middle` is where to drop, `text` to paste."""
+    """Open in a window of its own while it lives; `middle` is where to drop."""
 
     middle = (420, 420)
-    text = (120, 130)
+    _text = (120, 130)
 
     def __init__(self, desktop):
+        self._desktop = desktop
         self._told = {}
         page = self
 
@@ -76,7 +78,7 @@ class WebPage:
         self._server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
         threading.Thread(target=self._server.serve_forever, daemon=True).start()
         desktop.start(
-            "chromium", "--no-sandbox", "--no-first-run", "--disable-gpu", "--password-store=basic",
+            "chromium", "--no-sandbox", "--test-type", "--no-first-run", "--disable-gpu", "--password-store=basic",
             "--disable-background-networking", "--disable-component-update",
             f"--user-data-dir={desktop.home / 'browser'}",
             "--window-position=20,60", "--window-size=900,600",
@@ -86,6 +88,15 @@ class WebPage:
 
     def _wait_for(self, what):
         return wait_until(lambda: self._told.get("/" + what), f"the page tells of {what}", limit=60)
+
+    def focus_text(self):
+        """Clicks into the text field until it has the keyboard."""
+
+        def is_focused():
+            self._desktop.screen.pointer.click(*self._text)
+            return self._told.get("/focus")
+
+        wait_until(is_focused, "the text field has the keyboard", interval=0.3)
 
     def dropped(self):
         return [File(told) for told in self._wait_for("drop")["files"]]

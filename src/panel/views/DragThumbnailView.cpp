@@ -102,9 +102,9 @@ void DragThumbnailView::mouseReleaseEvent(QMouseEvent* event) {
     if (!isClick) return;
     const bool toggles = event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
     if (toggles)
-        emit selectionToggled();
+        emit toggleSelect();
     else
-        emit clicked();
+        emit click();
 }
 
 void DragThumbnailView::mouseUngrabEvent() {

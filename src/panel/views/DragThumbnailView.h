@@ -33,9 +33,9 @@ public:
 
 signals:
     void changed();
-    void clicked();
+    void click();
     /// A click with the key that adds to a selection.
-    void selectionToggled();
+    void toggleSelect();
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
