@@ -28,6 +28,7 @@ std::set<UUID> toggled(std::set<UUID> ids, const UUID& id) {
 
 std::vector<Url> urls(const std::vector<CapturePointer>& captures) {
     std::vector<Url> urls;
+    urls.reserve(captures.size());
     for (const auto& capture : captures) urls.push_back(capture->url());
     return urls;
 }

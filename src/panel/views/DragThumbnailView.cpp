@@ -59,6 +59,7 @@ void DragThumbnailView::startDrag() {
         return;
     }
     std::vector<Url> urls;
+    urls.reserve(items.size());
     for (const auto& item : items) urls.push_back(item.url);
     panel_->draggingSessions().begin(
         *window(), draggingItems(items), *mouseDownPoint_,

@@ -183,7 +183,7 @@ Outcome moveFrom(const std::string& folder, const std::string& path, const Url& 
     if (!volume) return volume.failure();
     const auto homeVolume = volumeOf(dataFolder.path());
     const bool isAtHome = homeVolume && homeVolume.value() == volume.value();
-    const Outcome failure =
+    Outcome failure =
         moveInto(isAtHome ? openHomeTrash(dataFolder) : openVolumeTrash(folder, volume.value()),
                  path, renaming(path));
     if (!failure || (isAtHome && failure->code != EXDEV)) return failure;
