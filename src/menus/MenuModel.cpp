@@ -7,7 +7,7 @@ namespace vantle {
 void MenuModel::setMenu(const Menu& menu) {
     menu_ = menu;
     lines_.clear();
-    for (const auto& item : menu)
+    for (const auto& item : menu.items)
         lines_ << QVariantMap{
             {QStringLiteral("title"), QString::fromStdString(item.title)},
             {QStringLiteral("symbol"), QString::fromStdString(item.symbol)},
@@ -18,7 +18,7 @@ void MenuModel::setMenu(const Menu& menu) {
 
 bool MenuModel::isAction(int line) const {
     return line >= 0 && line < lines_.size() &&
-           menu_[static_cast<std::size_t>(line)].kind == MenuItem::Kind::action;
+           menu_.items[static_cast<std::size_t>(line)].kind == MenuItem::Kind::action;
 }
 
 void MenuModel::setCurrent(int line) {

@@ -17,6 +17,7 @@ class MenuModel : public QObject {
 
     /// Of each line: "title", "symbol", "isSeparator".
     Q_PROPERTY(QVariantList lines READ lines NOTIFY linesChanged)
+    Q_PROPERTY(QString title READ title NOTIFY linesChanged)
     /// -1 while there is none.
     Q_PROPERTY(int current READ current WRITE setCurrent NOTIFY currentChanged)
 
@@ -25,6 +26,7 @@ public:
 
     void setMenu(const Menu& menu);
     QVariantList lines() const { return lines_; }
+    QString title() const { return QString::fromStdString(menu_.title); }
 
     int current() const { return current_; }
     /// A separator cannot be it.

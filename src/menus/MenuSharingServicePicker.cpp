@@ -47,10 +47,10 @@ std::vector<SharingOffer> MenuSharingServicePicker::withOwn(std::vector<SharingO
 void MenuSharingServicePicker::open(const std::shared_ptr<Request>& request,
                                     std::vector<SharingOffer> found) {
     request->offers = withOwn(std::move(found));
-    Menu menu;
+    Menu menu{"Share", {}};
     for (const auto& offer : request->offers)
-        menu.push_back({offer.perform ? MenuItem::Kind::action : MenuItem::Kind::separator,
-                        offer.title, offer.symbol});
+        menu.items.push_back({offer.perform ? MenuItem::Kind::action : MenuItem::Kind::separator,
+                              offer.title, offer.symbol});
     if (!window_) window_ = std::make_unique<MenuWindow>();
     window_->open(menu, fromScreenCoordinates(request->anchor),
                   [request](std::optional<int> chosen) { end(*request, chosen); });

@@ -15,7 +15,7 @@ Item {
     height: plate.height + 2 * margin
 
     Accessible.role: Accessible.PopupMenu
-    Accessible.name: qsTr("Share")
+    Accessible.name: menu.title
 
     ShadowView {
         id: shadow

@@ -149,13 +149,13 @@ std::vector<DragItem> CapturePanelController::dragItems(const CapturePointer& st
 }
 
 void CapturePanelController::dragBegan() {
-    isDragging_ = true;
+    ++drags_;
     pauseCountdown();
 }
 
 void CapturePanelController::dragEnded(bool completed, const std::vector<Url>& urls) {
-    isDragging_ = false;
-    resumeCountdown();
+    drags_ = std::max(drags_ - 1, 0);
+    if (!isInUse()) resumeCountdown();
     if (!completed) return;
     std::vector<CapturePointer> dragged;
     std::ranges::copy_if(

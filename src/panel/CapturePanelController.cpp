@@ -42,7 +42,7 @@ CapturePanelController::CapturePanelController(Services services) : services_(st
     cancellables_.push_back(state_.hovering.observeChanges([this](bool hovering) {
         if (hovering)
             pauseCountdown();
-        else if (!isDragging_ && !isSharing_)
+        else if (!isInUse())
             resumeCountdown();
     }));
 }
@@ -107,7 +107,7 @@ void CapturePanelController::restartCountdown() {
     state_.progress.set(1.0);
     const Seconds dismissAfter(services_.settings.dismissAfter.value());
     if (!(dismissAfter > Seconds(0))) return;
-    if (state_.hovering.value() || isDragging_ || isSharing_)
+    if (state_.hovering.value() || isInUse())
         pausedRemaining_ = dismissAfter;
     else
         startTimers(dismissAfter);

@@ -102,6 +102,8 @@ private:
     void startTimers(Seconds remaining);
     void invalidateTimers();
     void expire();
+    /// Whether the user is at something that needs the card although the pointer has left it.
+    bool isInUse() const { return drags_ > 0 || isSharing_; }
     void pauseCountdown();
     void resumeCountdown();
 
@@ -111,7 +113,7 @@ private:
     TimerPointer dismissTimer_;
     TimerPointer progressTimer_;
     std::optional<Seconds> pausedRemaining_;
-    bool isDragging_ = false;
+    int drags_ = 0;  ///< Under way: one may begin while another waits for its target's answer.
     bool isSharing_ = false;
     std::shared_ptr<ShareCompletion> shareDelegate_;  ///< Lives as long as the menu.
     std::vector<Subscription> cancellables_;

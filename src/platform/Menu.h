@@ -14,6 +14,10 @@ struct MenuItem {
     std::string symbol;  ///< A name in assets/symbols; empty for none.
 };
 
-using Menu = std::vector<MenuItem>;
+/// A menu, as plain data.
+struct Menu {
+    std::string title;  ///< Not drawn; screen readers say it.
+    std::vector<MenuItem> items;
+};
 
 }  // namespace vantle

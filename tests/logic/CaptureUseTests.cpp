@@ -219,6 +219,19 @@ TEST_F(CaptureUseTest, TheCountdownWaitsForTheDragThoughThePointerLeavesTheCard)
     EXPECT_FALSE(controller().isVisible());
 }
 
+TEST_F(CaptureUseTest, ADragThatBeginsWhileAnotherAwaitsItsAnswerKeepsTheCountdownWaiting) {
+    settings.dismissAfter.set(10);
+    const auto shown = show({"a"});
+    actions.dragBegan();
+    actions.dragBegan();
+    actions.dragEnded(false, {shown[0]->url()});
+    wait(60);
+    EXPECT_TRUE(controller().isVisible());
+    actions.dragEnded(false, {shown[0]->url()});
+    wait(10);
+    EXPECT_FALSE(controller().isVisible());
+}
+
 TEST_F(CaptureUseTest, TheShareMenuPointsAtTheButtonOnTheScreen) {
     const auto shown = show({"a"});
     actions.share(shown[0], Rect{{700, 280}, {28, 28}});

@@ -16,8 +16,8 @@ const MenuItem rule{MenuItem::Kind::separator, "", ""};
 
 class MenuTest : public testing::Test {
 protected:
-    void open(const Menu& shown, const QRect& anchor = {300, 200, 28, 28}) {
-        window.open(shown, anchor, [this](std::optional<int> line) {
+    void open(const std::vector<MenuItem>& lines, const QRect& anchor = {300, 200, 28, 28}) {
+        window.open({"Menu", lines}, anchor, [this](std::optional<int> line) {
             ++timesEnded;
             chosen = line;
         });
@@ -40,11 +40,11 @@ protected:
     }
     int current() { return window.model().current(); }
 
-    const Menu menu{{.title = "Mail…", .symbol = "envelope"},
-                    {.title = "Phone", .symbol = "phone"},
-                    rule,
-                    {.title = "Copy file", .symbol = "doc.on.doc"},
-                    {.title = "Reveal", .symbol = "folder"}};
+    const std::vector<MenuItem> menu{{.title = "Mail…", .symbol = "envelope"},
+                                     {.title = "Phone", .symbol = "phone"},
+                                     rule,
+                                     {.title = "Copy file", .symbol = "doc.on.doc"},
+                                     {.title = "Reveal", .symbol = "folder"}};
     MenuWindow window;
     int timesEnded = 0;
     std::optional<int> chosen;

@@ -38,12 +38,13 @@ struct Subject {
 
 QImage drawnMenu() {
     MenuWindow window;
-    const Menu menu{{.title = "Mail…", .symbol = "envelope"},
-                    {.title = "Telephone of somebody", .symbol = "phone"},
-                    {.title = "Bluetooth…", .symbol = "radiowaves"},
-                    {.kind = MenuItem::Kind::separator},
-                    {.title = "Copy file", .symbol = "doc.on.doc"},
-                    {.title = "Reveal", .symbol = "folder"}};
+    const Menu menu{"Share",
+                    {{.title = "Mail…", .symbol = "envelope"},
+                     {.title = "Telephone of somebody", .symbol = "phone"},
+                     {.title = "Bluetooth…", .symbol = "radiowaves"},
+                     {.kind = MenuItem::Kind::separator},
+                     {.title = "Copy file", .symbol = "doc.on.doc"},
+                     {.title = "Reveal", .symbol = "folder"}}};
     window.open(menu, {20, 20, 28, 28}, [](auto) {});
     QTest::keyClick(&window, Qt::Key_End);
     QTest::keyClick(&window, Qt::Key_Up);
