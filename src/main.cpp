@@ -65,11 +65,11 @@ std::shared_ptr<MediaLoader> makePictureLoader() {
 }
 
 /// What a capture can be used for.
-void addUses(Platform& platform) {
+void addUses(Platform& platform, std::shared_ptr<MediaLoader> pictures) {
     platform.opener = std::make_unique<DesktopFileOpener>(*platform.launcher,
                                                           DesktopFileOpener::currentSandbox());
     platform.trash = std::make_unique<FreedesktopTrash>(*platform.scheduler, platform.environment);
-    platform.pasteboard = std::make_unique<QtPasteboard>(makePictureLoader());
+    platform.pasteboard = std::make_unique<QtPasteboard>(std::move(pictures));
     platform.sharing = std::make_unique<MenuSharingServicePicker>(
         makeSharingSource(platform), *platform.pasteboard, *platform.opener);
 }
@@ -98,7 +98,6 @@ Platform makePlatform() {
     auto queue = std::make_unique<PollQueue>("vantle.watcher");
     platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*queue);
     platform.watcherQueue = std::move(queue);
-    addUses(platform);
     return platform;
 }
 
@@ -148,8 +147,10 @@ int main(int argc, char** argv) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
 
     Platform platform = makePlatform();
+    const auto pictures = makePictureLoader();
+    addUses(platform, pictures);
     Appearance::follow(platform.appearance.get());
-    QtDraggingSessions dragging(makePictureLoader());
+    QtDraggingSessions dragging(pictures);
     const auto delegate = AppDelegate::create(platform, [&](PanelState& state, Settings& settings,
                                                             CardActions actions) {
         return std::make_unique<CapturePanel>(PanelModel::Context{

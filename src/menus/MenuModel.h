@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QVariantList>
+#include <functional>
 
 #include "platform/Menu.h"
 
@@ -25,7 +26,7 @@ public:
     static constexpr int none = -1;
 
     void setMenu(const Menu& menu);
-    QVariantList lines() const { return lines_; }
+    QVariantList lines() const;
     QString title() const { return QString::fromStdString(menu_.title); }
 
     int current() const { return current_; }
@@ -44,10 +45,13 @@ signals:
     void chosen(int line);
 
 private:
+    int count() const { return static_cast<int>(menu_.items.size()); }
+    const MenuItem& item(int line) const { return menu_.items[static_cast<std::size_t>(line)]; }
     bool isAction(int line) const;
+    /// Goes on from the current line, around the end, to the first that can be chosen and fits.
+    void seek(int direction, const std::function<bool(const MenuItem&)>& fits);
 
     Menu menu_;
-    QVariantList lines_;
     int current_ = none;
 };
 

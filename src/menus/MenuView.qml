@@ -9,6 +9,7 @@ Item {
     required property MenuModel menu
     // Room for the shadow.
     readonly property real margin: shadow.margin
+    readonly property real cornerRadius: 10
     readonly property real padding: 5
 
     width: plate.width + 2 * margin
@@ -35,7 +36,7 @@ Item {
         y: view.margin
         width: lines.width + 2 * view.padding
         height: lines.natural.height + 2 * view.padding
-        cornerRadius: 10
+        cornerRadius: view.cornerRadius
         fill: Appearance.isDark ? Qt.rgba(0.17, 0.17, 0.185, 0.97) : Qt.rgba(0.97, 0.97, 0.98, 0.97)
         borderWidth: 1
         borderColor: Appearance.isDark ? Qt.rgba(1, 1, 1, 0.16) : Qt.rgba(0, 0, 0, 0.12)

@@ -18,18 +18,12 @@ Q_IMPORT_QML_PLUGIN(Vantle_MenusPlugin)
 namespace vantle {
 namespace {
 
-constexpr int gap = 4;  // points between the menu and what it points to
-constexpr double cornerRadius = 10;
+constexpr int gap = 4;   // points between the menu and what it points to
 constexpr int edge = 6;  // points between the menu and the sides of the screen
 
 const QScreen& screenAt(const QRect& anchor) {
     const QScreen* screen = QGuiApplication::screenAt(anchor.center());
     return screen ? *screen : *QGuiApplication::primaryScreen();
-}
-
-/// The plate without its shadow, for screens on which nothing shines through.
-QRegion roundedRegion(const QRect& plate) {
-    return {continuousRoundedRect(plate, cornerRadius).toFillPolygon().toPolygon()};
 }
 
 }  // namespace
@@ -75,7 +69,11 @@ void MenuWindow::place(const QRect& anchor) {
     const int rightmost = room.right() + 1 - edge - shown.width();
     const int x = std::max(room.left() + edge, std::min(anchor.left(), rightmost));
     setPosition(QPoint(x, std::max(room.top(), y)) - shown.topLeft());
-    setMask(compositorIsRunning() ? QRegion() : roundedRegion(shown));
+    // Where nothing shines through there is no shadow.
+    const double radius = rootObject()->property("cornerRadius").toReal();
+    setMask(compositorIsRunning()
+                ? QRegion()
+                : QRegion(continuousRoundedRect(shown, radius).toFillPolygon().toPolygon()));
 }
 
 void MenuWindow::grab() {
