@@ -1,6 +1,5 @@
 #pragma once
 
-#include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>
 #include <unistd.h>

@@ -9,6 +9,7 @@ import pytest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
 
+from panel_checks import show_one, wait_for_card  # noqa: E402
 from privatedesktop import PrivateDesktop, Program  # noqa: E402
 from watched_folder import WatchedFolder  # noqa: E402
 from web_page import WebPage  # noqa: E402
@@ -90,6 +91,14 @@ def vantle(desktop, binary):
 def folder(desktop, vantle):
     """The folder that the program watches."""
     return WatchedFolder(desktop.home / "Desktop", vantle)
+
+
+@pytest.fixture
+def card(desktop, vantle, folder):
+    """With one capture on it, which leaves when it is used."""
+    vantle.write_settings(removeAfterUse="true", deleteAfterUse="false")
+    vantle.start_watching()
+    return wait_for_card(desktop, show_one(desktop, folder))
 
 
 @pytest.fixture

@@ -25,6 +25,10 @@ def show_one(desktop, folder, name="shot.png"):
     return panel
 
 
+def is_dismissed(desktop):
+    return desktop.screen.panel() is None
+
+
 def shows_tile(desktop, frame):
     return is_one_pattern(desktop.screen.screenshot(frame))
 

@@ -1,26 +1,12 @@
 """Tiles dragged into other programs with a real pointer, and what arrived there."""
 
-import pytest
-
 from drop_target import DropTarget, served
-from panel_checks import show_one, show_several, wait_for_card
+from panel_checks import is_dismissed, show_one, show_several, wait_for_card
 from privatedesktop import Rectangle, ensure_never, wait_until, wait_until_still
 from using import Drag, select_all, tile_of, window_titled
 from watched_folder import jpeg
 
 TARGET = Rectangle(200, 200, 300, 300)
-
-
-@pytest.fixture
-def card(desktop, vantle, folder):
-    """With one capture on it, which leaves when it is used."""
-    vantle.write_settings(removeAfterUse="true", deleteAfterUse="false")
-    vantle.start_watching()
-    return wait_for_card(desktop, show_one(desktop, folder))
-
-
-def is_dismissed(desktop):
-    return desktop.screen.panel() is None
 
 
 def check_nothing_happened(desktop, folder):

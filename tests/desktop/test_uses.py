@@ -2,27 +2,13 @@
 
 import os
 
-import pytest
-
-from panel_checks import encoded, show_one, wait_for_card
+from panel_checks import encoded, is_dismissed, show_one, wait_for_card
 from pictures import pattern
 from privatedesktop import ensure_never, wait_until, wait_until_still
 from using import press_button, press_with_control, select_all, tile_of, window_titled
 
-# Of a share menu that has only its own two lines.
-MENU_WIDTH, MENU_LINE = 180, 28
-
-
-@pytest.fixture
-def card(desktop, vantle, folder):
-    """With one capture on it, which leaves when it is used."""
-    vantle.write_settings(removeAfterUse="true", deleteAfterUse="false")
-    vantle.start_watching()
-    return wait_for_card(desktop, show_one(desktop, folder))
-
-
-def is_dismissed(desktop):
-    return desktop.screen.panel() is None
+# The height of a line of the share menu.
+MENU_LINE = 28
 
 
 def trashed(desktop):
