@@ -74,6 +74,16 @@ void addUses(Platform& platform, std::shared_ptr<MediaLoader> pictures) {
         makeSharingSource(platform), *platform.pasteboard, *platform.opener);
 }
 
+std::unique_ptr<LoginItem> makeLoginItem(const Environment& environment) {
+    const UserDirectories directories(environment);
+    std::vector<Url> folders{directories.configuration().appending("autostart")};
+    for (const Url& system : directories.systemConfiguration())
+        folders.push_back(system.appending("autostart"));
+    return std::make_unique<AutostartLoginItem>(
+        folders, identifier, QCoreApplication::applicationFilePath().toStdString(),
+        environment("XDG_CURRENT_DESKTOP").value_or(""));
+}
+
 /// The services of a Linux desktop.
 Platform makePlatform() {
     Platform platform;
@@ -89,9 +99,7 @@ Platform makePlatform() {
     platform.screenshotPreferences = std::make_unique<IniPreferencesDomain>(
         own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));
     platform.launcher = std::make_unique<PosixProcessLauncher>();
-    platform.loginItem =
-        std::make_unique<AutostartLoginItem>(configuration.appending("autostart"), identifier,
-                                             QCoreApplication::applicationFilePath().toStdString());
+    platform.loginItem = makeLoginItem(platform.environment);
     platform.screens = std::make_unique<QtScreens>();
     platform.application = std::make_unique<DBusApplication>(identifier);
     platform.appearance = std::make_unique<PortalAppearance>();

@@ -28,7 +28,7 @@ struct RememberedItem {
 
 struct DesktopItem {
     TemporaryFolder folder;
-    AutostartLoginItem item{folder.url(), "org.example.Program", "/opt/Program/program"};
+    AutostartLoginItem item{{folder.url()}, "org.example.Program", "/opt/Program/program"};
 
     std::unique_ptr<Locked> forbid() {
         return std::make_unique<Locked>(
@@ -76,18 +76,18 @@ TYPED_TEST(LoginItemContract, AFailureIsToldAndChangesNothing) {
 class AutostartLoginItemTest : public testing::Test {
 protected:
     std::string entryFor(const std::string& executable) const {
-        AutostartLoginItem other(folder.url(), "org.example.Program", executable);
+        AutostartLoginItem other({folder.url()}, "org.example.Program", executable);
         EXPECT_EQ(other.registerItem(), std::nullopt);
         return readText(entry);
     }
 
     TemporaryFolder folder;
     Url entry = folder / "org.example.Program.desktop";
-    AutostartLoginItem item{folder.url(), "org.example.Program", "/opt/Program/program"};
+    AutostartLoginItem item{{folder.url()}, "org.example.Program", "/opt/Program/program"};
 };
 
 TEST_F(AutostartLoginItemTest, TheFolderIsMadeWhenItIsMissing) {
-    AutostartLoginItem deep((folder / "config").appending("autostart"), "org.example.Program",
+    AutostartLoginItem deep({(folder / "config").appending("autostart")}, "org.example.Program",
                             "/opt/program");
     EXPECT_EQ(deep.registerItem(), std::nullopt);
     EXPECT_EQ(deep.status(), Status::enabled);
@@ -122,6 +122,70 @@ TEST_F(AutostartLoginItemTest, WhatIsNoDesktopEntryIsNotRegistered) {
     std::filesystem::create_directory(entry.path());
     EXPECT_EQ(item.status(), Status::notRegistered);
     EXPECT_NE(item.registerItem(), std::nullopt);
+}
+
+TEST_F(AutostartLoginItemTest, AnEntryForOtherDesktopsIsNotRegisteredHere) {
+    const AutostartLoginItem onXfce({folder.url()}, "org.example.Program", "/opt/program",
+                                    "ubuntu:XFCE");
+    for (const auto& [line, expected] : {std::pair{"OnlyShowIn=GNOME;XFCE;", Status::enabled},
+                                         std::pair{"OnlyShowIn=GNOME;", Status::notRegistered},
+                                         std::pair{"NotShowIn = KDE;XFCE", Status::notRegistered},
+                                         std::pair{"NotShowIn=KDE;", Status::enabled}}) {
+        writeText(entry, "[Desktop Entry]\nExec=/opt/program\n" + std::string(line) + "\n");
+        EXPECT_EQ(onXfce.status(), expected) << line;
+    }
+}
+
+TEST_F(AutostartLoginItemTest, OnlyTheKeysOfItsOwnGroupCount) {
+    writeText(entry,
+              "# Hidden=true\r\n[Desktop Entry]\r\nExec=/opt/program\r\n"
+              "[Desktop Action pause]\r\nHidden=true\r\n");
+    EXPECT_EQ(item.status(), Status::enabled);
+    writeText(entry, "Exec=/opt/program\n[Other]\nExec=/opt/program\n");
+    EXPECT_EQ(item.status(), Status::notRegistered);
+}
+
+class ShadowedLoginItemTest : public testing::Test {
+protected:
+    Url entryIn(const TemporaryFolder& of) const { return of / "org.example.Program.desktop"; }
+
+    const std::string entry = "[Desktop Entry]\nType=Application\nExec=/usr/bin/program\n";
+    TemporaryFolder user;
+    TemporaryFolder system;
+    AutostartLoginItem item{
+        {user.url(), system.url()}, "org.example.Program", "/opt/Program/program"};
+};
+
+TEST_F(ShadowedLoginItemTest, TheSystemsEntryCountsWithoutOneOfTheUser) {
+    writeText(entryIn(system), entry);
+    EXPECT_EQ(item.status(), Status::enabled);
+}
+
+TEST_F(ShadowedLoginItemTest, TheUsersEntryShadowsTheSystems) {
+    writeText(entryIn(system), entry);
+    writeText(entryIn(user), entry + "Hidden=true\n");
+    EXPECT_EQ(item.status(), Status::notRegistered);
+    writeText(entryIn(user), "");
+    EXPECT_EQ(item.status(), Status::notRegistered);
+}
+
+TEST_F(ShadowedLoginItemTest, UnregisteringHidesTheSystemsEntryAndLeavesIt) {
+    writeText(entryIn(system), entry);
+    ASSERT_EQ(item.unregisterItem(), std::nullopt);
+    EXPECT_EQ(item.status(), Status::notRegistered);
+    EXPECT_EQ(readText(entryIn(system)), entry);
+    ASSERT_EQ(item.registerItem(), std::nullopt);
+    EXPECT_EQ(item.status(), Status::enabled);
+}
+
+TEST_F(ShadowedLoginItemTest, WhereTheFolderCannotBeWrittenTheStateStaysTheRealOne) {
+    writeText(entryIn(system), entry);
+    std::filesystem::permissions(system.url().path(), std::filesystem::perms::group_exec,
+                                 std::filesystem::perm_options::add);
+    const Locked locked(user.url(),
+                        std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    EXPECT_NE(item.unregisterItem(), std::nullopt);
+    EXPECT_EQ(item.status(), Status::enabled);
 }
 
 }  // namespace

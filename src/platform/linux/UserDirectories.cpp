@@ -6,6 +6,7 @@
 #include <array>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <string>
 
 namespace vantle {
@@ -66,6 +67,15 @@ Url UserDirectories::home() const {
 
 Url UserDirectories::configuration() const {
     return baseDirectory("XDG_CONFIG_HOME", ".config");
+}
+
+std::vector<Url> UserDirectories::systemConfiguration() const {
+    std::vector<Url> folders;
+    std::istringstream listed(environment_("XDG_CONFIG_DIRS").value_or(""));
+    for (std::string folder; std::getline(listed, folder, ':');)
+        if (folder.starts_with('/')) folders.push_back(Url::file(folder));
+    if (folders.empty()) folders.push_back(Url::file("/etc/xdg"));
+    return folders;
 }
 
 Url UserDirectories::data() const {

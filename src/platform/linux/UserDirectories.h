@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "support/Environment.h"
 #include "support/Url.h"
@@ -19,6 +20,9 @@ public:
 
     /// $XDG_CONFIG_HOME, else ~/.config.
     Url configuration() const;
+
+    /// $XDG_CONFIG_DIRS, else /etc/xdg: those of the system, the most important one first.
+    std::vector<Url> systemConfiguration() const;
 
     /// $XDG_DATA_HOME, else ~/.local/share.
     Url data() const;
