@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "support/Date.h"
 #include "support/NameList.h"
@@ -42,6 +43,14 @@ public:
 
     /// Makes the folder with all missing parents. A folder that is there already is a success.
     virtual Outcome createDirectory(const Url& folder) = 0;
+
+    /// Puts a file with these contents in the place of the one that stands there, if any. Nobody
+    /// ever sees a part of it; whether it outlives a power failure is not said.
+    virtual Outcome write(const std::string& contents, const Url& file) = 0;
+
+    /// A folder for files that nobody misses after a restart, which is this user's alone. Made when
+    /// it is not there.
+    virtual Result<Url> temporaryDirectory() = 0;
 
     virtual Url homeDirectory() const = 0;
 

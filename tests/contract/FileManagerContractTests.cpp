@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <array>
 #include <cerrno>
@@ -119,6 +120,22 @@ TYPED_TEST(FileManagerContract, MakesNoFolderWhereItMayNot) {
     EXPECT_EQ(failure->code, EACCES);
 }
 
+TYPED_TEST(FileManagerContract, WritesAFileInThePlaceOfAnother) {
+    EXPECT_EQ(this->disk.files.write("four", this->file("a.png")), std::nullopt);
+    EXPECT_EQ(this->disk.files.fileSize(this->file("a.png")), 4);
+    EXPECT_EQ(this->disk.files.write("longer", this->file("a.png")), std::nullopt);
+    EXPECT_EQ(this->disk.files.fileSize(this->file("a.png")), 6);
+    EXPECT_THAT(this->names(), testing::ElementsAre("a.png"));
+}
+
+TYPED_TEST(FileManagerContract, WritesNothingWhereItMayNot) {
+    [[maybe_unused]] const auto locked = this->disk.lock(this->disk.folder);
+    const auto failure = this->disk.files.write("four", this->file("a.png"));
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->code, EACCES);
+    EXPECT_EQ(this->disk.files.existence(this->file("a.png")), Existence::none);
+}
+
 class LinuxFileManagerTest : public FileManagerContract<RealDisk> {
 protected:
     std::optional<bool> isRegularFile(const Url& url) const {
@@ -181,6 +198,46 @@ TEST_F(LinuxFileManagerTest, DatesFarFromTodayAreDates) {
         ASSERT_TRUE(date.has_value());
         EXPECT_EQ(*date < Date(), seconds < 0) << seconds;
     }
+}
+
+class TemporaryDirectoryTest : public testing::Test {
+protected:
+    std::string name() const { return "vantle-" + std::to_string(getuid()); }
+
+    TemporaryFolder shared;
+    LinuxFileManager files{[this](const std::string& variable) {
+                               return variable == "TMPDIR" ? std::optional(shared.url().path())
+                                                           : std::nullopt;
+                           },
+                           RealDisk::isRecording};
+};
+
+TEST_F(TemporaryDirectoryTest, IsThisUsersAlone) {
+    for (int i = 0; i < 2; ++i) {
+        const auto folder = files.temporaryDirectory();
+        ASSERT_TRUE(folder);
+        EXPECT_EQ(folder.value(), shared / name());
+        EXPECT_EQ(std::filesystem::status(folder.value().path()).permissions(),
+                  std::filesystem::perms::owner_all);
+    }
+}
+
+TEST_F(TemporaryDirectoryTest, IsNotTakenFromOthers) {
+    const std::string path = (shared / name()).path();
+    std::filesystem::create_directory_symlink("/etc", path);
+    EXPECT_FALSE(files.temporaryDirectory());
+    std::filesystem::remove(path);
+    std::filesystem::create_directory(path);
+    std::filesystem::permissions(path, std::filesystem::perms::all);
+    EXPECT_FALSE(files.temporaryDirectory());
+    std::filesystem::remove(path);
+    writeText(shared / name(), "");
+    EXPECT_FALSE(files.temporaryDirectory());
+}
+
+TEST_F(TemporaryDirectoryTest, CannotBeHadWhereNothingCanBeWritten) {
+    const Locked locked(shared.url(), RealDisk::readable);
+    EXPECT_FALSE(files.temporaryDirectory());
 }
 
 }  // namespace

@@ -200,6 +200,19 @@ Outcome FakeFileSystem::createDirectory(const Url& folder) {
     return {};
 }
 
+Outcome FakeFileSystem::write(const std::string& contents, const Url& file) {
+    if (existence(file) == Existence::directory) return failure(EISDIR, file);
+    if (isReadOnly(file)) return failure(EACCES, file);
+    contents_[file.path()] = contents;
+    write(file, static_cast<std::int64_t>(contents.size()), Date{});
+    return {};
+}
+
+std::string FakeFileSystem::contents(const Url& file) const {
+    const auto found = contents_.find(file.path());
+    return found == contents_.end() ? std::string() : found->second;
+}
+
 Result<std::shared_ptr<DirectoryEventSource>> FakeFileSystem::open(const Url& folder,
                                                                    Handler handler) {
     if (const auto error = openingErrors_.find(folder.path());

@@ -59,6 +59,9 @@ public:
     void setHome(const Url& home) { home_ = home; }
     void setDesktop(std::optional<Url> desktop) { desktop_ = std::move(desktop); }
 
+    /// What write() put into a file; empty when it did not.
+    std::string contents(const Url& file) const;
+
     std::size_t openSources() const;
     /// How often a folder was listed / a file's size or values were read.
     int listings() const { return listings_; }
@@ -69,6 +72,8 @@ public:
     Result<ResourceValues> resourceValues(const Url& url) const override;
     std::optional<std::int64_t> fileSize(const Url& url) const override;
     Outcome createDirectory(const Url& folder) override;
+    Outcome write(const std::string& contents, const Url& file) override;
+    Result<Url> temporaryDirectory() override { return Url::file("/tmp/user"); }
     Url homeDirectory() const override { return home_; }
     std::optional<Url> desktopDirectory() const override { return desktop_; }
 
@@ -82,6 +87,7 @@ private:
 
     SerialQueue& queue_;
     std::map<std::string, Entry> entries_;
+    std::map<std::string, std::string> contents_;
     std::map<std::string, int> listingErrors_;
     std::map<std::string, int> openingErrors_;
     std::set<std::string> readOnly_;

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -12,6 +13,7 @@
 #include "platform/linux/DirectoryStream.h"
 #include "platform/linux/SystemFailure.h"
 #include "platform/linux/UserDirectories.h"
+#include "platform/linux/WholeFile.h"
 #include "platform/linux/WriterCheck.h"
 
 namespace vantle {
@@ -76,6 +78,25 @@ Outcome LinuxFileManager::createDirectory(const Url& folder) {
     std::filesystem::create_directories(folder.path(), error);
     if (error) return systemFailure(error.value(), folder.path());
     return {};
+}
+
+Outcome LinuxFileManager::write(const std::string& contents, const Url& file) {
+    return replaceWholeFile(file, contents, Durability::untilRestart);
+}
+
+Result<Url> LinuxFileManager::temporaryDirectory() {
+    const auto chosen = environment_("TMPDIR");
+    const Url shared = Url::file(chosen && chosen->starts_with('/') ? *chosen : "/tmp");
+    const Url own = shared.appending("vantle-" + std::to_string(getuid()));
+    if (mkdir(own.path().c_str(), S_IRWXU) != 0 && errno != EEXIST)
+        return systemFailure(errno, own.path());
+    // Somebody else may have been there first.
+    struct stat status {};
+    if (lstat(own.path().c_str(), &status) != 0) return systemFailure(errno, own.path());
+    const bool isOurs = S_ISDIR(status.st_mode) && status.st_uid == getuid() &&
+                        (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+    if (!isOurs) return systemFailure(EPERM, own.path());
+    return own;
 }
 
 Url LinuxFileManager::homeDirectory() const {

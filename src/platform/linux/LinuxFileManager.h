@@ -20,6 +20,10 @@ public:
     Result<ResourceValues> resourceValues(const Url& url) const override;
     std::optional<std::int64_t> fileSize(const Url& url) const override;
     Outcome createDirectory(const Url& folder) override;
+    Outcome write(const std::string& contents, const Url& file) override;
+    /// In $TMPDIR, or /tmp, which other users may write to as well: a folder that only this user
+    /// can enter.
+    Result<Url> temporaryDirectory() override;
     Url homeDirectory() const override;
     std::optional<Url> desktopDirectory() const override;
 

@@ -71,7 +71,8 @@ Result<std::string> readWholeFile(const Url& file, std::size_t limit) {
     }
 }
 
-Outcome replaceWholeFile(const Url& file, std::string_view contents) {
+Outcome replaceWholeFile(const Url& file, std::string_view contents, Durability durability) {
+    const bool isSynchronized = durability == Durability::throughFailure;
     const Url place = target(file);
     std::error_code error;
     std::filesystem::create_directories(place.deletingLastPathComponent().path(), error);
@@ -81,14 +82,15 @@ Outcome replaceWholeFile(const Url& file, std::string_view contents) {
     FileDescriptor descriptor(mkostemp(temporary.data(), O_CLOEXEC));
     if (!descriptor) return systemFailure(errno, place.path());
     const bool isWritten = fchmod(descriptor.get(), modeFor(place)) == 0 &&
-                           writeAll(descriptor.get(), contents) && fsync(descriptor.get()) == 0 &&
+                           writeAll(descriptor.get(), contents) &&
+                           (!isSynchronized || fsync(descriptor.get()) == 0) &&
                            rename(temporary.c_str(), place.path().c_str()) == 0;
     if (!isWritten) {
         const int failed = errno;
         unlink(temporary.c_str());
         return systemFailure(failed, place.path());
     }
-    synchronizeFolder(place.deletingLastPathComponent());
+    if (isSynchronized) synchronizeFolder(place.deletingLastPathComponent());
     return {};
 }
 
