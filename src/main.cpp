@@ -1,16 +1,25 @@
 #include <malloc.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QGuiApplication>
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
 #include <memory>
+#include <system_error>
 
 #include "app/AppDelegate.h"
+#include "app/CommandLine.h"
 #include "menus/MenuSharingServicePicker.h"
+#include "menus/MenuWindow.h"
 #include "panel/views/Appearance.h"
 #include "panel/views/CapturePanel.h"
 #include "panel/views/dragging/QtDraggingSessions.h"
 #include "platform/Platform.h"
 #include "platform/linux/AutostartLoginItem.h"
+#include "platform/linux/CanberraSoundPlayer.h"
 #include "platform/linux/ConfinedMediaLoader.h"
 #include "platform/linux/FreedesktopTrash.h"
 #include "platform/linux/IniPreferencesDomain.h"
@@ -23,7 +32,9 @@
 #include "platform/qt/DBusApplication.h"
 #include "platform/qt/DensestScreen.h"
 #include "platform/qt/DesktopFileOpener.h"
+#include "platform/qt/DesktopPrivacySettings.h"
 #include "platform/qt/PortalAppearance.h"
+#include "platform/qt/QtCanvas.h"
 #include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/QtScreens.h"
@@ -33,12 +44,16 @@
 #include "platform/qt/sharing/KdeConnectSharing.h"
 #include "platform/qt/sharing/MailSharing.h"
 #include "platform/qt/sharing/SharingSources.h"
+#include "platform/qt/tray/TrayStatusItem.h"
+#include "screens/AlertWindow.h"
+#include "support/SystemLog.h"
 
 namespace {
 
 using namespace vantle;
 
 constexpr auto identifier = "org.vantle.Vantle";
+constexpr int wrongCommandLine = 2;  // the exit status
 
 bool isRecording(const Url& url) {
     return Capture::kind(url) == CaptureKind::video;
@@ -72,6 +87,30 @@ void addUses(Platform& platform, std::shared_ptr<MediaLoader> pictures) {
     platform.pasteboard = std::make_unique<QtPasteboard>(std::move(pictures));
     platform.sharing = std::make_unique<MenuSharingServicePicker>(
         makeSharingSource(platform), *platform.pasteboard, *platform.opener);
+    platform.privacySettings = std::make_unique<DesktopPrivacySettings>(
+        identifier, *platform.opener, DesktopFileOpener::currentSandbox());
+}
+
+/// The icon in the tray. Its menu is loaded when it is opened for the first time.
+std::unique_ptr<StatusItem> makeStatusItem() {
+    const auto window = std::make_shared<std::unique_ptr<MenuWindow>>();
+    const auto open = [window](const Menu& menu, const QRect& anchor) {
+        if (!*window) *window = std::make_unique<MenuWindow>();
+        (*window)->open(menu, anchor);
+    };
+    // A window of X cannot hold the pointer there.
+    const bool isWayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    return std::make_unique<TrayStatusItem>(open, isWayland ? TrayStatusItem::Click::opensMenuOfTray
+                                                            : TrayStatusItem::Click::opensOurMenu);
+}
+
+/// What the program says of itself, outside the panel.
+void addShell(Platform& platform) {
+    platform.statusItem = makeStatusItem();
+    platform.alerts = std::make_unique<WindowAlerts>();
+    platform.canvas = std::make_unique<QtCanvas>(densestScreen());
+    platform.sounds =
+        std::make_unique<CanberraSoundPlayer>(Url::file(beside("../share/vantle/sounds")));
 }
 
 std::unique_ptr<LoginItem> makeLoginItem(const Environment& environment) {
@@ -136,10 +175,26 @@ void returnLargeBlocksAtOnce() {
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 }
 
-/// "vantle --focus-panel" asks the copy that runs for the action of that name.
-std::string requestedAction() {
-    const QString option = QGuiApplication::arguments().value(1);
-    return option.startsWith(QStringLiteral("--")) ? option.mid(2).toStdString() : std::string();
+/// A display that is missing, for instance, is no reason for a core dump.
+void endOnFatalMessages(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    systemLog((type == QtFatalMsg ? "Vantle: " : "") + message.toStdString());
+    if (type == QtFatalMsg) _exit(EXIT_FAILURE);
+}
+
+/// Says how a request went, and gives the exit status.
+int conclude(const Result<std::string>& answer) {
+    if (!answer) {
+        std::cerr << "vantle: " << answer.failure().message << std::endl;
+        return EXIT_FAILURE;
+    }
+    if (!answer.value().empty()) std::cout << answer.value() << std::endl;
+    return EXIT_SUCCESS;
+}
+
+/// Asks the copy that runs; needs no display.
+int ask(int& argc, char** argv, const ApplicationRequest& request) {
+    const QCoreApplication application(argc, argv);
+    return conclude(DBusApplication(identifier).ask(request));
 }
 
 QGuiApplication makeApplication(int& argc, char** argv) {
@@ -147,16 +202,20 @@ QGuiApplication makeApplication(int& argc, char** argv) {
     return QGuiApplication(argc, argv);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    returnLargeBlocksAtOnce();
+int run(int& argc, char** argv, const std::optional<ApplicationRequest>& request) {
+    qInstallMessageHandler(endOnFatalMessages);
     QGuiApplication application = makeApplication(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    if (request) {
+        const auto answer = DBusApplication(identifier).ask(*request);
+        const bool isNobodyThere = !answer && answer.failure().code == ESRCH;
+        if (!isNobodyThere) return conclude(answer);
+    }
 
     Platform platform = makePlatform();
     const auto pictures = makePictureLoader();
     addUses(platform, pictures);
+    addShell(platform);
     Appearance::follow(platform.appearance.get());
     QtDraggingSessions dragging(pictures);
     const auto delegate = AppDelegate::create(platform, [&](PanelState& state, Settings& settings,
@@ -164,8 +223,31 @@ int main(int argc, char** argv) {
         return std::make_unique<CapturePanel>(PanelModel::Context{
             state, settings, *platform.clock, dragging, std::move(actions), rendering(platform)});
     });
-    if (!delegate->applicationWillFinishLaunching(requestedAction())) return 0;
+    if (!delegate->applicationWillFinishLaunching(request)) return EXIT_SUCCESS;
     const UnixSignals endingSignals([&] { platform.application->terminate(); });
     delegate->applicationDidFinishLaunching();
+    if (request) conclude(delegate->perform(*request));
     return QGuiApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    returnLargeBlocksAtOnce();
+    const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
+    std::error_code noFolder;
+    const auto here = std::filesystem::current_path(noFolder);
+    const auto line = parseCommandLine(arguments, Url::file(noFolder ? "/" : here.string()));
+    switch (line.kind) {
+        case CommandLine::Kind::start:
+            return run(argc, argv, line.request);
+        case CommandLine::Kind::ask:
+            return ask(argc, argv, *line.request);
+        case CommandLine::Kind::print:
+            std::cout << line.text << std::endl;
+            return EXIT_SUCCESS;
+        case CommandLine::Kind::wrong:
+            std::cerr << line.text << std::endl;
+            return wrongCommandLine;
+    }
 }

@@ -1,9 +1,11 @@
 #include "app/AppDelegate.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <utility>
 
 #include "support/Debug.h"
+#include "support/SystemLog.h"
 #include "support/Weakly.h"
 
 namespace vantle {
@@ -41,11 +43,15 @@ AppDelegate::AppDelegate(Platform& platform, CapturePanelController::PanelFactor
                                              .sharing = *platform.sharing,
                                              .trash = *platform.trash,
                                              .environment = platform.environment,
-                                             .makePanel = std::move(makePanel)})) {}
+                                             .makePanel = std::move(makePanel)})),
+      statusBar_(*platform.statusItem, *platform.opener, *platform.application, settings_) {}
 
-bool AppDelegate::applicationWillFinishLaunching(const std::string& action) {
+bool AppDelegate::applicationWillFinishLaunching(const std::optional<ApplicationRequest>& request) {
     if (!platform_.application->anotherCopyIsRunning()) return true;
-    platform_.application->activateOtherCopy(action);
+    if (!request)
+        platform_.application->activateOtherCopy();
+    else if (const auto answer = platform_.application->ask(*request); !answer)
+        systemLog("Vantle: " + answer.failure().message);
     platform_.application->terminate();
     return false;
 }
@@ -61,6 +67,8 @@ void AppDelegate::applicationDidFinishLaunching() {
                                    }));
     connectWatcher();
     observeScreenshotFolder();
+    connectNotifications();
+    explainMissingTray();
     if (settings_.hasCompletedOnboarding.value())
         startWatching();
     else
@@ -71,11 +79,10 @@ void AppDelegate::connectApplication() {
     platform_.application->onReopen = weakly(shared_from_this(), [](auto& self, bool visible) {
         self.applicationShouldHandleReopen(visible);
     });
-    platform_.application->onAction = [weak = weak_from_this()](const std::string& action) {
-        const auto delegate = weak.lock();
-        if (!delegate || action != focusPanelAction) return false;
-        delegate->panel_->takeKeyboard();
-        return true;
+    platform_.application->onRequest =
+        [weak = weak_from_this()](const ApplicationRequest& request) -> Result<std::string> {
+        if (const auto delegate = weak.lock()) return delegate->perform(request);
+        return Failure{ECANCELED, "Vantle is ending", ""};
     };
 }
 
@@ -115,6 +122,11 @@ void AppDelegate::observeScreenshotFolder() {
         }));
 }
 
+void AppDelegate::connectNotifications() {
+    cancellables_.push_back(platform_.notifications.observe(
+        vantleShowDemo, weakly(shared_from_this(), [](auto& self) { self.showDemo(); })));
+}
+
 void AppDelegate::startWatching() {
     watcher_->start(settings_.screenshotFolder.value());
 }
@@ -125,8 +137,9 @@ void AppDelegate::captured(const CapturePointer& capture) {
     std::erase_if(recent_, [&](const auto& earlier) { return *earlier == *capture; });
     recent_.insert(recent_.begin(), capture);
     if (recent_.size() > maximumRecent) recent_.pop_back();
+    statusBar_.recentChanged();
     if (settings_.copyOnCapture.value()) panel_->copy(capture);
-    if (settings_.playSound.value() && platform_.sounds) platform_.sounds->play("Pop");
+    if (settings_.playSound.value()) platform_.sounds->play("Pop");
     panel_->show(capture);
 }
 

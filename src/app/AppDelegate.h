@@ -25,12 +25,9 @@ public:
     static std::shared_ptr<AppDelegate> create(Platform& platform,
                                                CapturePanelController::PanelFactory makePanel);
 
-    /// What the launcher or a second start can ask for by name: the panel takes the keyboard.
-    static constexpr auto focusPanelAction = "focus-panel";
-
-    /// Hands over to a copy that runs already: asks that one for `action`, or brings it forward
-    /// when that is empty, and terminates this one. False then: launching must not go on.
-    bool applicationWillFinishLaunching(const std::string& action = {});
+    /// Hands over to a copy that runs already: has that one do `request`, or brings it forward when
+    /// there is none, and terminates this one. False then: launching must not go on.
+    bool applicationWillFinishLaunching(const std::optional<ApplicationRequest>& request = {});
 
     /// Connects the components and starts watching, or the onboarding on the first run.
     void applicationDidFinishLaunching();
@@ -41,6 +38,14 @@ public:
     void showSettings();
     void showOnboarding();
     void handleWatchError(const WatchError& error);
+
+    /// Shows two sample captures, the second one a little later. They go straight to the panel: not
+    /// to recent(), the clipboard or the ears.
+    void showDemo();
+
+    /// Does what the launcher, a script or a second start asks for, and gives the answer for a
+    /// person: lines for "status", else nothing. The actions are those of the command line.
+    Result<std::string> perform(const ApplicationRequest& request);
 
     /// `size` made to fit on the screen with a margin.
     Size fit(Size size) const;
@@ -60,10 +65,28 @@ private:
     void connectStatusBar();
     void connectWatcher();
     void observeScreenshotFolder();
+    void connectNotifications();
     void startWatching();
     void finishOnboarding();
     void captured(const CapturePointer& capture);
     void checkForUpdates();
+
+    // Watch errors: each shows its alert and does what is answered.
+    void askForAccess(const Url& folder);
+    void recreate(const Url& folder);
+    void offerSettings(const Alert& alert);
+    /// Comes to the front, and returns the answer.
+    int run(const Alert& alert);
+
+    void setPaused(bool paused);
+    Result<std::string> show(const std::vector<std::string>& paths);
+    std::string status() const;
+
+    /// To be called on the watcher's queue with a file: loads it, then shows it in the panel.
+    std::function<void(const Url&)> loader();
+
+    /// Where no tray shows the icon, tells the user once and for all how to reach the program.
+    void explainMissingTray();
 
     /// Made on the first call; null where there is none.
     Updater* updater();

@@ -3,17 +3,83 @@
 #include "app/AppDelegate.h"
 
 namespace vantle {
+namespace {
+
+constexpr int firstButton = Alerts::firstButton;
+constexpr int secondButton = Alerts::firstButton + 1;
+
+Alert accessDeniedAlert(const Url& folder) {
+    return {Alert::Style::warning,
+            "Vantle needs access to your screenshot folder",
+            "macOS is blocking Vantle from reading " + std::string(folder.lastPathComponent()) +
+                ". Allow Vantle under System Settings → Privacy & Security → Files and Folders, "
+                "then click Retry.",
+            {"Open Privacy Settings", "Retry", "Later"}};
+}
+
+Alert missingAlert(const Url& folder) {
+    return {Alert::Style::warning,
+            "Vantle can't find your screenshot folder",
+            folder.path() +
+                " is missing and could not be recreated. Choose another folder in Settings.",
+            {"Open Settings", "Later"}};
+}
+
+Alert otherAlert(const std::string& message) {
+    return {Alert::Style::warning,
+            "Vantle can't watch your screenshot folder",
+            message,
+            {"Open Settings", "Later"}};
+}
+
+}  // namespace
 
 void AppDelegate::handleWatchError(const WatchError& error) {
     // The same failure is acted on once, even hours apart; a different one re-arms it.
     if (lastWatchError_ == error) return;
     lastWatchError_ = error;
-    if (error.kind() != WatchError::Kind::missing) return;
-
     const Url folder = settings_.screenshotFolder.value();
+    switch (error.kind()) {
+        case WatchError::Kind::accessDenied:
+            askForAccess(folder);
+            break;
+        case WatchError::Kind::missing:
+            recreate(folder);
+            break;
+        case WatchError::Kind::other:
+            offerSettings(otherAlert(error.message()));
+            break;
+    }
+}
+
+int AppDelegate::run(const Alert& alert) {
+    platform_.application->activate();
+    return platform_.alerts->runModal(alert);
+}
+
+void AppDelegate::askForAccess(const Url& folder) {
+    const auto weak = weak_from_this();
+    const int answer = run(accessDeniedAlert(folder));
+    if (weak.expired()) return;
+    if (answer == firstButton) platform_.privacySettings->open(folder);
+    if (answer != secondButton) return;
+    lastWatchError_.reset();
+    watcher_->start(folder);
+}
+
+void AppDelegate::recreate(const Url& folder) {
     // Whether it could be made shows in the next step.
     (void)platform_.files->createDirectory(folder);
-    if (!watcher_->start(folder)) lastWatchError_.reset();
+    if (watcher_->start(folder))
+        offerSettings(missingAlert(folder));
+    else
+        lastWatchError_.reset();
+}
+
+void AppDelegate::offerSettings(const Alert& alert) {
+    const auto weak = weak_from_this();
+    const int answer = run(alert);
+    if (!weak.expired() && answer == firstButton) showSettings();
 }
 
 }  // namespace vantle

@@ -3,24 +3,28 @@ import Vantle.Cards
 import Vantle.Menus
 import Vantle.Panel
 
-// A line of a menu: what can be chosen, or a rule between two groups of that.
+// A line of a menu: what can be chosen, what is only said, or a rule between two groups of that.
 Item {
     id: line
 
     required property MenuModel menu
     required property int index
     required property var modelData
+    // Where its title begins.
+    required property real titleX
 
     readonly property bool isSeparator: modelData.isSeparator
+    readonly property bool hasPicture: modelData.picture !== ""
     readonly property bool isCurrent: menu.current === index
     readonly property color ink: isCurrent ? "white" : Appearance.primary
+    readonly property real shortcutWidth: shortcut.text === "" ? 0 : shortcut.implicitWidth + 28
 
-    implicitWidth: isSeparator ? 0 : title.x + title.implicitWidth + 14
-    height: isSeparator ? 9 : 28
+    implicitWidth: isSeparator ? 0 : titleX + title.implicitWidth + shortcutWidth + 14
+    height: isSeparator ? 9 : hasPicture ? 32 : 28
 
     Accessible.role: isSeparator ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: modelData.title
-    Accessible.focusable: !isSeparator
+    Accessible.focusable: !isSeparator && modelData.isEnabled
     Accessible.focused: isCurrent
     Accessible.onPressAction: menu.choose(index)
 
@@ -51,22 +55,46 @@ Item {
         }
     }
 
+    Image {
+        x: 9
+        anchors.verticalCenter: parent.verticalCenter
+        visible: line.hasPicture
+        source: line.modelData.picture
+        sourceSize: line.modelData.pictureSize
+    }
+
     Text {
         id: title
 
-        x: 34
-        width: Math.min(implicitWidth, line.width - x - 10)
+        x: line.titleX
+        width: Math.min(implicitWidth, line.width - x - line.shortcutWidth - 10)
         anchors.verticalCenter: parent.verticalCenter
         text: line.modelData.title
         textFormat: Text.PlainText
-        elide: Text.ElideRight
+        // Names of screenshots differ at their ends.
+        elide: line.hasPicture ? Text.ElideMiddle : Text.ElideRight
         color: line.ink
+        opacity: line.modelData.isEnabled ? 1 : 0.5
+        font.pointSize: Appearance.fontPoints(line.modelData.isEnabled ? 13 : 12)
+        font.weight: line.modelData.isEnabled ? Font.Normal : Font.DemiBold
+    }
+
+    Text {
+        id: shortcut
+
+        anchors.right: line.right
+        anchors.rightMargin: 10
+        anchors.verticalCenter: parent.verticalCenter
+        text: line.modelData.shortcut
+        textFormat: Text.PlainText
+        color: line.ink
+        opacity: 0.55
         font.pointSize: Appearance.fontPoints(13)
     }
 
     MouseArea {
         anchors.fill: parent
-        enabled: !line.isSeparator
+        enabled: !line.isSeparator && line.modelData.isEnabled
         hoverEnabled: true
         onEntered: line.menu.current = line.index
         onExited: if (line.isCurrent) line.menu.current = -1

@@ -1,27 +1,69 @@
 #include "menus/MenuModel.h"
 
+#include <QKeySequence>
+#include <QSizeF>
 #include <QVariantMap>
 
 namespace vantle {
+namespace {
+
+/// As the desktop writes it, such as "Ctrl+Q".
+QString shortcut(const MenuItem& item) {
+    if (item.keyEquivalent.empty()) return {};
+    return QKeySequence(QStringLiteral("Ctrl+") + QString::fromStdString(item.keyEquivalent))
+        .toString(QKeySequence::NativeText);
+}
+
+}  // namespace
 
 void MenuModel::setMenu(const Menu& menu) {
     menu_ = menu;
+    ++revision_;
     setCurrent(none);
     emit linesChanged();
 }
 
 QVariantList MenuModel::lines() const {
     QVariantList lines;
-    for (const auto& item : menu_.items)
-        lines << QVariantMap{
-            {QStringLiteral("title"), QString::fromStdString(item.title)},
-            {QStringLiteral("symbol"), QString::fromStdString(item.symbol)},
-            {QStringLiteral("isSeparator"), item.kind == MenuItem::Kind::separator}};
+    for (int line = 0; line < count(); ++line) lines << description(line);
     return lines;
 }
 
+QVariantMap MenuModel::description(int line) const {
+    const MenuItem& of = item(line);
+    QVariantMap description{{QStringLiteral("title"), QString::fromStdString(of.title)},
+                            {QStringLiteral("symbol"), QString::fromStdString(of.symbol)},
+                            {QStringLiteral("isSeparator"), of.kind == MenuItem::Kind::separator},
+                            {QStringLiteral("isEnabled"), of.isEnabled},
+                            {QStringLiteral("shortcut"), shortcut(of)},
+                            {QStringLiteral("picture"), QString()},
+                            {QStringLiteral("pictureSize"), QSizeF()}};
+    if (of.image) {
+        description[QStringLiteral("picture")] =
+            QStringLiteral("image://menu/%1/%2").arg(revision_).arg(line);
+        description[QStringLiteral("pictureSize")] =
+            QSizeF(of.image->size.width, of.image->size.height);
+    }
+    return description;
+}
+
+const MenuImage* MenuModel::image(int line) const {
+    if (line < 0 || line >= count() || !item(line).image) return nullptr;
+    return &*item(line).image;
+}
+
 bool MenuModel::isAction(int line) const {
-    return line >= 0 && line < count() && item(line).kind == MenuItem::Kind::action;
+    return line >= 0 && line < count() && item(line).kind == MenuItem::Kind::action &&
+           item(line).isEnabled;
+}
+
+bool MenuModel::chooseByKey(QChar key) {
+    for (int line = 0; line < count(); ++line) {
+        if (!isAction(line) || item(line).keyEquivalent != QString(key).toStdString()) continue;
+        choose(line);
+        return true;
+    }
+    return false;
 }
 
 void MenuModel::setCurrent(int line) {

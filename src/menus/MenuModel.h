@@ -16,7 +16,8 @@ class MenuModel : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by the menu's window")
 
-    /// Of each line: "title", "symbol", "isSeparator".
+    /// Of each line: "title", "symbol", "isSeparator", "isEnabled", "shortcut" (for a person), and
+    /// "picture": the address of its picture and "pictureSize", where it has one.
     Q_PROPERTY(QVariantList lines READ lines NOTIFY linesChanged)
     Q_PROPERTY(QString title READ title NOTIFY linesChanged)
     /// -1 while there is none.
@@ -30,7 +31,7 @@ public:
     QString title() const { return QString::fromStdString(menu_.title); }
 
     int current() const { return current_; }
-    /// A separator cannot be it.
+    /// Only one that can be chosen.
     void setCurrent(int line);
     /// To the next line that can be chosen, in steps of 1 or -1, around the end.
     void step(int direction);
@@ -38,6 +39,12 @@ public:
     void stepTo(QChar letter);
 
     Q_INVOKABLE void choose(int line);
+    /// Chooses the line whose key that is; false when there is none.
+    bool chooseByKey(QChar key);
+
+    const MenuItem& item(int line) const { return menu_.items[static_cast<std::size_t>(line)]; }
+    /// The picture of a line; null when it has none.
+    const MenuImage* image(int line) const;
 
 signals:
     void linesChanged();
@@ -46,12 +53,13 @@ signals:
 
 private:
     int count() const { return static_cast<int>(menu_.items.size()); }
-    const MenuItem& item(int line) const { return menu_.items[static_cast<std::size_t>(line)]; }
+    QVariantMap description(int line) const;
     bool isAction(int line) const;
     /// Goes on from the current line, around the end, to the first that can be chosen and fits.
     void seek(int direction, const std::function<bool(const MenuItem&)>& fits);
 
     Menu menu_;
+    int revision_ = 0;  ///< Of the pictures: another menu has others.
     int current_ = none;
 };
 

@@ -55,6 +55,8 @@ Item {
             return size;
         }
 
+        readonly property bool haveSymbols: view.menu.lines.some(line => line.symbol !== "")
+
         x: plate.x + view.padding
         y: plate.y + view.padding
         width: Math.ceil(Math.max(170, Math.min(natural.width, 320)))
@@ -66,6 +68,7 @@ Item {
                 // A delegate's component cannot be bound (Qt 6.4), so the ids around it are meant.
                 menu: view.menu // qmllint disable unqualified
                 width: lines.width // qmllint disable unqualified
+                titleX: hasPicture ? 53 : lines.haveSymbols ? 34 : 12 // qmllint disable unqualified
             }
         }
     }

@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "menus/MenuPictureProvider.h"
 #include "panel/views/RoundedShape.h"
-#include "panel/views/SymbolProvider.h"
 #include "platform/qt/InputRegion.h"
 
 Q_IMPORT_QML_PLUGIN(Vantle_MenusPlugin)
@@ -30,19 +30,15 @@ const QScreen& screenAt(const QRect& anchor) {
 
 MenuWindow::MenuWindow() {
     setFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    setColor(Qt::transparent);
-    setTitle(QStringLiteral("Vantle"));
     setResizeMode(QQuickView::SizeViewToRootObject);
-    engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine()->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
-    setInitialProperties({{QStringLiteral("menu"), QVariant::fromValue(&model_)}});
-    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Menus/MenuView.qml")));
+    engine()->addImageProvider(QStringLiteral("menu"), new MenuPictureProvider(model_));
+    load(QStringLiteral("Menus/MenuView.qml"),
+         {{QStringLiteral("menu"), QVariant::fromValue(&model_)}});
     connect(&model_, &MenuModel::chosen, this, [this](int line) { end(line); });
 }
 
 MenuWindow::~MenuWindow() {
-    // The view goes before the model that it shows.
-    delete rootObject();
+    unload();
 }
 
 void MenuWindow::open(const Menu& menu, const QRect& anchor, Ended ended) {
@@ -66,9 +62,10 @@ void MenuWindow::place(const QRect& anchor) {
     const int below = anchor.bottom() + 1 + gap;
     const int above = anchor.top() - gap - shown.height();
     const int y = below + shown.height() <= room.bottom() + 1 ? below : above;
+    const int lowest = room.bottom() + 1 - shown.height();
     const int rightmost = room.right() + 1 - edge - shown.width();
     const int x = std::max(room.left() + edge, std::min(anchor.left(), rightmost));
-    setPosition(QPoint(x, std::max(room.top(), y)) - shown.topLeft());
+    setPosition(QPoint(x, std::max(room.top(), std::min(y, lowest))) - shown.topLeft());
     // Where nothing shines through there is no shadow.
     const double radius = rootObject()->property("cornerRadius").toReal();
     setMask(compositorIsRunning()
@@ -130,6 +127,8 @@ bool MenuWindow::handleKey(const QKeyEvent& event) {
             model_.choose(model_.current());
             return true;
         default:
+            if (event.modifiers() & Qt::ControlModifier)
+                return model_.chooseByKey(QChar(event.key()).toLower());
             if (!event.text().isEmpty()) model_.stepTo(event.text().front());
             return false;
     }
@@ -141,7 +140,10 @@ void MenuWindow::end(std::optional<int> chosen) {
     setMouseGrabEnabled(false);
     setKeyboardGrabEnabled(false);
     hide();
+    // What is done may open the menu again.
+    const auto action = chosen ? model_.item(*chosen).action : nullptr;
     ended(chosen);
+    if (action) action();
 }
 
 }  // namespace vantle

@@ -1,16 +1,16 @@
 #pragma once
 
-#include <QQuickView>
 #include <functional>
 #include <optional>
 
 #include "menus/MenuModel.h"
+#include "panel/views/ViewWindow.h"
 
 namespace vantle {
 
 /// A menu that we draw ourselves, because the toolkit without its widgets has none. While it is
 /// open it has the pointer and the keyboard; a click beside it or Escape closes it.
-class MenuWindow final : public QQuickView {
+class MenuWindow final : public ViewWindow {
 public:
     /// With the line that was chosen, if one was.
     using Ended = std::function<void(std::optional<int> chosen)>;
@@ -19,8 +19,10 @@ public:
     ~MenuWindow() override;
 
     /// Opens below `anchor`, in Qt's screen coordinates, or above it where there is no room.
-    /// `ended` is called once, when it has closed. One that is open closes without a choice.
-    void open(const Menu& menu, const QRect& anchor, Ended ended);
+    /// `ended` is called once, when it has closed; then what was chosen does what it says. One that
+    /// is open closes without a choice.
+    void open(
+        const Menu& menu, const QRect& anchor, Ended ended = [](std::optional<int>) {});
     void closeMenu() { end(std::nullopt); }
 
     const MenuModel& model() const { return model_; }

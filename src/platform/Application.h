@@ -2,8 +2,18 @@
 
 #include <functional>
 #include <string>
+#include <vector>
+
+#include "support/Result.h"
 
 namespace vantle {
+
+/// What the desktop's launcher, a script or a second start asks of the copy that runs.
+struct ApplicationRequest {
+    std::string action;                  ///< Its name, such as "pause".
+    std::vector<std::string> arguments;  ///< Paths are absolute.
+    friend bool operator==(const ApplicationRequest&, const ApplicationRequest&) = default;
+};
 
 /// This program as the desktop sees it. Main thread only.
 class Application {
@@ -15,16 +25,20 @@ public:
 
     virtual ~Application() = default;
 
+    /// Holds for the windows that are open and for those to come.
     virtual void setActivationPolicy(ActivationPolicy policy) = 0;
 
     /// Whether a copy of this program was running in the same desktop session before this one. The
     /// copy that asks first becomes the one that others find.
     virtual bool anotherCopyIsRunning() = 0;
 
-    /// Asks that copy for an action; it is told through its own `onAction`. Without a name, or
-    /// where there is no session bus, it is brought forward and told through `onReopen`. Returns
-    /// when it was told.
-    virtual void activateOtherCopy(const std::string& action = {}) = 0;
+    /// Brings that copy forward; it is told through its own `onReopen`. Returns when it was told.
+    virtual void activateOtherCopy() = 0;
+
+    /// Asks the copy that runs and waits for its answer, a text for a person (often empty). Fails
+    /// with ESRCH when none runs, and with what the other says when it could not do it. Does not
+    /// need anotherCopyIsRunning() before it, nor a display.
+    virtual Result<std::string> ask(const ApplicationRequest& request) = 0;
 
     /// Brings the windows of this copy before those of all other programs.
     virtual void activate() = 0;
@@ -36,9 +50,8 @@ public:
     /// visible (the panel does not count).
     std::function<void(bool hasVisibleWindows)> onReopen;
 
-    /// Called when the desktop's launcher or another copy asks for something by name. False when
-    /// there is no such action: the program is then reopened.
-    std::function<bool(const std::string& action)> onAction;
+    /// Called when somebody asks this copy; gives the answer, or why it cannot be done.
+    std::function<Result<std::string>(const ApplicationRequest& request)> onRequest;
 };
 
 }  // namespace vantle

@@ -2,20 +2,13 @@
 
 #include <optional>
 
+#include "support/Color.h"
 #include "support/Published.h"
 
 namespace vantle {
 
 /// Whether the desktop asks programs to be light or dark.
 enum class ColorScheme { unknown, light, dark };
-
-/// Parts of sRGB, 0 to 1.
-struct Color {
-    double red;
-    double green;
-    double blue;
-    friend bool operator==(const Color&, const Color&) = default;
-};
 
 /// How the user wants programs to look; what is not known is left to the caller.
 struct DesktopLook {

@@ -3,7 +3,9 @@
 #include <functional>
 #include <memory>
 
+#include "platform/Alerts.h"
 #include "platform/Application.h"
+#include "platform/Canvas.h"
 #include "platform/DesktopAppearance.h"
 #include "platform/DirectoryEvents.h"
 #include "platform/FileManager.h"
@@ -12,12 +14,14 @@
 #include "platform/MediaLoader.h"
 #include "platform/Pasteboard.h"
 #include "platform/PreferencesDomain.h"
+#include "platform/PrivacySettings.h"
 #include "platform/ProcessLauncher.h"
 #include "platform/Scheduler.h"
 #include "platform/Screens.h"
 #include "platform/SerialQueue.h"
 #include "platform/SharingServicePicker.h"
 #include "platform/SoundPlayer.h"
+#include "platform/StatusItem.h"
 #include "platform/Trash.h"
 #include "platform/Updater.h"
 #include "platform/UserDefaults.h"
@@ -48,11 +52,13 @@ struct Platform {
     std::unique_ptr<Trash> trash;
     std::unique_ptr<Pasteboard> pasteboard;
     std::unique_ptr<SharingServicePicker> sharing;
+    std::unique_ptr<StatusItem> statusItem;
+    std::unique_ptr<Alerts> alerts;
+    std::unique_ptr<PrivacySettings> privacySettings;
+    std::unique_ptr<Canvas> canvas;
+    std::unique_ptr<SoundPlayer> sounds;
     std::unique_ptr<SerialQueue> watcherQueue;
     std::unique_ptr<DirectoryEvents> directoryEvents;
-
-    /// Null on a surrounding that has none.
-    std::unique_ptr<SoundPlayer> sounds;
 
     /// Empty on a surrounding that has none.
     std::function<std::unique_ptr<Updater>()> makeUpdater;

@@ -11,6 +11,8 @@
 #include "platform/qt/DBusApplication.h"
 #include "platform/qt/UnixSignals.h"
 
+using namespace vantle;
+
 namespace {
 
 void say(const std::string& line) {
@@ -30,24 +32,33 @@ int main(int argc, char** argv) {
     panel.setFlags(Qt::ToolTip);
     panel.show();
 
-    vantle::DBusApplication application("org.vantle.Vantle");
+    DBusApplication application("org.vantle.Vantle");
     application.onReopen = [](bool hasVisibleWindows) {
         say(hasVisibleWindows ? "reopened with windows" : "reopened without windows");
     };
-    application.onAction = [](const std::string& action) {
-        const bool isKnown = action == "known";
-        if (isKnown) say("asked for known");
-        return isKnown;
+    application.onRequest = [](const ApplicationRequest& request) -> Result<std::string> {
+        std::string line = "asked for " + request.action;
+        for (const auto& argument : request.arguments) line += " " + argument;
+        say(line);
+        if (request.action == "forbidden") return Failure{0, "it is forbidden", ""};
+        return "done " + request.action;
     };
     const QStringList arguments = QGuiApplication::arguments();
+    const auto action = arguments.indexOf(QStringLiteral("--action"));
+    if (action >= 0) {
+        ApplicationRequest request{arguments.value(action + 1).toStdString(), {}};
+        for (int i = static_cast<int>(action) + 2; i < argc; ++i)
+            request.arguments.emplace_back(argv[i]);
+        const auto answer = application.ask(request);
+        say(answer ? answer.value() : "refused: " + answer.failure().message);
+        return 0;
+    }
     if (application.anotherCopyIsRunning()) {
-        const auto action = arguments.indexOf(QStringLiteral("--action"));
-        application.activateOtherCopy(action < 0 ? std::string()
-                                                 : arguments.value(action + 1).toStdString());
+        application.activateOtherCopy();
         say("second");
         return 0;
     }
-    const vantle::UnixSignals ending([&application] { application.terminate(); });
+    const UnixSignals ending([&application] { application.terminate(); });
     const QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, &window,
                      [&application] { application.terminate(); });

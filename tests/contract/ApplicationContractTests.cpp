@@ -166,17 +166,39 @@ TEST_P(CopiesMeet, EachLaterCopyReopensTheFirst) {
     }
 }
 
-TEST_P(CopiesMeet, ALaterCopyAsksTheFirstForAnAction) {
+/// What the copy that runs answers to another one.
+std::string answerOf(const Session& session, const QStringList& request) {
+    const auto asking = session.startCopy(QStringList{QStringLiteral("--action")} + request);
+    std::string answer = asking->line();
+    EXPECT_EQ(asking->result(), 0);
+    EXPECT_EQ(asking->errors(), "");
+    return answer;
+}
+
+TEST_P(CopiesMeet, ALaterCopyAsksTheFirstAndIsAnswered) {
     const auto first = session.startCopy();
     ASSERT_EQ(first->line(), "first");
-    for (const auto& [action, onBus] :
-         {std::pair{"known", "asked for known"}, std::pair{"other", "reopened without windows"}}) {
-        const auto later =
-            session.startCopy({QStringLiteral("--action"), QString::fromLatin1(action)});
-        EXPECT_EQ(later->line(), "second");
-        EXPECT_EQ(later->errors(), "");
-        EXPECT_EQ(first->line(), GetParam() == Meeting::onBus ? onBus : "reopened without windows");
-    }
+    EXPECT_EQ(answerOf(session, {QStringLiteral("pause")}), "done pause");
+    EXPECT_EQ(first->line(), "asked for pause");
+    EXPECT_EQ(answerOf(session, {QStringLiteral("show"), QStringLiteral("/a b.png"),
+                                 QStringLiteral("/ä.png")}),
+              "done show");
+    EXPECT_EQ(first->line(), "asked for show /a b.png /ä.png");
+    EXPECT_EQ(answerOf(session, {QStringLiteral("forbidden")}), "refused: it is forbidden");
+}
+
+TEST_P(CopiesMeet, WithoutACopyThatRunsThereIsNobodyToAsk) {
+    EXPECT_EQ(answerOf(session, {QStringLiteral("pause")}), "refused: Vantle is not running");
+    // Asking did not make it one that others find.
+    EXPECT_EQ(session.startCopy()->line(), "first");
+}
+
+TEST_P(CopiesMeet, ACopyThatHangsDoesNotHangWhoAsks) {
+    const auto hanging = session.startCopy();
+    ASSERT_EQ(hanging->line(), "first");
+    hanging->send(SIGSTOP);
+    EXPECT_EQ(answerOf(session, {QStringLiteral("pause")}),
+              "refused: the copy that runs does not answer");
 }
 
 TEST_P(CopiesMeet, AKilledCopyStandsInNobodysWay) {
@@ -254,15 +276,28 @@ TEST(DBusApplicationTest, ALauncherIsAnswered) {
     const auto copy = session.startCopy();
     ASSERT_EQ(copy->line(), "first");
     const QVariantMap data{{QStringLiteral("desktop-startup-id"), QStringLiteral("1")}};
-    const std::array<std::pair<QString, QVariantList>, 3> calls{
-        {{QStringLiteral("Activate"), {data}},
-         {QStringLiteral("Open"), {QStringList{QStringLiteral("file:///tmp/a.png")}, data}},
-         {QStringLiteral("ActivateAction"), {QStringLiteral("settings"), QVariantList{}, data}}}};
-    for (const auto& [method, arguments] : calls) {
+    const QString address = QStringLiteral("file:///tmp/a%20b.png");
+    const std::array<std::tuple<QString, QVariantList, const char*>, 3> calls{
+        {{QStringLiteral("Activate"), {data}, "reopened without windows"},
+         {QStringLiteral("Open"), {QStringList{address}, data}, "asked for show /tmp/a b.png"},
+         {QStringLiteral("ActivateAction"),
+          {QStringLiteral("settings"), QVariantList{}, data},
+          "asked for settings"}}};
+    for (const auto& [method, arguments, outcome] : calls) {
         const auto reply = call(session, method, arguments);
         EXPECT_EQ(reply.type(), QDBusMessage::ReplyMessage) << reply.errorMessage().toStdString();
-        EXPECT_EQ(copy->line(), "reopened without windows");
+        EXPECT_EQ(copy->line(), outcome);
     }
+}
+
+TEST(DBusApplicationTest, ALauncherIsToldWhatCannotBeDone) {
+    Session session;
+    session.startBus();
+    const auto copy = session.startCopy();
+    ASSERT_EQ(copy->line(), "first");
+    const auto reply = call(session, QStringLiteral("ActivateAction"),
+                            {QStringLiteral("forbidden"), QVariantList{}, QVariantMap{}});
+    EXPECT_EQ(reply.errorMessage().toStdString(), "it is forbidden");
 }
 
 TEST(DBusApplicationTest, ItDescribesItsMethodsAsTheDesktopExpectsThem) {
@@ -280,13 +315,6 @@ TEST(DBusApplicationTest, ItDescribesItsMethodsAsTheDesktopExpectsThem) {
                     testing::HasSubstr("<method name=\"" + std::string(method) + "\">"));
     EXPECT_THAT(description, testing::Not(testing::HasSubstr("reopen")));
     EXPECT_THAT(description, testing::HasSubstr("type=\"a{sv}\""));
-}
-
-TEST(DBusApplicationTest, ItKeepsThePolicyForWindows) {
-    DBusApplication application("org.vantle.Vantle");
-    EXPECT_EQ(application.activationPolicy(), Application::ActivationPolicy::accessory);
-    application.setActivationPolicy(Application::ActivationPolicy::regular);
-    EXPECT_EQ(application.activationPolicy(), Application::ActivationPolicy::regular);
 }
 
 }  // namespace

@@ -1,19 +1,22 @@
 #pragma once
 
+#include <cerrno>
 #include <vector>
 
 #include "platform/Application.h"
 
 namespace vantle::fakes {
 
-/// Records what the program asks of the desktop.
+/// Records what the program asks of the desktop, and of another copy.
 class FakeApplication final : public Application {
 public:
     void setActivationPolicy(ActivationPolicy policy) override { policies.push_back(policy); }
     bool anotherCopyIsRunning() override { return otherCopyRuns; }
-    void activateOtherCopy(const std::string& action = {}) override {
-        ++otherCopyActivations;
-        actionForOtherCopy = action;
+    void activateOtherCopy() override { ++otherCopyActivations; }
+    Result<std::string> ask(const ApplicationRequest& request) override {
+        asked.push_back(request);
+        if (!otherCopyRuns) return Failure{ESRCH, "Vantle is not running", ""};
+        return answer;
     }
     void activate() override { ++activations; }
     void terminate() override { ++terminations; }
@@ -21,7 +24,8 @@ public:
     std::vector<ActivationPolicy> policies;
     bool otherCopyRuns = false;
     int otherCopyActivations = 0;
-    std::string actionForOtherCopy;
+    std::vector<ApplicationRequest> asked;
+    Result<std::string> answer = std::string();
     int activations = 0;
     int terminations = 0;
 };

@@ -1,22 +1,4 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "app/AppDelegate.h"
-#include "fakes/CapturedLog.h"
-#include "fakes/FakeApplication.h"
-#include "fakes/FakeFileOpener.h"
-#include "fakes/FakeFileSystem.h"
-#include "fakes/FakeLoginItem.h"
-#include "fakes/FakeMediaLoader.h"
-#include "fakes/FakePanelWindow.h"
-#include "fakes/FakePasteboard.h"
-#include "fakes/FakePreferencesDomain.h"
-#include "fakes/FakeProcessLauncher.h"
-#include "fakes/FakeScreens.h"
-#include "fakes/FakeSharingServicePicker.h"
-#include "fakes/FakeTrash.h"
-#include "fakes/FakeUserDefaults.h"
-#include "fakes/VirtualTime.h"
+#include "AppFixture.h"
 
 namespace vantle {
 namespace {
@@ -25,151 +7,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Policy = Application::ActivationPolicy;
 
-const Url folder = Url::file("/home/user/Desktop");
-
-/// What happened, in order, across services.
-using Events = std::vector<std::string>;
-
-class RecordingSounds final : public SoundPlayer {
-public:
-    explicit RecordingSounds(Events& events) : events_(events) {}
-    void play(std::string_view name) override { events_.push_back("sound " + std::string(name)); }
-
-private:
-    Events& events_;
-};
-
-class RecordingUpdater final : public Updater {
-public:
-    explicit RecordingUpdater(Events& events) : events_(events) {
-        events_.push_back("updater made");
-    }
-    void checkForUpdates() override { events_.push_back("update check"); }
-
-private:
-    Events& events_;
-};
-
-class RecordingWindow final : public Window {
-public:
-    RecordingWindow(Events& events, std::string name) : events_(events), name_(std::move(name)) {
-        events_.push_back(name_ + " made");
-    }
-    void makeKeyAndOrderFront() override { events_.push_back(name_ + " to front"); }
-    void close() override { events_.push_back(name_ + " closed"); }
-
-private:
-    Events& events_;
-    std::string name_;
-};
-
-class AppDelegateTest : public testing::Test {
-protected:
-    AppDelegateTest() {
-        const auto add = [](auto& slot, auto service) {
-            auto& reference = *service;
-            slot = std::move(service);
-            return &reference;
-        };
-        platform.environment = [this](const std::string& name) -> std::optional<std::string> {
-            const auto found = environment.find(name);
-            if (found == environment.end()) return std::nullopt;
-            return found->second;
-        };
-        auto* scheduler = add(platform.scheduler, std::make_unique<fakes::ManualScheduler>(time));
-        clock = add(platform.clock, std::make_unique<fakes::VirtualClock>(time));
-        auto* queue = add(platform.watcherQueue, std::make_unique<fakes::ManualQueue>(time));
-        auto fileSystem = std::make_unique<fakes::FakeFileSystem>(*queue);
-        files = fileSystem.get();
-        (void)files->createDirectory(folder);
-        platform.directoryEvents = std::make_unique<EventsOf>(*fileSystem);
-        platform.files = std::move(fileSystem);
-        add(platform.media, std::make_unique<fakes::FakeMediaLoader>());
-        defaults = add(platform.defaults, std::make_unique<fakes::FakeUserDefaults>());
-        domain =
-            add(platform.screenshotPreferences, std::make_unique<fakes::FakePreferencesDomain>());
-        add(platform.launcher, std::make_unique<fakes::FakeProcessLauncher>());
-        add(platform.loginItem, std::make_unique<fakes::FakeLoginItem>());
-        screens = add(platform.screens, std::make_unique<fakes::FakeScreens>());
-        application = add(platform.application, std::make_unique<fakes::FakeApplication>());
-        platform.opener = std::make_unique<fakes::FakeFileOpener>();
-        pasteboard = add(platform.pasteboard, std::make_unique<fakes::FakePasteboard>(*files));
-        platform.sharing = std::make_unique<fakes::FakeSharingServicePicker>();
-        platform.trash = std::make_unique<fakes::FakeTrash>(*scheduler, *files);
-        platform.sounds = std::make_unique<RecordingSounds>(events);
-        platform.makeUpdater = [this] { return std::make_unique<RecordingUpdater>(events); };
-        defaults->stored["hasCompletedOnboarding"] = true;
-    }
-
-    /// The fake file system is two services in one.
-    class EventsOf final : public DirectoryEvents {
-    public:
-        explicit EventsOf(DirectoryEvents& events) : events_(events) {}
-        Result<std::shared_ptr<DirectoryEventSource>> open(const Url& watched,
-                                                           Handler handler) override {
-            return events_.open(watched, std::move(handler));
-        }
-
-    private:
-        DirectoryEvents& events_;
-    };
-
-    AppDelegate& make() {
-        pasteboard->onWrite = [this] { events.push_back("copy " + pasteboard->contents().back()); };
-        delegate = AppDelegate::create(platform, [this](PanelState&, Settings&, CardActions) {
-            events.push_back("panel made");
-            return std::make_unique<fakes::FakePanelWindow>(panel);
-        });
-        return *delegate;
-    }
-
-    AppDelegate& launch() {
-        AppDelegate& launched = make();
-        EXPECT_TRUE(launched.applicationWillFinishLaunching());
-        launched.applicationDidFinishLaunching();
-        time.settle();
-        return launched;
-    }
-
-    void save(const std::string& name) {
-        files->write(folder.appending(name), 1000, clock->now());
-        time.advance(Seconds(0.3));
-    }
-
-    std::vector<std::string> recentNames() const {
-        std::vector<std::string> names;
-        for (const auto& capture : delegate->recent()) names.push_back(capture->fileName());
-        return names;
-    }
-
-    void offerWindows() {
-        platform.makeSettingsWindow = [this](Size size) {
-            windowSizes.push_back(size);
-            return std::make_unique<RecordingWindow>(events, "settings");
-        };
-        platform.makeOnboardingWindow = [this](Size size, std::function<void()> finish) {
-            windowSizes.push_back(size);
-            finishOnboarding = std::move(finish);
-            return std::make_unique<RecordingWindow>(events, "onboarding");
-        };
-    }
-
-    fakes::VirtualTime time;
-    Events events;
-    std::map<std::string, std::string> environment;
-    fakes::FakePanelWindow::Record panel;
-    Platform platform;
-    fakes::VirtualClock* clock = nullptr;
-    fakes::FakeFileSystem* files = nullptr;
-    fakes::FakeUserDefaults* defaults = nullptr;
-    fakes::FakePreferencesDomain* domain = nullptr;
-    fakes::FakeScreens* screens = nullptr;
-    fakes::FakePasteboard* pasteboard = nullptr;
-    fakes::FakeApplication* application = nullptr;
-    std::vector<Size> windowSizes;
-    std::function<void()> finishOnboarding;
-    std::shared_ptr<AppDelegate> delegate;
-};
+using AppDelegateTest = AppFixture;
 
 TEST_F(AppDelegateTest, ASavedScreenshotComesToThePanelAndTheRecentList) {
     launch();
@@ -177,16 +15,6 @@ TEST_F(AppDelegateTest, ASavedScreenshotComesToThePanelAndTheRecentList) {
     EXPECT_THAT(recentNames(), ElementsAre("shot.png"));
     EXPECT_TRUE(panel.isOnScreen);
     EXPECT_EQ(delegate->panel().state().captures.value().size(), 1u);
-}
-
-TEST_F(AppDelegateTest, TheLauncherCanGiveThePanelTheKeyboard) {
-    launch();
-    EXPECT_TRUE(application->onAction("focus-panel"));
-    EXPECT_EQ(panel.timesKeyboardTaken, 0);
-    save("shot.png");
-    EXPECT_TRUE(application->onAction("focus-panel"));
-    EXPECT_EQ(panel.timesKeyboardTaken, 1);
-    EXPECT_FALSE(application->onAction("dance"));
 }
 
 TEST_F(AppDelegateTest, The21stCapturePushesTheOldestOutOfRecent) {
@@ -246,14 +74,6 @@ TEST_F(AppDelegateTest, ACaptureThatIsCopiedAtOnceLeavesAndGoesToTheTrashFromWhe
     EXPECT_EQ(files->existence(folder.appending("shot.png")), FileManager::Existence::file);
     time.advance(Seconds(0.02));
     EXPECT_EQ(files->existence(folder.appending("shot.png")), FileManager::Existence::none);
-}
-
-TEST_F(AppDelegateTest, WithoutASoundServiceTheCaptureIsShownAllTheSame) {
-    platform.sounds.reset();
-    defaults->stored["playSound"] = true;
-    launch();
-    save("shot.png");
-    EXPECT_TRUE(panel.isOnScreen);
 }
 
 TEST_F(AppDelegateTest, TheUpdaterIsMadeOnceAtLaunch) {
@@ -390,42 +210,22 @@ TEST_F(AppDelegateTest, TheStatusBarListsRecentAndShowsAgain) {
 
 TEST_F(AppDelegateTest, CallbacksDoNothingOnceTheDelegateHasGone) {
     launch();
-    const StatusBarController statusBar = delegate->statusBar();
+    const auto recent = delegate->statusBar().recent;
+    const auto onShow = delegate->statusBar().onShow;
+    const auto onSettings = delegate->statusBar().onSettings;
+    const auto onPause = delegate->statusBar().onPause;
     const auto reopen = application->onReopen;
+    const auto request = application->onRequest;
     const auto shown = Capture::create(folder.appending("a.png"), Date{});
     delegate.reset();
-    EXPECT_THAT(statusBar.recent(), IsEmpty());
-    statusBar.onShow(shown);
-    statusBar.onSettings();
-    statusBar.onPause(true);
+    EXPECT_THAT(recent(), IsEmpty());
+    onShow(shown);
+    onSettings();
+    onPause(true);
     reopen(true);
+    platform.notifications.post(vantleShowDemo);
+    EXPECT_FALSE(request({"settings", {}}));
     EXPECT_FALSE(panel.isOnScreen);
-}
-
-TEST_F(AppDelegateTest, AMissingFolderIsMadeAgainSilently) {
-    fakes::CapturedLog log;
-    launch();
-    files->removeDirectory(folder);
-    time.settle();
-    EXPECT_EQ(files->existence(folder), FileManager::Existence::directory);
-    EXPECT_TRUE(delegate->watcher().isWatching());
-    save("shot.png");
-    EXPECT_TRUE(panel.isOnScreen);
-    EXPECT_THAT(log.lines(), IsEmpty());
-
-    files->removeDirectory(folder);  // repaired again: the first loss is not remembered
-    time.settle();
-    EXPECT_TRUE(delegate->watcher().isWatching());
-}
-
-TEST_F(AppDelegateTest, AMissingFolderThatCannotBeMadeIsTriedOnce) {
-    fakes::CapturedLog log;
-    launch();
-    files->makeReadOnly(Url::file("/home/user"));
-    files->removeDirectory(folder);
-    time.settle();
-    EXPECT_FALSE(delegate->watcher().isWatching());
-    EXPECT_THAT(log.lines(), ElementsAre("Vantle: cannot watch /home/user/Desktop: missing"));
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+#include "platform/qt/QtColor.h"
+
 namespace vantle {
 namespace {
 
@@ -66,9 +68,7 @@ QColor Appearance::secondary() const {
 
 QColor Appearance::accent() const {
     if (!look_.accent) return QGuiApplication::palette().color(QPalette::Highlight);
-    const auto& [red, green, blue] = *look_.accent;
-    return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green),
-                            static_cast<float>(blue));
+    return qtColor(*look_.accent);
 }
 
 QColor Appearance::windowBackground() const {

@@ -3,19 +3,14 @@
 #include <QFile>
 #include <QImage>
 #include <QQmlEngine>
-#include <QQmlExtensionPlugin>
 #include <QQuickItem>
 #include <QStringList>
 #include <utility>
 
 #include "panel/CardLayout.h"
 #include "panel/views/DragThumbnailView.h"
-#include "panel/views/SymbolProvider.h"
 #include "panel/views/ThumbnailProvider.h"
 #include "platform/qt/QtGeometry.h"
-
-Q_IMPORT_QML_PLUGIN(Vantle_PanelPlugin)
-Q_IMPORT_QML_PLUGIN(Vantle_CardsPlugin)
 
 namespace vantle {
 namespace {
@@ -27,13 +22,6 @@ constexpr auto windowFlags =
 
 const QSize windowSize(static_cast<int>(CardLayout::windowSize.width),
                        static_cast<int>(CardLayout::windowSize.height));
-
-/// The software renderer, unless the user chose one: it takes a third of the memory.
-void chooseRenderer() {
-    const bool isChosen = qEnvironmentVariableIsSet("QT_QUICK_BACKEND") ||
-                          qEnvironmentVariableIsSet("QSG_RHI_BACKEND");
-    if (!isChosen) QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-}
 
 /// Every item of that kind below `item`, depth first.
 template <typename Kind>
@@ -68,7 +56,6 @@ const QQuickItem* rowOf(const QQuickItem& thumbnail) {
 }  // namespace
 
 CapturePanel::CapturePanel(PanelModel::Context context) : model_(std::move(context)) {
-    chooseRenderer();
     view_ = makeView();
     view_->setFlags(windowFlags);
     view_->onMarquee = [this](const auto& rect) {
@@ -86,22 +73,14 @@ CapturePanel::CapturePanel(PanelModel::Context context) : model_(std::move(conte
 CapturePanel::~CapturePanel() = default;
 
 std::unique_ptr<FirstMouseHostingView> CapturePanel::makeView() {
-    QQuickWindow::setDefaultAlphaBuffer(true);
-    // Letters look alike with every renderer, and sharp on ordinary screens.
-    QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     auto view = std::make_unique<FirstMouseHostingView>();
-    view->setColor(Qt::transparent);
     view->setResizeMode(QQuickView::SizeRootObjectToView);
     view->resize(windowSize);
-    view->setTitle(QStringLiteral("Vantle"));
-    view->engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    view->engine()->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
     view->engine()->addImageProvider(QStringLiteral("thumbnail"),
                                      new ThumbnailProvider([this](const QString& id) {
                                          return model_.captures()->capture(id);
                                      }));
-    view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&model_)}});
-    view->setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Cards/CaptureCardView.qml")));
+    view->loadCard(model_);
     return view;
 }
 

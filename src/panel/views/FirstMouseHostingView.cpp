@@ -22,6 +22,11 @@ bool isTaken(const QMouseEvent& event) {
 
 }  // namespace
 
+void FirstMouseHostingView::loadCard(PanelModel& panel) {
+    load(QStringLiteral("Cards/CaptureCardView.qml"),
+         {{QStringLiteral("panel"), QVariant::fromValue(&panel)}});
+}
+
 bool FirstMouseHostingView::event(QEvent* event) {
     const bool isHandled = QQuickView::event(event);
     switch (event->type()) {

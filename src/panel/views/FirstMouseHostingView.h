@@ -1,22 +1,24 @@
 #pragma once
 
 #include <QPointF>
-#include <QQuickView>
 #include <functional>
 #include <optional>
 
+#include "panel/views/PanelModel.h"
+#include "panel/views/ViewWindow.h"
 #include "support/Geometry.h"
 
 namespace vantle {
 
 /// Hosts the card. It hands each mouse event on to the card first; a press that nothing there takes
 /// is one on the background, and a drag from it draws a rubber band.
-class FirstMouseHostingView final : public QQuickView {
+class FirstMouseHostingView final : public ViewWindow {
 public:
     /// How far a press has to move before it draws a rubber band; exactly that is still a click.
     static constexpr double marqueeThreshold = 6;  // points
 
-    using QQuickView::QQuickView;
+    /// Shows the card of `panel`, which outlives it.
+    void loadCard(PanelModel& panel);
 
     /// Called with the rubber band while one is drawn, and with nothing when it ends.
     std::function<void(const std::optional<Rect>&)> onMarquee;

@@ -1,27 +1,49 @@
 #include "platform/qt/DBusApplication.h"
 
+#include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
+#include <QDBusContext>
+#include <QDBusError>
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QGuiApplication>
 #include <QVariantMap>
 #include <QWindow>
 #include <algorithm>
+#include <cerrno>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "support/SystemLog.h"
+#include "support/Url.h"
 
 namespace vantle {
 namespace {
 
 constexpr int answerTimeout = 3000;  // milliseconds
+constexpr auto notRunning = "Vantle is not running";
+constexpr auto noAnswer = "the copy that runs does not answer";
 
-bool isOrdinary(const QWindow& window) {
-    return window.type() == Qt::Window || window.type() == Qt::Dialog;
+// What is said through the socket: the parts of a request, and how an answer begins.
+constexpr char separator = '\0';
+constexpr char done = '+';
+constexpr char refused = '-';
+
+/// At least one part.
+std::vector<std::string> split(std::string_view message) {
+    std::vector<std::string> parts;
+    for (;;) {
+        const auto end = std::min(message.find(separator), message.size());
+        parts.emplace_back(message.substr(0, end));
+        if (end == message.size()) return parts;
+        message.remove_prefix(end + 1);
+    }
 }
 
 bool hasVisibleWindows() {
     return std::ranges::any_of(QGuiApplication::topLevelWindows(), [](const QWindow* window) {
-        return isOrdinary(*window) && window->isVisible();
+        return isOrdinaryWindow(*window) && window->isVisible();
     });
 }
 
@@ -52,31 +74,95 @@ QVariantMap platformData() {
 
 }  // namespace
 
-/// What other copies and the desktop's launcher talk to. There are no documents, so what is not a
-/// known action means: the user opens the program.
-class DBusApplication::BusObject final : public QObject {
+/// What other copies and the desktop's launcher talk to.
+class DBusApplication::BusObject final : public QObject, public QDBusContext {
     Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    explicit BusObject(DBusApplication& application) : application_(application) {}
+    explicit BusObject(DBusApplication& application);
 
-public slots:
-    void Activate(const QVariantMap&) { application_.reopen(); }
-    void Open(const QStringList&, const QVariantMap&) { application_.reopen(); }
-    void ActivateAction(const QString& action, const QVariantList&, const QVariantMap&) {
-        application_.perform(action);
-    }
+    void reopen() { application_.reopen(); }
+    QString perform(const ApplicationRequest& request);
 
 private:
     DBusApplication& application_;
 };
 
+/// What the desktop's launcher knows.
+class LauncherAdaptor final : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    explicit LauncherAdaptor(DBusApplication::BusObject& object)
+        : QDBusAbstractAdaptor(&object), object_(object) {}
+
+public slots:
+    void Activate(const QVariantMap&) { object_.reopen(); }
+    void Open(const QStringList& addresses, const QVariantMap&) {
+        ApplicationRequest request{"show", {}};
+        for (const QString& address : addresses)
+            if (const auto url = Url::fromFileAddress(address.toStdString()))
+                request.arguments.push_back(url->path());
+        object_.perform(request);
+    }
+    void ActivateAction(const QString& action, const QVariantList&, const QVariantMap&) {
+        object_.perform({action.toStdString(), {}});
+    }
+
+private:
+    DBusApplication::BusObject& object_;
+};
+
+/// The same with arguments, whose bytes need not be text, and an answer.
+class RequestAdaptor final : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.vantle.Vantle")
+
+public:
+    explicit RequestAdaptor(DBusApplication::BusObject& object)
+        : QDBusAbstractAdaptor(&object), object_(object) {}
+
+public slots:
+    QString Ask(const QString& action, const QByteArrayList& arguments) {
+        ApplicationRequest request{action.toStdString(), {}};
+        for (const QByteArray& argument : arguments)
+            request.arguments.push_back(argument.toStdString());
+        return object_.perform(request);
+    }
+
+private:
+    DBusApplication::BusObject& object_;
+};
+
+DBusApplication::BusObject::BusObject(DBusApplication& application) : application_(application) {
+    // Owned by this object, as adaptors are.
+    new LauncherAdaptor(*this);
+    new RequestAdaptor(*this);
+}
+
+QString DBusApplication::BusObject::perform(const ApplicationRequest& request) {
+    const auto answer = application_.perform(request);
+    if (answer) return QString::fromStdString(answer.value());
+    const std::string& reason = answer.failure().message;
+    systemLog("Vantle: " + request.action + ": " + reason);
+    sendErrorReply(QDBusError::Failed, QString::fromStdString(reason));
+    return {};
+}
+
 DBusApplication::DBusApplication(const std::string& identifier)
     : identifier_(QString::fromStdString(identifier)),
-      path_(QLatin1Char('/') + QString(identifier_).replace(QLatin1Char('.'), QLatin1Char('/'))) {}
+      path_(QLatin1Char('/') + QString(identifier_).replace(QLatin1Char('.'), QLatin1Char('/'))) {
+    qDBusRegisterMetaType<QByteArrayList>();
+    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        taskbar_ = std::make_unique<TaskbarPresence>();
+}
 
 DBusApplication::~DBusApplication() = default;
+
+void DBusApplication::setActivationPolicy(ActivationPolicy policy) {
+    if (taskbar_) taskbar_->setPresent(policy == ActivationPolicy::regular);
+}
 
 bool DBusApplication::anotherCopyIsRunning() {
     if (object_) return false;
@@ -88,7 +174,7 @@ bool DBusApplication::anotherHoldsTheName() {
     // The object stands before the name does: another copy may call as soon as it sees the name.
     auto object = std::make_unique<BusObject>(*this);
     QDBusConnection::sessionBus().registerObject(path_, object.get(),
-                                                 QDBusConnection::ExportAllSlots);
+                                                 QDBusConnection::ExportAdaptors);
     const auto reply = requestName(identifier_);
     if (reply.type() == QDBusMessage::ErrorMessage) return anotherHoldsTheRuntimeFolder();
     constexpr uint nameIsTaken = 3;
@@ -98,42 +184,86 @@ bool DBusApplication::anotherHoldsTheName() {
 }
 
 bool DBusApplication::anotherHoldsTheRuntimeFolder() {
-    if (!socket_)
-        socket_ = std::make_unique<RuntimeSocket>(
-            qEnvironmentVariable("XDG_RUNTIME_DIR").toStdString(), [this] { reopen(); });
-    const auto claim = socket_->claim();
+    const auto claim = socket().claim();
     if (claim == RuntimeSocket::Claim::failed)
         systemLog("Vantle: no session bus; a second start cannot be detected");
     return claim == RuntimeSocket::Claim::second;
+}
+
+RuntimeSocket& DBusApplication::socket() {
+    if (!socket_)
+        socket_ = std::make_unique<RuntimeSocket>(
+            qEnvironmentVariable("XDG_RUNTIME_DIR").toStdString(),
+            [this](const std::string& message) { return answerToSocket(message); });
+    return *socket_;
+}
+
+std::string DBusApplication::answerToSocket(const std::string& message) {
+    const auto parts = split(message);
+    if (parts.front().empty()) {
+        reopen();
+        return std::string(1, done);
+    }
+    const auto answer = perform({parts.front(), {parts.begin() + 1, parts.end()}});
+    return answer ? done + answer.value() : refused + answer.failure().message;
+}
+
+Result<std::string> DBusApplication::askThroughSocket(const ApplicationRequest& request) {
+    std::string message = request.action;
+    for (const auto& argument : request.arguments) message += separator + argument;
+    const auto answer = socket().call(message);
+    if (!answer)
+        return Failure{answer.failure().code,
+                       answer.failure().code == ESRCH ? notRunning : noAnswer, ""};
+    if (answer.value().starts_with(done)) return answer.value().substr(1);
+    return Failure{0, answer.value().substr(std::min<std::size_t>(1, answer.value().size())), ""};
 }
 
 void DBusApplication::reopen() {
     if (onReopen) onReopen(hasVisibleWindows());
 }
 
-void DBusApplication::perform(const QString& action) {
-    if (!onAction || !onAction(action.toStdString())) reopen();
+Result<std::string> DBusApplication::perform(const ApplicationRequest& request) {
+    if (onRequest) return onRequest(request);
+    return Failure{ENOTSUP, "Vantle is not ready yet", ""};
 }
 
-void DBusApplication::activateOtherCopy(const std::string& action) {
+void DBusApplication::activateOtherCopy() {
     if (socket_) {
-        if (!socket_->call()) systemLog("Vantle: the copy that runs does not answer");
+        if (const auto told = askThroughSocket({}); !told)
+            systemLog("Vantle: " + told.failure().message);
         return;
     }
-    auto message = QDBusMessage::createMethodCall(
-        identifier_, path_, QStringLiteral("org.freedesktop.Application"),
-        action.empty() ? QStringLiteral("Activate") : QStringLiteral("ActivateAction"));
-    if (!action.empty()) message << QString::fromStdString(action) << QVariantList();
+    auto message = QDBusMessage::createMethodCall(identifier_, path_,
+                                                  QStringLiteral("org.freedesktop.Application"),
+                                                  QStringLiteral("Activate"));
     message << platformData();
-    const auto reply = ask(message);
+    const auto reply = vantle::ask(message);
     if (reply.type() == QDBusMessage::ErrorMessage)
-        systemLog("Vantle: the copy that runs does not answer: " +
-                  reply.errorMessage().toStdString());
+        systemLog("Vantle: " + std::string(noAnswer) + ": " + reply.errorMessage().toStdString());
+}
+
+Result<std::string> DBusApplication::ask(const ApplicationRequest& request) {
+    if (socket_ || !QDBusConnection::sessionBus().isConnected()) return askThroughSocket(request);
+    QByteArrayList arguments;
+    for (const auto& argument : request.arguments) arguments << QByteArray::fromStdString(argument);
+    auto message = QDBusMessage::createMethodCall(
+        identifier_, path_, QStringLiteral("org.vantle.Vantle"), QStringLiteral("Ask"));
+    message << QString::fromStdString(request.action) << QVariant::fromValue(arguments);
+    const auto reply = vantle::ask(message);
+    if (reply.type() == QDBusMessage::ReplyMessage)
+        return reply.arguments().value(0).toString().toStdString();
+    const QDBusError error(reply);
+    if (error.type() == QDBusError::ServiceUnknown ||
+        error.name() == QStringLiteral("org.freedesktop.DBus.Error.NameHasNoOwner"))
+        return Failure{ESRCH, notRunning, ""};
+    if (error.type() == QDBusError::Failed) return Failure{0, error.message().toStdString(), ""};
+    return Failure{ETIMEDOUT, noAnswer, ""};
 }
 
 void DBusApplication::activate() {
     for (QWindow* window : QGuiApplication::topLevelWindows()) {
-        if (!isOrdinary(*window) || !window->isVisible()) continue;
+        if (!isOrdinaryWindow(*window) || !window->isVisible()) continue;
         window->raise();
         window->requestActivate();
     }

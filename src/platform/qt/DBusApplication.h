@@ -6,40 +6,41 @@
 
 #include "platform/Application.h"
 #include "platform/qt/RuntimeSocket.h"
+#include "platform/qt/TaskbarPresence.h"
 
 namespace vantle {
 
 /// The program on a desktop with a session bus: copies find each other by a name on it, under which
 /// the first one answers as org.freedesktop.Application. The bus forgets a copy that dies. Without
-/// a bus they find each other in the user's runtime folder.
+/// a bus they find each other in the user's runtime folder. Made without a display, it can only ask
+/// another copy.
 class DBusApplication final : public Application {
 public:
     /// `identifier` is the bus name, such as "org.example.Program".
     explicit DBusApplication(const std::string& identifier);
     ~DBusApplication() override;
 
-    void setActivationPolicy(ActivationPolicy policy) override { policy_ = policy; }
-
-    /// What ordinary windows go by when they are made: those of an accessory stay out of the
-    /// taskbar.
-    ActivationPolicy activationPolicy() const { return policy_; }
-
+    void setActivationPolicy(ActivationPolicy policy) override;
     bool anotherCopyIsRunning() override;
-    void activateOtherCopy(const std::string& action = {}) override;
+    void activateOtherCopy() override;
+    Result<std::string> ask(const ApplicationRequest& request) override;
     void activate() override;
     void terminate() override;
 
-private:
     class BusObject;
 
+private:
     bool anotherHoldsTheName();
     bool anotherHoldsTheRuntimeFolder();
+    RuntimeSocket& socket();
+    std::string answerToSocket(const std::string& message);
+    Result<std::string> askThroughSocket(const ApplicationRequest& request);
     void reopen();
-    void perform(const QString& action);
+    Result<std::string> perform(const ApplicationRequest& request);
 
     QString identifier_;
     QString path_;
-    ActivationPolicy policy_ = ActivationPolicy::accessory;
+    std::unique_ptr<TaskbarPresence> taskbar_;  ///< Only with a display.
     std::unique_ptr<BusObject> object_;
     std::unique_ptr<RuntimeSocket> socket_;  ///< Only without a bus.
 };

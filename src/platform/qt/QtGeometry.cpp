@@ -39,6 +39,17 @@ QRect fromScreenCoordinates(const Rect& rect) {
     return fromScreenCoordinates(rect, primaryScreenGeometry());
 }
 
+QPoint fromPixels(const QPoint& pixel) {
+    // A screen's corner is the same in both, and its points count from there.
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QPoint corner = screen->geometry().topLeft();
+        const double scale = screen->devicePixelRatio();
+        const QRect inPixels(corner, screen->geometry().size() * scale);
+        if (inPixels.contains(pixel)) return corner + (QPointF(pixel - corner) / scale).toPoint();
+    }
+    return pixel;
+}
+
 QRect primaryScreenGeometry() {
     const QScreen* primary = QGuiApplication::primaryScreen();
     return primary ? primary->geometry() : QRect();

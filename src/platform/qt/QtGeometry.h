@@ -18,6 +18,9 @@ QRect fromScreenCoordinates(const Rect& rect, const QRect& primary);
 /// With the primary screen of this moment. Main thread only.
 QRect fromScreenCoordinates(const Rect& rect);
 
+/// A place in the pixels of the X server, in Qt's coordinates.
+QPoint fromPixels(const QPoint& pixel);
+
 /// Where the primary screen stands in Qt's coordinates; empty while there is none.
 QRect primaryScreenGeometry();
 

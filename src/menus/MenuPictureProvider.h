@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QQuickImageProvider>
+
+#include "menus/MenuModel.h"
+
+namespace vantle {
+
+/// Draws the pictures of a menu's lines: "image://menu/REVISION/LINE".
+class MenuPictureProvider final : public QQuickImageProvider {
+public:
+    /// The model outlives it.
+    explicit MenuPictureProvider(const MenuModel& model)
+        : QQuickImageProvider(QQuickImageProvider::Image), model_(model) {}
+
+    QImage requestImage(const QString& id, QSize* size, const QSize& requestedSize) override;
+
+private:
+    const MenuModel& model_;
+};
+
+}  // namespace vantle

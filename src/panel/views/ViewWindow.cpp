@@ -1,0 +1,49 @@
+#include "panel/views/ViewWindow.h"
+
+#include <QQmlEngine>
+#include <QQmlExtensionPlugin>
+#include <QQuickItem>
+#include <mutex>
+
+#include "panel/views/SymbolProvider.h"
+
+Q_IMPORT_QML_PLUGIN(Vantle_PanelPlugin)
+Q_IMPORT_QML_PLUGIN(Vantle_CardsPlugin)
+
+namespace vantle {
+namespace {
+
+void chooseRendering() {
+    // The software renderer, unless the user chose one: it takes a third of the memory.
+    const bool isChosen = qEnvironmentVariableIsSet("QT_QUICK_BACKEND") ||
+                          qEnvironmentVariableIsSet("QSG_RHI_BACKEND");
+    if (!isChosen) QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QQuickWindow::setDefaultAlphaBuffer(true);
+    // Letters look alike with every renderer, and sharp on ordinary screens.
+    QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
+}
+
+}  // namespace
+
+QuickRendering::QuickRendering() {
+    static std::once_flag isChosen;
+    std::call_once(isChosen, chooseRendering);
+}
+
+ViewWindow::ViewWindow() {
+    setColor(Qt::transparent);
+    setTitle(QStringLiteral("Vantle"));
+    engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine()->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
+}
+
+void ViewWindow::load(const QString& file, const QVariantMap& properties) {
+    setInitialProperties(properties);
+    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/") + file));
+}
+
+void ViewWindow::unload() {
+    delete rootObject();
+}
+
+}  // namespace vantle

@@ -1,0 +1,70 @@
+#include "platform/qt/QtCanvas.h"
+
+#include <QBuffer>
+#include <QFont>
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QImage>
+#include <QImageWriter>
+#include <QLinearGradient>
+#include <QPainter>
+#include <cerrno>
+#include <utility>
+
+#include "platform/qt/QtColor.h"
+
+namespace vantle {
+namespace {
+
+constexpr int quickCompression = 10;          // of 100; gradients get hardly smaller with more
+constexpr double dotsPerMeter = 72 / 0.0254;  // of a picture that has a pixel per point
+
+QPointF point(const Point& at) {
+    return {at.x, at.y};
+}
+
+void drawBackground(QPainter& painter, const Drawing& drawing) {
+    const auto line = gradientLine(drawing.size, drawing.background.angle);
+    QLinearGradient gradient(point(line.start), point(line.end));
+    gradient.setColorAt(0, qtColor(drawing.background.start));
+    gradient.setColorAt(1, qtColor(drawing.background.end));
+    painter.fillRect(QRectF(0, 0, drawing.size.width, drawing.size.height), gradient);
+}
+
+void drawText(QPainter& painter, const Size& size, const CenteredText& text) {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setPixelSize(qRound(text.fontSize));
+    font.setWeight(QFont::Bold);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(QRectF(0, 0, size.width, size.height), Qt::AlignCenter,
+                     QString::fromStdString(text.text));
+}
+
+}  // namespace
+
+QtCanvas::QtCanvas(std::function<double()> pixelsPerPoint)
+    : pixelsPerPoint_(std::move(pixelsPerPoint)) {}
+
+Result<std::string> QtCanvas::png(const Drawing& drawing) {
+    const double scale = pixelsPerPoint_();
+    QImage image(qRound(drawing.size.width * scale), qRound(drawing.size.height * scale),
+                 QImage::Format_RGB32);
+    if (image.isNull()) return Failure{ENOMEM, "there is no memory for the picture", ""};
+    image.setDotsPerMeterX(qRound(dotsPerMeter * scale));
+    image.setDotsPerMeterY(qRound(dotsPerMeter * scale));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.scale(scale, scale);
+    drawBackground(painter, drawing);
+    if (drawing.text) drawText(painter, drawing.size, *drawing.text);
+    painter.end();
+
+    QBuffer buffer;
+    QImageWriter writer(&buffer, "png");
+    writer.setCompression(quickCompression);
+    if (!writer.write(image)) return Failure{0, writer.errorString().toStdString(), ""};
+    return buffer.data().toStdString();
+}
+
+}  // namespace vantle

@@ -1,0 +1,67 @@
+#include "platform/qt/tray/TrayStatusItem.h"
+
+#include <QCursor>
+#include <utility>
+
+#include "platform/qt/QtGeometry.h"
+
+namespace vantle {
+
+TrayStatusItem::TrayStatusItem(OpenMenu openMenu, Click click, const QDBusConnection& bus)
+    : openMenu_(std::move(openMenu)),
+      click_(click),
+      bus_(bus),
+      onX_([this](int pixels) { return icon_.image(pixels); }) {
+    onX_.onClick = [this](const QRect& pixels) {
+        open(QRect(fromPixels(pixels.topLeft()), fromPixels(pixels.bottomRight())));
+    };
+}
+
+TrayStatusItem::~TrayStatusItem() = default;
+
+bool TrayStatusItem::setImage(const std::string& name, const std::string& description) {
+    if (!icon_.setPicture(name)) return false;
+    description_ = description;
+    return true;
+}
+
+void TrayStatusItem::setAutosaveName(const std::string& name) {
+    autosaveName_ = name;
+}
+
+void TrayStatusItem::show() {
+    if (onBus_) return;
+    onBus_ = std::make_unique<StatusNotifierItem>(
+        StatusNotifierItem::Description{QString::fromStdString(autosaveName_),
+                                        QString::fromStdString(description_),
+                                        click_ == Click::opensMenuOfTray},
+        icon_, [this] { return menu(); }, bus_);
+    onBus_->onActivate = [this](const QPoint& pixel) {
+        open(QRect(pixel.isNull() ? QCursor::pos() : fromPixels(pixel), QSize(1, 1)));
+    };
+    onBus_->onChange = [this] { chooseTray(); };
+    onBus_->start();
+}
+
+void TrayStatusItem::chooseTray() {
+    if (onBus_->isShown())
+        onX_.hide();
+    else if (onBus_->isSettled())
+        onX_.show();
+}
+
+bool TrayStatusItem::isShown() const {
+    return (onBus_ && onBus_->isShown()) || onX_.isShown();
+}
+
+void TrayStatusItem::setAppearsDisabled(bool disabled) {
+    icon_.setDimmed(disabled);
+    if (onBus_) onBus_->iconChanged();
+    onX_.iconChanged();
+}
+
+void TrayStatusItem::menuChanged() {
+    if (onBus_) onBus_->busMenu().menuChanged();
+}
+
+}  // namespace vantle

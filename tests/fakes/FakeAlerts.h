@@ -1,0 +1,23 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "platform/Alerts.h"
+
+namespace vantle::fakes {
+
+/// Records the alerts and answers them as the test says; by itself with the last button.
+class FakeAlerts final : public Alerts {
+public:
+    int runModal(const Alert& alert) override {
+        shown.push_back(alert);
+        return answer ? answer(alert) : firstButton + static_cast<int>(alert.buttons.size()) - 1;
+    }
+
+    std::vector<Alert> shown;
+    /// Gives the answer; runs while the alert is open.
+    std::function<int(const Alert&)> answer;
+};
+
+}  // namespace vantle::fakes

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Canvas.h"
+
+namespace vantle::fakes {
+
+/// Records the drawings; what it gives are no pictures.
+class FakeCanvas final : public Canvas {
+public:
+    Result<std::string> png(const Drawing& drawing) override {
+        drawn.push_back(drawing);
+        if (failure) return *failure;
+        return "drawing " + std::to_string(drawn.size());
+    }
+
+    std::vector<Drawing> drawn;
+    Outcome failure;
+};
+
+}  // namespace vantle::fakes

@@ -1,0 +1,185 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/AppDelegate.h"
+#include "fakes/FakeAlerts.h"
+#include "fakes/FakeApplication.h"
+#include "fakes/FakeCanvas.h"
+#include "fakes/FakeFileOpener.h"
+#include "fakes/FakeFileSystem.h"
+#include "fakes/FakeLoginItem.h"
+#include "fakes/FakeMediaLoader.h"
+#include "fakes/FakePanelWindow.h"
+#include "fakes/FakePasteboard.h"
+#include "fakes/FakePreferencesDomain.h"
+#include "fakes/FakePrivacySettings.h"
+#include "fakes/FakeProcessLauncher.h"
+#include "fakes/FakeScreens.h"
+#include "fakes/FakeSharingServicePicker.h"
+#include "fakes/FakeStatusItem.h"
+#include "fakes/FakeTrash.h"
+#include "fakes/FakeUserDefaults.h"
+#include "fakes/VirtualTime.h"
+
+namespace vantle {
+
+inline const Url folder = Url::file("/home/user/Desktop");
+
+/// What happened, in order, across services.
+using Events = std::vector<std::string>;
+
+class RecordingSounds final : public SoundPlayer {
+public:
+    explicit RecordingSounds(Events& events) : events_(events) {}
+    void play(std::string_view name) override { events_.push_back("sound " + std::string(name)); }
+
+private:
+    Events& events_;
+};
+
+class RecordingUpdater final : public Updater {
+public:
+    explicit RecordingUpdater(Events& events) : events_(events) {
+        events_.push_back("updater made");
+    }
+    void checkForUpdates() override { events_.push_back("update check"); }
+
+private:
+    Events& events_;
+};
+
+class RecordingWindow final : public Window {
+public:
+    RecordingWindow(Events& events, std::string name) : events_(events), name_(std::move(name)) {
+        events_.push_back(name_ + " made");
+    }
+    void makeKeyAndOrderFront() override { events_.push_back(name_ + " to front"); }
+    void close() override { events_.push_back(name_ + " closed"); }
+
+private:
+    Events& events_;
+    std::string name_;
+};
+
+/// The program on fakes and virtual time.
+class AppFixture : public testing::Test {
+protected:
+    AppFixture() {
+        const auto add = [](auto& slot, auto service) {
+            auto& reference = *service;
+            slot = std::move(service);
+            return &reference;
+        };
+        platform.environment = [this](const std::string& name) -> std::optional<std::string> {
+            const auto found = environment.find(name);
+            if (found == environment.end()) return std::nullopt;
+            return found->second;
+        };
+        auto* scheduler = add(platform.scheduler, std::make_unique<fakes::ManualScheduler>(time));
+        clock = add(platform.clock, std::make_unique<fakes::VirtualClock>(time));
+        auto* queue = add(platform.watcherQueue, std::make_unique<fakes::ManualQueue>(time));
+        auto fileSystem = std::make_unique<fakes::FakeFileSystem>(*queue);
+        files = fileSystem.get();
+        (void)files->createDirectory(folder);
+        platform.directoryEvents = std::make_unique<EventsOf>(*fileSystem);
+        platform.files = std::move(fileSystem);
+        add(platform.media, std::make_unique<fakes::FakeMediaLoader>());
+        defaults = add(platform.defaults, std::make_unique<fakes::FakeUserDefaults>());
+        domain =
+            add(platform.screenshotPreferences, std::make_unique<fakes::FakePreferencesDomain>());
+        add(platform.launcher, std::make_unique<fakes::FakeProcessLauncher>());
+        add(platform.loginItem, std::make_unique<fakes::FakeLoginItem>());
+        screens = add(platform.screens, std::make_unique<fakes::FakeScreens>());
+        application = add(platform.application, std::make_unique<fakes::FakeApplication>());
+        opener = add(platform.opener, std::make_unique<fakes::FakeFileOpener>());
+        pasteboard = add(platform.pasteboard, std::make_unique<fakes::FakePasteboard>(*files));
+        platform.sharing = std::make_unique<fakes::FakeSharingServicePicker>();
+        platform.trash = std::make_unique<fakes::FakeTrash>(*scheduler, *files);
+        statusItem = add(platform.statusItem, std::make_unique<fakes::FakeStatusItem>());
+        alerts = add(platform.alerts, std::make_unique<fakes::FakeAlerts>());
+        privacySettings =
+            add(platform.privacySettings, std::make_unique<fakes::FakePrivacySettings>());
+        canvas = add(platform.canvas, std::make_unique<fakes::FakeCanvas>());
+        platform.sounds = std::make_unique<RecordingSounds>(events);
+        platform.makeUpdater = [this] { return std::make_unique<RecordingUpdater>(events); };
+        defaults->stored["hasCompletedOnboarding"] = true;
+    }
+
+    /// The fake file system is two services in one.
+    class EventsOf final : public DirectoryEvents {
+    public:
+        explicit EventsOf(DirectoryEvents& events) : events_(events) {}
+        Result<std::shared_ptr<DirectoryEventSource>> open(const Url& watched,
+                                                           Handler handler) override {
+            return events_.open(watched, std::move(handler));
+        }
+
+    private:
+        DirectoryEvents& events_;
+    };
+
+    AppDelegate& make() {
+        pasteboard->onWrite = [this] { events.push_back("copy " + pasteboard->contents().back()); };
+        delegate = AppDelegate::create(platform, [this](PanelState&, Settings&, CardActions) {
+            events.push_back("panel made");
+            return std::make_unique<fakes::FakePanelWindow>(panel);
+        });
+        return *delegate;
+    }
+
+    AppDelegate& launch() {
+        AppDelegate& launched = make();
+        EXPECT_TRUE(launched.applicationWillFinishLaunching());
+        launched.applicationDidFinishLaunching();
+        time.settle();
+        return launched;
+    }
+
+    void save(const std::string& name) {
+        files->write(folder.appending(name), 1000, clock->now());
+        time.advance(Seconds(0.3));
+    }
+
+    std::vector<std::string> recentNames() const {
+        std::vector<std::string> names;
+        for (const auto& capture : delegate->recent()) names.push_back(capture->fileName());
+        return names;
+    }
+
+    void offerWindows() {
+        platform.makeSettingsWindow = [this](Size size) {
+            windowSizes.push_back(size);
+            return std::make_unique<RecordingWindow>(events, "settings");
+        };
+        platform.makeOnboardingWindow = [this](Size size, std::function<void()> finish) {
+            windowSizes.push_back(size);
+            finishOnboarding = std::move(finish);
+            return std::make_unique<RecordingWindow>(events, "onboarding");
+        };
+    }
+
+    fakes::VirtualTime time;
+    Events events;
+    std::map<std::string, std::string> environment;
+    fakes::FakePanelWindow::Record panel;
+    Platform platform;
+    fakes::VirtualClock* clock = nullptr;
+    fakes::FakeFileSystem* files = nullptr;
+    fakes::FakeUserDefaults* defaults = nullptr;
+    fakes::FakePreferencesDomain* domain = nullptr;
+    fakes::FakeScreens* screens = nullptr;
+    fakes::FakePasteboard* pasteboard = nullptr;
+    fakes::FakeApplication* application = nullptr;
+    fakes::FakeFileOpener* opener = nullptr;
+    fakes::FakeStatusItem* statusItem = nullptr;
+    fakes::FakeAlerts* alerts = nullptr;
+    fakes::FakePrivacySettings* privacySettings = nullptr;
+    fakes::FakeCanvas* canvas = nullptr;
+    std::vector<Size> windowSizes;
+    std::function<void()> finishOnboarding;
+    std::shared_ptr<AppDelegate> delegate;
+};
+
+}  // namespace vantle

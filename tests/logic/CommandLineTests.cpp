@@ -1,0 +1,102 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/CommandLine.h"
+#include "app/Version.h"
+#include "support/Gradient.h"
+
+namespace vantle {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using Kind = CommandLine::Kind;
+
+CommandLine parse(const std::vector<std::string>& arguments) {
+    return parseCommandLine(arguments, Url::file("/here"));
+}
+
+TEST(CommandLineTest, WithoutArgumentsTheProgramStarts) {
+    const auto line = parse({});
+    EXPECT_EQ(line.kind, Kind::start);
+    EXPECT_FALSE(line.request);
+}
+
+TEST(CommandLineTest, SomeActionsStartTheProgramAndOthersOnlyAskOneThatRuns) {
+    for (const auto* name : {"settings", "sample"}) {
+        const auto line = parse({std::string("--") + name});
+        EXPECT_EQ(line.kind, Kind::start) << name;
+        EXPECT_EQ(line.request, (ApplicationRequest{name, {}}));
+    }
+    for (const auto* name :
+         {"pause", "resume", "dismiss", "focus-panel", "open-folder", "quit", "status"}) {
+        const auto line = parse({std::string("--") + name});
+        EXPECT_EQ(line.kind, Kind::ask) << name;
+        EXPECT_EQ(line.request, (ApplicationRequest{name, {}}));
+    }
+}
+
+TEST(CommandLineTest, FilesCountFromTheFolderOfTheCaller) {
+    const auto line = parse({"--show", "a.png", "/b/c.png", "--odd.png"});
+    EXPECT_EQ(line.kind, Kind::start);
+    ASSERT_TRUE(line.request);
+    EXPECT_THAT(line.request->arguments, ElementsAre("/here/a.png", "/b/c.png", "/here/--odd.png"));
+}
+
+TEST(CommandLineTest, VersionAndHelpArePrinted) {
+    EXPECT_EQ(parse({"--version"}).text, "Vantle " + std::string(version));
+    const auto help = parse({"--help"});
+    EXPECT_EQ(help.kind, Kind::print);
+    for (const auto* option :
+         {"--settings", "--pause", "--resume", "--show FILE…", "--dismiss", "--focus-panel",
+          "--open-folder", "--sample", "--quit", "--status", "--version", "--help"})
+        EXPECT_THAT(help.text, HasSubstr(option));
+}
+
+TEST(CommandLineTest, WhatCannotBeMadeOutIsNamed) {
+    const std::vector<std::pair<std::vector<std::string>, const char*>> wrongs = {
+        {{"--dance"}, "vantle: unknown option \"--dance\"\nTry \"vantle --help\"."},
+        {{"--"}, "unknown option \"--\""},
+        {{""}, "unexpected argument \"\""},
+        {{"-h"}, "unexpected argument \"-h\""},
+        {{"a.png"}, "unexpected argument \"a.png\""},
+        {{"--show"}, "--show needs a file"},
+        {{"--pause", "now"}, "unexpected argument \"now\""},
+        {{"--help", "--pause"}, "unexpected argument \"--pause\""},
+    };
+    for (const auto& [arguments, reason] : wrongs) {
+        const auto line = parse(arguments);
+        EXPECT_EQ(line.kind, Kind::wrong) << reason;
+        EXPECT_THAT(line.text, HasSubstr(reason));
+    }
+}
+
+void expectNear(const Point& point, double x, double y) {
+    EXPECT_NEAR(point.x, x, 1e-6);
+    EXPECT_NEAR(point.y, y, 1e-6);
+}
+
+TEST(GradientLineTest, GoesCounterClockwiseFromTheRight) {
+    expectNear(gradientLine({200, 100}, 0).start, 0, 50);
+    expectNear(gradientLine({200, 100}, 0).end, 200, 50);
+    expectNear(gradientLine({200, 100}, 90).start, 100, 100);
+    expectNear(gradientLine({200, 100}, 90).end, 100, 0);
+}
+
+TEST(GradientLineTest, ANegativeAngleRunsDownwardsFromCornerToCorner) {
+    for (const double angle : {-30.0, -60.0}) {
+        const auto [start, end] = gradientLine({1600, 1000}, angle);
+        const Point direction{end.x - start.x, end.y - start.y};
+        EXPECT_GT(direction.x, 0);
+        EXPECT_GT(direction.y, 0);
+        const auto along = [&](double x, double y) {
+            return ((x - start.x) * direction.x + (y - start.y) * direction.y) /
+                   (direction.x * direction.x + direction.y * direction.y);
+        };
+        EXPECT_NEAR(along(0, 0), 0, 1e-9);
+        EXPECT_NEAR(along(1600, 1000), 1, 1e-9);
+    }
+}
+
+}  // namespace
+}  // namespace vantle

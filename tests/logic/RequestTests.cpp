@@ -1,0 +1,140 @@
+#include "AppFixture.h"
+#include "app/Version.h"
+
+namespace vantle {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class RequestTest : public AppFixture {
+protected:
+    /// The answer, or "failed: " and why.
+    std::string ask(const std::string& action, std::vector<std::string> arguments = {}) {
+        const auto answer = application->onRequest({action, std::move(arguments)});
+        time.settle();
+        return answer ? answer.value() : "failed: " + answer.failure().message;
+    }
+};
+
+TEST_F(RequestTest, PausesAndResumesHoweverOften) {
+    launch();
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(ask("pause"), "");
+        EXPECT_TRUE(delegate->statusBar().paused());
+        EXPECT_FALSE(delegate->watcher().isWatching());
+    }
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(ask("resume"), "");
+        EXPECT_FALSE(delegate->statusBar().paused());
+        EXPECT_TRUE(delegate->watcher().isWatching());
+    }
+}
+
+TEST_F(RequestTest, ShowsFilesWithoutMakingThemRecent) {
+    launch();
+    files->write(Url::file("/pictures/a.png"), 1, Date{});
+    files->write(Url::file("/pictures/b.mov"), 1, Date{});
+    EXPECT_EQ(ask("show", {"/pictures/a.png", "/pictures/b.mov"}), "");
+    EXPECT_EQ(delegate->panel().state().captures.value().size(), 2u);
+    EXPECT_THAT(recentNames(), IsEmpty());
+}
+
+TEST_F(RequestTest, ShowsWhatItCanAndNamesTheRest) {
+    launch();
+    files->write(Url::file("/pictures/a.png"), 1, Date{});
+    files->write(Url::file("/pictures/letter.txt"), 1, Date{});
+    EXPECT_EQ(ask("show", {"/pictures/none.png", "/pictures/a.png", "/pictures/letter.txt"}),
+              "failed: /pictures/none.png: no such file\n"
+              "/pictures/letter.txt: not a screenshot or recording");
+    EXPECT_EQ(delegate->panel().state().captures.value().size(), 1u);
+}
+
+TEST_F(RequestTest, DismissesTheCard) {
+    launch();
+    save("shot.png");
+    EXPECT_EQ(ask("dismiss"), "");
+    EXPECT_FALSE(delegate->panel().isVisible());
+    EXPECT_EQ(ask("dismiss"), "");
+}
+
+TEST_F(RequestTest, GivesThePanelTheKeyboard) {
+    launch();
+    EXPECT_EQ(ask("focus-panel"), "");
+    EXPECT_EQ(panel.timesKeyboardTaken, 0);
+    save("shot.png");
+    EXPECT_EQ(ask("focus-panel"), "");
+    EXPECT_EQ(panel.timesKeyboardTaken, 1);
+}
+
+TEST_F(RequestTest, OpensSettingsAndFolderAndShowsSamplesAndQuits) {
+    offerWindows();
+    launch();
+    EXPECT_EQ(ask("settings"), "");
+    EXPECT_EQ(events.back(), "settings to front");
+    EXPECT_EQ(ask("open-folder"), "");
+    EXPECT_THAT(opener->opened, ElementsAre(folder));
+    EXPECT_EQ(ask("sample"), "");
+    EXPECT_EQ(canvas->drawn.size(), 2u);
+    EXPECT_EQ(ask("quit"), "");
+    EXPECT_EQ(application->terminations, 1);
+}
+
+TEST_F(RequestTest, TellsWhatItIsDoing) {
+    launch();
+    save("shot.png");
+    EXPECT_EQ(ask("status"), "version: " + std::string(version) +
+                                 "\nstate: watching\nfolder: /home/user/Desktop\ncaptures: 1");
+    ask("pause");
+    EXPECT_THAT(ask("status"), HasSubstr("state: paused"));
+    ask("resume");
+    files->failOpening(folder, EACCES);
+    delegate->settings().setScreenshotFolder(Url::file("/nowhere"));
+    files->failOpening(Url::file("/nowhere"), EACCES);
+    ask("pause");
+    ask("resume");
+    EXPECT_THAT(ask("status"), HasSubstr("state: not watching"));
+}
+
+TEST_F(RequestTest, WhatIsNotKnownIsRefused) {
+    launch();
+    EXPECT_EQ(ask("dance"), "failed: there is no action \"dance\"");
+}
+
+TEST_F(RequestTest, ASecondCopyHandsItsRequestToTheFirst) {
+    application->otherCopyRuns = true;
+    const ApplicationRequest request{"show", {"/pictures/a.png"}};
+    EXPECT_FALSE(make().applicationWillFinishLaunching(request));
+    EXPECT_THAT(application->asked, ElementsAre(request));
+    EXPECT_EQ(application->otherCopyActivations, 0);
+    EXPECT_EQ(application->terminations, 1);
+}
+
+class MissingTrayTest : public AppFixture {};
+
+TEST_F(MissingTrayTest, IsExplainedOnceAndForAll) {
+    statusItem->hasTray = false;
+    launch();
+    time.advance(Seconds(29));
+    EXPECT_THAT(alerts->shown, IsEmpty());
+    time.advance(Seconds(2));
+    ASSERT_EQ(alerts->shown.size(), 1u);
+    EXPECT_EQ(alerts->shown[0].style, Alert::Style::informational);
+    EXPECT_THAT(alerts->shown[0].informativeText, HasSubstr("start Vantle again"));
+    launch();
+    time.advance(Seconds(60));
+    EXPECT_EQ(alerts->shown.size(), 1u);
+}
+
+TEST_F(MissingTrayTest, ATrayThatComesLaterNeedsNoExplanation) {
+    statusItem->hasTray = false;
+    launch();
+    time.advance(Seconds(20));
+    statusItem->hasTray = true;
+    time.advance(Seconds(60));
+    EXPECT_THAT(alerts->shown, IsEmpty());
+}
+
+}  // namespace
+}  // namespace vantle
