@@ -59,7 +59,7 @@ Item {
 
         x: plate.x + view.padding
         y: plate.y + view.padding
-        width: Math.ceil(Math.max(170, Math.min(natural.width, 320)))
+        width: Math.ceil(Math.max(170, Math.min(natural.width, 380)))
 
         Repeater {
             model: view.menu.lines

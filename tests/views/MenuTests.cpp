@@ -123,6 +123,47 @@ TEST_F(MenuTest, ReturnChoosesTheCurrentLine) {
     EXPECT_EQ(chosen, 1);
 }
 
+TEST_F(MenuTest, WhatIsOnlySaidCannotBeChosen) {
+    open({{.title = "Recent Captures", .isEnabled = false}, {.title = "a.png"}});
+    press(Qt::Key_Down);
+    EXPECT_EQ(current(), 1);
+    QTest::mouseMove(&window, inLine(0));
+    EXPECT_NE(current(), 0);
+    QTest::mouseClick(&window, Qt::LeftButton, {}, inLine(0));
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(MenuTest, AKeyWithControlChoosesItsLine) {
+    const std::vector<MenuItem> lines{{.title = "Quick"},
+                                      {.title = "Settings…", .keyEquivalent = ","},
+                                      {.title = "Quit", .keyEquivalent = "q"}};
+    open(lines);
+    QTest::keyClick(&window, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(timesEnded, 0);
+    QTest::keyClick(&window, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(chosen, 2);
+    open(lines);
+    QTest::keyClick(&window, Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_EQ(chosen, 1);
+}
+
+TEST_F(MenuTest, WhatALineDoesIsDoneOnceTheMenuHasClosed) {
+    std::vector<std::string> told;
+    window.open({"Menu",
+                 {{.title = "One",
+                   .action = [&] { told.push_back(window.isVisible() ? "open" : "closed"); }}}},
+                {300, 200, 1, 1}, [&](auto) { told.emplace_back("ended"); });
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(told, (std::vector<std::string>{"ended", "closed"}));
+}
+
+TEST_F(MenuTest, StaysOutOfThePanelItWasOpenedFrom) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    open(menu, {300, room.bottom() + 20, 1, 1});
+    EXPECT_LE(plate().bottom(), room.bottom());
+}
+
 TEST_F(MenuTest, ThePointerMakesALineTheCurrentOne) {
     open(menu);
     QTest::mouseMove(&window, inLine(4));
@@ -168,7 +209,7 @@ TEST_F(MenuTest, IsAsLargeAsItsLinesAndCutsALongOne) {
     EXPECT_EQ(plate().width(), 170 + 2 * 5);
     open({{.title = "A telephone with a name that somebody wrote a small novel into, and more"}});
     EXPECT_EQ(plate().height(), 28 + 2 * 5);
-    EXPECT_EQ(plate().width(), 320 + 2 * 5);
+    EXPECT_EQ(plate().width(), 380 + 2 * 5);
 }
 
 }  // namespace

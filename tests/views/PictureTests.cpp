@@ -12,10 +12,16 @@
 #include <functional>
 
 #include "Scenes.h"
+#include "app/StatusBarController.h"
+#include "fakes/FakeApplication.h"
+#include "fakes/FakeFileOpener.h"
+#include "fakes/FakeStatusItem.h"
+#include "fakes/SettingsOnFakes.h"
 #include "menus/MenuWindow.h"
 #include "panel/views/Appearance.h"
 #include "panel/views/dragging/DragPile.h"
 #include "platform/qt/Pixels.h"
+#include "screens/AlertWindow.h"
 
 namespace vantle {
 namespace {
@@ -51,6 +57,40 @@ QImage drawnMenu() {
     return window.grabWindow();
 }
 
+QImage drawnStatusMenu() {
+    fakes::FakeStatusItem item;
+    fakes::FakeFileOpener opener;
+    fakes::FakeApplication application;
+    fakes::SettingsOnFakes onFakes;
+    StatusBarController controller(item, opener, application, onFakes.settings);
+    controller.recent = [] {
+        return std::vector<CapturePointer>{
+            capture("Screenshot from 2026-11-21 18-04-12", {1920, 1080}),
+            capture("Portrait", {1000, 2000}), capture("Recording", {1280, 720})};
+    };
+    MenuWindow window;
+    window.open(controller.menuNeedsUpdate(), {20, 20, 24, 24});
+    QTest::keyClick(&window, Qt::Key_Down);
+    return window.grabWindow();
+}
+
+QImage drawnAlert(const Alert& alert) {
+    AlertWindow window(alert);
+    window.create();
+    return window.grabWindow();
+}
+
+const Alert warning{Alert::Style::warning,
+                    "Vantle needs access to your screenshot folder",
+                    "macOS is blocking Vantle from reading Screenshots. Allow Vantle under System "
+                    "Settings → Privacy & Security → Files and Folders, then click Retry.",
+                    {"Open Privacy Settings", "Retry", "Later"}};
+
+const Alert information{Alert::Style::informational,
+                        "Vantle is running",
+                        "/a/path/without/any/space/that/is/longer/than/the/line/has/room/for/it.",
+                        {"OK"}};
+
 QImage drawnPile(DragPile::Edges edges) {
     std::vector<DraggingItem> items;
     for (int i = 0; i < 7; ++i) {
@@ -71,6 +111,9 @@ std::vector<Subject> subjects() {
                            return drawn(stage);
                        }});
     all.push_back({"menu", drawnMenu});
+    all.push_back({"status-menu", drawnStatusMenu});
+    all.push_back({"alert-warning", [] { return drawnAlert(warning); }});
+    all.push_back({"alert-information", [] { return drawnAlert(information); }});
     all.push_back({"pile", [] { return drawnPile(DragPile::Edges::soft); }});
     all.push_back({"pile-opaque", [] { return drawnPile(DragPile::Edges::opaque); }});
     return all;

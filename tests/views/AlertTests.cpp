@@ -1,0 +1,114 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QTest>
+#include <QTimer>
+
+#include "screens/AlertWindow.h"
+
+namespace vantle {
+namespace {
+
+class AlertTest : public testing::Test {
+protected:
+    /// Runs the alert; `act` happens once it is open. Gives the answer.
+    int run(std::function<void(QQuickView& window)> act) {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* window = openWindow();
+            if (!window || !window->isExposed() || !act) return;
+            std::exchange(act, nullptr)(*window);
+        });
+        timer.start(1);
+        return alerts.runModal(alert);
+    }
+
+    static QQuickView* openWindow() {
+        for (QWindow* window : QGuiApplication::topLevelWindows())
+            if (window->isVisible() && window->modality() == Qt::ApplicationModal)
+                return static_cast<QQuickView*>(window);
+        return nullptr;
+    }
+
+    static QQuickItem* find(const QQuickItem& item, const QString& title) {
+        for (QQuickItem* child : item.childItems()) {
+            if (child->property("title").toString() == title) return child;
+            if (QQuickItem* found = find(*child, title)) return found;
+        }
+        return nullptr;
+    }
+
+    static void click(QQuickView& window, const char* title) {
+        const QQuickItem* button = find(*window.rootObject(), QString::fromLatin1(title));
+        ASSERT_TRUE(button) << title;
+        QTest::mouseClick(&window, Qt::LeftButton, {},
+                          button->mapToScene(button->boundingRect().center()).toPoint());
+    }
+
+    const Alert alert{Alert::Style::warning, "Message", "Text", {"Open", "Retry", "Later"}};
+    WindowAlerts alerts;
+};
+
+TEST_F(AlertTest, AClickAnswersWithItsButton) {
+    EXPECT_EQ(run([](auto& window) { click(window, "Open"); }), 1000);
+    EXPECT_EQ(run([](auto& window) { click(window, "Retry"); }), 1001);
+    EXPECT_EQ(run([](auto& window) { click(window, "Later"); }), 1002);
+}
+
+TEST_F(AlertTest, ReturnIsTheFirstButton) {
+    EXPECT_EQ(run([](auto& window) { QTest::keyClick(&window, Qt::Key_Return); }), 1000);
+}
+
+TEST_F(AlertTest, EscapeAndClosingAreTheLastButton) {
+    EXPECT_EQ(run([](auto& window) { QTest::keyClick(&window, Qt::Key_Escape); }), 1002);
+    EXPECT_EQ(run([](auto& window) { window.close(); }), 1002);
+}
+
+TEST_F(AlertTest, TabReachesEveryButton) {
+    const auto answer = run([](auto& window) {
+        QTest::keyClick(&window, Qt::Key_Tab);
+        QTest::keyClick(&window, Qt::Key_Space);
+    });
+    EXPECT_EQ(answer, 1001);
+}
+
+TEST_F(AlertTest, TheEndOfTheProgramIsTheLastButton) {
+    int answer = 0;
+    QTimer::singleShot(0, [&] { answer = run([](auto&) { QCoreApplication::exit(); }); });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_EQ(answer, 1002);
+}
+
+TEST_F(AlertTest, OneCanOpenAboveAnother) {
+    int above = 0;
+    const int below = run([&](auto& first) {
+        const Alert second{Alert::Style::warning, "Second", "", {"Yes", "No"}};
+        QTimer::singleShot(0, [&] {
+            for (QWindow* window : QGuiApplication::topLevelWindows())
+                if (window != &first && window->isVisible())
+                    QTest::keyClick(window, Qt::Key_Return);
+        });
+        above = alerts.runModal(second);
+        QTest::keyClick(&first, Qt::Key_Escape);
+    });
+    EXPECT_EQ(above, 1000);
+    EXPECT_EQ(below, 1002);
+}
+
+TEST_F(AlertTest, ItIsAsHighAsItsTextNeeds) {
+    const auto heightOf = [](const std::string& text) {
+        const Alert asked{Alert::Style::warning, "Message", text, {"OK"}};
+        AlertWindow window(asked);
+        window.grabWindow();
+        return window.height();
+    };
+    std::string novel;
+    for (int i = 0; i < 60; ++i) novel += "more words ";
+    EXPECT_GT(heightOf(novel), heightOf("few words") + 80);
+    EXPECT_GT(heightOf(std::string(600, 'x')), heightOf("few words") + 80);
+}
+
+}  // namespace
+}  // namespace vantle
