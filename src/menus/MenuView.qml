@@ -55,7 +55,12 @@ Item {
             return size;
         }
 
-        readonly property bool haveSymbols: view.menu.lines.some(line => line.symbol !== "")
+        readonly property bool haveSymbols: {
+            for (const line of view.menu.lines)
+                if (line.symbol !== "")
+                    return true;
+            return false;
+        }
 
         x: plate.x + view.padding
         y: plate.y + view.padding

@@ -28,8 +28,12 @@ public:
     }
 
     QStringList shown;
+    QStringList properties;  ///< Of what they were shown.
 
 public slots:
+    void ShowItemProperties(const QStringList& addresses, const QString&) {
+        properties = addresses;
+    }
     void ShowItems(const QStringList& addresses, const QString&) { shown = addresses; }
 };
 

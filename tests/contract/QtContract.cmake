@@ -12,20 +12,25 @@ target_link_libraries(settings-portal PRIVATE Qt6::DBus vantle_warnings)
 add_executable(
   qt_contract_tests
   ${CMAKE_CURRENT_LIST_DIR}/ApplicationContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/CanvasTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DesktopAppearanceTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DesktopServices.h
   ${CMAKE_CURRENT_LIST_DIR}/FileOpenerContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PasteboardContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PrivacySettingsTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/QtContractMain.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SchedulerContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ScreensContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SettingsPortal.h
   ${CMAKE_CURRENT_LIST_DIR}/SharingServices.h
-  ${CMAKE_CURRENT_LIST_DIR}/SharingSourceTests.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/SharingSourceTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/StatusItemContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/TrayService.h)
 set_target_properties(qt_contract_tests PROPERTIES AUTOMOC ON)
 target_compile_definitions(
   qt_contract_tests PRIVATE VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>")
-target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt_sharing vantle_fakes vantle_warnings
+target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt_sharing vantle_platform_qt_tray
+                                                vantle_fakes vantle_warnings
                                                 GTest::gmock)
 vantle_precompile(qt_contract_tests <gmock/gmock.h> <QDBusConnection> <QDBusMessage> <QGuiApplication>)
 add_dependencies(qt_contract_tests application_copy)

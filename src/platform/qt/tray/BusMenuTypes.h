@@ -62,6 +62,19 @@ using BusMenuEvents = QList<BusMenuEvent>;
 /// aas: each entry holds the names of the keys that are pressed together.
 using BusShortcut = QList<QStringList>;
 
+QDBusArgument& operator<<(QDBusArgument& argument, const BusPixmap& value);
+const QDBusArgument& operator>>(const QDBusArgument& argument, BusPixmap& value);
+QDBusArgument& operator<<(QDBusArgument& argument, const BusToolTip& value);
+const QDBusArgument& operator>>(const QDBusArgument& argument, BusToolTip& value);
+QDBusArgument& operator<<(QDBusArgument& argument, const BusMenuProperties& value);
+const QDBusArgument& operator>>(const QDBusArgument& argument, BusMenuProperties& value);
+QDBusArgument& operator<<(QDBusArgument& argument, const BusMenuRemovedProperties& value);
+const QDBusArgument& operator>>(const QDBusArgument& argument, BusMenuRemovedProperties& value);
+QDBusArgument& operator<<(QDBusArgument& argument, const BusMenuLayout& value);
+const QDBusArgument& operator>>(const QDBusArgument& argument, BusMenuLayout& value);
+QDBusArgument& operator<<(QDBusArgument& argument, const BusMenuEvent& value);
+const QDBusArgument& operator>>(const QDBusArgument& argument, BusMenuEvent& value);
+
 /// To be called once before any of these is passed.
 void registerBusMenuTypes();
 

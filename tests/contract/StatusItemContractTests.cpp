@@ -1,0 +1,281 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QImage>
+
+#include "contract/PrivateBus.h"
+#include "contract/TrayService.h"
+#include "fakes/FakeStatusItem.h"
+#include "platform/qt/tray/TrayStatusItem.h"
+
+namespace vantle {
+namespace {
+
+using testing::ElementsAre;
+
+constexpr auto picture = "photo.on.rectangle.angled";
+
+struct RecordedTray {
+    fakes::FakeStatusItem item;
+
+    std::vector<std::string> open() { return item.open(); }
+    void choose(const std::string& title) { item.choose(title); }
+    bool isDimmed() const { return item.appearsDisabled; }
+    void start() { item.hasTray = true; }
+    void stop() { item.hasTray = false; }
+    bool showsItem(bool shown) const { return item.isShown() == shown; }
+};
+
+/// A tray on a bus.
+struct BusTray {
+    std::vector<std::string> open() {
+        std::vector<std::string> titles;
+        menu = tray.open();
+        for (const auto& line : menu.children) {
+            const bool isSeparator =
+                line.properties.value(QStringLiteral("type")) == QStringLiteral("separator");
+            titles.push_back(isSeparator ? "-" : label(line));
+        }
+        return titles;
+    }
+    void choose(const std::string& title) {
+        for (const auto& line : menu.children)
+            if (label(line) == title) tray.send(line.id, QStringLiteral("clicked"));
+    }
+    bool isDimmed() {
+        const auto icons = qdbus_cast<BusPixmaps>(tray.property(QStringLiteral("IconPixmap")));
+        unsigned strongest = 0;
+        for (qsizetype i = 0; i < icons.front().pixels.size(); i += 4)
+            strongest = std::max(
+                strongest, static_cast<unsigned>(static_cast<uchar>(icons.front().pixels[i])));
+        return strongest < 128;
+    }
+    void start() { tray.start(); }
+    void stop() { tray.stop(); }
+    bool showsItem(bool shown) {
+        return runUntil([&] { return item.isShown() == shown && tray.hasItem() == shown; });
+    }
+
+    static std::string label(const BusMenuLayout& line) {
+        return line.properties.value(QStringLiteral("label")).toString().toStdString();
+    }
+
+    PrivateBus bus;
+    TrayService tray{bus.connect()};
+    std::vector<std::pair<Menu, QRect>> opened;
+    TrayStatusItem item{
+        [this](const Menu& shown, const QRect& anchor) { opened.emplace_back(shown, anchor); },
+        TrayStatusItem::Click::opensOurMenu, bus.connect()};
+    BusMenuLayout menu;
+};
+
+template <typename Tray>
+class StatusItemContract : public testing::Test {
+protected:
+    StatusItemContract() {
+        EXPECT_TRUE(tray.item.setImage(picture, "Program"));
+        tray.item.setAutosaveName("ProgramItem");
+        tray.item.menuNeedsUpdate = [this] { return Menu{"Program", lines}; };
+    }
+
+    std::vector<MenuItem> lines{{.title = "Heading", .isEnabled = false},
+                                {.kind = MenuItem::Kind::separator},
+                                {.title = "one_two", .action = [this] { ++timesChosen; }}};
+    int timesChosen = 0;
+    Tray tray;
+};
+
+using Trays = testing::Types<RecordedTray, BusTray>;
+TYPED_TEST_SUITE(StatusItemContract, Trays);
+
+TYPED_TEST(StatusItemContract, IsInTheTrayOnceItIsShown) {
+    this->tray.start();
+    EXPECT_FALSE(this->tray.item.isShown());
+    this->tray.item.show();
+    EXPECT_TRUE(this->tray.showsItem(true));
+}
+
+TYPED_TEST(StatusItemContract, APictureThatDoesNotExistChangesNothing) {
+    EXPECT_FALSE(this->tray.item.setImage("nonsense", "Other"));
+    this->tray.start();
+    this->tray.item.show();
+    EXPECT_TRUE(this->tray.showsItem(true));
+}
+
+TYPED_TEST(StatusItemContract, FollowsATrayThatComesLaterAndStartsAnew) {
+    this->tray.stop();
+    this->tray.item.show();
+    EXPECT_TRUE(this->tray.showsItem(false));
+    for (int round = 0; round < 2; ++round) {
+        this->tray.start();
+        EXPECT_TRUE(this->tray.showsItem(true));
+        this->tray.stop();
+        EXPECT_TRUE(this->tray.showsItem(false));
+    }
+}
+
+TYPED_TEST(StatusItemContract, TheMenuIsMadeAtEachOpening) {
+    this->tray.start();
+    this->tray.item.show();
+    ASSERT_TRUE(this->tray.showsItem(true));
+    if constexpr (std::is_same_v<TypeParam, BusTray>)
+        EXPECT_THAT(this->tray.open(), ElementsAre("Heading", "-", "one__two"));
+    else
+        EXPECT_THAT(this->tray.open(), ElementsAre("Heading", "-", "one_two"));
+    this->lines = {{.title = "Other"}};
+    EXPECT_THAT(this->tray.open(), ElementsAre("Other"));
+}
+
+TYPED_TEST(StatusItemContract, ChoosingDoesWhatTheLineSays) {
+    this->lines.push_back({.title = "Plain", .action = [this] { this->timesChosen += 10; }});
+    this->tray.start();
+    this->tray.item.show();
+    ASSERT_TRUE(this->tray.showsItem(true));
+    this->tray.open();
+    this->tray.choose("Heading");
+    this->tray.choose("Plain");
+    EXPECT_TRUE(runUntil([&] { return this->timesChosen > 0; }));
+    EXPECT_EQ(this->timesChosen, 10);
+}
+
+TYPED_TEST(StatusItemContract, IsDimmedAndBackAgain) {
+    this->tray.start();
+    this->tray.item.show();
+    ASSERT_TRUE(this->tray.showsItem(true));
+    EXPECT_FALSE(this->tray.isDimmed());
+    this->tray.item.setAppearsDisabled(true);
+    EXPECT_TRUE(this->tray.isDimmed());
+    this->tray.item.setAppearsDisabled(false);
+    EXPECT_FALSE(this->tray.isDimmed());
+}
+
+class TrayOnBusTest : public StatusItemContract<BusTray> {
+protected:
+    TrayOnBusTest() {
+        tray.start();
+        tray.item.show();
+        EXPECT_TRUE(tray.showsItem(true));
+    }
+
+    std::vector<int> ids() {
+        std::vector<int> found;
+        for (const auto& line : tray.tray.open().children) found.push_back(line.id);
+        return found;
+    }
+};
+
+TEST_F(TrayOnBusTest, SaysWhatItIs) {
+    EXPECT_EQ(tray.tray.property(QStringLiteral("Id")), QStringLiteral("ProgramItem"));
+    EXPECT_EQ(tray.tray.property(QStringLiteral("Title")), QStringLiteral("Program"));
+    EXPECT_EQ(tray.tray.property(QStringLiteral("Status")), QStringLiteral("Active"));
+    EXPECT_EQ(tray.tray.property(QStringLiteral("ItemIsMenu")), false);
+}
+
+TEST_F(TrayOnBusTest, HasAnIconOfEverySize) {
+    const auto icons = qdbus_cast<BusPixmaps>(tray.tray.property(QStringLiteral("IconPixmap")));
+    std::vector<int> sizes;
+    for (const auto& icon : icons) {
+        sizes.push_back(icon.width);
+        EXPECT_EQ(icon.pixels.size(), icon.width * icon.height * 4);
+        EXPECT_GT(icon.pixels.count('\xff'), icon.width) << "it is empty";
+    }
+    EXPECT_THAT(sizes, ElementsAre(16, 22, 24, 32, 48));
+}
+
+TEST_F(TrayOnBusTest, AClickOpensTheMenuThatWeDraw) {
+    for (const auto* method : {"Activate", "SecondaryActivate", "ContextMenu"})
+        tray.tray.call(QStringLiteral("/StatusNotifierItem"),
+                       QStringLiteral("org.kde.StatusNotifierItem"), QString::fromLatin1(method),
+                       {100, 200});
+    ASSERT_EQ(tray.opened.size(), 3u);
+    EXPECT_EQ(tray.opened[0].second.topLeft(), QPoint(100, 200));
+    EXPECT_EQ(tray.opened[0].first.items.size(), 3u);
+}
+
+TEST_F(TrayOnBusTest, AClickOnADenseScreenOpensTheMenuThere) {
+    tray.tray.call(QStringLiteral("/StatusNotifierItem"),
+                   QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("Activate"),
+                   {1440 + 200, 100 + 400});
+    ASSERT_EQ(tray.opened.size(), 1u);
+    EXPECT_EQ(tray.opened[0].second.topLeft(), QPoint(1440 + 100, 100 + 200));
+}
+
+TEST_F(TrayOnBusTest, ALineThatLooksTheSameKeepsItsNumberAndNoNumberIsUsedAgain) {
+    const auto before = ids();
+    lines.insert(lines.begin() + 1, {.title = "New"});
+    const auto after = ids();
+    ASSERT_EQ(after.size(), 4u);
+    EXPECT_EQ(after[0], before[0]);
+    EXPECT_THAT(before, testing::Not(testing::Contains(after[1])));
+    EXPECT_EQ(after[2], before[1]);
+    EXPECT_EQ(after[3], before[2]);
+    lines.erase(lines.begin() + 1);
+    EXPECT_EQ(ids(), before);
+    lines[0].title = "Changed";
+    EXPECT_THAT(after, testing::Not(testing::Contains(ids()[0])));
+}
+
+TEST_F(TrayOnBusTest, AnOpenMenuStaysAsItIs) {
+    const auto before = ids();
+    tray.tray.send(0, QStringLiteral("opened"));
+    lines.clear();
+    tray.item.menuChanged();
+    EXPECT_EQ(tray.tray.layout().children.size(), 3);
+    tray.tray.send(before[2], QStringLiteral("clicked"));
+    EXPECT_TRUE(runUntil([&] { return timesChosen == 1; }));
+    tray.tray.send(0, QStringLiteral("closed"));
+    tray.item.menuChanged();
+    EXPECT_TRUE(tray.tray.layout().children.isEmpty());
+}
+
+TEST_F(TrayOnBusTest, ATrayThatDoesNotSayWhenItOpensTheMenuHasTheLatest) {
+    EXPECT_EQ(tray.tray.layout().children.size(), 3);
+    lines.clear();
+    tray.item.menuChanged();
+    EXPECT_TRUE(tray.tray.layout().children.isEmpty());
+}
+
+TEST_F(TrayOnBusTest, LinesCarryKeysAndPictures) {
+    auto image = std::make_shared<Image>();
+    image->pixelsWide = image->pixelsHigh = 1;
+    image->size = {100, 100};
+    image->rgba = {255, 0, 0, 255};
+    lines = {{.title = "Quit",
+              .keyEquivalent = "q",
+              .image = MenuImage{image, {36, 24}, {{6, 0}, {24, 24}}}}};
+    const auto layout = tray.tray.open();
+    const auto line = layout.children.at(0).properties;
+    EXPECT_EQ(qdbus_cast<BusShortcut>(line[QStringLiteral("shortcut")]),
+              (BusShortcut{{QStringLiteral("Control"), QStringLiteral("q")}}));
+    const QImage icon = QImage::fromData(line[QStringLiteral("icon-data")].toByteArray());
+    EXPECT_EQ(icon.size(), QSize(72, 48));
+    EXPECT_EQ(icon.pixelColor(36, 24), QColor(Qt::red));
+    EXPECT_EQ(icon.pixelColor(6, 24).alpha(), 0);
+}
+
+TEST_F(TrayOnBusTest, WhatDoesNotExistIsNoAccident) {
+    tray.tray.send(4711, QStringLiteral("clicked"));
+    const auto one =
+        tray.tray.callMenu(QStringLiteral("GetProperty"), {4711, QStringLiteral("label")});
+    EXPECT_EQ(one.type(), QDBusMessage::ReplyMessage);
+    const auto several = tray.tray.callMenu(
+        QStringLiteral("GetGroupProperties"),
+        {QVariant::fromValue(QList<int>{0, 4711}), QStringList{QStringLiteral("label")}});
+    EXPECT_EQ(qdbus_cast<BusMenuPropertiesList>(several.arguments().value(0)).size(), 1);
+    const auto shown = tray.tray.callMenu(QStringLiteral("AboutToShowGroup"),
+                                          {QVariant::fromValue(QList<int>{4711})});
+    EXPECT_EQ(qdbus_cast<QList<int>>(shown.arguments().value(1)), QList<int>{4711});
+    EXPECT_EQ(tray.tray.layout().children.size(), 3);
+}
+
+TEST(TrayStatusItemTest, WithoutABusThereIsNoItem) {
+    TrayStatusItem item([](const auto&, const auto&) {}, TrayStatusItem::Click::opensOurMenu,
+                        QDBusConnection(QStringLiteral("none")));
+    item.show();
+    EXPECT_FALSE(item.isShown());
+    item.setAppearsDisabled(true);
+    item.menuChanged();
+}
+
+}  // namespace
+}  // namespace vantle
