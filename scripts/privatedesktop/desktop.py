@@ -48,6 +48,9 @@ class PrivateDesktop:
         self._processes = []
         self._connections = []
         self._folder = None
+        self._tray_process = None
+        self._server = None
+        self._bus = None
 
     def __enter__(self):
         try:
@@ -165,7 +168,7 @@ class PrivateDesktop:
         width, height = self.size
         read_end, write_end = os.pipe()
         # The server picks a free display number itself, so that desktops can run side by side.
-        server = self.start(
+        server = self._server = self.start(
             "Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{width}x{height}x24",
             "-nolisten", "tcp", "-noreset", "-dpi", "96",
             pass_fds=[write_end],
@@ -181,7 +184,7 @@ class PrivateDesktop:
 
     def _start_bus(self):
         address = "unix:path=" + self.environment["XDG_RUNTIME_DIR"] + "/bus"
-        bus = self.start("dbus-daemon", "--session", "--nofork", "--nopidfile", "--address", address)
+        bus = self._bus = self.start("dbus-daemon", "--session", "--nofork", "--nopidfile", "--address", address)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
         socket = pathlib.Path(self.environment["XDG_RUNTIME_DIR"], "bus")
         self._require(socket.exists, "the session bus listens", bus)
@@ -209,12 +212,28 @@ class PrivateDesktop:
                           self._launch_tray())
 
     def _launch_tray(self):
-        return self.start(
+        self._tray_process = self.start(
             "trayer", "--edge", "top", "--align", "right", "--widthtype", "percent",
             "--width", "100", "--heighttype", "pixel", "--height", str(BAR_HEIGHT),
             "--SetDockType", "true", "--SetPartialStrut", "true", "--expand", "true",
             "--transparent", "true", "--alpha", "110", "--tint", "0x10182a",
         )  # fmt: skip
+        return self._tray_process
+
+    def kill_server(self):
+        """Takes the display server away, as a crash does."""
+        self._server.kill()
+        self._server.wait()
+        self.screen = None
+
+    def kill_bus(self):
+        self._bus.kill()
+        self._bus.wait()
+
+    def restart_tray(self):
+        """Ends the tray and starts it again, as a panel does that crashed."""
+        processes.end(self._tray_process)
+        self._start_tray()
 
     def _has_bar(self):
         return self.screen.has_tray() and self.screen.work_area().height < self.size[1]

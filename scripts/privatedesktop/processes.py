@@ -40,6 +40,19 @@ def end(process, limit=5.0):
     return process.wait()
 
 
+def running(program):
+    """The numbers of the processes that are that program."""
+    found = []
+    for name in os.listdir("/proc"):
+        try:
+            if name.isdigit() and os.readlink(f"/proc/{name}/exe") == os.path.realpath(program):
+                found.append(int(name))
+        except OSError:
+            # It ended meanwhile, or belongs to somebody else.
+            continue
+    return found
+
+
 def marked(variable, value):
     """The numbers of all processes that inherited variable=value in their environment."""
     wanted = f"{variable}={value}".encode()

@@ -4,6 +4,7 @@ import os
 import pathlib
 import re
 import signal
+import subprocess
 
 from . import processes
 from .waiting import wait_until, wait_until_still
@@ -53,6 +54,20 @@ class Program:
     def start(self):
         self._process = processes.start(self._command, self._environment, self._log)
         return self
+
+    def command(self, *arguments, limit=60.0, environment=None):
+        """Starts it with arguments, waits for its end and returns (exit status, what it said)."""
+        wanted = {**self._environment, **(environment or {})}
+        ended = subprocess.run(
+            [*self._command, *arguments],
+            env={name: text for name, text in wanted.items() if text is not None},
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT,
+            timeout=limit,
+            check=False,
+        )
+        return ended.returncode, ended.stdout.decode("utf-8", "replace")
 
     def start_watching(self, limit=20.0):
         """Starts it and waits until files saved from now on are new to it.

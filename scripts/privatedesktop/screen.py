@@ -159,6 +159,18 @@ class Screen:
         """The windows that a taskbar or a pager shows."""
         return list(self.root_property("_NET_CLIENT_LIST") or [])
 
+    def dialogs(self):
+        """Vantle's windows that the window manager manages."""
+        return [w for w in self.client_list() if "vantle" in self._class_names(w)]
+
+    def _class_names(self, window_number):
+        window = self._display.create_resource_object("window", window_number)
+        try:
+            return [name.lower() for name in window.get_wm_class() or ()]
+        except error.XError:
+            # It was destroyed while we asked.
+            return []
+
     def active_window(self):
         values = self.root_property("_NET_ACTIVE_WINDOW")
         return values[0] if values else 0
@@ -216,16 +228,24 @@ class Screen:
             class_names=window.get_wm_class() or (),
         )
 
-    def panels(self):
-        """Vantle's panels on the screen: there should be at most one."""
+    def _own_windows(self):
+        """Vantle's windows on the screen that no window manager manages."""
         return [
             window
             for window in self.windows()
             if window.is_mapped
             and window.is_override_redirect
             and "vantle" in (name.lower() for name in window.class_names)
-            and window.frame.width > 400
         ]
+
+    def panels(self):
+        """Vantle's panels on the screen: there should be at most one."""
+        return [window for window in self._own_windows() if window.frame.width > 700]
+
+    def menu(self):
+        """The menu that Vantle draws, if it is open."""
+        menus = [w for w in self._own_windows() if w.frame.width <= 700 and w.frame.height > 60]
+        return menus[0] if menus else None
 
     def panel(self):
         panels = self.panels()
@@ -257,6 +277,9 @@ class Screen:
     def window_property(self, window_number, name):
         window = self._display.create_resource_object("window", window_number)
         return self._property(window, name)
+
+    def atom_name(self, atom):
+        return self._display.get_atom_name(atom)
 
     def title(self, window_number):
         window = self._display.create_resource_object("window", window_number)

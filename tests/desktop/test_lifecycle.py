@@ -3,9 +3,10 @@
 import itertools
 import signal
 
+import pytest
 from PIL import Image
 
-from privatedesktop import Program, wait_until
+from privatedesktop import Program, processes, wait_until
 
 
 def test_second_start_ends_by_itself(desktop, vantle, folder, binary):
@@ -49,8 +50,60 @@ def test_starts_again_after_it_was_killed(desktop, vantle, binary):
         again.stop()
 
 
-def test_ends_when_asked(desktop, vantle):
+def test_a_hundred_starts_leave_one(desktop, vantle, binary):
     vantle.start_watching()
+    for _ in range(100):
+        assert vantle.command() == (0, "")
+    assert vantle.is_running()
+    assert processes.running(binary) == [vantle.pid]
+
+
+def test_ten_starts_at_once_leave_one(desktop, vantle, binary):
+    copies = [Program(binary, desktop, name=f"copy {n}").start() for n in range(10)]
+    try:
+        wait_until(lambda: sum(copy.is_running() for copy in copies) == 1, "one is left")
+        (left,) = [copy for copy in copies if copy.is_running()]
+        left.wait_for_log("watching")
+        assert [copy.exit_status() for copy in copies if copy is not left] == [0] * 9
+    finally:
+        for copy in copies:
+            copy.stop()
+
+
+def test_starts_again_after_it_was_killed_without_a_session_bus(desktop, vantle, binary):
+    no_bus = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent/bus"}
+    killed = Program(binary, desktop, environment=no_bus, name="killed").start_watching()
+    killed.kill()
+    again = Program(binary, desktop, environment=no_bus, name="again")
+    try:
+        again.start_watching()
+        assert again.command()[0] == 0
+        assert again.is_running()
+    finally:
+        again.stop()
+
+
+@pytest.mark.parametrize("number", [signal.SIGTERM, signal.SIGINT, signal.SIGHUP])
+def test_ends_when_asked(desktop, vantle, number):
+    vantle.start_watching()
+    vantle.signal(number)
+    assert vantle.wait_for_end(limit=5.0) == 0
+
+
+def test_ends_with_the_display_server(desktop, vantle, folder):
+    vantle.start_watching()
+    folder.save("shot.png")
+    wait_until(desktop.screen.panel, "the panel appears")
+    desktop.kill_server()
+    # It failed, and it was no accident: a signal would be a negative number.
+    assert vantle.wait_for_end(limit=5.0) == 1
+
+
+def test_outlives_the_session_bus(desktop, vantle, folder):
+    vantle.start_watching()
+    desktop.kill_bus()
+    folder.save("shot.png")
+    wait_until(desktop.screen.panel, "the panel appears")
     vantle.signal(signal.SIGTERM)
     assert vantle.wait_for_end(limit=5.0) == 0
 

@@ -39,6 +39,8 @@ private:
     void letGo();
     void handleWindowEvent(std::uint8_t type, const void* event);
     void paint();
+    /// What the icon is drawn on, as large as the window.
+    QImage background() const;
     QRect frame() const;
 
     const std::function<QImage(int pixels)> draw_;

@@ -1,6 +1,3 @@
-#include <xcb/shape.h>
-
-#include <QBitmap>
 #include <QCoreApplication>
 #include <QPainter>
 #include <algorithm>
@@ -151,13 +148,15 @@ void XEmbedIcon::makeWindow(xcb_window_t tray) {
     const xcb_colormap_t colormap = xcb_generate_id(connection());
     xcb_create_colormap(connection(), XCB_COLORMAP_ALLOC_NONE, colormap, x11::root(), visual.id);
     window_ = xcb_generate_id(connection());
+    // Without transparency its background is that of the tray.
     const std::array<uint32_t, 4> values{
-        0, 0,
+        hasAlpha_ ? 0U : uint32_t{XCB_BACK_PIXMAP_PARENT_RELATIVE}, 0,
         XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_BUTTON_PRESS,
         colormap};
+    const uint32_t background = hasAlpha_ ? XCB_CW_BACK_PIXEL : XCB_CW_BACK_PIXMAP;
     xcb_create_window(connection(), depth_, window_, x11::root(), 0, 0, firstSize, firstSize, 0,
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, visual.id,
-                      XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP,
+                      background | XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP,
                       values.data());
     xcb_free_colormap(connection(), colormap);
     size_ = QSize(firstSize, firstSize);
@@ -216,18 +215,9 @@ void XEmbedIcon::handleWindowEvent(uint8_t type, const void* event) {
 void XEmbedIcon::paint() {
     if (!isEmbedded_ || size_.isEmpty()) return;
     const int side = std::min(size_.width(), size_.height());
-    QImage picture(size_, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
+    QImage picture = background();
     QPainter(&picture).drawImage((size_.width() - side) / 2, (size_.height() - side) / 2,
                                  draw_(side));
-    if (!hasAlpha_) {
-        // Nothing shines through: the window takes the shape of the icon.
-        const auto rectangles =
-            x11::inPixels(QRegion(QBitmap::fromImage(picture.createAlphaMask())), 1);
-        xcb_shape_rectangles(connection(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING,
-                             XCB_CLIP_ORDERING_UNSORTED, window_, 0, 0,
-                             static_cast<uint32_t>(rectangles.size()), rectangles.data());
-    }
     const xcb_gcontext_t context = xcb_generate_id(connection());
     xcb_create_gc(connection(), context, window_, 0, nullptr);
     xcb_put_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP, window_, context,
@@ -235,6 +225,23 @@ void XEmbedIcon::paint() {
                   0, depth_, static_cast<uint32_t>(picture.sizeInBytes()), picture.constBits());
     xcb_free_gc(connection(), context);
     xcb_flush(connection());
+}
+
+QImage XEmbedIcon::background() const {
+    QImage picture(size_, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    if (hasAlpha_) return picture;
+    // Nothing shines through: what the tray drew there has to be read.
+    const auto width = static_cast<uint16_t>(size_.width());
+    const auto height = static_cast<uint16_t>(size_.height());
+    xcb_clear_area(connection(), false, window_, 0, 0, width, height);
+    const auto drawn = owned(xcb_get_image_reply(
+        connection(),
+        xcb_get_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP, window_, 0, 0, width, height, ~0U),
+        nullptr));
+    if (!drawn || xcb_get_image_data_length(drawn.get()) != picture.sizeInBytes()) return picture;
+    return QImage(xcb_get_image_data(drawn.get()), width, height, QImage::Format_RGB32)
+        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 QRect XEmbedIcon::frame() const {

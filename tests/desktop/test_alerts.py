@@ -1,0 +1,68 @@
+"""What the program asks the user about, on the screen."""
+
+import pathlib
+
+import pytest
+
+from other_windows import OtherWindow
+from privatedesktop import Rectangle, wait_until
+
+NOWHERE = "/proc/nothing/Shots"
+
+
+@pytest.fixture
+def alert(desktop, vantle):
+    """The alert about a folder that cannot be made; there is a window of another program, too."""
+    OtherWindow(desktop, Rectangle(400, 250, 700, 400), colour=0x101010)
+    configuration = pathlib.Path(desktop.environment["XDG_CONFIG_HOME"], "user-dirs.dirs")
+    configuration.write_text(f'XDG_DESKTOP_DIR="{NOWHERE}"\n')
+    vantle.start()
+    return wait_until(desktop.screen.dialogs, "the alert opens")[0]
+
+
+def is_closed(desktop, alert):
+    return alert not in desktop.screen.dialogs()
+
+
+def state_names(desktop, window):
+    atoms = desktop.screen.window_property(window, "_NET_WM_STATE") or []
+    return {desktop.screen.atom_name(atom) for atom in atoms}
+
+
+def test_it_comes_to_the_front_with_the_keyboard(desktop, vantle, alert):
+    wait_until(lambda: desktop.screen.active_window() == alert, "it has the keyboard")
+    assert "_NET_WM_STATE_ABOVE" in state_names(desktop, alert)
+    # Once for three failures to start: they are the same one.
+    desktop.screen.keyboard.press("Escape")
+    wait_until(lambda: is_closed(desktop, alert), "it closes")
+    assert desktop.screen.dialogs() == []
+    assert vantle.is_running()
+
+
+def test_it_stays_out_of_the_taskbar_of_a_program_without_windows(desktop, vantle, alert):
+    wait_until(
+        lambda: {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"}
+        <= state_names(desktop, alert),
+        "it stays out of the taskbar",
+    )
+
+
+def test_it_stands_in_the_taskbar_of_a_program_in_the_dock(desktop, vantle):
+    vantle.write_settings(showInDock="true")
+    configuration = pathlib.Path(desktop.environment["XDG_CONFIG_HOME"], "user-dirs.dirs")
+    configuration.write_text(f'XDG_DESKTOP_DIR="{NOWHERE}"\n')
+    vantle.start()
+    window = wait_until(desktop.screen.dialogs, "the alert opens")[0]
+    wait_until(lambda: desktop.screen.active_window() == window, "it has the keyboard")
+    assert "_NET_WM_STATE_SKIP_TASKBAR" not in state_names(desktop, window)
+
+
+def test_the_program_ends_with_an_open_alert(desktop, vantle, alert):
+    vantle.signal(15)
+    assert vantle.wait_for_end(limit=5.0) == 0
+
+
+def test_commands_are_answered_while_it_is_open(desktop, vantle, alert):
+    assert "state: not watching" in vantle.command("--status")[1]
+    assert vantle.command("--quit") == (0, "")
+    assert vantle.wait_for_end() == 0

@@ -1,0 +1,169 @@
+"""The icon in real trays and its menu, by real clicks and keys."""
+
+import pytest
+
+from panel_checks import is_dismissed, show_one
+from privatedesktop import processes, wait_until
+from trays import (
+    Icon,
+    OwnMenu,
+    choose_by_keys,
+    open_menu_of_tray,
+    start_lxqt_panel,
+    start_xfce_panel,
+)
+
+without_tray = pytest.mark.desktop(tray=False)
+
+
+def state(vantle):
+    return vantle.command("--status")[1].splitlines()[1]
+
+
+def dismiss(desktop, vantle):
+    vantle.command("--dismiss")
+    wait_until(lambda: is_dismissed(desktop), "the card goes")
+
+
+def test_menu_in_a_tray_on_x(desktop, vantle, folder):
+    vantle.start_watching()
+    icon = Icon(desktop, "top")
+    icon.wait()
+    show_one(desktop, folder)
+    dismiss(desktop, vantle)
+    OwnMenu(desktop, icon).choose(1, "newest capture")
+    wait_until(desktop.screen.panel, "the capture is shown again")
+    OwnMenu(desktop, icon).choose(1, "pause")
+    wait_until(icon.is_dim, "the icon is dimmed")
+    assert state(vantle) == "state: paused"
+    OwnMenu(desktop, icon).choose(1, "pause")
+    wait_until(icon.is_bright, "the icon is bright again")
+    assert state(vantle) == "state: watching"
+
+
+def test_keys_in_our_own_menu(desktop, vantle):
+    vantle.start_watching()
+    icon = Icon(desktop, "top")
+    icon.wait()
+    OwnMenu(desktop, icon)
+    desktop.screen.keyboard.press("Escape")
+    wait_until(lambda: desktop.screen.menu() is None, "the menu closes")
+    OwnMenu(desktop, icon)
+    choose_by_keys(desktop, 1)
+    wait_until(lambda: state(vantle) == "state: paused", "it is paused")
+    OwnMenu(desktop, icon)
+    desktop.screen.keyboard.hold("Control_L")
+    desktop.screen.keyboard.press("q")
+    desktop.screen.keyboard.let_go("Control_L")
+    assert vantle.wait_for_end() == 0
+
+
+def test_clicks_beside_our_menu_close_it(desktop, vantle):
+    vantle.start_watching()
+    icon = Icon(desktop, "top")
+    icon.wait()
+    for button in (1, 3):
+        OwnMenu(desktop, icon)
+        desktop.screen.pointer.click(300, 600, button=button)
+        wait_until(lambda: desktop.screen.menu() is None, "the menu closes")
+
+
+@without_tray
+def test_menu_in_the_panel_of_lxqt(desktop, vantle, folder):
+    start_lxqt_panel(desktop)
+    vantle.start_watching()
+    icon = Icon(desktop, "bottom")
+    icon.wait()
+    show_one(desktop, folder)
+    dismiss(desktop, vantle)
+    # The heading cannot be chosen: the capture, its folder, then what pauses.
+    open_menu_of_tray(desktop, icon)
+    choose_by_keys(desktop, 3)
+    wait_until(lambda: state(vantle) == "state: paused", "it is paused")
+    wait_until(icon.is_dim, "the icon is dimmed")
+    open_menu_of_tray(desktop, icon)
+    choose_by_keys(desktop, 1)
+    wait_until(desktop.screen.panel, "the capture is shown again")
+    OwnMenu(desktop, icon).choose(1, "quit")
+    assert vantle.wait_for_end() == 0
+
+
+@without_tray
+def test_menu_in_the_panel_of_xfce(desktop, vantle, folder):
+    start_xfce_panel(desktop)
+    vantle.start_watching()
+    icon = Icon(desktop, "bottom")
+    icon.wait()
+    wait_until(lambda: icon.places() == 1, "there is one icon")
+    show_one(desktop, folder)
+    dismiss(desktop, vantle)
+    OwnMenu(desktop, icon).choose(1, "newest capture")
+    wait_until(desktop.screen.panel, "the capture is shown again")
+    open_menu_of_tray(desktop, icon)
+    choose_by_keys(desktop, 3)
+    wait_until(lambda: state(vantle) == "state: paused", "it is paused")
+    wait_until(icon.is_dim, "the icon is dimmed")
+    # From the end: the line that ends the program.
+    open_menu_of_tray(desktop, icon)
+    desktop.screen.keyboard.press("Up")
+    desktop.screen.keyboard.press("Return")
+    assert vantle.wait_for_end() == 0
+
+
+@without_tray
+def test_menu_of_the_tray_follows_new_captures(desktop, vantle, folder):
+    start_lxqt_panel(desktop)
+    vantle.start_watching()
+    icon = Icon(desktop, "bottom")
+    icon.wait()
+    heights = []
+    for number in range(3):
+        before = desktop.screen.screenshot()
+        shown = open_menu_of_tray(desktop, icon)
+        rows = [
+            y
+            for y in range(0, 860)
+            if before.getpixel((1400, y)) != shown.getpixel((1400, y))
+        ]
+        heights.append(len(rows))
+        desktop.screen.keyboard.press("Escape")
+        wait_until(
+            lambda: desktop.screen.screenshot().getpixel((1400, rows[0]))
+            == before.getpixel((1400, rows[0])),
+            "the menu closes",
+        )
+        show_one(desktop, folder, f"{number}.png")
+        dismiss(desktop, vantle)
+    assert heights[0] < heights[1] < heights[2]
+
+
+@without_tray
+def test_a_tray_that_comes_later_and_starts_anew(desktop, vantle):
+    vantle.start_watching()
+    icon = Icon(desktop, "bottom")
+    for _ in range(2):
+        panel = start_lxqt_panel(desktop)
+        icon.wait()
+        processes.end(panel)
+        wait_until(lambda: not icon.is_bright(), "the panel is gone")
+    assert vantle.is_running()
+
+
+def test_a_tray_on_x_that_starts_anew(desktop, vantle):
+    vantle.start_watching()
+    icon = Icon(desktop, "top")
+    icon.wait()
+    desktop.restart_tray()
+    icon.wait()
+    wait_until(lambda: icon.places() == 1, "there is one icon")
+    OwnMenu(desktop, icon).choose(0, "pause")
+    wait_until(icon.is_dim, "the icon is dimmed")
+
+
+@without_tray
+def test_without_a_tray_the_user_is_told_once(desktop, vantle):
+    vantle.start_watching()
+    wait_until(desktop.screen.dialogs, "it is explained", limit=60.0)
+    desktop.screen.keyboard.press("Return")
+    wait_until(lambda: not desktop.screen.dialogs(), "the explanation is gone")
+    assert "hasExplainedMissingTray=true" in vantle.settings_file.read_text()
