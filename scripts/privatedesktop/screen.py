@@ -135,7 +135,11 @@ class Screen:
         return Image.frombytes("RGB", size, raw.data, "raw", "BGRX")
 
     def _property(self, window, name, kind=X.AnyPropertyType):
-        answer = window.get_full_property(self._display.intern_atom(name), kind)
+        try:
+            answer = window.get_full_property(self._display.intern_atom(name), kind)
+        except error.BadWindow:
+            # It was destroyed while we asked.
+            return None
         return answer.value if answer else None
 
     def root_property(self, name):

@@ -5,7 +5,9 @@ import pathlib
 import pytest
 
 from other_windows import OtherWindow
-from privatedesktop import Rectangle, wait_until
+from privatedesktop import Program, Rectangle, wait_until
+from unprivileged import unprivileged
+from using import window_titled
 
 NOWHERE = "/proc/nothing/Shots"
 
@@ -66,3 +68,40 @@ def test_commands_are_answered_while_it_is_open(desktop, vantle, alert):
     assert "state: not watching" in vantle.command("--status")[1]
     assert vantle.command("--quit") == (0, "")
     assert vantle.wait_for_end() == 0
+
+
+@pytest.fixture
+def denied(desktop, binary, folder):
+    """A program that may not read the folder, with its alert open."""
+    program = Program(unprivileged(binary), desktop, name="denied")
+    program.write_settings()
+    folder.path.chmod(0)
+    program.start()
+    wait_until(desktop.screen.dialogs, "the alert opens")
+    yield program
+    folder.path.chmod(0o700)
+    program.stop()
+
+
+def test_the_permissions_of_a_folder_that_cannot_be_read(desktop, denied):
+    desktop.screen.keyboard.press("Return")
+    window_titled(desktop, "Desktop - Properties")
+    wait_until(lambda: desktop.screen.dialogs() == [], "the alert is gone")
+
+
+def test_a_retry_watches_a_folder_that_can_be_read_again(desktop, folder, denied):
+    folder.path.chmod(0o700)
+    desktop.screen.keyboard.press("Tab")
+    desktop.screen.keyboard.press("space")
+    denied.wait_for_log("watching ")
+    wait_until(lambda: desktop.screen.dialogs() == [], "the alert is gone")
+    assert "state: watching" in denied.command("--status")[1]
+
+
+def test_a_retry_in_vain_asks_again(desktop, denied):
+    first = desktop.screen.dialogs()
+    desktop.screen.keyboard.press("Tab")
+    desktop.screen.keyboard.press("space")
+    wait_until(lambda: desktop.screen.dialogs() not in ([], first), "another alert opens")
+    desktop.screen.keyboard.press("Escape")
+    wait_until(lambda: desktop.screen.dialogs() == [], "it closes")

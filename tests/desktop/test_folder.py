@@ -1,17 +1,14 @@
 """The watched folder disappears, and the program goes on."""
 
-import os
 import shutil
 import subprocess
 
 import pytest
 
 from privatedesktop import Program, wait_until
+from unprivileged import unprivileged
 from watched_folder import png
 
-# Root reads everything, unless it gives up the right to.
-_RIGHTS = "-dac_override,-dac_read_search"
-WITHOUT_PRIVILEGES = ["setpriv", "--bounding-set", _RIGHTS, "--inh-caps", _RIGHTS]
 WATCHING = r"^Vantle\[dbg\]: watching "
 
 
@@ -106,7 +103,7 @@ def test_unmounted(vantle, folder):
 
 
 def test_unreadable(desktop, binary, folder):
-    vantle = Program([*WITHOUT_PRIVILEGES, binary] if os.geteuid() == 0 else binary, desktop)
+    vantle = Program(unprivileged(binary), desktop)
     folder.path.chmod(0)
     try:
         vantle.start()

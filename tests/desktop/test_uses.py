@@ -79,25 +79,25 @@ def test_names_of_all_kinds_come_back_by_a_file_manager(desktop, vantle, folder)
     desktop.screen.pointer.click(card.centre[0] + 20, card.y + 6)
     wait_until(lambda: len(trashed(desktop)) == len(names), "all are trashed")
     assert not os.listdir(folder.path)
-    restore_all_by_file_manager(desktop)
-    wait_until(lambda: set(os.listdir(folder.path)) == names, "all are back")
+    restore_all_by_file_manager(desktop, lambda: set(os.listdir(folder.path)) == names)
 
 
-def restore_all_by_file_manager(desktop):
+def restore_all_by_file_manager(desktop, is_done):
     desktop.start("thunar", "trash:///")
     area = desktop.screen.area(window_titled(desktop, "Trash"))
-    before = desktop.screen.screenshot(area).tobytes()
     pointer = desktop.screen.pointer
 
-    def is_listed():
+    def select_and_restore():
+        """In vain while the file manager is still listing."""
         pointer.click(area.right - 20, area.bottom - 120)
         press_with_control(desktop, "a")
-        return desktop.screen.screenshot(area).tobytes() != before
+        wait_until_still(lambda: desktop.screen.screenshot(area).tobytes(), "the selection")
+        # "Restore Selected Items".
+        pointer.click(area.right - 299, area.bottom - 50)
+        wait_until_still(lambda: desktop.screen.screenshot(area).tobytes(), "the list")
+        return is_done()
 
-    wait_until(is_listed, "the file manager selects what is in the Trash", interval=0.3)
-    wait_until_still(lambda: desktop.screen.screenshot(area).tobytes(), "the selection")
-    # "Restore Selected Items".
-    pointer.click(area.right - 299, area.bottom - 50)
+    wait_until(select_and_restore, "all are back", limit=40.0)
 
 
 def test_the_trash_is_shared_with_other_programs(desktop, vantle, folder, card):

@@ -40,7 +40,8 @@ void TrayStatusItem::show() {
         open(QRect(pixel.isNull() ? QCursor::pos() : fromPixels(pixel), QSize(1, 1)));
     };
     onBus_->onChange = [this] { chooseTray(); };
-    onBus_->start();
+    // By the run loop: a second start, which never comes so far, shall not flash an icon.
+    QMetaObject::invokeMethod(onBus_.get(), &StatusNotifierItem::start, Qt::QueuedConnection);
 }
 
 void TrayStatusItem::chooseTray() {

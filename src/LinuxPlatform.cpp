@@ -1,0 +1,138 @@
+#include "LinuxPlatform.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <utility>
+#include <vector>
+
+#include "capture/Capture.h"
+#include "capture/SystemScreenshotPrefs.h"
+#include "menus/MenuSharingServicePicker.h"
+#include "menus/MenuWindow.h"
+#include "platform/linux/AutostartLoginItem.h"
+#include "platform/linux/CanberraSoundPlayer.h"
+#include "platform/linux/ConfinedMediaLoader.h"
+#include "platform/linux/FreedesktopTrash.h"
+#include "platform/linux/IniPreferencesDomain.h"
+#include "platform/linux/IniUserDefaults.h"
+#include "platform/linux/InotifyDirectoryEvents.h"
+#include "platform/linux/LinuxFileManager.h"
+#include "platform/linux/PollQueue.h"
+#include "platform/linux/PosixProcessLauncher.h"
+#include "platform/linux/UserDirectories.h"
+#include "platform/qt/DBusApplication.h"
+#include "platform/qt/DensestScreen.h"
+#include "platform/qt/DesktopFileOpener.h"
+#include "platform/qt/DesktopPrivacySettings.h"
+#include "platform/qt/PortalAppearance.h"
+#include "platform/qt/QtCanvas.h"
+#include "platform/qt/QtPasteboard.h"
+#include "platform/qt/QtScheduler.h"
+#include "platform/qt/QtScreens.h"
+#include "platform/qt/sharing/BluetoothSharing.h"
+#include "platform/qt/sharing/GsConnectSharing.h"
+#include "platform/qt/sharing/KdeConnectSharing.h"
+#include "platform/qt/sharing/MailSharing.h"
+#include "platform/qt/sharing/SharingSources.h"
+#include "platform/qt/tray/TrayStatusItem.h"
+#include "screens/AlertWindow.h"
+
+namespace vantle {
+namespace {
+
+bool isRecording(const Url& url) {
+    return Capture::kind(url) == CaptureKind::video;
+}
+
+/// The path of another program that belongs to this one.
+std::string beside(const char* program) {
+    return QDir(QCoreApplication::applicationDirPath()).filePath(program).toStdString();
+}
+
+/// All who may take files, in the order of the share menu.
+std::unique_ptr<SharingSource> makeSharingSource(const Platform& platform) {
+    std::vector<std::unique_ptr<SharingSource>> sources;
+    sources.push_back(std::make_unique<MailSharing>(*platform.launcher, platform.environment));
+    sources.push_back(std::make_unique<KdeConnectSharing>());
+    sources.push_back(std::make_unique<GsConnectSharing>());
+    sources.push_back(std::make_unique<BluetoothSharing>(*platform.launcher));
+    return std::make_unique<SharingSources>(std::move(sources));
+}
+
+/// What a capture can be used for.
+void addUses(Platform& platform, std::shared_ptr<MediaLoader> pictures) {
+    platform.opener = std::make_unique<DesktopFileOpener>(*platform.launcher,
+                                                          DesktopFileOpener::currentSandbox());
+    platform.trash = std::make_unique<FreedesktopTrash>(*platform.scheduler, platform.environment);
+    platform.pasteboard = std::make_unique<QtPasteboard>(std::move(pictures));
+    platform.sharing = std::make_unique<MenuSharingServicePicker>(
+        makeSharingSource(platform), *platform.pasteboard, *platform.opener);
+    platform.privacySettings = std::make_unique<DesktopPrivacySettings>(
+        programIdentifier, *platform.opener, DesktopFileOpener::currentSandbox());
+}
+
+/// The icon in the tray. Its menu is loaded when it is opened for the first time.
+std::unique_ptr<StatusItem> makeStatusItem() {
+    const auto window = std::make_shared<std::unique_ptr<MenuWindow>>();
+    const auto open = [window](const Menu& menu, const QRect& anchor) {
+        if (!*window) *window = std::make_unique<MenuWindow>();
+        (*window)->open(menu, anchor);
+    };
+    // A window of X cannot hold the pointer there.
+    const bool isWayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    return std::make_unique<TrayStatusItem>(open, isWayland ? TrayStatusItem::Click::opensMenuOfTray
+                                                            : TrayStatusItem::Click::opensOurMenu);
+}
+
+/// What the program says of itself, outside the panel.
+void addShell(Platform& platform) {
+    platform.statusItem = makeStatusItem();
+    platform.alerts = std::make_unique<WindowAlerts>();
+    platform.canvas = std::make_unique<QtCanvas>(densestScreen());
+    platform.sounds =
+        std::make_unique<CanberraSoundPlayer>(Url::file(beside("../share/vantle/sounds")));
+}
+
+std::unique_ptr<LoginItem> makeLoginItem(const Environment& environment) {
+    const UserDirectories directories(environment);
+    std::vector<Url> folders{directories.configuration().appending("autostart")};
+    for (const Url& system : directories.systemConfiguration())
+        folders.push_back(system.appending("autostart"));
+    return std::make_unique<AutostartLoginItem>(
+        folders, programIdentifier, QCoreApplication::applicationFilePath().toStdString(),
+        environment("XDG_CURRENT_DESKTOP").value_or(""));
+}
+
+}  // namespace
+
+std::shared_ptr<MediaLoader> makePictureLoader() {
+    return std::make_shared<ConfinedMediaLoader>(beside("vantle-decoder"), [] { return 1.0; });
+}
+
+Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures) {
+    Platform platform;
+    platform.environment = processEnvironment();
+    const Url configuration = UserDirectories(platform.environment).configuration();
+    const Url own = configuration.appending("vantle");
+    platform.scheduler = std::make_unique<QtScheduler>();
+    platform.clock = std::make_unique<SystemWallClock>();
+    platform.files = std::make_unique<LinuxFileManager>(platform.environment, isRecording);
+    platform.media =
+        std::make_unique<ConfinedMediaLoader>(beside("vantle-decoder"), densestScreen());
+    platform.defaults = std::make_unique<IniUserDefaults>(own.appending("vantle.conf"));
+    platform.screenshotPreferences = std::make_unique<IniPreferencesDomain>(
+        own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));
+    platform.launcher = std::make_unique<PosixProcessLauncher>();
+    platform.loginItem = makeLoginItem(platform.environment);
+    platform.screens = std::make_unique<QtScreens>();
+    platform.application = std::make_unique<DBusApplication>(programIdentifier);
+    platform.appearance = std::make_unique<PortalAppearance>();
+    auto queue = std::make_unique<PollQueue>("vantle.watcher");
+    platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*queue);
+    platform.watcherQueue = std::move(queue);
+    addUses(platform, pictures);
+    addShell(platform);
+    return platform;
+}
+
+}  // namespace vantle
