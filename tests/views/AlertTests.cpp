@@ -13,23 +13,29 @@ namespace {
 
 class AlertTest : public testing::Test {
 protected:
+    using Act = std::function<void(QQuickView& window)>;
+
     /// Runs the alert; `act` happens once it is open. Gives the answer.
-    int run(std::function<void(QQuickView& window)> act) {
+    int run(const Alert& asked, Act act) {
+        const QWindow* below = topmost();
         QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            auto* window = openWindow();
-            if (!window || !window->isExposed() || !act) return;
+        QObject::connect(&timer, &QTimer::timeout, [&, below] {
+            auto* window = topmost();
+            if (!act || !window || window == below) return;
             std::exchange(act, nullptr)(*window);
         });
         timer.start(1);
-        return alerts.runModal(alert);
+        return alerts.runModal(asked);
     }
+    int run(Act act) { return run(alert, std::move(act)); }
 
-    static QQuickView* openWindow() {
+    /// The alert that was opened last; null without one.
+    static QQuickView* topmost() {
+        QQuickView* last = nullptr;
         for (QWindow* window : QGuiApplication::topLevelWindows())
-            if (window->isVisible() && window->modality() == Qt::ApplicationModal)
-                return static_cast<QQuickView*>(window);
-        return nullptr;
+            if (window->isExposed() && window->modality() == Qt::ApplicationModal)
+                last = static_cast<QQuickView*>(window);
+        return last;
     }
 
     static QQuickItem* find(const QQuickItem& item, const QString& title) {
@@ -85,12 +91,7 @@ TEST_F(AlertTest, OneCanOpenAboveAnother) {
     int above = 0;
     const int below = run([&](auto& first) {
         const Alert second{Alert::Style::warning, "Second", "", {"Yes", "No"}};
-        QTimer::singleShot(0, [&] {
-            for (QWindow* window : QGuiApplication::topLevelWindows())
-                if (window != &first && window->isVisible())
-                    QTest::keyClick(window, Qt::Key_Return);
-        });
-        above = alerts.runModal(second);
+        above = run(second, [](auto& window) { QTest::keyClick(&window, Qt::Key_Return); });
         QTest::keyClick(&first, Qt::Key_Escape);
     });
     EXPECT_EQ(above, 1000);
