@@ -246,27 +246,6 @@ class Screen:
         """Vantle's panels on the screen: there should be at most one."""
         return [window for window in self._own_windows() if window.frame.width > 700]
 
-    def tray_icons(self):
-        """Vantle's icons that a tray on X has swallowed and shows."""
-        owner = self._display.get_selection_owner(self._display.intern_atom("_NET_SYSTEM_TRAY_S0"))
-        return [w for w in self._inside(self._root, 4) if owner and self._is_icon(w)]
-
-    def _inside(self, window, depth):
-        try:
-            children = window.query_tree().children if depth else []
-        except error.XError:
-            return []
-        return [w for child in children for w in [child, *self._inside(child, depth - 1)]]
-
-    def _is_icon(self, window):
-        try:
-            is_ours = "vantle" in (name.lower() for name in window.get_wm_class() or ())
-            is_icon = window.get_geometry().width <= 48
-            return is_ours and is_icon and window.get_attributes().map_state == X.IsViewable
-        except error.XError:
-            # It was destroyed while we asked.
-            return False
-
     def menu(self):
         """The menu that Vantle draws, if it is open."""
         menus = [w for w in self._own_windows() if w.frame.width <= 700 and w.frame.height > 60]

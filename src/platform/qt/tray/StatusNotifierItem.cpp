@@ -3,8 +3,6 @@
 #include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusServiceWatcher>
-#include <QtEndian>
-#include <array>
 #include <utility>
 
 #include "platform/qt/BusCall.h"
@@ -17,14 +15,16 @@ const QString menuPath = QStringLiteral("/MenuBar");
 const QString watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
 
-// Trays take the one that fits best.
-constexpr std::array iconSizes = {16, 22, 24, 32, 48};
-
+/// Without what the toolkit has for it, which would cost memory for good.
 BusPixmap pixmap(const QImage& icon) {
-    const QImage argb = icon.convertToFormat(QImage::Format_ARGB32);
-    BusPixmap pixmap{argb.width(), argb.height(),
-                     QByteArray(argb.sizeInBytes(), Qt::Uninitialized)};
-    qToBigEndian<quint32>(argb.constBits(), argb.width() * argb.height(), pixmap.pixels.data());
+    BusPixmap pixmap{icon.width(), icon.height(), {}};
+    pixmap.pixels.reserve(icon.sizeInBytes());
+    const auto* pixels = reinterpret_cast<const QRgb*>(icon.constBits());
+    for (int i = 0; i < icon.width() * icon.height(); ++i) {
+        const QRgb plain = qUnpremultiply(pixels[i]);
+        for (const int part : {qAlpha(plain), qRed(plain), qGreen(plain), qBlue(plain)})
+            pixmap.pixels.append(static_cast<char>(part));
+    }
     return pixmap;
 }
 
@@ -103,8 +103,9 @@ void StatusNotifierItem::settle(bool isRegistered, bool hasHost) {
 }
 
 BusPixmaps StatusNotifierItem::iconPixmap() const {
+    // Trays take the one that fits best.
     BusPixmaps pixmaps;
-    for (const int size : iconSizes) pixmaps << pixmap(icon_.image(size));
+    for (const int size : TrayIcon::sizes) pixmaps << pixmap(icon_.image(size));
     return pixmaps;
 }
 

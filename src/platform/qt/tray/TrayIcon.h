@@ -1,25 +1,31 @@
 #pragma once
 
 #include <QImage>
+#include <array>
 #include <string>
 
 namespace vantle {
 
-/// What stands in the tray: one of the pictures in assets/icons, or a text.
+/// What stands in the tray: a picture that was drawn from assets/icons when the program was built,
+/// or a text.
 class TrayIcon {
 public:
+    /// What there are pictures for, in pixels.
+    static constexpr std::array sizes = {16, 22, 24, 32, 48};
+
     /// False when there is no such picture.
     bool setPicture(const std::string& name);
     void setText(const std::string& text) { text_ = QString::fromStdString(text); }
     void setDimmed(bool dimmed) { isDimmed_ = dimmed; }
 
-    /// The icon as wide and high as `pixels`, premultiplied.
+    /// The icon in the largest of the sizes that `pixels` has room for, premultiplied.
     QImage image(int pixels) const;
 
 private:
-    void draw(QPainter& painter, int pixels) const;
+    QImage picture(int size) const;
+    QImage letters(int size) const;
 
-    QByteArray picture_;
+    QString picture_;
     QString text_;
     bool isDimmed_ = false;
 };

@@ -1,5 +1,4 @@
 #include <QCoreApplication>
-#include <QPainter>
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -74,6 +73,26 @@ void setMinimumSize(xcb_window_t window, uint16_t pixels) {
 void setText(xcb_window_t window, const char* property, xcb_atom_t type, std::string_view text) {
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window, atom(property), type, 8,
                         static_cast<uint32_t>(text.size()), text.data());
+}
+
+/// One premultiplied pixel over another.
+QRgb over(QRgb above, QRgb below) {
+    const int rest = 255 - qAlpha(above);
+    const auto mixed = [rest](int a, int b) { return a + b * rest / 255; };
+    return qRgba(mixed(qRed(above), qRed(below)), mixed(qGreen(above), qGreen(below)),
+                 mixed(qBlue(above), qBlue(below)), mixed(qAlpha(above), qAlpha(below)));
+}
+
+/// Without a painter, which would cost memory for good.
+void drawInTheMiddle(const QImage& icon, QImage& picture) {
+    const QPoint corner((picture.width() - icon.width()) / 2,
+                        (picture.height() - icon.height()) / 2);
+    const QRect visible = icon.rect() & picture.rect().translated(-corner);
+    for (int y = visible.top(); y <= visible.bottom(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(icon.constScanLine(y));
+        auto* to = reinterpret_cast<QRgb*>(picture.scanLine(y + corner.y())) + corner.x();
+        for (int x = visible.left(); x <= visible.right(); ++x) to[x] = over(from[x], to[x]);
+    }
 }
 
 /// Asks the tray to take the window.
@@ -214,10 +233,8 @@ void XEmbedIcon::handleWindowEvent(uint8_t type, const void* event) {
 
 void XEmbedIcon::paint() {
     if (!isEmbedded_ || size_.isEmpty()) return;
-    const int side = std::min(size_.width(), size_.height());
     QImage picture = background();
-    QPainter(&picture).drawImage((size_.width() - side) / 2, (size_.height() - side) / 2,
-                                 draw_(side));
+    drawInTheMiddle(draw_(std::min(size_.width(), size_.height())), picture);
     const xcb_gcontext_t context = xcb_generate_id(connection());
     xcb_create_gc(connection(), context, window_, 0, nullptr);
     xcb_put_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP, window_, context,
@@ -240,8 +257,11 @@ QImage XEmbedIcon::background() const {
         xcb_get_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP, window_, 0, 0, width, height, ~0U),
         nullptr));
     if (!drawn || xcb_get_image_data_length(drawn.get()) != picture.sizeInBytes()) return picture;
-    return QImage(xcb_get_image_data(drawn.get()), width, height, QImage::Format_RGB32)
-        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const auto* pixels = reinterpret_cast<const QRgb*>(xcb_get_image_data(drawn.get()));
+    auto* opaque = reinterpret_cast<QRgb*>(picture.bits());
+    std::transform(pixels, pixels + width * height, opaque,
+                   [](QRgb pixel) { return pixel | 0xff000000U; });
+    return picture;
 }
 
 QRect XEmbedIcon::frame() const {

@@ -1,0 +1,46 @@
+// Runs when the program is built: draws an icon once for each size that trays want, so that the
+// resident program needs no drawing for it.
+//
+//   render_icon ICON.svg NAME-16.argb NAME-22.argb ...
+//
+// The size stands in the name of each file, which holds rows of premultiplied pixels from the top,
+// each a 32-bit number in the order of this machine's bytes.
+
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <cstdlib>
+
+namespace {
+
+QImage drawn(QSvgRenderer& renderer, int pixels) {
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    renderer.render(&painter, QRectF(0, 0, pixels, pixels));
+    return image;
+}
+
+bool write(const QImage& image, const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) &&
+           file.write(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()) ==
+               image.sizeInBytes();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 3) return EXIT_FAILURE;
+    QSvgRenderer renderer(QString::fromLocal8Bit(argv[1]));
+    if (!renderer.isValid()) return EXIT_FAILURE;
+    for (int i = 2; i < argc; ++i) {
+        const QString path = QString::fromLocal8Bit(argv[i]);
+        const int pixels = QFileInfo(path).completeBaseName().section(QLatin1Char('-'), -1).toInt();
+        if (pixels <= 0 || !write(drawn(renderer, pixels), path)) return EXIT_FAILURE;
+    }
+    return EXIT_SUCCESS;
+}
