@@ -127,11 +127,16 @@ bool MenuWindow::handleKey(const QKeyEvent& event) {
             model_.choose(model_.current());
             return true;
         default:
-            if (event.modifiers() & Qt::ControlModifier)
-                return model_.chooseByKey(QChar(event.key()).toLower());
+            if (event.modifiers() & Qt::ControlModifier) return chooseByKey(event.key());
             if (!event.text().isEmpty()) model_.stepTo(event.text().front());
             return false;
     }
+}
+
+bool MenuWindow::chooseByKey(int key) {
+    // Keys that are no letters have numbers beyond those.
+    constexpr int lastLetter = 0xffff;
+    return key <= lastLetter && model_.chooseByKey(QChar(key).toLower());
 }
 
 void MenuWindow::end(std::optional<int> chosen) {

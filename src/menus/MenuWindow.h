@@ -36,6 +36,7 @@ private:
     QRect plate() const;
     void grab();
     bool handleKey(const QKeyEvent& event);
+    bool chooseByKey(int key);
     void end(std::optional<int> chosen);
 
     MenuModel model_;

@@ -6,13 +6,14 @@
 #include <QTest>
 #include <QTimer>
 
+#include "fakes/FakeAlerts.h"
 #include "screens/AlertWindow.h"
 
 namespace vantle {
 namespace {
 
-class AlertTest : public testing::Test {
-protected:
+/// Real alerts, with hands for them.
+struct ShownAlerts {
     using Act = std::function<void(QQuickView& window)>;
 
     /// Runs the alert; `act` happens once it is open. Gives the answer.
@@ -27,8 +28,6 @@ protected:
         timer.start(1);
         return alerts.runModal(asked);
     }
-    int run(Act act) { return run(alert, std::move(act)); }
-
     /// The alert that was opened last; null without one.
     static QQuickView* topmost() {
         QQuickView* last = nullptr;
@@ -53,23 +52,63 @@ protected:
                           button->mapToScene(button->boundingRect().center()).toPoint());
     }
 
-    const Alert alert{Alert::Style::warning, "Message", "Text", {"Open", "Retry", "Later"}};
+    int runAndPress(const Alert& asked, std::size_t button) {
+        return run(asked, [&](auto& window) { click(window, asked.buttons[button].c_str()); });
+    }
+    int runUnanswered(const Alert& asked) {
+        return run(asked, [](auto& window) { window.close(); });
+    }
+
     WindowAlerts alerts;
 };
 
-TEST_F(AlertTest, AClickAnswersWithItsButton) {
-    EXPECT_EQ(run([](auto& window) { click(window, "Open"); }), 1000);
-    EXPECT_EQ(run([](auto& window) { click(window, "Retry"); }), 1001);
-    EXPECT_EQ(run([](auto& window) { click(window, "Later"); }), 1002);
+struct RecordedAlerts {
+    int runAndPress(const Alert& asked, std::size_t button) {
+        alerts.answer = [button](const Alert&) {
+            return Alerts::firstButton + static_cast<int>(button);
+        };
+        return alerts.runModal(asked);
+    }
+    int runUnanswered(const Alert& asked) { return alerts.runModal(asked); }
+
+    fakes::FakeAlerts alerts;
+};
+
+const Alert alert{Alert::Style::warning, "Message", "Text", {"Open", "Retry", "Later"}};
+
+template <typename Desk>
+class AlertsContract : public testing::Test {
+protected:
+    Desk desk;
+};
+
+using Desks = testing::Types<RecordedAlerts, ShownAlerts>;
+TYPED_TEST_SUITE(AlertsContract, Desks);
+
+TYPED_TEST(AlertsContract, EachButtonHasItsNumber) {
+    EXPECT_EQ(this->desk.runAndPress(alert, 0), 1000);
+    EXPECT_EQ(this->desk.runAndPress(alert, 1), 1001);
+    EXPECT_EQ(this->desk.runAndPress(alert, 2), 1002);
 }
+
+TYPED_TEST(AlertsContract, WithoutAnAnswerItIsTheLastOne) {
+    EXPECT_EQ(this->desk.runUnanswered(alert), 1002);
+    const Alert single{Alert::Style::informational, "Message", "", {"OK"}};
+    EXPECT_EQ(this->desk.runUnanswered(single), 1000);
+}
+
+class AlertTest : public testing::Test, protected ShownAlerts {
+protected:
+    int run(Act act) { return ShownAlerts::run(alert, std::move(act)); }
+    using ShownAlerts::run;
+};
 
 TEST_F(AlertTest, ReturnIsTheFirstButton) {
     EXPECT_EQ(run([](auto& window) { QTest::keyClick(&window, Qt::Key_Return); }), 1000);
 }
 
-TEST_F(AlertTest, EscapeAndClosingAreTheLastButton) {
+TEST_F(AlertTest, EscapeIsTheLastButton) {
     EXPECT_EQ(run([](auto& window) { QTest::keyClick(&window, Qt::Key_Escape); }), 1002);
-    EXPECT_EQ(run([](auto& window) { window.close(); }), 1002);
 }
 
 TEST_F(AlertTest, TabReachesEveryButton) {
