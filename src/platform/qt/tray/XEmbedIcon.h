@@ -11,7 +11,7 @@ namespace vantle {
 /// protocols). Does nothing on another display server. Main thread only.
 class XEmbedIcon final : public QAbstractNativeEventFilter {
 public:
-    /// `draw` gives the icon as wide and high as so many pixels.
+    /// `draw` gives the icon in at most so many pixels, or as small as there is one.
     explicit XEmbedIcon(std::function<QImage(int pixels)> draw);
     ~XEmbedIcon() override;
     XEmbedIcon(const XEmbedIcon&) = delete;
