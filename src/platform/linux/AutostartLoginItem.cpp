@@ -10,8 +10,8 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/linux/SystemFailure.h"
 #include "platform/linux/WholeFile.h"
+#include "support/SystemFailure.h"
 
 namespace vantle {
 namespace {

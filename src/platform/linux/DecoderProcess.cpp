@@ -11,7 +11,7 @@
 #include <cerrno>
 #include <utility>
 
-#include "platform/linux/SystemFailure.h"
+#include "support/SystemFailure.h"
 
 namespace vantle {
 namespace {

@@ -10,8 +10,8 @@
 #include <cstring>
 #include <utility>
 
-#include "platform/linux/SystemFailure.h"
 #include "support/FileDescriptor.h"
+#include "support/SystemFailure.h"
 
 namespace vantle {
 namespace {

@@ -11,10 +11,10 @@
 #include <utility>
 
 #include "platform/linux/DirectoryStream.h"
-#include "platform/linux/SystemFailure.h"
 #include "platform/linux/UserDirectories.h"
 #include "platform/linux/WholeFile.h"
 #include "platform/linux/WriterCheck.h"
+#include "support/SystemFailure.h"
 
 namespace vantle {
 namespace {

@@ -8,8 +8,8 @@
 #include <array>
 #include <cerrno>
 
-#include "platform/linux/SystemFailure.h"
 #include "support/FileDescriptor.h"
+#include "support/SystemFailure.h"
 
 namespace vantle {
 namespace {

@@ -9,7 +9,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "platform/linux/SystemFailure.h"
+#include "support/SystemFailure.h"
 
 namespace vantle {
 namespace {

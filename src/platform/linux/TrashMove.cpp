@@ -14,7 +14,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/linux/SystemFailure.h"
+#include "support/SystemFailure.h"
 
 namespace vantle {
 namespace {

@@ -12,8 +12,8 @@
 #include <memory>
 #include <system_error>
 
-#include "platform/linux/SystemFailure.h"
 #include "support/FileDescriptor.h"
+#include "support/SystemFailure.h"
 
 namespace vantle {
 namespace {

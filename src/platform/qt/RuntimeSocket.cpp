@@ -13,16 +13,13 @@
 #include <utility>
 
 #include "support/FileDescriptor.h"
+#include "support/SystemFailure.h"
 
 namespace vantle {
 namespace {
 
 constexpr int patience = 3000;  // milliseconds
 constexpr std::size_t longestMessage = std::size_t{64} * 1024;
-
-Failure systemFailure(int error, const std::string& path) {
-    return {error, std::strerror(error), path};
-}
 
 /// Absent when the path is longer than an address can hold.
 std::optional<sockaddr_un> address(const std::string& path) {

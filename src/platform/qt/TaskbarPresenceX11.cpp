@@ -22,19 +22,10 @@ void writeState(xcb_window_t window) {
 /// Of a window that the manager keeps: only that may change it.
 void requestState(xcb_window_t window, bool isAbsent) {
     constexpr uint32_t fromApplication = 1;
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = window;
-    message.type = x11::atom("_NET_WM_STATE");
-    message.data.data32[0] = isAbsent ? 1 : 0;
-    message.data.data32[1] = x11::atom(absentStates[0]);
-    message.data.data32[2] = x11::atom(absentStates[1]);
-    message.data.data32[3] = fromApplication;
-    xcb_send_event(x11::connection(), false, x11::root(),
-                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
-                   reinterpret_cast<const char*>(&message));
-    xcb_flush(x11::connection());
+    x11::sendMessage(x11::root(), window, "_NET_WM_STATE",
+                     {isAbsent ? 1U : 0U, x11::atom(absentStates[0]), x11::atom(absentStates[1]),
+                      fromApplication},
+                     XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
 }
 
 }  // namespace

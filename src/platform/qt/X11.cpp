@@ -1,6 +1,7 @@
 #include "platform/qt/X11.h"
 
 #include <QGuiApplication>
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <map>
@@ -45,6 +46,19 @@ std::vector<xcb_rectangle_t> inPixels(const QRegion& region, double pixelsPerPoi
                               static_cast<uint16_t>(pixels(rect.width())),
                               static_cast<uint16_t>(pixels(rect.height()))});
     return rectangles;
+}
+
+void sendMessage(xcb_window_t destination, xcb_window_t window, const char* type,
+                 const std::array<uint32_t, 5>& data, uint32_t events) {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = atom(type);
+    std::ranges::copy(data, message.data.data32);
+    xcb_send_event(connection(), false, destination, events,
+                   reinterpret_cast<const char*>(&message));
+    xcb_flush(connection());
 }
 
 }  // namespace vantle::x11

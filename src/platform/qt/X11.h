@@ -4,6 +4,7 @@
 
 #include <QRegion>
 #include <QWindow>
+#include <array>
 #include <cstdlib>
 #include <memory>
 #include <vector>
@@ -23,6 +24,11 @@ xcb_atom_t atom(const char* name);
 
 /// A region of a window in points, as rectangles in its pixels.
 std::vector<xcb_rectangle_t> inPixels(const QRegion& region, double pixelsPerPoint);
+
+/// Sends a client message about `window` to those who listen on `destination` for one of `events`
+/// (to its owner when there are none), at once.
+void sendMessage(xcb_window_t destination, xcb_window_t window, const char* type,
+                 const std::array<uint32_t, 5>& data, uint32_t events = XCB_EVENT_MASK_NO_EVENT);
 
 /// What the server answers is ours to free.
 template <typename Reply>

@@ -98,17 +98,7 @@ void drawInTheMiddle(const QImage& icon, QImage& picture) {
 /// Asks the tray to take the window.
 void requestDock(xcb_window_t tray, xcb_window_t window) {
     constexpr uint32_t dock = 0;
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = tray;
-    message.type = atom("_NET_SYSTEM_TRAY_OPCODE");
-    message.data.data32[0] = XCB_CURRENT_TIME;
-    message.data.data32[1] = dock;
-    message.data.data32[2] = window;
-    xcb_send_event(connection(), false, tray, XCB_EVENT_MASK_NO_EVENT,
-                   reinterpret_cast<const char*>(&message));
-    xcb_flush(connection());
+    x11::sendMessage(tray, tray, "_NET_SYSTEM_TRAY_OPCODE", {XCB_CURRENT_TIME, dock, window});
 }
 
 }  // namespace
