@@ -25,12 +25,19 @@ def dismiss(desktop, vantle):
     wait_until(lambda: is_dismissed(desktop), "the card goes")
 
 
-def test_menu_in_a_tray_on_x(desktop, vantle, folder):
+def start_with_one_capture(desktop, vantle, folder, edge):
+    """Its icon; the card has gone again."""
     vantle.start_watching()
-    icon = Icon(desktop, "top")
+    icon = Icon(desktop, edge)
     icon.wait()
+    wait_until(lambda: icon.places() == 1, "there is one icon")
     show_one(desktop, folder)
     dismiss(desktop, vantle)
+    return icon
+
+
+def test_menu_in_a_tray_on_x(desktop, vantle, folder):
+    icon = start_with_one_capture(desktop, vantle, folder, "top")
     OwnMenu(desktop, icon).choose(1, "newest capture")
     wait_until(desktop.screen.panel, "the capture is shown again")
     OwnMenu(desktop, icon).choose(1, "pause")
@@ -71,11 +78,7 @@ def test_clicks_beside_our_menu_close_it(desktop, vantle):
 @without_tray
 def test_menu_in_the_panel_of_lxqt(desktop, vantle, folder):
     start_lxqt_panel(desktop)
-    vantle.start_watching()
-    icon = Icon(desktop, "bottom")
-    icon.wait()
-    show_one(desktop, folder)
-    dismiss(desktop, vantle)
+    icon = start_with_one_capture(desktop, vantle, folder, "bottom")
     # The heading cannot be chosen: the capture, its folder, then what pauses.
     open_menu_of_tray(desktop, icon)
     choose_by_keys(desktop, 3)
@@ -91,12 +94,7 @@ def test_menu_in_the_panel_of_lxqt(desktop, vantle, folder):
 @without_tray
 def test_menu_in_the_panel_of_xfce(desktop, vantle, folder):
     start_xfce_panel(desktop)
-    vantle.start_watching()
-    icon = Icon(desktop, "bottom")
-    icon.wait()
-    wait_until(lambda: icon.places() == 1, "there is one icon")
-    show_one(desktop, folder)
-    dismiss(desktop, vantle)
+    icon = start_with_one_capture(desktop, vantle, folder, "bottom")
     OwnMenu(desktop, icon).choose(1, "newest capture")
     wait_until(desktop.screen.panel, "the capture is shown again")
     open_menu_of_tray(desktop, icon)
