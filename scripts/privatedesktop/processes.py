@@ -40,12 +40,15 @@ def end(process, limit=5.0):
     return process.wait()
 
 
-def running(program):
-    """The numbers of the processes that are that program."""
+def running(program, home):
+    """The numbers of the processes that are that program and have that home directory.
+
+    Other tests run beside this one, each on a desktop with a home directory of its own.
+    """
     found = []
     for name in os.listdir("/proc"):
         try:
-            if name.isdigit() and os.readlink(f"/proc/{name}/exe") == os.path.realpath(program):
+            if name.isdigit() and _is(name, program, home):
                 found.append(int(name))
         except OSError:
             # It ended meanwhile, or belongs to somebody else.
@@ -83,3 +86,10 @@ def end_marked(variable, value, limit=3.0):
             if time.monotonic() > end_time:
                 break
             time.sleep(0.02)
+
+
+def _is(number, program, home):
+    if os.readlink(f"/proc/{number}/exe") != os.path.realpath(program):
+        return False
+    with open(f"/proc/{number}/environ", "rb") as environment:
+        return os.fsencode(f"HOME={home}") in environment.read().split(b"\0")

@@ -55,7 +55,7 @@ def test_a_hundred_starts_leave_one(desktop, vantle, binary):
     for _ in range(100):
         assert vantle.command() == (0, "")
     assert vantle.is_running()
-    assert processes.running(binary) == [vantle.pid]
+    assert processes.running(binary, desktop.home) == [vantle.pid]
 
 
 def test_ten_starts_at_once_leave_one(desktop, vantle, binary):
