@@ -40,22 +40,6 @@ def end(process, limit=5.0):
     return process.wait()
 
 
-def running(program, home):
-    """The numbers of the processes that are that program and have that home directory.
-
-    Other tests run beside this one, each on a desktop with a home directory of its own.
-    """
-    found = []
-    for name in os.listdir("/proc"):
-        try:
-            if name.isdigit() and _is(name, program, home):
-                found.append(int(name))
-        except OSError:
-            # It ended meanwhile, or belongs to somebody else.
-            continue
-    return found
-
-
 def marked(variable, value):
     """The numbers of all processes that inherited variable=value in their environment."""
     wanted = f"{variable}={value}".encode()
@@ -73,6 +57,11 @@ def marked(variable, value):
     return found
 
 
+def running(program, home):
+    """The numbers of the processes that are that program, on the desktop with that home directory."""
+    return [number for number in marked("HOME", home) if _executable(number) == os.path.realpath(program)]
+
+
 def end_marked(variable, value, limit=3.0):
     """Ends what others started on our behalf: services of the session bus, background helpers."""
     for number in (signal.SIGTERM, signal.SIGKILL):
@@ -88,8 +77,9 @@ def end_marked(variable, value, limit=3.0):
             time.sleep(0.02)
 
 
-def _is(number, program, home):
-    if os.readlink(f"/proc/{number}/exe") != os.path.realpath(program):
-        return False
-    with open(f"/proc/{number}/environ", "rb") as environment:
-        return os.fsencode(f"HOME={home}") in environment.read().split(b"\0")
+def _executable(number):
+    try:
+        return os.readlink(f"/proc/{number}/exe")
+    except OSError:
+        # It ended meanwhile.
+        return None
