@@ -24,7 +24,9 @@
 #include "platform/qt/DensestScreen.h"
 #include "platform/qt/DesktopFileOpener.h"
 #include "platform/qt/DesktopPrivacySettings.h"
+#include "platform/qt/DialogFolderChooser.h"
 #include "platform/qt/PortalAppearance.h"
+#include "platform/qt/PortalFolderChooser.h"
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtScheduler.h"
@@ -69,6 +71,8 @@ void addUses(Platform& platform, std::shared_ptr<MediaLoader> pictures) {
         makeSharingSource(platform), *platform.pasteboard, *platform.opener);
     platform.privacySettings = std::make_unique<DesktopPrivacySettings>(
         programIdentifier, *platform.opener, DesktopFileOpener::currentSandbox());
+    platform.folderChooser = std::make_unique<PortalFolderChooser>(
+        std::make_unique<DialogFolderChooser>(QString::fromStdString(beside("vantle-folder-dialog"))));
 }
 
 /// The icon in the tray. Its menu is loaded when it is opened for the first time.

@@ -10,6 +10,7 @@
 #include "platform/DirectoryEvents.h"
 #include "platform/FileManager.h"
 #include "platform/FileOpener.h"
+#include "platform/FolderChooser.h"
 #include "platform/LoginItem.h"
 #include "platform/MediaLoader.h"
 #include "platform/Pasteboard.h"
@@ -55,6 +56,7 @@ struct Platform {
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<Alerts> alerts;
     std::unique_ptr<PrivacySettings> privacySettings;
+    std::unique_ptr<FolderChooser> folderChooser;
     std::unique_ptr<Canvas> canvas;
     std::unique_ptr<SoundPlayer> sounds;
     std::unique_ptr<SerialQueue> watcherQueue;

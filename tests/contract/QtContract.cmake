@@ -15,7 +15,9 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/CanvasTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DesktopAppearanceTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DesktopServices.h
+  ${CMAKE_CURRENT_LIST_DIR}/FileChooserPortal.h
   ${CMAKE_CURRENT_LIST_DIR}/FileOpenerContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FolderChooserContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PasteboardContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PrivacySettingsTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/QtContractMain.cpp

@@ -1,0 +1,49 @@
+// vantle-folder-dialog DIRECTORY PROMPT MESSAGE [WINDOW]
+//
+// Asks for a folder with the dialog of the desktop's toolkit where that has one, else with that of
+// ours. It starts in DIRECTORY, PROMPT stands on its button and MESSAGE in its title; it stays above
+// the X11 window of the number WINDOW. Writes the path as it is, without anything behind it, to the
+// standard output and ends with 0; ends with 1 when nothing was chosen. It ends with the program
+// that started it.
+
+#include <signal.h>
+#include <sys/prctl.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QWindow>
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+constexpr int nothingChosen = 1;
+constexpr int wrongCommandLine = 2;
+
+void stayAbove(QWidget& dialog, WId parent) {
+    if (!parent || QGuiApplication::platformName() != QStringLiteral("xcb")) return;
+    dialog.winId();  // makes its window
+    // Belongs to somebody else, and goes with this process.
+    if (QWindow* window = QWindow::fromWinId(parent)) dialog.windowHandle()->setTransientParent(window);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+    QApplication application(argc, argv);
+    QGuiApplication::setApplicationDisplayName(QString());
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.vantle.Vantle"));
+    if (argc < 4) return wrongCommandLine;
+    QFileDialog dialog(nullptr, QString::fromUtf8(argv[3]), QFile::decodeName(argv[1]));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    dialog.setLabelText(QFileDialog::Accept, QString::fromUtf8(argv[2]));
+    if (argc > 4) stayAbove(dialog, QByteArray(argv[4]).toULongLong());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return nothingChosen;
+    const QByteArray path = QFile::encodeName(dialog.selectedFiles().constFirst());
+    const auto length = static_cast<std::size_t>(path.size());
+    return std::fwrite(path.constData(), 1, length, stdout) == length ? 0 : nothingChosen;
+}

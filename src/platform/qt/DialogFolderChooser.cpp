@@ -1,0 +1,64 @@
+#include "platform/qt/DialogFolderChooser.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QTimer>
+#include <QWindow>
+#include <utility>
+
+#include "support/SystemLog.h"
+
+namespace vantle {
+namespace {
+
+constexpr int nothingChosen = 1;  // the exit status
+
+QStringList arguments(const FolderRequest& request) {
+    QStringList all{QFile::decodeName(request.directory.path().c_str()),
+                    QString::fromStdString(request.prompt),
+                    QString::fromStdString(request.message)};
+    if (const QWindow* window = QGuiApplication::focusWindow())
+        all << QString::number(window->winId());
+    return all;
+}
+
+}  // namespace
+
+DialogFolderChooser::DialogFolderChooser(QString program) : program_(std::move(program)) {
+    process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process_.setStandardInputFile(QProcess::nullDevice());
+    connect(&process_, &QProcess::finished, this,
+            [this](int status, QProcess::ExitStatus how) {
+                end(how == QProcess::NormalExit && status <= nothingChosen);
+            });
+    connect(&process_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        // Every other error ends the process, which is told by itself.
+        if (error == QProcess::FailedToStart) end(false);
+    });
+}
+
+DialogFolderChooser::~DialogFolderChooser() {
+    process_.disconnect(this);
+    process_.kill();
+    process_.waitForFinished();
+}
+
+void DialogFolderChooser::choose(const FolderRequest& request, Chosen chosen) {
+    // Not inside this call, even when the program cannot be started.
+    QTimer::singleShot(0, this, [this, request, chosen = std::move(chosen)]() mutable {
+        if (chosen_) return chosen(std::nullopt);
+        chosen_ = std::move(chosen);
+        process_.start(program_, arguments(request));
+    });
+}
+
+void DialogFolderChooser::end(bool wasAsked) {
+    if (!wasAsked)
+        systemLog("Vantle: the folder chooser failed: " + process_.errorString().toStdString());
+    // Nothing, when the user chose nothing.
+    const QByteArray path = wasAsked ? process_.readAllStandardOutput() : QByteArray();
+    if (const auto chosen = std::exchange(chosen_, nullptr))
+        chosen(path.startsWith('/') ? std::optional(Url::file(path.toStdString())) : std::nullopt);
+}
+
+}  // namespace vantle

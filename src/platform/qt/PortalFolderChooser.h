@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QVariantMap>
+#include <memory>
+
+#include "platform/FolderChooser.h"
+
+namespace vantle {
+
+/// Asks the desktop portal (org.freedesktop.portal.FileChooser), which shows the desktop's own
+/// dialog. Where there is none, or one that cannot start in a given folder (before version 4), the
+/// next chooser is asked.
+class PortalFolderChooser final : public QObject, public FolderChooser {
+    Q_OBJECT
+
+public:
+    explicit PortalFolderChooser(std::unique_ptr<FolderChooser> next,
+                                 const QDBusConnection& bus = QDBusConnection::sessionBus());
+    ~PortalFolderChooser() override;
+
+    void choose(const FolderRequest& request, Chosen chosen) override;
+
+private slots:
+    void responded(uint response, const QVariantMap& results);
+
+private:
+    void open(const FolderRequest& request);
+    void end(const std::optional<Url>& folder);
+    void forget();
+
+    std::unique_ptr<FolderChooser> next_;
+    QDBusConnection bus_;
+    Chosen chosen_;  ///< While one is open.
+    QString handle_;  ///< Of the open dialog, on the bus; empty while there is none.
+    unsigned count_ = 0;
+};
+
+}  // namespace vantle
