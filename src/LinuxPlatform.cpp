@@ -37,7 +37,7 @@
 #include "platform/qt/sharing/MailSharing.h"
 #include "platform/qt/sharing/SharingSources.h"
 #include "platform/qt/tray/TrayStatusItem.h"
-#include "screens/AlertWindow.h"
+#include "screens/views/AlertWindow.h"
 
 namespace vantle {
 namespace {

@@ -2,6 +2,7 @@
 #include <unistd.h>
 
 #include <QGuiApplication>
+#include <QLocale>
 #include <QSessionManager>
 #include <algorithm>
 #include <cstdlib>
@@ -18,6 +19,8 @@
 #include "panel/views/dragging/QtDraggingSessions.h"
 #include "platform/qt/DBusApplication.h"
 #include "platform/qt/UnixSignals.h"
+#include "screens/views/OnboardingWindow.h"
+#include "screens/views/SettingsWindow.h"
 #include "support/SystemLog.h"
 
 namespace {
@@ -89,10 +92,29 @@ QGuiApplication makeApplication(int& argc, char** argv) {
     return QGuiApplication(argc, argv);
 }
 
+AppDelegate::Views makeViews(Platform& platform, DraggingSessions& dragging) {
+    return {.makePanel =
+                [&](PanelState& state, Settings& settings, CardActions actions) {
+                    return std::make_unique<CapturePanel>(
+                        PanelModel::Context{state, settings, *platform.clock, dragging,
+                                            std::move(actions), rendering(platform)});
+                },
+            .makeSettingsWindow =
+                [&](Settings& settings) {
+                    return std::make_unique<SettingsWindow>(settings, platform);
+                },
+            .makeOnboardingWindow =
+                [&](Settings& settings, std::function<void()> finish) {
+                    return std::make_unique<OnboardingWindow>(settings, platform,
+                                                              std::move(finish));
+                }};
+}
+
 int run(int& argc, char** argv, const std::optional<ApplicationRequest>& request) {
     qInstallMessageHandler(endOnFatalMessages);
     QGuiApplication application = makeApplication(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setLayoutDirection(QLocale().textDirection());
     joinSession(application);
     if (request) {
         const auto answer = DBusApplication(programIdentifier).ask(*request);
@@ -104,11 +126,7 @@ int run(int& argc, char** argv, const std::optional<ApplicationRequest>& request
     Platform platform = makeLinuxPlatform(pictures);
     Appearance::follow(platform.appearance.get());
     QtDraggingSessions dragging(pictures);
-    const auto delegate = AppDelegate::create(platform, [&](PanelState& state, Settings& settings,
-                                                            CardActions actions) {
-        return std::make_unique<CapturePanel>(PanelModel::Context{
-            state, settings, *platform.clock, dragging, std::move(actions), rendering(platform)});
-    });
+    const auto delegate = AppDelegate::create(platform, makeViews(platform, dragging));
     if (!delegate->applicationWillFinishLaunching(request)) return EXIT_SUCCESS;
     const UnixSignals endingSignals([&] { platform.application->terminate(); });
     delegate->applicationDidFinishLaunching();

@@ -15,16 +15,18 @@ constexpr Size settingsSize{480, 860};
 constexpr Size onboardingSize{600, 900};
 constexpr Size screenMargin{40, 60};
 constexpr Seconds updateCheckDelay{1.0};
+constexpr Seconds onboardingSnapshotDelay{1.0};
+constexpr double onboardingSnapshotScale = 2;
 
 }  // namespace
 
-std::shared_ptr<AppDelegate> AppDelegate::create(Platform& platform,
-                                                 CapturePanelController::PanelFactory makePanel) {
-    return std::shared_ptr<AppDelegate>(new AppDelegate(platform, std::move(makePanel)));
+std::shared_ptr<AppDelegate> AppDelegate::create(Platform& platform, Views views) {
+    return std::shared_ptr<AppDelegate>(new AppDelegate(platform, std::move(views)));
 }
 
-AppDelegate::AppDelegate(Platform& platform, CapturePanelController::PanelFactory makePanel)
+AppDelegate::AppDelegate(Platform& platform, Views views)
     : platform_(platform),
+      views_(std::move(views)),
       settings_(*platform.defaults,
                 SystemScreenshotPrefs(*platform.files, *platform.screenshotPreferences,
                                       *platform.launcher),
@@ -43,7 +45,7 @@ AppDelegate::AppDelegate(Platform& platform, CapturePanelController::PanelFactor
                                              .sharing = *platform.sharing,
                                              .trash = *platform.trash,
                                              .environment = platform.environment,
-                                             .makePanel = std::move(makePanel)})),
+                                             .makePanel = views_.makePanel})),
       statusBar_(*platform.statusItem, *platform.opener, *platform.application, settings_) {}
 
 bool AppDelegate::applicationWillFinishLaunching(const std::optional<ApplicationRequest>& request) {
@@ -152,23 +154,41 @@ bool AppDelegate::applicationShouldHandleReopen(bool) {
 }
 
 void AppDelegate::showSettings() {
-    if (!platform_.makeSettingsWindow) return;
-    if (!settingsWindow_) settingsWindow_ = platform_.makeSettingsWindow(fit(settingsSize));
-    settingsWindow_->makeKeyAndOrderFront();
-    platform_.application->activate();
+    if (!views_.makeSettingsWindow) return;
+    if (!settingsWindow_) settingsWindow_ = views_.makeSettingsWindow(settings_);
+    settings_.readSystem();
+    present(*settingsWindow_, settingsSize);
 }
 
 void AppDelegate::showOnboarding() {
-    if (!platform_.makeOnboardingWindow) {
+    if (!views_.makeOnboardingWindow) {
         finishOnboarding();
         return;
     }
-    if (!onboardingWindow_)
-        onboardingWindow_ = platform_.makeOnboardingWindow(
-            fit(onboardingSize),
-            weakly(shared_from_this(), [](auto& self) { self.finishOnboarding(); }));
-    onboardingWindow_->makeKeyAndOrderFront();
+    const bool isNew = !onboardingWindow_;
+    if (isNew)
+        onboardingWindow_ = views_.makeOnboardingWindow(
+            settings_, weakly(shared_from_this(), [](auto& self) { self.finishOnboarding(); }));
+    present(*onboardingWindow_, onboardingSize);
+    const auto snapshot = platform_.environment("VANTLE_SNAPSHOT_ONBOARDING");
+    if (isNew && snapshot)
+        platform_.scheduler->after(onboardingSnapshotDelay,
+                                   weakly(shared_from_this(), [path = *snapshot](auto& self) {
+                                       self.writeOnboardingSnapshot(path);
+                                   }));
+}
+
+void AppDelegate::present(Window& window, Size contentSize) {
+    // Each time: the screen may have become a smaller one.
+    window.setContentSize(fit(contentSize));
+    window.makeKeyAndOrderFront();
     platform_.application->activate();
+}
+
+void AppDelegate::writeOnboardingSnapshot(const std::string& path) {
+    if (!onboardingWindow_) return;
+    if (const auto png = onboardingWindow_->snapshot(onboardingSnapshotScale))
+        (void)platform_.files->write(*png, Url::file(path));
 }
 
 void AppDelegate::finishOnboarding() {

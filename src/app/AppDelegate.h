@@ -10,6 +10,7 @@
 #include "capture/CaptureWatcher.h"
 #include "panel/CapturePanelController.h"
 #include "platform/Platform.h"
+#include "platform/Window.h"
 #include "settings/Settings.h"
 #include "support/Subscription.h"
 
@@ -21,9 +22,17 @@ class AppDelegate : public std::enable_shared_from_this<AppDelegate> {
 public:
     static constexpr std::size_t maximumRecent = 20;
 
+    /// Makes what is seen.
+    struct Views {
+        CapturePanelController::PanelFactory makePanel;
+        /// They may be empty: then there are no settings to show, and nobody to be introduced.
+        std::function<std::unique_ptr<Window>(Settings& settings)> makeSettingsWindow;
+        std::function<std::unique_ptr<Window>(Settings& settings, std::function<void()> finish)>
+            makeOnboardingWindow;
+    };
+
     /// `platform` outlives the delegate.
-    static std::shared_ptr<AppDelegate> create(Platform& platform,
-                                               CapturePanelController::PanelFactory makePanel);
+    static std::shared_ptr<AppDelegate> create(Platform& platform, Views views);
 
     /// Hands over to a copy that runs already: has that one do `request`, or brings it forward when
     /// there is none, and terminates this one. False then: launching must not go on.
@@ -59,7 +68,7 @@ public:
     const std::vector<CapturePointer>& recent() const { return recent_; }
 
 private:
-    AppDelegate(Platform& platform, CapturePanelController::PanelFactory makePanel);
+    AppDelegate(Platform& platform, Views views);
 
     void connectApplication();
     void connectStatusBar();
@@ -68,6 +77,8 @@ private:
     void connectNotifications();
     void startWatching();
     void finishOnboarding();
+    void present(Window& window, Size contentSize);
+    void writeOnboardingSnapshot(const std::string& path);
     void captured(const CapturePointer& capture);
     void checkForUpdates();
 
@@ -92,6 +103,7 @@ private:
     Updater* updater();
 
     Platform& platform_;
+    Views views_;
     Settings settings_;
     std::shared_ptr<CaptureWatcher> watcher_;
     std::shared_ptr<CapturePanelController> panel_;

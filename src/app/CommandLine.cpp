@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "app/Version.h"
+#include "support/Version.h"
 #include "support/Url.h"
 
 namespace vantle {

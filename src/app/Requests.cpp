@@ -5,7 +5,7 @@
 #include <map>
 
 #include "app/AppDelegate.h"
-#include "app/Version.h"
+#include "support/Version.h"
 
 namespace vantle {
 

@@ -45,6 +45,7 @@ void MenuWindow::open(const Menu& menu, const QRect& anchor, Ended ended) {
     end(std::nullopt);
     ended_ = std::move(ended);
     model_.setMenu(menu);
+    model_.setCurrent(menu.current);
     place(anchor);
     show();
     raise();

@@ -35,6 +35,8 @@ struct MenuItem {
 struct Menu {
     std::string title;  ///< Not drawn; screen readers say it.
     std::vector<MenuItem> items;
+    /// The line at which the keyboard begins; -1 for none.
+    int current = -1;
 };
 
 }  // namespace vantle

@@ -27,7 +27,6 @@
 #include "platform/Updater.h"
 #include "platform/UserDefaults.h"
 #include "platform/WallClock.h"
-#include "platform/Window.h"
 #include "support/Environment.h"
 #include "support/NotificationCenter.h"
 
@@ -64,9 +63,6 @@ struct Platform {
 
     /// Empty on a surrounding that has none.
     std::function<std::unique_ptr<Updater>()> makeUpdater;
-    std::function<std::unique_ptr<Window>(Size contentSize)> makeSettingsWindow;
-    std::function<std::unique_ptr<Window>(Size contentSize, std::function<void()> finish)>
-        makeOnboardingWindow;
 };
 
 }  // namespace vantle

@@ -100,6 +100,15 @@ void Settings::setLaunchAtLogin(bool enabled) {
     launchAtLogin.set(isEnabled(loginItem_));
 }
 
+void Settings::readSystem() {
+    const auto update = [](auto& mirror, const auto& real) {
+        if (mirror.value() != real) mirror.set(real);
+    };
+    update(screenshotFolder, screenshotPrefs_.location());
+    update(hideSystemThumbnail, !screenshotPrefs_.showsThumbnail());
+    update(launchAtLogin, isEnabled(loginItem_));
+}
+
 void Settings::applyRecommendedDefaults() {
     dismissAfter.set(0.0);
     removeAfterUse.set(true);

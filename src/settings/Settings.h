@@ -13,9 +13,9 @@ namespace vantle {
 /// The one observable model of the user's preferences. Main thread only; one for the process.
 ///
 /// Nine properties are stored under keys of their own names: setting one announces the new value,
-/// stores it here, then in the user defaults. Three mirror the system; they are read once at
-/// creation, and the operations below change the system first. Setting a mirror directly changes
-/// only this model.
+/// stores it here, then in the user defaults. Three mirror the system; they are read at creation
+/// and by readSystem(), and the operations below change the system first. Setting a mirror directly
+/// changes only this model.
 class Settings {
 public:
     Settings(UserDefaults& defaults, SystemScreenshotPrefs screenshotPrefs, LoginItem& loginItem,
@@ -47,6 +47,9 @@ public:
     /// Regular when `showInDock`, else accessory; does not touch the setting.
     static void applyActivationPolicy(Application& application, bool showInDock);
 
+    /// Where the system saves screenshots by itself.
+    Url defaultScreenshotFolder() const { return screenshotPrefs_.defaultLocation(); }
+
     /// Changes where the system saves screenshots, then shows what the system really uses.
     void setScreenshotFolder(const Url& url);
 
@@ -56,6 +59,9 @@ public:
     void setLaunchAtLogin(bool enabled);
 
     void applyRecommendedDefaults();
+
+    /// Reads the three mirrors of the system once more. What has not changed is not announced.
+    void readSystem();
 
 private:
     void storeChanges();

@@ -161,6 +161,64 @@ TEST_F(AppDelegateTest, ShowingSettingsTwiceMakesOneWindow) {
     EXPECT_THAT(events, ElementsAre("settings made", "settings to front", "settings to front"));
 }
 
+TEST_F(AppDelegateTest, WindowsFollowAScreenThatBecameSmaller) {
+    offerWindows();
+    launch();
+    screens->mainScreen = Screen{{{0, 0}, {1920, 1080}}, {{0, 0}, {1920, 1050}}};
+    delegate->showSettings();
+    screens->mainScreen = Screen{{{0, 0}, {1366, 768}}, {{0, 0}, {1366, 740}}};
+    delegate->showSettings();
+    EXPECT_THAT(windowSizes, ElementsAre(Size{480, 860}, Size{480, 680}));
+}
+
+TEST_F(AppDelegateTest, ShowingSettingsShowsWhatChangedOutside) {
+    offerWindows();
+    launch();
+    delegate->showSettings();
+    (void)files->createDirectory(Url::file("/elsewhere"));
+    domain->values["location"] = std::string("/elsewhere");
+    domain->values["show-thumbnail"] = false;
+    loginItem->current = LoginItem::Status::enabled;
+    EXPECT_EQ(delegate->settings().screenshotFolder.value(), folder);
+    delegate->showSettings();
+    EXPECT_EQ(delegate->settings().screenshotFolder.value(), Url::file("/elsewhere"));
+    EXPECT_TRUE(delegate->settings().hideSystemThumbnail.value());
+    EXPECT_TRUE(delegate->settings().launchAtLogin.value());
+}
+
+TEST_F(AppDelegateTest, OnboardingIsClosedAndShownAgainAsOneWindow) {
+    offerWindows();
+    defaults->stored["hasCompletedOnboarding"] = false;
+    launch();
+    delegate->showOnboarding();
+    EXPECT_THAT(events, ElementsAre("updater made", "onboarding made", "onboarding to front",
+                                    "onboarding to front"));
+    EXPECT_FALSE(delegate->watcher().isWatching());
+}
+
+TEST_F(AppDelegateTest, ASnapshotOfTheOnboardingIsWrittenAfterASecond) {
+    offerWindows();
+    environment["VANTLE_SNAPSHOT_ONBOARDING"] = "/tmp/onboarding.png";
+    defaults->stored["hasCompletedOnboarding"] = false;
+    launch();
+    delegate->showOnboarding();
+    const Url picture = Url::file("/tmp/onboarding.png");
+    time.advance(Seconds(0.9));
+    EXPECT_EQ(files->contents(picture), "");
+    time.advance(Seconds(0.2));
+    EXPECT_EQ(files->contents(picture), "onboarding at 2");
+}
+
+TEST_F(AppDelegateTest, WithoutTheWindowThereIsNoSnapshot) {
+    offerWindows();
+    environment["VANTLE_SNAPSHOT_ONBOARDING"] = "/tmp/onboarding.png";
+    defaults->stored["hasCompletedOnboarding"] = false;
+    launch();
+    finishOnboarding();
+    time.advance(Seconds(2));
+    EXPECT_EQ(files->contents(Url::file("/tmp/onboarding.png")), "");
+}
+
 TEST_F(AppDelegateTest, WindowsFitTheVisibleFrameWithAMargin) {
     make();
     screens->screens = {{{{0, 0}, {1440, 900}}, {{0, 0}, {1440, 875}}}};

@@ -52,14 +52,20 @@ private:
 
 class RecordingWindow final : public Window {
 public:
-    RecordingWindow(Events& events, std::string name) : events_(events), name_(std::move(name)) {
+    RecordingWindow(Events& events, std::vector<Size>& sizes, std::string name)
+        : events_(events), sizes_(sizes), name_(std::move(name)) {
         events_.push_back(name_ + " made");
     }
     void makeKeyAndOrderFront() override { events_.push_back(name_ + " to front"); }
     void close() override { events_.push_back(name_ + " closed"); }
+    void setContentSize(Size size) override { sizes_.push_back(size); }
+    std::optional<std::string> snapshot(double scale) override {
+        return name_ + " at " + std::to_string(static_cast<int>(scale));
+    }
 
 private:
     Events& events_;
+    std::vector<Size>& sizes_;
     std::string name_;
 };
 
@@ -90,7 +96,7 @@ protected:
         domain =
             add(platform.screenshotPreferences, std::make_unique<fakes::FakePreferencesDomain>());
         add(platform.launcher, std::make_unique<fakes::FakeProcessLauncher>());
-        add(platform.loginItem, std::make_unique<fakes::FakeLoginItem>());
+        loginItem = add(platform.loginItem, std::make_unique<fakes::FakeLoginItem>());
         screens = add(platform.screens, std::make_unique<fakes::FakeScreens>());
         application = add(platform.application, std::make_unique<fakes::FakeApplication>());
         opener = add(platform.opener, std::make_unique<fakes::FakeFileOpener>());
@@ -122,10 +128,11 @@ protected:
 
     AppDelegate& make() {
         pasteboard->onWrite = [this] { events.push_back("copy " + pasteboard->contents().back()); };
-        delegate = AppDelegate::create(platform, [this](PanelState&, Settings&, CardActions) {
+        views.makePanel = [this](PanelState&, Settings&, CardActions) {
             events.push_back("panel made");
             return std::make_unique<fakes::FakePanelWindow>(panel);
-        });
+        };
+        delegate = AppDelegate::create(platform, views);
         return *delegate;
     }
 
@@ -149,14 +156,13 @@ protected:
     }
 
     void offerWindows() {
-        platform.makeSettingsWindow = [this](Size size) {
-            windowSizes.push_back(size);
-            return std::make_unique<RecordingWindow>(events, "settings");
+        const auto make = [this](const char* name) {
+            return std::make_unique<RecordingWindow>(events, windowSizes, name);
         };
-        platform.makeOnboardingWindow = [this](Size size, std::function<void()> finish) {
-            windowSizes.push_back(size);
+        views.makeSettingsWindow = [make](Settings&) { return make("settings"); };
+        views.makeOnboardingWindow = [this, make](Settings&, std::function<void()> finish) {
             finishOnboarding = std::move(finish);
-            return std::make_unique<RecordingWindow>(events, "onboarding");
+            return make("onboarding");
         };
     }
 
@@ -165,10 +171,12 @@ protected:
     std::map<std::string, std::string> environment;
     fakes::FakePanelWindow::Record panel;
     Platform platform;
+    AppDelegate::Views views;
     fakes::VirtualClock* clock = nullptr;
     fakes::FakeFileSystem* files = nullptr;
     fakes::FakeUserDefaults* defaults = nullptr;
     fakes::FakePreferencesDomain* domain = nullptr;
+    fakes::FakeLoginItem* loginItem = nullptr;
     fakes::FakeScreens* screens = nullptr;
     fakes::FakePasteboard* pasteboard = nullptr;
     fakes::FakeApplication* application = nullptr;

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "app/CommandLine.h"
-#include "app/Version.h"
+#include "support/Version.h"
 #include "support/Gradient.h"
 
 namespace vantle {

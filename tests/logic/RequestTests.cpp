@@ -1,5 +1,5 @@
 #include "AppFixture.h"
-#include "app/Version.h"
+#include "support/Version.h"
 
 namespace vantle {
 namespace {

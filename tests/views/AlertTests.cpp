@@ -7,7 +7,7 @@
 #include <QTimer>
 
 #include "fakes/FakeAlerts.h"
-#include "screens/AlertWindow.h"
+#include "screens/views/AlertWindow.h"
 
 namespace vantle {
 namespace {
@@ -39,7 +39,7 @@ struct ShownAlerts {
 
     static QQuickItem* find(const QQuickItem& item, const QString& title) {
         for (QQuickItem* child : item.childItems()) {
-            if (child->property("title").toString() == title) return child;
+            if (child->property("text").toString() == title) return child;
             if (QQuickItem* found = find(*child, title)) return found;
         }
         return nullptr;

@@ -12,6 +12,7 @@
 #include <functional>
 
 #include "Scenes.h"
+#include "ScreenStage.h"
 #include "app/StatusBarController.h"
 #include "fakes/FakeApplication.h"
 #include "fakes/FakeFileOpener.h"
@@ -21,7 +22,7 @@
 #include "panel/views/Appearance.h"
 #include "panel/views/dragging/DragPile.h"
 #include "platform/qt/Pixels.h"
-#include "screens/AlertWindow.h"
+#include "screens/views/AlertWindow.h"
 
 namespace vantle {
 namespace {
@@ -91,6 +92,20 @@ const Alert information{Alert::Style::informational,
                         "/a/path/without/any/space/that/is/longer/than/the/line/has/room/for/it.",
                         {"OK"}};
 
+QImage drawnSettings() {
+    ScreenStage stage;
+    stage.settings->dismissAfter.set(25);
+    stage.settings->setScreenshotFolder(Url::file("/home/user/Pictures/Screenshots"));
+    stage.openSettings();
+    return stage.picture();
+}
+
+QImage drawnOnboarding(int step) {
+    ScreenStage stage;
+    stage.openOnboarding(step);
+    return stage.picture();
+}
+
 QImage drawnPile(DragPile::Edges edges) {
     std::vector<DraggingItem> items;
     for (int i = 0; i < 7; ++i) {
@@ -114,6 +129,10 @@ std::vector<Subject> subjects() {
     all.push_back({"status-menu", drawnStatusMenu});
     all.push_back({"alert-warning", [] { return drawnAlert(warning); }});
     all.push_back({"alert-information", [] { return drawnAlert(information); }});
+    all.push_back({"settings", drawnSettings});
+    for (int step = 0; step < OnboardingSteps::stepCount; ++step)
+        all.push_back(
+            {"onboarding-" + std::to_string(step), [step] { return drawnOnboarding(step); }});
     all.push_back({"pile", [] { return drawnPile(DragPile::Edges::soft); }});
     all.push_back({"pile-opaque", [] { return drawnPile(DragPile::Edges::opaque); }});
     return all;

@@ -9,7 +9,9 @@ int main(int argc, char** argv) {
     qputenv("QT_QUICK_BACKEND", "software");
     const QGuiApplication application(argc, argv);
     // The same letters on every machine, for the pictures that are compared.
-    QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
+    QFont font(QStringLiteral("Inter"));
+    font.setPixelSize(13);
+    QGuiApplication::setFont(font);
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
 }

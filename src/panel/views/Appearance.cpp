@@ -4,6 +4,7 @@
 #include <QFontInfo>
 #include <QGuiApplication>
 #include <QPalette>
+#include <algorithm>
 
 #include "platform/qt/QtColor.h"
 
@@ -48,8 +49,16 @@ double Appearance::fontPoints(double pixels) {
     return pixels * pointsInAnInch / QFontInfo(oneInch).pixelSize();
 }
 
+double Appearance::textScale() const {
+    constexpr double ownPixels = 13;
+    constexpr double largest = 3;
+    return std::clamp(QFontInfo(QGuiApplication::font()).pixelSize() / ownPixels, 1.0, largest);
+}
+
 bool Appearance::eventFilter(QObject* object, QEvent* event) {
-    if (object == qGuiApp && event->type() == QEvent::ApplicationPaletteChange) emit changed();
+    const bool isChange = event->type() == QEvent::ApplicationPaletteChange ||
+                          event->type() == QEvent::ApplicationFontChange;
+    if (object == qGuiApp && isChange) emit changed();
     return QObject::eventFilter(object, event);
 }
 

@@ -26,6 +26,8 @@ class Appearance : public QObject {
     Q_PROPERTY(QColor popoverMaterial READ popoverMaterial NOTIFY changed)
     /// The same over a blur, which makes text legible by itself.
     Q_PROPERTY(QColor glassMaterial READ glassMaterial NOTIFY changed)
+    /// How much larger than ours the letters of the desktop are: 1 or more.
+    Q_PROPERTY(double textScale READ textScale NOTIFY changed)
     /// Whether the user wants things to fade rather than to fly.
     Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY changed)
 
@@ -42,6 +44,7 @@ public:
     QColor windowBackground() const;
     QColor popoverMaterial() const;
     QColor glassMaterial() const;
+    double textScale() const;
     bool reducesMotion() const { return look_.reducesMotion; }
 
     /// What a font is to be told so that it is so many pixels large: fonts know whole pixels, or

@@ -40,6 +40,8 @@ ViewWindow::ViewWindow() {
 void ViewWindow::load(const QString& file, const QVariantMap& properties) {
     setInitialProperties(properties);
     setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/") + file));
+    // Part of the program, or of what has to be installed with it.
+    if (!rootObject()) qFatal("cannot show %s", qUtf8Printable(file));
 }
 
 void ViewWindow::unload() {

@@ -1,4 +1,4 @@
-#include "screens/AlertWindow.h"
+#include "screens/views/AlertWindow.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>

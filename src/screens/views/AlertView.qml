@@ -42,7 +42,7 @@ Rectangle {
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
             color: Appearance.primary
-            font.pointSize: Appearance.fontPoints(15)
+            font.pointSize: Style.points(15)
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }
@@ -55,7 +55,7 @@ Rectangle {
             wrapMode: Text.Wrap
             lineHeight: 1.15
             color: Appearance.secondary
-            font.pointSize: Appearance.fontPoints(13)
+            font.pointSize: Style.body
             Accessible.ignored: true
         }
     }
@@ -79,10 +79,10 @@ Rectangle {
                 required property int index
                 required property string modelData
 
-                title: modelData
+                text: modelData
                 isDefault: index === 0
                 focus: index === 0
-                onPressed: view.alert.answered(index) // qmllint disable unqualified
+                onClicked: view.alert.answered(index) // qmllint disable unqualified
             }
         }
     }

@@ -3,7 +3,7 @@
 #include <QEventLoop>
 
 #include "panel/views/ViewWindow.h"
-#include "screens/AlertModel.h"
+#include "screens/views/AlertModel.h"
 
 namespace vantle {
 

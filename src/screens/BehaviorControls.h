@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+#include "settings/Settings.h"
+
+namespace vantle {
+
+/// How long captures stay, as two controls: a toggle, and a slider for those that do not stay until
+/// they are dismissed. Main thread only.
+class BehaviorControls {
+public:
+    /// The slider's, in seconds.
+    static constexpr double shortest = 3;
+    static constexpr double longest = 120;
+    static constexpr double step = 1;
+
+    /// `settings` outlives it.
+    explicit BehaviorControls(Settings& settings);
+
+    /// It is about to be seen: the toggle shows what the settings say.
+    void appear();
+
+    bool neverDismiss() const { return neverDismiss_; }
+    /// Off restores the number of seconds that was there before, if there was one.
+    void setNeverDismiss(bool never);
+
+    /// Where the slider stands: inside its range, whatever the settings say.
+    double sliderValue() const;
+    /// What stands beside the slider.
+    std::string dismissAfterText() const;
+
+private:
+    void remember(double seconds);
+
+    Settings& settings_;
+    bool neverDismiss_ = false;
+    double lastPositive_;
+    Subscription subscription_;
+};
+
+}  // namespace vantle

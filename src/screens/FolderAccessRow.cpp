@@ -1,0 +1,58 @@
+#include "screens/FolderAccessRow.h"
+
+#include "support/Weakly.h"
+
+namespace vantle {
+namespace {
+
+constexpr auto whatIsAsked =
+    "macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.";
+
+}  // namespace
+
+std::shared_ptr<FolderAccessRow> FolderAccessRow::create(const Context& context) {
+    const std::shared_ptr<FolderAccessRow> row(new FolderAccessRow(context));
+    row->subscription_ = context.settings.screenshotFolder.observeChanges(
+        [&row = *row](const Url& folder) { row.check(folder); });
+    return row;
+}
+
+FolderAccessRow::Look FolderAccessRow::look(AccessState state) {
+    const Button grant{"Grant access", &FolderAccessRow::check};
+    switch (state) {
+        case AccessState::unknown:
+            return {"lock.circle", "Folder access", whatIsAsked, {grant}};
+        case AccessState::granted:
+            return {"checkmark.circle.fill",
+                    "Vantle can read this folder",
+                    whatIsAsked,
+                    {{"Check again", &FolderAccessRow::check}}};
+        case AccessState::denied:
+            return {"exclamationmark.triangle.fill",
+                    "macOS is blocking access to this folder",
+                    "Allow Vantle under Privacy & Security → Files and Folders, then check again.",
+                    {{"Open Privacy Settings", &FolderAccessRow::openPrivacySettings}, grant}};
+    }
+    return {};
+}
+
+void FolderAccessRow::check() {
+    check(context_.settings.screenshotFolder.value());
+}
+
+void FolderAccessRow::check(const Url& folder) {
+    const auto learn = weakly(shared_from_this(),
+                              [](auto& self, AccessState learnt) { self.state.set(learnt); });
+    context_.queue.async(
+        [&files = context_.files, &scheduler = context_.scheduler, folder, learn] {
+            const bool isReadable{files.contentsOfDirectory(folder)};
+            scheduler.async(
+                [learn, isReadable] { learn(isReadable ? AccessState::granted : AccessState::denied); });
+        });
+}
+
+void FolderAccessRow::openPrivacySettings() {
+    context_.privacySettings.open(context_.settings.screenshotFolder.value());
+}
+
+}  // namespace vantle

@@ -1,0 +1,44 @@
+#include "screens/FolderPicker.h"
+
+#include <utility>
+
+namespace vantle {
+
+std::string FolderPicker::displayName(const Url& folder) const {
+    const Url homeDirectory = context_.files.homeDirectory();
+    const std::string& home = homeDirectory.path();
+    const std::string& path = folder.path();
+    if (path == home) return "~";
+    if (home == "/" || !path.starts_with(home + '/')) return path;
+    return '~' + path.substr(home.size());
+}
+
+MenuItem FolderPicker::place(std::string title, const Url& folder) {
+    return {.title = std::move(title), .action = [&settings = context_.settings, folder] {
+                settings.setScreenshotFolder(folder);
+            }};
+}
+
+Menu FolderPicker::menu() {
+    const Url home = context_.files.homeDirectory();
+    return {.title = "Change",
+            .items = {place("Desktop (macOS default)", context_.settings.defaultScreenshotFolder()),
+                      place("~/Pictures/Screenshots", home.appending("Pictures/Screenshots")),
+                      place("~/Screenshots", home.appending("Screenshots")),
+                      {.kind = MenuItem::Kind::separator},
+                      {.title = "Choose…", .action = [this] { choose(); }}}};
+}
+
+void FolderPicker::choose() {
+    context_.application.activate();
+    const FolderRequest request{
+        .directory = context_.settings.screenshotFolder.value(),
+        .prompt = "Use This Folder",
+        .message = "Choose where macOS should save screenshots and screen recordings."};
+    context_.chooser.choose(
+        request, [&settings = context_.settings](const std::optional<Url>& folder) {
+            if (folder) settings.setScreenshotFolder(*folder);
+        });
+}
+
+}  // namespace vantle

@@ -1,0 +1,131 @@
+import QtQuick
+import Vantle.Screens
+
+// What happens to captures, and where the program is seen.
+Column {
+    id: controls
+
+    required property SettingsModel settings
+
+    width: parent ? parent.width : 0
+    spacing: 8
+
+    SectionLabel { text: qsTr("Captures") }
+
+    Group {
+        ToggleRow {
+            text: qsTr("Keep captures until dismissed (recommended)")
+            isOn: controls.settings.neverDismiss
+            onWanted: on => controls.settings.neverDismiss = on
+        }
+
+        Caption { text: qsTr("Pin a capture to keep it past the timer.") }
+
+        DismissSlider { settings: controls.settings }
+
+        Separator {}
+
+        Labels {
+            width: parent.width
+            title: qsTr("After I use a capture")
+            caption: qsTr("Using = dragging, opening, copying, sharing or revealing.")
+        }
+
+        SegmentedChoice {
+            name: qsTr("After I use a capture")
+            titles: [qsTr("Remove it from Vantle"), qsTr("Keep it in Vantle")]
+            current: controls.settings.removeAfterUse ? 0 : 1
+            onWanted: index => controls.settings.removeAfterUse = index === 0
+        }
+
+        Separator {}
+
+        ToggleRow {
+            text: qsTr("Move the file to the Trash after I use it")
+            caption: qsTr("After dragging or copying. Recoverable from the Trash.")
+            isOn: controls.settings.deleteAfterUse
+            onWanted: on => controls.settings.deleteAfterUse = on
+        }
+
+        Separator {}
+
+        ToggleRow {
+            text: qsTr("Also show screen recordings")
+            isOn: controls.settings.showRecordings
+            onWanted: on => controls.settings.showRecordings = on
+        }
+
+        Separator {}
+
+        ToggleRow {
+            text: qsTr("Copy screenshot to clipboard automatically")
+            isOn: controls.settings.copyOnCapture
+            onWanted: on => controls.settings.copyOnCapture = on
+        }
+    }
+
+    Item {
+        width: 1
+        height: 4
+    }
+
+    SectionLabel { text: qsTr("Panel & app") }
+
+    Group {
+        Item {
+            readonly property bool fits: name.implicitWidth + corner.implicitWidth + 12 <= width
+
+            width: parent.width
+            height: fits ? Math.max(name.height, corner.height) : name.height + corner.height + 4
+
+            Body {
+                id: name
+
+                width: Math.min(implicitWidth, parent.width)
+                anchors.left: parent.left
+                y: parent.fits ? (parent.height - height) / 2 : 0
+                text: qsTr("Show panel in")
+                Accessible.ignored: true
+            }
+
+            PopUpButton {
+                id: corner
+
+                width: Math.min(implicitWidth, parent.width)
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                text: controls.settings.corner
+                symbol: "chevron.up.chevron.down"
+                Accessible.name: qsTr("Show panel in")
+                Accessible.description: text
+                onClicked: controls.settings.openCornerMenu(corner)
+            }
+        }
+
+        Separator {}
+
+        ToggleRow {
+            text: qsTr("Hide the built-in macOS thumbnail")
+            caption: qsTr("Recommended. Captures reach Vantle instantly instead of after Apple's preview.")
+            isOn: controls.settings.hideSystemThumbnail
+            onWanted: on => controls.settings.hideSystemThumbnail = on
+        }
+
+        Separator {}
+
+        ToggleRow {
+            text: qsTr("Open Vantle at login")
+            isOn: controls.settings.launchAtLogin
+            onWanted: on => controls.settings.launchAtLogin = on
+        }
+
+        Separator {}
+
+        ToggleRow {
+            text: qsTr("Also show Vantle in the Dock")
+            caption: qsTr("Useful if the menu bar icon is hidden under the notch.")
+            isOn: controls.settings.showInDock
+            onWanted: on => controls.settings.showInDock = on
+        }
+    }
+}

@@ -1,0 +1,110 @@
+import QtQuick
+import QtQuick.Templates as T
+import Vantle.Cards
+import Vantle.Panel
+import Vantle.Screens
+
+// After how many seconds the card goes by itself.
+Column {
+    id: block
+
+    required property SettingsModel settings
+
+    width: parent ? parent.width : 0
+    spacing: 4
+    enabled: !settings.neverDismiss
+    opacity: settings.neverDismiss ? 0.45 : 1
+
+    Item {
+        width: parent.width
+        // Below each other where they need more room.
+        readonly property bool fits: name.implicitWidth + number.implicitWidth + 12 <= width
+
+        height: fits ? name.height : name.height + number.height
+
+        Body {
+            id: name
+
+            width: Math.min(implicitWidth, parent.width)
+            anchors.left: parent.left
+            text: qsTr("Otherwise dismiss after")
+        }
+
+        Body {
+            id: number
+
+            width: Math.min(implicitWidth, parent.width)
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            text: block.settings.dismissAfterText
+            color: Appearance.secondary
+        }
+    }
+
+    T.Slider {
+        id: slider
+
+        width: parent.width
+        implicitHeight: Math.round(24 * Style.scale)
+        from: block.settings.shortest
+        to: block.settings.longest
+        stepSize: block.settings.step
+        snapMode: T.Slider.SnapAlways
+        value: block.settings.dismissAfter
+
+        Accessible.name: qsTr("Otherwise dismiss after")
+        Accessible.description: block.settings.dismissAfterText
+
+        // Also what an assistive program sets.
+        onValueChanged: {
+            if (enabled && value !== block.settings.dismissAfter)
+                block.settings.dismissAfter = Math.round(value);
+        }
+        Keys.onPressed: event => {
+            const large = event.key === Qt.Key_PageUp ? 10 : event.key === Qt.Key_PageDown ? -10 : 0;
+            if (event.key === Qt.Key_Home)
+                value = from;
+            else if (event.key === Qt.Key_End)
+                value = to;
+            else if (large !== 0)
+                value = Math.min(to, Math.max(from, value + large));
+            else
+                return;
+            event.accepted = true;
+        }
+
+        background: Rectangle {
+            x: slider.leftPadding
+            anchors.verticalCenter: parent.verticalCenter
+            width: slider.availableWidth
+            height: 4
+            radius: 2
+            color: Style.faint(0.16)
+
+            Rectangle {
+                x: slider.mirrored ? parent.width - width : 0
+                width: slider.position * parent.width
+                height: parent.height
+                radius: parent.radius
+                color: Appearance.accent
+            }
+        }
+
+        handle: Rectangle {
+            x: slider.leftPadding + slider.visualPosition * (slider.availableWidth - width)
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.round(18 * Style.scale)
+            height: width
+            radius: width / 2
+            color: slider.pressed ? "#e8e8ea" : "white"
+            border.width: 1
+            border.color: Qt.rgba(0, 0, 0, 0.18)
+
+            FocusRing {
+                anchors.margins: -3
+                cornerRadius: (parent.width + 6) / 2
+                isShown: slider.visualFocus
+            }
+        }
+    }
+}

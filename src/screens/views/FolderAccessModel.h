@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <QObject>
+#include <QStringList>
+#include <memory>
+
+#include "screens/FolderAccessRow.h"
+
+namespace vantle {
+
+/// Whether the folder may be read, for the row that says so.
+class FolderAccessModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the window")
+
+    Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
+    Q_PROPERTY(QString title READ title NOTIFY changed)
+    Q_PROPERTY(QString caption READ caption NOTIFY changed)
+    Q_PROPERTY(QStringList buttons READ buttons NOTIFY changed)
+    Q_PROPERTY(bool isGranted READ isGranted NOTIFY changed)
+    Q_PROPERTY(bool isDenied READ isDenied NOTIFY changed)
+
+public:
+    explicit FolderAccessModel(const FolderAccessRow::Context& context)
+        : row_(FolderAccessRow::create(context)),
+          subscription_(row_->state.observeChanges([this](AccessState state) {
+              state_ = state;
+              emit changed();
+          })) {}
+
+    QString symbol() const { return QString::fromStdString(look().symbol); }
+    QString title() const { return QString::fromStdString(look().title); }
+    QString caption() const { return QString::fromStdString(look().caption); }
+    QStringList buttons() const {
+        QStringList titles;
+        for (const auto& button : look().buttons) titles << QString::fromStdString(button.title);
+        return titles;
+    }
+    bool isGranted() const { return state_ == AccessState::granted; }
+    bool isDenied() const { return state_ == AccessState::denied; }
+
+    Q_INVOKABLE void check() { row_->check(); }
+    /// The button of that number, from 0.
+    Q_INVOKABLE void press(int button) {
+        const auto& buttons = look().buttons;
+        (row_.get()->*buttons.at(static_cast<std::size_t>(button)).action)();
+    }
+
+signals:
+    void changed();
+
+private:
+    FolderAccessRow::Look look() const { return FolderAccessRow::look(state_); }
+
+    std::shared_ptr<FolderAccessRow> row_;
+    /// A change is announced before it is stored.
+    AccessState state_ = AccessState::unknown;
+    Subscription subscription_;
+};
+
+}  // namespace vantle

@@ -1,0 +1,55 @@
+import QtQuick
+import Vantle.Cards
+import Vantle.Panel
+import Vantle.Screens
+
+// The folder into which captures are saved, and a menu to change it.
+Group {
+    id: picker
+
+    required property SettingsModel settings
+
+    Item {
+        width: parent.width
+        height: Math.max(change.height, folder.height)
+
+        Symbol {
+            id: symbol
+
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            name: "folder.fill"
+            color: Appearance.accent
+            fontSize: 15 * Style.scale
+        }
+
+        Text {
+            id: folder
+
+            anchors.left: symbol.right
+            anchors.leftMargin: 10
+            anchors.right: change.left
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            text: picker.settings.folder
+            textFormat: Text.PlainText
+            // The disk and the folder say more than what is between them.
+            elide: Text.ElideMiddle
+            horizontalAlignment: Text.AlignLeft
+            color: Appearance.primary
+            font.pointSize: Style.body
+
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+
+        PopUpButton {
+            id: change
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("Change")
+            onClicked: picker.settings.openFolderMenu(change)
+        }
+    }
+}

@@ -1,0 +1,28 @@
+import QtQuick
+
+// What a row is about, with its caption, in the middle of the row's height.
+Item {
+    id: labels
+
+    property alias title: title.text
+    property alias weight: title.font.weight
+    property string caption
+
+    implicitWidth: title.implicitWidth
+    implicitHeight: texts.implicitHeight
+
+    Column {
+        id: texts
+
+        anchors.verticalCenter: parent.verticalCenter
+        width: parent.width
+        spacing: 2
+
+        Body { id: title }
+
+        Caption {
+            visible: text !== ""
+            text: labels.caption
+        }
+    }
+}

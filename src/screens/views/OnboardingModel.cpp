@@ -1,0 +1,57 @@
+#include "screens/views/OnboardingModel.h"
+
+#include <utility>
+
+#include "screens/OnboardingSummary.h"
+
+namespace vantle {
+namespace {
+
+/// `finish` called later and only once, however often the button is pressed.
+std::function<void()> onTheEventLoop(Scheduler& scheduler, std::function<void()> finish) {
+    return [&scheduler, finish = std::move(finish), hasFinished = false]() mutable {
+        if (!std::exchange(hasFinished, true)) scheduler.async(finish);
+    };
+}
+
+}  // namespace
+
+OnboardingModel::OnboardingModel(Settings& settings, Platform& platform,
+                                 std::function<void()> finish)
+    : settings_(settings),
+      model_(settings, platform),
+      access_({settings, *platform.files, *platform.watcherQueue, *platform.scheduler,
+               *platform.privacySettings}),
+      steps_(settings, onTheEventLoop(*platform.scheduler, std::move(finish)),
+             OnboardingSteps::initialStep(platform.environment)) {
+    connect(&model_, &SettingsModel::changed, this, &OnboardingModel::summaryChanged);
+}
+
+void OnboardingModel::appear() {
+    steps_.appear();
+    model_.appear();
+}
+
+QString OnboardingModel::outlook() const {
+    return QString::fromStdString(onboardingOutlook(settings_));
+}
+
+QVariantList OnboardingModel::summary() const {
+    QVariantList rows;
+    for (const SummaryRow& row : onboardingSummary(settings_))
+        rows << QVariantMap{{QStringLiteral("symbol"), QString::fromStdString(row.symbol)},
+                            {QStringLiteral("text"), QString::fromStdString(row.text)}};
+    return rows;
+}
+
+void OnboardingModel::forward() {
+    steps_.forward();
+    emit stepChanged();
+}
+
+void OnboardingModel::back() {
+    steps_.back();
+    emit stepChanged();
+}
+
+}  // namespace vantle

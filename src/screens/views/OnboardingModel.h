@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <QObject>
+#include <QVariantList>
+
+#include "screens/OnboardingSteps.h"
+#include "screens/views/FolderAccessModel.h"
+#include "screens/views/SettingsModel.h"
+
+namespace vantle {
+
+/// The onboarding for its view.
+class OnboardingModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the window")
+
+    Q_PROPERTY(vantle::SettingsModel* settings READ settings CONSTANT)
+    Q_PROPERTY(vantle::FolderAccessModel* access READ access CONSTANT)
+    Q_PROPERTY(int stepCount READ stepCount CONSTANT)
+    Q_PROPERTY(int step READ step NOTIFY stepChanged)
+    Q_PROPERTY(QString forwardTitle READ forwardTitle NOTIFY stepChanged)
+    Q_PROPERTY(bool offersBack READ offersBack NOTIFY stepChanged)
+    /// What comes next, and a "symbol" and a "text" for each thing that was chosen.
+    Q_PROPERTY(QString outlook READ outlook NOTIFY summaryChanged)
+    Q_PROPERTY(QVariantList summary READ summary NOTIFY summaryChanged)
+
+public:
+    /// `settings` and `platform` outlive it. `finish` is called on the event loop: it may take the
+    /// view away.
+    OnboardingModel(Settings& settings, Platform& platform, std::function<void()> finish);
+
+    void appear();
+
+    SettingsModel* settings() { return &model_; }
+    FolderAccessModel* access() { return &access_; }
+    int stepCount() const { return OnboardingSteps::stepCount; }
+    int step() const { return steps_.step(); }
+    QString forwardTitle() const { return QString::fromStdString(steps_.forwardTitle()); }
+    bool offersBack() const { return steps_.offersBack(); }
+    QString outlook() const;
+    QVariantList summary() const;
+
+    Q_INVOKABLE void forward();
+    Q_INVOKABLE void back();
+
+signals:
+    void stepChanged();
+    void summaryChanged();
+
+private:
+    Settings& settings_;
+    SettingsModel model_;
+    FolderAccessModel access_;
+    OnboardingSteps steps_;
+};
+
+}  // namespace vantle

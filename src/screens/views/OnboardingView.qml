@@ -1,0 +1,142 @@
+import QtQuick
+import Vantle.Panel
+import Vantle.Screens
+
+// The first meeting: three steps, with the way through them below.
+Rectangle {
+    id: view
+
+    required property OnboardingModel onboarding
+    property int shownStep: onboarding.step
+    // Which way the content comes from: 1 the next one, -1 the one before.
+    property int direction: 1
+
+    implicitWidth: 600
+    color: Appearance.windowBackground
+
+    LayoutMirroring.enabled: Style.isMirrored
+    LayoutMirroring.childrenInherit: true
+
+    Keys.onReturnPressed: onboarding.forward()
+    Keys.onEnterPressed: onboarding.forward()
+
+    onShownStepChanged: {
+        const before = content.step;
+        if (shownStep === before) return;
+        direction = (shownStep > before ? 1 : -1) * (Style.isMirrored ? -1 : 1);
+        content.step = shownStep;
+        area.contentY = 0;
+        arrival.jumpTo(0);
+        arrival.target = 1;
+        forward.forceActiveFocus();
+    }
+
+    // The desktop moves the window by its background, too.
+    DragHandler {
+        target: null
+        grabPermissions: PointerHandler.TakeOverForbidden
+        onActiveChanged: if (active) view.Window.window.startSystemMove()
+    }
+
+    Spring {
+        id: arrival
+
+        target: 1
+        response: 0.45
+        dampingFraction: 0.85
+    }
+
+    ScrollArea {
+        id: area
+
+        width: parent.width
+        height: bar.y
+
+        Loader {
+            id: content
+
+            property int step: view.shownStep
+
+            x: Appearance.reducesMotion ? 0 : (1 - arrival.value) * 60 * view.direction
+            width: area.width
+            opacity: Math.min(1, Math.max(0, arrival.value))
+            sourceComponent: [welcome, settings, done][step]
+        }
+    }
+
+    // Components cannot be bound (Qt 6.4), so the ids around them are meant.
+    Component {
+        id: welcome
+
+        WelcomeStep { room: area.height } // qmllint disable unqualified
+    }
+
+    Component {
+        id: settings
+
+        SettingsStep {
+            room: area.height // qmllint disable unqualified
+            onboarding: view.onboarding // qmllint disable unqualified
+        }
+    }
+
+    Component {
+        id: done
+
+        DoneStep {
+            room: area.height // qmllint disable unqualified
+            onboarding: view.onboarding // qmllint disable unqualified
+        }
+    }
+
+    Item {
+        id: bar
+
+        readonly property real margin: 20
+
+        y: parent.height - height
+        width: parent.width
+        height: forward.height + 2 * margin
+
+        Separator {
+            visible: area.contentHeight > area.height
+        }
+
+        PushButton {
+            id: back
+
+            anchors.left: parent.left
+            anchors.leftMargin: bar.margin
+            anchors.verticalCenter: parent.verticalCenter
+            visible: view.onboarding.offersBack
+            text: qsTr("Back")
+            onClicked: view.onboarding.back()
+        }
+
+        PageDots {
+            // In the middle, unless large letters need that room.
+            readonly property Item before: Style.isMirrored ? forward : back
+            readonly property Item after: Style.isMirrored ? back : forward
+            readonly property real least: before.visible ? before.x + before.width + 12 : 12
+            readonly property real most: (after.visible ? after.x : bar.width) - 12 - width
+
+            x: Math.max(least, Math.min(most, (bar.width - width) / 2))
+            visible: least <= most
+            anchors.verticalCenter: parent.verticalCenter
+            count: view.onboarding.stepCount
+            current: view.onboarding.step
+        }
+
+        PushButton {
+            id: forward
+
+            anchors.right: parent.right
+            anchors.rightMargin: bar.margin
+            anchors.verticalCenter: parent.verticalCenter
+            text: view.onboarding.forwardTitle
+            isDefault: true
+            focus: true
+            onClicked: view.onboarding.forward()
+        }
+    }
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "screens/views/OnboardingModel.h"
+#include "screens/views/ScreenWindow.h"
+
+namespace vantle {
+
+class OnboardingWindow final : public ScreenWindow {
+public:
+    /// `settings` and `platform` outlive it; `finish` may destroy it.
+    OnboardingWindow(Settings& settings, Platform& platform, std::function<void()> finish);
+    ~OnboardingWindow() override;
+
+protected:
+    void appear() override { model_.appear(); }
+
+private:
+    OnboardingModel model_;
+};
+
+}  // namespace vantle

@@ -1,0 +1,105 @@
+#include "screens/views/ScreenWindow.h"
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QKeyEvent>
+#include <QQmlComponent>
+#include <QQmlExtensionPlugin>
+#include <QQuickItem>
+#include <QQuickRenderControl>
+#include <QQuickRenderTarget>
+#include <QScreen>
+#include <memory>
+
+Q_IMPORT_QML_PLUGIN(Vantle_ScreensPlugin)
+
+namespace vantle {
+namespace {
+
+/// Draws an item as large as it is without a window on the screen. Only the software renderer
+/// draws into memory; null with another one.
+QImage drawnOffscreen(QQuickItem& item, double scale) {
+    QQuickRenderControl control;
+    QQuickWindow window(&control);
+    if (window.rendererInterface()->graphicsApi() != QSGRendererInterface::Software) return {};
+    QImage picture((item.size() * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    auto target = QQuickRenderTarget::fromPaintDevice(&picture);
+    target.setDevicePixelRatio(scale);
+    window.setRenderTarget(target);
+    window.setGeometry(QRect(QPoint(), item.size().toSize()));
+    window.setColor(Qt::transparent);
+    item.setParentItem(window.contentItem());
+    control.polishItems();
+    control.sync();
+    control.render();
+    item.setParentItem(nullptr);
+    return picture;
+}
+
+}  // namespace
+
+ScreenWindow::ScreenWindow(const QString& title) {
+    setFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+             Qt::WindowCloseButtonHint);
+    setTitle(title);
+    setResizeMode(QQuickView::SizeRootObjectToView);
+}
+
+void ScreenWindow::load(const char* view, const char* name, QObject* model) {
+    properties_ = {{QString::fromLatin1(name), QVariant::fromValue(model)}};
+    ViewWindow::load(QStringLiteral("Screens/%1.qml").arg(QLatin1String(view)), properties_);
+}
+
+void ScreenWindow::setContentSize(Size size) {
+    const QSize points = QSizeF(size.width, size.height).toSize();
+    if (points == minimumSize() && points == maximumSize()) return;
+    setMinimumSize(points);
+    setMaximumSize(points);
+    resize(points);
+}
+
+void ScreenWindow::centre() {
+    if (!screen()) return;
+    QRect place(QPoint(), size());
+    place.moveCenter(screen()->availableGeometry().center());
+    setPosition(place.topLeft());
+}
+
+void ScreenWindow::makeKeyAndOrderFront() {
+    if (!isVisible()) {
+        appear();
+        centre();
+    }
+    show();
+    raise();
+    requestActivate();
+}
+
+std::optional<std::string> ScreenWindow::snapshot(double scale) {
+    QQmlComponent component(engine(), source());
+    const std::unique_ptr<QObject> made(
+        component.createWithInitialProperties(properties_));
+    auto* item = qobject_cast<QQuickItem*>(made.get());
+    if (!item) return std::nullopt;
+    item->setSize(size());
+    QByteArray png;
+    QBuffer buffer(&png);
+    if (!drawnOffscreen(*item, scale).save(&buffer, "PNG")) return std::nullopt;
+    return png.toStdString();
+}
+
+bool ScreenWindow::event(QEvent* event) {
+    // The view goes first: in it Escape may belong to something that is open.
+    const bool wasHandled = ViewWindow::event(event);
+    if (event->type() == QEvent::KeyPress && !event->isAccepted() &&
+        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Close)) {
+        close();
+        return true;
+    }
+    return wasHandled;
+}
+
+}  // namespace vantle

@@ -1,0 +1,63 @@
+import QtQuick
+import QtQuick.Templates as T
+import Vantle.Panel
+
+// Content that scrolls when it is higher than the room for it. What has the keyboard is seen.
+Flickable {
+    id: area
+
+    default property alias content: holder.data
+    readonly property Item focused: Window.activeFocusItem
+
+    contentWidth: width
+    contentHeight: Math.max(height, holder.childrenRect.height)
+    boundsBehavior: Flickable.StopAtBounds
+    flickableDirection: Flickable.VerticalFlick
+    clip: true
+
+    onFocusedChanged: if (focused) reveal(focused)
+
+    // Scrolls no further than it has to.
+    function reveal(item) {
+        if (!isInside(item)) return;
+        const margin = 12;
+        const top = item.mapToItem(holder, 0, 0).y - margin;
+        const bottom = top + item.height + 2 * margin;
+        if (top < contentY)
+            contentY = Math.max(0, top);
+        else if (bottom > contentY + height)
+            contentY = Math.min(contentHeight - height, bottom - height);
+    }
+
+    function isInside(item) {
+        for (let above = item.parent; above; above = above.parent)
+            if (above === holder)
+                return true;
+        return false;
+    }
+
+    Item {
+        id: holder
+
+        width: area.width
+        height: area.contentHeight
+    }
+
+    T.ScrollBar.vertical: T.ScrollBar {
+        id: bar
+
+        implicitWidth: 10
+        padding: 2
+        minimumSize: 0.1
+        visible: size < 1
+
+        contentItem: Rectangle {
+            implicitWidth: 6
+            radius: 3
+            color: Style.ink
+            opacity: bar.pressed ? 0.5 : bar.hovered || bar.active ? 0.35 : 0.2
+
+            Behavior on opacity { NumberAnimation { duration: 120 } }
+        }
+    }
+}

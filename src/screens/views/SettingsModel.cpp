@@ -1,0 +1,137 @@
+#include "screens/views/SettingsModel.h"
+
+#include "support/Version.h"
+
+namespace vantle {
+namespace {
+
+QString text(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QRect onScreen(const QQuickItem& item) {
+    return QRectF(item.mapToGlobal(QPointF()), item.size()).toAlignedRect();
+}
+
+}  // namespace
+
+SettingsModel::SettingsModel(Settings& settings, Platform& platform)
+    : settings_(settings),
+      notifications_(platform.notifications),
+      picker_({settings, *platform.files, *platform.folderChooser, *platform.application}),
+      controls_(settings) {
+    follow();
+}
+
+void SettingsModel::follow() {
+    // A change is announced before it is stored.
+    const auto later = [this](const auto&) {
+        QMetaObject::invokeMethod(this, &SettingsModel::changed, Qt::QueuedConnection);
+    };
+    subscriptions_.push_back(settings_.dismissAfter.observeChanges(later));
+    subscriptions_.push_back(settings_.corner.observeChanges(later));
+    subscriptions_.push_back(settings_.screenshotFolder.observeChanges(later));
+    for (auto* property :
+         {&settings_.removeAfterUse, &settings_.deleteAfterUse, &settings_.showRecordings,
+          &settings_.copyOnCapture, &settings_.hideSystemThumbnail, &settings_.launchAtLogin,
+          &settings_.showInDock})
+        subscriptions_.push_back(property->observeChanges(later));
+}
+
+void SettingsModel::appear() {
+    controls_.appear();
+    emit changed();
+}
+
+QString SettingsModel::version() const {
+    return text(vantle::version);
+}
+
+QString SettingsModel::folder() const {
+    return text(picker_.displayName(settings_.screenshotFolder.value()));
+}
+
+QString SettingsModel::dismissAfterText() const {
+    return text(controls_.dismissAfterText());
+}
+
+QString SettingsModel::corner() const {
+    return text(label(settings_.corner.value()));
+}
+
+void SettingsModel::setNeverDismiss(bool on) {
+    controls_.setNeverDismiss(on);
+    emit changed();
+}
+
+void SettingsModel::setDismissAfter(double seconds) {
+    settings_.dismissAfter.set(seconds);
+    emit changed();
+}
+
+void SettingsModel::setRemoveAfterUse(bool on) {
+    settings_.removeAfterUse.set(on);
+    emit changed();
+}
+
+void SettingsModel::setDeleteAfterUse(bool on) {
+    settings_.deleteAfterUse.set(on);
+    emit changed();
+}
+
+void SettingsModel::setShowRecordings(bool on) {
+    settings_.showRecordings.set(on);
+    emit changed();
+}
+
+void SettingsModel::setCopyOnCapture(bool on) {
+    settings_.copyOnCapture.set(on);
+    emit changed();
+}
+
+void SettingsModel::setHideSystemThumbnail(bool on) {
+    settings_.setHideSystemThumbnail(on);
+    emit changed();
+}
+
+void SettingsModel::setLaunchAtLogin(bool on) {
+    // Where that fails the switch has to go back.
+    settings_.setLaunchAtLogin(on);
+    emit changed();
+}
+
+void SettingsModel::setShowInDock(bool on) {
+    settings_.showInDock.set(on);
+    emit changed();
+}
+
+void SettingsModel::openFolderMenu(QQuickItem* button) {
+    open(picker_.menu(), *button);
+}
+
+void SettingsModel::openCornerMenu(QQuickItem* button) {
+    open(cornerMenu(), *button);
+}
+
+Menu SettingsModel::cornerMenu() {
+    Menu menu{.title = "Show panel in"};
+    for (const PanelCorner corner : allPanelCorners) {
+        const bool isChosen = corner == settings_.corner.value();
+        if (isChosen) menu.current = static_cast<int>(menu.items.size());
+        menu.items.push_back({.title = std::string(label(corner)),
+                              .symbol = isChosen ? "checkmark" : "",
+                              .action = [this, corner] { settings_.corner.set(corner); }});
+    }
+    return menu;
+}
+
+void SettingsModel::open(const Menu& menu, const QQuickItem& button) {
+    if (!menu_) menu_ = std::make_unique<MenuWindow>();
+    menu_->open(menu, onScreen(button));
+}
+
+void SettingsModel::showSample() {
+    notifications_.post(vantleShowDemo);
+}
+
+}  // namespace vantle

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <QObject>
+#include <QQuickItem>
+#include <functional>
+#include <vector>
+
+#include "menus/MenuWindow.h"
+#include "platform/Platform.h"
+#include "screens/BehaviorControls.h"
+#include "screens/FolderPicker.h"
+
+namespace vantle {
+
+/// The settings for their views, which write them through it. It follows them, whoever changes
+/// them: what is shown is always what is stored.
+class SettingsModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the window")
+
+    Q_PROPERTY(QString version READ version CONSTANT)
+    Q_PROPERTY(double shortest MEMBER shortest_ CONSTANT)
+    Q_PROPERTY(double longest MEMBER longest_ CONSTANT)
+    Q_PROPERTY(double step MEMBER step_ CONSTANT)
+    /// Of the folder, for a person.
+    Q_PROPERTY(QString folder READ folder NOTIFY changed)
+    Q_PROPERTY(bool neverDismiss READ neverDismiss WRITE setNeverDismiss NOTIFY changed)
+    /// In the range of the slider.
+    Q_PROPERTY(double dismissAfter READ dismissAfter WRITE setDismissAfter NOTIFY changed)
+    Q_PROPERTY(QString dismissAfterText READ dismissAfterText NOTIFY changed)
+    Q_PROPERTY(bool removeAfterUse READ removeAfterUse WRITE setRemoveAfterUse NOTIFY changed)
+    Q_PROPERTY(bool deleteAfterUse READ deleteAfterUse WRITE setDeleteAfterUse NOTIFY changed)
+    Q_PROPERTY(bool showRecordings READ showRecordings WRITE setShowRecordings NOTIFY changed)
+    Q_PROPERTY(bool copyOnCapture READ copyOnCapture WRITE setCopyOnCapture NOTIFY changed)
+    Q_PROPERTY(QString corner READ corner NOTIFY changed)
+    Q_PROPERTY(bool hideSystemThumbnail READ hideSystemThumbnail WRITE setHideSystemThumbnail NOTIFY
+                   changed)
+    Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY changed)
+    Q_PROPERTY(bool showInDock READ showInDock WRITE setShowInDock NOTIFY changed)
+
+public:
+    /// Both outlive it.
+    SettingsModel(Settings& settings, Platform& platform);
+
+    /// The views are about to be seen.
+    void appear();
+
+    QString version() const;
+    QString folder() const;
+    bool neverDismiss() const { return controls_.neverDismiss(); }
+    double dismissAfter() const { return controls_.sliderValue(); }
+    QString dismissAfterText() const;
+    bool removeAfterUse() const { return settings_.removeAfterUse.value(); }
+    bool deleteAfterUse() const { return settings_.deleteAfterUse.value(); }
+    bool showRecordings() const { return settings_.showRecordings.value(); }
+    bool copyOnCapture() const { return settings_.copyOnCapture.value(); }
+    QString corner() const;
+    bool hideSystemThumbnail() const { return settings_.hideSystemThumbnail.value(); }
+    bool launchAtLogin() const { return settings_.launchAtLogin.value(); }
+    bool showInDock() const { return settings_.showInDock.value(); }
+
+    void setNeverDismiss(bool on);
+    void setDismissAfter(double seconds);
+    void setRemoveAfterUse(bool on);
+    void setDeleteAfterUse(bool on);
+    void setShowRecordings(bool on);
+    void setCopyOnCapture(bool on);
+    void setHideSystemThumbnail(bool on);
+    void setLaunchAtLogin(bool on);
+    void setShowInDock(bool on);
+
+    /// Each opens its menu below that button.
+    Q_INVOKABLE void openFolderMenu(QQuickItem* button);
+    Q_INVOKABLE void openCornerMenu(QQuickItem* button);
+    Q_INVOKABLE void showSample();
+
+signals:
+    void changed();
+
+private:
+    void follow();
+    Menu cornerMenu();
+    void open(const Menu& menu, const QQuickItem& button);
+
+    // The properties above need members.
+    const double shortest_ = BehaviorControls::shortest;
+    const double longest_ = BehaviorControls::longest;
+    const double step_ = BehaviorControls::step;
+
+    Settings& settings_;
+    NotificationCenter& notifications_;
+    FolderPicker picker_;
+    BehaviorControls controls_;
+    std::unique_ptr<MenuWindow> menu_;  ///< Made when one is opened for the first time.
+    std::vector<Subscription> subscriptions_;
+};
+
+}  // namespace vantle

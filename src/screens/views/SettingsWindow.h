@@ -1,0 +1,21 @@
+#pragma once
+
+#include "screens/views/ScreenWindow.h"
+#include "screens/views/SettingsModel.h"
+
+namespace vantle {
+
+class SettingsWindow final : public ScreenWindow {
+public:
+    /// Both outlive it.
+    SettingsWindow(Settings& settings, Platform& platform);
+    ~SettingsWindow() override;
+
+protected:
+    void appear() override { model_.appear(); }
+
+private:
+    SettingsModel model_;
+};
+
+}  // namespace vantle

@@ -1,0 +1,23 @@
+import QtQuick
+
+// A step of the onboarding: a column in the middle of what it scrolls in.
+Item {
+    id: step
+
+    default property alias content: column.data
+    property alias spacing: column.spacing
+    // Of what it stands in.
+    required property real room
+    property real margin: 28
+
+    height: Math.max(room, column.implicitHeight + 2 * margin)
+
+    Column {
+        id: column
+
+        x: 28
+        y: Math.max(step.margin, (step.height - implicitHeight) / 2)
+        width: step.width - 2 * x
+        spacing: 20
+    }
+}

@@ -1,0 +1,46 @@
+pragma Singleton
+
+import QtQuick
+import Vantle.Panel
+
+// The sizes and colours of the screens. Letters grow with those of the desktop.
+QtObject {
+    readonly property real scale: Appearance.textScale
+    // The linter does not know what the application has.
+    readonly property bool isMirrored: Qt.application.layoutDirection === Qt.RightToLeft // qmllint disable
+
+    // Font sizes in points.
+    readonly property real display: points(26)
+    readonly property real title: points(17)
+    readonly property real body: points(13)
+    readonly property real caption: points(11)
+
+    // Lengths. The grid is 4.
+    readonly property real padding: 22
+    readonly property real groupPadding: 12
+    readonly property real rowPadding: 10
+    readonly property real controlHeight: Math.round(28 * scale)
+
+    readonly property color ink: Appearance.isDark ? "white" : "black"
+    readonly property color groupFill: Appearance.isDark ? Qt.rgba(1, 1, 1, 0.06) : "white"
+    readonly property color hairline: faint(0.1)
+    readonly property color controlFill: faint(Appearance.isDark ? 0.12 : 0.07)
+    // Letters on the accent colour, of which the user may have chosen a light one.
+    readonly property color onAccent: luminance(Appearance.accent) > 0.45 ? Qt.rgba(0, 0, 0, 0.88)
+                                                                       : "white"
+    readonly property color green: Appearance.isDark ? "#32d158" : "#1f9d3f"
+    readonly property color orange: Appearance.isDark ? "#ffb340" : "#c66a00"
+
+    function points(pixels) {
+        return Appearance.fontPoints(pixels * scale);
+    }
+
+    // How bright a colour is to the eye, from 0 to 1.
+    function luminance(color) {
+        return 0.2126 * color.r ** 2.2 + 0.7152 * color.g ** 2.2 + 0.0722 * color.b ** 2.2;
+    }
+
+    function faint(opacity) {
+        return Qt.rgba(ink.r, ink.g, ink.b, opacity);
+    }
+}

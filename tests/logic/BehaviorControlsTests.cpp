@@ -1,0 +1,97 @@
+#include "screens/BehaviorControls.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "fakes/SettingsOnFakes.h"
+
+namespace vantle {
+namespace {
+
+class BehaviorControlsTest : public testing::Test, protected fakes::SettingsOnFakes {
+protected:
+    double seconds() const { return settings.dismissAfter.value(); }
+};
+
+TEST_F(BehaviorControlsTest, WithoutATimerTheToggleIsOn) {
+    const BehaviorControls controls(settings);
+    EXPECT_TRUE(controls.neverDismiss());
+    EXPECT_EQ(controls.dismissAfterText(), "—");
+}
+
+TEST_F(BehaviorControlsTest, WithATimerTheToggleIsOffAndTheSecondsAreWhole) {
+    settings.dismissAfter.set(12.9);
+    const BehaviorControls controls(settings);
+    EXPECT_FALSE(controls.neverDismiss());
+    EXPECT_EQ(controls.dismissAfterText(), "12 seconds");
+}
+
+TEST_F(BehaviorControlsTest, OnStoresZero) {
+    settings.dismissAfter.set(30);
+    BehaviorControls controls(settings);
+    controls.setNeverDismiss(true);
+    EXPECT_EQ(seconds(), 0);
+    EXPECT_EQ(defaults.stored["dismissAfter"], PreferenceValue(0.0));
+}
+
+TEST_F(BehaviorControlsTest, OffRestoresTheLastPositiveNumberOfSeconds) {
+    settings.dismissAfter.set(30);
+    BehaviorControls controls(settings);
+    settings.dismissAfter.set(45);
+    controls.setNeverDismiss(true);
+    controls.setNeverDismiss(false);
+    EXPECT_EQ(seconds(), 45);
+}
+
+TEST_F(BehaviorControlsTest, OffIsTenSecondsWhenThereWereNone) {
+    settings.dismissAfter.set(-5);
+    settings.dismissAfter.set(0);
+    BehaviorControls controls(settings);
+    controls.setNeverDismiss(false);
+    EXPECT_EQ(seconds(), 10);
+}
+
+TEST_F(BehaviorControlsTest, SayingTheSameAgainChangesNothing) {
+    settings.dismissAfter.set(30);
+    BehaviorControls controls(settings);
+    settings.dismissAfter.set(-1);
+    controls.setNeverDismiss(false);
+    EXPECT_EQ(seconds(), -1);
+}
+
+TEST_F(BehaviorControlsTest, TheToggleFollowsTheSettingsWhenItAppears) {
+    BehaviorControls controls(settings);
+    settings.dismissAfter.set(20);
+    EXPECT_TRUE(controls.neverDismiss());
+    controls.appear();
+    EXPECT_FALSE(controls.neverDismiss());
+}
+
+TEST_F(BehaviorControlsTest, TheSliderNeverOffersValuesBelow3OrAbove120) {
+    const BehaviorControls controls(settings);
+    EXPECT_EQ(BehaviorControls::shortest, 3);
+    EXPECT_EQ(BehaviorControls::longest, 120);
+    EXPECT_EQ(controls.sliderValue(), 3);
+    settings.dismissAfter.set(500);
+    EXPECT_EQ(controls.sliderValue(), 120);
+    settings.dismissAfter.set(-4);
+    EXPECT_EQ(controls.sliderValue(), 3);
+    settings.dismissAfter.set(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(controls.sliderValue(), 3);
+}
+
+TEST_F(BehaviorControlsTest, NumbersThatNoSliderGivesAreShownAsTheyAre) {
+    settings.dismissAfter.set(500);
+    const BehaviorControls controls(settings);
+    EXPECT_EQ(controls.dismissAfterText(), "500 seconds");
+    settings.dismissAfter.set(-2.5);
+    EXPECT_EQ(controls.dismissAfterText(), "-2 seconds");
+    settings.dismissAfter.set(std::numeric_limits<double>::infinity());
+    EXPECT_EQ(controls.dismissAfterText(), "9000000000000000 seconds");
+    settings.dismissAfter.set(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(controls.dismissAfterText(), "0 seconds");
+}
+
+}  // namespace
+}  // namespace vantle

@@ -1,0 +1,130 @@
+#include "ScreenStage.h"
+
+#include <QCoreApplication>
+#include <utility>
+
+namespace vantle {
+namespace {
+
+/// The items below this one in the order in which they are drawn, itself first.
+void visit(QQuickItem& item, const std::function<void(QQuickItem&)>& visitor) {
+    if (!item.isVisible()) return;
+    visitor(item);
+    for (QQuickItem* child : item.childItems()) visit(*child, visitor);
+}
+
+QString accessibleName(const QQuickItem& item) {
+    auto* interface = QAccessible::queryAccessibleInterface(const_cast<QQuickItem*>(&item));
+    return interface ? interface->text(QAccessible::Name) : QString();
+}
+
+bool isControl(const QQuickItem& item) {
+    return item.activeFocusOnTab() || item.inherits("QQuickControl");
+}
+
+}  // namespace
+
+ScreenStage::ScreenStage() {
+    const auto add = [](auto& slot, auto service) {
+        auto* made = service.get();
+        slot = std::move(service);
+        return made;
+    };
+    platform.environment = [this](const std::string& name) -> std::optional<std::string> {
+        const auto found = environment.find(name);
+        return found == environment.end() ? std::nullopt : std::optional(found->second);
+    };
+    platform.scheduler = std::make_unique<fakes::ManualScheduler>(time);
+    platform.watcherQueue = std::make_unique<fakes::ManualQueue>(time);
+    files = add(platform.files, std::make_unique<fakes::FakeFileSystem>(*platform.watcherQueue));
+    (void)files->createDirectory(Url::file("/home/user/Desktop"));
+    defaults = add(platform.defaults, std::make_unique<fakes::FakeUserDefaults>());
+    platform.screenshotPreferences = std::make_unique<fakes::FakePreferencesDomain>();
+    platform.launcher = std::make_unique<fakes::FakeProcessLauncher>();
+    loginItem = add(platform.loginItem, std::make_unique<fakes::FakeLoginItem>());
+    application = add(platform.application, std::make_unique<fakes::FakeApplication>());
+    privacySettings = add(platform.privacySettings, std::make_unique<fakes::FakePrivacySettings>());
+    chooser =
+        add(platform.folderChooser, std::make_unique<fakes::FakeFolderChooser>(*platform.scheduler));
+    settings = std::make_unique<Settings>(
+        *defaults,
+        SystemScreenshotPrefs(*files, *platform.screenshotPreferences, *platform.launcher),
+        *loginItem, *application);
+    sampleSubscription_ = platform.notifications.observe(vantleShowDemo, [this] { ++samples; });
+}
+
+void ScreenStage::open(std::unique_ptr<ScreenWindow> window, Size size) {
+    window_ = std::move(window);
+    window_->setContentSize(size);
+    window_->makeKeyAndOrderFront();
+    (void)QTest::qWaitForWindowActive(window_.get());
+    settle();
+}
+
+void ScreenStage::openSettings(Size size) {
+    open(std::make_unique<SettingsWindow>(*settings, platform), size);
+}
+
+void ScreenStage::openOnboarding(int step, Size size) {
+    environment["VANTLE_ONBOARDING_STEP"] = std::to_string(step);
+    open(std::make_unique<OnboardingWindow>(*settings, platform, [this] { ++finished; }), size);
+}
+
+QImage ScreenStage::picture() {
+    settle();
+    return window_->grabWindow();
+}
+
+QQuickItem& ScreenStage::named(const QString& name) {
+    QQuickItem* found = nullptr;
+    visit(view(), [&](QQuickItem& item) {
+        if (!found && isControl(item) && accessibleName(item) == name) found = &item;
+    });
+    if (!found) qFatal("there is no %s", qUtf8Printable(name));
+    return *found;
+}
+
+bool ScreenStage::has(const QString& name) {
+    return texts().contains(name);
+}
+
+std::vector<QQuickItem*> ScreenStage::textItems() {
+    std::vector<QQuickItem*> all;
+    visit(view(), [&](QQuickItem& item) {
+        const bool isText = item.inherits("QQuickText");
+        if (isText && !item.property("text").toString().isEmpty()) all.push_back(&item);
+    });
+    return all;
+}
+
+QStringList ScreenStage::texts() {
+    QStringList all;
+    for (const QQuickItem* item : textItems()) all << item->property("text").toString();
+    return all;
+}
+
+QRectF ScreenStage::frame(const QQuickItem& item) const {
+    return item.mapRectToScene(item.boundingRect());
+}
+
+void ScreenStage::click(const QString& name) {
+    QQuickItem& item = named(name);
+    // As a user scrolls to it.
+    item.forceActiveFocus(Qt::MouseFocusReason);
+    QTest::mouseClick(window_.get(), Qt::LeftButton, {}, frame(item).center().toPoint());
+    settle();
+}
+
+void ScreenStage::press(int key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(window_.get(), static_cast<Qt::Key>(key), modifiers);
+    settle();
+}
+
+void ScreenStage::settle() {
+    time.settle();
+    QCoreApplication::processEvents();
+    time.settle();
+    QCoreApplication::processEvents();
+}
+
+}  // namespace vantle

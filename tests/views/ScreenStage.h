@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QQuickItem>
+#include <QTest>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "fakes/FakeFileSystem.h"
+#include "fakes/FakeFolderChooser.h"
+#include "fakes/FakeLoginItem.h"
+#include "fakes/FakePreferencesDomain.h"
+#include "fakes/FakePrivacySettings.h"
+#include "fakes/FakeProcessLauncher.h"
+#include "fakes/FakeUserDefaults.h"
+#include "fakes/FakeApplication.h"
+#include "fakes/VirtualTime.h"
+#include "screens/views/OnboardingWindow.h"
+#include "screens/views/SettingsWindow.h"
+
+namespace vantle {
+
+/// The settings' window or the onboarding's on a screen that nobody sees, over stand-ins.
+class ScreenStage {
+public:
+    ScreenStage();
+
+    /// Each opens its window with that size of its content.
+    void openSettings(Size size = {480, 860});
+    void openOnboarding(int step = 0, Size size = {600, 900});
+
+    ScreenWindow& window() { return *window_; }
+    QQuickItem& view() { return *window_->rootObject(); }
+    QImage picture();
+
+    /// The item that an assistive program knows by that name and that can be seen or scrolled to;
+    /// it has to be there.
+    QQuickItem& named(const QString& name);
+    bool has(const QString& name);
+    /// All texts that are drawn, from the top to the bottom of the tree.
+    QStringList texts();
+    std::vector<QQuickItem*> textItems();
+
+    QRectF frame(const QQuickItem& item) const;
+    void click(const QString& name);
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Handles what is on the event loop, and on the virtual one.
+    void settle();
+
+    fakes::VirtualTime time;
+    Platform platform;
+    fakes::FakeFileSystem* files = nullptr;
+    fakes::FakeLoginItem* loginItem = nullptr;
+    fakes::FakeUserDefaults* defaults = nullptr;
+    fakes::FakeFolderChooser* chooser = nullptr;
+    fakes::FakePrivacySettings* privacySettings = nullptr;
+    fakes::FakeApplication* application = nullptr;
+    std::unique_ptr<Settings> settings;
+    std::map<std::string, std::string> environment;
+    int finished = 0;
+    int samples = 0;
+
+private:
+    void open(std::unique_ptr<ScreenWindow> window, Size size);
+
+    Subscription sampleSubscription_;
+    std::unique_ptr<ScreenWindow> window_;
+};
+
+}  // namespace vantle
