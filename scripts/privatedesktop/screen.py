@@ -202,6 +202,11 @@ class Screen:
         atom = self._display.intern_atom(state)
         self._send_to_root("_NET_WM_STATE", window, [action, atom, 0, 1, 0])
 
+    def ask_to_close(self, window_number):
+        """As the button in a window's title bar does."""
+        window = self._display.create_resource_object("window", window_number)
+        self._send_to_root("_NET_CLOSE_WINDOW", window, [X.CurrentTime, 1, 0, 0, 0])
+
     def _send_to_root(self, name, window, values):
         message = event.ClientMessage(
             window=window, client_type=self._display.intern_atom(name), data=(32, values)

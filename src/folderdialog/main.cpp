@@ -15,18 +15,24 @@
 #include <QFileDialog>
 #include <QWindow>
 #include <cstdio>
-#include <memory>
 
 namespace {
 
 constexpr int nothingChosen = 1;
 constexpr int wrongCommandLine = 2;
 
-void stayAbove(QWidget& dialog, WId parent) {
-    if (!parent || QGuiApplication::platformName() != QStringLiteral("xcb")) return;
+/// The window of another program; null where windows have no numbers. Goes with this process.
+QWindow* windowOf(const char* number) {
+    if (QGuiApplication::platformName() != QStringLiteral("xcb")) return nullptr;
+    return QWindow::fromWinId(QByteArray(number).toULongLong());
+}
+
+void stayAbove(QWidget& dialog, QWindow& parent) {
     dialog.winId();  // makes its window
-    // Belongs to somebody else, and goes with this process.
-    if (QWindow* window = QWindow::fromWinId(parent)) dialog.windowHandle()->setTransientParent(window);
+    dialog.windowHandle()->setTransientParent(&parent);
+    QRect place(QPoint(), dialog.sizeHint());
+    place.moveCenter(parent.geometry().center());
+    dialog.setGeometry(place);
 }
 
 }  // namespace
@@ -41,7 +47,7 @@ int main(int argc, char** argv) {
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     dialog.setLabelText(QFileDialog::Accept, QString::fromUtf8(argv[2]));
-    if (argc > 4) stayAbove(dialog, QByteArray(argv[4]).toULongLong());
+    if (QWindow* parent = argc > 4 ? windowOf(argv[4]) : nullptr) stayAbove(dialog, *parent);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return nothingChosen;
     const QByteArray path = QFile::encodeName(dialog.selectedFiles().constFirst());
     const auto length = static_cast<std::size_t>(path.size());

@@ -29,7 +29,8 @@ const QScreen& screenAt(const QRect& anchor) {
 }  // namespace
 
 MenuWindow::MenuWindow() {
-    setFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    // No popup: assistive programs are not told of those.
+    setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setResizeMode(QQuickView::SizeViewToRootObject);
     engine()->addImageProvider(QStringLiteral("menu"), new MenuPictureProvider(model_));
     load(QStringLiteral("Menus/MenuView.qml"),

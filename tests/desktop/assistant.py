@@ -40,7 +40,13 @@ class Assistant:
         ]
 
     def act(self, name, action="Press"):
+        self._do("act", name, action)
+
+    def set_value(self, name, value):
+        self._do("set", name, str(value))
+
+    def _do(self, *what):
         try:
-            self._desktop.run("/usr/bin/python3", str(_PROGRAM), "act", name, action)
+            self._desktop.run("/usr/bin/python3", str(_PROGRAM), *what)
         except subprocess.CalledProcessError as error:
-            raise AssertionError(f"{action} on {name}: {error.stdout.decode()}") from error
+            raise AssertionError(f"{what}: {error.stdout.decode()}") from error

@@ -3,6 +3,7 @@
 
   assistive_program.py list             every accessible thing, as JSON
   assistive_program.py act NAME ACTION  does an action of the thing of that name
+  assistive_program.py set NAME VALUE   sets the value of the thing of that name
 """
 
 import json
@@ -21,6 +22,8 @@ STATES = {
     "focused": Atspi.StateType.FOCUSED,
     "focusable": Atspi.StateType.FOCUSABLE,
     "showing": Atspi.StateType.SHOWING,
+    "checked": Atspi.StateType.CHECKED,
+    "enabled": Atspi.StateType.ENABLED,
 }
 
 
@@ -48,6 +51,12 @@ def actions(item):
     return [Atspi.Action.get_action_name(item, i) for i in range(Atspi.Action.get_n_actions(item))]
 
 
+def frame(item):
+    """On the screen: left, top, width, height."""
+    place = Atspi.Component.get_extents(item, Atspi.CoordType.SCREEN)
+    return [place.x, place.y, place.width, place.height]
+
+
 def described(item):
     states = item.get_state_set()
     return {
@@ -56,6 +65,8 @@ def described(item):
         "role": item.get_role_name(),
         "states": [name for name, state in STATES.items() if states.contains(state)],
         "actions": actions(item) if item.get_action_iface() else [],
+        "frame": frame(item) if item.get_component_iface() else None,
+        "value": Atspi.Value.get_current_value(item) if item.get_value_iface() else None,
     }
 
 
@@ -67,13 +78,21 @@ def act(found, name, action):
     return False
 
 
+def set_value(found, name, value):
+    for item in found:
+        if item.get_name() == name and item.get_value_iface():
+            return Atspi.Value.set_current_value(item, float(value))
+    return False
+
+
 def main():
     root = program()
     found = list(descendants(root)) if root else []
     if sys.argv[1] == "list":
         print(json.dumps([described(item) for item in found]))
         return 0
-    return 0 if act(found, *sys.argv[2:]) else 1
+    do = set_value if sys.argv[1] == "set" else act
+    return 0 if do(found, *sys.argv[2:]) else 1
 
 
 try:

@@ -17,6 +17,12 @@ const QString slider = QStringLiteral("Otherwise dismiss after");
 class SettingsViewTest : public testing::Test, protected ScreenStage {
 protected:
     bool isOn(const QString& toggle) { return named(toggle).property("checked").toBool(); }
+    static MenuWindow* openMenu() {
+        for (QWindow* window : QGuiApplication::topLevelWindows())
+            if (auto* menu = dynamic_cast<MenuWindow*>(window); menu && menu->isVisible())
+                return menu;
+        return nullptr;
+    }
     double sliderValue() { return named(slider).property("value").toDouble(); }
 };
 
@@ -224,11 +230,8 @@ TEST_F(SettingsViewTest, TheKeepToggleFollowsWhenTheWindowIsShownAgain) {
 TEST_F(SettingsViewTest, TheFolderMenuOpensAtTheButtonAndSetsTheFolder) {
     openSettings();
     click(QStringLiteral("Change"));
-    press(Qt::Key_Down);
-    QWindow* menu = QGuiApplication::topLevelWindows().constLast();
-    for (QWindow* candidate : QGuiApplication::topLevelWindows())
-        if (candidate->isVisible() && candidate->type() == Qt::Popup) menu = candidate;
-    ASSERT_EQ(menu->type(), Qt::Popup);
+    MenuWindow* menu = openMenu();
+    ASSERT_TRUE(menu);
     QTest::keyClick(menu, Qt::Key_Down);
     QTest::keyClick(menu, Qt::Key_Down);
     QTest::keyClick(menu, Qt::Key_Down);
@@ -236,6 +239,22 @@ TEST_F(SettingsViewTest, TheFolderMenuOpensAtTheButtonAndSetsTheFolder) {
     settle();
     EXPECT_EQ(settings->screenshotFolder.value(), Url::file("/home/user/Screenshots"));
     EXPECT_TRUE(has(QStringLiteral("~/Screenshots")));
+}
+
+TEST_F(SettingsViewTest, TheCornerMenuBeginsAtTheCornerThatIsChosen) {
+    settings->corner.set(PanelCorner::topRight);
+    openSettings();
+    named(QStringLiteral("Show panel in")).forceActiveFocus();
+    press(Qt::Key_Space);
+    MenuWindow* menu = openMenu();
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(menu->model().current(), 2);
+    EXPECT_EQ(menu->model().item(2).symbol, "checkmark");
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+    settle();
+    EXPECT_EQ(settings->corner.value(), PanelCorner::topLeft);
+    EXPECT_TRUE(has(QStringLiteral("Top Left")));
 }
 
 TEST_F(SettingsViewTest, TheSampleIsAskedFor) {

@@ -85,7 +85,7 @@ Column {
                 anchors.left: parent.left
                 y: parent.fits ? (parent.height - height) / 2 : 0
                 text: qsTr("Show panel in")
-                Accessible.ignored: true
+                isSpoken: false
             }
 
             PopUpButton {

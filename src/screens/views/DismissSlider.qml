@@ -28,6 +28,7 @@ Column {
             width: Math.min(implicitWidth, parent.width)
             anchors.left: parent.left
             text: qsTr("Otherwise dismiss after")
+            isSpoken: false
         }
 
         Body {
@@ -37,6 +38,7 @@ Column {
             anchors.right: parent.right
             anchors.bottom: parent.bottom
             text: block.settings.dismissAfterText
+            isSpoken: false
             color: Appearance.secondary
         }
     }
@@ -57,8 +59,11 @@ Column {
 
         // Also what an assistive program sets.
         onValueChanged: {
-            if (enabled && value !== block.settings.dismissAfter)
+            if (value === block.settings.dismissAfter) return;
+            if (enabled)
                 block.settings.dismissAfter = Math.round(value);
+            else
+                value = Qt.binding(() => block.settings.dismissAfter);
         }
         Keys.onPressed: event => {
             const large = event.key === Qt.Key_PageUp ? 10 : event.key === Qt.Key_PageDown ? -10 : 0;

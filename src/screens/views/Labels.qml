@@ -7,6 +7,7 @@ Item {
     property alias title: title.text
     property alias weight: title.font.weight
     property string caption
+    property bool isSpoken: true
 
     implicitWidth: title.implicitWidth
     implicitHeight: texts.implicitHeight
@@ -18,11 +19,16 @@ Item {
         width: parent.width
         spacing: 2
 
-        Body { id: title }
+        Body {
+            id: title
+
+            isSpoken: labels.isSpoken
+        }
 
         Caption {
             visible: text !== ""
             text: labels.caption
+            isSpoken: labels.isSpoken
         }
     }
 }

@@ -19,6 +19,7 @@ T.Button {
 
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: text
+    Accessible.onPressAction: clicked()
 
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

@@ -15,6 +15,8 @@ T.Button {
     rightPadding: 16
 
     Accessible.name: text
+    Accessible.defaultButton: isDefault
+    Accessible.onPressAction: clicked()
 
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

@@ -51,6 +51,9 @@ Flickable {
         minimumSize: 0.1
         visible: size < 1
 
+        // What has the keyboard is scrolled to by itself.
+        Accessible.ignored: true
+
         contentItem: Rectangle {
             implicitWidth: 6
             radius: 3

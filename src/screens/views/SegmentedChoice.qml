@@ -71,6 +71,8 @@ Item {
 
                 Accessible.name: text
                 Accessible.checked: checked
+                Accessible.onPressAction: choice.wanted(index) // qmllint disable unqualified
+                Accessible.onToggleAction: choice.wanted(index) // qmllint disable unqualified
 
                 onClicked: {
                     checked = Qt.binding(() => index === choice.current); // qmllint disable unqualified

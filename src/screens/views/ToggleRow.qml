@@ -21,6 +21,8 @@ T.Switch {
 
     Accessible.name: text
     Accessible.description: caption
+    Accessible.onPressAction: wanted(!isOn)
+    Accessible.onToggleAction: wanted(!isOn)
 
     onToggled: {
         wanted(checked);
@@ -31,7 +33,7 @@ T.Switch {
     contentItem: Labels {
         title: toggle.text
         caption: toggle.caption
-        Accessible.ignored: true
+        isSpoken: false
     }
 
     indicator: SwitchTrack {
