@@ -2,7 +2,6 @@
 #include <unistd.h>
 
 #include <QGuiApplication>
-#include <QLocale>
 #include <QSessionManager>
 #include <algorithm>
 #include <cstdlib>
@@ -114,7 +113,6 @@ int run(int& argc, char** argv, const std::optional<ApplicationRequest>& request
     qInstallMessageHandler(endOnFatalMessages);
     QGuiApplication application = makeApplication(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    QGuiApplication::setLayoutDirection(QLocale().textDirection());
     joinSession(application);
     if (request) {
         const auto answer = DBusApplication(programIdentifier).ask(*request);

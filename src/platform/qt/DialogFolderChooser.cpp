@@ -24,23 +24,13 @@ QStringList arguments(const FolderRequest& request) {
 
 }  // namespace
 
-DialogFolderChooser::DialogFolderChooser(QString program) : program_(std::move(program)) {
-    process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process_.setStandardInputFile(QProcess::nullDevice());
-    connect(&process_, &QProcess::finished, this,
-            [this](int status, QProcess::ExitStatus how) {
-                end(how == QProcess::NormalExit && status <= nothingChosen);
-            });
-    connect(&process_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-        // Every other error ends the process, which is told by itself.
-        if (error == QProcess::FailedToStart) end(false);
-    });
-}
+DialogFolderChooser::DialogFolderChooser(QString program) : program_(std::move(program)) {}
 
 DialogFolderChooser::~DialogFolderChooser() {
-    process_.disconnect(this);
-    process_.kill();
-    process_.waitForFinished();
+    if (!process_) return;
+    process_->disconnect(this);
+    process_->kill();
+    process_->waitForFinished();
 }
 
 void DialogFolderChooser::choose(const FolderRequest& request, Chosen chosen) {
@@ -48,15 +38,32 @@ void DialogFolderChooser::choose(const FolderRequest& request, Chosen chosen) {
     QTimer::singleShot(0, this, [this, request, chosen = std::move(chosen)]() mutable {
         if (chosen_) return chosen(std::nullopt);
         chosen_ = std::move(chosen);
-        process_.start(program_, arguments(request));
+        start(request);
     });
+}
+
+void DialogFolderChooser::start(const FolderRequest& request) {
+    process_ = std::make_unique<QProcess>();
+    process_->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process_->setStandardInputFile(QProcess::nullDevice());
+    connect(process_.get(), &QProcess::finished, this,
+            [this](int status, QProcess::ExitStatus how) {
+                end(how == QProcess::NormalExit && status <= nothingChosen);
+            });
+    connect(process_.get(), &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        // Every other error ends the process, which is told by itself.
+        if (error == QProcess::FailedToStart) end(false);
+    });
+    process_->start(program_, arguments(request));
 }
 
 void DialogFolderChooser::end(bool wasAsked) {
     if (!wasAsked)
-        systemLog("Vantle: the folder chooser failed: " + process_.errorString().toStdString());
+        systemLog("Vantle: the folder chooser failed: " + process_->errorString().toStdString());
     // Nothing, when the user chose nothing.
-    const QByteArray path = wasAsked ? process_.readAllStandardOutput() : QByteArray();
+    const QByteArray path = wasAsked ? process_->readAllStandardOutput() : QByteArray();
+    // It is the one that tells this.
+    process_.release()->deleteLater();
     if (const auto chosen = std::exchange(chosen_, nullptr))
         chosen(path.startsWith('/') ? std::optional(Url::file(path.toStdString())) : std::nullopt);
 }

@@ -2,6 +2,7 @@
 
 #include <QProcess>
 #include <QString>
+#include <memory>
 
 #include "platform/FolderChooser.h"
 
@@ -17,11 +18,12 @@ public:
     void choose(const FolderRequest& request, Chosen chosen) override;
 
 private:
+    void start(const FolderRequest& request);
     void end(bool wasAsked);
 
     const QString program_;
-    QProcess process_;
-    Chosen chosen_;  ///< While one is open.
+    std::unique_ptr<QProcess> process_;  ///< While one is open.
+    Chosen chosen_;
 };
 
 }  // namespace vantle

@@ -52,13 +52,7 @@ std::optional<Url> folder(const QVariantMap& results) {
 
 PortalFolderChooser::PortalFolderChooser(std::unique_ptr<FolderChooser> next,
                                          const QDBusConnection& bus)
-    : next_(std::move(next)), bus_(bus) {
-    auto* watcher = new QDBusServiceWatcher(
-        service, bus_, QDBusServiceWatcher::WatchForUnregistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
-        if (!handle_.isEmpty()) end(std::nullopt);
-    });
-}
+    : next_(std::move(next)), bus_(bus) {}
 
 PortalFolderChooser::~PortalFolderChooser() {
     if (handle_.isEmpty()) return;
@@ -80,7 +74,17 @@ void PortalFolderChooser::choose(const FolderRequest& request, Chosen chosen) {
     });
 }
 
+void PortalFolderChooser::watchPortal() {
+    if (std::exchange(watchesPortal_, true)) return;
+    auto* watcher = new QDBusServiceWatcher(
+        service, bus_, QDBusServiceWatcher::WatchForUnregistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+        if (!handle_.isEmpty()) end(std::nullopt);
+    });
+}
+
 void PortalFolderChooser::open(const FolderRequest& request) {
+    watchPortal();
     const QString token = QStringLiteral("vantle%1").arg(++count_);
     const QString sender = bus_.baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
     handle_ = path + QStringLiteral("/request/") + sender + QLatin1Char('/') + token;

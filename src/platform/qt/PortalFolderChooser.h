@@ -26,11 +26,13 @@ private slots:
     void responded(uint response, const QVariantMap& results);
 
 private:
+    void watchPortal();
     void open(const FolderRequest& request);
     void end(const std::optional<Url>& folder);
     void forget();
 
     std::unique_ptr<FolderChooser> next_;
+    bool watchesPortal_ = false;
     QDBusConnection bus_;
     Chosen chosen_;  ///< While one is open.
     QString handle_;  ///< Of the open dialog, on the bus; empty while there is none.

@@ -6,8 +6,9 @@ import Vantle.Panel
 // The sizes and colours of the screens. Letters grow with those of the desktop.
 QtObject {
     readonly property real scale: Appearance.textScale
-    // The linter does not know what the application has.
-    readonly property bool isMirrored: Qt.application.layoutDirection === Qt.RightToLeft // qmllint disable
+    // By the user's language, or as somebody told the toolkit, which the linter does not know of.
+    readonly property bool isMirrored: Qt.locale().textDirection === Qt.RightToLeft
+                                       || Qt.application.layoutDirection === Qt.RightToLeft // qmllint disable
 
     // Font sizes in points.
     readonly property real display: points(26)
