@@ -34,6 +34,7 @@ target_compile_definitions(
 target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt_sharing vantle_platform_qt_tray
                                                 vantle_fakes vantle_warnings
                                                 GTest::gmock)
-vantle_precompile(qt_contract_tests <gmock/gmock.h> <QDBusConnection> <QDBusMessage> <QGuiApplication>)
+vantle_precompile_tests(qt_contract_tests <gmock/gmock.h> <map> <string> <vector> <QDBusConnection>
+                        <QDBusMessage> <QGuiApplication>)
 add_dependencies(qt_contract_tests application_copy)
 gtest_discover_tests(qt_contract_tests PROPERTIES LABELS contract DISCOVERY_TIMEOUT 60)
