@@ -71,8 +71,9 @@ void addUses(Platform& platform, std::shared_ptr<MediaLoader> pictures) {
         makeSharingSource(platform), *platform.pasteboard, *platform.opener);
     platform.privacySettings = std::make_unique<DesktopPrivacySettings>(
         programIdentifier, *platform.opener, DesktopFileOpener::currentSandbox());
-    platform.folderChooser = std::make_unique<PortalFolderChooser>(
-        std::make_unique<DialogFolderChooser>(QString::fromStdString(beside("vantle-folder-dialog"))));
+    platform.folderChooser =
+        std::make_unique<PortalFolderChooser>(std::make_unique<DialogFolderChooser>(
+            QString::fromStdString(beside("vantle-folder-dialog"))));
 }
 
 /// The icon in the tray. Its menu is loaded when it is opened for the first time.

@@ -4,8 +4,8 @@
 #include <array>
 #include <string_view>
 
-#include "support/Version.h"
 #include "support/Url.h"
+#include "support/Version.h"
 
 namespace vantle {
 namespace {

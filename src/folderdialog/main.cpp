@@ -1,10 +1,10 @@
 // vantle-folder-dialog DIRECTORY PROMPT MESSAGE [WINDOW]
 //
 // Asks for a folder with the dialog of the desktop's toolkit where that has one, else with that of
-// ours. It starts in DIRECTORY, PROMPT stands on its button and MESSAGE in its title; it stays above
-// the X11 window of the number WINDOW. Writes the path as it is, without anything behind it, to the
-// standard output and ends with 0; ends with 1 when nothing was chosen. It ends with the program
-// that started it.
+// ours. It starts in DIRECTORY, PROMPT stands on its button and MESSAGE in its title; it stays
+// above the X11 window of the number WINDOW. Writes the path as it is, without anything behind it,
+// to the standard output and ends with 0; ends with 1 when nothing was chosen. It ends with the
+// program that started it.
 
 #include <signal.h>
 #include <sys/prctl.h>
@@ -48,7 +48,8 @@ int main(int argc, char** argv) {
     dialog.setOption(QFileDialog::ShowDirsOnly);
     dialog.setLabelText(QFileDialog::Accept, QString::fromUtf8(argv[2]));
     if (QWindow* parent = argc > 4 ? windowOf(argv[4]) : nullptr) stayAbove(dialog, *parent);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return nothingChosen;
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return nothingChosen;
     const QByteArray path = QFile::encodeName(dialog.selectedFiles().constFirst());
     const auto length = static_cast<std::size_t>(path.size());
     return std::fwrite(path.constData(), 1, length, stdout) == length ? 0 : nothingChosen;

@@ -15,8 +15,7 @@ constexpr double secondsAtFirst = 10;
 BehaviorControls::BehaviorControls(Settings& settings)
     : settings_(settings),
       lastPositive_(secondsAtFirst),
-      subscription_(
-          settings.dismissAfter.observe([this](double seconds) { remember(seconds); })) {
+      subscription_(settings.dismissAfter.observe([this](double seconds) { remember(seconds); })) {
     appear();
 }
 

@@ -41,14 +41,14 @@ void FolderAccessRow::check() {
 }
 
 void FolderAccessRow::check(const Url& folder) {
-    const auto learn = weakly(shared_from_this(),
-                              [](auto& self, AccessState learnt) { self.state.set(learnt); });
-    context_.queue.async(
-        [&files = context_.files, &scheduler = context_.scheduler, folder, learn] {
-            const bool isReadable{files.contentsOfDirectory(folder)};
-            scheduler.async(
-                [learn, isReadable] { learn(isReadable ? AccessState::granted : AccessState::denied); });
+    const auto learn =
+        weakly(shared_from_this(), [](auto& self, AccessState learnt) { self.state.set(learnt); });
+    context_.queue.async([&files = context_.files, &scheduler = context_.scheduler, folder, learn] {
+        const bool isReadable{files.contentsOfDirectory(folder)};
+        scheduler.async([learn, isReadable] {
+            learn(isReadable ? AccessState::granted : AccessState::denied);
         });
+    });
 }
 
 void FolderAccessRow::openPrivacySettings() {

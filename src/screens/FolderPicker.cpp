@@ -35,10 +35,10 @@ void FolderPicker::choose() {
         .directory = context_.settings.screenshotFolder.value(),
         .prompt = "Use This Folder",
         .message = "Choose where macOS should save screenshots and screen recordings."};
-    context_.chooser.choose(
-        request, [&settings = context_.settings](const std::optional<Url>& folder) {
-            if (folder) settings.setScreenshotFolder(*folder);
-        });
+    context_.chooser.choose(request,
+                            [&settings = context_.settings](const std::optional<Url>& folder) {
+                                if (folder) settings.setScreenshotFolder(*folder);
+                            });
 }
 
 }  // namespace vantle

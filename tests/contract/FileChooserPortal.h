@@ -46,7 +46,8 @@ public slots:
         }
         title = asked;
         options = wished;
-        const QString sender = message().service().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
+        const QString sender =
+            message().service().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
         handle = path + QStringLiteral("/request/") + sender + QLatin1Char('/') +
                  wished[QStringLiteral("handle_token")].toString();
         return QDBusObjectPath(handle);

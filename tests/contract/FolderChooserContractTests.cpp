@@ -45,10 +45,12 @@ public:
     ScriptedProgram() {
         QFile file(path());
         if (!file.open(QFile::WriteOnly)) qFatal("cannot write a script");
-        file.write("#!/bin/sh\ncd \"${0%/*}\"\nprintf '%s\\n' \"$@\" > asked\nmv asked open\n"
-                   "read -r status < answer\ncat path\nexit \"$status\"\n");
+        file.write(
+            "#!/bin/sh\ncd \"${0%/*}\"\nprintf '%s\\n' \"$@\" > asked\nmv asked open\n"
+            "read -r status < answer\ncat path\nexit \"$status\"\n");
         file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-        if (QProcess::execute(QStringLiteral("mkfifo"), {folder_.filePath(QStringLiteral("answer"))}))
+        if (QProcess::execute(QStringLiteral("mkfifo"),
+                              {folder_.filePath(QStringLiteral("answer"))}))
             qFatal("cannot make a pipe");
     }
 
@@ -227,7 +229,8 @@ TEST(DialogFolderChooserTest, TheDialogIsToldWhatToAskFor) {
     DialogFolderChooser chooser(program.path());
     chooser.choose(request, [](const auto&) {});
     ASSERT_TRUE(runUntil([&] { return program.isOpen(); }));
-    EXPECT_EQ(program.asked(), QStringLiteral("/home/user/My Shots\nUse This Folder\nChoose it.\n"));
+    EXPECT_EQ(program.asked(),
+              QStringLiteral("/home/user/My Shots\nUse This Folder\nChoose it.\n"));
 }
 
 TEST(DialogFolderChooserTest, ADialogThatCannotBeShownIsLoggedAndGivesNothing) {

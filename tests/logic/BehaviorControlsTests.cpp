@@ -1,10 +1,9 @@
-#include "screens/BehaviorControls.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
 
 #include "fakes/SettingsOnFakes.h"
+#include "screens/BehaviorControls.h"
 
 namespace vantle {
 namespace {

@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "app/CommandLine.h"
-#include "support/Version.h"
 #include "support/Gradient.h"
+#include "support/Version.h"
 
 namespace vantle {
 namespace {

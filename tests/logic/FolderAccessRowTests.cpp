@@ -1,5 +1,3 @@
-#include "screens/FolderAccessRow.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -7,6 +5,7 @@
 
 #include "fakes/FakePrivacySettings.h"
 #include "fakes/SettingsOnFakes.h"
+#include "screens/FolderAccessRow.h"
 
 namespace vantle {
 namespace {

@@ -1,10 +1,9 @@
-#include "screens/FolderPicker.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "fakes/FakeFolderChooser.h"
 #include "fakes/SettingsOnFakes.h"
+#include "screens/FolderPicker.h"
 
 namespace vantle {
 namespace {

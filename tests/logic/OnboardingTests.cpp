@@ -13,7 +13,8 @@ using testing::ElementsAre;
 class OnboardingTest : public testing::Test, protected fakes::SettingsOnFakes {
 protected:
     OnboardingSteps at(int step) {
-        return OnboardingSteps(settings, [this] { ++finished; }, step);
+        return OnboardingSteps(
+            settings, [this] { ++finished; }, step);
     }
     static int initialStep(std::optional<std::string> variable) {
         return OnboardingSteps::initialStep([&](const std::string& name) {
@@ -102,9 +103,9 @@ TEST_F(OnboardingTest, TheSummarySaysWhatWasChosen) {
     settings.setScreenshotFolder(Url::file("/home/user/Pictures/Screenshots"));
     settings.dismissAfter.set(30.7);
     settings.corner.set(PanelCorner::topLeft);
-    EXPECT_THAT(summary(), ElementsAre("Saving to Screenshots folder",
-                                       "Stays for 30 seconds unless pinned",
-                                       "Panel in the Top Left", "macOS thumbnail still shown"));
+    EXPECT_THAT(summary(),
+                ElementsAre("Saving to Screenshots folder", "Stays for 30 seconds unless pinned",
+                            "Panel in the Top Left", "macOS thumbnail still shown"));
 }
 
 TEST_F(OnboardingTest, WithoutATimerTheSummaryReadsStaysUntilDismissed) {

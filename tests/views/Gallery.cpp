@@ -1,5 +1,6 @@
-// Writes sheets of pictures of the card: each scene, light and dark, over a light and a dark
-// wallpaper, at the scale that QT_SCALE_FACTOR says.
+// Writes sheets of pictures, at the scale that QT_SCALE_FACTOR says: each scene of the card, light
+// and dark, over a light and a dark wallpaper; the steps of the onboarding and the settings, light
+// and dark.
 #include <QFont>
 #include <QGuiApplication>
 #include <QLinearGradient>
@@ -7,6 +8,7 @@
 #include <cstdio>
 
 #include "Scenes.h"
+#include "ScreenStage.h"
 #include "panel/views/Appearance.h"
 
 namespace {
@@ -69,6 +71,42 @@ QImage sheet(Wallpaper wallpaper, double scale) {
     return picture;
 }
 
+std::vector<QImage> screens() {
+    std::vector<QImage> all;
+    for (int step = 0; step < OnboardingSteps::stepCount; ++step) {
+        ScreenStage stage;
+        stage.openOnboarding(step);
+        all.push_back(stage.picture());
+    }
+    ScreenStage stage;
+    stage.settings->dismissAfter.set(25);
+    stage.openSettings();
+    all.push_back(stage.picture());
+    return all;
+}
+
+/// The screens side by side.
+QImage screenSheet(double scale) {
+    const auto all = screens();
+    const int gap = qRound(20 * scale);
+    int width = gap;
+    for (const QImage& screen : all) width += screen.width() + gap;
+    QImage picture(width, all.front().height() + 2 * gap, QImage::Format_RGB32);
+    picture.fill(Qt::gray);
+    QPainter painter(&picture);
+    int x = gap;
+    for (QImage screen : all) {
+        screen.setDevicePixelRatio(1);
+        painter.drawImage(x, gap, screen);
+        x += screen.width() + gap;
+    }
+    return picture;
+}
+
+void write(const QImage& picture, const QString& path) {
+    if (!picture.save(path)) qFatal("%s cannot be written", qUtf8Printable(path));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -79,22 +117,23 @@ int main(int argc, char** argv) {
         std::fputs("Usage: gallery FOLDER\n", stderr);
         return 2;
     }
-    QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
+    QFont font(QStringLiteral("Inter"));
+    font.setPixelSize(13);
+    QGuiApplication::setFont(font);
+    const QString folder = QString::fromLocal8Bit(argv[1]);
     const double scale = application.devicePixelRatio();
     DesktopAppearance desktop;
     Appearance::follow(&desktop);
     for (const auto& [scheme, look] :
-         {std::pair{ColorScheme::light, "light"}, std::pair{ColorScheme::dark, "dark"}})
-        for (const Wallpaper wallpaper : {Wallpaper::light, Wallpaper::dark}) {
-            desktop.look.set({.scheme = scheme});
-            const QString path = QStringLiteral("%1/card-%2-on-%3@%4x.png")
-                                     .arg(QString::fromLocal8Bit(argv[1]), QLatin1String(look),
-                                          QLatin1String(name(wallpaper)))
-                                     .arg(scale);
-            if (!sheet(wallpaper, scale).save(path)) {
-                std::fprintf(stderr, "%s cannot be written\n", qPrintable(path));
-                return 1;
-            }
-        }
+         {std::pair{ColorScheme::light, "light"}, std::pair{ColorScheme::dark, "dark"}}) {
+        desktop.look.set({.scheme = scheme});
+        const QLatin1String looks(look);
+        for (const Wallpaper wallpaper : {Wallpaper::light, Wallpaper::dark})
+            write(sheet(wallpaper, scale), QStringLiteral("%1/card-%2-on-%3@%4x.png")
+                                               .arg(folder, looks, QLatin1String(name(wallpaper)))
+                                               .arg(scale));
+        write(screenSheet(scale),
+              QStringLiteral("%1/screens-%2@%3x.png").arg(folder, looks).arg(scale));
+    }
     return 0;
 }

@@ -54,15 +54,14 @@ TEST_F(OnboardingViewTest, AFolderThatIsRefusedOffersThePrivacySettings) {
 
 TEST_F(OnboardingViewTest, TheDoneStep) {
     openOnboarding(2);
-    expectTexts({QStringLiteral("You're all set"),
-                 QStringLiteral("Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it "
-                                "will slide into the Bottom Right corner. Take another and they "
-                                "line up together."),
-                 QStringLiteral("Saving to Desktop folder"),
-                 QStringLiteral("Stays until dismissed"),
-                 QStringLiteral("Panel in the Bottom Right"),
-                 QStringLiteral("macOS thumbnail hidden"), QStringLiteral("Back"),
-                 QStringLiteral("Start Using Vantle")});
+    expectTexts(
+        {QStringLiteral("You're all set"),
+         QStringLiteral("Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it "
+                        "will slide into the Bottom Right corner. Take another and they "
+                        "line up together."),
+         QStringLiteral("Saving to Desktop folder"), QStringLiteral("Stays until dismissed"),
+         QStringLiteral("Panel in the Bottom Right"), QStringLiteral("macOS thumbnail hidden"),
+         QStringLiteral("Back"), QStringLiteral("Start Using Vantle")});
     click(QStringLiteral("Show me a sample"));
     EXPECT_EQ(samples, 1);
 }

@@ -1,5 +1,6 @@
-// The card as people see it, against pictures that somebody has looked at. A picture that differs
-// is left in the working folder; when it is right, VANTLE_WRITE_REFERENCES=1 makes it the new one.
+// The card and the other windows as people see them, against pictures that somebody has looked at.
+// A picture that differs is left in the working folder; when it is right, VANTLE_WRITE_REFERENCES=1
+// makes it the new one.
 
 #include <gtest/gtest.h>
 

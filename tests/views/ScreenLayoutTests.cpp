@@ -1,6 +1,6 @@
 // Nothing is cut off and nothing lies over something else, however large the window and its
-// letters are and from whichever side they are read. VANTLE_KEEP_PICTURES=1 leaves a picture of each
-// in the working folder.
+// letters are and from whichever side they are read. VANTLE_KEEP_PICTURES=1 leaves a picture of
+// each in the working folder.
 
 #include <gtest/gtest.h>
 

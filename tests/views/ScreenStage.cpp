@@ -44,8 +44,8 @@ ScreenStage::ScreenStage() {
     loginItem = add(platform.loginItem, std::make_unique<fakes::FakeLoginItem>());
     application = add(platform.application, std::make_unique<fakes::FakeApplication>());
     privacySettings = add(platform.privacySettings, std::make_unique<fakes::FakePrivacySettings>());
-    chooser =
-        add(platform.folderChooser, std::make_unique<fakes::FakeFolderChooser>(*platform.scheduler));
+    chooser = add(platform.folderChooser,
+                  std::make_unique<fakes::FakeFolderChooser>(*platform.scheduler));
     settings = std::make_unique<Settings>(
         *defaults,
         SystemScreenshotPrefs(*files, *platform.screenshotPreferences, *platform.launcher),

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "fakes/FakeApplication.h"
 #include "fakes/FakeFileSystem.h"
 #include "fakes/FakeFolderChooser.h"
 #include "fakes/FakeLoginItem.h"
@@ -13,7 +14,6 @@
 #include "fakes/FakePrivacySettings.h"
 #include "fakes/FakeProcessLauncher.h"
 #include "fakes/FakeUserDefaults.h"
-#include "fakes/FakeApplication.h"
 #include "fakes/VirtualTime.h"
 #include "screens/views/OnboardingWindow.h"
 #include "screens/views/SettingsWindow.h"

@@ -107,8 +107,7 @@ TEST_F(SettingsViewTest, TheSliderGoesInWholeSeconds) {
     QQuickItem& item = named(slider);
     const QRectF place = frame(item);
     for (const double part : {0.13, 0.37, 0.5, 0.81, 0.99}) {
-        const QPoint point(qRound(place.left() + part * place.width()),
-                           qRound(place.center().y()));
+        const QPoint point(qRound(place.left() + part * place.width()), qRound(place.center().y()));
         QTest::mouseClick(&window(), Qt::LeftButton, {}, point);
         settle();
         const double seconds = settings->dismissAfter.value();
@@ -153,20 +152,20 @@ TEST_P(ToggleTest, ItIsChangedByTheMouseAndByKeysAndFollowsTheSetting) {
 
 INSTANTIATE_TEST_SUITE_P(
     Settings, ToggleTest,
-    testing::Values(
-        Toggle{"Keep captures until dismissed (recommended)",
-               [](const Settings& s) { return s.dismissAfter.value() == 0; }},
-        Toggle{"Move the file to the Trash after I use it",
-               [](const Settings& s) { return s.deleteAfterUse.value(); }},
-        Toggle{"Also show screen recordings",
-               [](const Settings& s) { return s.showRecordings.value(); }},
-        Toggle{"Copy screenshot to clipboard automatically",
-               [](const Settings& s) { return s.copyOnCapture.value(); }},
-        Toggle{"Hide the built-in macOS thumbnail",
-               [](const Settings& s) { return s.hideSystemThumbnail.value(); }},
-        Toggle{"Open Vantle at login", [](const Settings& s) { return s.launchAtLogin.value(); }},
-        Toggle{"Also show Vantle in the Dock",
-               [](const Settings& s) { return s.showInDock.value(); }}),
+    testing::Values(Toggle{"Keep captures until dismissed (recommended)",
+                           [](const Settings& s) { return s.dismissAfter.value() == 0; }},
+                    Toggle{"Move the file to the Trash after I use it",
+                           [](const Settings& s) { return s.deleteAfterUse.value(); }},
+                    Toggle{"Also show screen recordings",
+                           [](const Settings& s) { return s.showRecordings.value(); }},
+                    Toggle{"Copy screenshot to clipboard automatically",
+                           [](const Settings& s) { return s.copyOnCapture.value(); }},
+                    Toggle{"Hide the built-in macOS thumbnail",
+                           [](const Settings& s) { return s.hideSystemThumbnail.value(); }},
+                    Toggle{"Open Vantle at login",
+                           [](const Settings& s) { return s.launchAtLogin.value(); }},
+                    Toggle{"Also show Vantle in the Dock",
+                           [](const Settings& s) { return s.showInDock.value(); }}),
     [](const auto& toggle) {
         std::string name = toggle.param.name;
         std::erase_if(name, [](char letter) { return !std::isalnum(letter); });
@@ -279,9 +278,8 @@ TEST_F(SettingsViewTest, TabReachesEveryControlOnceAndScrollsToIt) {
     for (int i = 0; i < 40; ++i) {
         press(Qt::Key_Tab);
         const QQuickItem* item = window().activeFocusItem();
-        const QString name =
-            QAccessible::queryAccessibleInterface(const_cast<QQuickItem*>(item))
-                ->text(QAccessible::Name);
+        const QString name = QAccessible::queryAccessibleInterface(const_cast<QQuickItem*>(item))
+                                 ->text(QAccessible::Name);
         if (reached.contains(name)) break;
         reached << name;
         const QRectF place = frame(*item);

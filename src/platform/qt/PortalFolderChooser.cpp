@@ -76,8 +76,8 @@ void PortalFolderChooser::choose(const FolderRequest& request, Chosen chosen) {
 
 void PortalFolderChooser::watchPortal() {
     if (std::exchange(watchesPortal_, true)) return;
-    auto* watcher = new QDBusServiceWatcher(
-        service, bus_, QDBusServiceWatcher::WatchForUnregistration, this);
+    auto* watcher =
+        new QDBusServiceWatcher(service, bus_, QDBusServiceWatcher::WatchForUnregistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
         if (!handle_.isEmpty()) end(std::nullopt);
     });

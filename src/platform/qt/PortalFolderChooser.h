@@ -34,7 +34,7 @@ private:
     std::unique_ptr<FolderChooser> next_;
     bool watchesPortal_ = false;
     QDBusConnection bus_;
-    Chosen chosen_;  ///< While one is open.
+    Chosen chosen_;   ///< While one is open.
     QString handle_;  ///< Of the open dialog, on the bus; empty while there is none.
     unsigned count_ = 0;
 };

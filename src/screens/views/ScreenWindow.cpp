@@ -80,8 +80,7 @@ void ScreenWindow::makeKeyAndOrderFront() {
 
 std::optional<std::string> ScreenWindow::snapshot(double scale) {
     QQmlComponent component(engine(), source());
-    const std::unique_ptr<QObject> made(
-        component.createWithInitialProperties(properties_));
+    const std::unique_ptr<QObject> made(component.createWithInitialProperties(properties_));
     auto* item = qobject_cast<QQuickItem*>(made.get());
     if (!item) return std::nullopt;
     item->setSize(size());

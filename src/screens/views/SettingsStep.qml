@@ -9,7 +9,7 @@ StepView {
     required property OnboardingModel onboarding
 
     spacing: 12
-    margin: 22
+    margin: 15
 
     Component.onCompleted: onboarding.access.check()
 
@@ -40,6 +40,7 @@ StepView {
                     horizontalAlignment: Text.AlignHCenter
                     text: qsTr("Recommended settings are already selected")
                     color: Appearance.primary
+                    lineHeight: 1
                     font.weight: Font.Medium
                 }
             }
