@@ -290,6 +290,11 @@ class Screen:
     def atom_name(self, atom):
         return self._display.get_atom_name(atom)
 
+    def states(self, window_number):
+        """The names of a window's _NET_WM_STATEs."""
+        atoms = self.window_property(window_number, "_NET_WM_STATE") or []
+        return {self.atom_name(atom) for atom in atoms}
+
     def title(self, window_number):
         window = self._display.create_resource_object("window", window_number)
         return self._property(window, "WM_NAME", Xatom.STRING)

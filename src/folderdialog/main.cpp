@@ -42,7 +42,10 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QGuiApplication::setApplicationDisplayName(QString());
     QGuiApplication::setDesktopFileName(QStringLiteral("org.vantle.Vantle"));
-    if (argc < 4) return wrongCommandLine;
+    if (argc < 4) {
+        std::fputs("Usage: vantle-folder-dialog DIRECTORY PROMPT MESSAGE [WINDOW]\n", stderr);
+        return wrongCommandLine;
+    }
     QFileDialog dialog(nullptr, QString::fromUtf8(argv[3]), QFile::decodeName(argv[1]));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);

@@ -17,6 +17,8 @@ public:
 
     /// `settings` outlives it.
     explicit BehaviorControls(Settings& settings);
+    BehaviorControls(const BehaviorControls&) = delete;
+    BehaviorControls& operator=(const BehaviorControls&) = delete;
 
     /// It is about to be seen: the toggle shows what the settings say.
     void appear();

@@ -1,4 +1,4 @@
-"""A screen reader for the tests: what it finds on the card, and what it does there."""
+"""A screen reader for the tests: what it finds on Vantle's windows, and what it does there."""
 
 import json
 import pathlib
@@ -6,30 +6,51 @@ import subprocess
 
 from privatedesktop import wait_until
 
-_TRY_AGAIN = 75
 _PROGRAM = pathlib.Path(__file__).with_name("assistive_program.py")
 # The program offers itself to screen readers only where one runs, or where it is told to.
 ENVIRONMENT = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
 
 class Assistant:
+    """It is started with the first question, and ends with the desktop."""
+
     def __init__(self, desktop):
         self._desktop = desktop
+        self._process = None
+
+    def _ask(self, *command):
+        if self._process is None:
+            self._process = subprocess.Popen(
+                ["/usr/bin/python3", str(_PROGRAM)], env=self._desktop.environment,
+                stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
+            )  # fmt: skip
+        self._process.stdin.write(json.dumps(command) + "\n")
+        self._process.stdin.flush()
+        return json.loads(self._process.stdout.readline())
+
+    def _read(self, *command):
+        answers = []
+
+        def is_answered():
+            answers.append(self._ask(*command))
+            return answers[-1] is not None
+
+        wait_until(is_answered, "nothing leaves a window while it is read")
+        return answers[-1]
 
     def found(self):
-        """What is on the card; each thing has a name, role, description, states and actions."""
-        return json.loads(wait_until(self._list, "nothing leaves the card while it is read"))
+        """What is on the windows; each thing has a name, role, description, states and actions."""
+        return self._read("list")
 
-    def _list(self):
-        done = self._desktop.run("/usr/bin/python3", str(_PROGRAM), "list", check=False)
-        assert done.returncode in (0, _TRY_AGAIN), done.stdout.decode()
-        return done.stdout if done.returncode == 0 else None
+    def find(self, name):
+        """The things of that name."""
+        return self._read("find", name)
 
     def wait_for(self, name):
         wait_until(lambda: name in self.names(), f"the assistant finds {name}")
 
     def names(self):
-        return [item["name"] for item in self.found()]
+        return self._read("names")
 
     def in_state(self, state):
         """The names of the captures in that state."""
@@ -40,13 +61,7 @@ class Assistant:
         ]
 
     def act(self, name, action="Press"):
-        self._do("act", name, action)
+        assert self._ask("act", name, action), f"cannot {action} {name}"
 
     def set_value(self, name, value):
-        self._do("set", name, str(value))
-
-    def _do(self, *what):
-        try:
-            self._desktop.run("/usr/bin/python3", str(_PROGRAM), *what)
-        except subprocess.CalledProcessError as error:
-            raise AssertionError(f"{what}: {error.stdout.decode()}") from error
+        assert self._ask("set", name, value), f"cannot set {name} to {value}"

@@ -1,9 +1,13 @@
 #!/usr/bin/python3
 """Reads and operates Vantle as a screen reader does, over AT-SPI. It runs on the private desktop.
 
-  assistive_program.py list             every accessible thing, as JSON
-  assistive_program.py act NAME ACTION  does an action of the thing of that name
-  assistive_program.py set NAME VALUE   sets the value of the thing of that name
+It reads commands from standard input, each a JSON list on a line, and answers each with a line:
+  ["list"]               every accessible thing
+  ["names"]              their names, which takes less time
+  ["find", NAME]         the things of that name
+  ["act", NAME, ACTION]  does an action of the thing of that name; answers whether it could
+  ["set", NAME, VALUE]   sets the value of the thing of that name; answers whether it could
+The answer is null when something left the window while it was looked at.
 """
 
 import json
@@ -85,19 +89,24 @@ def set_value(found, name, value):
     return False
 
 
-def main():
+def perform(what, *arguments):
     root = program()
     found = list(descendants(root)) if root else []
-    if sys.argv[1] == "list":
-        print(json.dumps([described(item) for item in found]))
-        return 0
-    do = set_value if sys.argv[1] == "set" else act
-    return 0 if do(found, *sys.argv[2:]) else 1
+    if what == "list":
+        return [described(item) for item in found]
+    if what == "names":
+        return [item.get_name() for item in found]
+    if what == "find":
+        return [described(item) for item in found if item.get_name() == arguments[0]]
+    return {"act": act, "set": set_value}[what](found, *arguments)
 
 
-try:
-    sys.exit(main())
-except GLib.Error as gone:
-    # Something left the card while it was looked at.
-    print(gone)
-    sys.exit(75)
+def answer(command):
+    try:
+        return perform(*command)
+    except GLib.Error:
+        return None
+
+
+for line in sys.stdin:
+    print(json.dumps(answer(json.loads(line))), flush=True)

@@ -11,6 +11,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
 
 from panel_checks import show_one, wait_for_card  # noqa: E402
 from privatedesktop import PrivateDesktop, Program  # noqa: E402
+from screens import Screens  # noqa: E402
 from watched_folder import WatchedFolder  # noqa: E402
 from web_page import WebPage  # noqa: E402
 
@@ -99,6 +100,12 @@ def card(desktop, vantle, folder):
     vantle.write_settings(removeAfterUse="true", deleteAfterUse="false")
     vantle.start_watching()
     return wait_for_card(desktop, show_one(desktop, folder))
+
+
+@pytest.fixture
+def screens(desktop, vantle):
+    """Its windows, for a program that offers itself to assistive programs."""
+    return Screens(desktop, vantle)
 
 
 @pytest.fixture

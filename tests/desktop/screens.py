@@ -20,8 +20,8 @@ class Screens:
 
     def found(self, name):
         """The control of that name; None while there is none."""
-        for item in self.assistant.found():
-            if item["name"] == name and item["role"] in _CONTROLS and "showing" in item["states"]:
+        for item in self.assistant.find(name):
+            if item["role"] in _CONTROLS and "showing" in item["states"]:
                 return item
         return None
 
@@ -70,6 +70,15 @@ class Screens:
 
     def wait_for_setting(self, key, value):
         wait_until(lambda: self.setting(key) == value, f"{key} is {value}")
+
+    def thumbnail_is_shown(self):
+        """Whether the screenshot tool is to show its own."""
+        path = self._vantle.config_folder / "com.apple.screencapture.conf"
+        return "show-thumbnail=false" not in path.read_text() if path.exists() else True
+
+    def starts_at_login(self):
+        entry = self._vantle.config_folder.parent / "autostart/org.vantle.Vantle.desktop"
+        return entry.exists() and "Hidden=true" not in entry.read_text()
 
     def open_settings(self):
         self._vantle.command("--settings")

@@ -26,14 +26,9 @@ def is_closed(desktop, alert):
     return alert not in desktop.screen.dialogs()
 
 
-def state_names(desktop, window):
-    atoms = desktop.screen.window_property(window, "_NET_WM_STATE") or []
-    return {desktop.screen.atom_name(atom) for atom in atoms}
-
-
 def test_it_comes_to_the_front_with_the_keyboard(desktop, vantle, alert):
     wait_until(lambda: desktop.screen.active_window() == alert, "it has the keyboard")
-    assert "_NET_WM_STATE_ABOVE" in state_names(desktop, alert)
+    assert "_NET_WM_STATE_ABOVE" in desktop.screen.states(alert)
     # Once for three failures to start: they are the same one.
     desktop.screen.keyboard.press("Escape")
     wait_until(lambda: is_closed(desktop, alert), "it closes")
@@ -44,7 +39,7 @@ def test_it_comes_to_the_front_with_the_keyboard(desktop, vantle, alert):
 def test_it_stays_out_of_the_taskbar_of_a_program_without_windows(desktop, vantle, alert):
     wait_until(
         lambda: {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"}
-        <= state_names(desktop, alert),
+        <= desktop.screen.states(alert),
         "it stays out of the taskbar",
     )
 
@@ -56,7 +51,7 @@ def test_it_stands_in_the_taskbar_of_a_program_in_the_dock(desktop, vantle):
     vantle.start()
     window = wait_until(desktop.screen.dialogs, "the alert opens")[0]
     wait_until(lambda: desktop.screen.active_window() == window, "it has the keyboard")
-    assert "_NET_WM_STATE_SKIP_TASKBAR" not in state_names(desktop, window)
+    assert "_NET_WM_STATE_SKIP_TASKBAR" not in desktop.screen.states(window)
 
 
 def test_the_program_ends_with_an_open_alert(desktop, vantle, alert):

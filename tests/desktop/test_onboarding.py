@@ -7,7 +7,6 @@ from assistant import ENVIRONMENT
 from panel_checks import show_one
 from privatedesktop import Program, wait_until
 from screens import Screens
-from test_settings import starts_at_login, thumbnail_is_shown
 
 
 @pytest.fixture
@@ -15,11 +14,6 @@ def vantle(desktop, binary):
     program = Program(binary, desktop, environment=ENVIRONMENT)
     yield program
     program.stop()
-
-
-@pytest.fixture
-def screens(desktop, vantle):
-    return Screens(desktop, vantle)
 
 
 def start(desktop, vantle):
@@ -42,11 +36,11 @@ def test_from_a_fresh_home_to_the_first_tile_by_mouse(desktop, vantle, folder, s
     # Merely opening it has applied the recommended settings.
     assert screens.setting("removeAfterUse") == "true"
     assert screens.setting("corner") == "bottomRight"
-    assert starts_at_login(desktop) and not thumbnail_is_shown(vantle)
+    assert screens.starts_at_login() and not screens.thumbnail_is_shown()
     screens.click("Get Started")
     screens.wait_for_text("Vantle can read this folder")
     screens.click("Open Vantle at login")
-    wait_until(lambda: not starts_at_login(desktop), "it does not start at login")
+    wait_until(lambda: not screens.starts_at_login(), "it does not start at login")
     screens.choose("Show panel in", "Top Left")
     screens.click("Back")
     screens.wait_for_text("Welcome to Vantle")
@@ -116,6 +110,25 @@ def test_closed_it_comes_back_until_it_is_finished(desktop, vantle, screens):
     vantle.wait_for_end()
     start(desktop, vantle)
     screens.wait_for_text("Welcome to Vantle")
+
+
+def test_it_is_moved_by_its_background(desktop, vantle):
+    window = start(desktop, vantle)
+    before = desktop.screen.area(window)
+    pointer = desktop.screen.pointer
+    pointer.move(before.x + 20, before.y + 20)
+    pointer.press()
+    turn = 0
+
+    def is_moved():
+        # The window manager takes over at some moment on the way.
+        nonlocal turn
+        turn += 1
+        pointer.move(before.x + 20 + min(100, 10 * turn) + turn % 3, before.y + 20)
+        return desktop.screen.area(window).x > before.x + 20
+
+    wait_until(is_moved, "it is moved", interval=0.05)
+    pointer.release()
 
 
 def test_a_folder_that_is_not_there(desktop, vantle, screens):

@@ -1,13 +1,10 @@
 """The settings' window, as a person uses it: what it changes in the file and on the desktop."""
 
-import pathlib
-
 import pytest
 
 from assistant import ENVIRONMENT
 from panel_checks import expected_frame, show_one
 from privatedesktop import Program, wait_until, wait_until_still
-from screens import Screens
 from using import press_with_control, window_titled
 
 CHOOSER = "Choose where macOS should save screenshots and screen recordings."
@@ -28,44 +25,26 @@ def vantle(desktop, binary):
     program.stop()
 
 
-@pytest.fixture
-def screens(desktop, vantle):
-    return Screens(desktop, vantle)
-
-
-def thumbnail_is_shown(vantle):
-    path = vantle.config_folder / "com.apple.screencapture.conf"
-    return "show-thumbnail=false" not in path.read_text() if path.exists() else True
-
-
-def autostart_entry(desktop):
-    folder = pathlib.Path(desktop.environment["XDG_CONFIG_HOME"], "autostart")
-    return folder / "org.vantle.Vantle.desktop"
-
-
-def starts_at_login(desktop):
-    entry = autostart_entry(desktop)
-    return entry.exists() and "Hidden=true" not in entry.read_text()
-
-
 def is_in_taskbar(desktop, window):
-    atoms = desktop.screen.window_property(window, "_NET_WM_STATE") or []
-    names = {desktop.screen.atom_name(atom) for atom in atoms}
-    return "_NET_WM_STATE_SKIP_TASKBAR" not in names
+    return "_NET_WM_STATE_SKIP_TASKBAR" not in desktop.screen.states(window)
 
 
 def test_every_setting_by_mouse(desktop, vantle, folder, screens):
     vantle.start_watching()
     window = screens.open_settings()
-    assert not is_in_taskbar(desktop, window)
+    wait_until(lambda: not is_in_taskbar(desktop, window), "it stays out of the taskbar")
+    screens.choose("Change", "~/Screenshots")
+    vantle.wait_for_log(f"watching {desktop.home / 'Screenshots'} ")
+    screens.choose("Change", "Desktop (macOS default)")
+    screens.wait_for_text("~/Desktop")
     for name, (key, value) in TOGGLES.items():
         screens.click(name)
         screens.wait_for_setting(key, value)
     wait_until(lambda: is_in_taskbar(desktop, window), "it stands in the taskbar")
     screens.click("Hide the built-in macOS thumbnail")
-    wait_until(lambda: not thumbnail_is_shown(vantle), "the thumbnail is off")
+    wait_until(lambda: not screens.thumbnail_is_shown(), "the thumbnail is off")
     screens.click("Open Vantle at login")
-    wait_until(lambda: starts_at_login(desktop), "it starts at login")
+    wait_until(lambda: screens.starts_at_login(), "it starts at login")
     screens.click("Keep it in Vantle")
     screens.wait_for_setting("removeAfterUse", "false")
     screens.click(KEEP)
@@ -123,9 +102,9 @@ def test_every_setting_by_keyboard(desktop, vantle, folder, screens):
     step("Down", "Return")  # Show panel in: Bottom Left
     screens.wait_for_setting("corner", "bottomLeft")
     step("Tab", "space")
-    wait_until(lambda: not thumbnail_is_shown(vantle), "the thumbnail is off")
+    wait_until(lambda: not screens.thumbnail_is_shown(), "the thumbnail is off")
     step("Tab", "space")
-    wait_until(lambda: starts_at_login(desktop), "it starts at login")
+    wait_until(lambda: screens.starts_at_login(), "it starts at login")
     step("Tab", "space")
     screens.wait_for_setting("showInDock", "true")
     step("Tab", "Return")  # Test with a sample
@@ -144,9 +123,9 @@ def test_every_setting_by_an_assistive_program(desktop, vantle, screens):
         screens.wait_for_setting(key, value)
         assert screens.is_on(name) == (value == "true")
     act("Hide the built-in macOS thumbnail")
-    wait_until(lambda: not thumbnail_is_shown(vantle), "the thumbnail is off")
+    wait_until(lambda: not screens.thumbnail_is_shown(), "the thumbnail is off")
     act("Open Vantle at login")
-    wait_until(lambda: starts_at_login(desktop), "it starts at login")
+    wait_until(lambda: screens.starts_at_login(), "it starts at login")
     act("Keep it in Vantle")
     screens.wait_for_setting("removeAfterUse", "false")
     assert screens.is_on("Keep it in Vantle") and not screens.is_on("Remove it from Vantle")

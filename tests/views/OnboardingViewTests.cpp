@@ -4,6 +4,7 @@
 #include <cerrno>
 
 #include "ScreenStage.h"
+#include "panel/views/Appearance.h"
 
 namespace vantle {
 namespace {
@@ -142,6 +143,48 @@ TEST_F(OnboardingViewTest, AStepOutsideIsTheNearest) {
     EXPECT_TRUE(has(QStringLiteral("You're all set")));
     openOnboarding(-9);
     EXPECT_TRUE(has(QStringLiteral("Welcome to Vantle")));
+}
+
+TEST_F(OnboardingViewTest, TheNextStepArrivesFromItsSideOnASpring) {
+    openOnboarding();
+    const QQuickItem& content = *view().findChild<QQuickItem*>(QStringLiteral("content"));
+    rest();
+    EXPECT_EQ(content.opacity(), 1);
+    click(QStringLiteral("Get Started"));
+    EXPECT_LT(content.opacity(), 0.2);
+    EXPECT_GT(content.x(), 40);
+    rest();
+    EXPECT_EQ(content.opacity(), 1);
+    EXPECT_EQ(content.x(), 0);
+    click(QStringLiteral("Back"));
+    EXPECT_LT(content.x(), -40);
+}
+
+TEST_F(OnboardingViewTest, WithLessMotionItOnlyFades) {
+    DesktopAppearance desktop;
+    desktop.look.set({.reducesMotion = true});
+    Appearance::follow(&desktop);
+    openOnboarding();
+    const QQuickItem& content = *view().findChild<QQuickItem*>(QStringLiteral("content"));
+    click(QStringLiteral("Get Started"));
+    EXPECT_LT(content.opacity(), 0.2);
+    EXPECT_EQ(content.x(), 0);
+    close();
+    Appearance::follow(nullptr);
+}
+
+TEST_F(OnboardingViewTest, WhatDoesNotFitIsScrolledByKeys) {
+    openOnboarding(0, {480, 300});
+    QQuickItem& area = *view().findChild<QQuickItem*>(QStringLiteral("area"));
+    const auto scrolled = [&] { return area.property("contentY").toDouble(); };
+    press(Qt::Key_Down);
+    EXPECT_EQ(scrolled(), 40);
+    press(Qt::Key_End);
+    EXPECT_EQ(scrolled(), area.property("contentHeight").toDouble() - area.height());
+    press(Qt::Key_PageUp);
+    press(Qt::Key_Home);
+    press(Qt::Key_Up);
+    EXPECT_EQ(scrolled(), 0);
 }
 
 TEST_F(OnboardingViewTest, ASnapshotIsOfTheStepThatIsSeen) {

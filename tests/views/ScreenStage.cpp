@@ -72,6 +72,7 @@ void ScreenStage::openOnboarding(int step, Size size) {
 
 QImage ScreenStage::picture() {
     settle();
+    rest();
     return window_->grabWindow();
 }
 

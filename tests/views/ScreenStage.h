@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "ManualFrames.h"
 #include "fakes/FakeApplication.h"
 #include "fakes/FakeFileSystem.h"
 #include "fakes/FakeFolderChooser.h"
@@ -29,6 +30,8 @@ public:
     void openSettings(Size size = {480, 860});
     void openOnboarding(int step = 0, Size size = {600, 900});
 
+    void close() { window_.reset(); }
+
     ScreenWindow& window() { return *window_; }
     QQuickItem& view() { return *window_->rootObject(); }
     QImage picture();
@@ -46,7 +49,10 @@ public:
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// Handles what is on the event loop, and on the virtual one.
     void settle();
+    /// Lets all motion come to rest.
+    void rest() { frames.settle(); }
 
+    ManualFrames frames;
     fakes::VirtualTime time;
     Platform platform;
     fakes::FakeFileSystem* files = nullptr;

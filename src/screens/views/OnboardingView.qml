@@ -7,7 +7,7 @@ Rectangle {
     id: view
 
     required property OnboardingModel onboarding
-    property int shownStep: onboarding.step
+    readonly property int step: onboarding.step
     // Which way the content comes from: 1 the next one, -1 the one before.
     property int direction: 1
 
@@ -19,23 +19,16 @@ Rectangle {
 
     Keys.onReturnPressed: onboarding.forward()
     Keys.onEnterPressed: onboarding.forward()
+    Keys.onPressed: event => area.scrollBy(event)
 
-    onShownStepChanged: {
-        const before = content.step;
-        if (shownStep === before) return;
-        direction = (shownStep > before ? 1 : -1) * (Style.isMirrored ? -1 : 1);
-        content.step = shownStep;
+    Component.onCompleted: content.step = step
+    onStepChanged: {
+        direction = (step > content.step ? 1 : -1) * (Style.isMirrored ? -1 : 1);
+        content.step = step;
         area.contentY = 0;
         arrival.jumpTo(0);
         arrival.target = 1;
         forward.forceActiveFocus();
-    }
-
-    // The desktop moves the window by its background, too.
-    DragHandler {
-        target: null
-        grabPermissions: PointerHandler.TakeOverForbidden
-        onActiveChanged: if (active) view.Window.window.startSystemMove()
     }
 
     Spring {
@@ -54,13 +47,15 @@ Rectangle {
 
         Loader {
             id: content
+            objectName: "content"
 
-            property int step: view.shownStep
+            // Which one is seen; none at first.
+            property int step: -1
 
             x: Appearance.reducesMotion ? 0 : (1 - arrival.value) * 60 * view.direction
             width: area.width
             opacity: Math.min(1, Math.max(0, arrival.value))
-            sourceComponent: [welcome, settings, done][step]
+            sourceComponent: step < 0 ? null : [welcome, settings, done][step]
         }
     }
 
@@ -97,6 +92,8 @@ Rectangle {
         y: parent.height - height
         width: parent.width
         height: forward.height + 2 * margin
+
+        WindowMover {}
 
         Separator {
             visible: area.contentHeight > area.height

@@ -9,6 +9,7 @@ Flickable {
     default property alias content: holder.data
     readonly property Item focused: Window.activeFocusItem
 
+    objectName: "area"
     contentWidth: width
     contentHeight: Math.max(height, holder.childrenRect.height)
     boundsBehavior: Flickable.StopAtBounds
@@ -16,6 +17,20 @@ Flickable {
     clip: true
 
     onFocusedChanged: if (focused) reveal(focused)
+
+    // For keys that nobody else wants.
+    function scrollBy(event) {
+        const line = 40;
+        const page = height - line;
+        const distance = {
+            [Qt.Key_Up]: -line, [Qt.Key_Down]: line,
+            [Qt.Key_PageUp]: -page, [Qt.Key_PageDown]: page,
+            [Qt.Key_Home]: -contentHeight, [Qt.Key_End]: contentHeight
+        }[event.key];
+        if (distance === undefined) return;
+        contentY = Math.max(0, Math.min(contentHeight - height, contentY + distance));
+        event.accepted = true;
+    }
 
     // Scrolls no further than it has to.
     function reveal(item) {

@@ -15,6 +15,12 @@ Item {
 
     signal wanted(index: int)
 
+    // Gives the keyboard to the option of that number, if there is one.
+    function goTo(index) {
+        const option = options.itemAt(index);
+        if (option) option.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     width: parent ? parent.width : 0
     implicitHeight: grid.height + 4
 
@@ -54,6 +60,8 @@ Item {
         columns: choice.fits ? choice.titles.length : 1
 
         Repeater {
+            id: options
+
             model: choice.titles
 
             T.RadioButton {
@@ -78,8 +86,10 @@ Item {
                     checked = Qt.binding(() => index === choice.current); // qmllint disable unqualified
                     choice.wanted(index); // qmllint disable unqualified
                 }
-                Keys.onLeftPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-                Keys.onRightPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                Keys.onUpPressed: choice.goTo(index - 1) // qmllint disable unqualified
+                Keys.onDownPressed: choice.goTo(index + 1) // qmllint disable unqualified
+                Keys.onLeftPressed: choice.goTo(index + (mirrored ? 1 : -1)) // qmllint disable unqualified
+                Keys.onRightPressed: choice.goTo(index + (mirrored ? -1 : 1)) // qmllint disable unqualified
 
                 background: Item {
                     PlateView {

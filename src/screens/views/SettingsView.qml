@@ -16,6 +16,7 @@ Rectangle {
     LayoutMirroring.childrenInherit: true
 
     Keys.onEscapePressed: Window.window.close()
+    Keys.onPressed: event => area.scrollBy(event)
 
     ScrollArea {
         id: area

@@ -12,6 +12,8 @@ Item {
 
     height: Math.max(room, column.implicitHeight + 2 * margin)
 
+    WindowMover {}
+
     Column {
         id: column
 
