@@ -99,6 +99,9 @@ TEST_F(SettingsViewTest, TheSliderNeverOffersValuesBelow3OrAbove120) {
     EXPECT_EQ(settings->dismissAfter.value(), 120);
     item.setProperty("value", 1000);
     EXPECT_EQ(settings->dismissAfter.value(), 120);
+    settings->dismissAfter.set(40);
+    settle();
+    EXPECT_EQ(sliderValue(), 40);
 }
 
 TEST_F(SettingsViewTest, TheSliderGoesInWholeSeconds) {

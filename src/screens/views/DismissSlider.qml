@@ -66,15 +66,12 @@ Column {
                 value = Qt.binding(() => block.settings.dismissAfter);
         }
         Keys.onPressed: event => {
-            const large = event.key === Qt.Key_PageUp ? 10 : event.key === Qt.Key_PageDown ? -10 : 0;
-            if (event.key === Qt.Key_Home)
-                value = from;
-            else if (event.key === Qt.Key_End)
-                value = to;
-            else if (large !== 0)
-                value = Math.min(to, Math.max(from, value + large));
-            else
-                return;
+            const places = {
+                [Qt.Key_Home]: from, [Qt.Key_End]: to,
+                [Qt.Key_PageUp]: value + 10, [Qt.Key_PageDown]: value - 10
+            };
+            if (!(event.key in places)) return;
+            block.settings.dismissAfter = Math.min(to, Math.max(from, places[event.key]));
             event.accepted = true;
         }
 
