@@ -117,14 +117,6 @@ def test_ends_when_asked_with_a_tile_on_the_screen(desktop, vantle, folder):
     wait_until(lambda: desktop.screen.panel() is None, "the panel is gone")
 
 
-def test_first_start_begins_to_watch(desktop, vantle, folder):
-    vantle.settings_file.unlink()
-    vantle.start_watching()
-    folder.save("shot.png")
-    folder.wait_for("shot.png")
-    wait_until(desktop.screen.panel, "the panel appears")
-
-
 def test_snapshot_of_the_card(desktop, folder, vantle, binary):
     path = desktop.home / "card.png"
     program = Program(

@@ -3,7 +3,7 @@
 import configparser
 import time
 
-from privatedesktop import Program, wait_until
+from privatedesktop import Program, wait_until, wait_until_still
 
 TRUTHS = ("true", "false")
 KEYS = {
@@ -33,20 +33,21 @@ def check_readable(path):
 
 
 def test_killed_while_it_writes(desktop, binary):
-    """Killed at ever later moments of a first start, which is when it writes its settings."""
+    """Killed at ever later moments of a first start, which writes the recommended settings."""
     for moment in range(16):
         program = Program(binary, desktop, name=f"vantle-{moment}")
         program.settings_file.unlink(missing_ok=True)
         program.start()
         # No condition to wait for: the moments are to be spread over the start.
-        time.sleep(moment * 0.012)
+        time.sleep(moment * 0.025)
         program.kill()
         check_readable(program.settings_file)
         left = [path.name for path in program.config_folder.glob("*.damaged")]
         assert left == []
     final = Program(binary, desktop, name="vantle-final")
     try:
-        final.start_watching()
+        final.start()
+        wait_until(desktop.screen.dialogs, "the onboarding opens")
         assert "damaged" not in final.log_text()
         check_readable(final.settings_file)
     finally:
@@ -70,7 +71,14 @@ def test_killed_while_running(desktop, vantle, binary):
 def test_damaged_file_means_defaults(desktop, vantle, folder):
     damaged = b"\x00\xff[Gen\x00eral\ncorner=topLeft\n\x80\x81=\x00" + bytes(range(256))
     vantle.settings_file.write_bytes(damaged)
-    vantle.start_watching()
+    vantle.start()
+    # It knows no more that it was introduced.
+    window = wait_until(desktop.screen.dialogs, "the onboarding opens")[0]
+    wait_until(lambda: desktop.screen.active_window() == window, "it has the keyboard")
+    for _ in range(3):
+        desktop.screen.keyboard.press("Return")
+    vantle.wait_for_log("watching ")
+    wait_until_still(vantle.log_text, "the start", interval=0.05)
     lines = [line for line in vantle.log_lines() if "vantle.conf" in line]
     assert len(lines) == 1, lines
     kept = vantle.settings_file.with_name("vantle.conf.damaged")
