@@ -85,7 +85,9 @@ Column {
 
             Rectangle {
                 x: slider.mirrored ? parent.width - width : 0
-                width: slider.position * parent.width
+                // As far as the middle of the handle.
+                width: slider.position * (parent.width - slider.handle.width)
+                       + slider.handle.width / 2
                 height: parent.height
                 radius: parent.radius
                 color: Appearance.accent

@@ -18,12 +18,12 @@ Item {
     implicitWidth: Math.round(38 * Style.scale)
     implicitHeight: Math.round(22 * Style.scale)
 
-    Rectangle {
+    PlateView {
         anchors.fill: parent
-        radius: height / 2
-        color: track.isOn ? Appearance.accent : Style.faint(Appearance.isDark ? 0.24 : 0.2)
+        cornerRadius: height / 2
+        fill: track.isOn ? Appearance.accent : Style.faint(Appearance.isDark ? 0.24 : 0.2)
 
-        Behavior on color {
+        Behavior on fill {
             enabled: track.moves
             ColorAnimation { duration: 140 }
         }
