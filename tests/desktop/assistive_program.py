@@ -27,7 +27,7 @@ STATES = {
     "focusable": Atspi.StateType.FOCUSABLE,
     "showing": Atspi.StateType.SHOWING,
     "checked": Atspi.StateType.CHECKED,
-    "enabled": Atspi.StateType.ENABLED,
+    "read only": Atspi.StateType.READ_ONLY,
 }
 
 

@@ -129,10 +129,13 @@ def test_every_setting_by_an_assistive_program(desktop, vantle, screens):
     act("Keep it in Vantle")
     screens.wait_for_setting("removeAfterUse", "false")
     assert screens.is_on("Keep it in Vantle") and not screens.is_on("Remove it from Vantle")
+    slider = "Otherwise dismiss after"
+    assert "read only" in screens.control(slider)["states"]
     act(KEEP)
-    screens.assistant.set_value("Otherwise dismiss after", 42)
+    assert "read only" not in screens.control(slider)["states"]
+    screens.assistant.set_value(slider, 42)
     screens.wait_for_setting("dismissAfter", "42")
-    assert screens.control("Otherwise dismiss after")["description"] == "42 seconds"
+    assert screens.control(slider)["description"] == "42 seconds"
     act("Show panel in")
     screens.control("Top Right")
     act("Top Right")

@@ -56,6 +56,8 @@ Column {
 
         Accessible.name: qsTr("Otherwise dismiss after")
         Accessible.description: block.settings.dismissAfterText
+        // The toolkit does not tell that it is disabled.
+        Accessible.readOnly: !enabled
 
         // Also what an assistive program sets.
         onValueChanged: {
