@@ -143,9 +143,11 @@ require_cmake() {
   fi
 }
 
-# build PRESET: configures and builds a preset of CMakePresets.json.
+# build PRESET [ARGUMENTS...]: configures and builds a preset of CMakePresets.json; the arguments go
+# to the build.
 build() {
   local preset=$1 started=$SECONDS log=$logs/$1-configure.log
+  shift
   require_cmake
   mkdir -p "$logs"
   say "Building the preset $preset"
@@ -153,7 +155,7 @@ build() {
     fail_with_log "$log" "The preset $preset could not be configured." \
       "The message above says what is missing. After an update of the system, remove" \
       "build/$preset and run this again."
-  (cd "$root" && cmake --build --preset "$preset" --parallel "$(build_jobs)") </dev/null ||
+  (cd "$root" && cmake --build --preset "$preset" --parallel "$(build_jobs)" "$@") </dev/null ||
     fail "The preset $preset could not be built." "The compiler's message is above."
   say "Built $preset in $((SECONDS - started)) s."
 }
