@@ -10,9 +10,9 @@ namespace vantle {
 
 /// What a folder chooser is to ask for: one folder, which it may also create.
 struct FolderRequest {
-    Url directory;        ///< Where it starts.
-    std::string prompt;   ///< What its button says.
-    std::string message;  ///< What the folder is for.
+    Url directory;            ///< Where it starts.
+    std::string acceptLabel;  ///< What its button says.
+    std::string message;      ///< What the folder is for.
 };
 
 /// The desktop's own dialog for choosing a folder. Main thread only.

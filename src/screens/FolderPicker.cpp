@@ -33,7 +33,7 @@ void FolderPicker::choose() {
     context_.application.activate();
     const FolderRequest request{
         .directory = context_.settings.screenshotFolder.value(),
-        .prompt = "Use This Folder",
+        .acceptLabel = "Use This Folder",
         .message = "Choose where macOS should save screenshots and screen recordings."};
     context_.chooser.choose(request,
                             [&settings = context_.settings](const std::optional<Url>& folder) {

@@ -54,7 +54,7 @@ TEST_F(FolderPickerTest, TheChooserStartsInTheCurrentFolderInFrontOfOtherProgram
     ASSERT_EQ(chooser.requests.size(), 1u);
     const FolderRequest& request = chooser.requests.front();
     EXPECT_EQ(request.directory, Url::file("/home/user/Screenshots"));
-    EXPECT_EQ(request.prompt, "Use This Folder");
+    EXPECT_EQ(request.acceptLabel, "Use This Folder");
     EXPECT_EQ(request.message, "Choose where macOS should save screenshots and screen recordings.");
     EXPECT_EQ(application.activations, 1);
 }

@@ -15,7 +15,7 @@ constexpr int nothingChosen = 1;  // the exit status
 
 QStringList arguments(const FolderRequest& request) {
     QStringList all{QFile::decodeName(request.directory.path().c_str()),
-                    QString::fromStdString(request.prompt),
+                    QString::fromStdString(request.acceptLabel),
                     QString::fromStdString(request.message)};
     if (const QWindow* window = QGuiApplication::focusWindow())
         all << QString::number(window->winId());

@@ -96,10 +96,11 @@ void PortalFolderChooser::open(const FolderRequest& request) {
     const QByteArray directory(request.directory.path().c_str(),
                                static_cast<qsizetype>(request.directory.path().size() + 1));
     message << parentWindow() << QString::fromStdString(request.message)
-            << QVariantMap{{QStringLiteral("handle_token"), token},
-                           {QStringLiteral("accept_label"), QString::fromStdString(request.prompt)},
-                           {QStringLiteral("directory"), true},
-                           {QStringLiteral("current_folder"), directory}};
+            << QVariantMap{
+                   {QStringLiteral("handle_token"), token},
+                   {QStringLiteral("accept_label"), QString::fromStdString(request.acceptLabel)},
+                   {QStringLiteral("directory"), true},
+                   {QStringLiteral("current_folder"), directory}};
     callBus(bus_, message, *this, [this](const QDBusMessage& reply) {
         if (!isError(reply)) return;
         systemLog("Vantle: the desktop shows no folder chooser: " +

@@ -1,7 +1,7 @@
-// vantle-folder-dialog DIRECTORY PROMPT MESSAGE [WINDOW]
+// vantle-folder-dialog DIRECTORY LABEL MESSAGE [WINDOW]
 //
 // Asks for a folder with the dialog of the desktop's toolkit where that has one, else with that of
-// ours. It starts in DIRECTORY, PROMPT stands on its button and MESSAGE in its title; it stays
+// ours. It starts in DIRECTORY, LABEL stands on its button and MESSAGE in its title; it stays
 // above the X11 window of the number WINDOW. Writes the path as it is, without anything behind it,
 // to the standard output and ends with 0; ends with 1 when nothing was chosen. It ends with the
 // program that started it.
@@ -43,7 +43,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setApplicationDisplayName(QString());
     QGuiApplication::setDesktopFileName(QStringLiteral("org.vantle.Vantle"));
     if (argc < 4) {
-        std::fputs("Usage: vantle-folder-dialog DIRECTORY PROMPT MESSAGE [WINDOW]\n", stderr);
+        std::fputs("Usage: vantle-folder-dialog DIRECTORY LABEL MESSAGE [WINDOW]\n", stderr);
         return wrongCommandLine;
     }
     QFileDialog dialog(nullptr, QString::fromUtf8(argv[3]), QFile::decodeName(argv[1]));
