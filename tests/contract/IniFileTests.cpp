@@ -88,11 +88,11 @@ TEST(IniDocumentTest, WhatIsNotAskedForStaysAsItIsWritten) {
         "# Mine\n[Other]\na=1\n\n[General]\nkey = old ; not a comment\n; note\nb=2\n\n[Last]\nc=3";
     auto document = IniDocument::parse(before);
     ASSERT_TRUE(document.has_value());
-    EXPECT_EQ(document->text(), before + "\n");
+    EXPECT_EQ(document->text(), before);
     document->set("key", 5.0);
     document->set("fresh", true);
     EXPECT_EQ(document->text(),
-              "# Mine\n[Other]\na=1\n\n[General]\nkey=5\n; note\nb=2\n\nfresh=true\n[Last]\nc=3\n");
+              "# Mine\n[Other]\na=1\n\n[General]\nkey=5\n; note\nb=2\nfresh=true\n\n[Last]\nc=3");
 }
 
 class IniFileTest : public testing::Test {

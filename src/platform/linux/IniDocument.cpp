@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <utility>
 
 #include "platform/PreferenceConversion.h"
 
@@ -11,7 +10,7 @@ namespace vantle {
 namespace {
 
 constexpr std::string_view generalGroup = "General";
-constexpr std::string_view byteOrderMark = "\xef\xbb\xbf";
+constexpr std::string_view beforeTheFirstGroup;
 
 std::string_view trimmed(std::string_view text) {
     const auto isBlank = [](char character) { return character == ' ' || character == '\t'; };
@@ -98,70 +97,27 @@ std::optional<IniDocument> IniDocument::parse(std::string_view text) {
             return isControl(one) && one != '\n' && one != '\r' && one != '\t';
         }))
         return std::nullopt;
-    if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
     IniDocument document;
-    std::string group(generalGroup);
-    while (!text.empty()) {
-        const auto end = std::min(text.find('\n'), text.size());
-        auto raw = text.substr(0, end);
-        if (raw.ends_with('\r')) raw.remove_suffix(1);
-        auto line = parseLine(raw, group);
-        if (!line) return std::nullopt;
-        document.lines_.push_back(std::move(*line));
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
+    document.file_ = KeyFile(text);
+    if (!document.file_.isWellFormed()) return std::nullopt;
     return document;
 }
 
-std::optional<IniDocument::Line> IniDocument::parseLine(std::string_view raw, std::string& group) {
-    Line line{.raw = std::string(raw)};
-    const auto content = trimmed(raw);
-    if (content.empty() || content.front() == '#' || content.front() == ';') return line;
-    if (content.front() == '[') {
-        if (content.back() != ']') return std::nullopt;
-        group = content.substr(1, content.size() - 2);
-        return line;
-    }
-    const auto equals = content.find('=');
-    if (equals == std::string_view::npos || equals == 0) return std::nullopt;
-    if (group == generalGroup) {
-        line.key = trimmed(content.substr(0, equals));
-        line.value = trimmed(content.substr(equals + 1));
-    }
-    return line;
-}
-
 std::optional<PreferenceValue> IniDocument::value(std::string_view key) const {
-    // Of a key that stands twice the last one counts.
-    for (auto line = lines_.rbegin(); line != lines_.rend(); ++line)
-        if (line->key == key) return parsed(line->value);
+    for (const auto group : {generalGroup, beforeTheFirstGroup})
+        if (const auto written = file_.value(group, key)) return parsed(*written);
     return std::nullopt;
 }
 
 void IniDocument::set(std::string_view key, const PreferenceValue& value) {
-    Line line{.key = std::string(key)};
-    line.value = std::visit([](const auto& typed) { return written(typed); }, value);
-    line.raw = line.key + "=" + line.value;
-
-    const auto same = std::ranges::find(lines_.rbegin(), lines_.rend(), key, &Line::key);
-    if (same != lines_.rend()) {
-        *same = std::move(line);
-        return;
-    }
-    const auto isGeneral = [](const Line& one) { return trimmed(one.raw) == "[General]"; };
-    auto header = std::ranges::find_if(lines_, isGeneral);
-    if (header == lines_.end()) header = lines_.insert(lines_.begin(), Line{.raw = "[General]"});
-    lines_.insert(std::find_if(header + 1, lines_.end(), isGroup), std::move(line));
-}
-
-bool IniDocument::isGroup(const Line& line) {
-    return trimmed(line.raw).starts_with('[');
+    const bool standsBefore =
+        !file_.value(generalGroup, key) && file_.value(beforeTheFirstGroup, key);
+    file_.set(standsBefore ? beforeTheFirstGroup : generalGroup, key,
+              std::visit([](const auto& typed) { return written(typed); }, value));
 }
 
 std::string IniDocument::text() const {
-    std::string text;
-    for (const Line& line : lines_) text += line.raw + "\n";
-    return text;
+    return file_.text();
 }
 
 }  // namespace vantle

@@ -3,9 +3,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/PreferenceValue.h"
+#include "platform/linux/KeyFile.h"
 
 namespace vantle {
 
@@ -29,16 +29,7 @@ public:
     std::string text() const;
 
 private:
-    struct Line {
-        std::string raw;
-        std::string key;    ///< Of a line in [General]; otherwise empty.
-        std::string value;  ///< As written.
-    };
-
-    static bool isGroup(const Line& line);
-    static std::optional<Line> parseLine(std::string_view raw, std::string& group);
-
-    std::vector<Line> lines_;
+    KeyFile file_;
 };
 
 }  // namespace vantle

@@ -6,8 +6,9 @@
 #include <array>
 #include <fstream>
 #include <iterator>
-#include <sstream>
 #include <string>
+
+#include "support/Split.h"
 
 namespace vantle {
 namespace {
@@ -71,8 +72,7 @@ Url UserDirectories::configuration() const {
 
 std::vector<Url> UserDirectories::systemConfiguration() const {
     std::vector<Url> folders;
-    std::istringstream listed(environment_("XDG_CONFIG_DIRS").value_or(""));
-    for (std::string folder; std::getline(listed, folder, ':');)
+    for (const auto& folder : split(environment_("XDG_CONFIG_DIRS").value_or(""), ':'))
         if (folder.starts_with('/')) folders.push_back(Url::file(folder));
     if (folders.empty()) folders.push_back(Url::file("/etc/xdg"));
     return folders;
@@ -89,9 +89,17 @@ Url UserDirectories::baseDirectory(const std::string& variable, std::string_view
 }
 
 Url UserDirectories::desktop() const {
+    return named("XDG_DESKTOP_DIR").value_or(home().appending("Desktop"));
+}
+
+std::optional<Url> UserDirectories::pictures() const {
+    return named("XDG_PICTURES_DIR");
+}
+
+std::optional<Url> UserDirectories::named(std::string_view key) const {
     std::ifstream file(configuration().appending("user-dirs.dirs").path(), std::ios::binary);
     const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    return parse(text, "XDG_DESKTOP_DIR", home()).value_or(home().appending("Desktop"));
+    return parse(text, key, home());
 }
 
 std::optional<Url> UserDirectories::parse(std::string_view text, std::string_view key,

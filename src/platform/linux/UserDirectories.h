@@ -30,11 +30,15 @@ public:
     /// The Desktop folder; ~/Desktop when the settings do not name one.
     Url desktop() const;
 
+    /// The folder for pictures; absent when the settings do not name one.
+    std::optional<Url> pictures() const;
+
     /// The folder that the text of a user-dirs.dirs file gives for a key such as
     /// "XDG_DESKTOP_DIR": the last line that names an absolute path or one below $HOME counts.
     static std::optional<Url> parse(std::string_view text, std::string_view key, const Url& home);
 
 private:
+    std::optional<Url> named(std::string_view key) const;
     Url baseDirectory(const std::string& variable, std::string_view inHome) const;
 
     const Environment& environment_;
