@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QStandardPaths>
 #include <utility>
 #include <vector>
 
@@ -20,11 +21,15 @@
 #include "platform/linux/PollQueue.h"
 #include "platform/linux/PosixProcessLauncher.h"
 #include "platform/linux/UserDirectories.h"
+#include "platform/linux/screenshots/ScreenshotTools.h"
+#include "platform/linux/screenshots/ToolChoice.h"
+#include "platform/linux/screenshots/ToolPreferencesDomain.h"
 #include "platform/qt/DBusApplication.h"
 #include "platform/qt/DensestScreen.h"
 #include "platform/qt/DesktopFileOpener.h"
 #include "platform/qt/DesktopPrivacySettings.h"
 #include "platform/qt/DialogFolderChooser.h"
+#include "platform/qt/GSettingsCommand.h"
 #include "platform/qt/PortalAppearance.h"
 #include "platform/qt/PortalFolderChooser.h"
 #include "platform/qt/QtCanvas.h"
@@ -38,6 +43,8 @@
 #include "platform/qt/sharing/SharingSources.h"
 #include "platform/qt/tray/TrayStatusItem.h"
 #include "screens/views/AlertWindow.h"
+#include "support/Debug.h"
+#include "support/SystemLog.h"
 
 namespace vantle {
 namespace {
@@ -98,6 +105,28 @@ void addShell(Platform& platform) {
         std::make_unique<CanberraSoundPlayer>(Url::file(beside("../share/vantle/sounds")));
 }
 
+bool isInstalled(const std::string& program) {
+    return !QStandardPaths::findExecutable(QString::fromStdString(program)).isEmpty();
+}
+
+/// Those of the tool that saves the screenshots of this desktop, else our own.
+std::unique_ptr<PreferencesDomain> makeScreenshotPreferences(const Environment& environment,
+                                                             const UserDefaults& defaults,
+                                                             const Url& own) {
+    const auto wanted = defaults.text("screenshotTool");
+    const auto name =
+        wanted ? *wanted
+               : chooseScreenshotTool(environment("XDG_CURRENT_DESKTOP").value_or(""), isInstalled);
+    Debug::log([&] { return "screenshots are saved by " + name; });
+    auto tool = makeScreenshotTool(name, environment, std::make_shared<GSettingsCommand>());
+    if (tool)
+        return std::make_unique<ToolPreferencesDomain>(std::move(*tool),
+                                                       UserDirectories(environment).home(), own);
+    if (name != noScreenshotTool)
+        systemLog("Vantle: there is no screenshotTool named " + name + "; none is used");
+    return std::make_unique<IniPreferencesDomain>(own);
+}
+
 std::unique_ptr<LoginItem> makeLoginItem(const Environment& environment) {
     const UserDirectories directories(environment);
     std::vector<Url> folders{directories.configuration().appending("autostart")};
@@ -125,7 +154,8 @@ Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures) {
     platform.media =
         std::make_unique<ConfinedMediaLoader>(beside("vantle-decoder"), densestScreen());
     platform.defaults = std::make_unique<IniUserDefaults>(own.appending("vantle.conf"));
-    platform.screenshotPreferences = std::make_unique<IniPreferencesDomain>(
+    platform.screenshotPreferences = makeScreenshotPreferences(
+        platform.environment, *platform.defaults,
         own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));
     platform.launcher = std::make_unique<PosixProcessLauncher>();
     platform.loginItem = makeLoginItem(platform.environment);

@@ -1,10 +1,12 @@
 #include "capture/SystemScreenshotPrefs.h"
 
+#include "platform/ScreenshotPreferences.h"
+
 namespace vantle {
 namespace {
 
-constexpr auto locationKey = "location";
-constexpr auto showThumbnailKey = "show-thumbnail";
+constexpr auto locationKey = screenshotPreferences::location;
+constexpr auto showThumbnailKey = screenshotPreferences::showThumbnail;
 
 template <typename T>
 std::optional<T> valueOfType(const PreferencesDomain& preferences, const char* key) {
@@ -36,6 +38,21 @@ void SystemScreenshotPrefs::setLocation(const Url& folder) {
     restartSystemUIServer();
 }
 
+std::string SystemScreenshotPrefs::locationObstacle() const {
+    return preferences_.obstacle(locationKey);
+}
+
+std::optional<Url> SystemScreenshotPrefs::previousLocation() const {
+    const auto previous = preferences_.previousValue(locationKey);
+    const auto* path = previous ? std::get_if<std::string>(&*previous) : nullptr;
+    return path ? std::optional(expandingTilde(*path)) : std::nullopt;
+}
+
+void SystemScreenshotPrefs::restoreLocation() {
+    preferences_.restore(locationKey);
+    restartSystemUIServer();
+}
+
 bool SystemScreenshotPrefs::showsThumbnail() const {
     return valueOfType<bool>(preferences_, showThumbnailKey).value_or(true);
 }
@@ -44,6 +61,10 @@ void SystemScreenshotPrefs::setShowsThumbnail(bool shows) {
     preferences_.setValue(showThumbnailKey, shows);
     preferences_.synchronize();
     restartSystemUIServer();
+}
+
+std::string SystemScreenshotPrefs::thumbnailObstacle() const {
+    return preferences_.obstacle(showThumbnailKey);
 }
 
 void SystemScreenshotPrefs::restartSystemUIServer() {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "platform/FileManager.h"
 #include "platform/PreferencesDomain.h"
 #include "platform/ProcessLauncher.h"
@@ -29,8 +32,18 @@ public:
     /// Makes the system save captures into `folder` from now on; creates it when it is missing.
     void setLocation(const Url& folder);
 
+    /// Why the system's location cannot be changed, as a sentence; empty when it can.
+    std::string locationObstacle() const;
+
+    /// Where captures were saved before setLocation(); absent when there is no way back.
+    std::optional<Url> previousLocation() const;
+    void restoreLocation();
+
     bool showsThumbnail() const;
     void setShowsThumbnail(bool shows);
+
+    /// Why the thumbnail cannot be switched on or off, as a sentence; empty when it can.
+    std::string thumbnailObstacle() const;
 
     /// Makes the system service pick up changed preferences. Does not wait for it.
     void restartSystemUIServer();

@@ -21,6 +21,16 @@ public:
 
     /// Writes what was set. Failures are silent here: who needs to know reads the value back.
     virtual void synchronize() = 0;
+
+    /// Why the key cannot be changed, as a sentence for a person; empty when it can.
+    virtual std::string obstacle(const std::string& key) const = 0;
+
+    /// What the key was before it was set here. Absent when it was not, when others have changed it
+    /// since, and when it is the same again.
+    virtual std::optional<PreferenceValue> previousValue(const std::string& key) const = 0;
+
+    /// Puts the previous value back as it was stored, at once. Without one nothing happens.
+    virtual void restore(const std::string& key) = 0;
 };
 
 }  // namespace vantle

@@ -10,6 +10,8 @@
 #include "fakes/FakeUserDefaults.h"
 #include "platform/linux/IniPreferencesDomain.h"
 #include "platform/linux/IniUserDefaults.h"
+#include "platform/linux/screenshots/ScreenshotTools.h"
+#include "platform/linux/screenshots/ToolPreferencesDomain.h"
 
 namespace vantle {
 namespace {
@@ -96,6 +98,23 @@ struct IniDomain {
     }
 };
 
+/// What a screenshot tool keeps; only of its folder, and only one that exists.
+struct ToolDomain {
+    TemporaryFolder folder;
+    ToolPreferencesDomain domain{*makeScreenshotTool(
+                                     "ksnip",
+                                     [path = folder.url().path()](const std::string& name) {
+                                         return name == "HOME" ? std::optional(path) : std::nullopt;
+                                     },
+                                     nullptr),
+                                 folder.url(), folder / "memory.conf"};
+
+    void changeByOthers(const std::string&, const std::string& value) {
+        writeText((folder / ".config").appending("ksnip").appending("ksnip.conf"),
+                  "[Application]\nSaveDirectory=" + value + "\n");
+    }
+};
+
 template <typename Store>
 class PreferencesDomainContract : public testing::Test {
 protected:
@@ -103,33 +122,46 @@ protected:
     PreferencesDomain& domain = store.domain;
 };
 
-using Domains = testing::Types<MemoryDomain, IniDomain>;
+using Domains = testing::Types<MemoryDomain, IniDomain, ToolDomain>;
 TYPED_TEST_SUITE(PreferencesDomainContract, Domains);
 
-TYPED_TEST(PreferencesDomainContract, WhatIsNotStoredIsAbsent) {
-    EXPECT_EQ(this->domain.value("location"), std::nullopt);
+TYPED_TEST(PreferencesDomainContract, WhatIsNotKnownIsAbsent) {
+    EXPECT_EQ(this->domain.value("nothing"), std::nullopt);
     this->domain.synchronize();
-    EXPECT_EQ(this->domain.value("location"), std::nullopt);
+    EXPECT_EQ(this->domain.value("nothing"), std::nullopt);
+    EXPECT_EQ(this->domain.obstacle("nothing"), "");
+    EXPECT_EQ(this->domain.previousValue("nothing"), std::nullopt);
+    this->domain.restore("nothing");
+    EXPECT_EQ(this->domain.value("nothing"), std::nullopt);
 }
 
 TYPED_TEST(PreferencesDomainContract, ValuesKeepTheirTypes) {
-    const std::map<std::string, PreferenceValue> values{
-        {"choice", false}, {"number", 1.5}, {"text", "~/Pictures"}, {"digits", "12"}};
+    const std::map<std::string, PreferenceValue> values{{"show-thumbnail", false},
+                                                        {"location", "/usr/share"}};
     for (const auto& [key, value] : values) this->domain.setValue(key, value);
     this->domain.synchronize();
     for (const auto& [key, value] : values) EXPECT_EQ(this->domain.value(key), value) << key;
 }
 
 TYPED_TEST(PreferencesDomainContract, AValueJustSetIsRead) {
-    this->domain.setValue("choice", true);
-    EXPECT_EQ(this->domain.value("choice"), PreferenceValue(true));
+    this->domain.setValue("show-thumbnail", false);
+    EXPECT_EQ(this->domain.value("show-thumbnail"), PreferenceValue(false));
 }
 
 TYPED_TEST(PreferencesDomainContract, AChangeMadeByOthersIsSeen) {
-    this->domain.setValue("location", std::string("/ours"));
+    this->domain.setValue("location", std::string("/usr/share"));
     this->domain.synchronize();
-    this->store.changeByOthers("location", "/theirs");
-    EXPECT_EQ(this->domain.value("location"), PreferenceValue("/theirs"));
+    this->store.changeByOthers("location", "/usr/bin");
+    EXPECT_EQ(this->domain.value("location"), PreferenceValue("/usr/bin"));
+}
+
+TEST(IniPreferencesDomainTest, AnyKeyKeepsAnyValue) {
+    IniDomain store;
+    const std::map<std::string, PreferenceValue> values{
+        {"choice", false}, {"number", 1.5}, {"text", "~/Pictures"}, {"digits", "12"}};
+    for (const auto& [key, value] : values) store.domain.setValue(key, value);
+    store.domain.synchronize();
+    for (const auto& [key, value] : values) EXPECT_EQ(store.domain.value(key), value) << key;
 }
 
 }  // namespace

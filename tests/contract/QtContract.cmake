@@ -18,6 +18,7 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/FileChooserPortal.h
   ${CMAKE_CURRENT_LIST_DIR}/FileOpenerContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FolderChooserContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/GSettingsContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PasteboardContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PrivacySettingsTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/QtContractMain.cpp

@@ -17,11 +17,26 @@ public:
         return found->second;
     }
     void setValue(const std::string& key, const PreferenceValue& value) override {
-        values.insert_or_assign(key, value);
+        if (obstacle(key).empty()) values.insert_or_assign(key, value);
     }
     void synchronize() override { ++synchronizations; }
+    std::string obstacle(const std::string& key) const override {
+        const auto found = obstacles.find(key);
+        return found == obstacles.end() ? "" : found->second;
+    }
+    std::optional<PreferenceValue> previousValue(const std::string& key) const override {
+        const auto found = previousValues.find(key);
+        if (found == previousValues.end()) return std::nullopt;
+        return found->second;
+    }
+    void restore(const std::string& key) override {
+        if (const auto found = previousValues.extract(key))
+            values.insert_or_assign(key, found.mapped());
+    }
 
     std::map<std::string, PreferenceValue> values;
+    std::map<std::string, std::string> obstacles;
+    std::map<std::string, PreferenceValue> previousValues;
     int synchronizations = 0;
 };
 

@@ -96,5 +96,24 @@ TEST_F(SystemScreenshotPrefsTest, AServiceThatCannotBeRestartedIsIgnored) {
     EXPECT_TRUE(prefs.showsThumbnail());
 }
 
+TEST_F(SystemScreenshotPrefsTest, WhatStandsInTheWayIsWhatTheDomainSays) {
+    EXPECT_EQ(prefs.locationObstacle(), "");
+    EXPECT_EQ(prefs.thumbnailObstacle(), "");
+    domain.obstacles = {{"location", "It stays."}, {"show-thumbnail", "It shows."}};
+    EXPECT_EQ(prefs.locationObstacle(), "It stays.");
+    EXPECT_EQ(prefs.thumbnailObstacle(), "It shows.");
+}
+
+TEST_F(SystemScreenshotPrefsTest, ThePreviousLocationIsRestoredAndTheServiceRestartedOnce) {
+    EXPECT_EQ(prefs.previousLocation(), std::nullopt);
+    domain.previousValues["location"] = std::string("~/Pictures/Screenshots");
+    (void)files.createDirectory(screenshots);
+    EXPECT_EQ(prefs.previousLocation(), screenshots);
+    prefs.restoreLocation();
+    EXPECT_EQ(prefs.location(), screenshots);
+    EXPECT_EQ(prefs.previousLocation(), std::nullopt);
+    EXPECT_EQ(launcher.launched.size(), 1u);
+}
+
 }  // namespace
 }  // namespace vantle

@@ -26,6 +26,10 @@ public:
         // A failure is logged by the file; who needs to know reads the value back.
         if (!values.empty()) (void)file_.store(values);
     }
+    std::string obstacle(const std::string&) const override { return {}; }
+    // Nobody but this program sets them: there is nothing to go back to.
+    std::optional<PreferenceValue> previousValue(const std::string&) const override { return {}; }
+    void restore(const std::string&) override {}
 
 private:
     IniFile file_;

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "support/Environment.h"
@@ -13,7 +14,7 @@ namespace vantle {
 /// user-dirs.dirs). Reads the file anew at each call. Any thread.
 class UserDirectories {
 public:
-    explicit UserDirectories(const Environment& environment) : environment_(environment) {}
+    explicit UserDirectories(Environment environment) : environment_(std::move(environment)) {}
 
     /// $HOME, else the account's.
     Url home() const;
@@ -41,7 +42,7 @@ private:
     std::optional<Url> named(std::string_view key) const;
     Url baseDirectory(const std::string& variable, std::string_view inHome) const;
 
-    const Environment& environment_;
+    Environment environment_;
 };
 
 }  // namespace vantle

@@ -1,0 +1,33 @@
+#include "platform/linux/screenshots/GSettingsSetting.h"
+
+#include "support/SystemLog.h"
+
+namespace vantle {
+
+Result<std::optional<std::string>> GSettingsSetting::read() const {
+    auto text = settings_->text(schema_, key_);
+    if (!text) return complain(text.failure());
+    if (text.value().empty()) return std::optional<std::string>();
+    return std::optional(std::move(text.value()));
+}
+
+Outcome GSettingsSetting::write(const std::optional<std::string>& text) {
+    const auto failure =
+        text ? settings_->setText(schema_, key_, *text) : settings_->reset(schema_, key_);
+    if (failure) return complain(*failure);
+    return {};
+}
+
+std::string GSettingsSetting::obstacle() const {
+    if (settings_->isWritable(schema_, key_)) return {};
+    return "The desktop does not let its setting \"" + key_ + "\" be changed.";
+}
+
+Failure GSettingsSetting::complain(const Failure& failure) const {
+    if (!std::exchange(complained_, true))
+        systemLog("Vantle: cannot use the setting " + key_ + " of " + schema_ + ": " +
+                  failure.message);
+    return failure;
+}
+
+}  // namespace vantle

@@ -1,0 +1,60 @@
+#include "platform/linux/screenshots/RememberedSetting.h"
+
+namespace vantle {
+namespace {
+
+constexpr auto beforeKey = ".before";
+constexpr auto writtenKey = ".written";
+
+// No text can be mistaken for it.
+const PreferenceValue wasNotSet = false;
+
+}  // namespace
+
+std::optional<std::string> RememberedSetting::text() const {
+    const auto text = setting_->read();
+    return text ? text.value() : std::nullopt;
+}
+
+Outcome RememberedSetting::change(const std::string& text) {
+    const auto current = setting_->read();
+    if (!current) return current.failure();
+    const auto earlier = before();
+    if (auto failure = remember(earlier ? earlier->text : current.value(), text)) return failure;
+    return setting_->write(text);
+}
+
+std::optional<RememberedSetting::Before> RememberedSetting::before() const {
+    const auto current = setting_->read();
+    const auto last = written();
+    if (!current || !last || !isSame(current.value(), last)) return std::nullopt;
+    const auto stored = memory_.load().value(name_ + beforeKey);
+    if (!stored) return std::nullopt;
+    if (const auto* text = std::get_if<std::string>(&*stored)) return Before{*text};
+    return Before{};
+}
+
+Outcome RememberedSetting::restore() {
+    const auto earlier = before();
+    return earlier ? setting_->write(earlier->text) : Outcome();
+}
+
+bool RememberedSetting::isSame(const std::optional<std::string>& one,
+                               const std::optional<std::string>& other) const {
+    if (!one || !other) return one == other;
+    return meaning_(*one) == meaning_(*other);
+}
+
+std::optional<std::string> RememberedSetting::written() const {
+    const auto stored = memory_.load().value(name_ + writtenKey);
+    const auto* text = stored ? std::get_if<std::string>(&*stored) : nullptr;
+    return text ? std::optional(*text) : std::nullopt;
+}
+
+Outcome RememberedSetting::remember(const std::optional<std::string>& before,
+                                    const std::string& written) {
+    return memory_.store({{name_ + beforeKey, before ? PreferenceValue(*before) : wasNotSet},
+                          {name_ + writtenKey, written}});
+}
+
+}  // namespace vantle

@@ -1,0 +1,149 @@
+#include "platform/linux/screenshots/ScreenshotTools.h"
+
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "platform/linux/Translation.h"
+#include "platform/linux/UserDirectories.h"
+#include "platform/linux/screenshots/Folders.h"
+#include "platform/linux/screenshots/GSettingsSetting.h"
+#include "platform/linux/screenshots/KeyFileSetting.h"
+
+namespace vantle {
+namespace {
+
+using MissingFolder = ScreenshotTool::MissingFolder;
+
+constexpr auto gnomeShell = "gnome-shell";
+
+/// What a tool's description needs.
+struct Surroundings {
+    Environment environment;
+    UserDirectories directories{environment};
+    std::shared_ptr<GSettings> settings;
+
+    std::unique_ptr<TextSetting> inFile(std::string_view name, std::string group,
+                                        std::string key) const {
+        std::vector<Url> files{directories.configuration().appending(name)};
+        for (const Url& folder : directories.systemConfiguration())
+            files.push_back(folder.appending(name));
+        return std::make_unique<KeyFileSetting>(
+            KeyFileSetting::Place{std::move(files), std::move(group), std::move(key)});
+    }
+
+    std::unique_ptr<TextSetting> inGSettings(std::string schema, std::string key) const {
+        return std::make_unique<GSettingsSetting>(settings, std::move(schema), std::move(key));
+    }
+
+    /// As most tools choose it: the folder for pictures, where it is there.
+    std::function<Url()> picturesOrHome() const {
+        return [directories = directories] {
+            const Url home = directories.home();
+            const Url pictures = directories.pictures().value_or(home);
+            return isFolder(pictures) ? pictures : home;
+        };
+    }
+};
+
+ScreenshotTool spectacle(const Surroundings& its) {
+    return {
+        .defaultFolder =
+            [directories = its.directories] {
+                return directories.pictures().value_or(directories.home().appending("Pictures"));
+            },
+        .missingFolder = MissingFolder::isMade,
+        .folder = {.setting = its.inFile("spectaclerc", "Save", "defaultSaveLocation"),
+                   .notation = addressOfKde(its.environment)},
+        .preview = {
+            .setting = its.inFile("spectacle.notifyrc", "Event/newScreenshotSaved", "Action"),
+            .notation = popupOfKde(),
+            .textByDefault = "Popup"}};
+}
+
+ScreenshotTool xfceScreenshooter(const Surroundings& its) {
+    return {.defaultFolder = its.picturesOrHome(),
+            .folder = {.setting = its.inFile("xfce4/xfce4-screenshooter", "", "screenshot_dir"),
+                       .notation = addressOfXfce()},
+            .preview = {.obstacle = "The screenshot tool of Xfce shows no preview."}};
+}
+
+ScreenshotTool gnomeScreenshot(const Surroundings& its) {
+    return {
+        .defaultFolder = its.picturesOrHome(),
+        .folder = {.setting = its.inGSettings("org.gnome.gnome-screenshot", "auto-save-directory"),
+                   .notation = addressOrPath()},
+        .preview = {.obstacle = "The screenshot tool of this desktop shows no preview."}};
+}
+
+ScreenshotTool mateScreenshot(const Surroundings& its) {
+    return {.defaultFolder = [directories = its.directories] { return directories.desktop(); },
+            .folder = {.setting = its.inGSettings("org.mate.screenshot", "last-save-directory"),
+                       .notation = addressOrPath()},
+            .preview = {.isShown = true,
+                        .obstacle = "The screenshot tool of MATE always asks in a window."}};
+}
+
+ScreenshotTool flameshot(const Surroundings& its) {
+    constexpr auto file = "flameshot/flameshot.ini";
+    return {.defaultFolder = its.picturesOrHome(),
+            .folder = {.setting = its.inFile(file, "General", "savePath"), .notation = pathOfQt()},
+            .preview = {.setting = its.inFile(file, "General", "showDesktopNotification"),
+                        .notation = yesOrNo(),
+                        .textByDefault = "true"}};
+}
+
+ScreenshotTool ksnip(const Surroundings& its) {
+    constexpr auto file = "ksnip/ksnip.conf";
+    return {.defaultFolder = [directories = its.directories] { return directories.home(); },
+            .missingFolder = MissingFolder::isMade,
+            .folder = {.setting = its.inFile(file, "Application", "SaveDirectory"),
+                       .notation = pathOfQt()},
+            .preview = {.setting = its.inFile(file, "Application", "TrayIconNotificationsEnabled"),
+                        .notation = yesOrNo(),
+                        .textByDefault = "true"}};
+}
+
+ScreenshotTool screengrab(const Surroundings& its) {
+    constexpr auto file = "screengrab/screengrab.conf";
+    return {.defaultFolder = [directories = its.directories] { return directories.home(); },
+            .folder = {.setting = its.inFile(file, "Base", "defDir"), .notation = pathOfQt()},
+            .preview = {.setting = its.inFile(file, "Display", "trayMessages"),
+                        .notation = numberOrNever(),
+                        .textByDefault = "1"}};
+}
+
+ScreenshotTool shellOfGnome(const Surroundings& its) {
+    return {.defaultFolder =
+                [directories = its.directories] {
+                    return directories.pictures()
+                        .value_or(directories.home())
+                        .appending(translated(gnomeShell, "Screenshots"));
+                },
+            .missingFolder = MissingFolder::isMade,
+            .folder = {.obstacle = "GNOME always saves screenshots in this folder."},
+            .preview = {.isShown = true, .obstacle = "GNOME always shows its own preview."}};
+}
+
+}  // namespace
+
+std::optional<ScreenshotTool> makeScreenshotTool(const std::string& name,
+                                                 const Environment& environment,
+                                                 const std::shared_ptr<GSettings>& settings) {
+    static const std::map<std::string, ScreenshotTool (*)(const Surroundings&)> known{
+        {"spectacle", spectacle},
+        {"xfce4-screenshooter", xfceScreenshooter},
+        {"gnome-screenshot", gnomeScreenshot},
+        {"mate-screenshot", mateScreenshot},
+        {"flameshot", flameshot},
+        {"ksnip", ksnip},
+        {"screengrab", screengrab},
+        {gnomeShell, shellOfGnome}};
+    const auto found = known.find(name);
+    if (found == known.end()) return std::nullopt;
+    auto tool = found->second({.environment = environment, .settings = settings});
+    tool.name = name;
+    return tool;
+}
+
+}  // namespace vantle

@@ -1,0 +1,110 @@
+#include "platform/linux/screenshots/ToolPreferencesDomain.h"
+
+#include <utility>
+
+#include "platform/ScreenshotPreferences.h"
+#include "platform/linux/screenshots/Folders.h"
+#include "support/SystemLog.h"
+
+namespace vantle {
+namespace {
+
+using namespace screenshotPreferences;
+
+std::optional<RememberedSetting> remembered(std::unique_ptr<TextSetting> setting, const Url& memory,
+                                            const std::string& name,
+                                            RememberedSetting::Meaning meaning) {
+    if (!setting) return std::nullopt;
+    return RememberedSetting(std::move(setting), memory, name, std::move(meaning));
+}
+
+}  // namespace
+
+ToolPreferencesDomain::ToolPreferencesDomain(ScreenshotTool tool, const Url& home,
+                                             const Url& memory)
+    : tool_(std::move(tool)),
+      home_(home),
+      folder_(remembered(std::move(tool_.folder.setting), memory, tool_.name + ".folder",
+                         tool_.folder.notation.read)),
+      preview_(remembered(std::move(tool_.preview.setting), memory, tool_.name + ".preview",
+                          [](const std::string& text) { return text; })) {}
+
+std::optional<PreferenceValue> ToolPreferencesDomain::value(const std::string& key) const {
+    if (key == location) return folder(folder_ ? folder_->text() : std::nullopt).path();
+    if (key == showThumbnail) return showsPreview();
+    return std::nullopt;
+}
+
+void ToolPreferencesDomain::setValue(const std::string& key, const PreferenceValue& value) {
+    if (const auto* path = std::get_if<std::string>(&value); path && key == location)
+        setFolder(Url::file(*path));
+    if (const auto* shows = std::get_if<bool>(&value); shows && key == showThumbnail)
+        showPreview(*shows);
+}
+
+std::string ToolPreferencesDomain::obstacle(const std::string& key) const {
+    if (key == location) return folder_ ? folder_->obstacle() : tool_.folder.obstacle;
+    if (key == showThumbnail) return preview_ ? preview_->obstacle() : tool_.preview.obstacle;
+    return {};
+}
+
+std::optional<PreferenceValue> ToolPreferencesDomain::previousValue(const std::string& key) const {
+    if (key != location || !folder_) return std::nullopt;
+    const auto before = folder_->before();
+    if (!before) return std::nullopt;
+    const Url previous = folder(before->text);
+    if (previous == folder(folder_->text())) return std::nullopt;
+    return previous.path();
+}
+
+void ToolPreferencesDomain::restore(const std::string& key) {
+    // A failure is logged by the setting.
+    if (previousValue(key)) (void)folder_->restore();
+}
+
+Url ToolPreferencesDomain::folder(const std::optional<std::string>& text) const {
+    const auto isThere = [this](const Url& url) {
+        return isFolder(url) ||
+               (tool_.missingFolder == ScreenshotTool::MissingFolder::isMade && makeFolder(url));
+    };
+    std::string path = text ? tool_.folder.notation.read(*text) : "";
+    if (path == "~" || path.starts_with("~/")) path.replace(0, 1, home_.path());
+    if (path.starts_with('/')) {
+        const Url chosen = Url::file(path);
+        if (isFile(chosen)) return chosen.deletingLastPathComponent();
+        if (isThere(chosen)) return chosen;
+    }
+    const Url byDefault = tool_.defaultFolder();
+    (void)isThere(byDefault);
+    return byDefault;
+}
+
+void ToolPreferencesDomain::setFolder(const Url& folder) {
+    if (!folder_ || value(location) == PreferenceValue(folder.path())) return;
+    const auto text = tool_.folder.notation.write(folder);
+    // A failure to write is logged by the setting.
+    if (text) {
+        (void)folder_->change(*text);
+    } else {
+        systemLog("Vantle: " + tool_.name + " cannot save into " + folder.path());
+    }
+}
+
+bool ToolPreferencesDomain::showsPreview() const {
+    if (!preview_) return tool_.preview.isShown;
+    return tool_.preview.notation.read(preview_->text().value_or(tool_.preview.textByDefault));
+}
+
+void ToolPreferencesDomain::showPreview(bool shows) {
+    if (!preview_ || shows == showsPreview()) return;
+    const auto& notation = tool_.preview.notation;
+    const auto& byDefault = tool_.preview.textByDefault;
+    const auto before = preview_->before();
+    if (before && notation.read(before->text.value_or(byDefault)) == shows) {
+        (void)preview_->restore();
+        return;
+    }
+    (void)preview_->change(notation.write(preview_->text().value_or(byDefault), shows));
+}
+
+}  // namespace vantle
