@@ -21,12 +21,20 @@ MenuItem FolderPicker::place(std::string title, const Url& folder) {
 
 Menu FolderPicker::menu() {
     const Url home = context_.files.homeDirectory();
-    return {.title = "Change",
-            .items = {place("Desktop (macOS default)", context_.settings.defaultScreenshotFolder()),
-                      place("~/Pictures/Screenshots", home.appending("Pictures/Screenshots")),
-                      place("~/Screenshots", home.appending("Screenshots")),
-                      {.kind = MenuItem::Kind::separator},
-                      {.title = "Choose…", .action = [this] { choose(); }}}};
+    Menu menu{
+        .title = "Change",
+        .items = {place("Desktop (macOS default)", context_.settings.defaultScreenshotFolder()),
+                  place("~/Pictures/Screenshots", home.appending("Pictures/Screenshots")),
+                  place("~/Screenshots", home.appending("Screenshots")),
+                  {.kind = MenuItem::Kind::separator},
+                  {.title = "Choose…", .action = [this] { choose(); }}}};
+    if (const auto previous = context_.settings.previousScreenshotFolder()) {
+        menu.items.push_back({.kind = MenuItem::Kind::separator});
+        menu.items.push_back(
+            {.title = "Restore " + displayName(*previous),
+             .action = [&settings = context_.settings] { settings.restoreScreenshotFolder(); }});
+    }
+    return menu;
 }
 
 void FolderPicker::choose() {

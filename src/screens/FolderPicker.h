@@ -23,7 +23,8 @@ public:
     /// The path of that folder for a person: the home directory is "~".
     std::string displayName(const Url& folder) const;
 
-    /// The places, and the chooser. Lives no longer than the picker.
+    /// The places, the chooser, and the way back to where the system saved captures before, when
+    /// there is one. Lives no longer than the picker.
     Menu menu();
 
     /// Opens the folder chooser in the current folder; what the user chooses is used from then on.

@@ -89,6 +89,15 @@ void Settings::setScreenshotFolder(const Url& url) {
     screenshotFolder.set(screenshotPrefs_.location());
 }
 
+std::optional<Url> Settings::previousScreenshotFolder() const {
+    return screenshotPrefs_.previousLocation();
+}
+
+void Settings::restoreScreenshotFolder() {
+    screenshotPrefs_.restoreLocation();
+    screenshotFolder.set(screenshotPrefs_.location());
+}
+
 void Settings::setHideSystemThumbnail(bool hide) {
     screenshotPrefs_.setShowsThumbnail(!hide);
     hideSystemThumbnail.set(hide);

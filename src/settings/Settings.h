@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "capture/SystemScreenshotPrefs.h"
 #include "platform/Application.h"
 #include "platform/LoginItem.h"
@@ -53,7 +56,16 @@ public:
     /// Changes where the system saves screenshots, then shows what the system really uses.
     void setScreenshotFolder(const Url& url);
 
+    /// Where the system saved screenshots before; absent when there is no way back.
+    std::optional<Url> previousScreenshotFolder() const;
+    void restoreScreenshotFolder();
+
     void setHideSystemThumbnail(bool hide);
+
+    /// Why the system does not let these two be changed, as a sentence; empty when it does. Asks
+    /// the system anew at each call.
+    std::string screenshotFolderObstacle() const { return screenshotPrefs_.locationObstacle(); }
+    std::string systemThumbnailObstacle() const { return screenshotPrefs_.thumbnailObstacle(); }
 
     /// Registers or unregisters the login item, then shows the real state; a failure is logged.
     void setLaunchAtLogin(bool enabled);

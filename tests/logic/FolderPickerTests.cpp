@@ -90,5 +90,16 @@ TEST_F(FolderPickerTest, PathsInTheHomeDirectoryAreShort) {
     EXPECT_EQ(name("/media/disk"), "/media/disk");
 }
 
+TEST_F(FolderPickerTest, TheWayBackComesLastAndRestoresWhatTheSystemHad) {
+    (void)files.createDirectory(Url::file("/home/user/Bilder"));
+    domain.previousValues["location"] = std::string("/home/user/Bilder");
+    ASSERT_EQ(picker.menu().items.size(), 7u);
+    EXPECT_EQ(picker.menu().items[5].kind, MenuItem::Kind::separator);
+    EXPECT_EQ(picker.menu().items[6].title, "Restore ~/Bilder");
+    choose("Restore ~/Bilder");
+    EXPECT_EQ(folder(), "/home/user/Bilder");
+    EXPECT_EQ(picker.menu().items.size(), 5u);
+}
+
 }  // namespace
 }  // namespace vantle

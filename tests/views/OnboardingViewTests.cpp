@@ -78,6 +78,13 @@ TEST_F(OnboardingViewTest, MerelyOpeningItAppliesTheRecommendedSettings) {
     EXPECT_FALSE(settings->hasCompletedOnboarding.value());
 }
 
+TEST_F(OnboardingViewTest, WhatTheSystemDoesNotGrantIsShownAsItIs) {
+    preferences->obstacles["show-thumbnail"] = "GNOME always shows its own preview.";
+    openOnboarding(2);
+    EXPECT_FALSE(settings->hideSystemThumbnail.value());
+    EXPECT_TRUE(has(QStringLiteral("macOS thumbnail still shown")));
+}
+
 TEST_F(OnboardingViewTest, ItIsWalkedByItsButtons) {
     openOnboarding();
     click(QStringLiteral("Get Started"));

@@ -100,6 +100,13 @@ TEST_P(ScreenLayoutTest, TheOnboarding) {
     }
 }
 
+TEST_P(ScreenLayoutTest, TheSettingsThatCannotBeChanged) {
+    const std::string reason = "/home/somebody/.config/flameshot/flameshot.ini is read-only.";
+    preferences->obstacles = {{"location", reason}, {"show-thumbnail", reason}};
+    openSettings(GetParam().size);
+    expectOrder();
+}
+
 constexpr Size smallest{480, 300};
 constexpr Size usual{480, 860};
 constexpr Size large{1400, 1000};

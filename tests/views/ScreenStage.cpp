@@ -39,7 +39,8 @@ ScreenStage::ScreenStage() {
     files = add(platform.files, std::make_unique<fakes::FakeFileSystem>(*platform.watcherQueue));
     (void)files->createDirectory(Url::file("/home/user/Desktop"));
     defaults = add(platform.defaults, std::make_unique<fakes::FakeUserDefaults>());
-    platform.screenshotPreferences = std::make_unique<fakes::FakePreferencesDomain>();
+    preferences =
+        add(platform.screenshotPreferences, std::make_unique<fakes::FakePreferencesDomain>());
     platform.launcher = std::make_unique<fakes::FakeProcessLauncher>();
     loginItem = add(platform.loginItem, std::make_unique<fakes::FakeLoginItem>());
     application = add(platform.application, std::make_unique<fakes::FakeApplication>());

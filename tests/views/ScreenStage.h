@@ -58,6 +58,7 @@ public:
     fakes::FakeFileSystem* files = nullptr;
     fakes::FakeLoginItem* loginItem = nullptr;
     fakes::FakeUserDefaults* defaults = nullptr;
+    fakes::FakePreferencesDomain* preferences = nullptr;
     fakes::FakeFolderChooser* chooser = nullptr;
     fakes::FakePrivacySettings* privacySettings = nullptr;
     fakes::FakeApplication* application = nullptr;

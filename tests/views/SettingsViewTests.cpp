@@ -219,6 +219,46 @@ TEST_F(SettingsViewTest, ALoginItemThatCannotBeMadeTakesItsSwitchBack) {
     }
 }
 
+TEST_F(SettingsViewTest, AFolderThatCannotBeChangedIsShownWithTheReason) {
+    preferences->obstacles["location"] = "GNOME always saves screenshots in this folder.";
+    openSettings();
+    EXPECT_TRUE(has(QStringLiteral("~/Desktop")));
+    EXPECT_TRUE(has(QStringLiteral("GNOME always saves screenshots in this folder.")));
+    EXPECT_FALSE(named(QStringLiteral("Change")).isEnabled());
+    click(QStringLiteral("Change"));
+    EXPECT_EQ(openMenu(), nullptr);
+}
+
+TEST_F(SettingsViewTest, AThumbnailThatCannotBeSwitchedIsShownAsItIsWithTheReason) {
+    const QString hide = QStringLiteral("Hide the built-in macOS thumbnail");
+    const QString caption = QStringLiteral(
+        "Recommended. Captures reach Vantle instantly instead of after Apple's preview.");
+    preferences->obstacles["show-thumbnail"] = "GNOME always shows its own preview.";
+    openSettings();
+    EXPECT_TRUE(texts().contains(QStringLiteral("GNOME always shows its own preview.")));
+    EXPECT_FALSE(texts().contains(caption));
+    EXPECT_FALSE(named(hide).isEnabled());
+    click(hide);
+    EXPECT_FALSE(isOn(hide));
+    window().close();
+    preferences->obstacles.clear();
+    window().makeKeyAndOrderFront();
+    settle();
+    EXPECT_TRUE(texts().contains(caption));
+    EXPECT_TRUE(named(hide).isEnabled());
+}
+
+TEST_F(SettingsViewTest, AThumbnailThatComesBackTakesItsSwitchBack) {
+    openSettings();
+    const QString hide = QStringLiteral("Hide the built-in macOS thumbnail");
+    // As a tool whose settings turn out to be read-only.
+    preferences->obstacles["show-thumbnail"] = "They are read-only.";
+    click(hide);
+    EXPECT_FALSE(isOn(hide));
+    EXPECT_FALSE(settings->hideSystemThumbnail.value());
+    EXPECT_TRUE(texts().contains(QStringLiteral("They are read-only.")));
+}
+
 TEST_F(SettingsViewTest, TheKeepToggleFollowsWhenTheWindowIsShownAgain) {
     openSettings();
     window().close();

@@ -106,7 +106,10 @@ Column {
 
         ToggleRow {
             text: qsTr("Hide the built-in macOS thumbnail")
-            caption: qsTr("Recommended. Captures reach Vantle instantly instead of after Apple's preview.")
+            caption: enabled
+                     ? qsTr("Recommended. Captures reach Vantle instantly instead of after Apple's preview.")
+                     : controls.settings.thumbnailObstacle
+            enabled: controls.settings.thumbnailObstacle === ""
             isOn: controls.settings.hideSystemThumbnail
             onWanted: on => controls.settings.hideSystemThumbnail = on
         }

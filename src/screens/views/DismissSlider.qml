@@ -13,7 +13,7 @@ Column {
     width: parent ? parent.width : 0
     spacing: 4
     enabled: !settings.neverDismiss
-    opacity: settings.neverDismiss ? 0.45 : 1
+    opacity: settings.neverDismiss ? Style.disabled : 1
 
     Item {
         width: parent.width

@@ -49,7 +49,14 @@ Group {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Change")
+            enabled: picker.settings.folderObstacle === ""
+            Accessible.description: picker.settings.folderObstacle
             onClicked: picker.settings.openFolderMenu(change)
         }
+    }
+
+    Caption {
+        visible: text !== ""
+        text: picker.settings.folderObstacle
     }
 }

@@ -5,6 +5,7 @@ Item {
     id: labels
 
     property alias title: title.text
+    property alias titleOpacity: title.opacity
     property alias weight: title.font.weight
     property string caption
     property bool isSpoken: true

@@ -29,6 +29,8 @@ OnboardingModel::OnboardingModel(Settings& settings, Platform& platform,
 
 void OnboardingModel::appear() {
     steps_.appear();
+    // What the system did not grant is shown as it is.
+    settings_.readSystem();
     model_.appear();
 }
 

@@ -16,6 +16,7 @@ T.Button {
     implicitHeight: Style.controlHeight
     leftPadding: mirrored ? farMargin : margin
     rightPadding: mirrored ? margin : farMargin
+    opacity: enabled ? 1 : Style.disabled
 
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: text

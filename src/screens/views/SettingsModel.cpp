@@ -40,7 +40,13 @@ void SettingsModel::follow() {
 
 void SettingsModel::appear() {
     controls_.appear();
+    readObstacles();
     emit changed();
+}
+
+void SettingsModel::readObstacles() {
+    folderObstacle_ = text(settings_.screenshotFolderObstacle());
+    thumbnailObstacle_ = text(settings_.systemThumbnailObstacle());
 }
 
 QString SettingsModel::version() const {
@@ -91,6 +97,9 @@ void SettingsModel::setCopyOnCapture(bool on) {
 
 void SettingsModel::setHideSystemThumbnail(bool on) {
     settings_.setHideSystemThumbnail(on);
+    // Where that failed the switch has to go back.
+    settings_.readSystem();
+    readObstacles();
     emit changed();
 }
 

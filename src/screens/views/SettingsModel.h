@@ -38,6 +38,9 @@ class SettingsModel : public QObject {
     Q_PROPERTY(QString corner READ corner NOTIFY changed)
     Q_PROPERTY(bool hideSystemThumbnail READ hideSystemThumbnail WRITE setHideSystemThumbnail NOTIFY
                    changed)
+    /// Why the folder and that thumbnail cannot be changed; empty when they can.
+    Q_PROPERTY(QString folderObstacle READ folderObstacle NOTIFY changed)
+    Q_PROPERTY(QString thumbnailObstacle READ thumbnailObstacle NOTIFY changed)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY changed)
     Q_PROPERTY(bool showInDock READ showInDock WRITE setShowInDock NOTIFY changed)
 
@@ -59,6 +62,8 @@ public:
     bool copyOnCapture() const { return settings_.copyOnCapture.value(); }
     QString corner() const;
     bool hideSystemThumbnail() const { return settings_.hideSystemThumbnail.value(); }
+    QString folderObstacle() const { return folderObstacle_; }
+    QString thumbnailObstacle() const { return thumbnailObstacle_; }
     bool launchAtLogin() const { return settings_.launchAtLogin.value(); }
     bool showInDock() const { return settings_.showInDock.value(); }
 
@@ -82,6 +87,7 @@ signals:
 
 private:
     void follow();
+    void readObstacles();
     Menu cornerMenu();
     void open(const Menu& menu, const QQuickItem& button);
 
@@ -94,6 +100,8 @@ private:
     NotificationCenter& notifications_;
     FolderPicker picker_;
     BehaviorControls controls_;
+    QString folderObstacle_;
+    QString thumbnailObstacle_;
     std::unique_ptr<MenuWindow> menu_;  ///< Made when one is opened for the first time.
     std::vector<Subscription> subscriptions_;
 };

@@ -22,6 +22,9 @@ QtObject {
     readonly property real rowPadding: 10
     readonly property real controlHeight: Math.round(28 * scale)
 
+    // Of what cannot be used now.
+    readonly property real disabled: 0.45
+
     readonly property color ink: Appearance.isDark ? "white" : "black"
     readonly property color groupFill: Appearance.isDark ? Qt.rgba(1, 1, 1, 0.06) : "white"
     readonly property color hairline: faint(0.1)

@@ -32,6 +32,8 @@ T.Switch {
 
     contentItem: Labels {
         title: toggle.text
+        // The caption says why, and stays readable.
+        titleOpacity: toggle.enabled ? 1 : Style.disabled
         caption: toggle.caption
         isSpoken: false
     }
@@ -39,6 +41,7 @@ T.Switch {
     indicator: SwitchTrack {
         x: toggle.mirrored ? 0 : toggle.width - width
         y: (toggle.height - height) / 2
+        opacity: toggle.enabled ? 1 : Style.disabled
         isOn: toggle.checked
         isDown: toggle.down
         hasFocus: toggle.visualFocus
