@@ -43,7 +43,6 @@
 #include "platform/qt/sharing/SharingSources.h"
 #include "platform/qt/tray/TrayStatusItem.h"
 #include "screens/views/AlertWindow.h"
-#include "support/Debug.h"
 #include "support/SystemLog.h"
 
 namespace vantle {
@@ -117,7 +116,6 @@ std::unique_ptr<PreferencesDomain> makeScreenshotPreferences(const Environment& 
     const auto name =
         wanted ? *wanted
                : chooseScreenshotTool(environment("XDG_CURRENT_DESKTOP").value_or(""), isInstalled);
-    Debug::log([&] { return "screenshots are saved by " + name; });
     auto tool = makeScreenshotTool(name, environment, std::make_shared<GSettingsCommand>());
     if (tool)
         return std::make_unique<ToolPreferencesDomain>(std::move(*tool),

@@ -10,7 +10,8 @@ from . import processes
 from .waiting import wait_until, wait_until_still
 
 _DEBUG = "Vantle[dbg]: "
-_SETTINGS_KEYS_AT_HAND = {"hasCompletedOnboarding": "true"}
+# Whatever screenshot tools are installed, the folder is its own to choose.
+_SETTINGS_KEYS_AT_HAND = {"hasCompletedOnboarding": "true", "screenshotTool": "none"}
 
 
 class Program:
@@ -45,9 +46,9 @@ class Program:
         return self._log
 
     def write_settings(self, **values):
-        """Writes the settings that the program finds at its next start."""
+        """Writes the settings that the program finds at its next start; None leaves one out."""
         lines = {**_SETTINGS_KEYS_AT_HAND, **values}
-        text = "".join(f"{key}={value}\n" for key, value in lines.items())
+        text = "".join(f"{key}={value}\n" for key, value in lines.items() if value is not None)
         self.config_folder.mkdir(parents=True, exist_ok=True)
         self.settings_file.write_text("[General]\n" + text)
 

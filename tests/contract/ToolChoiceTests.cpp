@@ -39,6 +39,7 @@ TEST(ToolChoiceTest, AToolThatIsNotInstalledIsNotChosen) {
     EXPECT_EQ(chosen("KDE", {"flameshot", "ksnip"}), "flameshot");
     EXPECT_EQ(chosen("KDE", {"ksnip", "gnome-screenshot"}), "ksnip");
     EXPECT_EQ(chosen("XFCE", {}), "none");
+    EXPECT_EQ(chosen("GNOME", {}), "gnome-shell") << "it runs";
 }
 
 TEST(ToolChoiceTest, OnOtherDesktopsOnlyToolsOfNoDesktopAreChosen) {

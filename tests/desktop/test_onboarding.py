@@ -12,6 +12,7 @@ from screens import Screens
 @pytest.fixture
 def vantle(desktop, binary):
     program = Program(binary, desktop, environment=ENVIRONMENT)
+    program.write_settings(hasCompletedOnboarding=None)
     yield program
     program.stop()
 

@@ -74,16 +74,17 @@ class Drag:
         return ends == ["1"]
 
 
+def find_window(desktop, text):
+    """The number of a window whose title has that text in it; None when there is none."""
+    for number in desktop.screen.client_list():
+        if text in (desktop.screen.title(number) or b"").decode("utf-8", "replace"):
+            return number
+    return None
+
+
 def window_titled(desktop, text):
-    """The number of a window whose title has that text in it, once there is one."""
-
-    def find():
-        for number in desktop.screen.client_list():
-            if text in (desktop.screen.title(number) or b"").decode("utf-8", "replace"):
-                return number
-        return None
-
-    return wait_until(find, f"a window has {text} in its title")
+    """The same, once there is one."""
+    return wait_until(lambda: find_window(desktop, text), f"a window has {text} in its title")
 
 
 def press_with_control(desktop, key):

@@ -101,7 +101,7 @@ TEST_P(ScreenLayoutTest, TheOnboarding) {
 }
 
 TEST_P(ScreenLayoutTest, TheSettingsThatCannotBeChanged) {
-    const std::string reason = "/home/somebody/.config/flameshot/flameshot.ini is read-only.";
+    const std::string reason = "The tool's settings file flameshot.ini is read-only.";
     preferences->obstacles = {{"location", reason}, {"show-thumbnail", reason}};
     openSettings(GetParam().size);
     expectOrder();

@@ -57,9 +57,11 @@ Outcome KeyFileSetting::write(const std::optional<std::string>& text) {
 }
 
 std::string KeyFileSetting::obstacle() const {
+    const std::string file =
+        "The tool's settings file " + std::string(ownFile().lastPathComponent());
     const auto settings = load(ownFile());
-    if (!settings) return ownFile().path() + " cannot be read: " + settings.failure().message + ".";
-    if (isReadOnly(ownFile())) return ownFile().path() + " is read-only.";
+    if (!settings) return file + " cannot be read: " + settings.failure().message + ".";
+    if (isReadOnly(ownFile())) return file + " is read-only.";
     return {};
 }
 

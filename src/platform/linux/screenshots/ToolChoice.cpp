@@ -7,11 +7,13 @@
 namespace vantle {
 namespace {
 
+constexpr auto gnomeShell = "gnome-shell";
+
 const std::map<std::string, std::string>& toolsOfDesktops() {
     static const std::map<std::string, std::string> tools{{"Budgie", "gnome-screenshot"},
                                                           {"Cinnamon", "gnome-screenshot"},
-                                                          {"GNOME", "gnome-shell"},
-                                                          {"GNOME-Classic", "gnome-shell"},
+                                                          {"GNOME", gnomeShell},
+                                                          {"GNOME-Classic", gnomeShell},
                                                           {"GNOME-Flashback", "gnome-screenshot"},
                                                           {"KDE", "spectacle"},
                                                           {"LXQt", "screengrab"},
@@ -30,7 +32,8 @@ std::string chooseScreenshotTool(
     for (const auto& desktop : split(currentDesktop, ':')) {
         const auto found = toolsOfDesktops().find(desktop);
         if (found == toolsOfDesktops().end()) continue;
-        if (isInstalled(found->second)) return found->second;
+        // A shell that runs needs no looking for: its program may stand beside the usual folders.
+        if (found->second == gnomeShell || isInstalled(found->second)) return found->second;
         break;
     }
     for (const std::string tool : {"flameshot", "ksnip"})

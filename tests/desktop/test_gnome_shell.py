@@ -1,0 +1,76 @@
+"""GNOME's own screenshots: their folder has a name in the language of the session, for good."""
+
+import pytest
+
+from assistant import ENVIRONMENT
+from privatedesktop import Program
+from screenshot_tools import USER_FOLDERS
+from screens import Screens
+from watched_folder import WatchedFolder
+
+LANGUAGES = {
+    "de_DE.UTF-8": "Bildschirmfotos",
+    "fr_FR.UTF-8": "Captures d’écran",
+    "ja_JP.UTF-8": "スクリーンショット",
+    "xx_XX.UTF-8": "Screenshots",  # is not installed: GNOME speaks English then, too
+}
+GNOME = {"XDG_CURRENT_DESKTOP": "ubuntu:GNOME"}
+
+
+@pytest.fixture
+def make_vantle(desktop, binary):
+    """Makes one that speaks a language."""
+    made = []
+
+    def make(language):
+        compile_locale(desktop, language)
+        environment = {
+            **ENVIRONMENT, "LANG": language, "LC_ALL": None, "LOCPATH": str(desktop.home / "locale"),
+        }  # fmt: skip
+        program = Program(binary, desktop, environment=environment, name=f"vantle-{language}")
+        program.write_settings(screenshotTool=None)
+        made.append(program)
+        return program
+
+    yield make
+    for program in made:
+        program.stop()
+
+
+def compile_locale(desktop, language):
+    """As a system has it on which that language is installed."""
+    name, charset = language.split(".")
+    if name == "xx_XX":
+        return
+    folder = desktop.home / "locale"
+    folder.mkdir(exist_ok=True)
+    desktop.run("localedef", "-i", name, "-f", charset, "--no-archive", str(folder / language))
+
+
+@pytest.mark.desktop(environment=GNOME, configuration={"user-dirs.dirs": USER_FOLDERS})
+def test_its_folder_is_found_in_any_language(desktop, make_vantle):
+    for language, name in LANGUAGES.items():
+        vantle = make_vantle(language)
+        vantle.start_watching()
+        folder = WatchedFolder(desktop.home / "Bilder" / name, vantle)
+        folder.save("shot.png")
+        folder.wait_for("shot.png")
+        vantle.stop()
+
+
+@pytest.mark.desktop(environment=GNOME)
+def test_without_a_folder_for_pictures_it_is_in_the_home_directory(desktop, make_vantle):
+    vantle = make_vantle("de_DE.UTF-8").start_watching()
+    vantle.wait_for_log(f"watching {desktop.home / 'Bildschirmfotos'} ")
+
+
+@pytest.mark.desktop(environment=GNOME, configuration={"user-dirs.dirs": USER_FOLDERS})
+def test_the_settings_say_that_it_stays(desktop, make_vantle):
+    vantle = make_vantle("de_DE.UTF-8").start_watching()
+    screens = Screens(desktop, vantle)
+    screens.open_settings()
+    screens.wait_for_text("~/Bilder/Bildschirmfotos")
+    screens.wait_for_text("GNOME always saves screenshots in this folder.")
+    assert not screens.is_on("Hide the built-in macOS thumbnail")
+    for name in ("Change", "Hide the built-in macOS thumbnail"):
+        assert "enabled" not in screens.control(name)["states"], name

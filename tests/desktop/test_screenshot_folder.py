@@ -1,0 +1,134 @@
+"""The folder of each desktop's own screenshot tool is found, changed and given back."""
+
+import pytest
+
+import screenshot_tools
+from assistant import ENVIRONMENT
+from privatedesktop import Program, wait_until
+from screenshot_tools import USER_FOLDERS, pictures_in
+
+
+def on_desktop(name):
+    """A session of that desktop, whose user is a German."""
+    return pytest.mark.desktop(
+        environment={"XDG_CURRENT_DESKTOP": name}, configuration={"user-dirs.dirs": USER_FOLDERS}
+    )
+
+
+@pytest.fixture
+def vantle(desktop, binary):
+    program = Program(binary, desktop, environment=ENVIRONMENT)
+    program.write_settings(screenshotTool=None)
+    (desktop.home / "Bilder").mkdir(exist_ok=True)
+    yield program
+    program.stop()
+
+
+def take(desktop, vantle, tool, folder):
+    """The tool saves one more picture, into that folder, and it is on the card."""
+    before, shown = pictures_in(folder), len(vantle.shown_counts())
+    tool.take(desktop)
+    wait_until(lambda: len(pictures_in(folder)) == len(before) + 1, f"it is saved in {folder}")
+    (name,) = set(pictures_in(folder)) - set(before)
+    vantle.wait_for_log(f"captured {name}$")
+    wait_until(lambda: len(vantle.shown_counts()) == shown + 1, "the card shows it")
+
+
+def check_folder(desktop, vantle, screens, tool, default):
+    """By default, after a change in the settings, and after that was taken back."""
+    home = desktop.home
+    vantle.start_watching()
+    take(desktop, vantle, tool, home / default)
+    screens.open_settings()
+    screens.choose("Change", "~/Screenshots")
+    vantle.wait_for_log(f"watching {home / 'Screenshots'} ")
+    take(desktop, vantle, tool, home / "Screenshots")
+    assert pictures_in(home / default) == vantle.captured()[:1]
+    assert vantle.shown_counts() == [1, 2]
+
+
+def check_restored(desktop, vantle, screens, tool, default):
+    where = "~" if default == "" else f"~/{default}"
+    screens.choose("Change", f"Restore {where}")
+    vantle.wait_for_log(f"watching {desktop.home / default} ", times=2)
+    take(desktop, vantle, tool, desktop.home / default)
+    assert vantle.shown_counts() == [1, 2, 3]
+
+
+@on_desktop("KDE")
+def test_spectacle(desktop, vantle, screens):
+    check_folder(desktop, vantle, screens, screenshot_tools.SPECTACLE, "Bilder")
+    check_restored(desktop, vantle, screens, screenshot_tools.SPECTACLE, "Bilder")
+
+
+@on_desktop("XFCE")
+def test_xfce4_screenshooter(desktop, vantle, screens):
+    check_folder(desktop, vantle, screens, screenshot_tools.XFCE, "Bilder")
+    check_restored(desktop, vantle, screens, screenshot_tools.XFCE, "Bilder")
+
+
+@on_desktop("X-Cinnamon")
+def test_gnome_screenshot(desktop, vantle, screens):
+    tool = screenshot_tools.GNOME_SCREENSHOT
+    check_folder(desktop, vantle, screens, tool, "Bilder")
+    check_restored(desktop, vantle, screens, tool, "Bilder")
+
+
+@on_desktop("MATE")
+def test_mate_screenshot(desktop, vantle, screens):
+    check_folder(desktop, vantle, screens, screenshot_tools.MATE, "Desktop")
+
+
+@on_desktop("sway")
+def test_flameshot(desktop, vantle, screens):
+    check_folder(desktop, vantle, screens, screenshot_tools.FLAMESHOT, "Bilder")
+    check_restored(desktop, vantle, screens, screenshot_tools.FLAMESHOT, "Bilder")
+
+
+@on_desktop("LXQt")
+def test_screengrab(desktop, vantle, screens):
+    check_folder(desktop, vantle, screens, screenshot_tools.SCREENGRAB, "")
+
+
+@on_desktop("i3")
+def test_ksnip_chosen_in_the_settings_file(desktop, vantle, screens):
+    vantle.write_settings(screenshotTool="ksnip")
+    check_folder(desktop, vantle, screens, screenshot_tools.KSNIP, "")
+    check_restored(desktop, vantle, screens, screenshot_tools.KSNIP, "")
+
+
+@on_desktop("KDE")
+def test_a_change_from_outside_counts_from_the_next_start(desktop, vantle):
+    vantle.start_watching()
+    (desktop.home / "Andere").mkdir()
+    settings = desktop.home / ".config/spectaclerc"
+    settings.write_text("[Save]\ndefaultSaveLocation[$e]=file://$HOME/Andere\n")
+    take(desktop, vantle, screenshot_tools.GNOME_SCREENSHOT, desktop.home / "Bilder")
+    vantle.stop()
+    vantle.start_watching()
+    vantle.wait_for_log(f"watching {desktop.home / 'Andere'} ")
+    take(desktop, vantle, screenshot_tools.SPECTACLE, desktop.home / "Andere")
+
+
+@on_desktop("KDE")
+def test_damaged_settings_of_the_tool_are_left_alone(desktop, vantle, screens):
+    settings = desktop.home / ".config/spectaclerc"
+    damage = b"[Save]\ndefaultSaveLocation=file:///usr\n\0\0\0"
+    settings.write_bytes(damage)
+    vantle.start_watching()
+    vantle.wait_for_log(f"watching {desktop.home / 'Bilder'} ")
+    screens.open_settings()
+    screens.wait_for_text("The tool's settings file spectaclerc cannot be read: it is damaged.")
+    assert "enabled" not in screens.control("Change")["states"]
+    screens.click("Change")
+    assert desktop.screen.menu() is None
+    assert settings.read_bytes() == damage
+    assert vantle.log_text().count("spectaclerc") == 1
+
+
+@on_desktop("KDE")
+def test_an_unknown_tool_in_the_settings_file_is_told(desktop, vantle):
+    vantle.write_settings(screenshotTool="camera")
+    vantle.start_watching()
+    vantle.wait_for_log("Vantle: there is no screenshotTool named camera; none is used$")
+    vantle.wait_for_log(f"watching {desktop.home / 'Desktop'} ")

@@ -1,0 +1,80 @@
+"""The previews of the desktops' own screenshot tools are hidden, and come back as they were."""
+
+import pathlib
+
+import pytest
+
+import screenshot_tools
+from assistant import ENVIRONMENT
+from privatedesktop import Program, wait_until
+from screenshot_tools import USER_FOLDERS, pictures_in
+
+HIDE = "Hide the built-in macOS thumbnail"
+
+
+class Notifications:
+    """Counts what is notified by a tool."""
+
+    def __init__(self, desktop):
+        program = pathlib.Path(__file__).with_name("notifications.py")
+        desktop.start("/usr/bin/python3", str(program))
+        self._log = desktop.log_folder / "python3.log"
+        wait_until(lambda: "ready" in self._text(), "notifications are taken")
+
+    def _text(self):
+        return self._log.read_text() if self._log.exists() else ""
+
+    def count(self, tool):
+        return self._text().count(f"notified by {tool}\n")
+
+
+@pytest.fixture
+def vantle(desktop, binary):
+    program = Program(binary, desktop, environment=ENVIRONMENT)
+    program.write_settings(screenshotTool=None)
+    (desktop.home / "Bilder").mkdir()
+    yield program
+    program.stop()
+
+
+def check_preview(desktop, vantle, screens, tool, name):
+    """It notifies by default, not while that is hidden, and again afterwards."""
+    notifications = Notifications(desktop)
+    vantle.start_watching()
+    tool.take(desktop)
+    wait_until(lambda: notifications.count(name) == 1, "it notifies by default")
+    screens.open_settings()
+    assert not screens.is_on(HIDE)
+    screens.click(HIDE)
+    wait_until(lambda: screens.is_on(HIDE), "it is hidden")
+    tool.take(desktop)
+    screens.click(HIDE)
+    wait_until(lambda: not screens.is_on(HIDE), "it is shown")
+    tool.take(desktop)
+    # What the second one would have sent has come before this.
+    wait_until(lambda: notifications.count(name) == 2, "it notifies again")
+    vantle.wait_for_log("captured ", times=3)
+    assert len(pictures_in(desktop.home / "Bilder")) == 3
+
+
+@pytest.mark.desktop(
+    environment={"XDG_CURRENT_DESKTOP": "KDE"}, configuration={"user-dirs.dirs": USER_FOLDERS}
+)
+def test_spectacle(desktop, vantle, screens):
+    tool = screenshot_tools.ScreenshotTool("spectacle", "-b")
+    check_preview(desktop, vantle, screens, tool, "Spectacle")
+
+
+@pytest.mark.desktop(configuration={"user-dirs.dirs": USER_FOLDERS})
+def test_flameshot(desktop, vantle, screens):
+    check_preview(desktop, vantle, screens, screenshot_tools.FLAMESHOT, "flameshot")
+
+
+@pytest.mark.desktop(environment={"XDG_CURRENT_DESKTOP": "KDE"})
+def test_the_onboarding_hides_it(desktop, vantle):
+    settings = desktop.home / ".config/spectacle.notifyrc"
+    vantle.settings_file.unlink()
+    vantle.start()
+    wait_until(desktop.screen.dialogs, "the onboarding opens")
+    wait_until(settings.exists, "the tool's settings are changed")
+    assert settings.read_text() == "[Event/newScreenshotSaved]\nAction=\n"
