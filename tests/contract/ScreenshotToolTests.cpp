@@ -307,15 +307,14 @@ TEST_F(ScreenshotToolTest, PreviewsAreReadAndSwitched) {
     const std::map<std::string, std::string> hidden{
         {"spectacle.notifyrc", "[Event/newScreenshotSaved]\nAction=\n"},
         {"flameshot/flameshot.ini", "[General]\nshowDesktopNotification=false\n"},
-        {"ksnip/ksnip.conf", "[Application]\nTrayIconNotificationsEnabled=false\n"},
-        {"screengrab/screengrab.conf", "[Display]\ntrayMessages=0\n"}};
-    for (const auto* tool : {"spectacle", "flameshot", "ksnip", "screengrab"}) {
+        {"ksnip/ksnip.conf", "[Application]\nTrayIconNotificationsEnabled=false\n"}};
+    for (const auto* tool : {"spectacle", "flameshot", "ksnip"}) {
         EXPECT_TRUE(shows(tool)) << tool;
         setShows(tool, false);
         EXPECT_FALSE(shows(tool)) << tool;
     }
     for (const auto& [file, text] : hidden) EXPECT_EQ(configuration(file), text);
-    for (const auto* tool : {"spectacle", "flameshot", "ksnip", "screengrab"}) {
+    for (const auto* tool : {"spectacle", "flameshot", "ksnip"}) {
         setShows(tool, true);
         EXPECT_TRUE(shows(tool)) << tool;
     }
@@ -341,16 +340,18 @@ TEST_F(ScreenshotToolTest, WhatCannotBeChangedIsSaidAndStays) {
     EXPECT_EQ(folderOf("gnome-shell"), "Bilder/Screenshots");
     for (const auto& [tool, isShown] :
          {std::pair("gnome-shell", true), std::pair("mate-screenshot", true),
-          std::pair("gnome-screenshot", false), std::pair("xfce4-screenshooter", false)}) {
+          std::pair("screengrab", true), std::pair("gnome-screenshot", false),
+          std::pair("xfce4-screenshooter", false)}) {
         EXPECT_FALSE(domain(tool).obstacle(showThumbnail).empty()) << tool;
         setShows(tool, !isShown);
         EXPECT_EQ(shows(tool), isShown) << tool;
     }
-    for (const auto* tool : {"spectacle", "flameshot", "ksnip", "screengrab"}) {
+    for (const auto* tool : {"spectacle", "flameshot", "ksnip"}) {
         EXPECT_EQ(domain(tool).obstacle(location), "") << tool;
         EXPECT_EQ(domain(tool).obstacle(showThumbnail), "") << tool;
     }
-    for (const auto* tool : {"gnome-screenshot", "mate-screenshot", "xfce4-screenshooter"})
+    for (const auto* tool :
+         {"gnome-screenshot", "mate-screenshot", "screengrab", "xfce4-screenshooter"})
         EXPECT_EQ(domain(tool).obstacle(location), "") << tool;
 }
 

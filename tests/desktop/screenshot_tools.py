@@ -34,15 +34,26 @@ class AskingTool:
         wait_until(lambda: process.poll() is not None, f"{self._command[0]} ends")
 
 
-class ScreenGrab:
-    """A window that saves by Ctrl+S."""
+class Editor:
+    """One that shows the screenshot in a window and saves it by Ctrl+S.
+
+    Then it asks in a dialog, to which Return is the answer, or has the file's name in its title.
+    """
+
+    def __init__(self, *command, window, dialog=None):
+        self._command = command
+        self._window = window
+        self._dialog = dialog
 
     def take(self, desktop):
-        process = desktop.start("screengrab", "-f")
-        window = window_titled(desktop, "ScreenGrab")
+        process = desktop.start(*self._command)
+        window = window_titled(desktop, self._window)
         wait_until(lambda: desktop.screen.active_window() == window, "it has the keyboard")
         press_with_control(desktop, "s")
-        answer(desktop, "Save As...")
+        if self._dialog:
+            answer(desktop, self._dialog)
+        else:
+            window_titled(desktop, ".png")
         process.terminate()
         process.wait()
 
@@ -66,7 +77,8 @@ KSNIP = ScreenshotTool("ksnip", "-f", "-s")
 FLAMESHOT = AskingTool("flameshot", "full", titles=["Save screenshot"])
 XFCE = AskingTool("xfce4-screenshooter", "-f", titles=["Screenshot", "Save screenshot as..."])
 MATE = AskingTool("mate-screenshot", titles=["Save Screenshot"])
-SCREENGRAB = ScreenGrab()
+SCREENGRAB = Editor("screengrab", "-f", window="ScreenGrab", dialog="Save As...")
+KSNIP_EDITOR = Editor("ksnip", "-f", window="ksnip")
 
 
 def pictures_in(folder):

@@ -37,7 +37,7 @@ def vantle(desktop, binary):
     program.stop()
 
 
-def check_preview(desktop, vantle, screens, tool, name):
+def check_preview(desktop, vantle, screens, tool, name, folder="Bilder"):
     """It notifies by default, not while that is hidden, and again afterwards."""
     notifications = Notifications(desktop)
     vantle.start_watching()
@@ -54,7 +54,7 @@ def check_preview(desktop, vantle, screens, tool, name):
     # What the second one would have sent has come before this.
     wait_until(lambda: notifications.count(name) == 2, "it notifies again")
     vantle.wait_for_log("captured ", times=3)
-    assert len(pictures_in(desktop.home / "Bilder")) == 3
+    assert len(pictures_in(desktop.home / folder)) == 3
 
 
 @pytest.mark.desktop(
@@ -68,6 +68,22 @@ def test_spectacle(desktop, vantle, screens):
 @pytest.mark.desktop(configuration={"user-dirs.dirs": USER_FOLDERS})
 def test_flameshot(desktop, vantle, screens):
     check_preview(desktop, vantle, screens, screenshot_tools.FLAMESHOT, "flameshot")
+
+
+def test_ksnip(desktop, vantle, screens):
+    vantle.write_settings(screenshotTool="ksnip")
+    check_preview(desktop, vantle, screens, screenshot_tools.KSNIP_EDITOR, "ksnip", folder="")
+
+
+@pytest.mark.desktop(environment={"XDG_CURRENT_DESKTOP": "LXQt"})
+def test_screengrab_cannot_be_silenced(desktop, vantle, screens):
+    notifications = Notifications(desktop)
+    vantle.start_watching()
+    screenshot_tools.SCREENGRAB.take(desktop)
+    wait_until(lambda: notifications.count("Screen Grab") == 1, "it notifies")
+    screens.open_settings()
+    assert not screens.is_on(HIDE)
+    assert "enabled" not in screens.control(HIDE)["states"]
 
 
 @pytest.mark.desktop(environment={"XDG_CURRENT_DESKTOP": "KDE"})

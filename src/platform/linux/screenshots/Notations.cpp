@@ -61,11 +61,6 @@ PreviewNotation yesOrNo() {
             .write = [](const std::string&, bool shows) { return shows ? "true" : "false"; }};
 }
 
-PreviewNotation numberOrNever() {
-    return {.read = [](const std::string& text) { return text != "0"; },
-            .write = [](const std::string&, bool shows) { return shows ? "1" : "0"; }};
-}
-
 PreviewNotation popupOfKde() {
     return {.read =
                 [](const std::string& text) {

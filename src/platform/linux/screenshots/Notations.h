@@ -41,9 +41,6 @@ FolderNotation pathOfQt();
 /// "true" or "false".
 PreviewNotation yesOrNo();
 
-/// A number that is 0 for never; 1 is what the tool does by itself.
-PreviewNotation numberOrNever();
-
 /// Among the actions of an event of KDE, "Sound|Popup", the one that shows a notification.
 PreviewNotation popupOfKde();
 

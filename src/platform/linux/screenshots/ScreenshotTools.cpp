@@ -105,12 +105,11 @@ ScreenshotTool ksnip(const Surroundings& its) {
 }
 
 ScreenshotTool screengrab(const Surroundings& its) {
-    constexpr auto file = "screengrab/screengrab.conf";
     return {.defaultFolder = [directories = its.directories] { return directories.home(); },
-            .folder = {.setting = its.inFile(file, "Base", "defDir"), .notation = pathOfQt()},
-            .preview = {.setting = its.inFile(file, "Display", "trayMessages"),
-                        .notation = numberOrNever(),
-                        .textByDefault = "1"}};
+            .folder = {.setting = its.inFile("screengrab/screengrab.conf", "Base", "defDir"),
+                       .notation = pathOfQt()},
+            // Its setting "trayMessages" changes nothing about that in version 2.5.
+            .preview = {.isShown = true, .obstacle = "ScreenGrab always notifies after it saved."}};
 }
 
 ScreenshotTool shellOfGnome(const Surroundings& its) {
