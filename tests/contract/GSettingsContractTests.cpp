@@ -61,6 +61,7 @@ struct Command {
     TemporaryFolder folder;
     ChangedEnvironment environment{{{"GSETTINGS_SCHEMA_DIR", folder.url().path()},
                                     {"GSETTINGS_BACKEND", "keyfile"},
+                                    {"LC_ALL", "C"},
                                     {"XDG_CONFIG_HOME", folder.url().path()}}};
     GSettingsCommand settings;
 };

@@ -12,6 +12,10 @@ constexpr int patience = 3000;  // milliseconds
 
 Result<QString> run(const QStringList& arguments) {
     QProcess process;
+    // In another language it would print what it cannot write there as question marks.
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    process.setProcessEnvironment(environment);
     process.setStandardInputFile(QProcess::nullDevice());
     process.start(QStringLiteral("gsettings"), arguments);
     if (!process.waitForFinished(patience)) {
