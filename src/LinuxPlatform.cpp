@@ -112,10 +112,9 @@ bool isInstalled(const std::string& program) {
 std::unique_ptr<PreferencesDomain> makeScreenshotPreferences(const Environment& environment,
                                                              const UserDefaults& defaults,
                                                              const Url& own) {
-    const auto wanted = defaults.text("screenshotTool");
-    const auto name =
-        wanted ? *wanted
-               : chooseScreenshotTool(environment("XDG_CURRENT_DESKTOP").value_or(""), isInstalled);
+    auto name = defaults.text("screenshotTool").value_or("");
+    if (name.empty())
+        name = chooseScreenshotTool(environment("XDG_CURRENT_DESKTOP").value_or(""), isInstalled);
     auto tool = makeScreenshotTool(name, environment, std::make_shared<GSettingsCommand>());
     if (tool)
         return std::make_unique<ToolPreferencesDomain>(std::move(*tool),
