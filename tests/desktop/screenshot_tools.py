@@ -47,28 +47,36 @@ class Editor:
 
     def take(self, desktop):
         process = desktop.start(*self._command)
-        window = window_titled(desktop, self._window)
-        wait_until(lambda: desktop.screen.active_window() == window, "it has the keyboard")
-        press_with_control(desktop, "s")
+        window_titled(desktop, self._window)
+        press_until(
+            desktop, self._window, lambda: press_with_control(desktop, "s"),
+            lambda: find_window(desktop, self._dialog or ".png"),
+        )  # fmt: skip
         if self._dialog:
             answer(desktop, self._dialog)
-        else:
-            window_titled(desktop, ".png")
         process.terminate()
         process.wait()
 
 
 def answer(desktop, title):
-    """Presses Return in that window until it is gone: it may not listen yet."""
     window_titled(desktop, title)
+    press_until(
+        desktop, title, lambda: desktop.screen.keyboard.press("Return"),
+        lambda: find_window(desktop, title) is None,
+    )  # fmt: skip
 
-    def is_gone():
-        window = find_window(desktop, title)
-        if window is not None and desktop.screen.active_window() == window:
-            desktop.screen.keyboard.press("Return")
-        return window is None
 
-    wait_until(is_gone, f"{title} closes", interval=0.5)
+def press_until(desktop, title, press, is_done):
+    """Presses in that window while it has the keyboard, now and then: it may not listen yet."""
+
+    def attempt():
+        if is_done():
+            return True
+        if desktop.screen.active_window() == find_window(desktop, title):
+            press()
+        return False
+
+    wait_until(attempt, f"{title} answers", interval=0.7)
 
 
 SPECTACLE = ScreenshotTool("spectacle", "-b", "-n")
