@@ -1,4 +1,4 @@
-"""GNOME's own screenshots: their folder has a name in the language of the session, for good."""
+"""GNOME's own screenshots: their folder has a name in the user's language, for good."""
 
 import pytest
 

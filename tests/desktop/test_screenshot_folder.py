@@ -11,7 +11,7 @@ from screenshot_tools import USER_FOLDERS, pictures_in
 
 
 def on_desktop(name):
-    """A session of that desktop, whose user is a German."""
+    """That desktop, as a German uses it."""
     return pytest.mark.desktop(
         environment={"XDG_CURRENT_DESKTOP": name}, configuration={"user-dirs.dirs": USER_FOLDERS}
     )

@@ -4,7 +4,7 @@
 
 namespace vantle {
 
-/// What another program says for `text` in the language of the session ($LANGUAGE, $LC_ALL,
+/// What another program says for `text` in the user's language ($LANGUAGE, $LC_ALL,
 /// $LC_MESSAGES, $LANG), by the catalogue that the system holds under the name `domain`. UTF-8.
 /// `text` itself where there is no such language, catalogue or entry. Main thread only.
 std::string translated(const std::string& domain, const std::string& text);
