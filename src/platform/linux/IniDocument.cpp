@@ -93,10 +93,7 @@ std::string written(const std::string& value) {
 }  // namespace
 
 std::optional<IniDocument> IniDocument::parse(std::string_view text) {
-    if (std::ranges::any_of(text, [](char one) {
-            return isControl(one) && one != '\n' && one != '\r' && one != '\t';
-        }))
-        return std::nullopt;
+    if (!KeyFile::isText(text)) return std::nullopt;
     IniDocument document;
     document.file_ = KeyFile(text);
     if (!document.file_.isWellFormed()) return std::nullopt;

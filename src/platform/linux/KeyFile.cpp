@@ -28,6 +28,13 @@ std::string_view withoutFlags(std::string_view name) {
 
 }  // namespace
 
+bool KeyFile::isText(std::string_view text) {
+    return std::ranges::none_of(text, [](char one) {
+        const auto byte = static_cast<unsigned char>(one);
+        return (byte < 0x20 || byte == 0x7f) && one != '\n' && one != '\r' && one != '\t';
+    });
+}
+
 KeyFile::KeyFile(std::string_view text) {
     if (text.starts_with(byteOrderMark)) {
         byteOrderMark_ = byteOrderMark;

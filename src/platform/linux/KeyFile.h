@@ -15,6 +15,10 @@ namespace vantle {
 /// writes them) are no part of its name.
 class KeyFile {
 public:
+    /// Whether it holds no control characters but tabs and line breaks; anything else is no
+    /// settings file.
+    static bool isText(std::string_view text);
+
     KeyFile() = default;
     explicit KeyFile(std::string_view text);
 
