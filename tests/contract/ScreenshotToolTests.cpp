@@ -368,6 +368,8 @@ TEST_F(ScreenshotToolTest, ADamagedOrHugeFileMeansTheDefaultOneLineAndIsNotOverw
             preferences.setValue(location, makeFolder("other").path());
             EXPECT_NE(preferences.value(location), PreferenceValue(inHome("other").path()));
             EXPECT_FALSE(preferences.obstacle(location).empty());
+            (void)preferences.value(showThumbnail);
+            preferences.setValue(showThumbnail, false);
             EXPECT_EQ(readText(inHome(place.first)), before) << tool;
             EXPECT_THAT(lines.lines(), ElementsAre(HasSubstr(inHome(place.first).path()))) << tool;
         }

@@ -23,13 +23,11 @@ struct Surroundings {
     UserDirectories directories{environment};
     std::shared_ptr<GSettings> settings;
 
-    std::unique_ptr<TextSetting> inFile(std::string_view name, std::string group,
-                                        std::string key) const {
-        std::vector<Url> files{directories.configuration().appending(name)};
+    std::shared_ptr<SettingsFiles> files(std::string_view name) const {
+        std::vector<Url> all{directories.configuration().appending(name)};
         for (const Url& folder : directories.systemConfiguration())
-            files.push_back(folder.appending(name));
-        return std::make_unique<KeyFileSetting>(
-            KeyFileSetting::Place{std::move(files), std::move(group), std::move(key)});
+            all.push_back(folder.appending(name));
+        return std::make_shared<SettingsFiles>(std::move(all));
     }
 
     std::unique_ptr<TextSetting> inGSettings(std::string schema, std::string key) const {
@@ -53,17 +51,19 @@ ScreenshotTool spectacle(const Surroundings& its) {
                 return directories.pictures().value_or(directories.home().appending("Pictures"));
             },
         .missingFolder = MissingFolder::isMade,
-        .folder = {.setting = its.inFile("spectaclerc", "Save", "defaultSaveLocation"),
+        .folder = {.setting = std::make_unique<KeyFileSetting>(its.files("spectaclerc"), "Save",
+                                                               "defaultSaveLocation"),
                    .notation = addressOfKde(its.environment)},
-        .preview = {
-            .setting = its.inFile("spectacle.notifyrc", "Event/newScreenshotSaved", "Action"),
-            .notation = popupOfKde(),
-            .textByDefault = "Popup"}};
+        .preview = {.setting = std::make_unique<KeyFileSetting>(
+                        its.files("spectacle.notifyrc"), "Event/newScreenshotSaved", "Action"),
+                    .notation = popupOfKde(),
+                    .textByDefault = "Popup"}};
 }
 
 ScreenshotTool xfceScreenshooter(const Surroundings& its) {
     return {.defaultFolder = its.picturesOrHome(),
-            .folder = {.setting = its.inFile("xfce4/xfce4-screenshooter", "", "screenshot_dir"),
+            .folder = {.setting = std::make_unique<KeyFileSetting>(
+                           its.files("xfce4/xfce4-screenshooter"), "", "screenshot_dir"),
                        .notation = addressOfXfce()},
             .preview = {.obstacle = "The screenshot tool of Xfce shows no preview."}};
 }
@@ -85,28 +85,33 @@ ScreenshotTool mateScreenshot(const Surroundings& its) {
 }
 
 ScreenshotTool flameshot(const Surroundings& its) {
-    constexpr auto file = "flameshot/flameshot.ini";
+    const auto files = its.files("flameshot/flameshot.ini");
     return {.defaultFolder = its.picturesOrHome(),
-            .folder = {.setting = its.inFile(file, "General", "savePath"), .notation = pathOfQt()},
-            .preview = {.setting = its.inFile(file, "General", "showDesktopNotification"),
+            .folder = {.setting = std::make_unique<KeyFileSetting>(files, "General", "savePath"),
+                       .notation = pathOfQt()},
+            .preview = {.setting = std::make_unique<KeyFileSetting>(files, "General",
+                                                                    "showDesktopNotification"),
                         .notation = yesOrNo(),
                         .textByDefault = "true"}};
 }
 
 ScreenshotTool ksnip(const Surroundings& its) {
-    constexpr auto file = "ksnip/ksnip.conf";
+    const auto files = its.files("ksnip/ksnip.conf");
     return {.defaultFolder = [directories = its.directories] { return directories.home(); },
             .missingFolder = MissingFolder::isMade,
-            .folder = {.setting = its.inFile(file, "Application", "SaveDirectory"),
+            .folder = {.setting =
+                           std::make_unique<KeyFileSetting>(files, "Application", "SaveDirectory"),
                        .notation = pathOfQt()},
-            .preview = {.setting = its.inFile(file, "Application", "TrayIconNotificationsEnabled"),
+            .preview = {.setting = std::make_unique<KeyFileSetting>(files, "Application",
+                                                                    "TrayIconNotificationsEnabled"),
                         .notation = yesOrNo(),
                         .textByDefault = "true"}};
 }
 
 ScreenshotTool screengrab(const Surroundings& its) {
     return {.defaultFolder = [directories = its.directories] { return directories.home(); },
-            .folder = {.setting = its.inFile("screengrab/screengrab.conf", "Base", "defDir"),
+            .folder = {.setting = std::make_unique<KeyFileSetting>(
+                           its.files("screengrab/screengrab.conf"), "Base", "defDir"),
                        .notation = pathOfQt()},
             // Its setting "trayMessages" changes nothing about that in version 2.5.
             .preview = {.isShown = true, .obstacle = "ScreenGrab always notifies after it saved."}};

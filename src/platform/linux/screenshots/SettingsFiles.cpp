@@ -1,0 +1,78 @@
+#include "platform/linux/screenshots/SettingsFiles.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+#include "platform/linux/WholeFile.h"
+#include "support/SystemFailure.h"
+#include "support/SystemLog.h"
+
+namespace vantle {
+namespace {
+
+constexpr std::size_t largestFile = std::size_t{256} * 1024;
+
+/// A file that its owner may not write to is meant to stay, though it could be replaced.
+bool isReadOnly(const Url& file) {
+    constexpr mode_t writable = S_IWUSR | S_IWGRP | S_IWOTH;
+    struct stat status {};
+    if (stat(file.path().c_str(), &status) != 0) return false;
+    return (status.st_mode & writable) == 0 || eaccess(file.path().c_str(), W_OK) != 0;
+}
+
+}  // namespace
+
+Result<std::optional<std::string>> SettingsFiles::value(std::string_view group,
+                                                        std::string_view key) const {
+    for (const Url& file : files_) {
+        const auto settings = load(file);
+        if (!settings) return complain(settings.failure());
+        if (auto text = settings.value().value(group, key)) return text;
+    }
+    return std::optional<std::string>();
+}
+
+Outcome SettingsFiles::change(std::string_view group, std::string_view key,
+                              const std::optional<std::string>& text) {
+    auto settings = load(ownFile());
+    if (!settings) return complain(settings.failure());
+    if (isReadOnly(ownFile())) return complain(systemFailure(EACCES, ownFile().path()));
+    if (text) {
+        settings.value().set(group, key, *text);
+    } else {
+        settings.value().remove(group, key);
+    }
+    const auto failure = replaceWholeFile(ownFile(), settings.value().text());
+    if (failure) return complain(*failure);
+    return {};
+}
+
+std::string SettingsFiles::obstacle() const {
+    const std::string file =
+        "The tool's settings file " + std::string(ownFile().lastPathComponent());
+    const auto settings = load(ownFile());
+    if (!settings) return file + " cannot be read: " + settings.failure().message + ".";
+    if (isReadOnly(ownFile())) return file + " is read-only.";
+    return {};
+}
+
+Result<KeyFile> SettingsFiles::load(const Url& file) const {
+    const auto contents = readWholeFile(file, largestFile);
+    if (contents) {
+        if (KeyFile::isText(contents.value())) return KeyFile(contents.value());
+        return Failure{EINVAL, "it is damaged", file.path()};
+    }
+    if (contents.failure().code == ENOENT) return KeyFile();
+    return contents.failure();
+}
+
+Failure SettingsFiles::complain(const Failure& failure) const {
+    if (!std::exchange(complained_, true))
+        systemLog("Vantle: cannot use " + failure.path + ": " + failure.message);
+    return failure;
+}
+
+}  // namespace vantle
