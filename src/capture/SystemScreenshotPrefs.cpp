@@ -1,5 +1,6 @@
 #include "capture/SystemScreenshotPrefs.h"
 
+#include "platform/PreferenceConversion.h"
 #include "platform/ScreenshotPreferences.h"
 
 namespace vantle {
@@ -44,7 +45,7 @@ std::string SystemScreenshotPrefs::locationObstacle() const {
 
 std::optional<Url> SystemScreenshotPrefs::previousLocation() const {
     const auto previous = preferences_.previousValue(locationKey);
-    const auto* path = previous ? std::get_if<std::string>(&*previous) : nullptr;
+    const auto path = previous ? asText(*previous) : std::nullopt;
     return path ? std::optional(expandingTilde(*path)) : std::nullopt;
 }
 

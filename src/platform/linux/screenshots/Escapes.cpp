@@ -98,7 +98,7 @@ std::string fromQtEscapes(std::string_view written) {
             const std::uint16_t unit = takenHex(written, 4);
             units += {static_cast<char>(unit & 0xff), static_cast<char>(unit >> 8)};
         }
-        text += converted("UTF-16LE", "UTF-8", units).value_or("");
+        if (!units.empty()) text += converted("UTF-16LE", "UTF-8", units).value_or("");
         if (written.empty()) break;
         const char character = taken(written);
         if (character == '\\' && !written.empty()) {

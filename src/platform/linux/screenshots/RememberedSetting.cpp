@@ -1,5 +1,7 @@
 #include "platform/linux/screenshots/RememberedSetting.h"
 
+#include "platform/PreferenceConversion.h"
+
 namespace vantle {
 namespace {
 
@@ -26,12 +28,12 @@ Outcome RememberedSetting::change(const std::string& text) {
 
 std::optional<RememberedSetting::Before> RememberedSetting::before() const {
     const auto current = setting_->read();
-    const auto last = written();
-    if (!current || !last || !isSame(current.value(), last)) return std::nullopt;
-    const auto stored = memory_.load().value(name_ + beforeKey);
-    if (!stored) return std::nullopt;
-    if (const auto* text = std::get_if<std::string>(&*stored)) return Before{*text};
-    return Before{};
+    const auto memory = memory_.load();
+    const auto before = memory.value(name_ + beforeKey);
+    const auto written = memory.value(name_ + writtenKey);
+    if (!current || !before || !written || !isSame(current.value(), asText(*written)))
+        return std::nullopt;
+    return Before{asText(*before)};
 }
 
 Outcome RememberedSetting::restore() {
@@ -43,12 +45,6 @@ bool RememberedSetting::isSame(const std::optional<std::string>& one,
                                const std::optional<std::string>& other) const {
     if (!one || !other) return one == other;
     return meaning_(*one) == meaning_(*other);
-}
-
-std::optional<std::string> RememberedSetting::written() const {
-    const auto stored = memory_.load().value(name_ + writtenKey);
-    const auto* text = stored ? std::get_if<std::string>(&*stored) : nullptr;
-    return text ? std::optional(*text) : std::nullopt;
 }
 
 Outcome RememberedSetting::remember(const std::optional<std::string>& before,

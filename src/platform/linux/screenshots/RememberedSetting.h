@@ -46,7 +46,6 @@ public:
 private:
     bool isSame(const std::optional<std::string>& one,
                 const std::optional<std::string>& other) const;
-    std::optional<std::string> written() const;
     Outcome remember(const std::optional<std::string>& before, const std::string& written);
 
     std::unique_ptr<TextSetting> setting_;

@@ -11,7 +11,8 @@ namespace vantle {
 
 /// The system's screenshot preferences, answered by the settings of a screenshot tool. Other keys
 /// than those of platform/ScreenshotPreferences.h are never there. Values are written as soon as
-/// they are set.
+/// they are set. Only the location tells its previous value; a preview that is switched back gets
+/// its own by itself.
 class ToolPreferencesDomain final : public PreferencesDomain {
 public:
     /// What the tool's settings were is remembered in the file `memory`.
