@@ -36,9 +36,14 @@ def _answer(connection, _sender, _path, _interface, method, parameters, invocati
         print("notified by", parameters.unpack()[0], flush=True)
     invocation.return_value(_ANSWERS[method])
     if method == "Notify":
-        # Some tools stay until then.
-        closed = GLib.Variant("(uu)", (1, 1))
-        connection.emit_signal(None, _PATH, _NAME, "NotificationClosed", closed)
+        # Some tools stay until then, and may not know the number yet when they are told first.
+        GLib.timeout_add(250, _close, connection)
+
+
+def _close(connection):
+    closed = GLib.Variant("(uu)", (1, 1))
+    connection.emit_signal(None, _PATH, _NAME, "NotificationClosed", closed)
+    return GLib.SOURCE_CONTINUE
 
 
 def _register(connection, _name):
