@@ -1,18 +1,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/ptrace.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <csignal>
 #include <ctime>
 #include <filesystem>
 #include <regex>
 #include <string>
 #include <vector>
 
+#include "KilledAtStop.h"
 #include "Locked.h"
 #include "PrivateMounts.h"
 #include "TemporaryFolder.h"
@@ -327,31 +325,6 @@ TEST_F(VolumeTrashTest, ABoundFolderHasATrashOfItsOwn) {
 /// Kills a process that moves a file, at each of its system calls in turn.
 class KilledMoveTest : public VolumeTrashTest {
 protected:
-    enum class End { killed, done };
-
-    /// Lets it make `calls` stops at system calls, two for each, and kills it at the last.
-    End moveWithKill(const Url& file, int calls) {
-        const pid_t child = fork();
-        if (child == 0) {
-            ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
-            raise(SIGSTOP);
-            _exit(move(file) ? 1 : 0);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        for (int call = 0; call < calls && WIFSTOPPED(status); ++call) {
-            ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
-            waitpid(child, &status, 0);
-        }
-        if (!WIFSTOPPED(status)) {
-            EXPECT_EQ(status, 0);
-            return End::done;
-        }
-        kill(child, SIGKILL);
-        waitpid(child, &status, 0);
-        return End::killed;
-    }
-
     /// The file is whole where it was, or whole in the Trash with its information.
     void expectSafe(const Url& file, const Url& where, const std::string& stored) {
         const bool stayed = exists(file) && readText(file) == contents;
@@ -372,7 +345,7 @@ protected:
             fs::create_directories(where.appending("files").path());
             writeText(where.appending("files/shot.png"), "of somebody");
             writeText(file, contents);
-            end = moveWithKill(file, calls);
+            end = runAndKill([&] { return !move(file); }, calls);
             SCOPED_TRACE("killed at stop " + std::to_string(calls));
             expectSafe(file, where, stored);
             EXPECT_EQ(readText(where.appending("files/shot.png")), "of somebody");
