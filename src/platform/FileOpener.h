@@ -1,12 +1,13 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "support/Url.h"
 
 namespace vantle {
 
-/// Hands files to other programs. Nothing waits for those, and what they make of a file that has
+/// Hands files, and pages of the web, to other programs. Nothing waits for those, and what they make of a file that has
 /// gone is theirs; that nobody could be asked at all is logged. Main thread only.
 class FileOpener {
 public:
@@ -17,6 +18,9 @@ public:
 
     /// Shows the files selected in the file manager.
     virtual void reveal(const std::vector<Url>& urls) = 0;
+
+    /// Opens a page of the web in the user's browser.
+    virtual void openPage(const std::string& address) = 0;
 };
 
 }  // namespace vantle

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "platform/FileOpener.h"
@@ -14,8 +15,11 @@ public:
         revealed.insert(revealed.end(), urls.begin(), urls.end());
     }
 
+    void openPage(const std::string& address) override { pages.push_back(address); }
+
     std::vector<Url> opened;
     std::vector<Url> revealed;
+    std::vector<std::string> pages;
 };
 
 }  // namespace vantle::fakes

@@ -20,8 +20,8 @@ namespace {
 constexpr std::array openerPrograms{FileProgram{"xdg-open", nullptr}, FileProgram{"gio", "open"},
                                     FileProgram{"kde-open", nullptr}};
 
-void logFailure(const Url& url, const std::string& reason) {
-    systemLog("Vantle: cannot open " + url.path() + ": " + reason);
+void logFailure(const std::string& what, const std::string& reason) {
+    systemLog("Vantle: cannot open " + what + ": " + reason);
 }
 
 }  // namespace
@@ -37,30 +37,41 @@ DesktopFileOpener::Sandbox DesktopFileOpener::currentSandbox() {
 void DesktopFileOpener::open(const Url& url) {
     if (sandbox_ == Sandbox::flatpak)
         openByPortal("OpenFile", url);
-    else if (const Outcome failure = openByDesktop(url))
-        logFailure(url, failure->message);
+    else if (const Outcome failure = openByDesktop(url.path()))
+        logFailure(url.path(), failure->message);
 }
 
-Outcome DesktopFileOpener::openByDesktop(const Url& url) {
-    const auto command = commandFor(openerPrograms, {url});
-    if (!command) return Failure{ENOENT, "xdg-open is not installed", url.path()};
+void DesktopFileOpener::openPage(const std::string& address) {
+    if (sandbox_ == Sandbox::flatpak)
+        askPortal("OpenURI", QString::fromStdString(address), address);
+    else if (const Outcome failure = openByDesktop(address))
+        logFailure(address, failure->message);
+}
+
+Outcome DesktopFileOpener::openByDesktop(const std::string& what) {
+    const auto command = commandForArguments(openerPrograms, {what});
+    if (!command) return Failure{ENOENT, "xdg-open is not installed", what};
     return launcher_.launch(command->program, command->arguments);
 }
 
 void DesktopFileOpener::openByPortal(const char* method, const Url& url) {
     const FileDescriptor file(::open(url.path().c_str(), O_PATH | O_CLOEXEC));
     if (!file) {
-        logFailure(url, std::strerror(errno));
+        logFailure(url.path(), std::strerror(errno));
         return;
     }
+    askPortal(method, QVariant::fromValue(QDBusUnixFileDescriptor(file.get())), url.path());
+}
+
+void DesktopFileOpener::askPortal(const char* method, const QVariant& what,
+                                  const std::string& name) {
     auto message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.portal.Desktop"),
                                                   QStringLiteral("/org/freedesktop/portal/desktop"),
                                                   QStringLiteral("org.freedesktop.portal.OpenURI"),
                                                   QString::fromLatin1(method));
-    message << QString() << QVariant::fromValue(QDBusUnixFileDescriptor(file.get()))
-            << QVariantMap();
-    callBus(bus_, message, *this, [url](const QDBusMessage& reply) {
-        if (isError(reply)) logFailure(url, reply.errorMessage().toStdString());
+    message << QString() << what << QVariantMap();
+    callBus(bus_, message, *this, [name](const QDBusMessage& reply) {
+        if (isError(reply)) logFailure(name, reply.errorMessage().toStdString());
     });
 }
 

@@ -27,10 +27,12 @@ public:
 
     void open(const Url& url) override;
     void reveal(const std::vector<Url>& urls) override;
+    void openPage(const std::string& address) override;
 
 private:
-    Outcome openByDesktop(const Url& url);
+    Outcome openByDesktop(const std::string& what);
     void openByPortal(const char* method, const Url& url);
+    void askPortal(const char* method, const QVariant& what, const std::string& name);
 
     ProcessLauncher& launcher_;
     const Sandbox sandbox_;

@@ -25,4 +25,8 @@ struct FileCommand {
 std::optional<FileCommand> commandFor(std::span<const FileProgram> programs,
                                       const std::vector<Url>& files);
 
+/// The same for anything that such a program takes in the place of a file.
+std::optional<FileCommand> commandForArguments(std::span<const FileProgram> programs,
+                                               const std::vector<std::string>& arguments);
+
 }  // namespace vantle
