@@ -15,6 +15,10 @@ public:
     /// Shows it, centred on its screen when it was hidden, in front of the others and with the
     /// keyboard.
     virtual void makeKeyAndOrderFront() = 0;
+
+    /// Shows it without taking the keyboard from the program that has it; does nothing when it is
+    /// shown already.
+    virtual void orderFront() = 0;
     virtual void close() = 0;
 
     /// In points, without the frame that the desktop puts around it.

@@ -57,6 +57,7 @@ public:
         events_.push_back(name_ + " made");
     }
     void makeKeyAndOrderFront() override { events_.push_back(name_ + " to front"); }
+    void orderFront() override { events_.push_back(name_ + " shown"); }
     void close() override { events_.push_back(name_ + " closed"); }
     void setContentSize(Size size) override { sizes_.push_back(size); }
     std::optional<std::string> snapshot(double scale) override {

@@ -78,6 +78,17 @@ void ScreenWindow::makeKeyAndOrderFront() {
     requestActivate();
 }
 
+void ScreenWindow::orderFront() {
+    if (isVisible()) return;
+    appear();
+    centre();
+    // The toolkit's own name for it: a window has no other way to say so.
+    constexpr auto withoutKeyboard = "_q_showWithoutActivating";
+    setProperty(withoutKeyboard, true);
+    show();
+    setProperty(withoutKeyboard, {});
+}
+
 std::optional<std::string> ScreenWindow::snapshot(double scale) {
     QQmlComponent component(engine(), source());
     const std::unique_ptr<QObject> made(component.createWithInitialProperties(properties_));

@@ -10,6 +10,7 @@ namespace vantle {
 class ScreenWindow : public ViewWindow, public Window {
 public:
     void makeKeyAndOrderFront() override;
+    void orderFront() override;
     void close() override { hide(); }
     void setContentSize(Size size) override;
     std::optional<std::string> snapshot(double scale) override;
@@ -24,8 +25,10 @@ protected:
     virtual void appear() = 0;
     bool event(QEvent* event) override;
 
-private:
+    /// In the middle of its screen.
     void centre();
+
+private:
 
     QVariantMap properties_;  ///< Of the view.
 };
