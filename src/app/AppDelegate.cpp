@@ -46,7 +46,8 @@ AppDelegate::AppDelegate(Platform& platform, Views views)
                                              .trash = *platform.trash,
                                              .environment = platform.environment,
                                              .makePanel = views_.makePanel})),
-      statusBar_(*platform.statusItem, *platform.opener, *platform.application, settings_) {}
+      statusBar_(*platform.statusItem, *platform.opener, *platform.application, settings_),
+      updaterDelegate_(platform.environment) {}
 
 bool AppDelegate::applicationWillFinishLaunching(const std::optional<ApplicationRequest>& request) {
     if (!platform_.application->anotherCopyIsRunning()) return true;
@@ -211,7 +212,7 @@ void AppDelegate::checkForUpdates() {
 }
 
 Updater* AppDelegate::updater() {
-    if (!updater_ && platform_.makeUpdater) updater_ = platform_.makeUpdater();
+    if (!updater_ && platform_.makeUpdater) updater_ = platform_.makeUpdater(platform_, updaterDelegate_);
     return updater_.get();
 }
 

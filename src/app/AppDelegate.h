@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/StatusBarController.h"
+#include "app/UpdaterDelegate.h"
 #include "capture/CaptureWatcher.h"
 #include "panel/CapturePanelController.h"
 #include "platform/Platform.h"
@@ -112,6 +113,7 @@ private:
     std::unique_ptr<Window> onboardingWindow_;
     std::unique_ptr<Window> settingsWindow_;
     std::vector<Subscription> cancellables_;
+    UpdaterDelegate updaterDelegate_;
     std::unique_ptr<Updater> updater_;
     std::optional<WatchError> lastWatchError_;
 };

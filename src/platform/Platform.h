@@ -61,8 +61,9 @@ struct Platform {
     std::unique_ptr<SerialQueue> watcherQueue;
     std::unique_ptr<DirectoryEvents> directoryEvents;
 
-    /// Empty on a surrounding that has none.
-    std::function<std::unique_ptr<Updater>()> makeUpdater;
+    /// Empty on a surrounding that has none. Both outlive what is made.
+    std::function<std::unique_ptr<Updater>(Platform& platform, UpdaterObserver& observer)>
+        makeUpdater;
 };
 
 }  // namespace vantle

@@ -110,7 +110,9 @@ protected:
             add(platform.privacySettings, std::make_unique<fakes::FakePrivacySettings>());
         canvas = add(platform.canvas, std::make_unique<fakes::FakeCanvas>());
         platform.sounds = std::make_unique<RecordingSounds>(events);
-        platform.makeUpdater = [this] { return std::make_unique<RecordingUpdater>(events); };
+        platform.makeUpdater = [this](Platform&, UpdaterObserver&) {
+            return std::make_unique<RecordingUpdater>(events);
+        };
         defaults->stored["hasCompletedOnboarding"] = true;
     }
 

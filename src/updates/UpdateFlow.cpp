@@ -1,0 +1,186 @@
+#include "updates/UpdateFlow.h"
+
+#include <utility>
+
+namespace vantle {
+namespace {
+
+using Stage = UpdateState::Stage;
+
+// What falls over at once has done so by then.
+constexpr Seconds trial{2.0};
+
+}  // namespace
+
+UpdateFlow::UpdateFlow(Context context)
+    : context_(std::move(context)),
+      schedule_(context_.scheduler, context_.clock, context_.defaults,
+                [this] { check(Asked::bySchedule); }) {
+    if (context_.engine->isOnTrial())
+        confirmation_ =
+            context_.scheduler.after(trial, [this] { context_.engine->confirmStart(); });
+    if (const auto back = context_.engine->rolledBack()) tell(*back);
+}
+
+UpdateFlow::~UpdateFlow() {
+    for (const auto& timer : {confirmation_, telling_, removal_})
+        if (timer) timer->cancel();
+}
+
+void UpdateFlow::checkForUpdates() {
+    const Stage stage = state.value().stage;
+    const bool isFree =
+        stage == Stage::closed || stage == Stage::upToDate || stage == Stage::failed;
+    if (isFree) {
+        const bool isUnderWay = check_.has_value();
+        show({.stage = Stage::checking});
+        if (isUnderWay)
+            check_ = Asked::byUser;
+        else
+            check(Asked::byUser);
+    }
+    window_->makeKeyAndOrderFront();
+    context_.application.activate();
+}
+
+void UpdateFlow::check(Asked asked) {
+    const bool isBusy = check_ || (asked == Asked::bySchedule && window_);
+    if (isBusy) return;
+    check_ = asked;
+    schedule_.noteCheck();
+    context_.engine->check(
+        {.feed = context_.observer.feedURLString(),
+         .version = context_.version,
+         .channel = context_.defaults.text(channel).value_or(""),
+         .newestFeed = static_cast<std::int64_t>(context_.defaults.number(newestFeed))},
+        [this](const UpdateReport& report) { checkReported(report); });
+}
+
+void UpdateFlow::checkReported(const UpdateReport& report) {
+    if (const auto* loaded = std::get_if<report::FeedLoaded>(&report)) {
+        // An older one from now on is one that somebody kept.
+        context_.defaults.set(newestFeed, static_cast<double>(loaded->date));
+        context_.observer.didFinishLoading(loaded->items);
+    } else if (const auto* update = std::get_if<report::UpdateFound>(&report)) {
+        found(update->item);
+    } else if (const auto* nothing = std::get_if<report::NothingFound>(&report)) {
+        context_.observer.updaterDidNotFindUpdate(nothing->reason);
+        if (std::exchange(check_, std::nullopt) == Asked::byUser)
+            show({.stage = Stage::upToDate, .message = nothing->reason});
+    } else if (const auto* failure = std::get_if<report::Failed>(&report)) {
+        context_.observer.didAbortWithError(failure->message);
+        if (std::exchange(check_, std::nullopt) == Asked::byUser) failed(*failure);
+    }
+}
+
+void UpdateFlow::found(const UpdateItem& item) {
+    context_.observer.didFindValidUpdate({item.version, item.displayVersion});
+    const bool isAskedByUser = std::exchange(check_, std::nullopt) == Asked::byUser;
+    const bool isSkipped = context_.defaults.text(skippedVersion) == item.version;
+    if (isSkipped && !isAskedByUser) return;
+    show({.stage = Stage::found, .item = item});
+    // Whoever types somewhere else is not disturbed.
+    if (!isAskedByUser) window_->orderFront();
+}
+
+void UpdateFlow::install() {
+    if (state.value().stage != Stage::found) return;
+    const UpdateItem item = state.value().item;
+    if (item.installation == UpdateItem::Installation::page) return openPage();
+    speed_ = {};
+    show({.stage = Stage::downloading, .item = item});
+    context_.engine->prepare(item, [this](const UpdateReport& report) { prepareReported(report); });
+}
+
+void UpdateFlow::prepareReported(const UpdateReport& report) {
+    UpdateState next = state.value();
+    if (const auto* progress = std::get_if<report::Progress>(&report)) {
+        speed_.note(context_.scheduler.now(), progress->received);
+        next.received = progress->received;
+        next.speed = speed_.bytesPerSecond();
+        show(std::move(next));
+    } else if (std::holds_alternative<report::Installing>(report)) {
+        context_.observer.willInstallUpdate(offered());
+        next.stage = Stage::installing;
+        show(std::move(next));
+    } else if (std::holds_alternative<report::Ready>(report)) {
+        relaunch();
+    } else if (const auto* failure = std::get_if<report::Failed>(&report)) {
+        if (next.stage == Stage::downloading)
+            context_.observer.failedToDownloadUpdate(offered(), failure->message);
+        context_.observer.didAbortWithError(failure->message);
+        failed(*failure);
+    }
+}
+
+void UpdateFlow::relaunch() {
+    const auto failure = context_.engine->relaunch(state.value().item);
+    if (!failure) return context_.application.terminate();
+    context_.observer.didAbortWithError(failure->message);
+    failed({failure->message, state.value().item.page});
+}
+
+void UpdateFlow::failed(const report::Failed& failure) {
+    show({.stage = Stage::failed,
+          .item = state.value().item,
+          .message = failure.message,
+          .page = failure.page});
+    // It may have been closed meanwhile.
+    window_->orderFront();
+}
+
+void UpdateFlow::tell(const report::RolledBack& back) {
+    // Not offered again by itself: it would fail again.
+    context_.defaults.set(skippedVersion, back.version);
+    context_.observer.didAbortWithError(back.message);
+    telling_ = context_.scheduler.after(Seconds(0), [this, back] {
+        show({.stage = Stage::failed, .item = {.version = back.version}, .message = back.message});
+        window_->orderFront();
+    });
+}
+
+void UpdateFlow::skip() {
+    if (state.value().stage != Stage::found) return;
+    context_.defaults.set(skippedVersion, state.value().item.version);
+    close();
+}
+
+void UpdateFlow::openPage() {
+    const auto& shown = state.value();
+    const std::string page = shown.stage == Stage::failed ? shown.page : shown.item.page;
+    if (page.empty()) return;
+    context_.opener.openPage(page);
+    close();
+}
+
+void UpdateFlow::openLink(const std::string& address) {
+    if (address.starts_with("https://")) context_.opener.openPage(address);
+}
+
+void UpdateFlow::close() {
+    const Stage stage = state.value().stage;
+    // Too late for that: the program ends in a moment.
+    if (stage == Stage::closed || stage == Stage::installing) return;
+    if (stage == Stage::checking || stage == Stage::downloading) context_.engine->cancel();
+    if (stage == Stage::checking) check_.reset();
+    show({});
+}
+
+void UpdateFlow::show(UpdateState next) {
+    const Stage stage = next.stage;
+    state.set(std::move(next));
+    if (removal_) removal_->cancel();
+    if (stage != Stage::closed) {
+        if (!window_) window_ = context_.makeWindow(*this);
+    } else if (window_) {
+        window_->close();
+        // Not now: it is the one that asks for it.
+        removal_ = context_.scheduler.after(Seconds(0), [this] { window_.reset(); });
+    }
+}
+
+OfferedVersion UpdateFlow::offered() const {
+    return {state.value().item.version, state.value().item.displayVersion};
+}
+
+}  // namespace vantle

@@ -1,0 +1,55 @@
+#include "updates/UpdateSchedule.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vantle {
+namespace {
+
+constexpr Seconds interval = std::chrono::hours(24);
+// Not while the desktop starts.
+constexpr Seconds settled = std::chrono::minutes(1);
+// The timer stands still while the machine sleeps; the date does not.
+constexpr Seconds longestWait = std::chrono::hours(1);
+
+Seconds sinceEpoch(const WallClock& clock) {
+    return clock.now().time_since_epoch();
+}
+
+}  // namespace
+
+UpdateSchedule::UpdateSchedule(Scheduler& scheduler, const WallClock& clock, UserDefaults& defaults,
+                               std::function<void()> check)
+    : scheduler_(scheduler), clock_(clock), defaults_(defaults), check_(std::move(check)) {
+    defaults_.registerDefaults({{isAutomatic, true}});
+    if (defaults_.boolean(isAutomatic)) wakeAfter(settled);
+}
+
+UpdateSchedule::~UpdateSchedule() {
+    if (timer_) timer_->cancel();
+}
+
+void UpdateSchedule::noteCheck() {
+    defaults_.set(lastCheck, std::floor(sinceEpoch(clock_).count()));
+}
+
+void UpdateSchedule::wake() {
+    const bool isFirstLaunch = defaults_.number(lastCheck) <= 0;
+    if (isFirstLaunch) return noteCheck();
+    if (untilNextCheck() <= Seconds(0)) check_();
+    wakeAfter(std::clamp(untilNextCheck(), settled, longestWait));
+}
+
+void UpdateSchedule::wakeAfter(Seconds delay) {
+    timer_ = scheduler_.after(delay, [this] { wake(); });
+}
+
+Seconds UpdateSchedule::untilNextCheck() const {
+    const Seconds passed = sinceEpoch(clock_) - Seconds(defaults_.number(lastCheck));
+    // The clock was set back: when the last one was is not known.
+    if (passed < Seconds(0)) return Seconds(0);
+    return interval - passed;
+}
+
+}  // namespace vantle
