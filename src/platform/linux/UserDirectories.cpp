@@ -82,6 +82,10 @@ Url UserDirectories::data() const {
     return baseDirectory("XDG_DATA_HOME", ".local/share");
 }
 
+Url UserDirectories::cache() const {
+    return baseDirectory("XDG_CACHE_HOME", ".cache");
+}
+
 Url UserDirectories::baseDirectory(const std::string& variable, std::string_view inHome) const {
     if (const auto folder = environment_(variable); folder && folder->starts_with('/'))
         return Url::file(*folder);

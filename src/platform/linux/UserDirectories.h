@@ -28,6 +28,9 @@ public:
     /// $XDG_DATA_HOME, else ~/.local/share.
     Url data() const;
 
+    /// $XDG_CACHE_HOME, else ~/.cache.
+    Url cache() const;
+
     /// The Desktop folder; ~/Desktop when the settings do not name one.
     Url desktop() const;
 

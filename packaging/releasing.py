@@ -1,0 +1,147 @@
+"""Makes what an update consists of: the archive of a release, its signature, its place in the feed."""
+
+import base64
+import datetime
+import email.utils
+import hashlib
+import os
+import re
+import subprocess
+import tempfile
+import xml.etree.ElementTree as ElementTree
+from pathlib import Path
+
+SPARKLE = "http://www.andymatuschak.org/xml-namespaces/sparkle"
+SIGNATURE_COMMENT = re.compile(rb"<!-- sparkle-signatures:.*?-->\s*\Z", re.DOTALL)
+ElementTree.register_namespace("sparkle", SPARKLE)
+
+
+def sparkle(name):
+    return f"{{{SPARKLE}}}{name}"
+
+
+def make_key(path):
+    """Makes a key pair; the secret one stands in the file, which only its owner can read."""
+    with open(os.open(path, os.O_WRONLY | os.O_CREAT | os.O_EXCL, 0o600), "wb") as file:
+        file.write(_openssl("genpkey", "-algorithm", "ed25519"))
+
+
+def public_key(path):
+    """As Vantle is built with it: the bytes of the key in base64."""
+    whole = _openssl("pkey", "-in", path, "-pubout", "-outform", "DER")
+    return base64.b64encode(whole[-32:]).decode()
+
+
+def signature(contents, key):
+    with tempfile.NamedTemporaryFile() as file:
+        file.write(contents)
+        file.flush()
+        signed = _openssl("pkeyutl", "-sign", "-rawin", "-inkey", key, "-in", file.name)
+    return base64.b64encode(signed).decode()
+
+
+def describe_release(tree, version, platform, installation="tree"):
+    """Has a tree say what it is, so that it can be replaced by an update."""
+    folder = Path(tree, "share/vantle")
+    folder.mkdir(parents=True, exist_ok=True)
+    folder.joinpath("release").write_text(
+        f"version={version}\nplatform={platform}\ninstallation={installation}\n"
+    )
+
+
+def write_manifest(tree):
+    """Names each file of a tree and its sum, as sha256sum does."""
+    tree = Path(tree)
+    manifest = tree / "share/vantle/manifest"
+    files = sorted(path for path in tree.rglob("*") if path.is_file() and path != manifest)
+    manifest.write_text(
+        "".join(
+            f"{hashlib.sha256(path.read_bytes()).hexdigest()}  {path.relative_to(tree)}\n"
+            for path in files
+        )
+    )
+
+
+def pack(tree, archive, date=0):
+    """The same bytes for the same tree. `tree` is a folder called "vantle"."""
+    tree = Path(tree)
+    subprocess.run(
+        ["tar", "--create", "--file", str(archive), "--use-compress-program=zstd -19 --quiet",
+         "--format=ustar", "--sort=name", f"--mtime=@{date}", "--owner=0", "--group=0",
+         "--numeric-owner", "--mode=u+rwX,go+rX,go-w", "-C", str(tree.parent), tree.name],
+        check=True,
+    )
+
+
+def needed_system(tree):
+    """The version of the C library that the programs of a tree need."""
+    versions = {(0,)}
+    for path in Path(tree).rglob("*"):
+        if path.is_file() and path.read_bytes()[:4] == b"\x7fELF":
+            symbols = subprocess.run(["objdump", "-T", str(path)], check=True, capture_output=True)
+            for found in re.findall(rb"\(?GLIBC_([0-9.]+)\)?", symbols.stdout):
+                versions.add(tuple(map(int, found.split(b"."))))
+    return ".".join(map(str, max(versions)))
+
+
+def add_item(feed, archive, address, key, version, platform, **details):
+    """Puts a release into a feed, which may be none yet, and gives the new one, signed.
+
+    `details`: display_version, minimum_system_version, channel, page, notes (HTML) and date.
+    """
+    root = _channel(feed)
+    channel = root.find("channel")
+    date = details.get("date") or datetime.datetime.now(datetime.timezone.utc)
+    channel.find("lastBuildDate").text = email.utils.format_datetime(date)
+    for item in channel.findall("item"):
+        enclosure = item.find("enclosure")
+        if (item.findtext(sparkle("version")), enclosure.get(sparkle("os"))) == (version, platform):
+            channel.remove(item)
+    item = ElementTree.SubElement(channel, "item")
+    _add(item, "title", f"Vantle {details.get('display_version') or version}")
+    _add(item, "pubDate", email.utils.format_datetime(date))
+    _add(item, sparkle("version"), version)
+    _add(item, sparkle("shortVersionString"), details.get("display_version"))
+    _add(item, sparkle("minimumSystemVersion"), details.get("minimum_system_version"))
+    _add(item, sparkle("channel"), details.get("channel"))
+    _add(item, "link", details.get("page"))
+    _add(item, "description", details.get("notes"))
+    contents = Path(archive).read_bytes()
+    ElementTree.SubElement(item, "enclosure", {
+        "url": address,
+        "length": str(len(contents)),
+        "type": "application/octet-stream",
+        sparkle("os"): platform,
+        sparkle("edSignature"): signature(contents, key),
+    })
+    ElementTree.indent(root)
+    xml = ElementTree.tostring(root, encoding="utf-8", xml_declaration=True) + b"\n"
+    return sign_feed(xml, key)
+
+
+def sign_feed(xml, key):
+    """The signature stands in a comment behind what it is for."""
+    return xml + (
+        f"<!-- sparkle-signatures:\nedSignature: {signature(xml, key)}\nlength: {len(xml)}\n-->\n"
+    ).encode()
+
+
+def _channel(feed):
+    if feed:
+        return ElementTree.fromstring(SIGNATURE_COMMENT.sub(b"", feed))
+    root = ElementTree.Element("rss", {"version": "2.0"})
+    channel = ElementTree.SubElement(root, "channel")
+    _add(channel, "title", "Vantle")
+    ElementTree.SubElement(channel, "lastBuildDate")
+    return root
+
+
+def _add(parent, name, text):
+    if text:
+        ElementTree.SubElement(parent, name).text = text
+
+
+def _openssl(*arguments):
+    return subprocess.run(
+        ["openssl", *map(str, arguments)], check=True, stdout=subprocess.PIPE
+    ).stdout

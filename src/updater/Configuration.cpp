@@ -1,0 +1,24 @@
+#include "updater/Configuration.h"
+
+namespace vantle::updater {
+
+const Configuration& configuration() {
+    using namespace std::chrono_literals;
+    constexpr std::uint64_t mebibyte = 1024 * 1024;
+    static const Configuration built{
+        .feed = VANTLE_UPDATE_FEED,
+        .publicKey = VANTLE_UPDATE_KEY,
+        .page = VANTLE_DOWNLOAD_PAGE,
+        .patience = Seconds(VANTLE_UPDATE_PATIENCE),
+        .longestFeed = Seconds(2 * VANTLE_UPDATE_PATIENCE),
+        .longestArchive = 1h,
+        .longestStart = Seconds(VANTLE_UPDATE_START),
+        .largestFeed = mebibyte,
+        .largestArchive = 128 * mebibyte,
+        .largestTree = 512 * mebibyte,
+        .mostEntries = 10'000,
+    };
+    return built;
+}
+
+}  // namespace vantle::updater

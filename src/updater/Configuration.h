@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "support/Date.h"
+
+namespace vantle::updater {
+
+/// What this program was built with.
+struct Configuration {
+    std::string feed;       ///< The address of the update feed.
+    std::string publicKey;  ///< Ed25519, in base64; empty where nobody can sign an update for it.
+    std::string page;       ///< Where a person can get new versions.
+
+    Seconds patience;              ///< With a server that says nothing, or hardly anything.
+    Seconds longestFeed;           ///< In all.
+    Seconds longestArchive;        ///< In all.
+    Seconds longestStart;          ///< Of a new version, until it says that it runs.
+    std::uint64_t largestFeed;     ///< In bytes.
+    std::uint64_t largestArchive;  ///< In bytes.
+    std::uint64_t largestTree;     ///< In bytes, unpacked.
+    std::uint64_t mostEntries;     ///< Of an archive.
+};
+
+const Configuration& configuration();
+
+}  // namespace vantle::updater

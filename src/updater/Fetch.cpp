@@ -1,0 +1,126 @@
+#include "updater/Fetch.h"
+
+#include <arpa/inet.h>
+#include <curl/curl.h>
+
+#include <cstdlib>
+#include <memory>
+
+#include "support/Version.h"
+
+namespace vantle::updater {
+namespace {
+
+constexpr int mostRedirections = 5;
+constexpr long slowest = 1024;  // bytes per second
+constexpr Seconds progressInterval{0.1};
+
+struct Transfer {
+    const FetchLimits& limits;
+    const std::function<void(std::uint64_t)>& progress;
+    std::string bytes;
+    bool isTooLong = false;
+    std::chrono::steady_clock::time_point told{};
+};
+
+Failure failureOf(std::string message) {
+    return {0, std::move(message), {}};
+}
+
+/// A part of an address, in small letters where that makes no difference; empty when it has none.
+std::string partOf(const std::string& address, CURLUPart part) {
+    const std::unique_ptr<CURLU, decltype(&curl_url_cleanup)> url(curl_url(), curl_url_cleanup);
+    char* text = nullptr;
+    if (curl_url_set(url.get(), CURLUPART_URL, address.c_str(), 0) != CURLUE_OK ||
+        curl_url_get(url.get(), part, &text, 0) != CURLUE_OK)
+        return {};
+    const std::unique_ptr<char, decltype(&curl_free)> owner(text, curl_free);
+    return text;
+}
+
+bool isLoopback(const std::string& host) {
+    in_addr address{};
+    if (inet_pton(AF_INET, host.c_str(), &address) == 1)
+        return (ntohl(address.s_addr) >> 24) == IN_LOOPBACKNET;
+    return host == "[::1]" || host == "localhost";
+}
+
+std::size_t take(char* data, std::size_t, std::size_t size, void* context) {
+    auto& transfer = *static_cast<Transfer*>(context);
+    if (size > transfer.limits.bytes - transfer.bytes.size()) {
+        transfer.isTooLong = true;
+        return 0;
+    }
+    transfer.bytes.append(data, size);
+    const auto now = std::chrono::steady_clock::now();
+    if (transfer.progress && now - transfer.told >= progressInterval) {
+        transfer.told = now;
+        transfer.progress(transfer.bytes.size());
+    }
+    return size;
+}
+
+void prepare(CURL* curl, const std::string& address, Transfer& transfer) {
+    const auto set = [curl](CURLoption option, auto value) {
+        curl_easy_setopt(curl, option, value);
+    };
+    const auto milliseconds = [](Seconds time) { return static_cast<long>(time.count() * 1000); };
+    set(CURLOPT_URL, address.c_str());
+    set(CURLOPT_PROTOCOLS_STR, "http,https");
+    set(CURLOPT_USERAGENT, ("Vantle/" + std::string(version)).c_str());
+    set(CURLOPT_NOSIGNAL, 1L);
+    set(CURLOPT_CONNECTTIMEOUT_MS, milliseconds(transfer.limits.patience));
+    set(CURLOPT_TIMEOUT_MS, milliseconds(transfer.limits.total));
+    set(CURLOPT_LOW_SPEED_LIMIT, slowest);
+    set(CURLOPT_LOW_SPEED_TIME, static_cast<long>(transfer.limits.patience.count()));
+    set(CURLOPT_WRITEFUNCTION, take);
+    set(CURLOPT_WRITEDATA, &transfer);
+    if (const char* certificates = std::getenv("SSL_CERT_FILE")) set(CURLOPT_CAINFO, certificates);
+}
+
+Failure failureFrom(CURLcode code, const Transfer& transfer) {
+    if (transfer.isTooLong)
+        return failureOf("The server sent more than the " + std::to_string(transfer.limits.bytes) +
+                         " bytes that are expected at most.");
+    if (code == CURLE_OPERATION_TIMEDOUT) return failureOf("The server is too slow.");
+    if (code == CURLE_PARTIAL_FILE) return failureOf("The server broke off in the middle.");
+    return failureOf(std::string("The server could not be asked: ") + curl_easy_strerror(code) +
+                     ".");
+}
+
+}  // namespace
+
+bool mayFetch(const std::string& address) {
+    const std::string scheme = partOf(address, CURLUPART_SCHEME);
+    return scheme == "https" || (scheme == "http" && isLoopback(partOf(address, CURLUPART_HOST)));
+}
+
+Result<std::string> fetch(const std::string& address, const FetchLimits& limits,
+                          const std::function<void(std::uint64_t received)>& progress) {
+    const std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> curl(curl_easy_init(),
+                                                                   curl_easy_cleanup);
+    std::string next = address;
+    for (int redirections = 0; redirections <= mostRedirections; ++redirections) {
+        if (!mayFetch(next))
+            return failureOf("Updates are fetched only by HTTPS, not from \"" + next + "\".");
+        Transfer transfer{limits, progress};
+        prepare(curl.get(), next, transfer);
+        if (const auto code = curl_easy_perform(curl.get()); code != CURLE_OK)
+            return failureFrom(code, transfer);
+        // By hand: the library would follow to wherever the scheme is allowed.
+        const char* redirection = nullptr;
+        curl_easy_getinfo(curl.get(), CURLINFO_REDIRECT_URL, &redirection);
+        long status = 0;
+        curl_easy_getinfo(curl.get(), CURLINFO_RESPONSE_CODE, &status);
+        if (!redirection) {
+            if (status != 200)
+                return failureOf("The server answered with the error " + std::to_string(status) +
+                                 ".");
+            return std::move(transfer.bytes);
+        }
+        next = redirection;
+    }
+    return failureOf("The server leads from one address to the next without end.");
+}
+
+}  // namespace vantle::updater

@@ -1,0 +1,54 @@
+#include "updater/Staging.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <system_error>
+
+#include "support/SystemFailure.h"
+
+namespace vantle::updater {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Somebody else's could be changed behind our back.
+bool isOwnFolder(const fs::path& folder) {
+    struct stat status {};
+    return lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+           status.st_uid == geteuid() && (status.st_mode & 077) == 0;
+}
+
+}  // namespace
+
+Result<Staging> Staging::open(const fs::path& tree) {
+    const fs::path folder = tree.parent_path() / ("." + tree.filename().string() + "-update");
+    if (mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST) return systemFailure(errno, folder);
+    if (!isOwnFolder(folder))
+        return Failure{EPERM, folder.string() + " is in the way, and not ours.", folder};
+    FileDescriptor lock(
+        ::open((folder / "lock").c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
+    if (!lock) return systemFailure(errno, folder);
+    if (flock(lock.get(), LOCK_EX | LOCK_NB) != 0)
+        return Failure{EBUSY, "Another update is under way.", folder};
+    return Staging(folder, std::move(lock));
+}
+
+Outcome Staging::discard(const fs::path& part) const {
+    const fs::path going = folder_ / "discarded";
+    std::error_code error;
+    // Does not follow links.
+    fs::remove_all(going, error);
+    if (!error && fs::exists(fs::symlink_status(part, error))) {
+        // Half of it must never be taken for the whole.
+        fs::rename(part, going, error);
+        if (!error) fs::remove_all(going, error);
+    }
+    if (error && error != std::errc::no_such_file_or_directory)
+        return systemFailure(error.value(), part);
+    return {};
+}
+
+}  // namespace vantle::updater

@@ -1,0 +1,182 @@
+#include "updater/Work.h"
+
+#include <gnu/libc-version.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <iostream>
+#include <system_error>
+
+#include "platform/linux/UserDirectories.h"
+#include "platform/linux/WholeFile.h"
+#include "support/Debug.h"
+#include "support/Environment.h"
+#include "support/SystemFailure.h"
+#include "updater/Archive.h"
+#include "updater/Choice.h"
+#include "updater/Configuration.h"
+#include "updater/Fetch.h"
+#include "updater/PackageInstaller.h"
+#include "updater/Replacement.h"
+#include "updater/Signature.h"
+#include "updater/Staging.h"
+#include "updater/Tree.h"
+#include "updater/WriteGuard.h"
+
+namespace vantle::updater {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// With a full stop, as our own texts have, and the system's do not.
+report::Failed failed(const std::string& message, const std::string& page = configuration().page) {
+    return {message + (message.ends_with('.') ? "" : "."), page};
+}
+
+void guardWriting(const fs::path& folder) {
+    if (!writeOnlyBeneath(folder))
+        Debug::log([] { return "no guard for files here; the updater's own checks must do"; });
+}
+
+Result<std::string> fetchVerified(const UpdateItem& item) {
+    const auto& built = configuration();
+    const FetchLimits limits{std::min(item.length, built.largestArchive), built.longestArchive,
+                             built.patience};
+    auto bytes = fetch(item.address, limits,
+                       [](std::uint64_t received) { tell(report::Progress{received}); });
+    if (!bytes) return bytes;
+    tell(report::Progress{bytes.value().size()});
+    if (bytes.value().size() != item.length)
+        return Failure{0, "The update is shorter than the feed says, so it was refused.", {}};
+    if (!isSigned(bytes.value(), item.signature, built.publicKey))
+        return Failure{0, "The signature of the update is wrong, so it was refused.", {}};
+    return bytes;
+}
+
+/// What can be found out before anything is fetched.
+Outcome checkPlace(const Installation& installation, const Staging& staging) {
+    if (auto failure = refuseStrangers(installation.tree)) return failure;
+    if (const auto failure = tryExchange(staging))
+        return Failure{failure->code,
+                       "The folder of Vantle cannot be replaced in one step: " + failure->message,
+                       failure->path};
+    for (const auto& part : {staging.unpacking(), staging.next()})
+        if (auto failure = staging.discard(part)) return failure;
+    return {};
+}
+
+Outcome makeNext(const Staging& staging, const UpdateItem& item, const std::string& archive) {
+    const auto& built = configuration();
+    std::error_code error;
+    fs::create_directory(staging.unpacking(), error);
+    if (error) return systemFailure(error.value(), staging.unpacking());
+    if (auto failure = unpack(archive, staging.unpacking(), {built.largestTree, built.mostEntries}))
+        return failure;
+    if (auto failure =
+            verifyTree(staging.unpacking(), item.version, platformName(item.installation)))
+        return failure;
+    fs::rename(staging.unpacking(), staging.next(), error);
+    if (error) return systemFailure(error.value(), staging.next());
+    return {};
+}
+
+UpdateReport prepareTree(const Installation& installation, const UpdateItem& item) {
+    const auto staging = Staging::open(installation.tree);
+    if (!staging) return failed(staging.failure().message, item.page);
+    guardWriting(staging.value().folder());
+    if (const auto failure = checkPlace(installation, staging.value()))
+        return failed(failure->message, item.page);
+    const auto archive = fetchVerified(item);
+    if (!archive) return failed(archive.failure().message, item.page);
+    tell(report::Installing{});
+    const auto failure = makeNext(staging.value(), item, archive.value());
+    (void)staging.value().discard(staging.value().unpacking());
+    if (failure) return failed(failure->message, item.page);
+    return report::Ready{};
+}
+
+/// A folder of this user's own for the package, which goes with this.
+class PackageFolder {
+public:
+    PackageFolder() {
+        const Url cache = UserDirectories(processEnvironment()).cache().appending("vantle");
+        std::error_code error;
+        fs::create_directories(cache.path(), error);
+        std::string path = cache.path() + "/update-XXXXXX";
+        if (mkdtemp(path.data())) path_ = path;
+    }
+    ~PackageFolder() {
+        std::error_code ignored;
+        if (!path_.empty()) fs::remove_all(path_, ignored);
+    }
+    PackageFolder(const PackageFolder&) = delete;
+    PackageFolder& operator=(const PackageFolder&) = delete;
+
+    Result<fs::path> save(const std::string& package) const {
+        if (path_.empty()) return systemFailure(EACCES);
+        const fs::path file = path_ / "vantle.deb";
+        if (const auto failure = replaceWholeFile(Url::file(file), package)) return *failure;
+        return file;
+    }
+
+private:
+    fs::path path_;
+};
+
+UpdateReport preparePackage(const UpdateItem& item) {
+    const auto package = fetchVerified(item);
+    if (!package) return failed(package.failure().message, item.page);
+    const PackageFolder folder;
+    const auto file = folder.save(package.value());
+    if (!file) return failed(file.failure().message, item.page);
+    tell(report::Installing{});
+    if (const auto failure = installPackage(file.value()))
+        return failed(failure->message, item.page);
+    return report::Ready{};
+}
+
+}  // namespace
+
+void tell(const UpdateReport& report) {
+    std::cout << lineOf(report) << std::endl;
+}
+
+UpdateReport check(const Installation& installation, const std::string& feed,
+                   const std::string& version, const std::string& channel,
+                   std::int64_t newestFeed) {
+    const auto& built = configuration();
+    if (built.publicKey.empty())
+        return failed(
+            "This copy of Vantle cannot be updated, because it was built without the key "
+            "that updates are signed with.");
+    const auto bytes = fetch(feed, {built.largestFeed, built.longestFeed, built.patience});
+    if (!bytes) return failed(bytes.failure().message);
+    const auto xml = signedPart(bytes.value(), built.publicKey);
+    if (!xml) return failed(xml.failure().message);
+    const auto read = parseFeed(xml.value());
+    if (!read) return failed(read.failure().message);
+    if (read.value().date < newestFeed)
+        return failed("The update feed is older than one that was seen before, so it was refused.");
+    tell(report::FeedLoaded{read.value().items.size(), read.value().date});
+    return choose(read.value(), {.version = version,
+                                 .platform = platformName(installation.kind),
+                                 .systemVersion = gnu_get_libc_version(),
+                                 .channel = channel,
+                                 .installation = installation.kind,
+                                 .page = built.page});
+}
+
+UpdateReport prepare(const Installation& installation, const UpdateItem& item) {
+    switch (installation.kind) {
+        case UpdateItem::Installation::tree:
+            return prepareTree(installation, item);
+        case UpdateItem::Installation::package:
+            return preparePackage(item);
+        case UpdateItem::Installation::page:
+            break;
+    }
+    return failed("This copy of Vantle cannot be replaced by itself.", item.page);
+}
+
+}  // namespace vantle::updater

@@ -1,0 +1,110 @@
+"""Fixtures of the tests of updates: a server, a key, and a copy of the program to update."""
+
+import os
+import subprocess
+import sys
+from pathlib import Path
+
+import pytest
+
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+from releases import Publisher, make_tree  # noqa: E402
+from server import Server  # noqa: E402
+
+OLD = "1.0"
+NEW = "1.1"
+
+
+@pytest.fixture
+def key():
+    return Path(os.environ["VANTLE_UPDATE_KEY_FILE"])
+
+
+@pytest.fixture(scope="session")
+def running_server(tmp_path_factory):
+    server = Server(tmp_path_factory.mktemp("server"))
+    yield server
+    server.close()
+
+
+@pytest.fixture
+def server(running_server):
+    """With no files of other tests."""
+    for path in running_server.files.iterdir():
+        path.unlink()
+    return running_server
+
+
+@pytest.fixture
+def publisher(server, key, tmp_path):
+    folder = tmp_path / "published"
+    folder.mkdir()
+    return Publisher(server, key, folder)
+
+
+class Copy:
+    """An installed copy of the program, whose version is OLD, and what its updater says."""
+
+    def __init__(self, folder, certificates):
+        self.updater = Path(os.environ["VANTLE_UPDATER"])
+        self.place = folder
+        self.log = folder.parent / "log"
+        self.tree = make_tree(folder / "app", OLD, self.programs("echo old"))
+        self._environment = {**os.environ, "SSL_CERT_FILE": str(certificates),
+                             "VANTLE_TEST_LOG": str(self.log)}
+
+    def programs(self, script):
+        """With a shell script as the program itself."""
+        return {"vantle": f"#!/bin/sh\n{script}\n", "vantle-updater": self.updater}
+
+    @property
+    def staging(self):
+        return self.place / ".app-update"
+
+    def version(self):
+        return (self.tree / "share/vantle/release").read_text().split("\n")[0].split("=")[1]
+
+    def snapshot(self):
+        """All that is in the place, without the staging folder."""
+        return {
+            str(path.relative_to(self.place)): path.read_bytes() if path.is_file() else None
+            for path in sorted(self.place.rglob("*"))
+            if self.staging not in [path, *path.parents]
+        }
+
+    def run(self, command, *arguments, prefix=(), **environment):
+        """The reports, one list of fields each."""
+        ended = subprocess.run(
+            [*prefix, self.tree / "bin/vantle-updater", command, *arguments],
+            env={**self._environment, **environment}, stdout=subprocess.PIPE,
+            stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, timeout=120, check=False,
+        )
+        self.errors = ended.stderr.decode()
+        assert "Sanitizer" not in self.errors, self.errors
+        assert ended.returncode >= 0, ended.returncode
+        self.status = ended.returncode
+        return [line.split("\t") for line in ended.stdout.decode().splitlines()]
+
+    def check(self, feed, *arguments, version=OLD):
+        return self.run("check", f"--feed={feed}", f"--version={version}", *arguments)
+
+    def prepare(self, found, prefix=()):
+        """Of an item as it was reported."""
+        _, version, _, _, page, address, length, signature, _ = found
+        return self.run(
+            "prepare", f"--version={version}", f"--address={address}", f"--length={length}",
+            f"--signature={signature}", f"--page={page}", prefix=prefix,
+        )
+
+    def check_and_prepare(self, feed, prefix=()):
+        found = self.check(feed)[-1]
+        assert found[0] == "found", found
+        return self.prepare(found, prefix)
+
+
+@pytest.fixture
+def copy(tmp_path, server):
+    place = tmp_path / "place"
+    place.mkdir()
+    return Copy(place, server.certificates)

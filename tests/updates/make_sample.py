@@ -1,0 +1,13 @@
+"""Makes a release of a few hundred kilobytes that does not get smaller by being packed."""
+
+import random
+import sys
+import tempfile
+from pathlib import Path
+
+from releases import make_archive
+
+noise = random.Random(7)
+with tempfile.TemporaryDirectory() as folder:
+    programs = {f"program-{i}": noise.randbytes(20_000).hex() for i in range(8)}
+    Path(sys.argv[1]).write_bytes(make_archive(folder, "1.1", programs))

@@ -1,0 +1,112 @@
+"""Releases to update to, and feeds that offer them, good and bad."""
+
+import datetime
+import io
+import platform
+import shutil
+import subprocess
+import sys
+import tarfile
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "packaging"))
+
+import releasing  # noqa: E402
+
+SYSTEM = f"linux-{platform.machine()}"
+NOW = datetime.datetime(2026, 11, 21, 12, tzinfo=datetime.timezone.utc)
+
+
+def compressed(archive):
+    return subprocess.run(
+        ["zstd", "--quiet", "--stdout"], input=archive, check=True, stdout=subprocess.PIPE
+    ).stdout
+
+
+def make_tree(folder, version, programs):
+    """A tree called `folder` with programs by their names: paths of those to copy, or their text."""
+    folder = Path(folder)
+    (folder / "bin").mkdir(parents=True)
+    for name, program in programs.items():
+        target = folder / "bin" / name
+        if isinstance(program, Path):
+            shutil.copy(program, target)
+        else:
+            target.write_text(program)
+            target.chmod(0o755)
+    releasing.describe_release(folder, version, SYSTEM)
+    releasing.write_manifest(folder)
+    return folder
+
+
+def make_archive(folder, version, programs, change=None):
+    """The bytes of a release; `change` is called with its tree before that is packed."""
+    tree = make_tree(Path(folder, "vantle"), version, programs)
+    if change:
+        change(tree)
+    archive = Path(folder, "archive.tar.zst")
+    releasing.pack(tree, archive)
+    contents = archive.read_bytes()
+    shutil.rmtree(tree)
+    archive.unlink()
+    return contents
+
+
+def hand_made_archive(*entries):
+    """An archive of tarfile.TarInfo with their contents."""
+    memory = io.BytesIO()
+    with tarfile.open(fileobj=memory, mode="w", format=tarfile.PAX_FORMAT) as archive:
+        for info, contents in entries:
+            info.size = len(contents)
+            archive.addfile(info, io.BytesIO(contents))
+    return compressed(memory.getvalue())
+
+
+def entry(name, contents=b"", kind=tarfile.REGTYPE, link=""):
+    info = tarfile.TarInfo(name)
+    info.type = kind
+    info.linkname = link
+    info.mode = 0o755
+    return info, contents
+
+
+class Publisher:
+    """Puts releases onto a server, signed with a key."""
+
+    def __init__(self, server, key, folder):
+        self._server = server
+        self._key = key
+        self._folder = Path(folder)
+
+    def save(self, archive, name="archive.tar.zst"):
+        self._server.save(name, archive)
+        path = self._folder / name
+        path.write_bytes(archive)
+        return path
+
+    def feed(self, archive, version, feed=b"", address=None, **details):
+        """The bytes of a feed with one more item."""
+        details.setdefault("date", NOW)
+        path = self.save(archive)
+        return releasing.add_item(
+            feed, path, address or self._server.address(path.name), self._key, version,
+            details.pop("platform", SYSTEM), **details,
+        )
+
+    def publish(self, *arguments, **details):
+        """Saves such a feed onto the server, and gives its address."""
+        return self.save_feed(self.feed(*arguments, **details))
+
+    def save_feed(self, contents):
+        self._server.save("appcast.xml", contents)
+        return self._server.address("appcast.xml")
+
+    def signed(self, xml):
+        return releasing.sign_feed(xml, self._key)
+
+    def changed(self, feed, old, new):
+        """The feed with something changed in it, signed again."""
+        xml = releasing.SIGNATURE_COMMENT.sub(b"", feed)
+        assert old in xml
+        return self.signed(xml.replace(old, new))

@@ -1,0 +1,241 @@
+"""What is fetched and unpacked, and which archives are refused, each with its message.
+
+Whatever happens, the copy that is installed stays as it is, and nothing appears beside it but the
+staging folder.
+"""
+
+import tarfile
+
+import pytest
+
+from releases import compressed, entry, hand_made_archive, make_archive
+
+from conftest import NEW
+
+
+@pytest.fixture(autouse=True)
+def nothing_else_changes(copy):
+    before = copy.snapshot()
+    yield
+    assert copy.snapshot() == before
+    assert set(path.name for path in copy.place.iterdir()) <= {"app", copy.staging.name}
+
+
+@pytest.fixture
+def archive(copy, tmp_path):
+    """A good one."""
+    return make_archive(tmp_path / "made", NEW, copy.programs("echo new"))
+
+
+def message_of(reports):
+    assert reports[-1][0] == "failed", reports
+    return reports[-1][1]
+
+
+def refuse(copy, publisher, contents, version=NEW):
+    message = message_of(copy.check_and_prepare(publisher.publish(contents, version)))
+    # Nothing of it stays where it could be taken for a version.
+    assert not copy.staging.exists() or set(
+        path.name for path in copy.staging.iterdir()
+    ) <= {"lock"}
+    return message
+
+
+def test_a_good_one_is_made_ready(copy, publisher, archive):
+    reports = copy.check_and_prepare(publisher.publish(archive, NEW))
+    assert [report[0] for report in reports if report[0] != "progress"] == ["installing", "ready"]
+    assert reports[-3] == ["progress", str(len(archive))]
+    ready = copy.staging / "next"
+    assert (ready / "bin/vantle").read_text() == "#!/bin/sh\necho new\n"
+    assert (ready / "bin/vantle").stat().st_mode & 0o777 == 0o755
+    assert (ready / "share/vantle/release").stat().st_mode & 0o777 == 0o644
+    assert copy.staging.stat().st_mode & 0o777 == 0o700
+
+
+def test_progress_is_told(copy, server, publisher, archive):
+    found = copy.check(publisher.publish(
+        archive, NEW, address=server.address("steady/archive.tar.zst")
+    ))[-1]
+    received = [int(report[1]) for report in copy.prepare(found) if report[0] == "progress"]
+    assert received == sorted(received)
+    assert len(received) > 1
+
+
+def test_a_wrong_signature_is_refused(copy, server, publisher, archive):
+    feed = publisher.publish(archive, NEW)
+    server.save("archive.tar.zst", archive[:-1] + bytes([archive[-1] ^ 1]))
+    assert message_of(copy.check_and_prepare(feed)) == (
+        "The signature of the update is wrong, so it was refused."
+    )
+
+
+def test_a_shorter_one_is_refused(copy, server, publisher, archive):
+    feed = publisher.publish(archive, NEW)
+    server.save("archive.tar.zst", archive[:-1])
+    assert message_of(copy.check_and_prepare(feed)) == (
+        "The update is shorter than the feed says, so it was refused."
+    )
+
+
+def test_a_longer_one_is_refused(copy, server, publisher, archive):
+    feed = publisher.publish(archive, NEW)
+    server.save("archive.tar.zst", archive + b"x")
+    assert message_of(copy.check_and_prepare(feed)) == (
+        f"The server sent more than the {len(archive)} bytes that are expected at most."
+    )
+
+
+def test_a_transfer_that_breaks_off_is_told(copy, server, publisher, archive):
+    feed = publisher.publish(archive, NEW, address=server.address("cut/archive"))
+    assert message_of(copy.check_and_prepare(feed)) == "The server broke off in the middle."
+
+
+def test_a_slow_transfer_is_left(copy, server, publisher, archive):
+    feed = publisher.publish(archive, NEW, address=server.address("slow/archive.tar.zst"))
+    assert message_of(copy.check_and_prepare(feed)) == "The server is too slow."
+
+
+def test_one_from_a_plain_address_is_refused(copy, publisher, archive):
+    feed = publisher.publish(archive, NEW, address="http://vantle.example/archive")
+    assert message_of(copy.check_and_prepare(feed)).startswith("Updates are fetched only by HTTPS")
+
+
+@pytest.mark.parametrize("name", [
+    "../outside", "vantle/../../outside", "vantle/bin/../../../outside", "outside",
+    "vantle/bin/../../outside", "..", "vantle/..",
+])
+def test_a_name_that_leads_elsewhere_is_refused(copy, publisher, name):
+    contents = hand_made_archive(entry("vantle/bin/vantle", b"good"), entry(name, b"bad"))
+    assert refuse(copy, publisher, contents) == (
+        f'The update was refused: it holds "{name}".'
+    )
+
+
+def test_an_absolute_name_is_refused(copy, publisher, tmp_path):
+    name = str(tmp_path / "outside")
+    contents = hand_made_archive(entry(name, b"bad"))
+    assert refuse(copy, publisher, contents) == f'The update was refused: it holds "{name}".'
+    assert not (tmp_path / "outside").exists()
+
+
+@pytest.mark.parametrize("kind", [
+    tarfile.SYMTYPE, tarfile.LNKTYPE, tarfile.CHRTYPE, tarfile.BLKTYPE, tarfile.FIFOTYPE,
+], ids=["symbolic-link", "hard-link", "character-device", "block-device", "pipe"])
+def test_what_is_neither_file_nor_folder_is_refused(copy, publisher, kind):
+    contents = hand_made_archive(
+        entry("vantle/bin/vantle", b"good"), entry("vantle/bin/bad", kind=kind, link="/etc/passwd")
+    )
+    assert refuse(copy, publisher, contents) == (
+        'The update was refused: "vantle/bin/bad" is neither a file nor a folder.'
+    )
+
+
+def test_a_file_below_a_link_is_refused(copy, publisher, tmp_path):
+    outside = tmp_path / "outside"
+    outside.mkdir()
+    contents = hand_made_archive(
+        entry("vantle/bin", kind=tarfile.SYMTYPE, link=str(outside)),
+        entry("vantle/bin/vantle", b"bad"),
+    )
+    refuse(copy, publisher, contents)
+    assert not list(outside.iterdir())
+
+
+def test_a_file_twice_is_refused(copy, publisher):
+    contents = hand_made_archive(entry("vantle/a", b"one"), entry("vantle/a", b"other"))
+    assert refuse(copy, publisher, contents) == (
+        "The update was refused: it holds vantle/a twice."
+    )
+
+
+def test_one_that_grows_is_refused(copy, publisher):
+    contents = hand_made_archive(entry("vantle/bomb", b"\0" * (600 << 20)))
+    assert len(contents) < 1 << 20
+    assert refuse(copy, publisher, contents) == (
+        "The update was refused: it is too large once it is unpacked."
+    )
+
+
+def test_one_with_too_many_files_is_refused(copy, publisher):
+    contents = hand_made_archive(*(entry(f"vantle/{i}") for i in range(10_001)))
+    assert refuse(copy, publisher, contents) == (
+        "The update was refused: it holds too many files."
+    )
+
+
+@pytest.mark.parametrize("contents", [b"no archive", compressed(b"no archive" * 1000)],
+                         ids=["text", "compressed-text"])
+def test_what_is_no_archive_is_refused(copy, publisher, contents):
+    assert refuse(copy, publisher, contents).startswith("The update was refused: ")
+
+
+@pytest.mark.parametrize("part", [0.1, 0.5, 0.9])
+def test_one_that_was_cut_before_it_was_signed_is_refused(copy, publisher, archive, part):
+    assert refuse(copy, publisher, archive[: int(len(archive) * part)]).startswith(
+        "The update was refused: "
+    )
+
+
+def test_another_version_than_it_should_be_is_refused(copy, publisher, archive):
+    assert refuse(copy, publisher, archive, "1.2") == (
+        'The update was refused: it should be version 1.2 and is "1.1".'
+    )
+
+
+@pytest.mark.parametrize("change, message", [
+    (lambda tree: (tree / "bin/extra").write_text("x"), "bin/extra does not belong to it."),
+    (lambda tree: (tree / "bin/vantle").write_text("x"), "bin/vantle is missing or damaged."),
+    (lambda tree: (tree / "bin/vantle").unlink(), "bin/vantle is missing or damaged."),
+    (lambda tree: (tree / "share/vantle/manifest").unlink(), "bin/vantle is missing."),
+    (lambda tree: (tree / "share/vantle/release").unlink(),
+     'it should be version 1.1 and is "".'),
+], ids=["stranger", "changed", "missing", "no-manifest", "no-release"])
+def test_one_that_is_not_what_it_says_is_refused(copy, publisher, tmp_path, change, message):
+    contents = make_archive(tmp_path / "bad", NEW, copy.programs("echo new"), change)
+    assert refuse(copy, publisher, contents) == f"The update was refused: {message}"
+
+
+def test_the_rights_of_an_archive_count_for_nothing(copy, publisher, tmp_path):
+    def change(tree):
+        (tree / "bin/vantle").chmod(0o6777)
+
+    contents = make_archive(tmp_path / "bad", NEW, copy.programs("echo new"), change)
+    assert copy.check_and_prepare(publisher.publish(contents, NEW))[-1] == ["ready"]
+    assert (copy.staging / "next/bin/vantle").stat().st_mode & 0o7777 == 0o755
+
+
+def test_what_was_left_half_done_is_no_hindrance(copy, publisher, archive):
+    feed = publisher.publish(archive, NEW)
+    copy.staging.mkdir(mode=0o700)
+    for name in ("unpacking", "next", "discarded"):
+        (copy.staging / name / "bin").mkdir(parents=True)
+        (copy.staging / name / "bin/vantle").write_text("half")
+    assert copy.check_and_prepare(feed)[-1] == ["ready"]
+    assert (copy.staging / "next/bin/vantle").read_text() == "#!/bin/sh\necho new\n"
+
+
+def test_a_link_in_the_place_of_the_staging_folder_is_refused(copy, publisher, archive, tmp_path):
+    outside = tmp_path / "outside"
+    outside.mkdir(mode=0o700)
+    copy.staging.symlink_to(outside)
+    message = message_of(copy.check_and_prepare(publisher.publish(archive, NEW)))
+    assert message.endswith("is in the way, and not ours.")
+    assert not list(outside.iterdir())
+
+
+def test_files_of_the_user_in_the_tree_stop_it(copy, publisher, archive):
+    mine = copy.tree / "my notes.txt"
+    mine.write_text("precious")
+    reports = copy.check_and_prepare(publisher.publish(archive, NEW))
+    assert 'also holds "my notes.txt"' in message_of(reports)
+    mine.unlink()
+
+
+def test_two_at_a_time_are_not_possible(copy, publisher, archive):
+    import fcntl
+
+    copy.staging.mkdir(mode=0o700)
+    with open(copy.staging / "lock", "w", encoding="utf-8") as lock:
+        fcntl.flock(lock, fcntl.LOCK_EX)
+        reports = copy.check_and_prepare(publisher.publish(archive, NEW))
+    assert message_of(reports) == "Another update is under way."

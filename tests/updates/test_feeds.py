@@ -1,0 +1,269 @@
+"""What is found in feeds, and which are refused, each with its message."""
+
+import datetime
+
+import pytest
+
+from releases import NOW, SYSTEM
+
+from conftest import NEW, OLD
+
+ARCHIVE = b"what is not looked at yet"
+
+
+def failure(reports):
+    assert reports[-1][0] == "failed", reports
+    return reports[-1][1]
+
+
+def reason(reports):
+    assert reports[-1][0] == "nothing", reports
+    return reports[-1][1]
+
+
+def test_a_newer_version_is_found(copy, publisher):
+    feed = publisher.publish(
+        ARCHIVE, NEW, display_version="1.1 (beta)", page="https://vantle.example/1.1",
+        notes="<h2>New</h2><script>alert(1)</script><p onclick='x()'>Quick &amp; <b>calm</b></p>",
+    )
+    loaded, found = copy.check(feed)
+    assert loaded == ["loaded", "1", str(int(NOW.timestamp()))]
+    assert found[:3] == ["found", NEW, "1.1 (beta)"]
+    assert found[3] == "<h2>New</h2><p>Quick &amp; <b>calm</b></p>"
+    assert found[4] == "https://vantle.example/1.1"
+    assert found[6] == str(len(ARCHIVE))
+    assert copy.status == 0
+
+
+def test_the_newest_of_several_is_found(copy, publisher):
+    feed = b""
+    for version in ["1.2", "1.10", "0.9"]:
+        feed = publisher.feed(ARCHIVE, version, feed)
+    loaded, found = copy.check(publisher.save_feed(feed))
+    assert loaded[1] == "3"
+    assert found[1] == "1.10"
+
+
+def test_the_same_version_is_up_to_date(copy, publisher):
+    assert reason(copy.check(publisher.publish(ARCHIVE, OLD))) == (
+        "Vantle 1.0 is the newest version."
+    )
+
+
+def test_a_downgrade_is_refused(copy, publisher):
+    assert reason(copy.check(publisher.publish(ARCHIVE, "0.9"))) == (
+        "Vantle 1.0 is newer than the newest version that is offered, 0.9."
+    )
+
+
+def test_a_feed_without_items_offers_nothing(copy, publisher):
+    feed = publisher.changed(publisher.feed(ARCHIVE, NEW), b"<item>", b"<other>")
+    feed = publisher.changed(feed, b"</item>", b"</other>")
+    assert reason(copy.check(publisher.save_feed(feed))) == "Vantle 1.0 is the newest version."
+
+
+def test_a_version_for_another_system_is_not_taken(copy, publisher):
+    feed = publisher.publish(ARCHIVE, NEW, platform="linux-pdp11")
+    assert reason(copy.check(feed)) == (
+        f"There is a newer version, but not for this system ({SYSTEM})."
+    )
+
+
+def test_a_version_for_a_newer_system_is_not_taken(copy, publisher):
+    feed = publisher.publish(ARCHIVE, NEW, minimum_system_version="99.1")
+    assert "Version 1.1 needs a newer system: version 99.1 of the C library" in reason(
+        copy.check(feed)
+    )
+
+
+def test_an_older_version_for_this_system_is_better_than_none(copy, publisher):
+    feed = publisher.feed(ARCHIVE, "1.2", minimum_system_version="99.1")
+    found = copy.check(publisher.publish(ARCHIVE, NEW, feed))[-1]
+    assert found[:2] == ["found", NEW]
+
+
+def test_a_channel_is_only_for_who_asked_for_it(copy, publisher):
+    feed = publisher.publish(ARCHIVE, NEW, channel="beta")
+    assert reason(copy.check(feed)) == "Vantle 1.0 is the newest version."
+    assert copy.check(feed, "--channel=beta")[-1][:2] == ["found", NEW]
+
+
+def test_an_unsigned_version_is_refused(copy, publisher):
+    feed = publisher.changed(publisher.feed(ARCHIVE, NEW), b"sparkle:edSignature", b"sparkle:none")
+    assert failure(copy.check(publisher.save_feed(feed))) == (
+        "Version 1.1 carries no signature, so it was refused."
+    )
+
+
+def test_a_version_without_a_length_is_refused(copy, publisher):
+    feed = publisher.changed(publisher.feed(ARCHIVE, NEW), b"length=", b"breadth=")
+    assert failure(copy.check(publisher.save_feed(feed))) == (
+        "Version 1.1 has no length in the update feed, so it was refused."
+    )
+
+
+def test_a_version_that_is_too_large_is_refused(copy, publisher):
+    length = b'length="%d"' % len(ARCHIVE)
+    feed = publisher.changed(publisher.feed(ARCHIVE, NEW), length, b'length="99999999999"')
+    assert failure(copy.check(publisher.save_feed(feed))) == (
+        "Version 1.1 is too large for an update, so it was refused."
+    )
+
+
+def test_an_unsigned_feed_is_refused(copy, publisher):
+    feed = publisher.feed(ARCHIVE, NEW)
+    unsigned = feed[: feed.index(b"<!-- sparkle-signatures")]
+    assert failure(copy.check(publisher.save_feed(unsigned))) == (
+        "The update feed carries no signature, so it was refused."
+    )
+
+
+def test_a_changed_feed_is_refused(copy, publisher):
+    feed = publisher.feed(ARCHIVE, NEW).replace(b"Vantle 1.1", b"Vantle 1.7")
+    assert failure(copy.check(publisher.save_feed(feed))) == (
+        "The signature of the update feed is wrong, so the feed was refused."
+    )
+
+
+def test_a_feed_with_something_behind_its_signature_is_refused(copy, publisher):
+    feed = publisher.feed(ARCHIVE, NEW) + b"<rss/>"
+    assert failure(copy.check(publisher.save_feed(feed))) == (
+        "The update feed carries no signature, so it was refused."
+    )
+
+
+def test_a_feed_that_is_signed_in_part_is_refused(copy, publisher):
+    feed = publisher.feed(ARCHIVE, NEW)
+    at = feed.index(b"<!-- sparkle-signatures")
+    assert failure(copy.check(publisher.save_feed(feed[:at] + b" " + feed[at:]))) == (
+        "The signature of the update feed is wrong, so the feed was refused."
+    )
+
+
+def test_a_feed_of_another_key_is_refused(copy, server, publisher, tmp_path):
+    from releases import Publisher, releasing
+
+    releasing.make_key(tmp_path / "another.pem")
+    folder = tmp_path / "others"
+    folder.mkdir()
+    other = Publisher(server, tmp_path / "another.pem", folder)
+    assert failure(copy.check(other.publish(ARCHIVE, NEW))) == (
+        "The signature of the update feed is wrong, so the feed was refused."
+    )
+
+
+def test_a_feed_that_was_kept_is_refused(copy, publisher):
+    yesterday = publisher.publish(ARCHIVE, NEW, date=NOW - datetime.timedelta(days=1))
+    newest = f"--newest-feed={int(NOW.timestamp())}"
+    assert failure(copy.check(yesterday, newest)) == (
+        "The update feed is older than one that was seen before, so it was refused."
+    )
+    assert copy.check(publisher.publish(ARCHIVE, NEW), newest)[-1][0] == "found"
+
+
+@pytest.mark.parametrize("xml, message", [
+    (b"<rss><channel>", "The update feed is damaged: "),
+    (b"\0\xff\xfe", "The update feed is damaged: "),
+    (b"<html><body>Not found</body></html>",
+     "The update feed is damaged: there is no list of versions."),
+    (b"<rss><channel><item/></channel></rss>", "The update feed is damaged: it has no date."),
+    (b"<a>" * 200_000, "The update feed is damaged: "),
+], ids=["unfinished", "binary", "page", "dateless", "deep"])
+def test_a_damaged_feed_is_refused(copy, publisher, xml, message):
+    assert failure(copy.check(publisher.save_feed(publisher.signed(xml)))).startswith(message)
+
+
+def test_entities_do_not_grow(copy, publisher):
+    laughs = b"".join(
+        b'<!ENTITY l%d "%s">' % (i, b"&l%d;" % (i - 1) * 10) for i in range(1, 10)
+    )
+    feed = publisher.changed(
+        publisher.feed(ARCHIVE, NEW, display_version="laugh"), b"<rss",
+        b'<!DOCTYPE rss [<!ENTITY l0 "ha">' + laughs + b"]><rss",
+    )
+    feed = publisher.changed(feed, b"laugh", b"&l9;")
+    found = copy.check(publisher.save_feed(feed))[-1]
+    assert found[0] != "found" or len(found[2]) < 100
+
+
+def test_an_oversized_feed_is_refused(copy, publisher):
+    feed = publisher.signed(b"<rss>" + b" " * 2_000_000 + b"</rss>")
+    assert failure(copy.check(publisher.save_feed(feed))) == (
+        "The server sent more than the 1048576 bytes that are expected at most."
+    )
+
+
+def test_a_slow_server_is_left(copy, server, publisher):
+    publisher.save_feed(publisher.signed(b"<rss>" + b" " * 20_000))
+    assert failure(copy.check(server.address("slow/appcast.xml"))) == "The server is too slow."
+
+
+def test_a_server_that_breaks_off_is_told(copy, server):
+    assert failure(copy.check(server.address("cut/appcast.xml"))) == (
+        "The server broke off in the middle."
+    )
+
+
+def test_a_feed_that_is_not_there_is_told(copy, server):
+    assert failure(copy.check(server.address("nothing.xml"))) == (
+        "The server answered with the error 404."
+    )
+
+
+def test_a_server_that_is_not_there_is_told(copy):
+    message = failure(copy.check("https://127.0.0.1:1/appcast.xml"))
+    assert message.startswith("The server could not be asked: ")
+
+
+def test_a_stranger_with_a_certificate_of_its_own_is_refused(copy, server, publisher):
+    publisher.publish(ARCHIVE, NEW)
+    message = failure(copy.check(server.strangers_address("appcast.xml")))
+    assert "certificate" in message or "peer" in message
+
+
+def test_a_redirection_is_followed(copy, server, publisher):
+    publisher.publish(ARCHIVE, NEW)
+    assert copy.check(server.address("moved/appcast.xml"))[-1][:2] == ["found", NEW]
+
+
+@pytest.mark.parametrize("path, target", [
+    ("moved-to-plain/appcast.xml", "http://vantle.example/appcast.xml"),
+    ("moved-to-file/", "file:///etc/passwd"),
+])
+def test_a_redirection_to_anything_but_https_is_refused(copy, server, path, target):
+    assert failure(copy.check(server.address(path))) == (
+        f'Updates are fetched only by HTTPS, not from "{target}".'
+    )
+
+
+def test_a_redirection_in_a_circle_ends(copy, server):
+    assert failure(copy.check(server.address("round/"))) == (
+        "The server leads from one address to the next without end."
+    )
+
+
+def test_this_machine_itself_may_do_without_https(copy, server, publisher):
+    publisher.publish(ARCHIVE, NEW)
+    assert copy.check(server.plain_address("appcast.xml"))[-1][:2] == ["found", NEW]
+
+
+@pytest.mark.parametrize("address", [
+    "", "appcast.xml", "ftp://127.0.0.1/appcast.xml", "file:///etc/passwd",
+    "http://vantle.example/appcast.xml", "http://127.0.0.1.vantle.example/",
+    "http://127.0.0.1@vantle.example/",
+])
+def test_other_addresses_are_refused(copy, address):
+    assert failure(copy.check(address)) == (
+        f'Updates are fetched only by HTTPS, not from "{address}".'
+    )
+
+
+def test_a_copy_without_a_key_cannot_be_updated(copy, publisher, tmp_path):
+    import os
+    from pathlib import Path
+
+    copy.updater = Path(os.environ["VANTLE_UPDATER_WITHOUT_KEY"])
+    import shutil
+
+    shutil.copy(copy.updater, copy.tree / "bin/vantle-updater")
+    assert "built without the key" in failure(copy.check(publisher.publish(ARCHIVE, NEW)))

@@ -1,0 +1,128 @@
+"""How a version that was prepared is put in place, started, and taken back where it fails."""
+
+import os
+import signal
+import subprocess
+import time
+
+import pytest
+
+from releases import make_archive
+
+from conftest import NEW, OLD
+
+COMES_UP = 'echo "new $VANTLE_UPDATE_OUTCOME" >> "$VANTLE_TEST_LOG"; eval "echo r >&$VANTLE_UPDATE_READY"'
+OLD_COMES_UP = 'echo "old $VANTLE_UPDATE_OUTCOME" >> "$VANTLE_TEST_LOG"'
+
+
+@pytest.fixture
+def ready(copy, publisher, tmp_path):
+    """Prepares a version whose program is a script; the old one writes that it was started."""
+    def prepare(script):
+        (copy.tree / "bin/vantle").write_text(f"#!/bin/sh\n{OLD_COMES_UP}\n")
+        contents = make_archive(tmp_path / "new", NEW, copy.programs(script))
+        assert copy.check_and_prepare(publisher.publish(contents, NEW))[-1] == ["ready"]
+
+    return prepare
+
+
+def relaunch(copy, process=None):
+    if process is None:
+        process = subprocess.Popen(["true"])
+        process.wait()
+    copy.run("relaunch", f"--version={NEW}", f"--process={process.pid}")
+    # What it started may still be writing.
+    deadline = time.monotonic() + 20
+    while not copy.log.exists() and time.monotonic() < deadline:
+        time.sleep(0.01)
+
+
+def log(copy):
+    return copy.log.read_text().rstrip()
+
+
+def test_the_new_version_takes_the_place_of_the_old_one(copy, ready):
+    ready(COMES_UP)
+    relaunch(copy)
+    assert copy.status == 0
+    assert log(copy) == "new"
+    assert copy.version() == NEW
+    assert OLD in (copy.staging / "previous/share/vantle/release").read_text()
+    assert not (copy.staging / "next").exists()
+
+
+def test_it_can_be_updated_again_and_again(copy, ready, publisher, tmp_path):
+    ready(COMES_UP)
+    relaunch(copy)
+    contents = make_archive(tmp_path / "newer", "1.2", copy.programs(COMES_UP))
+    found = copy.check(publisher.publish(contents, "1.2"), version=NEW)[-1]
+    assert copy.prepare(found)[-1] == ["ready"]
+    copy.run("relaunch", "--version=1.2", f"--process={2**22 - 1}")
+    assert copy.version() == "1.2"
+    assert NEW in (copy.staging / "previous/share/vantle/release").read_text()
+
+
+@pytest.mark.parametrize("script, problem", [
+    ("kill -SEGV $$", "crashed at its start"),
+    ("exit 3", "ended at its start"),
+    ("exec sleep 600", "did not start in time"),
+    ('eval "exec $VANTLE_UPDATE_READY>&-"; kill -ABRT $$', "crashed at its start"),
+], ids=["crash", "error", "hang", "crash-without-pipe"])
+def test_one_that_does_not_come_up_is_taken_back(copy, ready, script, problem):
+    before = copy.snapshot()
+    ready(script)
+    before["app/bin/vantle"] = (copy.tree / "bin/vantle").read_bytes()
+    relaunch(copy)
+    assert copy.status == 1
+    assert copy.snapshot() == before
+    assert log(copy) == (
+        f"old rolled-back\t{NEW}\tVantle 1.1 {problem}, so the version before it was put back."
+    )
+    assert f"Vantle: Vantle 1.1 {problem}" in copy.errors
+    assert {path.name for path in copy.staging.iterdir()} == {"lock"}
+
+
+def test_one_that_cannot_be_started_is_taken_back(copy, ready):
+    ready("")
+    (copy.staging / "next/bin/vantle").write_bytes(b"\x7fELF, but not really")
+    relaunch(copy)
+    assert copy.version() == OLD
+    assert "old rolled-back\t1.1\tVantle 1.1 cannot be started" in log(copy)
+
+
+def test_one_that_ends_by_itself_before_it_says_anything_has_come_up(copy, ready):
+    ready('echo new >> "$VANTLE_TEST_LOG"; exit 0')
+    relaunch(copy)
+    assert copy.status == 0
+    assert copy.version() == NEW
+
+
+def descriptors(process):
+    return [entry.path for entry in os.scandir(f"/proc/{process.pid}/fd") if entry.is_symlink()]
+
+
+def test_nothing_happens_before_the_old_one_has_ended(copy, ready):
+    ready(COMES_UP)
+    running = subprocess.Popen(["sleep", "600"])
+    waiting = subprocess.Popen(
+        [copy.tree / "bin/vantle-updater", "relaunch", f"--version={NEW}",
+         f"--process={running.pid}"],
+        env={**os.environ, "VANTLE_TEST_LOG": str(copy.log)},
+    )
+    # It has the handle by which it waits.
+    while not any("pidfd" in os.readlink(path) for path in descriptors(waiting)):
+        assert waiting.poll() is None
+    assert copy.version() == OLD
+    assert not copy.log.exists()
+    running.send_signal(signal.SIGKILL)
+    running.wait()
+    assert waiting.wait(timeout=60) == 0
+    assert copy.version() == NEW
+
+
+def test_without_a_prepared_version_the_old_one_starts_again(copy, ready):
+    ready("")
+    subprocess.run(["rm", "-r", copy.staging / "next"], check=True)
+    relaunch(copy)
+    assert copy.version() == OLD
+    assert "old rolled-back\t1.1\tThe update could not be put in place: " in log(copy)
