@@ -36,6 +36,7 @@
 #include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/QtScreens.h"
+#include "platform/qt/UpdateProgram.h"
 #include "platform/qt/sharing/BluetoothSharing.h"
 #include "platform/qt/sharing/GsConnectSharing.h"
 #include "platform/qt/sharing/KdeConnectSharing.h"
@@ -43,7 +44,10 @@
 #include "platform/qt/sharing/SharingSources.h"
 #include "platform/qt/tray/TrayStatusItem.h"
 #include "screens/views/AlertWindow.h"
+#include "screens/views/UpdateWindow.h"
 #include "support/SystemLog.h"
+#include "support/Version.h"
+#include "updates/UpdateFlow.h"
 
 namespace vantle {
 namespace {
@@ -102,6 +106,20 @@ void addShell(Platform& platform) {
     platform.canvas = std::make_unique<QtCanvas>(densestScreen());
     platform.sounds =
         std::make_unique<CanberraSoundPlayer>(Url::file(beside("../share/vantle/sounds")));
+}
+
+/// Looks for new versions, and shows them.
+std::unique_ptr<Updater> makeUpdater(Platform& platform, UpdaterObserver& observer) {
+    return std::make_unique<UpdateFlow>(UpdateFlow::Context{
+        .scheduler = *platform.scheduler,
+        .clock = *platform.clock,
+        .defaults = *platform.defaults,
+        .application = *platform.application,
+        .opener = *platform.opener,
+        .observer = observer,
+        .engine = std::make_unique<UpdateProgram>(QString::fromStdString(beside("vantle-updater"))),
+        .version = std::string(version),
+        .makeWindow = [](UpdateFlow& flow) { return std::make_unique<UpdateWindow>(flow); }});
 }
 
 bool isInstalled(const std::string& program) {
@@ -164,6 +182,7 @@ Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures) {
     platform.watcherQueue = std::move(queue);
     addUses(platform, pictures);
     addShell(platform);
+    platform.makeUpdater = makeUpdater;
     return platform;
 }
 

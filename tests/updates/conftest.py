@@ -9,11 +9,8 @@ import pytest
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from releases import Publisher, make_tree  # noqa: E402
+from releases import OLD, Publisher, make_tree  # noqa: E402
 from server import Server  # noqa: E402
-
-OLD = "1.0"
-NEW = "1.1"
 
 
 @pytest.fixture
@@ -56,7 +53,7 @@ class Copy:
 
     def programs(self, script):
         """With a shell script as the program itself."""
-        return {"vantle": f"#!/bin/sh\n{script}\n", "vantle-updater": self.updater}
+        return {"bin/vantle": f"#!/bin/sh\n{script}\n", "bin/vantle-updater": self.updater}
 
     @property
     def staging(self):

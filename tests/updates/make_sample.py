@@ -9,5 +9,5 @@ from releases import make_archive
 
 noise = random.Random(7)
 with tempfile.TemporaryDirectory() as folder:
-    programs = {f"program-{i}": noise.randbytes(20_000).hex() for i in range(8)}
+    programs = {f"bin/program-{i}": noise.randbytes(20_000).hex() for i in range(8)}
     Path(sys.argv[1]).write_bytes(make_archive(folder, "1.1", programs))

@@ -15,6 +15,8 @@ sys.path.insert(0, str(ROOT / "packaging"))
 import releasing  # noqa: E402
 
 SYSTEM = f"linux-{platform.machine()}"
+OLD = "1.0"
+NEW = "1.1"
 NOW = datetime.datetime(2026, 11, 21, 12, tzinfo=datetime.timezone.utc)
 
 
@@ -25,11 +27,11 @@ def compressed(archive):
 
 
 def make_tree(folder, version, programs):
-    """A tree called `folder` with programs by their names: paths of those to copy, or their text."""
+    """A tree called `folder` with programs by their places: paths of those to copy, or their text."""
     folder = Path(folder)
-    (folder / "bin").mkdir(parents=True)
-    for name, program in programs.items():
-        target = folder / "bin" / name
+    for place, program in programs.items():
+        target = folder / place
+        target.parent.mkdir(parents=True, exist_ok=True)
         if isinstance(program, Path):
             shutil.copy(program, target)
         else:

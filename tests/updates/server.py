@@ -28,6 +28,7 @@ http {{
         listen 127.0.0.1:{secure} ssl;
         location /slow/ {{ limit_rate 100; alias {folder}/files/; }}
         location /steady/ {{ limit_rate 400k; alias {folder}/files/; }}
+        location /unhurried/ {{ limit_rate 20k; alias {folder}/files/; }}
         location /moved/ {{ rewrite ^/moved/(.*) https://localhost:{secure}/$1 redirect; }}
         location /moved-to-plain/ {{ rewrite ^/[^/]*/(.*) http://vantle.example/$1 redirect; }}
         location /moved-to-file/ {{ return 302 file:///etc/passwd; }}

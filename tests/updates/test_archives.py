@@ -4,13 +4,12 @@ Whatever happens, the copy that is installed stays as it is, and nothing appears
 staging folder.
 """
 
+import fcntl
 import tarfile
 
 import pytest
 
-from releases import compressed, entry, hand_made_archive, make_archive
-
-from conftest import NEW
+from releases import NEW, compressed, entry, hand_made_archive, make_archive
 
 
 @pytest.fixture(autouse=True)
@@ -232,8 +231,6 @@ def test_files_of_the_user_in_the_tree_stop_it(copy, publisher, archive):
 
 
 def test_two_at_a_time_are_not_possible(copy, publisher, archive):
-    import fcntl
-
     copy.staging.mkdir(mode=0o700)
     with open(copy.staging / "lock", "w", encoding="utf-8") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)

@@ -1,12 +1,12 @@
 """What is found in feeds, and which are refused, each with its message."""
 
 import datetime
+import os
+import shutil
 
 import pytest
 
-from releases import NOW, SYSTEM
-
-from conftest import NEW, OLD
+from releases import NEW, NOW, OLD, SYSTEM, Publisher, releasing
 
 ARCHIVE = b"what is not looked at yet"
 
@@ -141,8 +141,6 @@ def test_a_feed_that_is_signed_in_part_is_refused(copy, publisher):
 
 
 def test_a_feed_of_another_key_is_refused(copy, server, publisher, tmp_path):
-    from releases import Publisher, releasing
-
     releasing.make_key(tmp_path / "another.pem")
     folder = tmp_path / "others"
     folder.mkdir()
@@ -258,12 +256,6 @@ def test_other_addresses_are_refused(copy, address):
     )
 
 
-def test_a_copy_without_a_key_cannot_be_updated(copy, publisher, tmp_path):
-    import os
-    from pathlib import Path
-
-    copy.updater = Path(os.environ["VANTLE_UPDATER_WITHOUT_KEY"])
-    import shutil
-
-    shutil.copy(copy.updater, copy.tree / "bin/vantle-updater")
+def test_a_copy_without_a_key_cannot_be_updated(copy, publisher):
+    shutil.copy(os.environ["VANTLE_UPDATER_WITHOUT_KEY"], copy.tree / "bin/vantle-updater")
     assert "built without the key" in failure(copy.check(publisher.publish(ARCHIVE, NEW)))

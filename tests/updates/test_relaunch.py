@@ -7,9 +7,7 @@ import time
 
 import pytest
 
-from releases import make_archive
-
-from conftest import NEW, OLD
+from releases import NEW, OLD, make_archive
 
 COMES_UP = 'echo "new $VANTLE_UPDATE_OUTCOME" >> "$VANTLE_TEST_LOG"; eval "echo r >&$VANTLE_UPDATE_READY"'
 OLD_COMES_UP = 'echo "old $VANTLE_UPDATE_OUTCOME" >> "$VANTLE_TEST_LOG"'

@@ -14,6 +14,7 @@
 
 #include "Scenes.h"
 #include "ScreenStage.h"
+#include "Updates.h"
 #include "app/StatusBarController.h"
 #include "fakes/FakeApplication.h"
 #include "fakes/FakeFileOpener.h"
@@ -107,6 +108,12 @@ QImage drawnOnboarding(int step) {
     return stage.picture();
 }
 
+QImage drawnUpdate(const UpdateState& state) {
+    ScreenStage stage;
+    stage.openUpdate(state);
+    return stage.picture();
+}
+
 QImage drawnPile(DragPile::Edges edges) {
     std::vector<DraggingItem> items;
     for (int i = 0; i < 7; ++i) {
@@ -134,6 +141,8 @@ std::vector<Subject> subjects() {
     for (int step = 0; step < OnboardingSteps::stepCount; ++step)
         all.push_back(
             {"onboarding-" + std::to_string(step), [step] { return drawnOnboarding(step); }});
+    for (const auto& [name, state] : updateStates())
+        all.push_back({"update-" + name, [state = state] { return drawnUpdate(state); }});
     all.push_back({"pile", [] { return drawnPile(DragPile::Edges::soft); }});
     all.push_back({"pile-opaque", [] { return drawnPile(DragPile::Edges::opaque); }});
     return all;

@@ -9,6 +9,7 @@
 #include <cerrno>
 
 #include "ScreenStage.h"
+#include "Updates.h"
 
 namespace vantle {
 namespace {
@@ -105,6 +106,14 @@ TEST_P(ScreenLayoutTest, TheSettingsThatCannotBeChanged) {
     preferences->obstacles = {{"location", reason}, {"show-thumbnail", reason}};
     openSettings(GetParam().size);
     expectOrder();
+}
+
+TEST_P(ScreenLayoutTest, TheUpdate) {
+    for (const auto& [name, state] : updateStates()) {
+        SCOPED_TRACE(name);
+        openUpdate(state);
+        expectOrder();
+    }
 }
 
 constexpr Size smallest{480, 300};

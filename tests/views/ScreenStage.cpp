@@ -18,6 +18,15 @@ QString accessibleName(const QQuickItem& item) {
     return interface ? interface->text(QAccessible::Name) : QString();
 }
 
+class NoWindow final : public Window {
+public:
+    void makeKeyAndOrderFront() override {}
+    void orderFront() override {}
+    void close() override {}
+    void setContentSize(Size) override {}
+    std::optional<std::string> snapshot(double) override { return std::nullopt; }
+};
+
 bool isControl(const QQuickItem& item) {
     return item.activeFocusOnTab() || item.inherits("QQuickControl");
 }
@@ -69,6 +78,25 @@ void ScreenStage::openSettings(Size size) {
 void ScreenStage::openOnboarding(int step, Size size) {
     environment["VANTLE_ONBOARDING_STEP"] = std::to_string(step);
     open(std::make_unique<OnboardingWindow>(*settings, platform, [this] { ++finished; }), size);
+}
+
+void ScreenStage::openUpdate(const UpdateState& state) {
+    close();
+    flow = std::make_unique<UpdateFlow>(UpdateFlow::Context{
+        .scheduler = *platform.scheduler,
+        .clock = clock,
+        .defaults = *defaults,
+        .application = *application,
+        .opener = opener,
+        .observer = updaterDelegate_,
+        .engine = std::make_unique<fakes::FakeUpdateEngine>(updates),
+        .version = "1.0",
+        // The one that is looked at is made here.
+        .makeWindow = [](UpdateFlow&) { return std::make_unique<NoWindow>(); }});
+    flow->state.set(state);
+    auto window = std::make_unique<UpdateWindow>(*flow);
+    const QSize size = window->size();
+    open(std::move(window), {double(size.width()), double(size.height())});
 }
 
 QImage ScreenStage::picture() {

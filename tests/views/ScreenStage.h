@@ -7,17 +7,21 @@
 #include <string>
 
 #include "ManualFrames.h"
+#include "app/UpdaterDelegate.h"
 #include "fakes/FakeApplication.h"
+#include "fakes/FakeFileOpener.h"
 #include "fakes/FakeFileSystem.h"
 #include "fakes/FakeFolderChooser.h"
 #include "fakes/FakeLoginItem.h"
 #include "fakes/FakePreferencesDomain.h"
 #include "fakes/FakePrivacySettings.h"
 #include "fakes/FakeProcessLauncher.h"
+#include "fakes/FakeUpdateEngine.h"
 #include "fakes/FakeUserDefaults.h"
 #include "fakes/VirtualTime.h"
 #include "screens/views/OnboardingWindow.h"
 #include "screens/views/SettingsWindow.h"
+#include "screens/views/UpdateWindow.h"
 
 namespace vantle {
 
@@ -29,6 +33,8 @@ public:
     /// Each opens its window with that size of its content.
     void openSettings(Size size = {480, 860});
     void openOnboarding(int step = 0, Size size = {600, 900});
+    /// As high as it wants to be.
+    void openUpdate(const UpdateState& state);
 
     void close() { window_.reset(); }
 
@@ -54,6 +60,7 @@ public:
 
     ManualFrames frames;
     fakes::VirtualTime time;
+    fakes::VirtualClock clock{time};
     Platform platform;
     fakes::FakeFileSystem* files = nullptr;
     fakes::FakeLoginItem* loginItem = nullptr;
@@ -63,6 +70,9 @@ public:
     fakes::FakePrivacySettings* privacySettings = nullptr;
     fakes::FakeApplication* application = nullptr;
     std::unique_ptr<Settings> settings;
+    fakes::FakeFileOpener opener;
+    fakes::FakeUpdateEngine::Record updates;
+    std::unique_ptr<UpdateFlow> flow;
     std::map<std::string, std::string> environment;
     int finished = 0;
     int samples = 0;
@@ -70,6 +80,7 @@ public:
 private:
     void open(std::unique_ptr<ScreenWindow> window, Size size);
 
+    UpdaterDelegate updaterDelegate_{platform.environment};
     Subscription sampleSubscription_;
     std::unique_ptr<ScreenWindow> window_;
 };

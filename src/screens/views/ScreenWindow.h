@@ -25,10 +25,8 @@ protected:
     virtual void appear() = 0;
     bool event(QEvent* event) override;
 
-    /// In the middle of its screen.
-    void centre();
-
 private:
+    void centre();
 
     QVariantMap properties_;  ///< Of the view.
 };
