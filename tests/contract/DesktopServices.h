@@ -52,6 +52,7 @@ public:
     /// The paths of what was passed.
     QStringList opened;
     QStringList openedFolders;
+    QStringList openedPages;
     bool refuses = false;
 
 public slots:
@@ -59,6 +60,10 @@ public slots:
                              const QVariantMap&) {
         if (refuses) sendErrorReply(QDBusError::AccessDenied, QStringLiteral("not allowed"));
         opened << pathOf(file);
+        return QDBusObjectPath(QStringLiteral("/request"));
+    }
+    QDBusObjectPath OpenURI(const QString&, const QString& address, const QVariantMap&) {
+        openedPages << address;
         return QDBusObjectPath(QStringLiteral("/request"));
     }
     QDBusObjectPath OpenDirectory(const QString&, const QDBusUnixFileDescriptor& file,

@@ -27,6 +27,7 @@ struct RecordedOpener {
 
     std::vector<Url> opened(std::size_t) { return opener.opened; }
     std::vector<Url> revealed(std::size_t) { return opener.revealed; }
+    std::vector<std::string> pages(std::size_t) { return opener.pages; }
 };
 
 /// A desktop with a program that opens files and a file manager.
@@ -48,6 +49,12 @@ struct DesktopOpener {
         for (const auto& launch : launcher.launched)
             urls.push_back(Url::file(launch.arguments.back()));
         return urls;
+    }
+    std::vector<std::string> pages(std::size_t count) {
+        EXPECT_TRUE(runUntil([&] { return launcher.launched.size() >= count; }));
+        std::vector<std::string> addresses;
+        for (const auto& launch : launcher.launched) addresses.push_back(launch.arguments.back());
+        return addresses;
     }
     std::vector<Url> revealed(std::size_t count) {
         EXPECT_TRUE(runUntil([&] { return manager->shown.size() >= static_cast<int>(count); }));
@@ -83,6 +90,11 @@ TYPED_TEST(FileOpenerContract, OpensAFile) {
 TYPED_TEST(FileOpenerContract, ShowsFiles) {
     this->desktop.opener.reveal({file, other});
     EXPECT_THAT(this->desktop.revealed(2), ElementsAre(file, other));
+}
+
+TYPED_TEST(FileOpenerContract, OpensAPage) {
+    this->desktop.opener.openPage("https://vantle.example/a?b=c%20d");
+    EXPECT_THAT(this->desktop.pages(1), ElementsAre("https://vantle.example/a?b=c%20d"));
 }
 
 class DesktopFileOpenerTest : public testing::Test {
@@ -155,6 +167,12 @@ TEST_F(SandboxedFileOpenerTest, AsksThePortalWithTheFileItself) {
     opener.reveal({shot});
     EXPECT_TRUE(runUntil([this] { return !portal.openedFolders.isEmpty(); }));
     EXPECT_THAT(desktop.launcher.launched, IsEmpty());
+}
+
+TEST_F(SandboxedFileOpenerTest, AsksThePortalForAPage) {
+    opener.openPage("https://vantle.example");
+    EXPECT_TRUE(runUntil([this] { return !portal.openedPages.isEmpty(); }));
+    EXPECT_THAT(portal.openedPages, ElementsAre(QStringLiteral("https://vantle.example")));
 }
 
 TEST_F(SandboxedFileOpenerTest, ARefusalIsLogged) {

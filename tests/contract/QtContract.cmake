@@ -28,7 +28,8 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/SharingServices.h
   ${CMAKE_CURRENT_LIST_DIR}/SharingSourceTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/StatusItemContractTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TrayService.h)
+  ${CMAKE_CURRENT_LIST_DIR}/TrayService.h
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateEngineContractTests.cpp)
 set_target_properties(qt_contract_tests PROPERTIES AUTOMOC ON)
 target_compile_definitions(
   qt_contract_tests PRIVATE VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>")

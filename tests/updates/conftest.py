@@ -70,10 +70,10 @@ class Copy:
             if self.staging not in [path, *path.parents]
         }
 
-    def run(self, command, *arguments, prefix=(), **environment):
+    def run(self, command, *arguments, **environment):
         """The reports, one list of fields each."""
         ended = subprocess.run(
-            [*prefix, self.tree / "bin/vantle-updater", command, *arguments],
+            [self.tree / "bin/vantle-updater", command, *arguments],
             env={**self._environment, **environment}, stdout=subprocess.PIPE,
             stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, timeout=120, check=False,
         )
@@ -86,18 +86,18 @@ class Copy:
     def check(self, feed, *arguments, version=OLD):
         return self.run("check", f"--feed={feed}", f"--version={version}", *arguments)
 
-    def prepare(self, found, prefix=()):
+    def prepare(self, found, **environment):
         """Of an item as it was reported."""
         _, version, _, _, page, address, length, signature, _ = found
         return self.run(
             "prepare", f"--version={version}", f"--address={address}", f"--length={length}",
-            f"--signature={signature}", f"--page={page}", prefix=prefix,
+            f"--signature={signature}", f"--page={page}", **environment,
         )
 
-    def check_and_prepare(self, feed, prefix=()):
+    def check_and_prepare(self, feed):
         found = self.check(feed)[-1]
         assert found[0] == "found", found
-        return self.prepare(found, prefix)
+        return self.prepare(found)
 
 
 @pytest.fixture

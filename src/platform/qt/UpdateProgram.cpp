@@ -33,7 +33,7 @@ bool isLast(const UpdateReport& report) {
 UpdateProgram::UpdateProgram(QString program) : program_(std::move(program)) {
     bool isNumber = false;
     const int descriptor = taken("VANTLE_UPDATE_READY").toInt(&isNumber);
-    if (isNumber && fcntl(descriptor, F_SETFD, FD_CLOEXEC) == 0)
+    if (isNumber && descriptor > STDERR_FILENO && fcntl(descriptor, F_SETFD, FD_CLOEXEC) == 0)
         ready_ = FileDescriptor(descriptor);
     const auto outcome = reportFrom(taken("VANTLE_UPDATE_OUTCOME").toStdString());
     if (outcome)

@@ -1,0 +1,246 @@
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <array>
+#include <memory>
+
+#include "contract/EventLoop.h"
+#include "fakes/FakeUpdateEngine.h"
+#include "platform/qt/UpdateProgram.h"
+
+namespace vantle {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Reports = std::vector<UpdateReport>;
+
+const UpdateItem item{.version = "1.2",
+                      .page = "https://vantle.example",
+                      .address = "https://vantle.example/a b",
+                      .length = 7,
+                      .signature = "a+/="};
+
+/// A fake that is told what to report.
+struct ToldEngine {
+    fakes::FakeUpdateEngine::Record record;
+    std::unique_ptr<UpdateEngine> engine = std::make_unique<fakes::FakeUpdateEngine>(record);
+    Reports next;
+
+    void willReport(Reports reports) { next = std::move(reports); }
+    bool runUntilReported(const std::function<bool()>& condition) {
+        for (const auto& report : next)
+            if (const auto onReport = record.onReport) onReport(report);
+        return condition();
+    }
+};
+
+/// A program that prints what a file holds.
+struct ProgramEngine {
+    ProgramEngine() { setScript("cat \"$0.reports\""); }
+
+    void setScript(const QByteArray& script) {
+        QFile file(program);
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        file.write("#!/bin/sh\n" + script + "\n");
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    void willReport(const Reports& reports) {
+        QFile file(program + QStringLiteral(".reports"));
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        for (const auto& report : reports)
+            file.write(QByteArray::fromStdString(lineOf(report) + "\n"));
+    }
+    bool runUntilReported(const std::function<bool()>& condition) { return runUntil(condition); }
+
+    QTemporaryDir folder;
+    const QString program = folder.filePath(QStringLiteral("updater"));
+    std::unique_ptr<UpdateEngine> engine = std::make_unique<UpdateProgram>(program);
+};
+
+template <typename Engine>
+class UpdateEngineContract : public testing::Test {
+protected:
+    UpdateEngine::OnReport keep() {
+        return [this](const UpdateReport& report) { reports.push_back(report); };
+    }
+
+    Engine desk;
+    Reports reports;
+};
+
+using Engines = testing::Types<ToldEngine, ProgramEngine>;
+TYPED_TEST_SUITE(UpdateEngineContract, Engines);
+
+TYPED_TEST(UpdateEngineContract, ReportsInOrderAndLater) {
+    const Reports told{report::FeedLoaded{3, 7}, report::UpdateFound{item}};
+    this->desk.willReport(told);
+    this->desk.engine->check({.version = "1.0"}, this->keep());
+    EXPECT_THAT(this->reports, IsEmpty());
+    EXPECT_TRUE(this->desk.runUntilReported([&] { return this->reports.size() == 2; }));
+    EXPECT_EQ(this->reports, told);
+}
+
+TYPED_TEST(UpdateEngineContract, PreparesToTheEnd) {
+    const Reports told{report::Progress{1}, report::Progress{7}, report::Installing{},
+                       report::Ready{}};
+    this->desk.willReport(told);
+    this->desk.engine->prepare(item, this->keep());
+    EXPECT_TRUE(this->desk.runUntilReported([&] { return this->reports.size() == 4; }));
+    EXPECT_EQ(this->reports, told);
+}
+
+TYPED_TEST(UpdateEngineContract, WhatIsCancelledReportsNothingMore) {
+    this->desk.willReport({report::Progress{1}, report::Ready{}});
+    this->desk.engine->prepare(item, this->keep());
+    this->desk.engine->cancel();
+    Reports later;
+    this->desk.engine->check({.version = "1.0"},
+                             [&](const UpdateReport& report) { later.push_back(report); });
+    EXPECT_TRUE(this->desk.runUntilReported([&] { return later.size() == 2; }));
+    EXPECT_THAT(this->reports, IsEmpty());
+}
+
+TYPED_TEST(UpdateEngineContract, TheLastReportMayBeginTheNextThing) {
+    this->desk.willReport({report::UpdateFound{item}});
+    this->desk.engine->check({.version = "1.0"}, [&](const UpdateReport& report) {
+        this->reports.push_back(report);
+        this->desk.engine->prepare(item, this->keep());
+    });
+    EXPECT_TRUE(this->desk.runUntilReported([&] { return this->reports.size() == 1; }));
+    this->desk.willReport({report::Ready{}});
+    EXPECT_TRUE(this->desk.runUntilReported([&] { return this->reports.size() >= 2; }));
+}
+
+TYPED_TEST(UpdateEngineContract, AnOrdinaryStartIsNotOnTrial) {
+    EXPECT_FALSE(this->desk.engine->isOnTrial());
+    EXPECT_EQ(this->desk.engine->rolledBack(), std::nullopt);
+}
+
+class UpdateProgramTest : public testing::Test {
+protected:
+    UpdateReport checkWith(const QByteArray& script) {
+        desk.setScript(script);
+        std::optional<UpdateReport> last;
+        desk.engine->check({.version = "1.0"}, [&](const UpdateReport& report) { last = report; });
+        EXPECT_TRUE(runUntil([&] { return last.has_value(); }));
+        return *last;
+    }
+    /// The arguments that the program writes into a file, once they are there.
+    std::vector<std::string> arguments() {
+        QFile file(desk.program + QStringLiteral(".arguments"));
+        EXPECT_TRUE(runUntil([&] { return file.size() > 0; }));
+        EXPECT_TRUE(file.open(QFile::ReadOnly));
+        std::vector<std::string> lines;
+        for (const auto& line : file.readAll().trimmed().split('\n'))
+            lines.push_back(line.toStdString());
+        return lines;
+    }
+
+    const QByteArray writeArguments =
+        "printf '%s\\n' \"$@\" > \"$0.part\"; mv \"$0.part\" \"$0.arguments\"";
+    ProgramEngine desk;
+};
+
+TEST_F(UpdateProgramTest, AProgramThatIsMissingIsAFailure) {
+    UpdateProgram engine(QStringLiteral("/nowhere/updater"));
+    std::optional<UpdateReport> last;
+    engine.check({.version = "1.0"}, [&](const UpdateReport& report) { last = report; });
+    EXPECT_EQ(last, std::nullopt);
+    ASSERT_TRUE(runUntil([&] { return last.has_value(); }));
+    EXPECT_TRUE(std::holds_alternative<report::Failed>(*last));
+}
+
+TEST_F(UpdateProgramTest, WhatEndsWithoutALastReportIsAFailure) {
+    for (const auto* script : {"exit 0", "exit 3", "kill -KILL $$", "echo nonsense",
+                               "echo ready now", "printf ready", "head -c 3000000 /dev/zero"})
+        EXPECT_TRUE(std::holds_alternative<report::Failed>(checkWith(script))) << script;
+}
+
+TEST_F(UpdateProgramTest, WhatIsNoReportIsPassedOver) {
+    EXPECT_EQ(checkWith("echo nonsense; echo; echo ready; echo ready; echo 'nothing\tx'"),
+              UpdateReport(report::Ready{}));
+}
+
+TEST_F(UpdateProgramTest, AsksWithAllItWasGiven) {
+    checkWith(writeArguments);
+    EXPECT_THAT(arguments(),
+                ElementsAre("check", "--version=1.0", "--channel=", "--newest-feed=0"));
+}
+
+TEST_F(UpdateProgramTest, AsksForAnotherFeedAlsoForAnEmptyOne) {
+    desk.setScript(writeArguments);
+    bool hasEnded = false;
+    desk.engine->check({.feed = "", .version = "1.0", .channel = "beta", .newestFeed = 7},
+                       [&](const UpdateReport&) { hasEnded = true; });
+    ASSERT_TRUE(runUntil([&] { return hasEnded; }));
+    EXPECT_THAT(arguments(), ElementsAre("check", "--version=1.0", "--channel=beta",
+                                         "--newest-feed=7", "--feed="));
+}
+
+TEST_F(UpdateProgramTest, PreparesWhatWasFound) {
+    desk.setScript(writeArguments);
+    desk.engine->prepare(item, [](const UpdateReport&) {});
+    EXPECT_THAT(arguments(),
+                ElementsAre("prepare", "--version=1.2", "--address=https://vantle.example/a b",
+                            "--length=7", "--signature=a+/=", "--page=https://vantle.example"));
+}
+
+TEST_F(UpdateProgramTest, TheRelaunchGoesOnWithoutThisProcess) {
+    desk.setScript(writeArguments);
+    ASSERT_EQ(desk.engine->relaunch(item), std::nullopt);
+    desk.engine.reset();
+    EXPECT_THAT(arguments(),
+                ElementsAre("relaunch", "--version=1.2", "--process=" + std::to_string(getpid())));
+}
+
+TEST_F(UpdateProgramTest, ARelaunchThatCannotBeginIsAFailure) {
+    UpdateProgram engine(QStringLiteral("/nowhere/updater"));
+    EXPECT_TRUE(engine.relaunch(item).has_value());
+}
+
+TEST_F(UpdateProgramTest, WhatIsUnderWayEndsWithIt) {
+    desk.setScript("echo $$ > \"$0.part\"; mv \"$0.part\" \"$0.arguments\"; exec sleep 600");
+    desk.engine->check({.version = "1.0"}, [](const UpdateReport&) { FAIL(); });
+    const pid_t process = std::stoi(arguments().at(0));
+    desk.engine.reset();
+    EXPECT_TRUE(runUntil([&] { return kill(process, 0) != 0; }));
+}
+
+TEST_F(UpdateProgramTest, AStartOnTrialIsConfirmedWithAByte) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    qputenv("VANTLE_UPDATE_READY", QByteArray::number(ends[1]));
+    UpdateProgram engine(desk.program);
+    EXPECT_TRUE(engine.isOnTrial());
+    EXPECT_FALSE(qEnvironmentVariableIsSet("VANTLE_UPDATE_READY"));
+    EXPECT_NE(fcntl(ends[1], F_GETFD) & FD_CLOEXEC, 0);
+    engine.confirmStart();
+    EXPECT_FALSE(engine.isOnTrial());
+    std::array<char, 2> bytes{};
+    EXPECT_EQ(read(ends[0], bytes.data(), bytes.size()), 1);
+    close(ends[0]);
+}
+
+TEST_F(UpdateProgramTest, NonsenseInTheEnvironmentIsNoTrial) {
+    for (const auto* value : {"", "x", "99999", "-1", "2"}) {
+        qputenv("VANTLE_UPDATE_READY", value);
+        EXPECT_FALSE(UpdateProgram(desk.program).isOnTrial()) << value;
+    }
+    qputenv("VANTLE_UPDATE_OUTCOME", "ready");
+    EXPECT_EQ(UpdateProgram(desk.program).rolledBack(), std::nullopt);
+}
+
+TEST_F(UpdateProgramTest, AnOutcomeIsTakenOutOfTheEnvironment) {
+    const report::RolledBack back{"1.2", "It crashed."};
+    qputenv("VANTLE_UPDATE_OUTCOME", QByteArray::fromStdString(lineOf(back)));
+    EXPECT_EQ(UpdateProgram(desk.program).rolledBack(), back);
+    EXPECT_FALSE(qEnvironmentVariableIsSet("VANTLE_UPDATE_OUTCOME"));
+}
+
+}  // namespace
+}  // namespace vantle
