@@ -18,6 +18,7 @@
 #include "support/SystemLog.h"
 #include "updater/Configuration.h"
 #include "updater/Replacement.h"
+#include "updater/Tree.h"
 #include "updates/UpdateReport.h"
 
 namespace vantle::updater {
@@ -137,8 +138,8 @@ int relaunch(const Installation& installation, const std::string& version, pid_t
     if (installation.kind != UpdateItem::Installation::tree)
         return startPackage(installation, version);
     const auto staging = Staging::open(installation.tree);
-    const auto refused =
-        staging ? replaceTree(installation.tree, staging.value()) : Outcome(staging.failure());
+    auto refused = staging ? refuseStrangers(installation.tree) : Outcome(staging.failure());
+    if (!refused) refused = replaceTree(installation.tree, staging.value());
     if (refused)
         return startAgain(installation, version,
                           "The update could not be put in place: " + refused->message + ".");

@@ -13,15 +13,13 @@
 #include "support/Debug.h"
 #include "support/Environment.h"
 #include "support/SystemFailure.h"
-#include "updater/Archive.h"
 #include "updater/Choice.h"
 #include "updater/Configuration.h"
 #include "updater/Fetch.h"
 #include "updater/PackageInstaller.h"
-#include "updater/Replacement.h"
+#include "updater/Preparation.h"
 #include "updater/Signature.h"
 #include "updater/Staging.h"
-#include "updater/Tree.h"
 #include "updater/WriteGuard.h"
 
 namespace vantle::updater {
@@ -54,45 +52,17 @@ Result<std::string> fetchVerified(const UpdateItem& item) {
     return bytes;
 }
 
-/// What can be found out before anything is fetched.
-Outcome checkPlace(const Installation& installation, const Staging& staging) {
-    if (auto failure = refuseStrangers(installation.tree)) return failure;
-    if (const auto failure = tryExchange(staging))
-        return Failure{failure->code,
-                       "The folder of Vantle cannot be replaced in one step: " + failure->message,
-                       failure->path};
-    for (const auto& part : {staging.unpacking(), staging.next()})
-        if (auto failure = staging.discard(part)) return failure;
-    return {};
-}
-
-Outcome makeNext(const Staging& staging, const UpdateItem& item, const std::string& archive) {
-    const auto& built = configuration();
-    std::error_code error;
-    fs::create_directory(staging.unpacking(), error);
-    if (error) return systemFailure(error.value(), staging.unpacking());
-    if (auto failure = unpack(archive, staging.unpacking(), {built.largestTree, built.mostEntries}))
-        return failure;
-    if (auto failure =
-            verifyTree(staging.unpacking(), item.version, platformName(item.installation)))
-        return failure;
-    fs::rename(staging.unpacking(), staging.next(), error);
-    if (error) return systemFailure(error.value(), staging.next());
-    return {};
-}
-
 UpdateReport prepareTree(const Installation& installation, const UpdateItem& item) {
     const auto staging = Staging::open(installation.tree);
     if (!staging) return failed(staging.failure().message, item.page);
     guardWriting(staging.value().folder());
-    if (const auto failure = checkPlace(installation, staging.value()))
+    if (const auto failure = checkPlace(installation.tree, staging.value()))
         return failed(failure->message, item.page);
     const auto archive = fetchVerified(item);
     if (!archive) return failed(archive.failure().message, item.page);
     tell(report::Installing{});
-    const auto failure = makeNext(staging.value(), item, archive.value());
-    (void)staging.value().discard(staging.value().unpacking());
-    if (failure) return failed(failure->message, item.page);
+    if (const auto failure = makeNext(staging.value(), archive.value(), item.version))
+        return failed(failure->message, item.page);
     return report::Ready{};
 }
 

@@ -10,8 +10,11 @@
 #include "contract/TemporaryFolder.h"
 #include "contract/TextFile.h"
 #include "updater/Archive.h"
+#include "updater/Installation.h"
+#include "updater/Preparation.h"
 #include "updater/Replacement.h"
 #include "updater/Staging.h"
+#include "updater/Tree.h"
 
 namespace vantle::updater {
 namespace {
@@ -22,7 +25,11 @@ using testing::HasSubstr;
 /// A tree of some files, and another one beside it.
 class ReplacementTest : public testing::Test {
 protected:
-    ReplacementTest() { makeTree(tree, "old"); }
+    ReplacementTest() {
+        makeTree(tree, "old");
+        writeText(Url::file(tree / "share/vantle/manifest"),
+                  "-  bin/vantle\n-  lib/vantle/a.so\n-  share/vantle/release\n");
+    }
 
     static void makeTree(const fs::path& path, const std::string& contents) {
         for (const auto* name : {"bin/vantle", "lib/vantle/a.so", "share/vantle/release"}) {
@@ -144,6 +151,26 @@ TEST_F(ReplacementTest, KilledWhileItIsTakenBackAWholeTreeStandsThere) {
         EXPECT_TRUE(now == "old" || now == "new") << "killed at stop " << stops;
     }
     EXPECT_GT(stops, 10);
+}
+
+TEST_F(ReplacementTest, KilledWhileItIsPreparedNothingHalfIsTakenForTheNextOne) {
+    const std::string archive = readText(Url::file(VANTLE_SAMPLE_ARCHIVE));
+    int stops = 0;
+    for (End end = End::killed; end == End::killed; stops += 3) {
+        end = runAndKill(
+            [&] {
+                const Staging staging = open();
+                return !checkPlace(tree, staging) && !makeNext(staging, archive, "1.1");
+            },
+            stops);
+        SCOPED_TRACE("killed at stop " + std::to_string(stops));
+        EXPECT_EQ(contentsOf(tree), "old");
+        const auto wrong =
+            verifyTree(folder / "next", "1.1", platformName(UpdateItem::Installation::tree));
+        EXPECT_TRUE(!wrong || !fs::exists(folder / "next"));
+    }
+    EXPECT_GT(stops, 50);
+    EXPECT_TRUE(fs::exists(folder / "next"));
 }
 
 /// On a disk of its own.

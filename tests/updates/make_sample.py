@@ -9,5 +9,6 @@ from releases import make_archive
 
 noise = random.Random(7)
 with tempfile.TemporaryDirectory() as folder:
-    programs = {f"bin/program-{i}": noise.randbytes(20_000).hex() for i in range(8)}
+    names = ["vantle", "vantle-updater", *(f"program-{i}" for i in range(6))]
+    programs = {f"bin/{name}": noise.randbytes(20_000).hex() for name in names}
     Path(sys.argv[1]).write_bytes(make_archive(folder, "1.1", programs))

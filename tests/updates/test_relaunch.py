@@ -118,6 +118,14 @@ def test_nothing_happens_before_the_old_one_has_ended(copy, ready):
     assert copy.version() == NEW
 
 
+def test_files_that_were_put_into_the_tree_meanwhile_stop_it(copy, ready):
+    ready(COMES_UP)
+    (copy.tree / "my notes.txt").write_text("precious")
+    relaunch(copy)
+    assert copy.version() == OLD
+    assert 'also holds "my notes.txt"' in log(copy)
+
+
 def test_without_a_prepared_version_the_old_one_starts_again(copy, ready):
     ready("")
     subprocess.run(["rm", "-r", copy.staging / "next"], check=True)

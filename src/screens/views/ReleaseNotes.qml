@@ -7,6 +7,7 @@ Item {
     objectName: "notes"
 
     property string text
+    property string spokenText
     property real room: Math.round(240 * Math.min(Style.scale, 1.6))
 
     // Headings a little larger than the rest, lists at its edge, links as ours.
@@ -48,6 +49,7 @@ Item {
             // It was made harmless before it came here, and nothing in it is fetched.
             textFormat: Text.RichText
             text: notes.looks + notes.text
+            Accessible.name: notes.spokenText
             lineHeight: 1.1
             bottomPadding: 2
             onLinkActivated: address => notes.linkActivated(address)

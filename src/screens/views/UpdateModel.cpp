@@ -1,6 +1,7 @@
 #include "screens/views/UpdateModel.h"
 
 #include <QLocale>
+#include <QTextDocumentFragment>
 #include <algorithm>
 
 namespace vantle {
@@ -80,6 +81,10 @@ QString UpdateModel::amount() const {
 
 QString UpdateModel::notes() const {
     return state_.stage == Stage::found ? QString::fromStdString(state_.item.notes) : QString();
+}
+
+QString UpdateModel::plainNotes() const {
+    return QTextDocumentFragment::fromHtml(notes()).toPlainText();
 }
 
 bool UpdateModel::isBusy() const {

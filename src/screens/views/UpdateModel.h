@@ -19,6 +19,8 @@ class UpdateModel : public QObject {
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
     /// What is new, as rich text.
     Q_PROPERTY(QString notes READ notes NOTIFY changed)
+    /// The same without looks, to be spoken.
+    Q_PROPERTY(QString plainNotes READ plainNotes NOTIFY changed)
     Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
     Q_PROPERTY(bool isWarning READ isWarning NOTIFY changed)
     /// Something is under way.
@@ -38,6 +40,7 @@ public:
     QString headline() const;
     QString detail() const;
     QString notes() const;
+    QString plainNotes() const;
     QString symbol() const;
     bool isWarning() const { return state_.stage == UpdateState::Stage::failed; }
     bool isBusy() const;

@@ -83,6 +83,7 @@ Rectangle {
             width: parent.width
             visible: text !== ""
             text: view.update.notes
+            spokenText: view.update.plainNotes
             onLinkActivated: address => view.update.openLink(address)
         }
     }

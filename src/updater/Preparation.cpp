@@ -1,0 +1,52 @@
+#include "updater/Preparation.h"
+
+#include <system_error>
+
+#include "support/SystemFailure.h"
+#include "updater/Archive.h"
+#include "updater/Configuration.h"
+#include "updater/Installation.h"
+#include "updater/Replacement.h"
+#include "updater/Tree.h"
+
+namespace vantle::updater {
+namespace {
+
+namespace fs = std::filesystem;
+
+Outcome makeTree(const Staging& staging, std::string_view archive, const std::string& version) {
+    const auto& built = configuration();
+    const fs::path tree = staging.unpacking();
+    std::error_code error;
+    fs::create_directory(tree, error);
+    if (error) return systemFailure(error.value(), tree);
+    if (auto failure = unpack(archive, tree, {built.largestTree, built.mostEntries}))
+        return failure;
+    if (auto failure = verifyTree(tree, version, platformName(UpdateItem::Installation::tree)))
+        return failure;
+    fs::rename(tree, staging.next(), error);
+    if (error) return systemFailure(error.value(), tree);
+    return {};
+}
+
+}  // namespace
+
+Outcome checkPlace(const fs::path& tree, const Staging& staging) {
+    if (auto failure = refuseStrangers(tree)) return failure;
+    if (const auto failure = tryExchange(staging))
+        return Failure{failure->code,
+                       "The folder of Vantle cannot be replaced in one step: " + failure->message,
+                       failure->path};
+    for (const auto& part : {staging.unpacking(), staging.next()})
+        if (auto failure = staging.discard(part)) return failure;
+    return {};
+}
+
+Outcome makeNext(const Staging& staging, std::string_view archive, const std::string& version) {
+    auto failure = makeTree(staging, archive, version);
+    // What could not be removed now is, before the next attempt.
+    (void)staging.discard(staging.unpacking());
+    return failure;
+}
+
+}  // namespace vantle::updater
