@@ -9,6 +9,7 @@
 
 #include "Scenes.h"
 #include "ScreenStage.h"
+#include "Updates.h"
 #include "panel/views/Appearance.h"
 
 namespace {
@@ -103,6 +104,12 @@ QImage screenSheet(double scale) {
     return picture;
 }
 
+QImage offer() {
+    ScreenStage stage;
+    stage.openUpdate({.stage = UpdateState::Stage::found, .item = offeredItem()});
+    return stage.picture();
+}
+
 void write(const QImage& picture, const QString& path) {
     if (!picture.save(path)) qFatal("%s cannot be written", qUtf8Printable(path));
 }
@@ -134,6 +141,7 @@ int main(int argc, char** argv) {
                                                .arg(scale));
         write(screenSheet(scale),
               QStringLiteral("%1/screens-%2@%3x.png").arg(folder, looks).arg(scale));
+        write(offer(), QStringLiteral("%1/update-%2@%3x.png").arg(folder, looks).arg(scale));
     }
     return 0;
 }
