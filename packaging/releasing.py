@@ -62,11 +62,11 @@ def write_manifest(tree):
     )
 
 
-def pack(tree, archive, date=0):
+def pack(tree, archive, date=0, effort=19):
     """The same bytes for the same tree. `tree` is a folder called "vantle"."""
     tree = Path(tree)
     subprocess.run(
-        ["tar", "--create", "--file", str(archive), "--use-compress-program=zstd -19 --quiet",
+        ["tar", "--create", "--file", str(archive), f"--use-compress-program=zstd -{effort} --quiet",
          "--format=ustar", "--sort=name", f"--mtime=@{date}", "--owner=0", "--group=0",
          "--numeric-owner", "--mode=u+rwX,go+rX,go-w", "-C", str(tree.parent), tree.name],
         check=True,

@@ -65,7 +65,7 @@ private:
         const FileDescriptor file(open((folder_ / path).c_str(),
                                        O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
         if (!file) {
-            if (errno == EEXIST) return refused("it holds " + path.string() + " twice.");
+            if (errno == EEXIST) return refused("it holds \"" + path.string() + "\" twice.");
             return systemFailure(errno, path);
         }
         if (auto failure = copyTo(file.get(), path)) return failure;

@@ -48,7 +48,7 @@ def make_archive(folder, version, programs, change=None):
     if change:
         change(tree)
     archive = Path(folder, "archive.tar.zst")
-    releasing.pack(tree, archive)
+    releasing.pack(tree, archive, effort=1)
     contents = archive.read_bytes()
     shutil.rmtree(tree)
     archive.unlink()

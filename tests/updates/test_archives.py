@@ -51,13 +51,14 @@ def test_a_good_one_is_made_ready(copy, publisher, archive):
     assert copy.staging.stat().st_mode & 0o777 == 0o700
 
 
-def test_progress_is_told(copy, server, publisher, archive):
+def test_progress_is_told(copy, server, publisher, tmp_path):
+    archive = make_archive(tmp_path / "large", NEW, copy.programs("", copy.updater))
     found = copy.check(publisher.publish(
         archive, NEW, address=server.address("steady/archive.tar.zst")
     ))[-1]
     received = [int(report[1]) for report in copy.prepare(found) if report[0] == "progress"]
     assert received == sorted(received)
-    assert len(received) > 1
+    assert len(received) > 5
 
 
 def test_a_wrong_signature_is_refused(copy, server, publisher, archive):
@@ -143,7 +144,7 @@ def test_a_file_below_a_link_is_refused(copy, publisher, tmp_path):
 def test_a_file_twice_is_refused(copy, publisher):
     contents = hand_made_archive(entry("vantle/a", b"one"), entry("vantle/a", b"other"))
     assert refuse(copy, publisher, contents) == (
-        "The update was refused: it holds vantle/a twice."
+        'The update was refused: it holds "a" twice.'
     )
 
 

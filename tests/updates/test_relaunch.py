@@ -18,7 +18,7 @@ def ready(copy, publisher, tmp_path):
     """Prepares a version whose program is a script; the old one writes that it was started."""
     def prepare(script):
         (copy.tree / "bin/vantle").write_text(f"#!/bin/sh\n{OLD_COMES_UP}\n")
-        contents = make_archive(tmp_path / "new", NEW, copy.programs(script))
+        contents = make_archive(tmp_path / "new", NEW, copy.programs(script, copy.updater))
         assert copy.check_and_prepare(publisher.publish(contents, NEW))[-1] == ["ready"]
 
     return prepare
@@ -95,8 +95,15 @@ def test_one_that_ends_by_itself_before_it_says_anything_has_come_up(copy, ready
     assert copy.version() == NEW
 
 
-def descriptors(process):
-    return [entry.path for entry in os.scandir(f"/proc/{process.pid}/fd") if entry.is_symlink()]
+def has_handle_of_process(process):
+    for descriptor in os.listdir(f"/proc/{process.pid}/fd"):
+        try:
+            if "pidfd" in os.readlink(f"/proc/{process.pid}/fd/{descriptor}"):
+                return True
+        except OSError:
+            # It was closed meanwhile.
+            continue
+    return False
 
 
 def test_nothing_happens_before_the_old_one_has_ended(copy, ready):
@@ -108,7 +115,7 @@ def test_nothing_happens_before_the_old_one_has_ended(copy, ready):
         env={**os.environ, "VANTLE_TEST_LOG": str(copy.log)},
     )
     # It has the handle by which it waits.
-    while not any("pidfd" in os.readlink(path) for path in descriptors(waiting)):
+    while not has_handle_of_process(waiting):
         assert waiting.poll() is None
     assert copy.version() == OLD
     assert not copy.log.exists()
