@@ -89,10 +89,10 @@ def add_item(feed, archive, address, key, version, platform, **details):
 
     `details`: display_version, minimum_system_version, channel, page, notes (HTML) and date.
     """
-    root = _channel(feed)
+    root = _channel(_verified(feed, key))
     channel = root.find("channel")
     date = details.get("date") or datetime.datetime.now(datetime.timezone.utc)
-    channel.find("lastBuildDate").text = email.utils.format_datetime(date)
+    channel.find("lastBuildDate").text = email.utils.format_datetime(_later(date, channel))
     for item in channel.findall("item"):
         enclosure = item.find("enclosure")
         if (item.findtext(sparkle("version")), enclosure.get(sparkle("os"))) == (version, platform):
@@ -126,9 +126,28 @@ def sign_feed(xml, key):
     ).encode()
 
 
+def _verified(feed, key):
+    """The feed without its signature; what is in a feed of somebody else is not to be signed."""
+    if not feed:
+        return feed
+    xml = SIGNATURE_COMMENT.sub(b"", feed)
+    # Ed25519 gives the same signature for the same bytes.
+    if sign_feed(xml, key) != feed:
+        raise ValueError("the feed was not signed with this key")
+    return xml
+
+
+def _later(date, channel):
+    """Never before the feed that there was: it would be taken for one that somebody kept."""
+    before = channel.findtext("lastBuildDate")
+    if not before:
+        return date
+    return max(date, email.utils.parsedate_to_datetime(before) + datetime.timedelta(seconds=1))
+
+
 def _channel(feed):
     if feed:
-        return ElementTree.fromstring(SIGNATURE_COMMENT.sub(b"", feed))
+        return ElementTree.fromstring(feed)
     root = ElementTree.Element("rss", {"version": "2.0"})
     channel = ElementTree.SubElement(root, "channel")
     _add(channel, "title", "Vantle")

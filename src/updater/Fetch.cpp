@@ -45,6 +45,14 @@ bool isLoopback(const std::string& host) {
     return host == "[::1]" || host == "localhost";
 }
 
+bool isSecure(const std::string& address) {
+    return partOf(address, CURLUPART_SCHEME) == "https";
+}
+
+Failure notAllowed(const std::string& address) {
+    return failureOf("Updates are fetched only by HTTPS, not from \"" + address + "\".");
+}
+
 std::size_t take(char* data, std::size_t, std::size_t size, void* context) {
     auto& transfer = *static_cast<Transfer*>(context);
     if (size > transfer.limits.bytes - transfer.bytes.size()) {
@@ -91,18 +99,17 @@ Failure failureFrom(CURLcode code, const Transfer& transfer) {
 }  // namespace
 
 bool mayFetch(const std::string& address) {
-    const std::string scheme = partOf(address, CURLUPART_SCHEME);
-    return scheme == "https" || (scheme == "http" && isLoopback(partOf(address, CURLUPART_HOST)));
+    return isSecure(address) || (partOf(address, CURLUPART_SCHEME) == "http" &&
+                                 isLoopback(partOf(address, CURLUPART_HOST)));
 }
 
 Result<std::string> fetch(const std::string& address, const FetchLimits& limits,
                           const std::function<void(std::uint64_t received)>& progress) {
     const std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> curl(curl_easy_init(),
                                                                    curl_easy_cleanup);
+    if (!mayFetch(address)) return notAllowed(address);
     std::string next = address;
     for (int redirections = 0; redirections <= mostRedirections; ++redirections) {
-        if (!mayFetch(next))
-            return failureOf("Updates are fetched only by HTTPS, not from \"" + next + "\".");
         Transfer transfer{limits, progress};
         prepare(curl.get(), next, transfer);
         if (const auto code = curl_easy_perform(curl.get()); code != CURLE_OK)
@@ -118,6 +125,9 @@ Result<std::string> fetch(const std::string& address, const FetchLimits& limits,
                                  ".");
             return std::move(transfer.bytes);
         }
+        // From the web nobody is led to services of this machine.
+        const bool isSafe = isSecure(redirection) || (mayFetch(redirection) && !isSecure(next));
+        if (!isSafe) return notAllowed(redirection);
         next = redirection;
     }
     return failureOf("The server leads from one address to the next without end.");

@@ -16,7 +16,7 @@ struct FetchLimits {
 };
 
 /// Whether an address may be fetched: by HTTPS, or by HTTP from this machine itself, for
-/// development. On the way, too: each redirection is asked about.
+/// development. A redirection leads to HTTPS, or from such an address to another one.
 bool mayFetch(const std::string& address);
 
 /// Fetches a file into memory. Certificates are those of the system, or of the file that the

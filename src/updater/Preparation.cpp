@@ -32,7 +32,10 @@ Outcome makeTree(const Staging& staging, std::string_view archive, const std::st
 }  // namespace
 
 Outcome checkPlace(const fs::path& tree, const Staging& staging) {
-    if (auto failure = refuseStrangers(tree)) return failure;
+    // Also what was put into the tree that goes now.
+    for (const auto& each : {tree, staging.previous()})
+        if (fs::exists(each))
+            if (auto failure = refuseStrangers(each)) return failure;
     if (const auto failure = tryExchange(staging))
         return Failure{failure->code,
                        "The folder of Vantle cannot be replaced in one step: " + failure->message,

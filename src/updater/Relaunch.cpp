@@ -1,17 +1,20 @@
 #include "updater/Relaunch.h"
 
-#include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/socket.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
+#include <filesystem>
 #include <optional>
+#include <system_error>
 
 #include "support/FileDescriptor.h"
 #include "support/SystemFailure.h"
@@ -19,15 +22,15 @@
 #include "updater/Configuration.h"
 #include "updater/Replacement.h"
 #include "updater/Tree.h"
+#include "updates/RelaunchEnvironment.h"
 #include "updates/UpdateReport.h"
 
 namespace vantle::updater {
 namespace {
 
+namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
 
-constexpr auto readyVariable = "VANTLE_UPDATE_READY";
-constexpr auto outcomeVariable = "VANTLE_UPDATE_OUTCOME";
 constexpr Seconds longestEnd = std::chrono::minutes(1);
 
 /// Whether there was something to read (or the end of it) in time.
@@ -46,29 +49,40 @@ FileDescriptor handleOf(pid_t process) {
     return FileDescriptor(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
 }
 
-/// Whether it has ended, or ends in time.
-bool waitForEnd(pid_t process) {
-    const FileDescriptor handle = handleOf(process);
-    return handle ? waitFor(handle.get(), longestEnd) : errno == ESRCH;
+/// However long that takes: who asked for it has been told that it will go on.
+void waitForEnd(const FileDescriptor& handle) {
+    while (!waitFor(handle.get(), longestEnd)) continue;
+}
+
+/// Whether a process runs that program, from exactly that place.
+bool isRunning(const fs::path& program) {
+    std::error_code error;
+    for (const auto& entry : fs::directory_iterator("/proc", error)) {
+        // Many are none of ours to look at.
+        std::error_code ignored;
+        if (fs::read_symlink(entry.path() / "exe", ignored) == program) return true;
+    }
+    return false;
 }
 
 /// A copy of the program that this process has started.
 class Child {
 public:
-    static Result<Child> start(const std::string& program, const std::string& outcome) {
+    static Result<Child> start(const fs::path& program, const std::string& outcome) {
         std::array<int, 2> ends{};
-        if (pipe2(ends.data(), O_CLOEXEC) != 0) return systemFailure(errno, program);
+        // Not a pipe: who writes to one that nobody reads any more would be killed.
+        if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
+            return systemFailure(errno, program);
         FileDescriptor ready(ends[0]);
         const FileDescriptor tell(ends[1]);
         // Only in the child does it stay open.
         posix_spawn_file_actions_t actions;
         posix_spawn_file_actions_init(&actions);
         posix_spawn_file_actions_adddup2(&actions, tell.get(), tell.get());
-        setenv(readyVariable, std::to_string(tell.get()).c_str(), 1);
-        if (outcome.empty())
-            unsetenv(outcomeVariable);
-        else
-            setenv(outcomeVariable, outcome.c_str(), 1);
+        setenv(relaunch::readyVariable, std::to_string(tell.get()).c_str(), 1);
+        setenv(relaunch::outcomeVariable, outcome.c_str(), 1);
+        // Whoever asked for that has had it.
+        unsetenv("VANTLE_CHECK_UPDATES_NOW");
         char* const arguments[] = {const_cast<char*>(program.c_str()), nullptr};
         pid_t process = 0;
         const int error =
@@ -78,22 +92,20 @@ public:
         return Child(process, std::move(ready));
     }
 
-    /// Absent when it came up (or ended as it should before that); else what happened. One that
-    /// does not come up in time is killed.
+    /// Absent when it said that it came up; else what happened. One that does not come up in time
+    /// is killed.
     std::optional<std::string> failure() const {
         char byte = 0;
         const bool isTold = waitFor(ready_.get(), configuration().longestStart);
         if (isTold && read(ready_.get(), &byte, 1) == 1) return std::nullopt;
-        // It closed the pipe without a word: it ends, or has ended.
+        // It closed the socket without a word: it ends, or has ended.
         const FileDescriptor handle = handleOf(process_);
         const bool hasEnded = isTold && waitFor(handle.get(), longestEnd);
         if (!hasEnded) kill(process_, SIGKILL);
         int status = 0;
         while (waitpid(process_, &status, 0) < 0 && errno == EINTR) continue;
         if (!hasEnded) return "did not start in time";
-        if (WIFSIGNALED(status)) return "crashed at its start";
-        if (WEXITSTATUS(status) != 0) return "ended at its start";
-        return std::nullopt;
+        return WIFSIGNALED(status) ? "crashed at its start" : "ended at its start";
     }
 
 private:
@@ -103,53 +115,64 @@ private:
     FileDescriptor ready_;
 };
 
-int startAgain(const Installation& installation, const std::string& version,
-               const std::string& message) {
+/// Starts a version that was there before, which tells the user the message. `version` is the one
+/// that failed; empty where it was not even tried.
+int startAgain(const fs::path& program, const std::string& version, const std::string& message) {
+    const auto child = Child::start(program, lineOf(report::RolledBack{version, message}));
     systemLog("Vantle: " + message);
-    const auto child =
-        Child::start(installation.program(), lineOf(report::RolledBack{version, message}));
-    if (child) return EXIT_FAILURE;
-    systemLog("Vantle: " + child.failure().path + ": " + child.failure().message);
+    if (!child) systemLog("Vantle: " + program.string() + ": " + child.failure().message);
     return EXIT_FAILURE;
 }
 
 /// Empty when the new version runs.
-std::string startNew(const Installation& installation, const std::string& version) {
-    const auto child = Child::start(installation.program(), "");
+std::string startNew(const fs::path& program, const std::string& version) {
+    const auto child = Child::start(program, "");
     const auto problem =
         child ? child.value().failure() : "cannot be started: " + child.failure().message;
-    return problem ? "Vantle " + version + " " + *problem : "";
+    // It may have handed over to a copy that somebody started in between.
+    return problem && !isRunning(program) ? "Vantle " + version + " " + *problem : "";
 }
 
-int startPackage(const Installation& installation, const std::string& version) {
-    const std::string problem = startNew(installation, version);
-    if (problem.empty()) return EXIT_SUCCESS;
-    systemLog("Vantle: " + problem);
+/// What the system installed is not ours to take back, nor to end.
+int startPackage(const fs::path& program) {
+    const auto child = Child::start(program, "");
+    if (child) return EXIT_SUCCESS;
+    systemLog("Vantle: " + program.string() + ": " + child.failure().message);
     return EXIT_FAILURE;
 }
 
-}  // namespace
-
-int relaunch(const Installation& installation, const std::string& version, pid_t running) {
-    if (!waitForEnd(running)) {
-        systemLog("Vantle: the update was given up: the program does not end");
-        return EXIT_FAILURE;
-    }
-    if (installation.kind != UpdateItem::Installation::tree)
-        return startPackage(installation, version);
+int replaceAndStart(const Installation& installation, const std::string& version) {
+    const fs::path program = installation.program();
     const auto staging = Staging::open(installation.tree);
     auto refused = staging ? refuseStrangers(installation.tree) : Outcome(staging.failure());
     if (!refused) refused = replaceTree(installation.tree, staging.value());
     if (refused)
-        return startAgain(installation, version,
+        return startAgain(program, "",
                           "The update could not be put in place: " + refused->message + ".");
-    const std::string problem = startNew(installation, version);
+    const std::string problem = startNew(program, version);
     if (problem.empty()) return EXIT_SUCCESS;
     if (const auto failure = restoreTree(installation.tree, staging.value()))
-        return startAgain(installation, version,
+        return startAgain(staging.value().previous() / "bin/vantle", version,
                           problem + ", and the version before it could not be put back: " +
                               failure->message + ".");
-    return startAgain(installation, version, problem + ", so the version before it was put back.");
+    return startAgain(program, version, problem + ", so the version before it was put back.");
+}
+
+}  // namespace
+
+int relaunch(const Installation& installation, const std::string& version, pid_t running,
+             FileDescriptor tell) {
+    const FileDescriptor handle = handleOf(running);
+    const bool hasEnded = !handle && errno == ESRCH;
+    // Without a word, or when nobody waits for it any more, the one that runs goes on.
+    if (!handle && !hasEnded) return EXIT_FAILURE;
+    if (write(tell.get(), "r", 1) != 1) return EXIT_FAILURE;
+    // Of what others opened nothing is to be inherited, from version to version.
+    close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
+    if (handle) waitForEnd(handle);
+    return installation.kind == UpdateItem::Installation::tree
+               ? replaceAndStart(installation, version)
+               : startPackage(installation.program());
 }
 
 }  // namespace vantle::updater

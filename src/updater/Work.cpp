@@ -1,8 +1,8 @@
 #include "updater/Work.h"
 
 #include <gnu/libc-version.h>
-#include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <iostream>
@@ -66,38 +66,32 @@ UpdateReport prepareTree(const Installation& installation, const UpdateItem& ite
     return report::Ready{};
 }
 
-/// A folder of this user's own for the package, which goes with this.
+/// Where a package is kept while the system installs it; what was left there goes.
 class PackageFolder {
 public:
-    PackageFolder() {
-        const Url cache = UserDirectories(processEnvironment()).cache().appending("vantle");
-        std::error_code error;
-        fs::create_directories(cache.path(), error);
-        std::string path = cache.path() + "/update-XXXXXX";
-        if (mkdtemp(path.data())) path_ = path;
-    }
-    ~PackageFolder() {
-        std::error_code ignored;
-        if (!path_.empty()) fs::remove_all(path_, ignored);
-    }
-    PackageFolder(const PackageFolder&) = delete;
-    PackageFolder& operator=(const PackageFolder&) = delete;
+    ~PackageFolder() { clear(); }
 
-    Result<fs::path> save(const std::string& package) const {
-        if (path_.empty()) return systemFailure(EACCES);
+    Result<fs::path> save(const std::string& package) {
+        clear();
         const fs::path file = path_ / "vantle.deb";
         if (const auto failure = replaceWholeFile(Url::file(file), package)) return *failure;
         return file;
     }
 
 private:
-    fs::path path_;
+    void clear() const {
+        std::error_code ignored;
+        fs::remove_all(path_, ignored);
+    }
+
+    const fs::path path_ =
+        UserDirectories(processEnvironment()).cache().appending("vantle/update").path();
 };
 
 UpdateReport preparePackage(const UpdateItem& item) {
     const auto package = fetchVerified(item);
     if (!package) return failed(package.failure().message, item.page);
-    const PackageFolder folder;
+    PackageFolder folder;
     const auto file = folder.save(package.value());
     if (!file) return failed(file.failure().message, item.page);
     tell(report::Installing{});

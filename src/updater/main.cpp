@@ -1,7 +1,7 @@
 // vantle-updater check --version=VERSION [--feed=ADDRESS] [--channel=NAME] [--newest-feed=SECONDS]
 // vantle-updater prepare --version=VERSION --address=ADDRESS --length=BYTES --signature=BASE64
 //                        [--page=ADDRESS]
-// vantle-updater relaunch --version=VERSION --process=NUMBER
+// vantle-updater relaunch --version=VERSION --process=NUMBER --tell=DESCRIPTOR
 //
 // The part of updates that needs the network, and that must never be wrong: asks the update feed,
 // fetches and verifies a version, puts it in place. Writes reports to the standard output, one on a
@@ -19,6 +19,7 @@
 #include <string>
 #include <string_view>
 
+#include "support/FileDescriptor.h"
 #include "updater/Configuration.h"
 #include "updater/Relaunch.h"
 #include "updater/Work.h"
@@ -79,14 +80,22 @@ int run(const std::string_view command, Options& options) {
                                                .signature = options["signature"],
                                                .installation = installation.kind}));
     }
-    if (command == "relaunch")
-        return relaunch(installation, version, number<pid_t>(options["process"]));
+    if (command == "relaunch" && options.contains("tell"))
+        return relaunch(installation, version, number<pid_t>(options["process"]),
+                        FileDescriptor(number<int>(options["tell"])));
     return wrongCommandLine;
+}
+
+/// A reader that has gone is no reason to leave a user without a program. Not ignored, which what
+/// is started here would inherit.
+void surviveClosedPipes() {
+    signal(SIGPIPE, [](int) {});
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    surviveClosedPipes();
     auto options = optionsFrom(argc - 2, argv + 2);
     int status = wrongCommandLine;
     if (argc >= 2 && options && options->contains("version")) status = run(argv[1], *options);

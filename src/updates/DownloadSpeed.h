@@ -13,6 +13,8 @@ class DownloadSpeed {
 public:
     /// `received` bytes so far.
     void note(Instant now, std::uint64_t received) {
+        // It begins anew.
+        if (!samples_.empty() && received < samples_.back().received) samples_.clear();
         samples_.push_back({now, received});
         // One from before is kept, as what the rest is measured from.
         while (samples_.size() > 2 && now - samples_[1].at >= span) samples_.pop_front();

@@ -1,5 +1,6 @@
 #include "updates/UpdateFlow.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vantle {
@@ -29,8 +30,8 @@ UpdateFlow::~UpdateFlow() {
 
 void UpdateFlow::checkForUpdates() {
     const Stage stage = state.value().stage;
-    const bool isFree =
-        stage == Stage::closed || stage == Stage::upToDate || stage == Stage::failed;
+    const bool isFree = stage == Stage::closed || stage == Stage::upToDate ||
+                        stage == Stage::checkFailed || stage == Stage::failed;
     if (isFree) {
         const bool isUnderWay = check_.has_value();
         show({.stage = Stage::checking});
@@ -48,18 +49,28 @@ void UpdateFlow::check(Asked asked) {
     if (isBusy) return;
     check_ = asked;
     schedule_.noteCheck();
-    context_.engine->check(
-        {.feed = context_.observer.feedURLString(),
-         .version = context_.version,
-         .channel = context_.defaults.text(channel).value_or(""),
-         .newestFeed = static_cast<std::int64_t>(context_.defaults.number(newestFeed))},
-        [this](const UpdateReport& report) { checkReported(report); });
+    context_.engine->check({.feed = context_.observer.feedURLString(),
+                            .version = context_.version,
+                            .channel = context_.defaults.text(channel).value_or(""),
+                            .newestFeed = newestDate()},
+                           [this](const UpdateReport& report) { checkReported(report); });
+}
+
+std::int64_t UpdateFlow::newestDate() const {
+    // The settings file may say anything.
+    constexpr double latest = 1e12;
+    const double seconds = context_.defaults.number(newestFeed);
+    return seconds > 0 && seconds < latest ? static_cast<std::int64_t>(seconds) : 0;
 }
 
 void UpdateFlow::checkReported(const UpdateReport& report) {
     if (const auto* loaded = std::get_if<report::FeedLoaded>(&report)) {
-        // An older one from now on is one that somebody kept.
-        context_.defaults.set(newestFeed, static_cast<double>(loaded->date));
+        // An older one from now on is one that somebody kept. One from the future was made with a
+        // wrong clock, and must not lock out those that come after it.
+        const Date now = context_.clock.now();
+        const auto seconds = std::chrono::floor<std::chrono::seconds>(now.time_since_epoch());
+        context_.defaults.set(
+            newestFeed, static_cast<double>(std::min<std::int64_t>(loaded->date, seconds.count())));
         context_.observer.didFinishLoading(loaded->items);
     } else if (const auto* update = std::get_if<report::UpdateFound>(&report)) {
         found(update->item);
@@ -69,7 +80,8 @@ void UpdateFlow::checkReported(const UpdateReport& report) {
             show({.stage = Stage::upToDate, .message = nothing->reason});
     } else if (const auto* failure = std::get_if<report::Failed>(&report)) {
         context_.observer.didAbortWithError(failure->message);
-        if (std::exchange(check_, std::nullopt) == Asked::byUser) failed(*failure);
+        if (std::exchange(check_, std::nullopt) == Asked::byUser)
+            show({.stage = Stage::checkFailed, .message = failure->message, .page = failure->page});
     }
 }
 
@@ -130,11 +142,11 @@ void UpdateFlow::failed(const report::Failed& failure) {
 }
 
 void UpdateFlow::tell(const report::RolledBack& back) {
-    // Not offered again by itself: it would fail again.
-    context_.defaults.set(skippedVersion, back.version);
+    // One that was tried is not offered again by itself: it would fail again.
+    if (!back.version.empty()) context_.defaults.set(skippedVersion, back.version);
     context_.observer.didAbortWithError(back.message);
     telling_ = context_.scheduler.after(Seconds(0), [this, back] {
-        show({.stage = Stage::failed, .item = {.version = back.version}, .message = back.message});
+        show({.stage = Stage::failed, .message = back.message});
         window_->orderFront();
     });
 }
@@ -147,7 +159,7 @@ void UpdateFlow::skip() {
 
 void UpdateFlow::openPage() {
     const auto& shown = state.value();
-    const std::string page = shown.stage == Stage::failed ? shown.page : shown.item.page;
+    const std::string page = shown.stage == Stage::found ? shown.item.page : shown.page;
     if (page.empty()) return;
     context_.opener.openPage(page);
     close();

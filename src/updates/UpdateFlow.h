@@ -28,7 +28,8 @@ struct UpdateState {
         downloading,
         installing,
         upToDate,
-        failed,
+        checkFailed,
+        failed,  ///< To install it.
     };
     Stage stage = Stage::closed;
     UpdateItem item;              ///< From `found` on; else empty.
@@ -86,6 +87,8 @@ private:
     void tell(const report::RolledBack& back);
     void show(UpdateState state);
     OfferedVersion offered() const;
+    /// Of the feeds that were ever seen; 0 for none.
+    std::int64_t newestDate() const;
 
     Context context_;
     UpdateSchedule schedule_;

@@ -51,7 +51,7 @@ struct Failed {
 /// To the copy that was started again: the new version did not come up, so the one before it is
 /// back.
 struct RolledBack {
-    std::string version;
+    std::string version;  ///< That failed; empty where it was not even tried.
     std::string message;
     friend bool operator==(const RolledBack&, const RolledBack&) = default;
 };

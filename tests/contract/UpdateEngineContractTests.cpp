@@ -1,6 +1,7 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <QFile>
@@ -191,16 +192,24 @@ TEST_F(UpdateProgramTest, PreparesWhatWasFound) {
 }
 
 TEST_F(UpdateProgramTest, TheRelaunchGoesOnWithoutThisProcess) {
-    desk.setScript(writeArguments);
+    desk.setScript("printf r > /proc/self/fd/${4#--tell=}\n" + writeArguments);
     ASSERT_EQ(desk.engine->relaunch(item), std::nullopt);
     desk.engine.reset();
     EXPECT_THAT(arguments(),
-                ElementsAre("relaunch", "--version=1.2", "--process=" + std::to_string(getpid())));
+                ElementsAre("relaunch", "--version=1.2", "--process=" + std::to_string(getpid()),
+                            testing::StartsWith("--tell=")));
 }
 
 TEST_F(UpdateProgramTest, ARelaunchThatCannotBeginIsAFailure) {
     UpdateProgram engine(QStringLiteral("/nowhere/updater"));
     EXPECT_TRUE(engine.relaunch(item).has_value());
+}
+
+TEST_F(UpdateProgramTest, ARelaunchWithoutAnAnswerIsAFailure) {
+    desk.setScript("exit 0");
+    const auto failure = desk.engine->relaunch(item);
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->message, "The program that does updates does not answer.");
 }
 
 TEST_F(UpdateProgramTest, WhatIsUnderWayEndsWithIt) {
@@ -213,7 +222,7 @@ TEST_F(UpdateProgramTest, WhatIsUnderWayEndsWithIt) {
 
 TEST_F(UpdateProgramTest, AStartOnTrialIsConfirmedWithAByte) {
     std::array<int, 2> ends{};
-    ASSERT_EQ(pipe(ends.data()), 0);
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
     qputenv("VANTLE_UPDATE_READY", QByteArray::number(ends[1]));
     UpdateProgram engine(desk.program);
     EXPECT_TRUE(engine.isOnTrial());
@@ -224,6 +233,26 @@ TEST_F(UpdateProgramTest, AStartOnTrialIsConfirmedWithAByte) {
     std::array<char, 2> bytes{};
     EXPECT_EQ(read(ends[0], bytes.data(), bytes.size()), 1);
     close(ends[0]);
+}
+
+TEST_F(UpdateProgramTest, AnOrderlyEndConfirmsTheStart) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
+    qputenv("VANTLE_UPDATE_READY", QByteArray::number(ends[1]));
+    { const UpdateProgram engine(desk.program); }
+    char byte = 0;
+    EXPECT_EQ(read(ends[0], &byte, 1), 1);
+    close(ends[0]);
+}
+
+TEST_F(UpdateProgramTest, AStartThatNobodyWaitsForAnyMoreIsConfirmedWithoutHarm) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
+    qputenv("VANTLE_UPDATE_READY", QByteArray::number(ends[1]));
+    UpdateProgram engine(desk.program);
+    close(ends[0]);
+    engine.confirmStart();
+    EXPECT_FALSE(engine.isOnTrial());
 }
 
 TEST_F(UpdateProgramTest, NonsenseInTheEnvironmentIsNoTrial) {

@@ -367,9 +367,18 @@ TEST_F(UpdateFlowTest, OnlySecureLinksAreOpened) {
 
 TEST_F(UpdateFlowTest, TheDateOfTheNewestFeedIsKept) {
     make().checkForUpdates();
-    report(report::FeedLoaded{1, 1'800'000'123});
+    report(report::FeedLoaded{1, 1'700'000'123});
     make().checkForUpdates();
-    EXPECT_EQ(engine.checks.back().newestFeed, 1'800'000'123);
+    EXPECT_EQ(engine.checks.back().newestFeed, 1'700'000'123);
+}
+
+TEST_F(UpdateFlowTest, NonsenseInsteadOfADateIsNone) {
+    for (const PreferenceValue& nonsense :
+         {PreferenceValue(-7.0), PreferenceValue(1e300), PreferenceValue(std::string("nan"))}) {
+        defaults.stored["newestUpdateFeed"] = nonsense;
+        make().checkForUpdates();
+        EXPECT_EQ(engine.checks.back().newestFeed, 0);
+    }
 }
 
 TEST_F(UpdateFlowTest, AChannelOfTheSettingsIsAskedFor) {
@@ -401,6 +410,32 @@ TEST_F(UpdateFlowTest, AVersionThatWasTakenBackIsToldAndNotOfferedAgainByItself)
     EXPECT_EQ(flow->state.value().message, "It crashed.");
     EXPECT_THAT(window, ElementsAre("made", "shown"));
     EXPECT_EQ(defaults.text("skippedUpdate"), "12");
+}
+
+TEST_F(UpdateFlowTest, AVersionThatWasNotEvenTriedIsOfferedAgain) {
+    engine.rolledBack = report::RolledBack{"", "The update could not be put in place."};
+    make();
+    time.settle();
+    EXPECT_EQ(stage(), Stage::failed);
+    EXPECT_EQ(defaults.text("skippedUpdate"), std::nullopt);
+}
+
+TEST_F(UpdateFlowTest, AFeedFromTheFutureDoesNotLockOutTheNext) {
+    make().checkForUpdates();
+    report(report::FeedLoaded{1, 4'000'000'000});
+    make().checkForUpdates();
+    EXPECT_EQ(engine.checks.back().newestFeed, 1'800'000'000);
+}
+
+TEST_F(UpdateFlowTest, ADownloadThatBeginsAnewHasASpeedAgain) {
+    find();
+    flow->install();
+    report(report::Progress{5000});
+    time.advance(Seconds(1));
+    report(report::Progress{100});
+    time.advance(Seconds(1));
+    report(report::Progress{300});
+    EXPECT_DOUBLE_EQ(flow->state.value().speed.value(), 200);
 }
 
 TEST_F(UpdateFlowTest, EndingInTheMiddleIsHarmless) {

@@ -3,6 +3,7 @@
 import os
 import subprocess
 import sys
+import time
 from pathlib import Path
 
 import pytest
@@ -71,18 +72,35 @@ class Copy:
             if self.staging not in [path, *path.parents]
         }
 
-    def run(self, command, *arguments, **environment):
+    def run(self, command, *arguments, descriptors=(), **environment):
         """The reports, one list of fields each."""
         ended = subprocess.run(
             [self.tree / "bin/vantle-updater", command, *arguments],
             env={**self._environment, **environment}, stdout=subprocess.PIPE,
             stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, timeout=120, check=False,
+            pass_fds=descriptors,
         )
         self.errors = ended.stderr.decode()
         assert "Sanitizer" not in self.errors, self.errors
         assert ended.returncode >= 0, ended.returncode
         self.status = ended.returncode
         return [line.split("\t") for line in ended.stdout.decode().splitlines()]
+
+    def relaunch(self, version, process=2**22 - 1):
+        """When that process has ended; without one at once. True if the updater said it goes on."""
+        answer, tell = os.pipe()
+        with open(answer, "rb") as reader, open(tell, "wb") as writer:
+            self.run("relaunch", f"--version={version}", f"--process={process}",
+                     f"--tell={writer.fileno()}", descriptors=[writer.fileno()])
+            writer.close()
+            return reader.read() == b"r"
+
+    def wait_for_log(self):
+        """What was started may still be writing."""
+        deadline = time.monotonic() + 20
+        while not (self.log.exists() and self.log.read_text()) and time.monotonic() < deadline:
+            time.sleep(0.01)
+        return self.log.read_text().rstrip()
 
     def check(self, feed, *arguments, version=OLD):
         return self.run("check", f"--feed={feed}", f"--version={version}", *arguments)

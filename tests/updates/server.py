@@ -33,6 +33,7 @@ http {{
         location /moved-to-plain/ {{ rewrite ^/[^/]*/(.*) http://vantle.example/$1 redirect; }}
         location /moved-to-file/ {{ return 302 file:///etc/passwd; }}
         location /round/ {{ return 302 /round/; }}
+        location /inside/ {{ rewrite ^/inside/(.*) http://127.0.0.1:{plain}/$1 redirect; }}
         location /cut/ {{ proxy_pass http://127.0.0.1:{cut}; proxy_buffering off; }}
     }}
     server {{ listen 127.0.0.1:{plain}; }}

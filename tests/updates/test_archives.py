@@ -5,6 +5,7 @@ staging folder.
 """
 
 import fcntl
+import shutil
 import tarfile
 
 import pytest
@@ -229,6 +230,16 @@ def test_files_of_the_user_in_the_tree_stop_it(copy, publisher, archive):
     reports = copy.check_and_prepare(publisher.publish(archive, NEW))
     assert 'also holds "my notes.txt"' in message_of(reports)
     mine.unlink()
+
+
+def test_files_of_the_user_in_the_version_before_stop_it(copy, publisher, archive):
+    previous = copy.staging / "previous"
+    copy.staging.mkdir(mode=0o700)
+    shutil.copytree(copy.tree, previous)
+    (previous / "my notes.txt").write_text("precious")
+    reports = copy.check_and_prepare(publisher.publish(archive, NEW))
+    assert 'also holds "my notes.txt"' in message_of(reports)
+    assert (previous / "my notes.txt").read_text() == "precious"
 
 
 def test_two_at_a_time_are_not_possible(copy, publisher, archive):

@@ -224,6 +224,21 @@ def test_a_redirection_is_followed(copy, server, publisher):
     assert copy.check(server.address("moved/appcast.xml"))[-1][:2] == ["found", NEW]
 
 
+def test_a_feed_of_somebody_else_is_not_added_to(publisher, tmp_path):
+    releasing.make_key(tmp_path / "another.pem")
+    feed = publisher.feed(ARCHIVE, OLD)
+    archive = publisher.save(ARCHIVE)
+    with pytest.raises(ValueError, match="not signed with this key"):
+        releasing.add_item(feed, archive, "https://x", tmp_path / "another.pem", NEW, SYSTEM)
+
+
+def test_a_feed_is_never_older_than_the_one_before(copy, publisher):
+    feed = publisher.feed(ARCHIVE, OLD)
+    earlier = NOW - datetime.timedelta(days=30)
+    loaded = copy.check(publisher.publish(ARCHIVE, NEW, feed, date=earlier))[0]
+    assert int(loaded[2]) == int(NOW.timestamp()) + 1
+
+
 @pytest.mark.parametrize("path, target", [
     ("moved-to-plain/appcast.xml", "http://vantle.example/appcast.xml"),
     ("moved-to-file/", "file:///etc/passwd"),
@@ -237,6 +252,13 @@ def test_a_redirection_to_anything_but_https_is_refused(copy, server, path, targ
 def test_a_redirection_in_a_circle_ends(copy, server):
     assert failure(copy.check(server.address("round/"))) == (
         "The server leads from one address to the next without end."
+    )
+
+
+def test_a_redirection_from_the_web_to_this_machine_is_refused(copy, server, publisher):
+    publisher.publish(ARCHIVE, NEW)
+    assert failure(copy.check(server.address("inside/appcast.xml"))) == (
+        f'Updates are fetched only by HTTPS, not from "{server.plain_address("appcast.xml")}".'
     )
 
 

@@ -85,7 +85,7 @@ def test_a_package_is_handed_to_the_system(copy, service, prepare, cache):
     assert prepare()[-2:] == [["installing"], ["ready"]]
     assert installer.stdout.readline() == "SetHints ['interactive=true']\n"
     call = installer.stdout.readline()
-    assert call.startswith(f"InstallFiles 0 ['{cache}/vantle/update-")
+    assert call.startswith(f"InstallFiles 0 ['{cache}/vantle/update/vantle.deb']")
     assert installer.stdout.readline().split()[1] == hashlib.sha256(PACKAGE).hexdigest()
     # What was fetched goes, and nothing was changed by ourselves.
     assert not list((cache / "vantle").iterdir())
@@ -139,10 +139,19 @@ def test_a_package_that_is_not_signed_never_gets_there(copy, server, service, pr
     assert installer.stdout.read() == ""
 
 
+def test_a_package_that_was_left_goes(service, prepare, cache):
+    left = cache / "vantle/update/vantle.deb"
+    left.parent.mkdir(parents=True)
+    left.write_bytes(b"of another time")
+    service("success")
+    assert prepare()[-1] == ["ready"]
+    assert not left.exists()
+
+
 def test_the_new_version_is_started_and_never_taken_back(copy):
     releasing.describe_release(copy.tree, NEW, f"{SYSTEM}-deb", "package")
     (copy.tree / "bin/vantle").write_text('#!/bin/sh\necho new > "$VANTLE_TEST_LOG"\nexit 3\n')
-    copy.run("relaunch", f"--version={NEW}", f"--process={2**22 - 1}")
-    assert copy.status == 1
-    assert copy.log.read_text() == "new\n"
+    copy.relaunch(NEW)
+    assert copy.status == 0
+    assert copy.wait_for_log() == "new"
     assert copy.version() == NEW

@@ -3,7 +3,6 @@
 import os
 import signal
 import subprocess
-import time
 
 import pytest
 
@@ -24,19 +23,12 @@ def ready(copy, publisher, tmp_path):
     return prepare
 
 
-def relaunch(copy, process=None):
-    if process is None:
-        process = subprocess.Popen(["true"])
-        process.wait()
-    copy.run("relaunch", f"--version={NEW}", f"--process={process.pid}")
-    # What it started may still be writing.
-    deadline = time.monotonic() + 20
-    while not copy.log.exists() and time.monotonic() < deadline:
-        time.sleep(0.01)
+def relaunch(copy):
+    assert copy.relaunch(NEW)
 
 
 def log(copy):
-    return copy.log.read_text().rstrip()
+    return copy.wait_for_log()
 
 
 def test_the_new_version_takes_the_place_of_the_old_one(copy, ready):
@@ -55,7 +47,7 @@ def test_it_can_be_updated_again_and_again(copy, ready, publisher, tmp_path):
     contents = make_archive(tmp_path / "newer", "1.2", copy.programs(COMES_UP))
     found = copy.check(publisher.publish(contents, "1.2"), version=NEW)[-1]
     assert copy.prepare(found)[-1] == ["ready"]
-    copy.run("relaunch", "--version=1.2", f"--process={2**22 - 1}")
+    assert copy.relaunch("1.2")
     assert copy.version() == "1.2"
     assert NEW in (copy.staging / "previous/share/vantle/release").read_text()
 
@@ -88,11 +80,66 @@ def test_one_that_cannot_be_started_is_taken_back(copy, ready):
     assert "old rolled-back\t1.1\tVantle 1.1 cannot be started" in log(copy)
 
 
-def test_one_that_ends_by_itself_before_it_says_anything_has_come_up(copy, ready):
-    ready('echo new >> "$VANTLE_TEST_LOG"; exit 0')
+def test_one_that_ends_by_itself_before_it_says_anything_is_taken_back(copy, ready):
+    ready("exit 0")
     relaunch(copy)
+    assert copy.version() == OLD
+    assert "old rolled-back\t1.1\tVantle 1.1 ended at its start" in log(copy)
+
+
+def test_one_that_hands_over_to_a_copy_that_runs_has_come_up(copy, ready):
+    # As if somebody had started it while the updater did.
+    ready('cp /bin/sleep "$0.x"; mv "$0.x" "$0"; '
+          'eval "\\"$0\\" 600 $VANTLE_UPDATE_READY>&- > /dev/null 2>&1 &"; exit 0')
+    relaunch(copy)
+    for process in running(copy.tree / "bin/vantle"):
+        os.kill(process, signal.SIGKILL)
     assert copy.status == 0
     assert copy.version() == NEW
+
+
+def running(program):
+    found = []
+    for name in filter(str.isdigit, os.listdir("/proc")):
+        try:
+            if os.readlink(f"/proc/{name}/exe") == str(program):
+                found.append(int(name))
+        except OSError:
+            # It ended meanwhile, or belongs to somebody else.
+            continue
+    return found
+
+
+def test_its_starter_hears_that_it_goes_on(copy, ready):
+    ready(COMES_UP)
+    assert copy.relaunch(NEW)
+
+
+def test_without_anybody_who_waits_for_it_nothing_happens(copy, ready):
+    ready(COMES_UP)
+    reader, writer = os.pipe()
+    os.close(reader)
+    copy.run("relaunch", f"--version={NEW}", f"--process={2**22 - 1}", f"--tell={writer}",
+             descriptors=[writer])
+    os.close(writer)
+    assert copy.status == 1
+    assert copy.version() == OLD
+    assert not copy.log.exists()
+
+
+def test_a_closed_log_is_no_hindrance(copy, ready):
+    ready("exit 1")
+    reader, writer = os.pipe()
+    os.close(reader)
+    subprocess.run(
+        [copy.tree / "bin/vantle-updater", "relaunch", f"--version={NEW}",
+         f"--process={2**22 - 1}", "--tell=1"],
+        env={**os.environ, "VANTLE_TEST_LOG": str(copy.log)}, stdout=subprocess.PIPE,
+        stderr=writer, timeout=60, check=False,
+    )
+    os.close(writer)
+    assert copy.version() == OLD
+    assert log(copy).startswith("old rolled-back")
 
 
 def has_handle_of_process(process):
@@ -111,8 +158,8 @@ def test_nothing_happens_before_the_old_one_has_ended(copy, ready):
     running = subprocess.Popen(["sleep", "600"])
     waiting = subprocess.Popen(
         [copy.tree / "bin/vantle-updater", "relaunch", f"--version={NEW}",
-         f"--process={running.pid}"],
-        env={**os.environ, "VANTLE_TEST_LOG": str(copy.log)},
+         f"--process={running.pid}", "--tell=1"],
+        env={**os.environ, "VANTLE_TEST_LOG": str(copy.log)}, stdout=subprocess.DEVNULL,
     )
     # It has the handle by which it waits.
     while not has_handle_of_process(waiting):
@@ -138,4 +185,4 @@ def test_without_a_prepared_version_the_old_one_starts_again(copy, ready):
     subprocess.run(["rm", "-r", copy.staging / "next"], check=True)
     relaunch(copy)
     assert copy.version() == OLD
-    assert "old rolled-back\t1.1\tThe update could not be put in place: " in log(copy)
+    assert "old rolled-back\t\tThe update could not be put in place: " in log(copy)

@@ -45,7 +45,7 @@ inline std::vector<std::pair<std::string, UpdateState>> updateStates() {
         {"installing-package", {.stage = Stage::installing, .item = package}},
         {"up-to-date", {.stage = Stage::upToDate, .message = "Vantle 1.0 is the newest version."}},
         {"check-failed",
-         {.stage = Stage::failed,
+         {.stage = Stage::checkFailed,
           .message = "The signature of the update feed is wrong, so the feed was refused.",
           .page = "https://vantle.example/download"}},
         {"update-failed",

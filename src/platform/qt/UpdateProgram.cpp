@@ -1,15 +1,25 @@
 #include "platform/qt/UpdateProgram.h"
 
 #include <fcntl.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
+#include <cerrno>
 #include <utility>
+
+#include "support/SystemFailure.h"
+#include "updates/RelaunchEnvironment.h"
 
 namespace vantle {
 namespace {
 
 // Longer than any report: the notes are the longest part.
 constexpr qsizetype longestLine = 1024 * 1024;
+
+constexpr int patience = 10'000;  // milliseconds, with a program that starts
 
 QString option(const char* name, const std::string& value) {
     return QStringLiteral("--%1=%2").arg(QLatin1String(name), QString::fromStdString(value));
@@ -22,6 +32,12 @@ QByteArray taken(const char* variable) {
     return value;
 }
 
+/// Somebody may have set the variable for another process.
+bool isSocket(int descriptor) {
+    struct stat status {};
+    return fstat(descriptor, &status) == 0 && S_ISSOCK(status.st_mode);
+}
+
 bool isLast(const UpdateReport& report) {
     return !std::holds_alternative<report::FeedLoaded>(report) &&
            !std::holds_alternative<report::Progress>(report) &&
@@ -32,20 +48,23 @@ bool isLast(const UpdateReport& report) {
 
 UpdateProgram::UpdateProgram(QString program) : program_(std::move(program)) {
     bool isNumber = false;
-    const int descriptor = taken("VANTLE_UPDATE_READY").toInt(&isNumber);
-    if (isNumber && descriptor > STDERR_FILENO && fcntl(descriptor, F_SETFD, FD_CLOEXEC) == 0)
+    const int descriptor = taken(relaunch::readyVariable).toInt(&isNumber);
+    if (isNumber && isSocket(descriptor) && fcntl(descriptor, F_SETFD, FD_CLOEXEC) == 0)
         ready_ = FileDescriptor(descriptor);
-    const auto outcome = reportFrom(taken("VANTLE_UPDATE_OUTCOME").toStdString());
+    const auto outcome = reportFrom(taken(relaunch::outcomeVariable).toStdString());
     if (outcome)
         if (const auto* back = std::get_if<report::RolledBack>(&*outcome)) rolledBack_ = *back;
 }
 
 UpdateProgram::~UpdateProgram() {
     cancel();
+    // Who ends in order has come up.
+    if (ready_) confirmStart();
 }
 
 void UpdateProgram::confirmStart() {
-    [[maybe_unused]] const auto written = write(ready_.get(), "r", 1);
+    // Whoever waited may have gone; then nobody takes this copy back either.
+    send(ready_.get(), "r", 1, MSG_NOSIGNAL);
     ready_.reset();
 }
 
@@ -75,13 +94,25 @@ void UpdateProgram::cancel() {
 }
 
 Outcome UpdateProgram::relaunch(const UpdateItem& item) {
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) return systemFailure(errno);
+    const FileDescriptor answer(ends[0]);
+    FileDescriptor tell(ends[1]);
+    fcntl(tell.get(), F_SETFD, 0);
     QProcess starter;
     starter.setProgram(program_);
     starter.setArguments({QStringLiteral("relaunch"), option("version", item.version),
-                          option("process", std::to_string(getpid()))});
+                          option("process", std::to_string(getpid())),
+                          option("tell", std::to_string(tell.get()))});
     starter.setStandardInputFile(QProcess::nullDevice());
-    if (starter.startDetached()) return {};
-    return Failure{0, starter.errorString().toStdString(), program_.toStdString()};
+    if (!starter.startDetached())
+        return Failure{0, starter.errorString().toStdString(), program_.toStdString()};
+    tell.reset();
+    // This copy must not end before it is sure that another one begins.
+    pollfd waiting{answer.get(), POLLIN, 0};
+    char byte = 0;
+    if (poll(&waiting, 1, patience) == 1 && ::read(answer.get(), &byte, 1) == 1) return {};
+    return Failure{ETIME, "The program that does updates does not answer.", program_.toStdString()};
 }
 
 void UpdateProgram::start(const QStringList& arguments, OnReport onReport) {

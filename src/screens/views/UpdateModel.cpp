@@ -38,9 +38,10 @@ QString UpdateModel::headline() const {
             return tr("Installing Vantle %1…").arg(name);
         case Stage::upToDate:
             return tr("Vantle is up to date");
+        case Stage::checkFailed:
+            return tr("Updates could not be checked");
         case Stage::failed:
-            return state_.item.version.empty() ? tr("Updates could not be checked")
-                                               : tr("Vantle could not be updated");
+            return tr("Vantle could not be updated");
         case Stage::closed:
             break;
     }
@@ -101,7 +102,7 @@ double UpdateModel::progress() const {
 QString UpdateModel::defaultTitle() const {
     if (state_.stage == Stage::found)
         return isPage() ? tr("Open Download Page") : tr("Install and Relaunch");
-    if (state_.stage == Stage::failed && !state_.page.empty()) return tr("Open Download Page");
+    if (isWarning() && !state_.page.empty()) return tr("Open Download Page");
     return isBusy() ? QString() : tr("OK");
 }
 
@@ -112,6 +113,7 @@ QString UpdateModel::closeTitle() const {
         case Stage::checking:
         case Stage::downloading:
             return tr("Cancel");
+        case Stage::checkFailed:
         case Stage::failed:
             return state_.page.empty() ? QString() : tr("Close");
         default:

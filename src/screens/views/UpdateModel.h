@@ -42,7 +42,10 @@ public:
     QString notes() const;
     QString plainNotes() const;
     QString symbol() const;
-    bool isWarning() const { return state_.stage == UpdateState::Stage::failed; }
+    bool isWarning() const {
+        return state_.stage == UpdateState::Stage::checkFailed ||
+               state_.stage == UpdateState::Stage::failed;
+    }
     bool isBusy() const;
     double progress() const;
     QString defaultTitle() const;
