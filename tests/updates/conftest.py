@@ -19,7 +19,7 @@ def key():
     return Path(os.environ["VANTLE_UPDATE_KEY_FILE"])
 
 
-@pytest.fixture(scope="session")
+@pytest.fixture(scope="module")
 def running_server(tmp_path_factory):
     server = Server(tmp_path_factory.mktemp("server"))
     yield server
