@@ -13,7 +13,8 @@ namespace vantle {
 enum class End { killed, done };
 
 /// Runs `work` in a process of its own, lets that make `stops` stops at system calls, two for each,
-/// and kills it at the last. `work` gives whether it succeeded; where it comes to its end it has to.
+/// and kills it at the last. `work` gives whether it succeeded; where it comes to its end it has
+/// to.
 inline End runAndKill(const std::function<bool()>& work, int stops) {
     const pid_t child = fork();
     if (child == 0) {

@@ -130,7 +130,8 @@ TEST_F(AppDelegateTest, FinishingOnboardingStartsWatching) {
     defaults->stored["hasCompletedOnboarding"] = false;
     launch();
     finishOnboarding();
-    EXPECT_EQ(events.back(), "onboarding closed");
+    EXPECT_THAT(Events(events.end() - 2, events.end()),
+                ElementsAre("onboarding closed", "onboarding gone"));
     EXPECT_TRUE(delegate->watcher().isWatching());
     EXPECT_EQ(defaults->stored["hasCompletedOnboarding"], PreferenceValue(true));
 }

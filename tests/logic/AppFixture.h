@@ -21,6 +21,7 @@
 #include "fakes/FakeStatusItem.h"
 #include "fakes/FakeTrash.h"
 #include "fakes/FakeUserDefaults.h"
+#include "fakes/FakeWindow.h"
 #include "fakes/VirtualTime.h"
 
 namespace vantle {
@@ -48,26 +49,6 @@ public:
 
 private:
     Events& events_;
-};
-
-class RecordingWindow final : public Window {
-public:
-    RecordingWindow(Events& events, std::vector<Size>& sizes, std::string name)
-        : events_(events), sizes_(sizes), name_(std::move(name)) {
-        events_.push_back(name_ + " made");
-    }
-    void makeKeyAndOrderFront() override { events_.push_back(name_ + " to front"); }
-    void orderFront() override { events_.push_back(name_ + " shown"); }
-    void close() override { events_.push_back(name_ + " closed"); }
-    void setContentSize(Size size) override { sizes_.push_back(size); }
-    std::optional<std::string> snapshot(double scale) override {
-        return name_ + " at " + std::to_string(static_cast<int>(scale));
-    }
-
-private:
-    Events& events_;
-    std::vector<Size>& sizes_;
-    std::string name_;
 };
 
 /// The program on fakes and virtual time.
@@ -160,7 +141,8 @@ protected:
 
     void offerWindows() {
         const auto make = [this](const char* name) {
-            return std::make_unique<RecordingWindow>(events, windowSizes, name);
+            return std::make_unique<fakes::FakeWindow>(
+                fakes::FakeWindow::Record{events, windowSizes}, name);
         };
         views.makeSettingsWindow = [make](Settings&) { return make("settings"); };
         views.makeOnboardingWindow = [this, make](Settings&, std::function<void()> finish) {

@@ -9,6 +9,7 @@
 #include "fakes/FakeFileOpener.h"
 #include "fakes/FakeUpdateEngine.h"
 #include "fakes/FakeUserDefaults.h"
+#include "fakes/FakeWindow.h"
 #include "fakes/VirtualTime.h"
 #include "updates/UpdateFlow.h"
 
@@ -29,34 +30,22 @@ const UpdateItem item{.version = "12",
                       .signature = "signature",
                       .installation = UpdateItem::Installation::tree};
 
-/// What a window was told.
-class ToldWindow final : public Window {
-public:
-    explicit ToldWindow(std::vector<std::string>& told) : told_(told) { told_.push_back("made"); }
-    ~ToldWindow() override { told_.push_back("gone"); }
-    void makeKeyAndOrderFront() override { told_.push_back("key"); }
-    void orderFront() override { told_.push_back("shown"); }
-    void close() override { told_.push_back("closed"); }
-    void setContentSize(Size) override {}
-    std::optional<std::string> snapshot(double) override { return std::nullopt; }
-
-private:
-    std::vector<std::string>& told_;
-};
-
 class UpdateFlowTest : public testing::Test {
 protected:
     UpdateFlow& make() {
-        flow = std::make_unique<UpdateFlow>(UpdateFlow::Context{
-            .scheduler = scheduler,
-            .clock = clock,
-            .defaults = defaults,
-            .application = application,
-            .opener = opener,
-            .observer = observer,
-            .engine = std::make_unique<fakes::FakeUpdateEngine>(engine),
-            .version = "1.0",
-            .makeWindow = [this](UpdateFlow&) { return std::make_unique<ToldWindow>(window); }});
+        flow = std::make_unique<UpdateFlow>(
+            UpdateFlow::Context{.scheduler = scheduler,
+                                .clock = clock,
+                                .defaults = defaults,
+                                .application = application,
+                                .opener = opener,
+                                .observer = observer,
+                                .engine = std::make_unique<fakes::FakeUpdateEngine>(engine),
+                                .version = "1.0",
+                                .makeWindow = [this](UpdateFlow&) {
+                                    return std::make_unique<fakes::FakeWindow>(
+                                        fakes::FakeWindow::Record{window, sizes}, "update");
+                                }});
         return *flow;
     }
     /// As in the second launch: a check is due a minute later.
@@ -87,6 +76,7 @@ protected:
     }};
     fakes::FakeUpdateEngine::Record engine;
     std::vector<std::string> window;
+    std::vector<Size> sizes;
     CapturedLog log{CapturedLog::DebugSwitch::on};
     std::unique_ptr<UpdateFlow> flow;
 };
@@ -149,7 +139,7 @@ TEST_F(UpdateFlowTest, WithoutTheDebugSwitchNothingIsLogged) {
 TEST_F(UpdateFlowTest, ACheckOfTheUsersIsSeenFromTheFirstMoment) {
     make().checkForUpdates();
     EXPECT_EQ(stage(), Stage::checking);
-    EXPECT_THAT(window, ElementsAre("made", "key"));
+    EXPECT_THAT(window, ElementsAre("update made", "update to front"));
     report(report::NothingFound{"newest"});
     EXPECT_EQ(stage(), Stage::upToDate);
     EXPECT_EQ(flow->state.value().message, "newest");
@@ -160,7 +150,7 @@ TEST_F(UpdateFlowTest, AskingAgainBringsTheWindowForward) {
     flow->checkForUpdates();
     EXPECT_EQ(engine.checks.size(), 1u);
     EXPECT_EQ(stage(), Stage::found);
-    EXPECT_THAT(window, ElementsAre("made", "key", "key"));
+    EXPECT_THAT(window, ElementsAre("update made", "update to front", "update to front"));
 }
 
 TEST_F(UpdateFlowTest, AnOutcomeMakesRoomForTheNextCheck) {
@@ -175,9 +165,10 @@ TEST_F(UpdateFlowTest, AClosedWindowGoes) {
     make().checkForUpdates();
     report(report::NothingFound{"newest"});
     flow->close();
-    EXPECT_THAT(window, ElementsAre("made", "key", "closed"));
+    EXPECT_THAT(window, ElementsAre("update made", "update to front", "update closed"));
     time.settle();
-    EXPECT_THAT(window, ElementsAre("made", "key", "closed", "gone"));
+    EXPECT_THAT(window,
+                ElementsAre("update made", "update to front", "update closed", "update gone"));
 }
 
 TEST_F(UpdateFlowTest, AWindowThatIsWantedAgainAtOnceStays) {
@@ -186,7 +177,8 @@ TEST_F(UpdateFlowTest, AWindowThatIsWantedAgainAtOnceStays) {
     flow->close();
     flow->checkForUpdates();
     time.settle();
-    EXPECT_THAT(window, ElementsAre("made", "key", "closed", "key"));
+    EXPECT_THAT(window,
+                ElementsAre("update made", "update to front", "update closed", "update to front"));
 }
 
 TEST_F(UpdateFlowTest, ClosingEndsACheck) {
@@ -216,7 +208,7 @@ TEST_F(UpdateFlowTest, WhatTheScheduleFindsIsShownWithoutTakingTheKeyboard) {
     time.advance(Seconds(60));
     report(report::UpdateFound{item});
     EXPECT_EQ(stage(), Stage::found);
-    EXPECT_THAT(window, ElementsAre("made", "shown"));
+    EXPECT_THAT(window, ElementsAre("update made", "update shown"));
 }
 
 TEST_F(UpdateFlowTest, ASkippedVersionIsNotOfferedByTheSchedule) {
@@ -408,7 +400,7 @@ TEST_F(UpdateFlowTest, AVersionThatWasTakenBackIsToldAndNotOfferedAgainByItself)
     time.settle();
     EXPECT_EQ(stage(), Stage::failed);
     EXPECT_EQ(flow->state.value().message, "It crashed.");
-    EXPECT_THAT(window, ElementsAre("made", "shown"));
+    EXPECT_THAT(window, ElementsAre("update made", "update shown"));
     EXPECT_EQ(defaults.text("skippedUpdate"), "12");
 }
 

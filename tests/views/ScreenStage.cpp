@@ -18,15 +18,6 @@ QString accessibleName(const QQuickItem& item) {
     return interface ? interface->text(QAccessible::Name) : QString();
 }
 
-class NoWindow final : public Window {
-public:
-    void makeKeyAndOrderFront() override {}
-    void orderFront() override {}
-    void close() override {}
-    void setContentSize(Size) override {}
-    std::optional<std::string> snapshot(double) override { return std::nullopt; }
-};
-
 bool isControl(const QQuickItem& item) {
     return item.activeFocusOnTab() || item.inherits("QQuickControl");
 }
@@ -82,17 +73,20 @@ void ScreenStage::openOnboarding(int step, Size size) {
 
 void ScreenStage::openUpdate(const UpdateState& state) {
     close();
-    flow = std::make_unique<UpdateFlow>(UpdateFlow::Context{
-        .scheduler = *platform.scheduler,
-        .clock = clock,
-        .defaults = *defaults,
-        .application = *application,
-        .opener = opener,
-        .observer = updaterDelegate_,
-        .engine = std::make_unique<fakes::FakeUpdateEngine>(updates),
-        .version = "1.0",
-        // The one that is looked at is made here.
-        .makeWindow = [](UpdateFlow&) { return std::make_unique<NoWindow>(); }});
+    flow = std::make_unique<UpdateFlow>(
+        UpdateFlow::Context{.scheduler = *platform.scheduler,
+                            .clock = clock,
+                            .defaults = *defaults,
+                            .application = *application,
+                            .opener = opener,
+                            .observer = updaterDelegate_,
+                            .engine = std::make_unique<fakes::FakeUpdateEngine>(updates),
+                            .version = "1.0",
+                            // The one that is looked at is made here.
+                            .makeWindow = [this](UpdateFlow&) {
+                                return std::make_unique<fakes::FakeWindow>(
+                                    fakes::FakeWindow::Record{windowEvents, windowSizes}, "update");
+                            }});
     flow->state.set(state);
     auto window = std::make_unique<UpdateWindow>(*flow);
     const QSize size = window->size();

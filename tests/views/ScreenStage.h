@@ -18,6 +18,7 @@
 #include "fakes/FakeProcessLauncher.h"
 #include "fakes/FakeUpdateEngine.h"
 #include "fakes/FakeUserDefaults.h"
+#include "fakes/FakeWindow.h"
 #include "fakes/VirtualTime.h"
 #include "screens/views/OnboardingWindow.h"
 #include "screens/views/SettingsWindow.h"
@@ -72,6 +73,8 @@ public:
     std::unique_ptr<Settings> settings;
     fakes::FakeFileOpener opener;
     fakes::FakeUpdateEngine::Record updates;
+    std::vector<std::string> windowEvents;
+    std::vector<Size> windowSizes;
     std::unique_ptr<UpdateFlow> flow;
     std::map<std::string, std::string> environment;
     int finished = 0;
