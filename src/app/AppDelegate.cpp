@@ -212,7 +212,8 @@ void AppDelegate::checkForUpdates() {
 }
 
 Updater* AppDelegate::updater() {
-    if (!updater_ && platform_.makeUpdater) updater_ = platform_.makeUpdater(platform_, updaterDelegate_);
+    if (!updater_ && platform_.makeUpdater)
+        updater_ = platform_.makeUpdater(platform_, updaterDelegate_);
     return updater_.get();
 }
 

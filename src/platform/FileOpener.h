@@ -7,8 +7,9 @@
 
 namespace vantle {
 
-/// Hands files, and pages of the web, to other programs. Nothing waits for those, and what they make of a file that has
-/// gone is theirs; that nobody could be asked at all is logged. Main thread only.
+/// Hands files, and pages of the web, to other programs. Nothing waits for those, and what they
+/// make of a file that has gone is theirs; that nobody could be asked at all is logged. Main thread
+/// only.
 class FileOpener {
 public:
     virtual ~FileOpener() = default;

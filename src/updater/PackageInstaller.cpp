@@ -3,7 +3,6 @@
 #include <systemd/sd-bus.h>
 
 #include <cerrno>
-#include <memory>
 #include <string>
 
 #include "support/SystemFailure.h"
@@ -83,7 +82,8 @@ public:
         Transaction transaction;
         listen(path, "Finished", finished, transaction);
         listen(path, "ErrorCode", failed, transaction);
-        sd_bus_add_match(bus_, nullptr, ownerRule, ownerChanged, &transaction);
+        if (result_ >= 0)
+            result_ = sd_bus_add_match(bus_, nullptr, ownerRule, ownerChanged, &transaction);
         // That it may ask the user.
         call(path, "SetHints", "as", 1, "interactive=true");
         // A file of ours is not signed by the distribution: no flag that it must be.

@@ -3,8 +3,6 @@
 #include <gnu/libc-version.h>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdlib>
 #include <iostream>
 #include <system_error>
 

@@ -36,7 +36,8 @@ public:
     virtual void cancel() = 0;
 
     /// Has what was prepared put in place and started as soon as this process has ended, which is
-    /// up to the caller. Fails where that could not even begin.
+    /// up to the caller. Fails where it is not sure that this goes on; finding that out takes ten
+    /// seconds at most.
     virtual Outcome relaunch(const UpdateItem& item) = 0;
 
     /// What became of the relaunch that this process comes from, where that is to be told.

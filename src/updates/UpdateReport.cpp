@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <concepts>
 #include <utility>
 #include <vector>
 
