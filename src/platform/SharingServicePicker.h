@@ -29,9 +29,9 @@ class SharingServicePicker {
 public:
     virtual ~SharingServicePicker() = default;
 
-    /// Opens the menu below `anchor` (in screen coordinates, as Screens has them), or above it where
-    /// there is no room. A menu that is still open closes without a choice. The delegate is never
-    /// called inside this.
+    /// Opens the menu below `anchor` (in screen coordinates, as Screens has them), or above it
+    /// where there is no room. A menu that is still open closes without a choice. The delegate is
+    /// never called inside this.
     virtual void show(const std::vector<Url>& items, const Rect& anchor,
                       std::weak_ptr<SharingServicePickerDelegate> delegate) = 0;
 };

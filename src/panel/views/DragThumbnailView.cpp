@@ -6,8 +6,8 @@
 #include <QQuickWindow>
 #include <algorithm>
 
-#include "platform/qt/Pixels.h"
 #include "platform/qt/FileIcon.h"
+#include "platform/qt/Pixels.h"
 #include "support/Debug.h"
 
 namespace vantle {

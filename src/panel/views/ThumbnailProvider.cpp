@@ -3,8 +3,8 @@
 #include <QPainter>
 #include <QStringList>
 
-#include "platform/qt/Pixels.h"
 #include "panel/views/RoundedShape.h"
+#include "platform/qt/Pixels.h"
 
 namespace vantle {
 namespace {

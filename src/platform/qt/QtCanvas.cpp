@@ -16,7 +16,7 @@
 namespace vantle {
 namespace {
 
-constexpr int quickCompression = 30;  // of 100; gradients get hardly smaller with more
+constexpr int quickCompression = 30;          // of 100; gradients get hardly smaller with more
 constexpr double dotsPerMeter = 72 / 0.0254;  // of a picture that has a pixel per point
 
 QPointF point(const Point& at) {
