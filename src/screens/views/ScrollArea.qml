@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Templates as T
-import Vantle.Panel
 
 // Content that scrolls when it is higher than the room for it. What has the keyboard is seen.
 Flickable {
