@@ -149,7 +149,8 @@ class Figures:
     def _fill(self):
         while self._saved < 40:
             self._save(COLOURS[self._saved % len(COLOURS)])
-        wait_until(lambda: self._vantle.shown_counts()[-1:] == [40], "40 tiles are shown", limit=120)
+        wait_until(lambda: self._vantle.shown_counts()[-1:] == [40], "40 tiles are shown",
+                   limit=120)
 
 
 def milliseconds(seconds):

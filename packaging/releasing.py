@@ -1,4 +1,4 @@
-"""Makes what an update consists of: the archive of a release, its signature, its place in the feed."""
+"""Makes what an update consists of: a release's archive, its signature, its place in the feed."""
 
 import base64
 import datetime
@@ -66,7 +66,8 @@ def pack(tree, archive, date=0, effort=19):
     """The same bytes for the same tree. `tree` is a folder called "vantle"."""
     tree = Path(tree)
     subprocess.run(
-        ["tar", "--create", "--file", str(archive), f"--use-compress-program=zstd -{effort} --quiet",
+        ["tar", "--create", "--file", str(archive),
+         f"--use-compress-program=zstd -{effort} --quiet",
          "--format=ustar", "--sort=name", f"--mtime=@{date}", "--owner=0", "--group=0",
          "--numeric-owner", "--mode=u+rwX,go+rX,go-w", "-C", str(tree.parent), tree.name],
         check=True,

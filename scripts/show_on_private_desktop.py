@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Starts Vantle on a private desktop, takes a screenshot there, and writes what the screen shows."""
+"""Starts Vantle on a private desktop, takes a screenshot there, and writes what is to be seen."""
 
 import argparse
 import pathlib

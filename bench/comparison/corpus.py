@@ -31,7 +31,8 @@ def write_page(draw, box, scale, random_numbers, dark):
     while y < bottom - 20 * scale:
         colour = tuple(random_numbers.randrange(110, 250) if dark else
                        random_numbers.randrange(0, 110) for _ in range(3))
-        line = " ".join(random_numbers.choice(WORDS) for _ in range(random_numbers.randrange(3, 14)))
+        length = random_numbers.randrange(3, 14)
+        line = " ".join(random_numbers.choice(WORDS) for _ in range(length))
         indent = random_numbers.randrange(4) * 24 * scale
         draw.text((left + 14 * scale + indent, y), line, font=font, fill=colour)
         y += 19 * scale

@@ -127,7 +127,8 @@ class PrivateDesktop:
         try:
             process = processes.start(arguments, self.environment, log, **options)
         except FileNotFoundError as error:
-            raise DesktopFailure(f"{arguments[0]} is not installed (see scripts/packages)") from error
+            raise DesktopFailure(
+                f"{arguments[0]} is not installed (see scripts/packages)") from error
         self._processes.append(process)
         return process
 
@@ -184,7 +185,8 @@ class PrivateDesktop:
 
     def _start_bus(self):
         address = "unix:path=" + self.environment["XDG_RUNTIME_DIR"] + "/bus"
-        bus = self._bus = self.start("dbus-daemon", "--session", "--nofork", "--nopidfile", "--address", address)
+        bus = self._bus = self.start("dbus-daemon", "--session", "--nofork", "--nopidfile",
+                                     "--address", address)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
         socket = pathlib.Path(self.environment["XDG_RUNTIME_DIR"], "bus")
         self._require(socket.exists, "the session bus listens", bus)

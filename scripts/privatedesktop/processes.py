@@ -58,8 +58,9 @@ def marked(variable, value):
 
 
 def running(program, home):
-    """The numbers of the processes that are that program, on the desktop with that home directory."""
-    return [number for number in marked("HOME", home) if _executable(number) == os.path.realpath(program)]
+    """The numbers of the processes that are that program, on the desktop with that home."""
+    path = os.path.realpath(program)
+    return [number for number in marked("HOME", home) if _executable(number) == path]
 
 
 def end_marked(variable, value, limit=3.0):

@@ -116,7 +116,8 @@ class Program:
 
     def shown_counts(self):
         """How many captures the panel held after each one that was added."""
-        found = re.findall(r"^Vantle\[dbg\]: panel shows (\d+) capture", self.log_text(), re.MULTILINE)
+        shows = r"^Vantle\[dbg\]: panel shows (\d+) capture"
+        found = re.findall(shows, self.log_text(), re.MULTILINE)
         return [int(number) for number in found]
 
     def voluntary_switches(self):

@@ -24,7 +24,9 @@ def _sky(width, height):
     for y in range(height):
         part = y / height
         colour = (
-            _blend(_SKY[2], _SKY[1], part * 2) if part < 0.5 else _blend(_SKY[1], _SKY[0], part * 2 - 1)
+            _blend(_SKY[2], _SKY[1], part * 2)
+            if part < 0.5
+            else _blend(_SKY[1], _SKY[0], part * 2 - 1)
         )
         column.putpixel((0, y), colour)
     return column.resize((width, height))
@@ -72,7 +74,8 @@ def show_scene(desktop):
     desktop.keep(connection)
     wait_until(
         lambda: window.id in desktop.screen.client_list()
-        and desktop.screen.screenshot().getpixel((x + _SIZE[0] // 2, y + _SIZE[1])) == _HILLS[-1][0],
+        and desktop.screen.screenshot().getpixel((x + _SIZE[0] // 2, y + _SIZE[1]))
+        == _HILLS[-1][0],
         "a window stands on the private desktop",
     )
 

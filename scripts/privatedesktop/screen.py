@@ -118,7 +118,8 @@ class Screen:
     def __init__(self, name):
         self._display = display.Display(name)
         self._root = self._display.screen().root
-        self.size = (self._display.screen().width_in_pixels, self._display.screen().height_in_pixels)
+        screen = self._display.screen()
+        self.size = (screen.width_in_pixels, screen.height_in_pixels)
         self.pointer = Pointer(self._display)
         self.keyboard = Keyboard(self._display)
 

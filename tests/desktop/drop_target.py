@@ -75,7 +75,8 @@ class DropTarget:
             self._answer("XdndFinished", 0)
         else:
             self._window.convert_selection(
-                self._atom("XdndSelection"), self._atom(self._wanted), self._atom("DROPPED"), data[2]
+                self._atom("XdndSelection"), self._atom(self._wanted), self._atom("DROPPED"),
+                data[2],
             )
             self._display.sync()
 

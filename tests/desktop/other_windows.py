@@ -30,8 +30,10 @@ class OtherWindow:
         self._window.map()
         self._display.sync()
         wait_until(lambda: self.number in self._screen.client_list(), "the other window is managed")
-        wait_until(lambda: self._screen.active_window() == self.number, "the other window is active")
-        wait_until(lambda: self._screen.focused_window() == self.number, "the other window has the focus")
+        wait_until(lambda: self._screen.active_window() == self.number,
+                   "the other window is active")
+        wait_until(lambda: self._screen.focused_window() == self.number,
+                   "the other window has the focus")
 
     def paint_stripes(self, width=12, colours=(0x1E285A, 0xF0C850)):
         """Fills it with upright stripes."""

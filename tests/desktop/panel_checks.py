@@ -55,7 +55,7 @@ def wait_for_card(desktop, panel):
 
 
 def show_several(desktop, folder, count):
-    """Takes so many screenshots in a row; returns the card that shows them, once it stands still."""
+    """Takes so many screenshots in a row; returns the card that shows them, once it stands."""
     for number in range(1, count + 1):
         folder.save(f"{number}.png", encoded(pattern()))
         folder.wait_for(f"{number}.png")

@@ -24,7 +24,8 @@ def mask_of(image, colour, tolerance=45):
     """White where the picture has that colour."""
     mask = None
     for channel, wanted in zip(image.split(), colour):
-        near = channel.point([255 if abs(value - wanted) <= tolerance else 0 for value in range(256)])
+        near = channel.point(
+            [255 if abs(value - wanted) <= tolerance else 0 for value in range(256)])
         mask = near if mask is None else ImageChops.multiply(mask, near)
     return mask
 

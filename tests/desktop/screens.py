@@ -45,7 +45,7 @@ class Screens:
         return self._desktop.screen.screenshot().tobytes()
 
     def _scroll_to(self, name):
-        """Turns the wheel until the control is in the middle of its window, or as near as it gets."""
+        """Turns the wheel until the control is in its window's middle, or as near as can be."""
         windows = self._desktop.screen.dialogs()
         if not windows or self._desktop.screen.menu():
             return

@@ -42,7 +42,8 @@ def test_one_screenshot_is_offered_as_picture_and_as_file(desktop, vantle, folde
     for kind in ("image/jpeg", "image/bmp"):
         picture = Image.open(io.BytesIO(paste(desktop, kind)))
         assert picture.size == pattern().size
-        assert all(abs(a - b) < 9 for a, b in zip(picture.getpixel((30, 30)), pattern().getpixel((30, 30))))
+        pixels = zip(picture.getpixel((30, 30)), pattern().getpixel((30, 30)))
+        assert all(abs(a - b) < 9 for a, b in pixels)
     assert paste(desktop, "text/uri-list").decode() == file.as_uri() + "\r\n"
     assert paste(desktop, "x-special/gnome-copied-files").decode() == "copy\n" + file.as_uri()
     assert paste(desktop, "x-special/mate-copied-files").decode() == "copy\n" + file.as_uri()
@@ -135,7 +136,7 @@ def test_pasted_into_an_image_editor_it_is_a_picture(desktop, vantle, folder, ca
 
 
 def paste_into_editor(desktop):
-    """Whether it is pasted. An editor that is still busy loses keys: then the menu is asked again."""
+    """Whether it is pasted. An editor that is still busy loses keys: the menu is asked again."""
     keyboard = desktop.screen.keyboard
     # Edit, Import Clipboard from System.
     keyboard.hold("Alt_L")
@@ -147,7 +148,8 @@ def paste_into_editor(desktop):
             keyboard.press("Down")
         keyboard.press("Return")
         canvas = Rectangle(280, 150, 300, 240)
-        wait_until(lambda: has_all_quarters(desktop.screen.screenshot(canvas)), "it is there", limit=5)
+        wait_until(lambda: has_all_quarters(desktop.screen.screenshot(canvas)), "it is there",
+                   limit=5)
     except WaitTimeout:
         keyboard.press("Escape")
         return False

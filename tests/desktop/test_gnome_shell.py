@@ -25,7 +25,8 @@ def make_vantle(desktop, binary):
     def make(language):
         compile_locale(desktop, language)
         environment = {
-            **ENVIRONMENT, "LANG": language, "LC_ALL": None, "LOCPATH": str(desktop.home / "locale"),
+            **ENVIRONMENT, "LANG": language, "LC_ALL": None,
+            "LOCPATH": str(desktop.home / "locale"),
         }  # fmt: skip
         program = Program(binary, desktop, environment=environment, name=f"vantle-{language}")
         program.write_settings(screenshotTool=None)

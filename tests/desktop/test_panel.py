@@ -78,7 +78,8 @@ def test_transparent_beside_the_card(desktop, vantle, folder):
     vantle.start_watching()
     panel = show_one(desktop, folder)
     card = wait_for_card(desktop, panel)
-    beside = Rectangle(panel.frame.x, panel.frame.y, card.x - 60 - panel.frame.x, panel.frame.height)
+    frame = panel.frame
+    beside = Rectangle(frame.x, frame.y, card.x - 60 - frame.x, frame.height)
     picture = desktop.screen.screenshot(beside)
     assert mask_of(picture, NEUTRAL, tolerance=2).getextrema() == (255, 255)
 
@@ -90,7 +91,8 @@ def test_no_black_rectangle_without_a_compositor(desktop, vantle, folder):
     panel = show_one(desktop, folder)
     card = wait_for_card(desktop, panel)
     screen = desktop.screen.screenshot()
-    beside = Rectangle(panel.frame.x, panel.frame.y, card.x - 20 - panel.frame.x, panel.frame.height)
+    frame = panel.frame
+    beside = Rectangle(frame.x, frame.y, card.x - 20 - frame.x, frame.height)
     above = Rectangle(card.x, panel.frame.y, card.width, card.y - 20 - panel.frame.y)
     for area in (beside, above):
         picture = screen.crop(area.box)

@@ -93,7 +93,8 @@ def test_growing_file_waits_for_its_end(desktop, vantle, folder):
     picture = folder.path / "slow.png"
     vantle.start_watching()
     writer = desktop.start(
-        "sh", "-c", 'for i in 1 2 3 4 5 6 7 8 9 10; do head -c 500 /dev/zero; sleep 0.1; done >"$0"',
+        "sh", "-c",
+        'for i in 1 2 3 4 5 6 7 8 9 10; do head -c 500 /dev/zero; sleep 0.1; done >"$0"',
         str(picture),
     )  # fmt: skip
     while writer.poll() is None:

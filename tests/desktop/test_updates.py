@@ -192,7 +192,8 @@ def test_a_download_can_be_cancelled(desktop, vantle, tree, screens, server, pub
     assert version_of(vantle) == before
 
 
-def test_an_updater_that_is_killed_is_told(desktop, vantle, tree, screens, server, publisher, later):
+def test_an_updater_that_is_killed_is_told(desktop, vantle, tree, screens, server, publisher,
+                                           later):
     publisher.publish(later(), LATER, address=server.address("unhurried/archive.tar.zst"))
     start_and_wait_for_offer(desktop, vantle, screens)
     screens.click("Install and Relaunch")

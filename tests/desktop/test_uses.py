@@ -39,7 +39,8 @@ def open_share_menu(desktop, card):
 
 def test_a_click_opens_the_file_with_its_default_application(desktop, vantle, folder):
     applications = desktop.home / ".config"
-    (applications / "mimeapps.list").write_text("[Default Applications]\nimage/png=mtpaint.desktop\n")
+    (applications / "mimeapps.list").write_text(
+        "[Default Applications]\nimage/png=mtpaint.desktop\n")
     vantle.write_settings(removeAfterUse="true")
     vantle.start_watching()
     card = wait_for_card(desktop, show_one(desktop, folder))

@@ -78,7 +78,8 @@ class WebPage:
         self._server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
         threading.Thread(target=self._server.serve_forever, daemon=True).start()
         desktop.start(
-            "chromium", "--no-sandbox", "--test-type", "--no-first-run", "--disable-gpu", "--password-store=basic",
+            "chromium", "--no-sandbox", "--test-type", "--no-first-run", "--disable-gpu",
+            "--password-store=basic",
             "--disable-background-networking", "--disable-component-update",
             f"--user-data-dir={desktop.home / 'browser'}",
             "--window-position=20,60", "--window-size=900,600",

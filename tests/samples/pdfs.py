@@ -32,8 +32,8 @@ def page(text, wide=WIDTH, high=HEIGHT, extra=b""):
 
 
 def fill(color, left, bottom, wide=WIDTH // 2, high=HEIGHT // 2):
-    return b"%g %g %g rg %d %d %d %d re f\n" % (*(part / 255 for part in color), left, bottom,
-                                               wide, high)
+    red, green, blue = (part / 255 for part in color)
+    return b"%g %g %g rg %d %d %d %d re f\n" % (red, green, blue, left, bottom, wide, high)
 
 
 def quarters():

@@ -19,7 +19,9 @@ _INTERFACES = Gio.DBusNodeInfo.new_for_xml("""
   </interface>
   <interface name="org.freedesktop.PackageKit.Transaction">
     <method name="SetHints"><arg type="as" direction="in"/></method>
-    <method name="InstallFiles"><arg type="t" direction="in"/><arg type="as" direction="in"/></method>
+    <method name="InstallFiles">
+      <arg type="t" direction="in"/><arg type="as" direction="in"/>
+    </method>
     <signal name="ErrorCode"><arg type="u"/><arg type="s"/></signal>
     <signal name="Finished"><arg type="u"/><arg type="u"/></signal>
   </interface>

@@ -27,7 +27,7 @@ def compressed(archive):
 
 
 def make_tree(folder, version, programs):
-    """A tree called `folder` with programs by their places: paths of those to copy, or their text."""
+    """A tree called `folder`, with programs by their places: paths of those to copy, or a text."""
     folder = Path(folder)
     for place, program in programs.items():
         target = folder / place

@@ -1,4 +1,4 @@
-"""A copy that was installed as a package: the system's package installer is asked, with the file."""
+"""A copy that was installed as a package: the system's package installer gets the file."""
 
 import hashlib
 import os

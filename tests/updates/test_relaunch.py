@@ -8,7 +8,8 @@ import pytest
 
 from releases import NEW, OLD, make_archive
 
-COMES_UP = 'echo "new $VANTLE_UPDATE_OUTCOME" >> "$VANTLE_TEST_LOG"; eval "echo r >&$VANTLE_UPDATE_READY"'
+COMES_UP = ('echo "new $VANTLE_UPDATE_OUTCOME" >> "$VANTLE_TEST_LOG"; '
+            'eval "echo r >&$VANTLE_UPDATE_READY"')
 OLD_COMES_UP = 'echo "old $VANTLE_UPDATE_OUTCOME" >> "$VANTLE_TEST_LOG"'
 
 
