@@ -1,0 +1,105 @@
+#!/usr/bin/python3
+"""Writes docs/pictures/drag.gif: a capture is taken, arrives, and goes into a chat."""
+
+import time
+
+# First of all: it says where the others are.
+from stage import BINARY, PICTURES, furnish, private_desktop
+
+from hand import Hand
+from hero import CHAT, HEADER, SIZE, WEBSITE, screenshot_name
+from pages import Pages
+from panel_checks import is_dismissed, wait_for_card
+from privatedesktop import Program, processes, wait_until, wait_until_still
+from using import tile_of
+
+FRAMES_PER_SECOND = 25
+REST = (600, 640)
+# What is dragged is above the line that asks for it.
+ABOVE_COMPOSER = (1064, 385)
+
+
+def main():
+    with private_desktop(SIZE, scale=1) as desktop:
+        vantle = Program(BINARY, desktop)
+        vantle.write_settings(removeAfterUse="true")
+        furnish(desktop)
+        vantle.start_watching()
+        with Pages(desktop) as pages:
+            pages.open("cabins", "Alder Cabins", WEBSITE)
+            pages.open("chat", "Website", CHAT)
+            show_and_dismiss_one(desktop, vantle)
+            hand = Hand(desktop, REST)
+            wait_until_still(lambda: desktop.screen.screenshot().tobytes(), "the desktop")
+            recording = desktop.home / "recording.mkv"
+            recorder = start_recorder(desktop, recording)
+            begun = time.monotonic()
+            play(desktop, vantle, pages, hand)
+            seconds = time.monotonic() - begun
+            processes.end(recorder)
+        vantle.stop()
+        write_animation(desktop, recording, seconds)
+
+
+def show_and_dismiss_one(desktop, vantle):
+    """The first card of all takes longer to come: it is the second one that is typical."""
+    desktop.run("scrot", screenshot_name(), cwd=desktop.home / "Desktop")
+    wait_until(desktop.screen.panel, "the panel appears")
+    wait_until_still(lambda: desktop.screen.screenshot().tobytes(), "the card")
+    vantle.command("--dismiss")
+    wait_until(lambda: is_dismissed(desktop), "the card goes")
+
+
+def start_recorder(desktop, path):
+    recorder = desktop.start(
+        "ffmpeg", "-f", "x11grab", "-draw_mouse", "1", "-framerate", str(FRAMES_PER_SECOND),
+        "-video_size", f"{SIZE[0]}x{SIZE[1]}", "-i", desktop.environment["DISPLAY"],
+        "-c:v", "libx264rgb", "-preset", "ultrafast", "-qp", "0", str(path),
+    )  # fmt: skip
+    wait_until(lambda: path.exists() and path.stat().st_size > 0, "the recorder records")
+    return recorder
+
+
+def play(desktop, vantle, pages, hand):
+    time.sleep(0.3)
+    take_capture(desktop, vantle, hand)
+    panel = wait_until(desktop.screen.panel, "the panel appears")
+    wait_until(lambda: desktop.screen.input_areas(panel.number), "the card stands on it")
+    card = wait_for_card(desktop, panel)
+    hand.glide(tile_of(card), 0.8, bend=-0.1)
+    hand.press()
+    hand.glide(ABOVE_COMPOSER, 1.2, bend=0.12)
+    hand.hold_until(lambda: "promised=true" in vantle.log_text(), "the chat would take it")
+    time.sleep(0.3)
+    hand.release()
+    pages.wait_for("shown")
+    wait_until(lambda: is_dismissed(desktop), "the used capture leaves")
+    hand.glide(REST, 0.9, bend=0.1)
+    time.sleep(1.2)
+
+
+def take_capture(desktop, vantle, hand):
+    """Selects the header of the website with a real screenshot tool."""
+    desktop.start(
+        "scrot", "--select", "--line", "mode=edge,width=3,color=white", screenshot_name(),
+        cwd=desktop.home / "Desktop",
+    )  # fmt: skip
+    hand.glide((HEADER.x + 2, HEADER.y + 2), 0.8)
+    hand.press()
+    hand.glide((HEADER.right - 2, HEADER.bottom - 2), 0.9)
+    hand.release()
+    vantle.wait_for_log("captured ", times=2)
+
+
+def write_animation(desktop, recording, seconds):
+    """Of so many seconds of its end: it began before there was something to see."""
+    colours = (
+        "split[all][once];[once]palettegen=stats_mode=full[palette];"
+        "[all][palette]paletteuse=dither=sierra2_4a:diff_mode=rectangle"
+    )
+    desktop.run("ffmpeg", "-y", "-sseof", str(-seconds), "-i", str(recording), "-vf", colours,
+                "-loop", "0", str(PICTURES / "drag.gif"))
+
+
+if __name__ == "__main__":
+    main()
