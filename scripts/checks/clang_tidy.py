@@ -1,0 +1,118 @@
+"""What clang-tidy says about C++, by the checks of .clang-tidy.
+
+One file takes five to twenty seconds, mostly for the headers of Qt and of the tests' framework. So
+usually it looks at the files that changed last: first those that are not committed, then those of
+the newest commits.
+"""
+
+import json
+import os
+import re
+
+from .repository import (BUILD, ROOT, Problem, configure, files, git, lines_of, output_of, require,
+                         side_by_side)
+
+WHAT = "C++ by clang-tidy 14"
+REPAIR = ("by hand; where clang-tidy is wrong, // NOLINT(CHECK) with the reason; "
+          "a check that is wrong in general, in .clang-tidy with its reason")
+
+TOOL = "clang-tidy-14"
+USUAL_NUMBER = 8
+COMPLAINT = re.compile(r"^(/.+?):(\d+):\d+: (?:error|warning): (.*)$", re.MULTILINE)
+# The compiler's flags are meant for gcc, whose warnings the build makes errors.
+FLAGS = ("--quiet", "--extra-arg=-Wno-unknown-warning-option", "--extra-arg=-Wno-error")
+# The analyzer follows the ways through a function; those through the macros of tests take minutes.
+WITHOUT_ANALYZER = "--checks=-clang-analyzer-*"
+
+
+def commands():
+    """How each source is compiled, once; clang-tidy would look at it for each target."""
+    entries = json.loads((BUILD / "compile_commands.json").read_text())
+    by_path = {}
+    for entry in entries:
+        path = os.path.relpath(entry["file"], ROOT)
+        if not path.startswith("build/"):
+            by_path.setdefault(path, entry)
+    folder = BUILD / "clang-tidy"
+    folder.mkdir(exist_ok=True)
+    (folder / "compile_commands.json").write_text(json.dumps(list(by_path.values())))
+    return by_path
+
+
+def changed_last():
+    """All files, those that are not committed first, then from the newest commit to the oldest."""
+    changed = git("ls-files", "--modified", "--others", "--exclude-standard") or []
+    changed += git("diff", "--cached", "--name-only") or []
+    changed += git("log", "--format=", "--name-only", "--no-renames") or []
+    return list(dict.fromkeys(changed))
+
+
+def sources_that_include(header):
+    line = f'#include "{header.removeprefix("src/")}"'
+    near = f'#include "{os.path.basename(header)}"'
+    for path in files("*.cpp"):
+        here = os.path.dirname(path) == os.path.dirname(header)
+        if any(text == line or (here and text == near) for _, text in lines_of(path)):
+            yield path
+
+
+def source_of(path, compiled):
+    """The source with which a file is looked at: a header's own, else one that includes it."""
+    if path in compiled:
+        return path
+    if not path.endswith(".h") or not (ROOT / path).is_file():
+        return None
+    own = path.removesuffix(".h") + ".cpp"
+    return own if own in compiled else next(
+        (source for source in sources_that_include(path) if source in compiled), None)
+
+
+def newest(compiled):
+    chosen = {}
+    for path in changed_last():
+        source = source_of(path, compiled)
+        if source:
+            chosen[source] = True
+        if len(chosen) == USUAL_NUMBER:
+            break
+    return list(chosen) or sorted(compiled)[:USUAL_NUMBER]
+
+
+def moc(path, command):
+    """Some sources include what moc makes of them: all that the build would have to be run for."""
+    name = os.path.basename(path).removesuffix(".cpp") + ".moc"
+    if not any(text == f'#include "{name}"' for _, text in lines_of(path)):
+        return
+    folder = re.search(r"(\S+_autogen/include)\b", command)[1]
+    os.makedirs(folder, exist_ok=True)
+    libexec = output_of("qmake6", "-query", "QT_INSTALL_LIBEXECS")[0].strip()
+    output_of(f"{libexec}/moc", path, "-o", f"{folder}/{name}")
+
+
+def look_at(path, everything):
+    flags = FLAGS if everything and path.startswith("src/") else (*FLAGS, WITHOUT_ANALYZER)
+    output, status = output_of(TOOL, "-p", str(BUILD / "clang-tidy"), *flags, path)
+    found = [Problem(os.path.relpath(file, ROOT), int(line), text)
+             for file, line, text in COMPLAINT.findall(output)]
+    return found or ([Problem(path, None, output.strip())] if status else [])
+
+
+def problems(everything, note):
+    require(TOOL, TOOL)
+    yield from (unconfigured := configure())
+    if unconfigured:
+        return
+    compiled = commands()
+    chosen = sorted(compiled) if everything else newest(compiled)
+    if everything:
+        note(f"looks at all {len(chosen)} sources and the headers that they include")
+    else:
+        note(f"looks at {len(chosen)} of {len(compiled)} sources, those that changed last, and "
+             "without the analyzer;")
+        note("scripts/check --all clang-tidy looks at all with all. These are:")
+        for path in chosen:
+            note(f"  {path}")
+    for path in chosen:
+        moc(path, compiled[path]["command"])
+    results = side_by_side(lambda path: look_at(path, everything), chosen)
+    yield from sorted({problem for found in results for problem in found})

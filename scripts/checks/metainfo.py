@@ -1,0 +1,19 @@
+"""What software centres show of Vantle, as their validator wants it."""
+
+from .repository import Problem, files, output_of, require
+
+WHAT = "metainfo by appstreamcli, without asking the network"
+REPAIR = "appstreamcli explain TAG, then by hand"
+
+
+def problems(_everything, note):
+    paths = files("*.metainfo.xml", "*.metainfo.xml.in", "*.appdata.xml")
+    note(f"looked at {', '.join(paths) or 'none'}")
+    if not paths:
+        return
+    require("appstreamcli", "appstream")
+    for path in paths:
+        output, status = output_of("appstreamcli", "validate", "--strict", "--no-net",
+                                   "--no-color", path)
+        if status:
+            yield Problem(path, None, output.strip())

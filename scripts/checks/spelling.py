@@ -1,0 +1,110 @@
+"""English as it is spelled in Britain or in America, in what users and developers read.
+
+hunspell looks at prose: the texts of the program, documents, manual pages, what launchers and
+software centres show. codespell looks for common misspellings everywhere, in code as well.
+"""
+
+import re
+
+from .repository import ROOT, Problem, all_files, files, lines_of, output_of, require, text_of
+from .texts import all_texts
+
+WHAT = "English in texts of the program, documents and code"
+WORDS = "scripts/checks/words.txt"
+REPAIR = f"by hand; a word that is right and ours goes into {WORDS}"
+
+WORD = re.compile(r"[^\W\d_]+(?:['’][^\W\d_]+)*")
+FENCE = re.compile(r"^\s*```")
+# What is code in prose: `code`, targets of links, addresses, tags, paths, options, file names.
+CODE = re.compile(r"`[^`]*`|\]\([^)]*\)|\w+://\S+|</?[\w!][^>]*>|&\w+;|\S*[/_~$@=\\]\S*"
+                  r"|(?<!\w)--?[a-z][\w-]*|\b\w+\.\w+\b|%n|%\d|\b\d\w*")
+NO_PROSE = re.compile(r"\s*<(id|url|image|launchable|binary)\b|.*xml:lang=")
+ENTRY = re.compile(r"^(Name|GenericName|Comment|Keywords)=(.*)$")
+NAMES_IN_CODE = r"\b[a-z]+[A-Z]\w*|\\[nt]"
+MISSPELLING = re.compile(r"^(?:\./)?(.+?):(\d+): (.+ ==> .+)$", re.MULTILINE)
+
+
+def prose_of_markdown(path):
+    fenced = False
+    for line, text in lines_of(path):
+        if FENCE.match(text):
+            fenced = not fenced
+        elif not fenced and not text.startswith("    "):
+            yield path, line, text
+
+
+def prose_of_manual(path):
+    """Without the requests, and the words that are to be typed or replaced."""
+    for line, text in lines_of(path):
+        if not re.match(r"^[.'](?!SH|SS|TP|IP|PP)", text):
+            yield path, line, re.sub(r"\\f[BI].*?\\f[RP]|\\[-&e]|\\\([a-z]{2}|^\.\w+", " ", text)
+
+
+def prose_of_entry(path):
+    for line, text in lines_of(path):
+        if match := ENTRY.match(text):
+            yield path, line, match[2]
+
+
+def prose_of_metainfo(path):
+    """Without names, addresses, and what is marked as of another language."""
+    for line, text in lines_of(path):
+        if not NO_PROSE.match(text):
+            yield path, line, text
+
+
+def prose():
+    """All of it, as path, line and text."""
+    kinds = ((prose_of_markdown, ("*.md",)), (prose_of_entry, ("*.desktop", "*.desktop.in")),
+             (prose_of_manual, ("*.[1-8]", "*.[1-8].in")),
+             (prose_of_metainfo, ("*.metainfo.xml", "*.metainfo.xml.in")))
+    for lines, patterns in kinds:
+        for path in files(*patterns):
+            yield from lines(path)
+    for text in all_texts():
+        yield text.path, text.line, text.text
+
+
+def words_of(text):
+    """Without names of types and abbreviations, which have capitals inside."""
+    for word in WORD.findall(CODE.sub(" ", text).replace("’", "'")):
+        if word[1:] == word[1:].lower():
+            yield word.removesuffix("'s")
+
+
+def our_words():
+    return {text.lower() for _, text in lines_of(WORDS) if not text.startswith("#")}
+
+
+def unknown(words):
+    output, _ = output_of("hunspell", "-i", "utf-8", "-d", "en_GB,en_US", "-l",
+                          input="\n".join(sorted(words)))
+    return set(output.split()) - {""}
+
+
+def unknown_words(note):
+    require("hunspell", "hunspell hunspell-en-gb hunspell-en-us")
+    ours = our_words()
+    places = [(path, line, word) for path, line, text in prose() for word in words_of(text)
+              if word.lower() not in ours]
+    note(f"looked at the prose of {len({path for path, _, _ in places})} files")
+    wrong = unknown({word for _, _, word in places})
+    for path, line, word in places:
+        if word in wrong:
+            yield Problem(path, line, f"no English word: {word}")
+
+
+def common_misspellings(note):
+    require("codespell", "codespell")
+    # Translations are not English.
+    paths = [path for path in all_files() if text_of(path) and not path.endswith(".ts")]
+    note(f"looked for common misspellings in {len(paths)} files")
+    output, _ = output_of("codespell", "--ignore-words", str(ROOT / WORDS),
+                          "--ignore-regex", NAMES_IN_CODE, *paths)
+    for path, line, text in MISSPELLING.findall(output):
+        yield Problem(path, int(line), text)
+
+
+def problems(_everything, note):
+    yield from unknown_words(note)
+    yield from common_misspellings(note)

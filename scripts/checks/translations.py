@@ -1,0 +1,73 @@
+"""Each text of the program is translated, with the same placeholders, and no other is."""
+
+import os
+import re
+import xml.etree.ElementTree as xml
+
+from .repository import ROOT, Problem, files, output_of, text_of
+
+WHAT = "translations: complete, placeholders as in the source"
+REPAIR = "scripts/update_translations, then translate what is new"
+
+PLACEHOLDER = re.compile(r"%(?:L?\d|n)")
+UNFINISHED = {"unfinished": "is not translated", "vanished": "is not in the sources any more",
+              "obsolete": "is not in the sources any more"}
+
+
+def line_of(path, source):
+    """Where a text stands in the file, by its first words."""
+    start = xml.tostring(with_text(source), encoding="unicode")[3:-4].split("\n")[0][:40]
+    at = (text_of(path) or "").replace("&quot;", '"').replace("&apos;", "'").find(start)
+    return text_of(path).count("\n", 0, at) + 1 if at >= 0 else None
+
+
+def with_text(text):
+    element = xml.Element("t")
+    element.text = text
+    return element
+
+
+def translated(message):
+    """The translation, or that for each number of things."""
+    translation = message.find("translation")
+    forms = [form.text or "" for form in translation.findall("numerusform")]
+    return forms or [translation.text or ""]
+
+
+def faults(message):
+    source = message.findtext("source") or ""
+    kind = message.find("translation").get("type")
+    if kind in UNFINISHED:
+        yield UNFINISHED[kind]
+        return
+    wanted = set(PLACEHOLDER.findall(source))
+    for form in translated(message):
+        if not form.strip():
+            yield "has an empty translation"
+        # "one file" needs no number.
+        elif set(PLACEHOLDER.findall(form)) - {"%n"} != wanted - {"%n"}:
+            yield f"has other placeholders in its translation: {form}"
+
+
+def problems_of(path):
+    for message in xml.parse(ROOT / path).getroot().iter("message"):
+        source = message.findtext("source") or ""
+        for fault in faults(message):
+            yield Problem(path, line_of(path, source), f"\"{source}\" {fault}")
+
+
+def outdated():
+    """What the tool says that brings the files up to date, and here only compares."""
+    output, status = output_of("scripts/update_translations", "--check",
+                               env={**os.environ, "VANTLE_SKIP_PACKAGES": "1"})
+    if status:
+        yield Problem("translations", None, output.strip())
+
+
+def problems(_everything, note):
+    paths = files("translations/*.ts")
+    note(f"looked at {', '.join(paths) or 'none'}")
+    for path in paths:
+        yield from problems_of(path)
+    if paths:
+        yield from outdated()

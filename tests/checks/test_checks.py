@@ -1,0 +1,212 @@
+"""Each check of scripts/check finds what it is for, says where, and is content without it.
+
+They look at a repository of their own: a copy of the checks, and one file.
+"""
+
+import pathlib
+import shutil
+import subprocess
+
+import pytest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+SETTINGS = (".clang-format", ".clang-tidy")
+ENTRY = "[Desktop Entry]\nType=Application\nName=Vantle\nExec=vantle\n"
+TRANSLATION = """<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de"><context><name>A</name>
+<message><source>Copy %1</source>
+{}
+</message></context></TS>
+"""
+METAINFO = """<?xml version="1.0" encoding="UTF-8"?>
+<component type="desktop-application"><id>org.vantle.Vantle</id></component>
+"""
+PRESETS = """{"version": 6, "configurePresets": [
+  {"name": "checks", "generator": "Ninja", "binaryDir": "${sourceDir}/build/checks"}]}
+"""
+PROJECT = """cmake_minimum_required(VERSION 3.25)
+project(sample LANGUAGES CXX)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+"""
+CPP_PROJECT = PROJECT + "add_library(sample STATIC src/a.cpp src/b.cpp)\n"
+QML_PROJECT = PROJECT + """find_package(Qt6 REQUIRED COMPONENTS Quick)
+set(CMAKE_AUTOMOC ON)
+add_subdirectory(src/cards)
+"""
+MODULE = """qt_add_qml_module(sample URI Vantle.Cards VERSION 1.0
+  OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/Vantle/Cards SOURCES Model.cpp Model.h QML_FILES A.qml)
+target_link_libraries(sample PRIVATE Qt6::Quick)
+"""
+MODEL = """#pragma once
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+class Model : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(int count READ count CONSTANT)
+public:
+    int count() const { return 1; }
+};
+"""
+# A check, a file, what is wrong with it, and what is right.
+SAMPLES = (
+    ("text", "a.md", "good\nbad \n", "good\nbad\n", "a.md:2: ends with white space"),
+    ("text", "a.md", "good", "good\n", "a.md:1: the last line has no end"),
+    ("text", "a.md", "good\n\n", "good\n", "a.md:2: an empty line at the end"),
+    ("text", "a.md", "in /home/" "anna\n", "in ~/a\n", "a.md:1: names somebody's home"),
+    ("formatting", "src/a.cpp", "int a;\nint  b;\n", "int a;\nint b;\n", "src/a.cpp:2: "),
+    ("formatting", "a.sh", "if true; then\n    true\nfi\n", "true\n", "a.sh:1: "),
+    ("shell", "a.sh", "#!/bin/bash\nls $1\n", "#!/bin/bash\nls \"$1\"\n", "a.sh:2: "),
+    ("python", "a.py", "import os\n", "a = 1\n", "a.py:1: 'os' imported but unused"),
+    ("python", "a.py", "a = 1\nb=2\n", "a = 1\n", "a.py:2: E225"),
+    ("spelling", "a.md", "One\nscrenshot\n", "One\nscreenshot\n", "a.md:2: no English word: scr"),
+    ("spelling", "a.md", "```\nscrenshot\n```\nscrenshot\n", "`screnshot`\n", "a.md:4: "),
+    ("spelling", "src/A.qml", "Text {\n text: qsTr(\"Cptured\")\n}\n", "Text {}\n",
+     "src/A.qml:2: no English word: Cptured"),
+    ("spelling", "src/a.cpp", "auto a = localized(\"A\", \"Take a \"\n\"scren\");\n", "int a;\n",
+     "src/a.cpp:1: no English word: scren"),
+    ("spelling", "src/a.cpp", "// has rec" "ieved it\n", "// got it\n", "src/a.cpp:1: "),
+    ("desktop-entries", "a.desktop", ENTRY + "Wrong=1\n", ENTRY, "a.desktop: "),
+    ("metainfo", "a.metainfo.xml", METAINFO, None, "a.metainfo.xml: "),
+)
+
+
+@pytest.fixture
+def repository(tmp_path):
+    """One without a file of its own."""
+    shutil.copytree(ROOT / "scripts/checks", tmp_path / "scripts/checks",
+                    ignore=shutil.ignore_patterns("__pycache__"))
+    shutil.copy(ROOT / "scripts/check", tmp_path / "scripts/check")
+    for path in SETTINGS:
+        shutil.copy(ROOT / path, tmp_path / path)
+    git(tmp_path, "init", "--quiet")
+    return tmp_path
+
+
+def git(repository, *arguments):
+    subprocess.run(["git", "-C", repository, "-c", "user.name=Test", "-c",
+                    "user.email=test@example.org", *arguments], check=True)
+
+
+def commit(repository):
+    git(repository, "add", "--all")
+    git(repository, "commit", "--quiet", "--message", "Sample")
+
+
+def write(repository, path, text):
+    (repository / path).parent.mkdir(parents=True, exist_ok=True)
+    (repository / path).write_text(text)
+
+
+def check(repository, *arguments):
+    done = subprocess.run([repository / "scripts/check", *arguments], text=True,
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
+    return done.returncode, done.stdout
+
+
+def expect_failure(repository, name, text):
+    status, output = check(repository, name)
+    assert status == 1, output
+    assert f"\n{text}" in output
+    assert "To repair: " in output
+
+
+def expect_success(repository, name):
+    status, output = check(repository, name)
+    assert status == 0, output
+    return output
+
+
+@pytest.mark.parametrize("name, path, wrong, right, told", SAMPLES)
+def test_it_fails_and_explains(repository, name, path, wrong, right, told):
+    write(repository, path, wrong)
+    expect_failure(repository, name, told)
+    if right is not None:
+        write(repository, path, right)
+        expect_success(repository, name)
+
+
+@pytest.mark.parametrize("translation, fault", (
+    ('<translation type="unfinished"></translation>', "is not translated"),
+    ("<translation></translation>", "has an empty translation"),
+    ("<translation>Kopie</translation>", "has other placeholders"),
+    ("<translation>Kopie %2</translation>", "has other placeholders"),
+))
+def test_translations_are_complete(repository, translation, fault):
+    write(repository, "scripts/update_translations", "#!/bin/sh\n")
+    (repository / "scripts/update_translations").chmod(0o755)
+    write(repository, "translations/a_de.ts", TRANSLATION.format(translation))
+    expect_failure(repository, "translations", f'translations/a_de.ts:4: "Copy %1" {fault}')
+    right = TRANSLATION.format("<translation>%1 kopieren</translation>")
+    write(repository, "translations/a_de.ts", right)
+    expect_success(repository, "translations")
+
+
+def test_translations_that_lack_a_text_are_told(repository):
+    write(repository, "scripts/update_translations", "#!/bin/sh\necho lacks texts; exit 1\n")
+    (repository / "scripts/update_translations").chmod(0o755)
+    right = TRANSLATION.format("<translation>%1 kopieren</translation>")
+    write(repository, "translations/a_de.ts", right)
+    expect_failure(repository, "translations", "translations: lacks texts")
+
+
+def test_clang_tidy_looks_at_what_changed_last(repository):
+    write(repository, "CMakePresets.json", PRESETS)
+    write(repository, "CMakeLists.txt", CPP_PROJECT)
+    write(repository, ".gitignore", "/build/\n")
+    write(repository, "src/a.cpp", '#include "b.h"\nint a() { return b(1); }\n')
+    write(repository, "src/b.h", "#pragma once\nint b(int number);\n")
+    write(repository, "src/b.cpp", '#include "b.h"\nint b(int number) { return number; }\n')
+    commit(repository)
+    expect_success(repository, "clang-tidy")
+    write(repository, "src/b.h", "#pragma once\nint b(const int number);\n")
+    status, output = check(repository, "clang-tidy")
+    assert status == 1
+    assert "src/b.h:2: " in output and "readability-avoid-const-params-in-decls" in output
+    assert output.index("  src/b.cpp") < output.index("  src/a.cpp")
+
+
+def test_qmllint_knows_the_types_of_cpp(repository):
+    write(repository, "CMakePresets.json", PRESETS)
+    write(repository, "CMakeLists.txt", QML_PROJECT)
+    write(repository, ".gitignore", "/build/\n")
+    write(repository, "src/cards/CMakeLists.txt", MODULE)
+    write(repository, "src/cards/Model.h", MODEL)
+    write(repository, "src/cards/Model.cpp", '#include "Model.h"\n')
+    right = "import QtQuick\nItem {\n    required property Model model\n    width: model.count\n}\n"
+    write(repository, "src/cards/A.qml", right.replace("model.count", "model.cuont"))
+    expect_failure(repository, "qml", "src/cards/A.qml:4: ")
+    write(repository, "src/cards/A.qml", right)
+    expect_success(repository, "qml")
+    write(repository, "src/cards/A.qml", "import QtQuick\nimport QtQuick.Templates\nItem {}\n")
+    expect_failure(repository, "qml", "src/cards/A.qml:2: Unused import")
+
+
+def test_a_file_that_git_does_not_know_counts_and_one_that_it_ignores_does_not(repository):
+    write(repository, ".gitignore", "/ignored.md\n")
+    write(repository, "ignored.md", "bad \n")
+    expect_success(repository, "text")
+    write(repository, "new.md", "bad \n")
+    expect_failure(repository, "text", "new.md:1: ")
+
+
+def test_without_git_all_files_count(repository):
+    shutil.rmtree(repository / ".git")
+    write(repository, "build/made.md", "bad \n")
+    expect_success(repository, "text")
+    write(repository, "a.md", "bad \n")
+    expect_failure(repository, "text", "a.md:1: ")
+
+
+def test_an_unknown_check_is_refused(repository):
+    status, output = check(repository, "spellling")
+    assert status == 2 and "there is no check spellling" in output
+
+
+def test_a_missing_tool_is_a_failure_that_names_its_package(repository):
+    write(repository, "a.sh", "#!/bin/bash\ntrue\n")
+    done = subprocess.run(["/usr/bin/python3", repository / "scripts/check", "shell"],
+                          env={"PATH": "/nowhere"}, text=True, capture_output=True, check=False)
+    assert done.returncode == 1
+    assert "shellcheck is missing" in done.stdout and "apt-get install shellcheck" in done.stdout
