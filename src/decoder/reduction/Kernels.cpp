@@ -115,7 +115,7 @@ VANTLE_LOOP void reduceAcross(const float* row, const Taps* taps, int pixels, st
         const float* samples = row + static_cast<std::ptrdiff_t>(start) * channels;
         Float4 even{};
         Float4 odd{};
-        constexpr std::ptrdiff_t next = 2 * channels;
+        constexpr auto next = std::ptrdiff_t{2} * channels;
         int tap = 0;
         for (; tap + 1 < count; tap += 2, samples += next) {
             even += all(weights[tap]) * loadFloats(samples);

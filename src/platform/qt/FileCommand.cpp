@@ -8,6 +8,7 @@ namespace vantle {
 std::optional<FileCommand> commandFor(std::span<const FileProgram> programs,
                                       const std::vector<Url>& files) {
     std::vector<std::string> paths;
+    paths.reserve(files.size());
     for (const Url& file : files) paths.push_back(file.path());
     return commandForArguments(programs, paths);
 }

@@ -41,7 +41,7 @@ std::uint16_t takenHex(std::string_view& text, std::size_t most) {
 
 /// Absent when the text is not in the encoding `from`.
 std::optional<std::string> converted(const char* from, const char* to, std::string_view text) {
-    const iconv_t conversion = iconv_open(to, from);
+    auto* const conversion = iconv_open(to, from);
     std::string result(text.size() * 2, '\0');
     char* input = const_cast<char*>(text.data());
     char* output = result.data();
