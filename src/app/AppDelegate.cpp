@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "support/Debug.h"
+#include "support/Localization.h"
 #include "support/SystemLog.h"
 #include "support/Weakly.h"
 
@@ -85,7 +86,7 @@ void AppDelegate::connectApplication() {
     platform_.application->onRequest =
         [weak = weak_from_this()](const ApplicationRequest& request) -> Result<std::string> {
         if (const auto delegate = weak.lock()) return delegate->perform(request);
-        return Failure{ECANCELED, "Vantle is ending", ""};
+        return Failure{ECANCELED, localized("Requests", "Vantle is ending"), ""};
     };
 }
 

@@ -1,6 +1,7 @@
 // A desktop without a tray has no icon to click.
 
 #include "app/AppDelegate.h"
+#include "support/Localization.h"
 #include "support/Weakly.h"
 
 namespace vantle {
@@ -13,11 +14,12 @@ constexpr auto explainedKey = "hasExplainedMissingTray";
 
 Alert explanation() {
     return {Alert::Style::informational,
-            "Vantle is running",
-            "This desktop has no tray for Vantle's icon. New captures appear on the card all the "
-            "same. For the settings start Vantle again; to pause it, or to open your screenshots, "
-            "use the actions of its launcher.",
-            {"OK"}};
+            localized("AppDelegate", "Vantle is running"),
+            localized("AppDelegate",
+                      "This desktop has no tray for Vantle's icon. New captures appear on the card "
+                      "all the same. For the settings start Vantle again; to pause it, or to open "
+                      "your screenshots, use the actions of its launcher."),
+            {localized("AppDelegate", "OK")}};
 }
 
 }  // namespace

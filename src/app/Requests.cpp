@@ -5,6 +5,7 @@
 #include <map>
 
 #include "app/AppDelegate.h"
+#include "support/Localization.h"
 #include "support/Version.h"
 
 namespace vantle {
@@ -24,7 +25,9 @@ Result<std::string> AppDelegate::perform(const ApplicationRequest& request) {
     if (request.action == "show") return show(request.arguments);
     const auto found = actions.find(request.action);
     if (found == actions.end())
-        return Failure{EINVAL, "there is no action \"" + request.action + "\"", ""};
+        return Failure{EINVAL,
+                       filled(localized("Requests", "there is no action \"%1\""), {request.action}),
+                       ""};
     found->second();
     return std::string();
 }
@@ -35,15 +38,15 @@ void AppDelegate::setPaused(bool paused) {
 
 Result<std::string> AppDelegate::show(const std::vector<std::string>& paths) {
     std::string refused;
-    const auto refuse = [&](const std::string& path, const char* reason) {
+    const auto refuse = [&](const std::string& path, const std::string& reason) {
         refused += (refused.empty() ? "" : "\n") + path + ": " + reason;
     };
     for (const auto& path : paths) {
         const Url url = Url::file(path);
         if (platform_.files->existence(url) != FileManager::Existence::file)
-            refuse(path, "no such file");
+            refuse(path, localized("Requests", "no such file"));
         else if (!Capture::kind(url))
-            refuse(path, "not a screenshot or recording");
+            refuse(path, localized("Requests", "not a screenshot or recording"));
         else
             platform_.watcherQueue->async([load = loader(), url] { load(url); });
     }

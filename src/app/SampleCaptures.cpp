@@ -1,6 +1,7 @@
 // Two pictures that show what the panel does without a screenshot having been taken.
 
 #include "app/AppDelegate.h"
+#include "support/Localization.h"
 
 namespace vantle {
 namespace {
@@ -13,7 +14,7 @@ constexpr auto secondName = "Vantle Sample 2.png";
 Drawing firstSample() {
     return {{1600, 1000},
             {{0.36, 0.45, 0.98, 1.0}, {0.86, 0.40, 0.80, 1.0}, -30},
-            CenteredText{"Sample screenshot", 110}};
+            CenteredText{localized("AppDelegate", "Sample screenshot"), 110}};
 }
 
 Drawing secondSample() {

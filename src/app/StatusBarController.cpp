@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "support/Localization.h"
+
 namespace vantle {
 namespace {
 
@@ -48,27 +50,31 @@ Menu StatusBarController::menuNeedsUpdate() {
     Menu menu{"Vantle", {}};
     const auto captures = recent();
     if (captures.empty())
-        menu.items.push_back(label("No captures yet"));
+        menu.items.push_back(label(localized("StatusBarController", "No captures yet")));
     else
         addCaptures(menu, captures);
     menu.items.push_back(separator());
-    menu.items.push_back(
-        action(paused_ ? "Resume Vantle" : "Pause Vantle", [this] { togglePause(); }));
+    menu.items.push_back(action(paused_ ? localized("StatusBarController", "Resume Vantle")
+                                        : localized("StatusBarController", "Pause Vantle"),
+                                [this] { togglePause(); }));
     menu.items.push_back(action(
-        "Settings…", [this] { onSettings(); }, ","));
-    menu.items.push_back(action("Check for Updates…", [this] { onCheckForUpdates(); }));
+        localized("StatusBarController", "Settings…"), [this] { onSettings(); }, ","));
+    menu.items.push_back(action(localized("StatusBarController", "Check for Updates…"),
+                                [this] { onCheckForUpdates(); }));
     menu.items.push_back(separator());
     menu.items.push_back(action(
-        "Quit Vantle", [this] { application_.terminate(); }, "q"));
+        localized("StatusBarController", "Quit Vantle"), [this] { application_.terminate(); },
+        "q"));
     return menu;
 }
 
 void StatusBarController::addCaptures(Menu& menu, const std::vector<CapturePointer>& captures) {
-    menu.items.push_back(label("Recent Captures"));
+    menu.items.push_back(label(localized("StatusBarController", "Recent Captures")));
     for (std::size_t i = 0; i < std::min(captures.size(), maximumListed); ++i)
         menu.items.push_back(itemFor(captures[i]));
     menu.items.push_back(separator());
-    menu.items.push_back(action("Open Screenshots Folder", [this] { openFolder(); }));
+    menu.items.push_back(action(localized("StatusBarController", "Open Screenshots Folder"),
+                                [this] { openFolder(); }));
 }
 
 MenuItem StatusBarController::itemFor(const CapturePointer& capture) {

@@ -1,6 +1,7 @@
 // What becomes of a watch error.
 
 #include "app/AppDelegate.h"
+#include "support/Localization.h"
 
 namespace vantle {
 namespace {
@@ -8,28 +9,41 @@ namespace {
 constexpr int firstButton = Alerts::firstButton;
 constexpr int secondButton = Alerts::firstButton + 1;
 
+std::string openSettings() {
+    return localized("AppDelegate", "Open Settings");
+}
+
+std::string later() {
+    return localized("AppDelegate", "Later");
+}
+
 Alert accessDeniedAlert(const Url& folder) {
     return {Alert::Style::warning,
-            "Vantle needs access to your screenshot folder",
-            "macOS is blocking Vantle from reading " + std::string(folder.lastPathComponent()) +
-                ". Allow Vantle under System Settings → Privacy & Security → Files and Folders, "
-                "then click Retry.",
-            {"Open Privacy Settings", "Retry", "Later"}};
+            localized("AppDelegate", "Vantle needs access to your screenshot folder"),
+            filled(localized("AppDelegate",
+                             "macOS is blocking Vantle from reading %1. Allow Vantle under System "
+                             "Settings → Privacy & Security → Files and Folders, then click "
+                             "Retry."),
+                   {folder.lastPathComponent()}),
+            {localized("AppDelegate", "Open Privacy Settings"), localized("AppDelegate", "Retry"),
+             later()}};
 }
 
 Alert missingAlert(const Url& folder) {
     return {Alert::Style::warning,
-            "Vantle can't find your screenshot folder",
-            folder.path() +
-                " is missing and could not be recreated. Choose another folder in Settings.",
-            {"Open Settings", "Later"}};
+            localized("AppDelegate", "Vantle can't find your screenshot folder"),
+            filled(localized("AppDelegate",
+                             "%1 is missing and could not be recreated. Choose another folder in "
+                             "Settings."),
+                   {folder.path()}),
+            {openSettings(), later()}};
 }
 
 Alert otherAlert(const std::string& message) {
     return {Alert::Style::warning,
-            "Vantle can't watch your screenshot folder",
+            localized("AppDelegate", "Vantle can't watch your screenshot folder"),
             message,
-            {"Open Settings", "Later"}};
+            {openSettings(), later()}};
 }
 
 }  // namespace

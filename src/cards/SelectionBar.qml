@@ -52,7 +52,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             leftPadding: 8
             rightPadding: 6
-            text: qsTr("%1 selected").arg(bar.shownCount)
+            text: qsTr("%n selected", "", bar.shownCount)
             color: "white"
             font.pixelSize: 11
             font.weight: Font.DemiBold

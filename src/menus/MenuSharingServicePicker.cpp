@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/qt/QtGeometry.h"
+#include "support/Localization.h"
 
 namespace vantle {
 
@@ -35,19 +36,20 @@ void MenuSharingServicePicker::show(const std::vector<Url>& items, const Rect& a
 
 std::vector<SharingOffer> MenuSharingServicePicker::withOwn(std::vector<SharingOffer> found) const {
     if (!found.empty()) found.push_back({});
-    found.push_back({"Copy file", "doc.on.doc", [this](const std::vector<Url>& items) {
+    found.push_back({localized("SharingServicePicker", "Copy file"), "doc.on.doc",
+                     [this](const std::vector<Url>& items) {
                          pasteboard_.clearContents();
                          pasteboard_.writeObjects({items.begin(), items.end()});
                      }});
-    found.push_back(
-        {"Reveal", "folder", [this](const std::vector<Url>& items) { opener_.reveal(items); }});
+    found.push_back({localized("SharingServicePicker", "Reveal"), "folder",
+                     [this](const std::vector<Url>& items) { opener_.reveal(items); }});
     return found;
 }
 
 void MenuSharingServicePicker::open(const std::shared_ptr<Request>& request,
                                     std::vector<SharingOffer> found) {
     request->offers = withOwn(std::move(found));
-    Menu menu{"Share", {}};
+    Menu menu{localized("SharingServicePicker", "Share"), {}};
     for (const auto& offer : request->offers)
         menu.items.push_back({offer.perform ? MenuItem::Kind::action : MenuItem::Kind::separator,
                               offer.title, offer.symbol});

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "screens/WholeSeconds.h"
+#include "support/Localization.h"
 
 namespace vantle {
 namespace {
@@ -40,7 +41,8 @@ double BehaviorControls::sliderValue() const {
 
 std::string BehaviorControls::dismissAfterText() const {
     if (neverDismiss_) return "—";
-    return wholeSeconds(settings_.dismissAfter.value()) + " seconds";
+    return filled(localized("BehaviorControls", "%1 seconds"),
+                  {wholeSeconds(settings_.dismissAfter.value())});
 }
 
 }  // namespace vantle

@@ -1,12 +1,16 @@
 #include "screens/FolderAccessRow.h"
 
+#include "support/Localization.h"
 #include "support/Weakly.h"
 
 namespace vantle {
 namespace {
 
-constexpr auto whatIsAsked =
-    "macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.";
+std::string whatIsAsked() {
+    return localized(
+        "FolderAccessRow",
+        "macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.");
+}
 
 }  // namespace
 
@@ -18,20 +22,28 @@ std::shared_ptr<FolderAccessRow> FolderAccessRow::create(const Context& context)
 }
 
 FolderAccessRow::Look FolderAccessRow::look(AccessState state) {
-    const Button grant{"Grant access", &FolderAccessRow::check};
+    const Button grant{localized("FolderAccessRow", "Grant access"), &FolderAccessRow::check};
     switch (state) {
         case AccessState::unknown:
-            return {"lock.circle", "Folder access", whatIsAsked, {grant}};
+            return {"lock.circle",
+                    localized("FolderAccessRow", "Folder access"),
+                    whatIsAsked(),
+                    {grant}};
         case AccessState::granted:
             return {"checkmark.circle.fill",
-                    "Vantle can read this folder",
-                    whatIsAsked,
-                    {{"Check again", &FolderAccessRow::check}}};
+                    localized("FolderAccessRow", "Vantle can read this folder"),
+                    whatIsAsked(),
+                    {{localized("FolderAccessRow", "Check again"), &FolderAccessRow::check}}};
         case AccessState::denied:
-            return {"exclamationmark.triangle.fill",
-                    "macOS is blocking access to this folder",
-                    "Allow Vantle under Privacy & Security → Files and Folders, then check again.",
-                    {{"Open Privacy Settings", &FolderAccessRow::openPrivacySettings}, grant}};
+            return {
+                "exclamationmark.triangle.fill",
+                localized("FolderAccessRow", "macOS is blocking access to this folder"),
+                localized(
+                    "FolderAccessRow",
+                    "Allow Vantle under Privacy & Security → Files and Folders, then check again."),
+                {{localized("FolderAccessRow", "Open Privacy Settings"),
+                  &FolderAccessRow::openPrivacySettings},
+                 grant}};
     }
     return {};
 }

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "support/Localization.h"
+
 namespace vantle {
 
 std::string FolderPicker::displayName(const Url& folder) const {
@@ -22,16 +24,17 @@ MenuItem FolderPicker::place(std::string title, const Url& folder) {
 Menu FolderPicker::menu() {
     const Url home = context_.files.homeDirectory();
     Menu menu{
-        .title = "Change",
-        .items = {place("Desktop (macOS default)", context_.settings.defaultScreenshotFolder()),
+        .title = localized("FolderPicker", "Change"),
+        .items = {place(localized("FolderPicker", "Desktop (macOS default)"),
+                        context_.settings.defaultScreenshotFolder()),
                   place("~/Pictures/Screenshots", home.appending("Pictures/Screenshots")),
                   place("~/Screenshots", home.appending("Screenshots")),
                   {.kind = MenuItem::Kind::separator},
-                  {.title = "Choose…", .action = [this] { choose(); }}}};
+                  {.title = localized("FolderPicker", "Choose…"), .action = [this] { choose(); }}}};
     if (const auto previous = context_.settings.previousScreenshotFolder()) {
         menu.items.push_back({.kind = MenuItem::Kind::separator});
         menu.items.push_back(
-            {.title = "Restore " + displayName(*previous),
+            {.title = filled(localized("FolderPicker", "Restore %1"), {displayName(*previous)}),
              .action = [&settings = context_.settings] { settings.restoreScreenshotFolder(); }});
     }
     return menu;
@@ -41,8 +44,9 @@ void FolderPicker::choose() {
     context_.application.activate();
     const FolderRequest request{
         .directory = context_.settings.screenshotFolder.value(),
-        .acceptLabel = "Use This Folder",
-        .message = "Choose where macOS should save screenshots and screen recordings."};
+        .acceptLabel = localized("FolderPicker", "Use This Folder"),
+        .message = localized("FolderPicker",
+                             "Choose where macOS should save screenshots and screen recordings.")};
     context_.chooser.choose(request,
                             [&settings = context_.settings](const std::optional<Url>& folder) {
                                 if (folder) settings.setScreenshotFolder(*folder);

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <utility>
 
+#include "support/Localization.h"
+
 namespace vantle {
 namespace {
 
@@ -38,8 +40,9 @@ void OnboardingSteps::appear() {
 }
 
 std::string OnboardingSteps::forwardTitle() const {
-    if (step_ == lastStep) return "Start Using Vantle";
-    return step_ == 0 ? "Get Started" : "Next";
+    if (step_ == lastStep) return localized("OnboardingSteps", "Start Using Vantle");
+    return step_ == 0 ? localized("OnboardingSteps", "Get Started")
+                      : localized("OnboardingSteps", "Next");
 }
 
 void OnboardingSteps::forward() {

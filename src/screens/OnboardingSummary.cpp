@@ -1,25 +1,31 @@
 #include "screens/OnboardingSummary.h"
 
 #include "screens/WholeSeconds.h"
+#include "support/Localization.h"
 
 namespace vantle {
 
 std::vector<SummaryRow> onboardingSummary(const Settings& settings) {
     const double seconds = settings.dismissAfter.value();
     const std::string folder(settings.screenshotFolder.value().lastPathComponent());
-    return {{"folder", "Saving to " + folder + " folder"},
-            {"clock", seconds > 0 ? "Stays for " + wholeSeconds(seconds) + " seconds unless pinned"
-                                  : "Stays until dismissed"},
+    return {{"folder", filled(localized("OnboardingSummary", "Saving to %1 folder"), {folder})},
+            {"clock", seconds > 0 ? filled(localized("OnboardingSummary",
+                                                     "Stays for %1 seconds unless pinned"),
+                                           {wholeSeconds(seconds)})
+                                  : localized("OnboardingSummary", "Stays until dismissed")},
             {"rectangle.bottomthird.inset.filled",
-             "Panel in the " + std::string(label(settings.corner.value()))},
-            {"eye.slash", settings.hideSystemThumbnail.value() ? "macOS thumbnail hidden"
-                                                               : "macOS thumbnail still shown"}};
+             filled(localized("OnboardingSummary", "Panel in the %1"),
+                    {label(settings.corner.value())})},
+            {"eye.slash", settings.hideSystemThumbnail.value()
+                              ? localized("OnboardingSummary", "macOS thumbnail hidden")
+                              : localized("OnboardingSummary", "macOS thumbnail still shown")}};
 }
 
 std::string onboardingOutlook(const Settings& settings) {
-    return "Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will slide into the " +
-           std::string(label(settings.corner.value())) +
-           " corner. Take another and they line up together.";
+    return filled(localized("OnboardingSummary",
+                            "Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will "
+                            "slide into the %1 corner. Take another and they line up together."),
+                  {label(settings.corner.value())});
 }
 
 }  // namespace vantle

@@ -2,7 +2,10 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
+
+#include "support/Localization.h"
 
 namespace vantle {
 
@@ -27,17 +30,17 @@ constexpr std::string_view rawValue(PanelCorner corner) {
     return {};
 }
 
-/// What the settings screen calls it.
-constexpr std::string_view label(PanelCorner corner) {
+/// What the settings screen calls it, in the user's language.
+inline std::string label(PanelCorner corner) {
     switch (corner) {
         case PanelCorner::bottomRight:
-            return "Bottom Right";
+            return localized("PanelCorner", "Bottom Right");
         case PanelCorner::bottomLeft:
-            return "Bottom Left";
+            return localized("PanelCorner", "Bottom Left");
         case PanelCorner::topRight:
-            return "Top Right";
+            return localized("PanelCorner", "Top Right");
         case PanelCorner::topLeft:
-            return "Top Left";
+            return localized("PanelCorner", "Top Left");
     }
     return {};
 }

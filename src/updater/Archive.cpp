@@ -12,6 +12,7 @@
 #include <system_error>
 
 #include "support/FileDescriptor.h"
+#include "support/Localization.h"
 #include "support/SystemFailure.h"
 
 namespace vantle::updater {
@@ -24,7 +25,7 @@ constexpr auto top = "vantle";
 using ArchivePointer = std::unique_ptr<archive, decltype(&archive_read_free)>;
 
 Failure refused(const std::string& what) {
-    return {0, "The update was refused: " + what, {}};
+    return {0, filled(localized("Updater", "The update was refused: %1"), {what}), {}};
 }
 
 /// Writes what is read of one entry.
@@ -35,14 +36,16 @@ public:
 
     Outcome take(archive_entry& entry) {
         const char* name = archive_entry_pathname(&entry);
-        if (!name) return refused("it holds a file without a name.");
-        if (left_.entries-- == 0) return refused("it holds too many files.");
-        if (!isInside(name)) return refused(std::string("it holds \"") + name + "\".");
+        if (!name) return refused(localized("Updater", "it holds a file without a name."));
+        if (left_.entries-- == 0) return refused(localized("Updater", "it holds too many files."));
+        if (!isInside(name))
+            return refused(filled(localized("Updater", "it holds \"%1\"."), {name}));
         const fs::path path = fs::path(name).lexically_relative(top);
         const bool isLink = archive_entry_hardlink(&entry) || archive_entry_symlink(&entry);
         if (!isLink && archive_entry_filetype(&entry) == AE_IFDIR) return makeFolder(path);
         if (isLink || archive_entry_filetype(&entry) != AE_IFREG)
-            return refused(std::string("\"") + name + "\" is neither a file nor a folder.");
+            return refused(
+                filled(localized("Updater", "\"%1\" is neither a file nor a folder."), {name}));
         return writeFile(path, (archive_entry_perm(&entry) & S_IXUSR) != 0);
     }
 
@@ -65,7 +68,9 @@ private:
         const FileDescriptor file(open((folder_ / path).c_str(),
                                        O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
         if (!file) {
-            if (errno == EEXIST) return refused("it holds \"" + path.string() + "\" twice.");
+            if (errno == EEXIST)
+                return refused(
+                    filled(localized("Updater", "it holds \"%1\" twice."), {path.string()}));
             return systemFailure(errno, path);
         }
         if (auto failure = copyTo(file.get(), path)) return failure;
@@ -81,9 +86,12 @@ private:
             la_int64_t offset = 0;
             const int status = archive_read_data_block(&source_, &data, &size, &offset);
             if (status == ARCHIVE_EOF) return {};
-            if (status != ARCHIVE_OK) return refused("its archive is damaged.");
-            if (offset != end) return refused("\"" + path.string() + "\" has holes.");
-            if (size > left_.bytes) return refused("it is too large once it is unpacked.");
+            if (status != ARCHIVE_OK)
+                return refused(localized("Updater", "its archive is damaged."));
+            if (offset != end)
+                return refused(filled(localized("Updater", "\"%1\" has holes."), {path.string()}));
+            if (size > left_.bytes)
+                return refused(localized("Updater", "it is too large once it is unpacked."));
             left_.bytes -= size;
             end += static_cast<la_int64_t>(size);
             if (auto failure = write(file, static_cast<const char*>(data), size, path))
@@ -120,13 +128,13 @@ Outcome unpack(std::string_view bytes, const fs::path& folder, const ArchiveLimi
     archive_read_support_format_tar(source.get());
     archive_read_support_filter_zstd(source.get());
     if (archive_read_open_memory(source.get(), bytes.data(), bytes.size()) != ARCHIVE_OK)
-        return refused("it is no archive.");
+        return refused(localized("Updater", "it is no archive."));
     Unpacking unpacking(*source, folder, limits);
     for (;;) {
         archive_entry* entry = nullptr;
         const int status = archive_read_next_header(source.get(), &entry);
         if (status == ARCHIVE_EOF) return waitForDisk(folder);
-        if (status != ARCHIVE_OK) return refused("its archive is damaged.");
+        if (status != ARCHIVE_OK) return refused(localized("Updater", "its archive is damaged."));
         if (auto failure = unpacking.take(*entry)) return failure;
     }
 }

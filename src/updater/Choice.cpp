@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "support/Localization.h"
 #include "updater/Configuration.h"
 #include "updates/VersionOrder.h"
 
@@ -21,17 +22,30 @@ const Enclosure* enclosureFor(const FeedItem& item, const std::string& platform)
 /// Why an item that is newer and for this platform is refused nevertheless; absent when it is not.
 std::optional<UpdateReport> refusal(const FeedItem& item, const Enclosure& enclosure,
                                     const Wish& wish) {
-    const std::string name = "Version " + item.displayVersion;
+    const std::string& name = item.displayVersion;
     if (isNewer(item.minimumSystemVersion, wish.systemVersion))
-        return report::NothingFound{name + " needs a newer system: version " +
-                                    item.minimumSystemVersion + " of the C library, and this is " +
-                                    wish.systemVersion + "."};
+        return report::NothingFound{filled(
+            localized("Updater",
+                      "Version %1 needs a newer system: version %2 of the C library, and this is "
+                      "%3."),
+            {name, item.minimumSystemVersion, wish.systemVersion})};
     if (enclosure.signature.empty())
-        return report::Failed{name + " carries no signature, so it was refused.", {}};
+        return report::Failed{
+            filled(localized("Updater", "Version %1 carries no signature, so it was refused."),
+                   {name}),
+            {}};
     if (enclosure.length == 0)
-        return report::Failed{name + " has no length in the update feed, so it was refused.", {}};
+        return report::Failed{
+            filled(localized("Updater",
+                             "Version %1 has no length in the update feed, so it was refused."),
+                   {name}),
+            {}};
     if (enclosure.length > configuration().largestArchive)
-        return report::Failed{name + " is too large for an update, so it was refused.", {}};
+        return report::Failed{
+            filled(
+                localized("Updater", "Version %1 is too large for an update, so it was refused."),
+                {name}),
+            {}};
     return std::nullopt;
 }
 
@@ -56,11 +70,14 @@ report::NothingFound nothing(const std::vector<FeedItem>& items, const Wish& wis
             newest = item.version;
     }
     if (isNewer(wish.version, newest) && !newest.empty())
-        return {"Vantle " + wish.version + " is newer than the newest version that is offered, " +
-                newest + "."};
+        return {filled(
+            localized("Updater", "Vantle %1 is newer than the newest version that is offered, %2."),
+            {wish.version, newest})};
     if (isForOthers)
-        return {"There is a newer version, but not for this system (" + wish.platform + ")."};
-    return {"Vantle " + wish.version + " is the newest version."};
+        return {
+            filled(localized("Updater", "There is a newer version, but not for this system (%1)."),
+                   {wish.platform})};
+    return {filled(localized("Updater", "Vantle %1 is the newest version."), {wish.version})};
 }
 
 /// In the order in which they are to be had.

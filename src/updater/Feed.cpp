@@ -4,6 +4,7 @@
 
 #include <pugixml.hpp>
 
+#include "support/Localization.h"
 #include "updater/ReleaseNotes.h"
 
 namespace vantle::updater {
@@ -41,13 +42,19 @@ Result<Feed> parseFeed(std::string_view xml) {
     const auto result = document.load_buffer(xml.data(), xml.size());
     if (!result)
         return Failure{
-            0, std::string("The update feed is damaged: ") + result.description() + ".", {}};
+            0,
+            filled(localized("Updater", "The update feed is damaged: %1."), {result.description()}),
+            {}};
     const auto channel = document.child("rss").child("channel");
     if (!channel)
-        return Failure{0, "The update feed is damaged: there is no list of versions.", {}};
+        return Failure{
+            0,
+            localized("Updater", "The update feed is damaged: there is no list of versions."),
+            {}};
     Feed feed;
     feed.date = curl_getdate(textOf(channel, "lastBuildDate").c_str(), nullptr);
-    if (feed.date < 0) return Failure{0, "The update feed is damaged: it has no date.", {}};
+    if (feed.date < 0)
+        return Failure{0, localized("Updater", "The update feed is damaged: it has no date."), {}};
     for (const auto& item : channel.children("item")) feed.items.push_back(itemFrom(item));
     return feed;
 }

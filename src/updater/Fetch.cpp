@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <memory>
 
+#include "support/Localization.h"
 #include "support/Version.h"
 
 namespace vantle::updater {
@@ -50,7 +51,8 @@ bool isSecure(const std::string& address) {
 }
 
 Failure notAllowed(const std::string& address) {
-    return failureOf("Updates are fetched only by HTTPS, not from \"" + address + "\".");
+    return failureOf(filled(
+        localized("Updater", "Updates are fetched only by HTTPS, not from \"%1\"."), {address}));
 }
 
 std::size_t take(char* data, std::size_t, std::size_t size, void* context) {
@@ -88,12 +90,16 @@ void prepare(CURL* curl, const std::string& address, Transfer& transfer) {
 
 Failure failureFrom(CURLcode code, const Transfer& transfer) {
     if (transfer.isTooLong)
-        return failureOf("The server sent more than the " + std::to_string(transfer.limits.bytes) +
-                         " bytes that are expected at most.");
-    if (code == CURLE_OPERATION_TIMEDOUT) return failureOf("The server is too slow.");
-    if (code == CURLE_PARTIAL_FILE) return failureOf("The server broke off in the middle.");
-    return failureOf(std::string("The server could not be asked: ") + curl_easy_strerror(code) +
-                     ".");
+        return failureOf(
+            filled(localized("Updater",
+                             "The server sent more than the %1 bytes that are expected at most."),
+                   {std::to_string(transfer.limits.bytes)}));
+    if (code == CURLE_OPERATION_TIMEDOUT)
+        return failureOf(localized("Updater", "The server is too slow."));
+    if (code == CURLE_PARTIAL_FILE)
+        return failureOf(localized("Updater", "The server broke off in the middle."));
+    return failureOf(filled(localized("Updater", "The server could not be asked: %1."),
+                            {curl_easy_strerror(code)}));
 }
 
 }  // namespace
@@ -121,8 +127,9 @@ Result<std::string> fetch(const std::string& address, const FetchLimits& limits,
         curl_easy_getinfo(curl.get(), CURLINFO_RESPONSE_CODE, &status);
         if (!redirection) {
             if (status != 200)
-                return failureOf("The server answered with the error " + std::to_string(status) +
-                                 ".");
+                return failureOf(
+                    filled(localized("Updater", "The server answered with the error %1."),
+                           {std::to_string(status)}));
             return std::move(transfer.bytes);
         }
         // From the web nobody is led to services of this machine.
@@ -130,7 +137,8 @@ Result<std::string> fetch(const std::string& address, const FetchLimits& limits,
         if (!isSafe) return notAllowed(redirection);
         next = redirection;
     }
-    return failureOf("The server leads from one address to the next without end.");
+    return failureOf(
+        localized("Updater", "The server leads from one address to the next without end."));
 }
 
 }  // namespace vantle::updater

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <string>
 
+#include "support/Localization.h"
 #include "support/SystemFailure.h"
 
 namespace vantle::updater {
@@ -24,7 +25,7 @@ struct Transaction {
 };
 
 Failure failureOf(const std::string& message) {
-    return {0, "The system's package installer: " + message, {}};
+    return {0, filled(localized("Updater", "The system's package installer: %1"), {message}), {}};
 }
 
 Failure failureOf(const sd_bus_error& error, int code) {
@@ -95,8 +96,9 @@ public:
             if (result_ < 0 && result_ != -EINTR) return failureOf(error_, -result_);
         }
         if (transaction.hasSucceeded) return {};
-        return failureOf(transaction.message.empty() ? "it did not install the update."
-                                                     : transaction.message);
+        return failureOf(transaction.message.empty()
+                             ? localized("Updater", "it did not install the update.")
+                             : transaction.message);
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include <system_error>
 
+#include "support/Localization.h"
 #include "support/SystemFailure.h"
 #include "updater/Archive.h"
 #include "updater/Configuration.h"
@@ -37,9 +38,11 @@ Outcome checkPlace(const fs::path& tree, const Staging& staging) {
         if (fs::exists(each))
             if (auto failure = refuseStrangers(each)) return failure;
     if (const auto failure = tryExchange(staging))
-        return Failure{failure->code,
-                       "The folder of Vantle cannot be replaced in one step: " + failure->message,
-                       failure->path};
+        return Failure{
+            failure->code,
+            filled(localized("Updater", "The folder of Vantle cannot be replaced in one step: %1"),
+                   {failure->message}),
+            failure->path};
     for (const auto& part : {staging.unpacking(), staging.next()})
         if (auto failure = staging.discard(part)) return failure;
     return {};

@@ -17,6 +17,7 @@
 #include <system_error>
 
 #include "support/FileDescriptor.h"
+#include "support/Localization.h"
 #include "support/SystemFailure.h"
 #include "support/SystemLog.h"
 #include "updater/Configuration.h"
@@ -92,9 +93,9 @@ public:
         return Child(process, std::move(ready));
     }
 
-    /// Absent when it said that it came up; else what happened. One that does not come up in time
-    /// is killed.
-    std::optional<std::string> failure() const {
+    /// Absent when it said that it came up; else what happened to this version, as a sentence
+    /// without its full stop. One that does not come up in time is killed.
+    std::optional<std::string> failure(const std::string& version) const {
         char byte = 0;
         const bool isTold = waitFor(ready_.get(), configuration().longestStart);
         if (isTold && read(ready_.get(), &byte, 1) == 1) return std::nullopt;
@@ -104,8 +105,10 @@ public:
         if (!hasEnded) kill(process_, SIGKILL);
         int status = 0;
         while (waitpid(process_, &status, 0) < 0 && errno == EINTR) continue;
-        if (!hasEnded) return "did not start in time";
-        return WIFSIGNALED(status) ? "crashed at its start" : "ended at its start";
+        return filled(!hasEnded ? localized("Updater", "Vantle %1 did not start in time")
+                      : WIFSIGNALED(status) ? localized("Updater", "Vantle %1 crashed at its start")
+                                            : localized("Updater", "Vantle %1 ended at its start"),
+                      {version});
     }
 
 private:
@@ -127,10 +130,11 @@ int startAgain(const fs::path& program, const std::string& version, const std::s
 /// Empty when the new version runs.
 std::string startNew(const fs::path& program, const std::string& version) {
     const auto child = Child::start(program, "");
-    const auto problem =
-        child ? child.value().failure() : "cannot be started: " + child.failure().message;
+    const auto problem = child ? child.value().failure(version)
+                               : filled(localized("Updater", "Vantle %1 cannot be started: %2"),
+                                        {version, child.failure().message});
     // It may have handed over to a copy that somebody started in between.
-    return problem && !isRunning(program) ? "Vantle " + version + " " + *problem : "";
+    return problem && !isRunning(program) ? *problem : "";
 }
 
 /// What the system installed is not ours to take back, nor to end.
@@ -148,14 +152,18 @@ int replaceAndStart(const Installation& installation, const std::string& version
     if (!refused) refused = replaceTree(installation.tree, staging.value());
     if (refused)
         return startAgain(program, "",
-                          "The update could not be put in place: " + refused->message + ".");
+                          filled(localized("Updater", "The update could not be put in place: %1."),
+                                 {refused->message}));
     const std::string problem = startNew(program, version);
     if (problem.empty()) return EXIT_SUCCESS;
     if (const auto failure = restoreTree(installation.tree, staging.value()))
-        return startAgain(staging.value().previous() / "bin/vantle", version,
-                          problem + ", and the version before it could not be put back: " +
-                              failure->message + ".");
-    return startAgain(program, version, problem + ", so the version before it was put back.");
+        return startAgain(
+            staging.value().previous() / "bin/vantle", version,
+            filled(localized("Updater", "%1, and the version before it could not be put back: %2."),
+                   {problem, failure->message}));
+    return startAgain(
+        program, version,
+        filled(localized("Updater", "%1, so the version before it was put back."), {problem}));
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 #include <optional>
 #include <regex>
 
+#include "support/Localization.h"
+
 namespace vantle::updater {
 namespace {
 
@@ -44,11 +46,17 @@ Result<std::string> signedPart(const std::string& feed, const std::string& publi
     const std::string comment =
         at != std::string::npos && feed.size() - at <= longest ? feed.substr(at) : "";
     if (!std::regex_match(comment, match, form))
-        return Failure{0, "The update feed carries no signature, so it was refused.", {}};
+        return Failure{
+            0,
+            localized("Updater", "The update feed carries no signature, so it was refused."),
+            {}};
     std::string part = feed.substr(0, at);
     if (std::stoul(match[2]) != at || !isSigned(part, match[1], publicKey))
         return Failure{
-            0, "The signature of the update feed is wrong, so the feed was refused.", {}};
+            0,
+            localized("Updater",
+                      "The signature of the update feed is wrong, so the feed was refused."),
+            {}};
     return part;
 }
 

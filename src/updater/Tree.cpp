@@ -11,6 +11,7 @@
 
 #include "platform/linux/WholeFile.h"
 #include "support/FileDescriptor.h"
+#include "support/Localization.h"
 #include "support/SystemFailure.h"
 
 namespace vantle::updater {
@@ -25,7 +26,7 @@ constexpr std::size_t longestText = 4 * 1024 * 1024;
 using Manifest = std::map<std::string, std::string>;  // sums in hexadecimal, by path
 
 Failure wrong(const std::string& what) {
-    return {0, "The update was refused: " + what, {}};
+    return {0, filled(localized("Updater", "The update was refused: %1"), {what}), {}};
 }
 
 std::string textOf(const fs::path& file) {
@@ -85,20 +86,25 @@ std::map<std::string, std::string> releaseOf(const fs::path& tree) {
 Outcome verifyTree(const fs::path& tree, const std::string& version, const std::string& platform) {
     auto release = releaseOf(tree);
     if (release["version"] != version)
-        return wrong("it should be version " + version + " and is \"" + release["version"] + "\".");
+        return wrong(filled(localized("Updater", "it should be version %1 and is \"%2\"."),
+                            {version, release["version"]}));
     if (release["platform"] != platform || release["installation"] != "tree")
-        return wrong("it is not for this system (" + platform + ").");
+        return wrong(filled(localized("Updater", "it is not for this system (%1)."), {platform}));
     const Manifest manifest = manifestOf(tree);
     for (const auto* needed : {"bin/vantle", "bin/vantle-updater", releaseFile})
-        if (!manifest.contains(needed)) return wrong(std::string(needed) + " is missing.");
+        if (!manifest.contains(needed))
+            return wrong(filled(localized("Updater", "%1 is missing."), {needed}));
     for (const auto& [path, sum] : manifest) {
         const auto found = sumOf(tree / path);
-        if (!found || found.value() != sum) return wrong(path + " is missing or damaged.");
+        if (!found || found.value() != sum)
+            return wrong(filled(localized("Updater", "%1 is missing or damaged."), {path}));
     }
     std::error_code error;
     const fs::path stranger = strangerIn(tree, manifest, error);
     if (error) return systemFailure(error.value(), tree);
-    if (!stranger.empty()) return wrong(stranger.string() + " does not belong to it.");
+    if (!stranger.empty())
+        return wrong(
+            filled(localized("Updater", "%1 does not belong to it."), {stranger.string()}));
     return {};
 }
 
@@ -107,11 +113,13 @@ Outcome refuseStrangers(const fs::path& tree) {
     const fs::path stranger = strangerIn(tree, manifestOf(tree), error);
     if (error) return systemFailure(error.value(), tree);
     if (stranger.empty()) return {};
-    return Failure{0,
-                   "The folder of Vantle, " + tree.string() + ", also holds \"" +
-                       stranger.string() +
-                       "\", which is not part of it. Move that elsewhere first.",
-                   tree};
+    return Failure{
+        0,
+        filled(localized("Updater",
+                         "The folder of Vantle, %1, also holds \"%2\", which is not part "
+                         "of it. Move that elsewhere first."),
+               {tree.string(), stranger.string()}),
+        tree};
 }
 
 }  // namespace vantle::updater

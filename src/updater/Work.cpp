@@ -10,6 +10,7 @@
 #include "platform/linux/WholeFile.h"
 #include "support/Debug.h"
 #include "support/Environment.h"
+#include "support/Localization.h"
 #include "support/SystemFailure.h"
 #include "updater/Choice.h"
 #include "updater/Configuration.h"
@@ -27,7 +28,8 @@ namespace fs = std::filesystem;
 
 /// With a full stop, as our own texts have, and the system's do not.
 report::Failed failed(const std::string& message, const std::string& page = configuration().page) {
-    return {message + (message.ends_with('.') ? "" : "."), page};
+    const bool isSentence = message.ends_with('.') || message.ends_with("。");
+    return {message + (isSentence ? "" : "."), page};
 }
 
 void guardWriting(const fs::path& folder) {
@@ -44,9 +46,15 @@ Result<std::string> fetchVerified(const UpdateItem& item) {
     if (!bytes) return bytes;
     tell(report::Progress{bytes.value().size()});
     if (bytes.value().size() != item.length)
-        return Failure{0, "The update is shorter than the feed says, so it was refused.", {}};
+        return Failure{
+            0,
+            localized("Updater", "The update is shorter than the feed says, so it was refused."),
+            {}};
     if (!isSigned(bytes.value(), item.signature, built.publicKey))
-        return Failure{0, "The signature of the update is wrong, so it was refused.", {}};
+        return Failure{
+            0,
+            localized("Updater", "The signature of the update is wrong, so it was refused."),
+            {}};
     return bytes;
 }
 
@@ -110,8 +118,9 @@ UpdateReport check(const Installation& installation, const std::string& feed,
     const auto& built = configuration();
     if (built.publicKey.empty())
         return failed(
-            "This copy of Vantle cannot be updated, because it was built without the key "
-            "that updates are signed with.");
+            localized("Updater",
+                      "This copy of Vantle cannot be updated, because it was built without the key "
+                      "that updates are signed with."));
     const auto bytes = fetch(feed, {built.largestFeed, built.longestFeed, built.patience});
     if (!bytes) return failed(bytes.failure().message);
     const auto xml = signedPart(bytes.value(), built.publicKey);
@@ -119,7 +128,9 @@ UpdateReport check(const Installation& installation, const std::string& feed,
     const auto read = parseFeed(xml.value());
     if (!read) return failed(read.failure().message);
     if (read.value().date < newestFeed)
-        return failed("The update feed is older than one that was seen before, so it was refused.");
+        return failed(localized(
+            "Updater",
+            "The update feed is older than one that was seen before, so it was refused."));
     tell(report::FeedLoaded{read.value().items.size(), read.value().date});
     return choose(read.value(), {.version = version,
                                  .platform = platformName(installation.kind),
@@ -138,7 +149,8 @@ UpdateReport prepare(const Installation& installation, const UpdateItem& item) {
         case UpdateItem::Installation::page:
             break;
     }
-    return failed("This copy of Vantle cannot be replaced by itself.", item.page);
+    return failed(localized("Updater", "This copy of Vantle cannot be replaced by itself."),
+                  item.page);
 }
 
 }  // namespace vantle::updater

@@ -20,22 +20,22 @@ using namespace std::chrono_literals;
 
 // The largest first. Only days are written out, so only they have a plural in English.
 constexpr std::array units = {
-    Unit{std::chrono::years(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 yr. ago"),
-         QT_TRANSLATE_NOOP("RelativeDate", "in %1 yr.")},
-    Unit{std::chrono::months(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 mo. ago"),
-         QT_TRANSLATE_NOOP("RelativeDate", "in %1 mo.")},
-    Unit{std::chrono::weeks(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 wk. ago"),
-         QT_TRANSLATE_NOOP("RelativeDate", "in %1 wk.")},
-    Unit{std::chrono::days(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 days ago"),
-         QT_TRANSLATE_NOOP("RelativeDate", "in %1 days"), 2},
-    Unit{std::chrono::days(1), QT_TRANSLATE_NOOP("RelativeDate", "%1 day ago"),
-         QT_TRANSLATE_NOOP("RelativeDate", "in %1 day")},
-    Unit{1h, QT_TRANSLATE_NOOP("RelativeDate", "%1 hr. ago"),
-         QT_TRANSLATE_NOOP("RelativeDate", "in %1 hr.")},
-    Unit{1min, QT_TRANSLATE_NOOP("RelativeDate", "%1 min. ago"),
-         QT_TRANSLATE_NOOP("RelativeDate", "in %1 min.")},
-    Unit{1s, QT_TRANSLATE_NOOP("RelativeDate", "%1 sec. ago"),
-         QT_TRANSLATE_NOOP("RelativeDate", "in %1 sec.")},
+    Unit{std::chrono::years(1), QT_TRANSLATE_N_NOOP("RelativeDate", "%n yr. ago"),
+         QT_TRANSLATE_N_NOOP("RelativeDate", "in %n yr.")},
+    Unit{std::chrono::months(1), QT_TRANSLATE_N_NOOP("RelativeDate", "%n mo. ago"),
+         QT_TRANSLATE_N_NOOP("RelativeDate", "in %n mo.")},
+    Unit{std::chrono::weeks(1), QT_TRANSLATE_N_NOOP("RelativeDate", "%n wk. ago"),
+         QT_TRANSLATE_N_NOOP("RelativeDate", "in %n wk.")},
+    Unit{std::chrono::days(1), QT_TRANSLATE_N_NOOP("RelativeDate", "%n days ago"),
+         QT_TRANSLATE_N_NOOP("RelativeDate", "in %n days"), 2},
+    Unit{std::chrono::days(1), QT_TRANSLATE_N_NOOP("RelativeDate", "%n day ago"),
+         QT_TRANSLATE_N_NOOP("RelativeDate", "in %n day")},
+    Unit{1h, QT_TRANSLATE_N_NOOP("RelativeDate", "%n hr. ago"),
+         QT_TRANSLATE_N_NOOP("RelativeDate", "in %n hr.")},
+    Unit{1min, QT_TRANSLATE_N_NOOP("RelativeDate", "%n min. ago"),
+         QT_TRANSLATE_N_NOOP("RelativeDate", "in %n min.")},
+    Unit{1s, QT_TRANSLATE_N_NOOP("RelativeDate", "%n sec. ago"),
+         QT_TRANSLATE_N_NOOP("RelativeDate", "in %n sec.")},
 };
 
 }  // namespace
@@ -62,7 +62,8 @@ QString relativeDateText(Date date, Date now) {
     for (const Unit& unit : units) {
         if (distance < unit.least * unit.length) continue;
         const char* text = date < now ? unit.past : unit.future;
-        return QCoreApplication::translate("RelativeDate", text).arg(distance / unit.length);
+        const auto count = static_cast<int>(distance / unit.length);
+        return QCoreApplication::translate("RelativeDate", text, nullptr, count);
     }
     return QCoreApplication::translate("RelativeDate", "now");
 }

@@ -9,6 +9,7 @@
 
 #include "platform/linux/KeyFile.h"
 #include "platform/linux/WholeFile.h"
+#include "support/Localization.h"
 #include "support/Split.h"
 #include "support/SystemFailure.h"
 
@@ -77,8 +78,10 @@ Outcome AutostartLoginItem::registerItem() {
                             "[Desktop Entry]\n"
                             "Type=Application\n"
                             "Name=Vantle\n"
-                            "Comment=Keeps each new screenshot at hand\n"
-                            "Exec=" +
+                            "Comment=" +
+                                localized("LoginItem", "Keeps each new screenshot at hand") +
+                                "\n"
+                                "Exec=" +
                                 execArgument(executable_) +
                                 "\n"
                                 "X-GNOME-Autostart-enabled=true\n");

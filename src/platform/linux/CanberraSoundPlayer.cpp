@@ -9,6 +9,7 @@
 #include <thread>
 #include <utility>
 
+#include "support/Localization.h"
 #include "support/SystemLog.h"
 
 namespace vantle {
@@ -71,9 +72,10 @@ private:
     /// The theme's sound of that name or, where it has none, ours.
     const char* start(const std::string& name) {
         const std::string file = folder_.appending(name + ".wav").path();
+        const std::string description = localized("SoundPlayer", "New capture");
         const int error = library_.play(
             context_, 0, CA_PROP_EVENT_ID, name.c_str(), CA_PROP_MEDIA_FILENAME, file.c_str(),
-            CA_PROP_EVENT_DESCRIPTION, "New capture", CA_PROP_MEDIA_ROLE, "event", nullptr);
+            CA_PROP_EVENT_DESCRIPTION, description.c_str(), CA_PROP_MEDIA_ROLE, "event", nullptr);
         // The user has switched such sounds off.
         return error == CA_SUCCESS || error == CA_ERROR_DISABLED ? nullptr
                                                                  : library_.errorText(error);

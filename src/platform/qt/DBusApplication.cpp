@@ -15,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "support/Localization.h"
 #include "support/SystemLog.h"
 #include "support/Url.h"
 
@@ -22,8 +23,8 @@ namespace vantle {
 namespace {
 
 constexpr int answerTimeout = 3000;  // milliseconds
-constexpr auto notRunning = "Vantle is not running";
-constexpr auto noAnswer = "the copy that runs does not answer";
+constexpr auto notRunning = marked("Requests", "Vantle is not running");
+constexpr auto noAnswer = marked("Requests", "the copy that runs does not answer");
 
 // What is said through the socket: the parts of a request, and how an answer begins.
 constexpr char separator = '\0';
@@ -213,8 +214,9 @@ Result<std::string> DBusApplication::askThroughSocket(const ApplicationRequest& 
     for (const auto& argument : request.arguments) message += separator + argument;
     const auto answer = socket().call(message);
     if (!answer)
-        return Failure{answer.failure().code,
-                       answer.failure().code == ESRCH ? notRunning : noAnswer, ""};
+        return Failure{
+            answer.failure().code,
+            localized("Requests", answer.failure().code == ESRCH ? notRunning : noAnswer), ""};
     if (answer.value().starts_with(done)) return answer.value().substr(1);
     return Failure{0, answer.value().substr(std::min<std::size_t>(1, answer.value().size())), ""};
 }
@@ -225,7 +227,7 @@ void DBusApplication::reopen() {
 
 Result<std::string> DBusApplication::perform(const ApplicationRequest& request) {
     if (onRequest) return onRequest(request);
-    return Failure{ENOTSUP, "Vantle is not ready yet", ""};
+    return Failure{ENOTSUP, localized("Requests", "Vantle is not ready yet"), ""};
 }
 
 void DBusApplication::activateOtherCopy() {
@@ -256,9 +258,9 @@ Result<std::string> DBusApplication::ask(const ApplicationRequest& request) {
     const QDBusError error(reply);
     if (error.type() == QDBusError::ServiceUnknown ||
         error.name() == QStringLiteral("org.freedesktop.DBus.Error.NameHasNoOwner"))
-        return Failure{ESRCH, notRunning, ""};
+        return Failure{ESRCH, localized("Requests", notRunning), ""};
     if (error.type() == QDBusError::Failed) return Failure{0, error.message().toStdString(), ""};
-    return Failure{ETIMEDOUT, noAnswer, ""};
+    return Failure{ETIMEDOUT, localized("Requests", noAnswer), ""};
 }
 
 void DBusApplication::activate() {

@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <utility>
 
+#include "support/Localization.h"
 #include "support/SystemFailure.h"
 #include "updates/RelaunchEnvironment.h"
 
@@ -112,7 +113,9 @@ Outcome UpdateProgram::relaunch(const UpdateItem& item) {
     pollfd waiting{answer.get(), POLLIN, 0};
     char byte = 0;
     if (poll(&waiting, 1, patience) == 1 && ::read(answer.get(), &byte, 1) == 1) return {};
-    return Failure{ETIME, "The program that does updates does not answer.", program_.toStdString()};
+    return Failure{ETIME,
+                   localized("UpdateProgram", "The program that does updates does not answer."),
+                   program_.toStdString()};
 }
 
 void UpdateProgram::start(const QStringList& arguments, OnReport onReport) {
@@ -156,8 +159,9 @@ void UpdateProgram::end() {
     const std::string error = process_->errorString().toStdString();
     process_.release()->deleteLater();
     const auto told = std::exchange(onReport_, nullptr);
-    told(
-        last_.value_or(report::Failed{"The program that does updates failed: " + error + ".", {}}));
+    told(last_.value_or(report::Failed{
+        filled(localized("UpdateProgram", "The program that does updates failed: %1."), {error}),
+        {}}));
 }
 
 }  // namespace vantle

@@ -1,5 +1,6 @@
 #include "screens/views/SettingsModel.h"
 
+#include "support/Localization.h"
 #include "support/Version.h"
 
 namespace vantle {
@@ -123,11 +124,11 @@ void SettingsModel::openCornerMenu(QQuickItem* button) {
 }
 
 Menu SettingsModel::cornerMenu() {
-    Menu menu{.title = "Show panel in"};
+    Menu menu{.title = localized("SettingsModel", "Show panel in")};
     for (const PanelCorner corner : allPanelCorners) {
         const bool isChosen = corner == settings_.corner.value();
         if (isChosen) menu.current = static_cast<int>(menu.items.size());
-        menu.items.push_back({.title = std::string(label(corner)),
+        menu.items.push_back({.title = label(corner),
                               .symbol = isChosen ? "checkmark" : "",
                               .action = [this, corner] { settings_.corner.set(corner); }});
     }

@@ -1,9 +1,12 @@
 #include "screens/views/SettingsWindow.h"
 
+#include <QCoreApplication>
+
 namespace vantle {
 
 SettingsWindow::SettingsWindow(Settings& settings, Platform& platform)
-    : ScreenWindow(QStringLiteral("Vantle Settings")), model_(settings, platform) {
+    : ScreenWindow(QCoreApplication::translate("SettingsWindow", "Vantle Settings")),
+      model_(settings, platform) {
     load("SettingsView", "settings", &model_);
 }
 

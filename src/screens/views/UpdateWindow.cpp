@@ -1,11 +1,14 @@
 #include "screens/views/UpdateWindow.h"
 
+#include <QCoreApplication>
 #include <QQuickItem>
 
 namespace vantle {
 
 UpdateWindow::UpdateWindow(UpdateFlow& flow)
-    : ScreenWindow(QStringLiteral("Vantle Update")), flow_(flow), model_(flow) {
+    : ScreenWindow(QCoreApplication::translate("UpdateWindow", "Vantle Update")),
+      flow_(flow),
+      model_(flow) {
     load("UpdateView", "update", &model_);
     connect(rootObject(), &QQuickItem::implicitHeightChanged, this, &UpdateWindow::fit);
     fit();

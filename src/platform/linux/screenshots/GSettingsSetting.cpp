@@ -1,5 +1,6 @@
 #include "platform/linux/screenshots/GSettingsSetting.h"
 
+#include "support/Localization.h"
 #include "support/SystemLog.h"
 
 namespace vantle {
@@ -20,7 +21,9 @@ Outcome GSettingsSetting::write(const std::optional<std::string>& text) {
 
 std::string GSettingsSetting::obstacle() const {
     if (settings_->isWritable(schema_, key_)) return {};
-    return "The desktop does not let its setting \"" + key_ + "\" be changed.";
+    return filled(
+        localized("ScreenshotTool", "The desktop does not let its setting \"%1\" be changed."),
+        {key_});
 }
 
 Failure GSettingsSetting::complain(const Failure& failure) const {

@@ -9,6 +9,7 @@
 #include "platform/linux/screenshots/Folders.h"
 #include "platform/linux/screenshots/GSettingsSetting.h"
 #include "platform/linux/screenshots/KeyFileSetting.h"
+#include "support/Localization.h"
 
 namespace vantle {
 namespace {
@@ -65,7 +66,8 @@ ScreenshotTool xfceScreenshooter(const Surroundings& its) {
             .folder = {.setting = std::make_unique<KeyFileSetting>(
                            its.files("xfce4/xfce4-screenshooter"), "", "screenshot_dir"),
                        .notation = addressOfXfce()},
-            .preview = {.obstacle = "The screenshot tool of Xfce shows no preview."}};
+            .preview = {.obstacle = localized("ScreenshotTool",
+                                              "The screenshot tool of Xfce shows no preview.")}};
 }
 
 ScreenshotTool gnomeScreenshot(const Surroundings& its) {
@@ -73,15 +75,19 @@ ScreenshotTool gnomeScreenshot(const Surroundings& its) {
         .defaultFolder = its.picturesOrHome(),
         .folder = {.setting = its.inGSettings("org.gnome.gnome-screenshot", "auto-save-directory"),
                    .notation = addressOrPath()},
-        .preview = {.obstacle = "The screenshot tool of this desktop shows no preview."}};
+        .preview = {.obstacle =
+                        localized("ScreenshotTool",
+                                  "The screenshot tool of this desktop shows no preview.")}};
 }
 
 ScreenshotTool mateScreenshot(const Surroundings& its) {
-    return {.defaultFolder = [directories = its.directories] { return directories.desktop(); },
-            .folder = {.setting = its.inGSettings("org.mate.screenshot", "last-save-directory"),
-                       .notation = addressOrPath()},
-            .preview = {.isShown = true,
-                        .obstacle = "The screenshot tool of MATE always asks in a window."}};
+    return {
+        .defaultFolder = [directories = its.directories] { return directories.desktop(); },
+        .folder = {.setting = its.inGSettings("org.mate.screenshot", "last-save-directory"),
+                   .notation = addressOrPath()},
+        .preview = {.isShown = true,
+                    .obstacle = localized("ScreenshotTool",
+                                          "The screenshot tool of MATE always asks in a window.")}};
 }
 
 ScreenshotTool flameshot(const Surroundings& its) {
@@ -114,7 +120,9 @@ ScreenshotTool screengrab(const Surroundings& its) {
                            its.files("screengrab/screengrab.conf"), "Base", "defDir"),
                        .notation = pathOfQt()},
             // Its setting "trayMessages" changes nothing about that in version 2.5.
-            .preview = {.isShown = true, .obstacle = "ScreenGrab always notifies after it saved."}};
+            .preview = {.isShown = true,
+                        .obstacle = localized("ScreenshotTool",
+                                              "ScreenGrab always notifies after it saved.")}};
 }
 
 ScreenshotTool shellOfGnome(const Surroundings& its) {
@@ -125,8 +133,11 @@ ScreenshotTool shellOfGnome(const Surroundings& its) {
                         .appending(translated(gnomeShell, "Screenshots"));
                 },
             .missingFolder = MissingFolder::isMade,
-            .folder = {.obstacle = "GNOME always saves screenshots in this folder."},
-            .preview = {.isShown = true, .obstacle = "GNOME always shows its own preview."}};
+            .folder = {.obstacle = localized("ScreenshotTool",
+                                             "GNOME always saves screenshots in this folder.")},
+            .preview = {
+                .isShown = true,
+                .obstacle = localized("ScreenshotTool", "GNOME always shows its own preview.")}};
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/linux/WholeFile.h"
+#include "support/Localization.h"
 #include "support/SystemFailure.h"
 #include "support/SystemLog.h"
 
@@ -51,11 +52,15 @@ Outcome SettingsFiles::change(std::string_view group, std::string_view key,
 }
 
 std::string SettingsFiles::obstacle() const {
-    const std::string file =
-        "The tool's settings file " + std::string(ownFile().lastPathComponent());
+    const std::string_view file = ownFile().lastPathComponent();
     const auto settings = load(ownFile());
-    if (!settings) return file + " cannot be read: " + settings.failure().message + ".";
-    if (isReadOnly(ownFile())) return file + " is read-only.";
+    if (!settings)
+        return filled(
+            localized("ScreenshotTool", "The tool's settings file %1 cannot be read: %2."),
+            {file, settings.failure().message});
+    if (isReadOnly(ownFile()))
+        return filled(localized("ScreenshotTool", "The tool's settings file %1 is read-only."),
+                      {file});
     return {};
 }
 
@@ -63,7 +68,7 @@ Result<KeyFile> SettingsFiles::load(const Url& file) const {
     const auto contents = readWholeFile(file, largestFile);
     if (contents) {
         if (KeyFile::isText(contents.value())) return KeyFile(contents.value());
-        return Failure{EINVAL, "it is damaged", file.path()};
+        return Failure{EINVAL, localized("ScreenshotTool", "it is damaged"), file.path()};
     }
     if (contents.failure().code == ENOENT) return KeyFile();
     return contents.failure();

@@ -8,6 +8,7 @@
 #include "platform/qt/BusCall.h"
 #include "platform/qt/FileCommand.h"
 #include "platform/qt/sharing/ManagedObjects.h"
+#include "support/Localization.h"
 #include "support/SystemLog.h"
 
 namespace vantle {
@@ -38,8 +39,8 @@ void BluetoothSharing::find(Found found) {
     const auto answered = [this, found = std::move(found)](const QDBusMessage& reply) {
         std::vector<SharingOffer> offers;
         if (hasAdapter(managedObjects(reply)))
-            offers.push_back(
-                {"Bluetooth…", "radiowaves", [this](const auto& files) { send(files); }});
+            offers.push_back({localized("SharingServicePicker", "Bluetooth…"), "radiowaves",
+                              [this](const auto& files) { send(files); }});
         found(std::move(offers));
     };
     // Nobody else here needs the system's bus.

@@ -13,6 +13,7 @@
 #include "platform/qt/BusCall.h"
 #include "platform/qt/FileCommand.h"
 #include "support/FileDescriptor.h"
+#include "support/Localization.h"
 #include "support/SystemLog.h"
 
 namespace vantle {
@@ -75,7 +76,7 @@ void MailSharing::find(Found found) {
     message << QStringLiteral("org.freedesktop.portal.Email") << QStringLiteral("version");
     message.setAutoStartService(false);
     const auto answered = [this, found = std::move(found)](const QDBusMessage& reply) {
-        SharingOffer offer{"Mail…", "envelope", {}};
+        SharingOffer offer{localized("SharingServicePicker", "Mail…"), "envelope", {}};
         if (!isError(reply))
             offer.perform = [this](const auto& files) { composeByPortal(files); };
         else if (commandFor(mailPrograms, {}))
