@@ -18,6 +18,7 @@
 #include "panel/views/dragging/QtDraggingSessions.h"
 #include "platform/qt/DBusApplication.h"
 #include "platform/qt/UnixSignals.h"
+#include "platform/qt/translations/Translations.h"
 #include "screens/views/OnboardingWindow.h"
 #include "screens/views/SettingsWindow.h"
 #include "support/SystemLog.h"
@@ -109,10 +110,12 @@ AppDelegate::Views makeViews(Platform& platform, DraggingSessions& dragging) {
                 }};
 }
 
-int run(int& argc, char** argv, const std::optional<ApplicationRequest>& request) {
+int run(int& argc, char** argv, const std::optional<ApplicationRequest>& request,
+        Translations& translations) {
     qInstallMessageHandler(endOnFatalMessages);
     QGuiApplication application = makeApplication(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    translations.install();
     joinSession(application);
     if (request) {
         const auto answer = DBusApplication(programIdentifier).ask(*request);
@@ -136,13 +139,14 @@ int run(int& argc, char** argv, const std::optional<ApplicationRequest>& request
 
 int main(int argc, char** argv) {
     returnLargeBlocksAtOnce();
+    Translations translations;
     const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
     std::error_code noFolder;
     const auto here = std::filesystem::current_path(noFolder);
     const auto line = parseCommandLine(arguments, Url::file(noFolder ? "/" : here.string()));
     switch (line.kind) {
         case CommandLine::Kind::start:
-            return run(argc, argv, line.request);
+            return run(argc, argv, line.request, translations);
         case CommandLine::Kind::ask:
             return ask(argc, argv, *line.request);
         case CommandLine::Kind::print:

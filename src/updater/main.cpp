@@ -19,6 +19,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/qt/translations/Translations.h"
 #include "support/FileDescriptor.h"
 #include "updater/Configuration.h"
 #include "updater/Relaunch.h"
@@ -96,6 +97,7 @@ void surviveClosedPipes() {
 
 int main(int argc, char** argv) {
     surviveClosedPipes();
+    const Translations translations;
     auto options = optionsFrom(argc - 2, argv + 2);
     int status = wrongCommandLine;
     if (argc >= 2 && options && options->contains("version")) status = run(argv[1], *options);

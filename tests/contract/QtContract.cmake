@@ -28,15 +28,19 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/SharingServices.h
   ${CMAKE_CURRENT_LIST_DIR}/SharingSourceTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/StatusItemContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/TranslationsTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TrayService.h
   ${CMAKE_CURRENT_LIST_DIR}/UpdateEngineContractTests.cpp)
 set_target_properties(qt_contract_tests PROPERTIES AUTOMOC ON)
 target_compile_definitions(
-  qt_contract_tests PRIVATE VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>")
-target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt_sharing vantle_platform_qt_tray
+  qt_contract_tests PRIVATE VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>"
+                            VANTLE_TRANSLATIONS="${CMAKE_BINARY_DIR}/share/vantle/translations")
+target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt_sharing
+                                                vantle_platform_qt_translations
+                                                vantle_platform_qt_tray
                                                 vantle_fakes vantle_warnings
                                                 GTest::gmock)
 vantle_precompile_tests(qt_contract_tests <gmock/gmock.h> <map> <string> <vector> <QDBusConnection>
                         <QDBusMessage> <QGuiApplication>)
-add_dependencies(qt_contract_tests application_copy)
+add_dependencies(qt_contract_tests application_copy translations)
 gtest_discover_tests(qt_contract_tests PROPERTIES LABELS contract DISCOVERY_TIMEOUT 60)

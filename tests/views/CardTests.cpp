@@ -18,6 +18,7 @@ using testing::IsEmpty;
 
 std::vector<CapturePointer> captures(int count) {
     std::vector<CapturePointer> made;
+    made.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) made.push_back(capture(std::to_string(i)));
     return made;
 }

@@ -1,3 +1,5 @@
+// gallery FOLDER [LANGUAGE]
+//
 // Writes sheets of pictures, at the scale that QT_SCALE_FACTOR says: each scene of the card, light
 // and dark, over a light and a dark wallpaper; the steps of the onboarding and the settings, light
 // and dark.
@@ -11,6 +13,7 @@
 #include "ScreenStage.h"
 #include "Updates.h"
 #include "panel/views/Appearance.h"
+#include "platform/qt/translations/Translations.h"
 
 namespace {
 
@@ -120,10 +123,12 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     const QGuiApplication application(argc, argv);
-    if (argc != 2) {
-        std::fputs("Usage: gallery FOLDER\n", stderr);
+    if (argc < 2 || argc > 3) {
+        std::fputs("Usage: gallery FOLDER [LANGUAGE]\n", stderr);
         return 2;
     }
+    Translations translations(Translations::folderOfProgram(), {argc == 3 ? argv[2] : "en"});
+    translations.install();
     QFont font(QStringLiteral("Inter"));
     font.setPixelSize(13);
     QGuiApplication::setFont(font);

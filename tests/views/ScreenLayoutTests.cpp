@@ -1,6 +1,6 @@
 // Nothing is cut off and nothing lies over something else, however large the window and its
-// letters are and from whichever side they are read. VANTLE_KEEP_PICTURES=1 leaves a picture of
-// each in the working folder.
+// letters are, in each language, and from whichever side it is read. VANTLE_KEEP_PICTURES=1 leaves
+// a picture of each in the working folder.
 
 #include <gtest/gtest.h>
 
@@ -10,6 +10,7 @@
 
 #include "ScreenStage.h"
 #include "Updates.h"
+#include "platform/qt/translations/Translations.h"
 
 namespace vantle {
 namespace {
@@ -19,6 +20,7 @@ struct Circumstances {
     Size size;
     int fontPixels;
     Qt::LayoutDirection direction;
+    const char* language = "en";
 };
 
 class ScreenLayoutTest : public testing::TestWithParam<Circumstances>, protected ScreenStage {
@@ -27,6 +29,7 @@ protected:
         QFont font = ownFont_;
         font.setPixelSize(GetParam().fontPixels);
         QGuiApplication::setFont(font);
+        translations_.install();
         QGuiApplication::setLayoutDirection(GetParam().direction);
         settings->setScreenshotFolder(Url::file(
             "/home/user/A folder with a long name/and one in it whose name is longer by far"));
@@ -85,6 +88,8 @@ protected:
 
 private:
     const QFont ownFont_;
+    Translations translations_{QStringLiteral(VANTLE_TRANSLATIONS),
+                               {QString::fromLatin1(GetParam().language)}};
     int pictures_ = 0;
 };
 
@@ -124,15 +129,22 @@ constexpr auto rightToLeft = Qt::RightToLeft;
 
 INSTANTIATE_TEST_SUITE_P(
     Screens, ScreenLayoutTest,
-    testing::Values(Circumstances{"smallest", smallest, 13, leftToRight},
-                    Circumstances{"large", large, 13, leftToRight},
-                    Circumstances{"usualWithLargeLetters", usual, 18, leftToRight},
-                    Circumstances{"smallestWithLargeLetters", smallest, 18, leftToRight},
-                    Circumstances{"usualWithHugeLetters", usual, 26, leftToRight},
-                    Circumstances{"smallestWithHugeLetters", smallest, 26, leftToRight},
-                    Circumstances{"largeWithHugeLetters", large, 26, leftToRight},
-                    Circumstances{"usualFromTheRight", usual, 13, rightToLeft},
-                    Circumstances{"usualWithHugeLettersFromTheRight", usual, 26, rightToLeft}),
+    testing::Values(
+        Circumstances{"smallest", smallest, 13, leftToRight},
+        Circumstances{"large", large, 13, leftToRight},
+        Circumstances{"usualWithLargeLetters", usual, 18, leftToRight},
+        Circumstances{"smallestWithLargeLetters", smallest, 18, leftToRight},
+        Circumstances{"usualWithHugeLetters", usual, 26, leftToRight},
+        Circumstances{"smallestWithHugeLetters", smallest, 26, leftToRight},
+        Circumstances{"largeWithHugeLetters", large, 26, leftToRight},
+        Circumstances{"usualFromTheRight", usual, 13, rightToLeft},
+        Circumstances{"usualWithHugeLettersFromTheRight", usual, 26, rightToLeft},
+        Circumstances{"usualInGerman", usual, 13, leftToRight, "de"},
+        Circumstances{"usualInFrench", usual, 13, leftToRight, "fr"},
+        Circumstances{"usualInJapanese", usual, 13, leftToRight, "ja"},
+        Circumstances{"smallestWithLargeLettersInGerman", smallest, 18, leftToRight, "de"},
+        Circumstances{"smallestWithLargeLettersInFrench", smallest, 18, leftToRight, "fr"},
+        Circumstances{"smallestWithLargeLettersInJapanese", smallest, 18, leftToRight, "ja"}),
     [](const auto& circumstances) { return std::string(circumstances.param.name); });
 
 }  // namespace

@@ -13,6 +13,9 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 #include <QWindow>
 #include <cstdio>
 
@@ -35,11 +38,20 @@ void stayAbove(QWidget& dialog, QWindow& parent) {
     dialog.setGeometry(place);
 }
 
+/// The dialog's own words, where the system has them in the user's language.
+void translateToolkit(QTranslator& translator) {
+    if (translator.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&translator);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     prctl(PR_SET_PDEATHSIG, SIGTERM);
     QApplication application(argc, argv);
+    QTranslator translator;
+    translateToolkit(translator);
     QGuiApplication::setApplicationDisplayName(QString());
     QGuiApplication::setDesktopFileName(QStringLiteral("org.vantle.Vantle"));
     if (argc < 4) {

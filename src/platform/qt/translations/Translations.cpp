@@ -1,0 +1,58 @@
+#include "platform/qt/translations/Translations.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLocale>
+
+#include "support/Localization.h"
+
+namespace vantle {
+namespace {
+
+/// The toolkit looks this up to learn from which side a language is written.
+[[maybe_unused]] constexpr const char* direction =
+    //: Not shown. "LTR" for languages written from left to right, "RTL" for those from right to
+    //: left.
+    QT_TRANSLATE_NOOP("QGuiApplication", "QT_LAYOUT_DIRECTION");
+
+bool isAsWritten(const QString& language) {
+    return language == QLatin1String("C") || language == QLatin1String("en") ||
+           language.startsWith(QLatin1String("en-"));
+}
+
+}  // namespace
+
+QString Translations::folderOfProgram() {
+    const QFileInfo program(QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget());
+    return program.path() + QStringLiteral("/../share/vantle/translations");
+}
+
+QStringList Translations::languagesOfDesktop() {
+    return QLocale::system().uiLanguages();
+}
+
+Translations::Translations(const QString& folder, const QStringList& languages) {
+    const auto load = [&](QString language) {
+        // Where there is no file "vantle_de_AT", the toolkit looks for "vantle_de".
+        return translator_.load(QStringLiteral("vantle_") + language.replace(u'-', u'_'), folder);
+    };
+    for (const QString& language : languages) {
+        if (isAsWritten(language)) return;
+        if (!load(language)) continue;
+        setTranslator([this](const char* context, const char* text) {
+            const QString found = translator_.translate(context, text);
+            return found.isEmpty() ? std::string(text) : found.toStdString();
+        });
+        return;
+    }
+}
+
+Translations::~Translations() {
+    setTranslator({});
+}
+
+void Translations::install() {
+    if (!language().isEmpty()) QCoreApplication::installTranslator(&translator_);
+}
+
+}  // namespace vantle

@@ -1,0 +1,1116 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>AppDelegate</name>
+    <message>
+        <source>Vantle is running</source>
+        <translation>Vantle läuft</translation>
+    </message>
+    <message>
+        <source>This desktop has no tray for Vantle&apos;s icon. New captures appear on the card all the same. For the settings start Vantle again; to pause it, or to open your screenshots, use the actions of its launcher.</source>
+        <translation>Dieser Desktop hat keinen Infobereich für das Symbol von Vantle. Neue Aufnahmen erscheinen trotzdem auf der Karte. Für die Einstellungen starten Sie Vantle noch einmal; zum Anhalten oder um Ihre Bildschirmfotos zu öffnen, verwenden Sie die Aktionen des Starters.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Sample screenshot</source>
+        <translation>Beispielfoto</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Vantle needs access to your screenshot folder</source>
+        <translation>Vantle braucht Zugriff auf Ihren Ordner für Bildschirmfotos</translation>
+    </message>
+    <message>
+        <source>macOS is blocking Vantle from reading %1. Allow Vantle under System Settings → Privacy &amp; Security → Files and Folders, then click Retry.</source>
+        <translation>Das System lässt Vantle „%1“ nicht lesen. Erlauben Sie es Vantle in den Systemeinstellungen unter Datenschutz &amp; Sicherheit → Dateien und Ordner und klicken Sie dann auf „Erneut versuchen“.</translation>
+    </message>
+    <message>
+        <source>Open Privacy Settings</source>
+        <translation>Datenschutz öffnen</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Vantle can&apos;t find your screenshot folder</source>
+        <translation>Vantle findet Ihren Ordner für Bildschirmfotos nicht</translation>
+    </message>
+    <message>
+        <source>%1 is missing and could not be recreated. Choose another folder in Settings.</source>
+        <translation>„%1“ fehlt und konnte nicht neu angelegt werden. Wählen Sie in den Einstellungen einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Vantle can&apos;t watch your screenshot folder</source>
+        <translation>Vantle kann Ihren Ordner für Bildschirmfotos nicht beobachten</translation>
+    </message>
+</context>
+<context>
+    <name>BehaviorControls</name>
+    <message>
+        <source>Captures</source>
+        <translation>Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Keep captures until dismissed (recommended)</source>
+        <translation>Aufnahmen behalten, bis ich sie schließe (empfohlen)</translation>
+    </message>
+    <message>
+        <source>Pin a capture to keep it past the timer.</source>
+        <translation>Angeheftete Aufnahmen bleiben auch nach Ablauf der Zeit.</translation>
+    </message>
+    <message>
+        <source>After I use a capture</source>
+        <translation>Nach dem Verwenden</translation>
+    </message>
+    <message>
+        <source>Using = dragging, opening, copying, sharing or revealing.</source>
+        <translation>Verwenden = ziehen, öffnen, kopieren, teilen oder im Ordner zeigen.</translation>
+    </message>
+    <message>
+        <source>Remove it from Vantle</source>
+        <translation>Aus Vantle entfernen</translation>
+    </message>
+    <message>
+        <source>Keep it in Vantle</source>
+        <translation>In Vantle behalten</translation>
+    </message>
+    <message>
+        <source>Move the file to the Trash after I use it</source>
+        <translation>Datei nach dem Verwenden in den Papierkorb legen</translation>
+    </message>
+    <message>
+        <source>After dragging or copying. Recoverable from the Trash.</source>
+        <translation>Nach Ziehen oder Kopieren. Wiederherstellbar.</translation>
+    </message>
+    <message>
+        <source>Also show screen recordings</source>
+        <translation>Auch Bildschirmaufzeichnungen zeigen</translation>
+    </message>
+    <message>
+        <source>Copy screenshot to clipboard automatically</source>
+        <translation>Automatisch in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Panel &amp; app</source>
+        <translation>Karte &amp; App</translation>
+    </message>
+    <message>
+        <source>Show panel in</source>
+        <translation>Karte zeigen</translation>
+    </message>
+    <message>
+        <source>Hide the built-in macOS thumbnail</source>
+        <translation>Vorschau des Systems ausblenden</translation>
+    </message>
+    <message>
+        <source>Recommended. Captures reach Vantle instantly instead of after Apple&apos;s preview.</source>
+        <translation>Empfohlen. Aufnahmen erscheinen ohne Wartezeit.</translation>
+    </message>
+    <message>
+        <source>Open Vantle at login</source>
+        <translation>Vantle beim Anmelden öffnen</translation>
+    </message>
+    <message>
+        <source>Also show Vantle in the Dock</source>
+        <translation>Vantle auch in der Taskleiste zeigen</translation>
+    </message>
+    <message>
+        <source>Useful if the menu bar icon is hidden under the notch.</source>
+        <translation>Nützlich, wenn das Symbol in der Menüleiste verdeckt ist.</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 Sekunden</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureTile</name>
+    <message>
+        <source>%1, recording, %2</source>
+        <translation>%1, Aufzeichnung, %2</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Angeheftet</translation>
+    </message>
+</context>
+<context>
+    <name>ClearAllPill</name>
+    <message>
+        <source>Clear all</source>
+        <translation>Alle schließen</translation>
+    </message>
+</context>
+<context>
+    <name>CloseButton</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>open the settings</source>
+        <translation>öffnet die Einstellungen</translation>
+    </message>
+    <message>
+        <source>stop watching until --resume</source>
+        <translation>hält die Beobachtung bis --resume an</translation>
+    </message>
+    <message>
+        <source>watch again</source>
+        <translation>beobachtet wieder</translation>
+    </message>
+    <message>
+        <source>show the screenshots or recordings on the card</source>
+        <translation>zeigt Bildschirmfotos oder Aufzeichnungen auf der Karte</translation>
+    </message>
+    <message>
+        <source>take the card away</source>
+        <translation>nimmt die Karte weg</translation>
+    </message>
+    <message>
+        <source>give the card the keyboard</source>
+        <translation>gibt der Karte die Tastatur</translation>
+    </message>
+    <message>
+        <source>open the folder that is watched</source>
+        <translation>öffnet den beobachteten Ordner</translation>
+    </message>
+    <message>
+        <source>show two sample captures</source>
+        <translation>zeigt zwei Beispielaufnahmen</translation>
+    </message>
+    <message>
+        <source>end Vantle</source>
+        <translation>beendet Vantle</translation>
+    </message>
+    <message>
+        <source>say what Vantle is doing</source>
+        <translation>sagt, was Vantle gerade tut</translation>
+    </message>
+    <message>
+        <source>print the version</source>
+        <translation>gibt die Version aus</translation>
+    </message>
+    <message>
+        <source>print this text</source>
+        <translation>gibt diesen Text aus</translation>
+    </message>
+    <message>
+        <source>Try &quot;vantle --help&quot;.</source>
+        <translation>Hilfe gibt „vantle --help“.</translation>
+    </message>
+    <message>
+        <source>unexpected argument &quot;%1&quot;</source>
+        <translation>unerwartetes Argument „%1“</translation>
+    </message>
+    <message>
+        <source>Usage: vantle [OPTION]
+
+Starts Vantle, or brings the one that runs forward. With an option it talks to the one
+that runs; --settings, --show and --sample start one where none does.</source>
+        <translation>Aufruf: vantle [OPTION]
+
+Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das laufende;
+--settings, --show und --sample starten eines, wo keines läuft.</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 when it was done, 1 when it could not be, 2 for a wrong command line.</source>
+        <translation>Exit-Status: 0, wenn es getan wurde, 1, wenn es nicht ging, 2 bei falschem Aufruf.</translation>
+    </message>
+    <message>
+        <source>unknown option &quot;%1&quot;</source>
+        <translation>unbekannte Option „%1“</translation>
+    </message>
+    <message>
+        <source>%1 needs a file</source>
+        <translation>%1 braucht eine Datei</translation>
+    </message>
+</context>
+<context>
+    <name>DismissSlider</name>
+    <message>
+        <source>Otherwise dismiss after</source>
+        <translation>Sonst schließen nach</translation>
+    </message>
+</context>
+<context>
+    <name>DoneStep</name>
+    <message>
+        <source>You&apos;re all set</source>
+        <translation>Alles bereit</translation>
+    </message>
+    <message>
+        <source>Show me a sample</source>
+        <translation>Beispiel zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>DraggableThumbnail</name>
+    <message>
+        <source>Drag into any app, or click to open. ⌘-click to select.</source>
+        <translation>In Apps ziehen, klicken öffnet. ⌘-Klick wählt aus.</translation>
+    </message>
+</context>
+<context>
+    <name>FolderAccessRow</name>
+    <message>
+        <source>macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.</source>
+        <translation>Für Schreibtisch, Dokumente und Downloads fragt das System einmal. Bilder braucht keine Erlaubnis.</translation>
+    </message>
+    <message>
+        <source>Grant access</source>
+        <translation>Zugriff erlauben</translation>
+    </message>
+    <message>
+        <source>Folder access</source>
+        <translation>Zugriff auf den Ordner</translation>
+    </message>
+    <message>
+        <source>Vantle can read this folder</source>
+        <translation>Vantle kann diesen Ordner lesen</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>Erneut prüfen</translation>
+    </message>
+    <message>
+        <source>macOS is blocking access to this folder</source>
+        <translation>Das System verweigert den Zugriff auf diesen Ordner</translation>
+    </message>
+    <message>
+        <source>Allow Vantle under Privacy &amp; Security → Files and Folders, then check again.</source>
+        <translation>Erlauben Sie es Vantle unter Datenschutz &amp; Sicherheit → Dateien und Ordner und prüfen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>Open Privacy Settings</source>
+        <translation>Datenschutz öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>FolderPicker</name>
+    <message>
+        <source>Change</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>Desktop (macOS default)</source>
+        <translation>Schreibtisch (Standard)</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Auswählen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Restore %1</source>
+        <translation>%1 wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Use This Folder</source>
+        <translation>Diesen Ordner verwenden</translation>
+    </message>
+    <message>
+        <source>Choose where macOS should save screenshots and screen recordings.</source>
+        <translation>Wo sollen Bildschirmfotos und Bildschirmaufzeichnungen gespeichert werden?</translation>
+    </message>
+</context>
+<context>
+    <name>LoginItem</name>
+    <message>
+        <source>Keeps each new screenshot at hand</source>
+        <translation>Hält jedes neue Bildschirmfoto griffbereit</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingSteps</name>
+    <message>
+        <source>Start Using Vantle</source>
+        <translation>Vantle verwenden</translation>
+    </message>
+    <message>
+        <source>Get Started</source>
+        <translation>Los geht’s</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingSummary</name>
+    <message>
+        <source>Saving to %1 folder</source>
+        <translation>Gespeichert wird im Ordner „%1“</translation>
+    </message>
+    <message>
+        <source>Stays for %1 seconds unless pinned</source>
+        <translation>Bleibt %1 Sekunden, angeheftet länger</translation>
+    </message>
+    <message>
+        <source>Stays until dismissed</source>
+        <translation>Bleibt bis zum Schließen</translation>
+    </message>
+    <message>
+        <source>Panel in the %1</source>
+        <translation>Karte: %1</translation>
+    </message>
+    <message>
+        <source>macOS thumbnail hidden</source>
+        <translation>Vorschau des Systems ausgeblendet</translation>
+    </message>
+    <message>
+        <source>macOS thumbnail still shown</source>
+        <translation>Vorschau des Systems wird noch gezeigt</translation>
+    </message>
+    <message>
+        <source>Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will slide into the %1 corner. Take another and they line up together.</source>
+        <translation>Vantle wartet in Ihrer Menüleiste. Machen Sie mit ⇧⌘4 ein Bildschirmfoto, und es gleitet in die Ecke „%1“. Machen Sie noch eines, und beide stehen nebeneinander.</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingView</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>PageDots</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Schritt %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>PanelCorner</name>
+    <message>
+        <source>Bottom Right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>Oben links</translation>
+    </message>
+</context>
+<context>
+    <name>QGuiApplication</name>
+    <message>
+        <source>QT_LAYOUT_DIRECTION</source>
+        <extracomment>Not shown. &quot;LTR&quot; for languages written from left to right, &quot;RTL&quot; for those from right to left.</extracomment>
+        <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>RelativeDate</name>
+    <message numerus="yes">
+        <source>%n yr. ago</source>
+        <translation>
+            <numerusform>vor %n Jahr</numerusform>
+            <numerusform>vor %n Jahren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n yr.</source>
+        <translation>
+            <numerusform>in %n Jahr</numerusform>
+            <numerusform>in %n Jahren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n mo. ago</source>
+        <translation>
+            <numerusform>vor %n Monat</numerusform>
+            <numerusform>vor %n Monaten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n mo.</source>
+        <translation>
+            <numerusform>in %n Monat</numerusform>
+            <numerusform>in %n Monaten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n wk. ago</source>
+        <translation>
+            <numerusform>vor %n Woche</numerusform>
+            <numerusform>vor %n Wochen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n wk.</source>
+        <translation>
+            <numerusform>in %n Woche</numerusform>
+            <numerusform>in %n Wochen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>vor %n Tag</numerusform>
+            <numerusform>vor %n Tagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n days</source>
+        <translation>
+            <numerusform>in %n Tag</numerusform>
+            <numerusform>in %n Tagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day ago</source>
+        <translation>
+            <numerusform>vor %n Tag</numerusform>
+            <numerusform>vor %n Tagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day</source>
+        <translation>
+            <numerusform>in %n Tag</numerusform>
+            <numerusform>in %n Tagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hr. ago</source>
+        <translation>
+            <numerusform>vor %n Std.</numerusform>
+            <numerusform>vor %n Std.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hr.</source>
+        <translation>
+            <numerusform>in %n Std.</numerusform>
+            <numerusform>in %n Std.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n min. ago</source>
+        <translation>
+            <numerusform>vor %n Min.</numerusform>
+            <numerusform>vor %n Min.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n min.</source>
+        <translation>
+            <numerusform>in %n Min.</numerusform>
+            <numerusform>in %n Min.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sec. ago</source>
+        <translation>
+            <numerusform>vor %n Sek.</numerusform>
+            <numerusform>vor %n Sek.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n sec.</source>
+        <translation>
+            <numerusform>in %n Sek.</numerusform>
+            <numerusform>in %n Sek.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>Requests</name>
+    <message>
+        <source>Vantle is ending</source>
+        <translation>Vantle wird gerade beendet</translation>
+    </message>
+    <message>
+        <source>there is no action &quot;%1&quot;</source>
+        <translation>die Aktion „%1“ gibt es nicht</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>not a screenshot or recording</source>
+        <translation>kein Bildschirmfoto und keine Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Vantle is not running</source>
+        <translation>Vantle läuft nicht</translation>
+    </message>
+    <message>
+        <source>the copy that runs does not answer</source>
+        <translation>das laufende Vantle antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Vantle is not ready yet</source>
+        <translation>Vantle ist noch nicht bereit</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotTool</name>
+    <message>
+        <source>The desktop does not let its setting &quot;%1&quot; be changed.</source>
+        <translation>Der Desktop lässt seine Einstellung „%1“ nicht ändern.</translation>
+    </message>
+    <message>
+        <source>The screenshot tool of Xfce shows no preview.</source>
+        <translation>Das Bildschirmfoto-Programm von Xfce zeigt keine Vorschau.</translation>
+    </message>
+    <message>
+        <source>The screenshot tool of this desktop shows no preview.</source>
+        <translation>Das Bildschirmfoto-Programm dieses Desktops zeigt keine Vorschau.</translation>
+    </message>
+    <message>
+        <source>The screenshot tool of MATE always asks in a window.</source>
+        <translation>Das Bildschirmfoto-Programm von MATE fragt immer in einem Fenster.</translation>
+    </message>
+    <message>
+        <source>ScreenGrab always notifies after it saved.</source>
+        <translation>ScreenGrab meldet sich immer nach dem Speichern.</translation>
+    </message>
+    <message>
+        <source>GNOME always saves screenshots in this folder.</source>
+        <translation>GNOME speichert Bildschirmfotos immer in diesem Ordner.</translation>
+    </message>
+    <message>
+        <source>GNOME always shows its own preview.</source>
+        <translation>GNOME zeigt immer seine eigene Vorschau.</translation>
+    </message>
+    <message>
+        <source>The tool&apos;s settings file %1 cannot be read: %2.</source>
+        <translation>Die Einstellungsdatei %1 des Programms ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>The tool&apos;s settings file %1 is read-only.</source>
+        <translation>Die Einstellungsdatei %1 des Programms ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>sie ist beschädigt</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionBar</name>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n ausgewählt</numerusform>
+            <numerusform>%n ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Copy selected</source>
+        <translation>Auswahl kopieren</translation>
+    </message>
+    <message>
+        <source>Move selected to Trash</source>
+        <translation>Auswahl in den Papierkorb</translation>
+    </message>
+    <message>
+        <source>Dismiss selected</source>
+        <translation>Auswahl schließen</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>Show panel in</source>
+        <translation>Karte zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStep</name>
+    <message>
+        <source>Set up Vantle</source>
+        <translation>Vantle einrichten</translation>
+    </message>
+    <message>
+        <source>Recommended settings are already selected</source>
+        <translation>Die empfohlenen Einstellungen sind schon gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>SCREENSHOTS ARE SAVED TO</source>
+        <translation>BILDSCHIRMFOTOS LANDEN IN</translation>
+    </message>
+    <message>
+        <source>Vantle %1</source>
+        <translation>Vantle %1</translation>
+    </message>
+    <message>
+        <source>Test with a sample</source>
+        <translation>Beispiel ausprobieren</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>Vantle Settings</source>
+        <translation>Vantle-Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>SharingServicePicker</name>
+    <message>
+        <source>Copy file</source>
+        <translation>Datei kopieren</translation>
+    </message>
+    <message>
+        <source>Reveal</source>
+        <translation>Im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Teilen</translation>
+    </message>
+    <message>
+        <source>Bluetooth…</source>
+        <translation>Bluetooth&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Mail…</source>
+        <translation>E-Mail&#xa0;…</translation>
+    </message>
+</context>
+<context>
+    <name>SoundPlayer</name>
+    <message>
+        <source>New capture</source>
+        <translation>Neue Aufnahme</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBarController</name>
+    <message>
+        <source>No captures yet</source>
+        <translation>Noch keine Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Resume Vantle</source>
+        <translation>Vantle fortsetzen</translation>
+    </message>
+    <message>
+        <source>Pause Vantle</source>
+        <translation>Vantle anhalten</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Einstellungen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Nach Updates suchen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Quit Vantle</source>
+        <translation>Vantle beenden</translation>
+    </message>
+    <message>
+        <source>Recent Captures</source>
+        <translation>Letzte Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Open Screenshots Folder</source>
+        <translation>Ordner für Bildschirmfotos öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>TileActions</name>
+    <message>
+        <source>Unpin (dismiss on timer again)</source>
+        <translation>Lösen (schließt wieder nach Zeit)</translation>
+    </message>
+    <message>
+        <source>Pin (ignore the timer)</source>
+        <translation>Anheften (bleibt über die Zeit)</translation>
+    </message>
+    <message>
+        <source>Copy to clipboard</source>
+        <translation>In die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Share…</source>
+        <translation>Teilen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Reveal in Finder</source>
+        <translation>Im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>In den Papierkorb</translation>
+    </message>
+</context>
+<context>
+    <name>TileRow</name>
+    <message>
+        <source>Captures</source>
+        <translation>Aufnahmen</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateProgram</name>
+    <message>
+        <source>The program that does updates does not answer.</source>
+        <translation>Das Programm für Updates antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The program that does updates failed: %1.</source>
+        <translation>Das Programm für Updates ist gescheitert: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateWindow</name>
+    <message>
+        <source>Vantle Update</source>
+        <translation>Vantle-Update</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>The update was refused: %1</source>
+        <translation>Das Update wurde abgelehnt: %1</translation>
+    </message>
+    <message>
+        <source>it holds a file without a name.</source>
+        <translation>Es enthält eine Datei ohne Namen.</translation>
+    </message>
+    <message>
+        <source>it holds too many files.</source>
+        <translation>Es enthält zu viele Dateien.</translation>
+    </message>
+    <message>
+        <source>it holds &quot;%1&quot;.</source>
+        <translation>Es enthält „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a file nor a folder.</source>
+        <translation>„%1“ ist weder Datei noch Ordner.</translation>
+    </message>
+    <message>
+        <source>it holds &quot;%1&quot; twice.</source>
+        <translation>Es enthält „%1“ doppelt.</translation>
+    </message>
+    <message>
+        <source>its archive is damaged.</source>
+        <translation>Sein Archiv ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has holes.</source>
+        <translation>„%1“ hat Lücken.</translation>
+    </message>
+    <message>
+        <source>it is too large once it is unpacked.</source>
+        <translation>Es ist entpackt zu groß.</translation>
+    </message>
+    <message>
+        <source>it is no archive.</source>
+        <translation>Es ist kein Archiv.</translation>
+    </message>
+    <message>
+        <source>Version %1 needs a newer system: version %2 of the C library, and this is %3.</source>
+        <translation>Version %1 braucht ein neueres System: Version %2 der C-Bibliothek; hier ist es %3.</translation>
+    </message>
+    <message>
+        <source>Version %1 carries no signature, so it was refused.</source>
+        <translation>Version %1 ist nicht signiert und wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>Version %1 has no length in the update feed, so it was refused.</source>
+        <translation>Für Version %1 nennt der Update-Feed keine Länge; sie wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>Version %1 is too large for an update, so it was refused.</source>
+        <translation>Version %1 ist zu groß für ein Update und wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>Vantle %1 is newer than the newest version that is offered, %2.</source>
+        <translation>Vantle %1 ist neuer als die neueste angebotene Version, %2.</translation>
+    </message>
+    <message>
+        <source>There is a newer version, but not for this system (%1).</source>
+        <translation>Es gibt eine neuere Version, aber nicht für dieses System (%1).</translation>
+    </message>
+    <message>
+        <source>Vantle %1 is the newest version.</source>
+        <translation>Vantle %1 ist die neueste Version.</translation>
+    </message>
+    <message>
+        <source>The update feed is damaged: %1.</source>
+        <translation>Der Update-Feed ist beschädigt: %1.</translation>
+    </message>
+    <message>
+        <source>The update feed is damaged: there is no list of versions.</source>
+        <translation>Der Update-Feed ist beschädigt: Die Liste der Versionen fehlt.</translation>
+    </message>
+    <message>
+        <source>The update feed is damaged: it has no date.</source>
+        <translation>Der Update-Feed ist beschädigt: Das Datum fehlt.</translation>
+    </message>
+    <message>
+        <source>Updates are fetched only by HTTPS, not from &quot;%1&quot;.</source>
+        <translation>Updates werden nur über HTTPS geholt, nicht von „%1“.</translation>
+    </message>
+    <message>
+        <source>The server sent more than the %1 bytes that are expected at most.</source>
+        <translation>Der Server hat mehr als die höchstens erwarteten %1 Byte gesendet.</translation>
+    </message>
+    <message>
+        <source>The server is too slow.</source>
+        <translation>Der Server ist zu langsam.</translation>
+    </message>
+    <message>
+        <source>The server broke off in the middle.</source>
+        <translation>Der Server hat mittendrin abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The server could not be asked: %1.</source>
+        <translation>Der Server war nicht zu erreichen: %1.</translation>
+    </message>
+    <message>
+        <source>The server answered with the error %1.</source>
+        <translation>Der Server hat mit dem Fehler %1 geantwortet.</translation>
+    </message>
+    <message>
+        <source>The server leads from one address to the next without end.</source>
+        <translation>Der Server leitet endlos von einer Adresse zur nächsten.</translation>
+    </message>
+    <message>
+        <source>The system&apos;s package installer: %1</source>
+        <translation>Die Paketinstallation des Systems: %1</translation>
+    </message>
+    <message>
+        <source>it did not install the update.</source>
+        <translation>Das Update wurde nicht installiert.</translation>
+    </message>
+    <message>
+        <source>The folder of Vantle cannot be replaced in one step: %1</source>
+        <translation>Der Ordner von Vantle lässt sich nicht in einem Schritt ersetzen: %1</translation>
+    </message>
+    <message>
+        <source>Vantle %1 did not start in time</source>
+        <translation>Vantle %1 ist nicht rechtzeitig gestartet</translation>
+    </message>
+    <message>
+        <source>Vantle %1 crashed at its start</source>
+        <translation>Vantle %1 ist beim Start abgestürzt</translation>
+    </message>
+    <message>
+        <source>Vantle %1 ended at its start</source>
+        <translation>Vantle %1 hat sich beim Start beendet</translation>
+    </message>
+    <message>
+        <source>Vantle %1 cannot be started: %2</source>
+        <translation>Vantle %1 lässt sich nicht starten: %2</translation>
+    </message>
+    <message>
+        <source>The update could not be put in place: %1.</source>
+        <translation>Das Update konnte nicht eingesetzt werden: %1.</translation>
+    </message>
+    <message>
+        <source>%1, and the version before it could not be put back: %2.</source>
+        <translation>%1, und die Version davor konnte nicht zurückgeholt werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1, so the version before it was put back.</source>
+        <translation>%1; darum ist die Version davor wieder da.</translation>
+    </message>
+    <message>
+        <source>The update feed carries no signature, so it was refused.</source>
+        <translation>Der Update-Feed ist nicht signiert und wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is wrong, so the feed was refused.</source>
+        <translation>Die Signatur des Update-Feeds ist falsch; er wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>%1 is in the way, and not ours.</source>
+        <translation>%1 ist im Weg und gehört nicht zu Vantle.</translation>
+    </message>
+    <message>
+        <source>Another update is under way.</source>
+        <translation>Ein anderes Update ist im Gange.</translation>
+    </message>
+    <message>
+        <source>it should be version %1 and is &quot;%2&quot;.</source>
+        <translation>Es soll Version %1 sein und ist „%2“.</translation>
+    </message>
+    <message>
+        <source>it is not for this system (%1).</source>
+        <translation>Es ist nicht für dieses System (%1).</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>%1 fehlt.</translation>
+    </message>
+    <message>
+        <source>%1 is missing or damaged.</source>
+        <translation>%1 fehlt oder ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>%1 does not belong to it.</source>
+        <translation>%1 gehört nicht dazu.</translation>
+    </message>
+    <message>
+        <source>The folder of Vantle, %1, also holds &quot;%2&quot;, which is not part of it. Move that elsewhere first.</source>
+        <translation>Im Ordner von Vantle, %1, liegt auch „%2“, das nicht dazugehört. Legen Sie es zuerst woandershin.</translation>
+    </message>
+    <message>
+        <source>The update is shorter than the feed says, so it was refused.</source>
+        <translation>Das Update ist kürzer, als der Feed sagt; es wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>The signature of the update is wrong, so it was refused.</source>
+        <translation>Die Signatur des Updates ist falsch; es wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>This copy of Vantle cannot be updated, because it was built without the key that updates are signed with.</source>
+        <translation>Dieses Vantle lässt sich nicht aktualisieren: Es wurde ohne den Schlüssel gebaut, mit dem Updates signiert werden.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that was seen before, so it was refused.</source>
+        <translation>Der Update-Feed ist älter als ein schon gesehener und wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>This copy of Vantle cannot be replaced by itself.</source>
+        <translation>Dieses Vantle kann sich nicht selbst ersetzen.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Welcome to Vantle</source>
+        <translation>Willkommen bei Vantle</translation>
+    </message>
+    <message>
+        <source>Screenshots shouldn&apos;t vanish before you can use them.
+Vantle keeps your latest screenshots and recordings in a glass panel in the corner until you&apos;re done with them.</source>
+        <translation>Bildschirmfotos sollten nicht verschwinden, bevor man sie nutzen kann.
+Vantle hält die neuesten auf einer Glaskarte in der Ecke bereit, bis Sie fertig sind.</translation>
+    </message>
+    <message>
+        <source>Drag a preview straight into Slack, Mail, Figma or anywhere else</source>
+        <translation>Direkt in Slack, Mail, Figma oder sonst wohin ziehen</translation>
+    </message>
+    <message>
+        <source>Take several in a row and they line up side by side</source>
+        <translation>Mehrere hintereinander stehen nebeneinander</translation>
+    </message>
+    <message>
+        <source>Stays until you dismiss it, or on a timer if you prefer</source>
+        <translation>Bleibt bis zum Schließen oder auf Zeit, wie Sie mögen</translation>
+    </message>
+</context>
+<context>
+    <name>vantle::UpdateModel</name>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Suche nach Updates&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Vantle %1 is available</source>
+        <translation>Vantle %1 ist verfügbar</translation>
+    </message>
+    <message>
+        <source>Downloading Vantle %1…</source>
+        <translation>Vantle %1 wird geladen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Installing Vantle %1…</source>
+        <translation>Vantle %1 wird installiert&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Vantle is up to date</source>
+        <translation>Vantle ist aktuell</translation>
+    </message>
+    <message>
+        <source>Updates could not be checked</source>
+        <translation>Die Suche nach Updates ist gescheitert</translation>
+    </message>
+    <message>
+        <source>Vantle could not be updated</source>
+        <translation>Vantle konnte nicht aktualisiert werden</translation>
+    </message>
+    <message>
+        <source>You have version %1. The new one can be downloaded from the web.</source>
+        <translation>Sie haben Version %1. Die neue gibt es im Web.</translation>
+    </message>
+    <message>
+        <source>You have version %1. Would you like to install the new one now?</source>
+        <translation>Sie haben Version %1. Möchten Sie die neue jetzt installieren?</translation>
+    </message>
+    <message>
+        <source>Your system may ask for your permission.</source>
+        <translation>Ihr System fragt vielleicht um Erlaubnis.</translation>
+    </message>
+    <message>
+        <source>Vantle starts again in a moment.</source>
+        <translation>Vantle startet gleich neu.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 per second</source>
+        <translation>%1, %2 pro Sekunde</translation>
+    </message>
+    <message>
+        <source>Open Download Page</source>
+        <translation>Download-Seite öffnen</translation>
+    </message>
+    <message>
+        <source>Install and Relaunch</source>
+        <translation>Installieren und neu starten</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Überspringen</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1116 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>AppDelegate</name>
+    <message>
+        <source>Vantle is running</source>
+        <translation>Vantle est en cours d’exécution</translation>
+    </message>
+    <message>
+        <source>This desktop has no tray for Vantle&apos;s icon. New captures appear on the card all the same. For the settings start Vantle again; to pause it, or to open your screenshots, use the actions of its launcher.</source>
+        <translation>Ce bureau n’a pas de zone de notification pour l’icône de Vantle. Les nouvelles captures apparaissent quand même sur la carte. Pour les réglages, relancez Vantle&#xa0;; pour le mettre en pause ou ouvrir vos captures d’écran, utilisez les actions de son lanceur.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Sample screenshot</source>
+        <translation>Capture d’exemple</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>Ouvrir les réglages</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Vantle needs access to your screenshot folder</source>
+        <translation>Vantle a besoin d’accéder à votre dossier de captures d’écran</translation>
+    </message>
+    <message>
+        <source>macOS is blocking Vantle from reading %1. Allow Vantle under System Settings → Privacy &amp; Security → Files and Folders, then click Retry.</source>
+        <translation>Le système empêche Vantle de lire «&#xa0;%1&#xa0;». Autorisez Vantle dans Réglages Système → Confidentialité et sécurité → Fichiers et dossiers, puis cliquez sur Réessayer.</translation>
+    </message>
+    <message>
+        <source>Open Privacy Settings</source>
+        <translation>Ouvrir la confidentialité</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Vantle can&apos;t find your screenshot folder</source>
+        <translation>Vantle ne trouve pas votre dossier de captures d’écran</translation>
+    </message>
+    <message>
+        <source>%1 is missing and could not be recreated. Choose another folder in Settings.</source>
+        <translation>«&#xa0;%1&#xa0;» est introuvable et n’a pas pu être recréé. Choisissez un autre dossier dans les réglages.</translation>
+    </message>
+    <message>
+        <source>Vantle can&apos;t watch your screenshot folder</source>
+        <translation>Vantle ne peut pas surveiller votre dossier de captures d’écran</translation>
+    </message>
+</context>
+<context>
+    <name>BehaviorControls</name>
+    <message>
+        <source>Captures</source>
+        <translation>Captures</translation>
+    </message>
+    <message>
+        <source>Keep captures until dismissed (recommended)</source>
+        <translation>Garder les captures jusqu’à leur fermeture (recommandé)</translation>
+    </message>
+    <message>
+        <source>Pin a capture to keep it past the timer.</source>
+        <translation>Une capture épinglée reste après la fin du minuteur.</translation>
+    </message>
+    <message>
+        <source>After I use a capture</source>
+        <translation>Après utilisation</translation>
+    </message>
+    <message>
+        <source>Using = dragging, opening, copying, sharing or revealing.</source>
+        <translation>Utiliser = glisser, ouvrir, copier, partager ou afficher.</translation>
+    </message>
+    <message>
+        <source>Remove it from Vantle</source>
+        <translation>Retirer de Vantle</translation>
+    </message>
+    <message>
+        <source>Keep it in Vantle</source>
+        <translation>Garder dans Vantle</translation>
+    </message>
+    <message>
+        <source>Move the file to the Trash after I use it</source>
+        <translation>Placer le fichier dans la corbeille après utilisation</translation>
+    </message>
+    <message>
+        <source>After dragging or copying. Recoverable from the Trash.</source>
+        <translation>Après un glissement ou une copie. Récupérable dans la corbeille.</translation>
+    </message>
+    <message>
+        <source>Also show screen recordings</source>
+        <translation>Afficher aussi les enregistrements d’écran</translation>
+    </message>
+    <message>
+        <source>Copy screenshot to clipboard automatically</source>
+        <translation>Copie automatique dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>Panel &amp; app</source>
+        <translation>Carte et app</translation>
+    </message>
+    <message>
+        <source>Show panel in</source>
+        <translation>Afficher la carte</translation>
+    </message>
+    <message>
+        <source>Hide the built-in macOS thumbnail</source>
+        <translation>Masquer l’aperçu du système</translation>
+    </message>
+    <message>
+        <source>Recommended. Captures reach Vantle instantly instead of after Apple&apos;s preview.</source>
+        <translation>Recommandé. Les captures arrivent sans attendre l’aperçu.</translation>
+    </message>
+    <message>
+        <source>Open Vantle at login</source>
+        <translation>Ouvrir Vantle à l’ouverture de session</translation>
+    </message>
+    <message>
+        <source>Also show Vantle in the Dock</source>
+        <translation>Afficher aussi Vantle dans le Dock</translation>
+    </message>
+    <message>
+        <source>Useful if the menu bar icon is hidden under the notch.</source>
+        <translation>Utile si l’icône de la barre des menus est cachée.</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 secondes</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureTile</name>
+    <message>
+        <source>%1, recording, %2</source>
+        <translation>%1, enregistrement, %2</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Épinglée</translation>
+    </message>
+</context>
+<context>
+    <name>ClearAllPill</name>
+    <message>
+        <source>Clear all</source>
+        <translation>Tout fermer</translation>
+    </message>
+</context>
+<context>
+    <name>CloseButton</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>open the settings</source>
+        <translation>ouvre les réglages</translation>
+    </message>
+    <message>
+        <source>stop watching until --resume</source>
+        <translation>suspend la surveillance jusqu’à --resume</translation>
+    </message>
+    <message>
+        <source>watch again</source>
+        <translation>reprend la surveillance</translation>
+    </message>
+    <message>
+        <source>show the screenshots or recordings on the card</source>
+        <translation>montre des captures ou enregistrements sur la carte</translation>
+    </message>
+    <message>
+        <source>take the card away</source>
+        <translation>retire la carte</translation>
+    </message>
+    <message>
+        <source>give the card the keyboard</source>
+        <translation>donne le clavier à la carte</translation>
+    </message>
+    <message>
+        <source>open the folder that is watched</source>
+        <translation>ouvre le dossier surveillé</translation>
+    </message>
+    <message>
+        <source>show two sample captures</source>
+        <translation>montre deux captures d’exemple</translation>
+    </message>
+    <message>
+        <source>end Vantle</source>
+        <translation>quitte Vantle</translation>
+    </message>
+    <message>
+        <source>say what Vantle is doing</source>
+        <translation>dit ce que fait Vantle</translation>
+    </message>
+    <message>
+        <source>print the version</source>
+        <translation>affiche la version</translation>
+    </message>
+    <message>
+        <source>print this text</source>
+        <translation>affiche ce texte</translation>
+    </message>
+    <message>
+        <source>Try &quot;vantle --help&quot;.</source>
+        <translation>Essayez «&#xa0;vantle --help&#xa0;».</translation>
+    </message>
+    <message>
+        <source>unexpected argument &quot;%1&quot;</source>
+        <translation>argument inattendu «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Usage: vantle [OPTION]
+
+Starts Vantle, or brings the one that runs forward. With an option it talks to the one
+that runs; --settings, --show and --sample start one where none does.</source>
+        <translation>Utilisation&#xa0;: vantle [OPTION]
+
+Lance Vantle, ou ramène au premier plan celui qui tourne. Une option s’adresse à celui qui
+tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas.</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 when it was done, 1 when it could not be, 2 for a wrong command line.</source>
+        <translation>Code de sortie&#xa0;: 0 si c’est fait, 1 si ce n’était pas possible, 2 pour une ligne de commande erronée.</translation>
+    </message>
+    <message>
+        <source>unknown option &quot;%1&quot;</source>
+        <translation>option inconnue «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 needs a file</source>
+        <translation>%1 demande un fichier</translation>
+    </message>
+</context>
+<context>
+    <name>DismissSlider</name>
+    <message>
+        <source>Otherwise dismiss after</source>
+        <translation>Sinon fermer après</translation>
+    </message>
+</context>
+<context>
+    <name>DoneStep</name>
+    <message>
+        <source>You&apos;re all set</source>
+        <translation>Tout est prêt</translation>
+    </message>
+    <message>
+        <source>Show me a sample</source>
+        <translation>Voir un exemple</translation>
+    </message>
+</context>
+<context>
+    <name>DraggableThumbnail</name>
+    <message>
+        <source>Drag into any app, or click to open. ⌘-click to select.</source>
+        <translation>Glissez dans une app, ou cliquez pour ouvrir. ⌘-clic pour sélectionner.</translation>
+    </message>
+</context>
+<context>
+    <name>FolderAccessRow</name>
+    <message>
+        <source>macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.</source>
+        <translation>Le système demande une fois pour Bureau, Documents et Téléchargements. Images n’exige rien.</translation>
+    </message>
+    <message>
+        <source>Grant access</source>
+        <translation>Autoriser l’accès</translation>
+    </message>
+    <message>
+        <source>Folder access</source>
+        <translation>Accès au dossier</translation>
+    </message>
+    <message>
+        <source>Vantle can read this folder</source>
+        <translation>Vantle peut lire ce dossier</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>Vérifier à nouveau</translation>
+    </message>
+    <message>
+        <source>macOS is blocking access to this folder</source>
+        <translation>Le système bloque l’accès à ce dossier</translation>
+    </message>
+    <message>
+        <source>Allow Vantle under Privacy &amp; Security → Files and Folders, then check again.</source>
+        <translation>Autorisez Vantle dans Confidentialité et sécurité → Fichiers et dossiers, puis vérifiez à nouveau.</translation>
+    </message>
+    <message>
+        <source>Open Privacy Settings</source>
+        <translation>Ouvrir la confidentialité</translation>
+    </message>
+</context>
+<context>
+    <name>FolderPicker</name>
+    <message>
+        <source>Change</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Desktop (macOS default)</source>
+        <translation>Bureau (par défaut)</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Restore %1</source>
+        <translation>Rétablir %1</translation>
+    </message>
+    <message>
+        <source>Use This Folder</source>
+        <translation>Utiliser ce dossier</translation>
+    </message>
+    <message>
+        <source>Choose where macOS should save screenshots and screen recordings.</source>
+        <translation>Choisissez où enregistrer les captures et les enregistrements d’écran.</translation>
+    </message>
+</context>
+<context>
+    <name>LoginItem</name>
+    <message>
+        <source>Keeps each new screenshot at hand</source>
+        <translation>Garde chaque nouvelle capture d’écran à portée de main</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingSteps</name>
+    <message>
+        <source>Start Using Vantle</source>
+        <translation>Commencer</translation>
+    </message>
+    <message>
+        <source>Get Started</source>
+        <translation>C’est parti</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingSummary</name>
+    <message>
+        <source>Saving to %1 folder</source>
+        <translation>Enregistrement dans le dossier «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Stays for %1 seconds unless pinned</source>
+        <translation>Reste %1 secondes, sauf si épinglée</translation>
+    </message>
+    <message>
+        <source>Stays until dismissed</source>
+        <translation>Reste jusqu’à sa fermeture</translation>
+    </message>
+    <message>
+        <source>Panel in the %1</source>
+        <translation>Carte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>macOS thumbnail hidden</source>
+        <translation>Aperçu du système masqué</translation>
+    </message>
+    <message>
+        <source>macOS thumbnail still shown</source>
+        <translation>Aperçu du système encore affiché</translation>
+    </message>
+    <message>
+        <source>Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will slide into the %1 corner. Take another and they line up together.</source>
+        <translation>Vantle vit dans votre barre des menus. Faites une capture avec ⇧⌘4&#xa0;: elle glisse dans le coin «&#xa0;%1&#xa0;». Faites-en une autre, et elles s’alignent.</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingView</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>PageDots</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Étape %1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>PanelCorner</name>
+    <message>
+        <source>Bottom Right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+</context>
+<context>
+    <name>QGuiApplication</name>
+    <message>
+        <source>QT_LAYOUT_DIRECTION</source>
+        <extracomment>Not shown. &quot;LTR&quot; for languages written from left to right, &quot;RTL&quot; for those from right to left.</extracomment>
+        <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>RelativeDate</name>
+    <message numerus="yes">
+        <source>%n yr. ago</source>
+        <translation>
+            <numerusform>il y a %n an</numerusform>
+            <numerusform>il y a %n ans</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n yr.</source>
+        <translation>
+            <numerusform>dans %n an</numerusform>
+            <numerusform>dans %n ans</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n mo. ago</source>
+        <translation>
+            <numerusform>il y a %n mois</numerusform>
+            <numerusform>il y a %n mois</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n mo.</source>
+        <translation>
+            <numerusform>dans %n mois</numerusform>
+            <numerusform>dans %n mois</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n wk. ago</source>
+        <translation>
+            <numerusform>il y a %n sem.</numerusform>
+            <numerusform>il y a %n sem.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n wk.</source>
+        <translation>
+            <numerusform>dans %n sem.</numerusform>
+            <numerusform>dans %n sem.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>il y a %n jour</numerusform>
+            <numerusform>il y a %n jours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n days</source>
+        <translation>
+            <numerusform>dans %n jour</numerusform>
+            <numerusform>dans %n jours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day ago</source>
+        <translation>
+            <numerusform>il y a %n jour</numerusform>
+            <numerusform>il y a %n jours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day</source>
+        <translation>
+            <numerusform>dans %n jour</numerusform>
+            <numerusform>dans %n jours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hr. ago</source>
+        <translation>
+            <numerusform>il y a %n h</numerusform>
+            <numerusform>il y a %n h</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hr.</source>
+        <translation>
+            <numerusform>dans %n h</numerusform>
+            <numerusform>dans %n h</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n min. ago</source>
+        <translation>
+            <numerusform>il y a %n min</numerusform>
+            <numerusform>il y a %n min</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n min.</source>
+        <translation>
+            <numerusform>dans %n min</numerusform>
+            <numerusform>dans %n min</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sec. ago</source>
+        <translation>
+            <numerusform>il y a %n s</numerusform>
+            <numerusform>il y a %n s</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n sec.</source>
+        <translation>
+            <numerusform>dans %n s</numerusform>
+            <numerusform>dans %n s</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>maintenant</translation>
+    </message>
+</context>
+<context>
+    <name>Requests</name>
+    <message>
+        <source>Vantle is ending</source>
+        <translation>Vantle est en train de quitter</translation>
+    </message>
+    <message>
+        <source>there is no action &quot;%1&quot;</source>
+        <translation>il n’y a pas d’action «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>fichier introuvable</translation>
+    </message>
+    <message>
+        <source>not a screenshot or recording</source>
+        <translation>ni une capture d’écran ni un enregistrement</translation>
+    </message>
+    <message>
+        <source>Vantle is not running</source>
+        <translation>Vantle n’est pas lancé</translation>
+    </message>
+    <message>
+        <source>the copy that runs does not answer</source>
+        <translation>le Vantle en cours d’exécution ne répond pas</translation>
+    </message>
+    <message>
+        <source>Vantle is not ready yet</source>
+        <translation>Vantle n’est pas encore prêt</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotTool</name>
+    <message>
+        <source>The desktop does not let its setting &quot;%1&quot; be changed.</source>
+        <translation>Le bureau ne permet pas de modifier son réglage «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The screenshot tool of Xfce shows no preview.</source>
+        <translation>L’outil de capture de Xfce n’affiche pas d’aperçu.</translation>
+    </message>
+    <message>
+        <source>The screenshot tool of this desktop shows no preview.</source>
+        <translation>L’outil de capture de ce bureau n’affiche pas d’aperçu.</translation>
+    </message>
+    <message>
+        <source>The screenshot tool of MATE always asks in a window.</source>
+        <translation>L’outil de capture de MATE pose toujours la question dans une fenêtre.</translation>
+    </message>
+    <message>
+        <source>ScreenGrab always notifies after it saved.</source>
+        <translation>ScreenGrab affiche toujours une notification après l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>GNOME always saves screenshots in this folder.</source>
+        <translation>GNOME enregistre toujours les captures dans ce dossier.</translation>
+    </message>
+    <message>
+        <source>GNOME always shows its own preview.</source>
+        <translation>GNOME affiche toujours son propre aperçu.</translation>
+    </message>
+    <message>
+        <source>The tool&apos;s settings file %1 cannot be read: %2.</source>
+        <translation>Le fichier de réglages %1 de l’outil est illisible&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The tool&apos;s settings file %1 is read-only.</source>
+        <translation>Le fichier de réglages %1 de l’outil est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>il est endommagé</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionBar</name>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n sélectionnée</numerusform>
+            <numerusform>%n sélectionnées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Copy selected</source>
+        <translation>Copier la sélection</translation>
+    </message>
+    <message>
+        <source>Move selected to Trash</source>
+        <translation>Placer la sélection dans la corbeille</translation>
+    </message>
+    <message>
+        <source>Dismiss selected</source>
+        <translation>Fermer la sélection</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>Show panel in</source>
+        <translation>Afficher la carte</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStep</name>
+    <message>
+        <source>Set up Vantle</source>
+        <translation>Configurer Vantle</translation>
+    </message>
+    <message>
+        <source>Recommended settings are already selected</source>
+        <translation>Les réglages recommandés sont déjà choisis</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>SCREENSHOTS ARE SAVED TO</source>
+        <translation>DOSSIER DES CAPTURES D’ÉCRAN</translation>
+    </message>
+    <message>
+        <source>Vantle %1</source>
+        <translation>Vantle %1</translation>
+    </message>
+    <message>
+        <source>Test with a sample</source>
+        <translation>Essayer avec un exemple</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>Vantle Settings</source>
+        <translation>Réglages de Vantle</translation>
+    </message>
+</context>
+<context>
+    <name>SharingServicePicker</name>
+    <message>
+        <source>Copy file</source>
+        <translation>Copier le fichier</translation>
+    </message>
+    <message>
+        <source>Reveal</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Partager</translation>
+    </message>
+    <message>
+        <source>Bluetooth…</source>
+        <translation>Bluetooth…</translation>
+    </message>
+    <message>
+        <source>Mail…</source>
+        <translation>E-mail…</translation>
+    </message>
+</context>
+<context>
+    <name>SoundPlayer</name>
+    <message>
+        <source>New capture</source>
+        <translation>Nouvelle capture</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBarController</name>
+    <message>
+        <source>No captures yet</source>
+        <translation>Aucune capture</translation>
+    </message>
+    <message>
+        <source>Resume Vantle</source>
+        <translation>Reprendre Vantle</translation>
+    </message>
+    <message>
+        <source>Pause Vantle</source>
+        <translation>Mettre Vantle en pause</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Réglages…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Rechercher les mises à jour…</translation>
+    </message>
+    <message>
+        <source>Quit Vantle</source>
+        <translation>Quitter Vantle</translation>
+    </message>
+    <message>
+        <source>Recent Captures</source>
+        <translation>Captures récentes</translation>
+    </message>
+    <message>
+        <source>Open Screenshots Folder</source>
+        <translation>Ouvrir le dossier des captures</translation>
+    </message>
+</context>
+<context>
+    <name>TileActions</name>
+    <message>
+        <source>Unpin (dismiss on timer again)</source>
+        <translation>Détacher (se fermera avec le minuteur)</translation>
+    </message>
+    <message>
+        <source>Pin (ignore the timer)</source>
+        <translation>Épingler (ignore le minuteur)</translation>
+    </message>
+    <message>
+        <source>Copy to clipboard</source>
+        <translation>Copier dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>Share…</source>
+        <translation>Partager…</translation>
+    </message>
+    <message>
+        <source>Reveal in Finder</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Placer dans la corbeille</translation>
+    </message>
+</context>
+<context>
+    <name>TileRow</name>
+    <message>
+        <source>Captures</source>
+        <translation>Captures</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateProgram</name>
+    <message>
+        <source>The program that does updates does not answer.</source>
+        <translation>Le programme de mise à jour ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The program that does updates failed: %1.</source>
+        <translation>Le programme de mise à jour a échoué&#xa0;: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateWindow</name>
+    <message>
+        <source>Vantle Update</source>
+        <translation>Mise à jour de Vantle</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>The update was refused: %1</source>
+        <translation>La mise à jour a été refusée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it holds a file without a name.</source>
+        <translation>elle contient un fichier sans nom.</translation>
+    </message>
+    <message>
+        <source>it holds too many files.</source>
+        <translation>elle contient trop de fichiers.</translation>
+    </message>
+    <message>
+        <source>it holds &quot;%1&quot;.</source>
+        <translation>elle contient «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a file nor a folder.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est ni un fichier ni un dossier.</translation>
+    </message>
+    <message>
+        <source>it holds &quot;%1&quot; twice.</source>
+        <translation>elle contient «&#xa0;%1&#xa0;» deux fois.</translation>
+    </message>
+    <message>
+        <source>its archive is damaged.</source>
+        <translation>son archive est endommagée.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has holes.</source>
+        <translation>«&#xa0;%1&#xa0;» comporte des trous.</translation>
+    </message>
+    <message>
+        <source>it is too large once it is unpacked.</source>
+        <translation>elle est trop grande une fois décompressée.</translation>
+    </message>
+    <message>
+        <source>it is no archive.</source>
+        <translation>ce n’est pas une archive.</translation>
+    </message>
+    <message>
+        <source>Version %1 needs a newer system: version %2 of the C library, and this is %3.</source>
+        <translation>La version %1 demande un système plus récent&#xa0;: version %2 de la bibliothèque C, et ici c’est %3.</translation>
+    </message>
+    <message>
+        <source>Version %1 carries no signature, so it was refused.</source>
+        <translation>La version %1 n’est pas signée&#xa0;; elle a été refusée.</translation>
+    </message>
+    <message>
+        <source>Version %1 has no length in the update feed, so it was refused.</source>
+        <translation>Le flux ne donne pas la taille de la version %1&#xa0;; elle a été refusée.</translation>
+    </message>
+    <message>
+        <source>Version %1 is too large for an update, so it was refused.</source>
+        <translation>La version %1 est trop grande pour une mise à jour&#xa0;; elle a été refusée.</translation>
+    </message>
+    <message>
+        <source>Vantle %1 is newer than the newest version that is offered, %2.</source>
+        <translation>Vantle %1 est plus récent que la dernière version proposée, %2.</translation>
+    </message>
+    <message>
+        <source>There is a newer version, but not for this system (%1).</source>
+        <translation>Une version plus récente existe, mais pas pour ce système (%1).</translation>
+    </message>
+    <message>
+        <source>Vantle %1 is the newest version.</source>
+        <translation>Vantle %1 est la version la plus récente.</translation>
+    </message>
+    <message>
+        <source>The update feed is damaged: %1.</source>
+        <translation>Le flux de mises à jour est endommagé&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The update feed is damaged: there is no list of versions.</source>
+        <translation>Le flux de mises à jour est endommagé&#xa0;: il n’y a pas de liste de versions.</translation>
+    </message>
+    <message>
+        <source>The update feed is damaged: it has no date.</source>
+        <translation>Le flux de mises à jour est endommagé&#xa0;: il n’a pas de date.</translation>
+    </message>
+    <message>
+        <source>Updates are fetched only by HTTPS, not from &quot;%1&quot;.</source>
+        <translation>Les mises à jour ne sont téléchargées que par HTTPS, pas depuis «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The server sent more than the %1 bytes that are expected at most.</source>
+        <translation>Le serveur a envoyé plus que les %1 octets attendus au maximum.</translation>
+    </message>
+    <message>
+        <source>The server is too slow.</source>
+        <translation>Le serveur est trop lent.</translation>
+    </message>
+    <message>
+        <source>The server broke off in the middle.</source>
+        <translation>Le serveur s’est interrompu au milieu.</translation>
+    </message>
+    <message>
+        <source>The server could not be asked: %1.</source>
+        <translation>Le serveur n’a pas pu être joint&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The server answered with the error %1.</source>
+        <translation>Le serveur a répondu par l’erreur %1.</translation>
+    </message>
+    <message>
+        <source>The server leads from one address to the next without end.</source>
+        <translation>Le serveur redirige sans fin d’une adresse à l’autre.</translation>
+    </message>
+    <message>
+        <source>The system&apos;s package installer: %1</source>
+        <translation>L’installateur de paquets du système&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it did not install the update.</source>
+        <translation>il n’a pas installé la mise à jour.</translation>
+    </message>
+    <message>
+        <source>The folder of Vantle cannot be replaced in one step: %1</source>
+        <translation>Le dossier de Vantle ne peut pas être remplacé en une seule étape&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Vantle %1 did not start in time</source>
+        <translation>Vantle %1 n’a pas démarré à temps</translation>
+    </message>
+    <message>
+        <source>Vantle %1 crashed at its start</source>
+        <translation>Vantle %1 a planté au démarrage</translation>
+    </message>
+    <message>
+        <source>Vantle %1 ended at its start</source>
+        <translation>Vantle %1 s’est arrêté au démarrage</translation>
+    </message>
+    <message>
+        <source>Vantle %1 cannot be started: %2</source>
+        <translation>Vantle %1 ne peut pas être lancé&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The update could not be put in place: %1.</source>
+        <translation>La mise à jour n’a pas pu être mise en place&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>%1, and the version before it could not be put back: %2.</source>
+        <translation>%1, et la version précédente n’a pas pu être remise&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1, so the version before it was put back.</source>
+        <translation>%1&#xa0;; la version précédente a donc été remise.</translation>
+    </message>
+    <message>
+        <source>The update feed carries no signature, so it was refused.</source>
+        <translation>Le flux de mises à jour n’est pas signé&#xa0;; il a été refusé.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is wrong, so the feed was refused.</source>
+        <translation>La signature du flux de mises à jour est fausse&#xa0;; il a été refusé.</translation>
+    </message>
+    <message>
+        <source>%1 is in the way, and not ours.</source>
+        <translation>%1 gêne et n’appartient pas à Vantle.</translation>
+    </message>
+    <message>
+        <source>Another update is under way.</source>
+        <translation>Une autre mise à jour est en cours.</translation>
+    </message>
+    <message>
+        <source>it should be version %1 and is &quot;%2&quot;.</source>
+        <translation>elle devrait être la version %1 et est «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>it is not for this system (%1).</source>
+        <translation>elle n’est pas pour ce système (%1).</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>%1 manque.</translation>
+    </message>
+    <message>
+        <source>%1 is missing or damaged.</source>
+        <translation>%1 manque ou est endommagé.</translation>
+    </message>
+    <message>
+        <source>%1 does not belong to it.</source>
+        <translation>%1 n’en fait pas partie.</translation>
+    </message>
+    <message>
+        <source>The folder of Vantle, %1, also holds &quot;%2&quot;, which is not part of it. Move that elsewhere first.</source>
+        <translation>Le dossier de Vantle, %1, contient aussi «&#xa0;%2&#xa0;», qui n’en fait pas partie. Déplacez-le d’abord ailleurs.</translation>
+    </message>
+    <message>
+        <source>The update is shorter than the feed says, so it was refused.</source>
+        <translation>La mise à jour est plus courte que ne le dit le flux&#xa0;; elle a été refusée.</translation>
+    </message>
+    <message>
+        <source>The signature of the update is wrong, so it was refused.</source>
+        <translation>La signature de la mise à jour est fausse&#xa0;; elle a été refusée.</translation>
+    </message>
+    <message>
+        <source>This copy of Vantle cannot be updated, because it was built without the key that updates are signed with.</source>
+        <translation>Ce Vantle ne peut pas être mis à jour&#xa0;: il a été construit sans la clé qui signe les mises à jour.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that was seen before, so it was refused.</source>
+        <translation>Le flux de mises à jour est plus ancien qu’un flux déjà vu&#xa0;; il a été refusé.</translation>
+    </message>
+    <message>
+        <source>This copy of Vantle cannot be replaced by itself.</source>
+        <translation>Ce Vantle ne peut pas se remplacer lui-même.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Welcome to Vantle</source>
+        <translation>Bienvenue dans Vantle</translation>
+    </message>
+    <message>
+        <source>Screenshots shouldn&apos;t vanish before you can use them.
+Vantle keeps your latest screenshots and recordings in a glass panel in the corner until you&apos;re done with them.</source>
+        <translation>Une capture ne devrait pas disparaître avant d’avoir servi.
+Vantle garde vos dernières captures et vos enregistrements sur une carte de verre, dans un coin, le temps qu’il vous faut.</translation>
+    </message>
+    <message>
+        <source>Drag a preview straight into Slack, Mail, Figma or anywhere else</source>
+        <translation>Glissez un aperçu dans Slack, Mail, Figma ou ailleurs</translation>
+    </message>
+    <message>
+        <source>Take several in a row and they line up side by side</source>
+        <translation>Prenez-en plusieurs&#xa0;: elles s’alignent côte à côte</translation>
+    </message>
+    <message>
+        <source>Stays until you dismiss it, or on a timer if you prefer</source>
+        <translation>Reste jusqu’à sa fermeture, ou selon un minuteur</translation>
+    </message>
+</context>
+<context>
+    <name>vantle::UpdateModel</name>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Recherche de mises à jour…</translation>
+    </message>
+    <message>
+        <source>Vantle %1 is available</source>
+        <translation>Vantle %1 est disponible</translation>
+    </message>
+    <message>
+        <source>Downloading Vantle %1…</source>
+        <translation>Téléchargement de Vantle %1…</translation>
+    </message>
+    <message>
+        <source>Installing Vantle %1…</source>
+        <translation>Installation de Vantle %1…</translation>
+    </message>
+    <message>
+        <source>Vantle is up to date</source>
+        <translation>Vantle est à jour</translation>
+    </message>
+    <message>
+        <source>Updates could not be checked</source>
+        <translation>La recherche de mises à jour a échoué</translation>
+    </message>
+    <message>
+        <source>Vantle could not be updated</source>
+        <translation>Vantle n’a pas pu être mis à jour</translation>
+    </message>
+    <message>
+        <source>You have version %1. The new one can be downloaded from the web.</source>
+        <translation>Vous avez la version %1. La nouvelle peut être téléchargée sur le web.</translation>
+    </message>
+    <message>
+        <source>You have version %1. Would you like to install the new one now?</source>
+        <translation>Vous avez la version %1. Voulez-vous installer la nouvelle maintenant&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Your system may ask for your permission.</source>
+        <translation>Votre système peut vous demander votre autorisation.</translation>
+    </message>
+    <message>
+        <source>Vantle starts again in a moment.</source>
+        <translation>Vantle redémarre dans un instant.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 per second</source>
+        <translation>%1, %2 par seconde</translation>
+    </message>
+    <message>
+        <source>Open Download Page</source>
+        <translation>Ouvrir la page</translation>
+    </message>
+    <message>
+        <source>Install and Relaunch</source>
+        <translation>Installer et relancer</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Ignorer cette version</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1099 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>AppDelegate</name>
+    <message>
+        <source>Vantle is running</source>
+        <translation>Vantleは動作中です</translation>
+    </message>
+    <message>
+        <source>This desktop has no tray for Vantle&apos;s icon. New captures appear on the card all the same. For the settings start Vantle again; to pause it, or to open your screenshots, use the actions of its launcher.</source>
+        <translation>このデスクトップにはVantleのアイコンを表示するトレイがありません。新しいキャプチャはこれまでどおりカードに表示されます。設定を開くにはVantleをもう一度起動してください。一時停止やスクリーンショットを開くには、ランチャーのアクションを使ってください。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Sample screenshot</source>
+        <translation>サンプル</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>設定を開く</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>あとで</translation>
+    </message>
+    <message>
+        <source>Vantle needs access to your screenshot folder</source>
+        <translation>スクリーンショットのフォルダへのアクセス権が必要です</translation>
+    </message>
+    <message>
+        <source>macOS is blocking Vantle from reading %1. Allow Vantle under System Settings → Privacy &amp; Security → Files and Folders, then click Retry.</source>
+        <translation>システムにより、Vantleは“%1”を読み取れません。システム設定の「プライバシーとセキュリティ」→「ファイルとフォルダ」でVantleを許可してから、「再試行」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Open Privacy Settings</source>
+        <translation>プライバシー設定を開く</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Vantle can&apos;t find your screenshot folder</source>
+        <translation>スクリーンショットのフォルダが見つかりません</translation>
+    </message>
+    <message>
+        <source>%1 is missing and could not be recreated. Choose another folder in Settings.</source>
+        <translation>“%1”が見つからず、作り直すこともできませんでした。設定で別のフォルダを選んでください。</translation>
+    </message>
+    <message>
+        <source>Vantle can&apos;t watch your screenshot folder</source>
+        <translation>スクリーンショットのフォルダを監視できません</translation>
+    </message>
+</context>
+<context>
+    <name>BehaviorControls</name>
+    <message>
+        <source>Captures</source>
+        <translation>キャプチャ</translation>
+    </message>
+    <message>
+        <source>Keep captures until dismissed (recommended)</source>
+        <translation>閉じるまでキャプチャを残す（推奨）</translation>
+    </message>
+    <message>
+        <source>Pin a capture to keep it past the timer.</source>
+        <translation>ピンで留めたキャプチャは時間が過ぎても残ります。</translation>
+    </message>
+    <message>
+        <source>After I use a capture</source>
+        <translation>使ったあと</translation>
+    </message>
+    <message>
+        <source>Using = dragging, opening, copying, sharing or revealing.</source>
+        <translation>使う＝ドラッグ、開く、コピー、共有、フォルダに表示。</translation>
+    </message>
+    <message>
+        <source>Remove it from Vantle</source>
+        <translation>Vantleから外す</translation>
+    </message>
+    <message>
+        <source>Keep it in Vantle</source>
+        <translation>Vantleに残す</translation>
+    </message>
+    <message>
+        <source>Move the file to the Trash after I use it</source>
+        <translation>使ったあとファイルをゴミ箱に入れる</translation>
+    </message>
+    <message>
+        <source>After dragging or copying. Recoverable from the Trash.</source>
+        <translation>ドラッグまたはコピーのあと。ゴミ箱から戻せます。</translation>
+    </message>
+    <message>
+        <source>Also show screen recordings</source>
+        <translation>画面収録も表示する</translation>
+    </message>
+    <message>
+        <source>Copy screenshot to clipboard automatically</source>
+        <translation>スクリーンショットを自動でクリップボードにコピー</translation>
+    </message>
+    <message>
+        <source>Panel &amp; app</source>
+        <translation>カードとアプリ</translation>
+    </message>
+    <message>
+        <source>Show panel in</source>
+        <translation>カードの位置</translation>
+    </message>
+    <message>
+        <source>Hide the built-in macOS thumbnail</source>
+        <translation>システムのサムネールを隠す</translation>
+    </message>
+    <message>
+        <source>Recommended. Captures reach Vantle instantly instead of after Apple&apos;s preview.</source>
+        <translation>推奨。システムのプレビューを待たず、すぐに表示されます。</translation>
+    </message>
+    <message>
+        <source>Open Vantle at login</source>
+        <translation>ログイン時にVantleを開く</translation>
+    </message>
+    <message>
+        <source>Also show Vantle in the Dock</source>
+        <translation>VantleをDockにも表示</translation>
+    </message>
+    <message>
+        <source>Useful if the menu bar icon is hidden under the notch.</source>
+        <translation>メニューバーのアイコンが隠れているときに便利です。</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1秒</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureTile</name>
+    <message>
+        <source>%1, recording, %2</source>
+        <translation>%1、収録、%2</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>ピン留め</translation>
+    </message>
+</context>
+<context>
+    <name>ClearAllPill</name>
+    <message>
+        <source>Clear all</source>
+        <translation>すべて閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>CloseButton</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>open the settings</source>
+        <translation>設定を開きます</translation>
+    </message>
+    <message>
+        <source>stop watching until --resume</source>
+        <translation>--resumeまで監視を止めます</translation>
+    </message>
+    <message>
+        <source>watch again</source>
+        <translation>監視を再開します</translation>
+    </message>
+    <message>
+        <source>show the screenshots or recordings on the card</source>
+        <translation>スクリーンショットや収録をカードに表示します</translation>
+    </message>
+    <message>
+        <source>take the card away</source>
+        <translation>カードを閉じます</translation>
+    </message>
+    <message>
+        <source>give the card the keyboard</source>
+        <translation>キーボード操作をカードに移します</translation>
+    </message>
+    <message>
+        <source>open the folder that is watched</source>
+        <translation>監視しているフォルダを開きます</translation>
+    </message>
+    <message>
+        <source>show two sample captures</source>
+        <translation>サンプルを2枚表示します</translation>
+    </message>
+    <message>
+        <source>end Vantle</source>
+        <translation>Vantleを終了します</translation>
+    </message>
+    <message>
+        <source>say what Vantle is doing</source>
+        <translation>Vantleの状態を表示します</translation>
+    </message>
+    <message>
+        <source>print the version</source>
+        <translation>バージョンを表示します</translation>
+    </message>
+    <message>
+        <source>print this text</source>
+        <translation>この説明を表示します</translation>
+    </message>
+    <message>
+        <source>Try &quot;vantle --help&quot;.</source>
+        <translation>“vantle --help”を参照してください。</translation>
+    </message>
+    <message>
+        <source>unexpected argument &quot;%1&quot;</source>
+        <translation>予期しない引数“%1”</translation>
+    </message>
+    <message>
+        <source>Usage: vantle [OPTION]
+
+Starts Vantle, or brings the one that runs forward. With an option it talks to the one
+that runs; --settings, --show and --sample start one where none does.</source>
+        <translation>使い方: vantle [オプション]
+
+Vantleを起動するか、動作中のものを前面に出します。オプションは動作中のVantleに送られます。
+--settings、--show、--sampleは、動作していなければ起動します。</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 when it was done, 1 when it could not be, 2 for a wrong command line.</source>
+        <translation>終了ステータス: 0は成功、1は失敗、2はコマンドラインの誤り。</translation>
+    </message>
+    <message>
+        <source>unknown option &quot;%1&quot;</source>
+        <translation>不明なオプション“%1”</translation>
+    </message>
+    <message>
+        <source>%1 needs a file</source>
+        <translation>%1にはファイルが必要です</translation>
+    </message>
+</context>
+<context>
+    <name>DismissSlider</name>
+    <message>
+        <source>Otherwise dismiss after</source>
+        <translation>それ以外は閉じるまで</translation>
+    </message>
+</context>
+<context>
+    <name>DoneStep</name>
+    <message>
+        <source>You&apos;re all set</source>
+        <translation>準備ができました</translation>
+    </message>
+    <message>
+        <source>Show me a sample</source>
+        <translation>サンプルを見る</translation>
+    </message>
+</context>
+<context>
+    <name>DraggableThumbnail</name>
+    <message>
+        <source>Drag into any app, or click to open. ⌘-click to select.</source>
+        <translation>アプリへドラッグ、クリックで開く。⌘クリックで選択。</translation>
+    </message>
+</context>
+<context>
+    <name>FolderAccessRow</name>
+    <message>
+        <source>macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.</source>
+        <translation>デスクトップ、書類、ダウンロードは一度だけ確認されます。ピクチャは許可不要です。</translation>
+    </message>
+    <message>
+        <source>Grant access</source>
+        <translation>アクセスを許可</translation>
+    </message>
+    <message>
+        <source>Folder access</source>
+        <translation>フォルダへのアクセス</translation>
+    </message>
+    <message>
+        <source>Vantle can read this folder</source>
+        <translation>Vantleはこのフォルダを読み取れます</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>再確認</translation>
+    </message>
+    <message>
+        <source>macOS is blocking access to this folder</source>
+        <translation>システムがこのフォルダへのアクセスを拒否しています</translation>
+    </message>
+    <message>
+        <source>Allow Vantle under Privacy &amp; Security → Files and Folders, then check again.</source>
+        <translation>「プライバシーとセキュリティ」→「ファイルとフォルダ」でVantleを許可し、再確認してください。</translation>
+    </message>
+    <message>
+        <source>Open Privacy Settings</source>
+        <translation>プライバシー設定を開く</translation>
+    </message>
+</context>
+<context>
+    <name>FolderPicker</name>
+    <message>
+        <source>Change</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>Desktop (macOS default)</source>
+        <translation>デスクトップ（標準）</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>選択…</translation>
+    </message>
+    <message>
+        <source>Restore %1</source>
+        <translation>%1に戻す</translation>
+    </message>
+    <message>
+        <source>Use This Folder</source>
+        <translation>このフォルダを使う</translation>
+    </message>
+    <message>
+        <source>Choose where macOS should save screenshots and screen recordings.</source>
+        <translation>スクリーンショットと画面収録の保存先を選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>LoginItem</name>
+    <message>
+        <source>Keeps each new screenshot at hand</source>
+        <translation>新しいスクリーンショットをいつも手元に</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingSteps</name>
+    <message>
+        <source>Start Using Vantle</source>
+        <translation>使い始める</translation>
+    </message>
+    <message>
+        <source>Get Started</source>
+        <translation>はじめる</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingSummary</name>
+    <message>
+        <source>Saving to %1 folder</source>
+        <translation>“%1”フォルダに保存</translation>
+    </message>
+    <message>
+        <source>Stays for %1 seconds unless pinned</source>
+        <translation>ピン留めしなければ%1秒表示</translation>
+    </message>
+    <message>
+        <source>Stays until dismissed</source>
+        <translation>閉じるまで表示</translation>
+    </message>
+    <message>
+        <source>Panel in the %1</source>
+        <translation>カードの位置: %1</translation>
+    </message>
+    <message>
+        <source>macOS thumbnail hidden</source>
+        <translation>システムのサムネールは非表示</translation>
+    </message>
+    <message>
+        <source>macOS thumbnail still shown</source>
+        <translation>システムのサムネールも表示</translation>
+    </message>
+    <message>
+        <source>Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will slide into the %1 corner. Take another and they line up together.</source>
+        <translation>Vantleはメニューバーにいます。⇧⌘4でスクリーンショットを撮ると、画面の%1に現れます。続けて撮ると横に並びます。</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingView</name>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>PageDots</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>%2ステップ中の%1</translation>
+    </message>
+</context>
+<context>
+    <name>PanelCorner</name>
+    <message>
+        <source>Bottom Right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>左上</translation>
+    </message>
+</context>
+<context>
+    <name>QGuiApplication</name>
+    <message>
+        <source>QT_LAYOUT_DIRECTION</source>
+        <extracomment>Not shown. &quot;LTR&quot; for languages written from left to right, &quot;RTL&quot; for those from right to left.</extracomment>
+        <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>RelativeDate</name>
+    <message numerus="yes">
+        <source>%n yr. ago</source>
+        <translation>
+            <numerusform>%n年前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n yr.</source>
+        <translation>
+            <numerusform>%n年後</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n mo. ago</source>
+        <translation>
+            <numerusform>%nか月前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n mo.</source>
+        <translation>
+            <numerusform>%nか月後</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n wk. ago</source>
+        <translation>
+            <numerusform>%n週間前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n wk.</source>
+        <translation>
+            <numerusform>%n週間後</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>%n日前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n days</source>
+        <translation>
+            <numerusform>%n日後</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day ago</source>
+        <translation>
+            <numerusform>%n日前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n day</source>
+        <translation>
+            <numerusform>%n日後</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hr. ago</source>
+        <translation>
+            <numerusform>%n時間前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n hr.</source>
+        <translation>
+            <numerusform>%n時間後</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n min. ago</source>
+        <translation>
+            <numerusform>%n分前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n min.</source>
+        <translation>
+            <numerusform>%n分後</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sec. ago</source>
+        <translation>
+            <numerusform>%n秒前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n sec.</source>
+        <translation>
+            <numerusform>%n秒後</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>今</translation>
+    </message>
+</context>
+<context>
+    <name>Requests</name>
+    <message>
+        <source>Vantle is ending</source>
+        <translation>Vantleは終了処理中です</translation>
+    </message>
+    <message>
+        <source>there is no action &quot;%1&quot;</source>
+        <translation>“%1”というアクションはありません</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>ファイルがありません</translation>
+    </message>
+    <message>
+        <source>not a screenshot or recording</source>
+        <translation>スクリーンショットでも収録でもありません</translation>
+    </message>
+    <message>
+        <source>Vantle is not running</source>
+        <translation>Vantleは動作していません</translation>
+    </message>
+    <message>
+        <source>the copy that runs does not answer</source>
+        <translation>動作中のVantleが応答しません</translation>
+    </message>
+    <message>
+        <source>Vantle is not ready yet</source>
+        <translation>Vantleはまだ準備中です</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotTool</name>
+    <message>
+        <source>The desktop does not let its setting &quot;%1&quot; be changed.</source>
+        <translation>デスクトップが設定“%1”の変更を許可していません。</translation>
+    </message>
+    <message>
+        <source>The screenshot tool of Xfce shows no preview.</source>
+        <translation>Xfceのスクリーンショットツールはプレビューを表示しません。</translation>
+    </message>
+    <message>
+        <source>The screenshot tool of this desktop shows no preview.</source>
+        <translation>このデスクトップのスクリーンショットツールはプレビューを表示しません。</translation>
+    </message>
+    <message>
+        <source>The screenshot tool of MATE always asks in a window.</source>
+        <translation>MATEのスクリーンショットツールは毎回ウインドウで確認します。</translation>
+    </message>
+    <message>
+        <source>ScreenGrab always notifies after it saved.</source>
+        <translation>ScreenGrabは保存後に必ず通知します。</translation>
+    </message>
+    <message>
+        <source>GNOME always saves screenshots in this folder.</source>
+        <translation>GNOMEは常にこのフォルダに保存します。</translation>
+    </message>
+    <message>
+        <source>GNOME always shows its own preview.</source>
+        <translation>GNOMEは常に独自のプレビューを表示します。</translation>
+    </message>
+    <message>
+        <source>The tool&apos;s settings file %1 cannot be read: %2.</source>
+        <translation>ツールの設定ファイル%1を読み取れません: %2。</translation>
+    </message>
+    <message>
+        <source>The tool&apos;s settings file %1 is read-only.</source>
+        <translation>ツールの設定ファイル%1は読み取り専用です。</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>破損しています</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionBar</name>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n項目を選択</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Copy selected</source>
+        <translation>選択項目をコピー</translation>
+    </message>
+    <message>
+        <source>Move selected to Trash</source>
+        <translation>選択項目をゴミ箱に入れる</translation>
+    </message>
+    <message>
+        <source>Dismiss selected</source>
+        <translation>選択項目を閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>Show panel in</source>
+        <translation>カードの位置</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStep</name>
+    <message>
+        <source>Set up Vantle</source>
+        <translation>Vantleの設定</translation>
+    </message>
+    <message>
+        <source>Recommended settings are already selected</source>
+        <translation>おすすめの設定が選択されています</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>SCREENSHOTS ARE SAVED TO</source>
+        <translation>スクリーンショットの保存先</translation>
+    </message>
+    <message>
+        <source>Vantle %1</source>
+        <translation>Vantle %1</translation>
+    </message>
+    <message>
+        <source>Test with a sample</source>
+        <translation>サンプルで試す</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>Vantle Settings</source>
+        <translation>Vantleの設定</translation>
+    </message>
+</context>
+<context>
+    <name>SharingServicePicker</name>
+    <message>
+        <source>Copy file</source>
+        <translation>ファイルをコピー</translation>
+    </message>
+    <message>
+        <source>Reveal</source>
+        <translation>フォルダに表示</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>共有</translation>
+    </message>
+    <message>
+        <source>Bluetooth…</source>
+        <translation>Bluetooth…</translation>
+    </message>
+    <message>
+        <source>Mail…</source>
+        <translation>メール…</translation>
+    </message>
+</context>
+<context>
+    <name>SoundPlayer</name>
+    <message>
+        <source>New capture</source>
+        <translation>新しいキャプチャ</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBarController</name>
+    <message>
+        <source>No captures yet</source>
+        <translation>キャプチャはまだありません</translation>
+    </message>
+    <message>
+        <source>Resume Vantle</source>
+        <translation>Vantleを再開</translation>
+    </message>
+    <message>
+        <source>Pause Vantle</source>
+        <translation>Vantleを一時停止</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>設定…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>アップデートを確認…</translation>
+    </message>
+    <message>
+        <source>Quit Vantle</source>
+        <translation>Vantleを終了</translation>
+    </message>
+    <message>
+        <source>Recent Captures</source>
+        <translation>最近のキャプチャ</translation>
+    </message>
+    <message>
+        <source>Open Screenshots Folder</source>
+        <translation>スクリーンショットのフォルダを開く</translation>
+    </message>
+</context>
+<context>
+    <name>TileActions</name>
+    <message>
+        <source>Unpin (dismiss on timer again)</source>
+        <translation>ピンを外す（時間で閉じる）</translation>
+    </message>
+    <message>
+        <source>Pin (ignore the timer)</source>
+        <translation>ピンで留める（時間で閉じない）</translation>
+    </message>
+    <message>
+        <source>Copy to clipboard</source>
+        <translation>クリップボードにコピー</translation>
+    </message>
+    <message>
+        <source>Share…</source>
+        <translation>共有…</translation>
+    </message>
+    <message>
+        <source>Reveal in Finder</source>
+        <translation>フォルダに表示</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>ゴミ箱に入れる</translation>
+    </message>
+</context>
+<context>
+    <name>TileRow</name>
+    <message>
+        <source>Captures</source>
+        <translation>キャプチャ</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateProgram</name>
+    <message>
+        <source>The program that does updates does not answer.</source>
+        <translation>アップデート用プログラムが応答しません。</translation>
+    </message>
+    <message>
+        <source>The program that does updates failed: %1.</source>
+        <translation>アップデート用プログラムが失敗しました: %1。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateWindow</name>
+    <message>
+        <source>Vantle Update</source>
+        <translation>Vantleのアップデート</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>The update was refused: %1</source>
+        <translation>アップデートを拒否しました: %1</translation>
+    </message>
+    <message>
+        <source>it holds a file without a name.</source>
+        <translation>名前のないファイルが含まれています。</translation>
+    </message>
+    <message>
+        <source>it holds too many files.</source>
+        <translation>ファイルが多すぎます。</translation>
+    </message>
+    <message>
+        <source>it holds &quot;%1&quot;.</source>
+        <translation>“%1”が含まれています。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a file nor a folder.</source>
+        <translation>“%1”はファイルでもフォルダでもありません。</translation>
+    </message>
+    <message>
+        <source>it holds &quot;%1&quot; twice.</source>
+        <translation>“%1”が2回含まれています。</translation>
+    </message>
+    <message>
+        <source>its archive is damaged.</source>
+        <translation>アーカイブが破損しています。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has holes.</source>
+        <translation>“%1”に欠落があります。</translation>
+    </message>
+    <message>
+        <source>it is too large once it is unpacked.</source>
+        <translation>展開すると大きすぎます。</translation>
+    </message>
+    <message>
+        <source>it is no archive.</source>
+        <translation>アーカイブではありません。</translation>
+    </message>
+    <message>
+        <source>Version %1 needs a newer system: version %2 of the C library, and this is %3.</source>
+        <translation>バージョン%1にはより新しいシステムが必要です（Cライブラリ%2。現在は%3）。</translation>
+    </message>
+    <message>
+        <source>Version %1 carries no signature, so it was refused.</source>
+        <translation>バージョン%1には署名がないため、拒否しました。</translation>
+    </message>
+    <message>
+        <source>Version %1 has no length in the update feed, so it was refused.</source>
+        <translation>フィードにバージョン%1のサイズがないため、拒否しました。</translation>
+    </message>
+    <message>
+        <source>Version %1 is too large for an update, so it was refused.</source>
+        <translation>バージョン%1は大きすぎるため、拒否しました。</translation>
+    </message>
+    <message>
+        <source>Vantle %1 is newer than the newest version that is offered, %2.</source>
+        <translation>Vantle %1は、提供されている最新バージョン%2より新しいものです。</translation>
+    </message>
+    <message>
+        <source>There is a newer version, but not for this system (%1).</source>
+        <translation>新しいバージョンがありますが、このシステム（%1）用ではありません。</translation>
+    </message>
+    <message>
+        <source>Vantle %1 is the newest version.</source>
+        <translation>Vantle %1は最新バージョンです。</translation>
+    </message>
+    <message>
+        <source>The update feed is damaged: %1.</source>
+        <translation>アップデートのフィードが破損しています: %1。</translation>
+    </message>
+    <message>
+        <source>The update feed is damaged: there is no list of versions.</source>
+        <translation>アップデートのフィードが破損しています: バージョンの一覧がありません。</translation>
+    </message>
+    <message>
+        <source>The update feed is damaged: it has no date.</source>
+        <translation>アップデートのフィードが破損しています: 日付がありません。</translation>
+    </message>
+    <message>
+        <source>Updates are fetched only by HTTPS, not from &quot;%1&quot;.</source>
+        <translation>アップデートはHTTPSでのみ取得します。“%1”からは取得しません。</translation>
+    </message>
+    <message>
+        <source>The server sent more than the %1 bytes that are expected at most.</source>
+        <translation>サーバが上限の%1バイトを超えるデータを送ってきました。</translation>
+    </message>
+    <message>
+        <source>The server is too slow.</source>
+        <translation>サーバが遅すぎます。</translation>
+    </message>
+    <message>
+        <source>The server broke off in the middle.</source>
+        <translation>サーバが途中で切断しました。</translation>
+    </message>
+    <message>
+        <source>The server could not be asked: %1.</source>
+        <translation>サーバに接続できませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>The server answered with the error %1.</source>
+        <translation>サーバがエラー%1を返しました。</translation>
+    </message>
+    <message>
+        <source>The server leads from one address to the next without end.</source>
+        <translation>サーバの転送が終わりません。</translation>
+    </message>
+    <message>
+        <source>The system&apos;s package installer: %1</source>
+        <translation>システムのパッケージインストーラ: %1</translation>
+    </message>
+    <message>
+        <source>it did not install the update.</source>
+        <translation>アップデートはインストールされませんでした。</translation>
+    </message>
+    <message>
+        <source>The folder of Vantle cannot be replaced in one step: %1</source>
+        <translation>Vantleのフォルダを一度に置き換えられません: %1</translation>
+    </message>
+    <message>
+        <source>Vantle %1 did not start in time</source>
+        <translation>Vantle %1は時間内に起動しませんでした</translation>
+    </message>
+    <message>
+        <source>Vantle %1 crashed at its start</source>
+        <translation>Vantle %1は起動時にクラッシュしました</translation>
+    </message>
+    <message>
+        <source>Vantle %1 ended at its start</source>
+        <translation>Vantle %1は起動時に終了しました</translation>
+    </message>
+    <message>
+        <source>Vantle %1 cannot be started: %2</source>
+        <translation>Vantle %1を起動できません: %2</translation>
+    </message>
+    <message>
+        <source>The update could not be put in place: %1.</source>
+        <translation>アップデートを適用できませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>%1, and the version before it could not be put back: %2.</source>
+        <translation>%1。前のバージョンにも戻せませんでした: %2。</translation>
+    </message>
+    <message>
+        <source>%1, so the version before it was put back.</source>
+        <translation>%1。前のバージョンに戻しました。</translation>
+    </message>
+    <message>
+        <source>The update feed carries no signature, so it was refused.</source>
+        <translation>アップデートのフィードに署名がないため、拒否しました。</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is wrong, so the feed was refused.</source>
+        <translation>アップデートのフィードの署名が正しくないため、拒否しました。</translation>
+    </message>
+    <message>
+        <source>%1 is in the way, and not ours.</source>
+        <translation>%1が邪魔をしていますが、Vantleのものではありません。</translation>
+    </message>
+    <message>
+        <source>Another update is under way.</source>
+        <translation>別のアップデートが進行中です。</translation>
+    </message>
+    <message>
+        <source>it should be version %1 and is &quot;%2&quot;.</source>
+        <translation>バージョン%1のはずが“%2”です。</translation>
+    </message>
+    <message>
+        <source>it is not for this system (%1).</source>
+        <translation>このシステム（%1）用ではありません。</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>%1がありません。</translation>
+    </message>
+    <message>
+        <source>%1 is missing or damaged.</source>
+        <translation>%1がないか、破損しています。</translation>
+    </message>
+    <message>
+        <source>%1 does not belong to it.</source>
+        <translation>%1は含まれるべきものではありません。</translation>
+    </message>
+    <message>
+        <source>The folder of Vantle, %1, also holds &quot;%2&quot;, which is not part of it. Move that elsewhere first.</source>
+        <translation>Vantleのフォルダ%1に、含まれるべきでない“%2”があります。先に別の場所へ移してください。</translation>
+    </message>
+    <message>
+        <source>The update is shorter than the feed says, so it was refused.</source>
+        <translation>アップデートがフィードの記載より短いため、拒否しました。</translation>
+    </message>
+    <message>
+        <source>The signature of the update is wrong, so it was refused.</source>
+        <translation>アップデートの署名が正しくないため、拒否しました。</translation>
+    </message>
+    <message>
+        <source>This copy of Vantle cannot be updated, because it was built without the key that updates are signed with.</source>
+        <translation>このVantleはアップデートの署名鍵なしでビルドされているため、アップデートできません。</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that was seen before, so it was refused.</source>
+        <translation>アップデートのフィードが以前のものより古いため、拒否しました。</translation>
+    </message>
+    <message>
+        <source>This copy of Vantle cannot be replaced by itself.</source>
+        <translation>このVantleは自分自身を置き換えられません。</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Welcome to Vantle</source>
+        <translation>Vantleへようこそ</translation>
+    </message>
+    <message>
+        <source>Screenshots shouldn&apos;t vanish before you can use them.
+Vantle keeps your latest screenshots and recordings in a glass panel in the corner until you&apos;re done with them.</source>
+        <translation>撮ったスクリーンショットが、使う前に消えてしまわないように。
+最新のスクリーンショットと収録を、画面の隅のカードに残します。</translation>
+    </message>
+    <message>
+        <source>Drag a preview straight into Slack, Mail, Figma or anywhere else</source>
+        <translation>プレビューをSlackやメール、Figmaなどへ直接ドラッグ</translation>
+    </message>
+    <message>
+        <source>Take several in a row and they line up side by side</source>
+        <translation>続けて撮ると、横に並びます</translation>
+    </message>
+    <message>
+        <source>Stays until you dismiss it, or on a timer if you prefer</source>
+        <translation>閉じるまで表示、タイマーで消すこともできます</translation>
+    </message>
+</context>
+<context>
+    <name>vantle::UpdateModel</name>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>アップデートを確認中…</translation>
+    </message>
+    <message>
+        <source>Vantle %1 is available</source>
+        <translation>Vantle %1があります</translation>
+    </message>
+    <message>
+        <source>Downloading Vantle %1…</source>
+        <translation>Vantle %1をダウンロード中…</translation>
+    </message>
+    <message>
+        <source>Installing Vantle %1…</source>
+        <translation>Vantle %1をインストール中…</translation>
+    </message>
+    <message>
+        <source>Vantle is up to date</source>
+        <translation>Vantleは最新です</translation>
+    </message>
+    <message>
+        <source>Updates could not be checked</source>
+        <translation>アップデートを確認できませんでした</translation>
+    </message>
+    <message>
+        <source>Vantle could not be updated</source>
+        <translation>Vantleをアップデートできませんでした</translation>
+    </message>
+    <message>
+        <source>You have version %1. The new one can be downloaded from the web.</source>
+        <translation>現在のバージョンは%1です。新しいものはWebからダウンロードできます。</translation>
+    </message>
+    <message>
+        <source>You have version %1. Would you like to install the new one now?</source>
+        <translation>現在のバージョンは%1です。新しいものを今インストールしますか？</translation>
+    </message>
+    <message>
+        <source>Your system may ask for your permission.</source>
+        <translation>システムが許可を求めることがあります。</translation>
+    </message>
+    <message>
+        <source>Vantle starts again in a moment.</source>
+        <translation>まもなくVantleが再起動します。</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1／%2</translation>
+    </message>
+    <message>
+        <source>%1, %2 per second</source>
+        <translation>%1、毎秒%2</translation>
+    </message>
+    <message>
+        <source>Open Download Page</source>
+        <translation>ダウンロードページを開く</translation>
+    </message>
+    <message>
+        <source>Install and Relaunch</source>
+        <translation>インストールして再起動</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>あとで通知</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>このバージョンをスキップ</translation>
+    </message>
+</context>
+</TS>
