@@ -12,7 +12,7 @@ namespace vantle {
 using Translator = std::function<std::string(const char* context, const char* text)>;
 
 /// Who translates from now on; nobody when it is empty. To be set before a second thread is there.
-void setTranslator(Translator translator);
+void setTranslator(Translator translates);
 
 /// The text in the user's language, as it stands here where it has none. UTF-8. `context` is the
 /// class that shows it. What collects the texts for translators reads the calls of this function:
