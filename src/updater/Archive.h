@@ -18,7 +18,7 @@ struct ArchiveLimits {
 /// nowhere else; of their modes only whether a file can be run. Stops at the first thing that is
 /// not so, or at a limit, and then leaves behind what was unpacked up to there. Returns when all is
 /// on the disk.
-Outcome unpack(std::string_view archive, const std::filesystem::path& folder,
+Outcome unpack(std::string_view bytes, const std::filesystem::path& folder,
                const ArchiveLimits& limits);
 
 }  // namespace vantle::updater

@@ -4,7 +4,7 @@ namespace vantle::updater {
 
 const Configuration& configuration() {
     using namespace std::chrono_literals;
-    constexpr std::uint64_t mebibyte = 1024 * 1024;
+    constexpr std::uint64_t mebibyte = std::uint64_t{1024} * 1024;
     static const Configuration built{
         .feed = VANTLE_UPDATE_FEED,
         .publicKey = VANTLE_UPDATE_KEY,

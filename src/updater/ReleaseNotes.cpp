@@ -9,7 +9,7 @@
 namespace vantle::updater {
 namespace {
 
-constexpr std::size_t longest = 32 * 1024;  // bytes
+constexpr std::size_t longest = std::size_t{32} * 1024;  // bytes
 constexpr std::size_t deepest = 16;
 
 constexpr std::array<std::string_view, 16> harmless{"p",  "h1", "h2",   "h3", "h4",     "ul",

@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 constexpr auto releaseFile = "share/vantle/release";
 constexpr auto manifestFile = "share/vantle/manifest";
-constexpr std::size_t longestText = 4 * 1024 * 1024;
+constexpr std::size_t longestText = std::size_t{4} * 1024 * 1024;
 
 using Manifest = std::map<std::string, std::string>;  // sums in hexadecimal, by path
 
