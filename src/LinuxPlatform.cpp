@@ -24,7 +24,6 @@
 #include "platform/linux/screenshots/ScreenshotTools.h"
 #include "platform/linux/screenshots/ToolChoice.h"
 #include "platform/linux/screenshots/ToolPreferencesDomain.h"
-#include "platform/qt/DBusApplication.h"
 #include "platform/qt/DensestScreen.h"
 #include "platform/qt/DesktopFileOpener.h"
 #include "platform/qt/DesktopPrivacySettings.h"
@@ -158,7 +157,8 @@ std::shared_ptr<MediaLoader> makePictureLoader() {
     return std::make_shared<ConfinedMediaLoader>(beside("vantle-decoder"), [] { return 1.0; });
 }
 
-Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures) {
+Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures,
+                           DBusApplication::Launch launch) {
     Platform platform;
     platform.environment = processEnvironment();
     const Url configuration = UserDirectories(platform.environment).configuration();
@@ -175,7 +175,7 @@ Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures) {
     platform.launcher = std::make_unique<PosixProcessLauncher>();
     platform.loginItem = makeLoginItem(platform.environment);
     platform.screens = std::make_unique<QtScreens>();
-    platform.application = std::make_unique<DBusApplication>(programIdentifier);
+    platform.application = std::make_unique<DBusApplication>(programIdentifier, launch);
     platform.appearance = std::make_unique<PortalAppearance>();
     auto queue = std::make_unique<PollQueue>("vantle.watcher");
     platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*queue);

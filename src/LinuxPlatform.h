@@ -4,6 +4,7 @@
 
 #include "platform/MediaLoader.h"
 #include "platform/Platform.h"
+#include "platform/qt/DBusApplication.h"
 
 namespace vantle {
 
@@ -15,6 +16,7 @@ std::shared_ptr<MediaLoader> makePictureLoader();
 
 /// The services of a Linux desktop. The application object is there and outlives them; `pictures`
 /// is what the clipboard converts with.
-Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures);
+Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures,
+                           DBusApplication::Launch launch);
 
 }  // namespace vantle

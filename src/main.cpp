@@ -110,8 +110,8 @@ AppDelegate::Views makeViews(Platform& platform, DraggingSessions& dragging) {
                 }};
 }
 
-int run(int& argc, char** argv, const std::optional<ApplicationRequest>& request,
-        Translations& translations) {
+int run(int& argc, char** argv, const CommandLine& line, Translations& translations) {
+    const auto& request = line.request;
     qInstallMessageHandler(endOnFatalMessages);
     QGuiApplication application = makeApplication(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -124,7 +124,9 @@ int run(int& argc, char** argv, const std::optional<ApplicationRequest>& request
     }
 
     const auto pictures = makePictureLoader();
-    Platform platform = makeLinuxPlatform(pictures);
+    Platform platform =
+        makeLinuxPlatform(pictures, line.launchedByBus ? DBusApplication::Launch::byBus
+                                                       : DBusApplication::Launch::byUser);
     Appearance::follow(platform.appearance.get());
     QtDraggingSessions dragging(pictures);
     const auto delegate = AppDelegate::create(platform, makeViews(platform, dragging));
@@ -146,7 +148,7 @@ int main(int argc, char** argv) {
     const auto line = parseCommandLine(arguments, Url::file(noFolder ? "/" : here.string()));
     switch (line.kind) {
         case CommandLine::Kind::start:
-            return run(argc, argv, line.request, translations);
+            return run(argc, argv, line, translations);
         case CommandLine::Kind::ask:
             return ask(argc, argv, *line.request);
         case CommandLine::Kind::print:

@@ -37,6 +37,9 @@ constexpr std::array options = {
     Option{"help", Kind::print, marked("CommandLine", "print this text")},
 };
 
+// For the bus, not for people: the help does not list it.
+constexpr auto dbusActivated = "--dbus-activated";
+
 CommandLine wrong(const std::string& reason) {
     return {Kind::wrong, std::nullopt,
             "vantle: " + reason + "\n" + localized("CommandLine", "Try \"vantle --help\".")};
@@ -89,6 +92,7 @@ std::string helpText() {
 
 CommandLine parseCommandLine(const std::vector<std::string>& arguments, const Url& folder) {
     if (arguments.empty()) return {};
+    if (arguments == std::vector<std::string>{dbusActivated}) return {.launchedByBus = true};
     const std::string& first = arguments.front();
     const std::vector<std::string> files(arguments.begin() + 1, arguments.end());
     if (!first.starts_with("--")) return wrong(unexpected(first));

@@ -32,7 +32,9 @@ int main(int argc, char** argv) {
     panel.setFlags(Qt::ToolTip);
     panel.show();
 
-    DBusApplication application("org.vantle.Vantle");
+    const bool isForCall = QGuiApplication::arguments().contains(QStringLiteral("--for-call"));
+    DBusApplication application("org.vantle.Vantle", isForCall ? DBusApplication::Launch::byBus
+                                                               : DBusApplication::Launch::byUser);
     application.onReopen = [](bool hasVisibleWindows) {
         say(hasVisibleWindows ? "reopened with windows" : "reopened without windows");
     };

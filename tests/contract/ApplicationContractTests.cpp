@@ -270,6 +270,61 @@ QDBusMessage call(const Session& session, const QString& method, const QVariantL
     return reply;
 }
 
+QDBusMessage click(const Session& session) {
+    return call(session, QStringLiteral("Activate"), {QVariantMap{}});
+}
+
+/// A copy that the bus has started.
+Program startForCall(const Session& session) {
+    auto copy = session.startCopy({QStringLiteral("--for-call")});
+    EXPECT_EQ(copy->line(), "first");
+    return copy;
+}
+
+TEST(DBusApplicationTest, TheClickThatStartsItDoesNotReopenIt) {
+    Session session;
+    session.startBus();
+    const auto copy = startForCall(session);
+    EXPECT_EQ(click(session).type(), QDBusMessage::ReplyMessage);
+    constexpr int patience = 300;
+    EXPECT_FALSE(copy->saysSomething(patience));
+    click(session);
+    EXPECT_EQ(copy->line(), "reopened without windows");
+}
+
+TEST(DBusApplicationTest, ItIsReopenedAfterTheActionThatStartedIt) {
+    Session session;
+    session.startBus();
+    const auto copy = startForCall(session);
+    call(session, QStringLiteral("ActivateAction"),
+         {QStringLiteral("pause"), QVariantList{}, QVariantMap{}});
+    EXPECT_EQ(copy->line(), "asked for pause");
+    click(session);
+    EXPECT_EQ(copy->line(), "reopened without windows");
+}
+
+TEST(DBusApplicationTest, AClickLongAfterALaunchWithoutOneReopensIt) {
+    Session session;
+    session.startBus();
+    const auto copy = startForCall(session);
+    constexpr int longer = 5'100;
+    EXPECT_FALSE(copy->saysSomething(longer));
+    click(session);
+    EXPECT_EQ(copy->line(), "reopened without windows");
+}
+
+TEST(DBusApplicationTest, WhatTheBusStartedInVainLeavesTheCallToTheBus) {
+    Session session;
+    session.startBus();
+    const auto first = session.startCopy();
+    ASSERT_EQ(first->line(), "first");
+    const auto later = session.startCopy({QStringLiteral("--for-call")});
+    EXPECT_EQ(later->line(), "second");
+    EXPECT_EQ(later->result(), 0);
+    constexpr int patience = 300;
+    EXPECT_FALSE(first->saysSomething(patience));
+}
+
 TEST(DBusApplicationTest, ALauncherIsAnswered) {
     Session session;
     session.startBus();

@@ -10,6 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 using Kind = CommandLine::Kind;
 
 CommandLine parse(const std::vector<std::string>& arguments) {
@@ -20,6 +21,16 @@ TEST(CommandLineTest, WithoutArgumentsTheProgramStarts) {
     const auto line = parse({});
     EXPECT_EQ(line.kind, Kind::start);
     EXPECT_FALSE(line.request);
+}
+
+TEST(CommandLineTest, TheBusStartsItForACall) {
+    const auto line = parse({"--dbus-activated"});
+    EXPECT_EQ(line.kind, Kind::start);
+    EXPECT_FALSE(line.request);
+    EXPECT_TRUE(line.launchedByBus);
+    EXPECT_FALSE(parse({}).launchedByBus);
+    EXPECT_EQ(parse({"--dbus-activated", "file.png"}).kind, Kind::wrong);
+    EXPECT_THAT(helpText(), Not(HasSubstr("--dbus-activated")));
 }
 
 TEST(CommandLineTest, SomeActionsStartTheProgramAndOthersOnlyAskOneThatRuns) {

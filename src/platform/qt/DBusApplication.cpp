@@ -23,6 +23,7 @@ namespace vantle {
 namespace {
 
 constexpr int answerTimeout = 3000;  // milliseconds
+constexpr int causeTimeout = 5000;   // milliseconds; a launch takes less, also just after login
 constexpr auto notRunning = marked("Requests", "Vantle is not running");
 constexpr auto noAnswer = marked("Requests", "the copy that runs does not answer");
 
@@ -82,7 +83,7 @@ class DBusApplication::BusObject final : public QObject, public QDBusContext {
 public:
     explicit BusObject(DBusApplication& application);
 
-    void reopen() { application_.reopen(); }
+    void activated() { application_.activated(); }
     QString perform(const ApplicationRequest& request);
 
 private:
@@ -99,7 +100,7 @@ public:
         : QDBusAbstractAdaptor(&object), object_(object) {}
 
 public slots:
-    void Activate(const QVariantMap&) { object_.reopen(); }
+    void Activate(const QVariantMap&) { object_.activated(); }
     void Open(const QStringList& addresses, const QVariantMap&) {
         ApplicationRequest request{"show", {}};
         for (const QString& address : addresses)
@@ -143,6 +144,7 @@ DBusApplication::BusObject::BusObject(DBusApplication& application) : applicatio
 }
 
 QString DBusApplication::BusObject::perform(const ApplicationRequest& request) {
+    application_.causeOfLaunch_ = QDeadlineTimer(0);
     const auto answer = application_.perform(request);
     if (answer) return QString::fromStdString(answer.value());
     const std::string& reason = answer.failure().message;
@@ -151,9 +153,10 @@ QString DBusApplication::BusObject::perform(const ApplicationRequest& request) {
     return {};
 }
 
-DBusApplication::DBusApplication(const std::string& identifier)
+DBusApplication::DBusApplication(const std::string& identifier, Launch launch)
     : identifier_(QString::fromStdString(identifier)),
-      path_(QLatin1Char('/') + QString(identifier_).replace(QLatin1Char('.'), QLatin1Char('/'))) {
+      path_(QLatin1Char('/') + QString(identifier_).replace(QLatin1Char('.'), QLatin1Char('/'))),
+      launch_(launch) {
     qDBusRegisterMetaType<QByteArrayList>();
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         taskbar_ = std::make_unique<TaskbarPresence>();
@@ -180,6 +183,7 @@ bool DBusApplication::anotherHoldsTheName() {
     if (reply.type() == QDBusMessage::ErrorMessage) return anotherHoldsTheRuntimeFolder();
     constexpr uint nameIsTaken = 3;
     if (reply.arguments().value(0).toUInt() == nameIsTaken) return true;
+    if (launch_ == Launch::byBus) causeOfLaunch_.setRemainingTime(causeTimeout);
     object_ = std::move(object);
     return false;
 }
@@ -221,6 +225,12 @@ Result<std::string> DBusApplication::askThroughSocket(const ApplicationRequest& 
     return Failure{0, answer.value().substr(std::min<std::size_t>(1, answer.value().size())), ""};
 }
 
+/// Whoever clicked a program that did not run wanted it to start, which it has.
+void DBusApplication::activated() {
+    const auto cause = std::exchange(causeOfLaunch_, QDeadlineTimer(0));
+    if (cause.hasExpired()) reopen();
+}
+
 void DBusApplication::reopen() {
     if (onReopen) onReopen(hasVisibleWindows());
 }
@@ -231,6 +241,8 @@ Result<std::string> DBusApplication::perform(const ApplicationRequest& request) 
 }
 
 void DBusApplication::activateOtherCopy() {
+    // The bus tells that copy itself.
+    if (launch_ == Launch::byBus) return;
     if (socket_) {
         if (const auto told = askThroughSocket({}); !told)
             systemLog("Vantle: " + told.failure().message);

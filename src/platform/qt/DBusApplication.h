@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QString>
 #include <memory>
 #include <string>
@@ -16,8 +17,13 @@ namespace vantle {
 /// another copy.
 class DBusApplication final : public Application {
 public:
+    enum class Launch {
+        byUser,
+        byBus,  ///< For a call to the name, which the bus delivers once this copy has the name.
+    };
+
     /// `identifier` is the bus name, such as "org.example.Program".
-    explicit DBusApplication(const std::string& identifier);
+    explicit DBusApplication(const std::string& identifier, Launch launch = Launch::byUser);
     ~DBusApplication() override;
 
     void setActivationPolicy(ActivationPolicy policy) override;
@@ -35,11 +41,14 @@ private:
     RuntimeSocket& socket();
     std::string answerToSocket(const std::string& message);
     Result<std::string> askThroughSocket(const ApplicationRequest& request);
+    void activated();
     void reopen();
     Result<std::string> perform(const ApplicationRequest& request);
 
     QString identifier_;
     QString path_;
+    Launch launch_;
+    QDeadlineTimer causeOfLaunch_{0};  ///< Until it expires a call may be what this copy is for.
     std::unique_ptr<TaskbarPresence> taskbar_;  ///< Only with a display.
     std::unique_ptr<BusObject> object_;
     std::unique_ptr<RuntimeSocket> socket_;  ///< Only without a bus.
