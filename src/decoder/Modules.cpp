@@ -13,7 +13,7 @@ namespace vantle::decoder {
 const FormatModule* loadModule(Format format) {
     std::error_code error;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    const auto file = program.parent_path().parent_path() / "lib" / "vantle" /
+    const auto file = program.parent_path().parent_path() / "lib/vantle/modules" /
                       ("vantle-decoder-" + std::string(name(format)) + ".so");
     void* library = dlopen(file.c_str(), RTLD_LAZY | RTLD_LOCAL);
     const auto entry =

@@ -42,7 +42,8 @@ def publisher(server, tmp_path):
 def programs(binary, main):
     """All that it takes, with another main program; the decoder for what is saved in the tests."""
     build = Path(binary).parents[1]
-    places = ["bin/vantle-decoder", "bin/vantle-folder-dialog", "lib/vantle/vantle-decoder-png.so"]
+    places = ["bin/vantle-decoder", "bin/vantle-folder-dialog",
+              "lib/vantle/modules/vantle-decoder-png.so"]
     return {
         "bin/vantle": main,
         "bin/vantle-updater": Path(os.environ["VANTLE_UPDATER"]),
