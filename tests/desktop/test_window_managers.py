@@ -5,10 +5,36 @@ import pytest
 import panel_checks
 from other_windows import OtherWindow
 from privatedesktop import Rectangle, wait_until
+from using import Drag, tile_of, window_titled
 
 BLUR_PROPERTY = "_KDE_NET_WM_BLUR_BEHIND_REGION"
 
+
+def check_stands_in_its_corner(desktop, vantle, folder):
+    vantle.start_watching()
+    panel = panel_checks.show_one(desktop, folder)
+    work_area = desktop.screen.work_area()
+    assert panel.frame == panel_checks.expected_frame(work_area, "bottomRight")
+
+
+def check_drags_into_a_file_manager(desktop, vantle, folder):
+    target = desktop.home / "Target"
+    target.mkdir()
+    desktop.start("thunar", str(target))
+    window = window_titled(desktop, "Target")
+    vantle.start_watching()
+    card = panel_checks.wait_for_card(desktop, panel_checks.show_one(desktop, folder))
+    area = desktop.screen.area(window)
+    # In the middle of its files; none of that is under the card.
+    goal = area.x + area.width // 2, area.y + area.height // 2
+    assert Drag(desktop, vantle, tile_of(card)).hold_over(*goal).drop()
+    copy, original = target / "shot.png", folder.path / "shot.png"
+    wait_until(lambda: copy.exists() and copy.read_bytes() == original.read_bytes(), "it is copied")
+
+
 CHECKS = [
+    check_stands_in_its_corner,
+    check_drags_into_a_file_manager,
     panel_checks.check_above_a_full_screen_window,
     panel_checks.check_not_in_taskbar_or_pager,
     panel_checks.check_on_every_workspace,
