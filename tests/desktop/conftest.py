@@ -28,9 +28,11 @@ def pytest_configure(config):
 @pytest.hookimpl(hookwrapper=True)
 def pytest_runtest_makereport(item, call):
     report = (yield).get_result()
-    if report.skipped:
+    # One that failed as it was expected to was not skipped.
+    failed_as_expected = report.skipped and hasattr(report, "wasxfail")
+    if report.skipped and not failed_as_expected:
         item.config.skipped_tests += 1
-    if report.when == "call" and report.passed:
+    if report.when == "call" and (report.passed or failed_as_expected):
         item.config.passed_tests += 1
     if report.failed and report.when in ("setup", "call"):
         keep_evidence(item)
