@@ -74,6 +74,13 @@ def pack(tree, archive, date=0, effort=19):
     )
 
 
+def date_of_package(changelog):
+    """When the newest version was made, by Debian's changelog; in seconds since 1970."""
+    text = Path(changelog).read_text()
+    date = re.search(r"^ -- .*>  (.*)$", text, re.MULTILINE).group(1)
+    return int(email.utils.parsedate_to_datetime(date).timestamp())
+
+
 def needed_system(tree):
     """The version of the C library that the programs of a tree need."""
     versions = {(0,)}

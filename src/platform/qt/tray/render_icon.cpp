@@ -1,10 +1,10 @@
-// Runs when the program is built: draws an icon once for each size that trays want, so that the
-// resident program needs no drawing for it.
+// Runs when the program is built: draws an icon once for each size that trays and launchers want,
+// so that the resident program needs no drawing for it.
 //
 //   render_icon ICON.svg NAME-16.argb NAME-22.argb ...
 //
-// The size stands in the name of each file, which holds rows of premultiplied pixels from the top,
-// each a 32-bit number in the order of this machine's bytes.
+// The size stands in the name of each file. It is a PNG file, or holds rows of premultiplied pixels
+// from the top, each a 32-bit number in the order of this machine's bytes.
 
 #include <QFile>
 #include <QFileInfo>
@@ -25,6 +25,7 @@ QImage drawn(QSvgRenderer& renderer, int pixels) {
 }
 
 bool write(const QImage& image, const QString& path) {
+    if (path.endsWith(QLatin1String(".png"))) return image.save(path);
     QFile file(path);
     return file.open(QIODevice::WriteOnly) &&
            file.write(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()) ==

@@ -1,0 +1,16 @@
+# Completes the options of vantle in fish. Its options are those of "vantle --help".
+
+complete -c vantle -f
+complete -c vantle -n '__fish_is_first_arg' -l settings -d 'Open the settings'
+complete -c vantle -n '__fish_is_first_arg' -l pause -d 'Stop watching until --resume'
+complete -c vantle -n '__fish_is_first_arg' -l resume -d 'Watch again'
+complete -c vantle -n '__fish_is_first_arg' -l show -d 'Show screenshots or recordings on the card'
+complete -c vantle -n '__fish_seen_argument -l show' -F
+complete -c vantle -n '__fish_is_first_arg' -l dismiss -d 'Take the card away'
+complete -c vantle -n '__fish_is_first_arg' -l focus-panel -d 'Give the card the keyboard'
+complete -c vantle -n '__fish_is_first_arg' -l open-folder -d 'Open the folder that is watched'
+complete -c vantle -n '__fish_is_first_arg' -l sample -d 'Show two sample captures'
+complete -c vantle -n '__fish_is_first_arg' -l quit -d 'End Vantle'
+complete -c vantle -n '__fish_is_first_arg' -l status -d 'Say what Vantle is doing'
+complete -c vantle -n '__fish_is_first_arg' -l version -d 'Print the version'
+complete -c vantle -n '__fish_is_first_arg' -l help -d 'Print the help'
