@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -20,11 +22,13 @@
 #include "platform/linux/LinuxFileManager.h"
 #include "platform/linux/PollQueue.h"
 #include "platform/linux/PosixProcessLauncher.h"
+#include "platform/linux/SystemFacts.h"
 #include "platform/linux/UserDirectories.h"
 #include "platform/linux/screenshots/ScreenshotTools.h"
 #include "platform/linux/screenshots/ToolChoice.h"
 #include "platform/linux/screenshots/ToolPreferencesDomain.h"
 #include "platform/qt/DensestScreen.h"
+#include "platform/qt/DesktopFacts.h"
 #include "platform/qt/DesktopFileOpener.h"
 #include "platform/qt/DesktopPrivacySettings.h"
 #include "platform/qt/DialogFolderChooser.h"
@@ -86,7 +90,7 @@ void addUses(Platform& platform, std::shared_ptr<MediaLoader> pictures) {
 }
 
 /// The icon in the tray. Its menu is loaded when it is opened for the first time.
-std::unique_ptr<StatusItem> makeStatusItem() {
+std::unique_ptr<TrayStatusItem> makeStatusItem() {
     const auto window = std::make_shared<std::unique_ptr<MenuWindow>>();
     const auto open = [window](const Menu& menu, const QRect& anchor) {
         if (!*window) *window = std::make_unique<MenuWindow>();
@@ -98,9 +102,23 @@ std::unique_ptr<StatusItem> makeStatusItem() {
                                                             : TrayStatusItem::Click::opensOurMenu);
 }
 
+/// What stands around the program, for reports of faults.
+std::vector<Fact> surroundings(const Environment& environment, const TrayStatusItem& statusItem) {
+    std::vector<Fact> facts = systemFacts(environment, Url::file(beside("../share/vantle")));
+    std::ranges::copy(displayServerFacts(), std::back_inserter(facts));
+    std::ranges::copy(desktopFacts(), std::back_inserter(facts));
+    facts.push_back({"tray", statusItem.tray()});
+    facts.push_back(decoderFact(beside("vantle-decoder")));
+    return facts;
+}
+
 /// What the program says of itself, outside the panel.
 void addShell(Platform& platform) {
-    platform.statusItem = makeStatusItem();
+    auto statusItem = makeStatusItem();
+    platform.surroundings = [environment = platform.environment, &item = *statusItem] {
+        return surroundings(environment, item);
+    };
+    platform.statusItem = std::move(statusItem);
     platform.alerts = std::make_unique<WindowAlerts>();
     platform.canvas = std::make_unique<QtCanvas>(densestScreen());
     platform.sounds =

@@ -240,6 +240,14 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <source>%1 needs a file</source>
         <translation>%1 braucht eine Datei</translation>
     </message>
+    <message>
+        <source>with all that a report of a fault needs</source>
+        <translation>mit allem, was ein Fehlerbericht braucht</translation>
+    </message>
+    <message>
+        <source>and with the paths in it</source>
+        <translation>und mit den Pfaden darin</translation>
+    </message>
 </context>
 <context>
     <name>DismissSlider</name>

@@ -240,6 +240,14 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <source>%1 needs a file</source>
         <translation>%1 demande un fichier</translation>
     </message>
+    <message>
+        <source>with all that a report of a fault needs</source>
+        <translation>avec tout ce qu’il faut pour signaler un problème</translation>
+    </message>
+    <message>
+        <source>and with the paths in it</source>
+        <translation>et avec les chemins</translation>
+    </message>
 </context>
 <context>
     <name>DismissSlider</name>

@@ -240,6 +240,14 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <source>%1 needs a file</source>
         <translation>%1にはファイルが必要です</translation>
     </message>
+    <message>
+        <source>with all that a report of a fault needs</source>
+        <translation>不具合の報告に必要な情報も表示します</translation>
+    </message>
+    <message>
+        <source>and with the paths in it</source>
+        <translation>パスも表示します</translation>
+    </message>
 </context>
 <context>
     <name>DismissSlider</name>

@@ -54,7 +54,8 @@ public:
     void showDemo();
 
     /// Does what the launcher, a script or a second start asks for, and gives the answer for a
-    /// person: lines for "status", else nothing. The actions are those of the command line.
+    /// person: lines for "status", else nothing. The actions and their arguments are those of the
+    /// command line.
     Result<std::string> perform(const ApplicationRequest& request);
 
     /// `size` made to fit on the screen with a margin.
@@ -92,7 +93,7 @@ private:
 
     void setPaused(bool paused);
     Result<std::string> show(const std::vector<std::string>& paths);
-    std::string status() const;
+    Result<std::string> status(const std::vector<std::string>& arguments) const;
 
     /// To be called on the watcher's queue with a file: loads it, then shows it in the panel.
     std::function<void(const Url&)> loader();

@@ -13,11 +13,14 @@ namespace {
 
 using Kind = CommandLine::Kind;
 
+/// What may stand behind an option.
+enum class Takes { nothing, files, details };
+
 struct Option {
     std::string_view name;
     Kind kind;
     const char* help;
-    bool takesFiles = false;
+    Takes takes = Takes::nothing;
 };
 
 // In the order in which the help lists them.
@@ -26,15 +29,26 @@ constexpr std::array options = {
     Option{"pause", Kind::ask, marked("CommandLine", "stop watching until --resume")},
     Option{"resume", Kind::ask, marked("CommandLine", "watch again")},
     Option{"show", Kind::start,
-           marked("CommandLine", "show the screenshots or recordings on the card"), true},
+           marked("CommandLine", "show the screenshots or recordings on the card"), Takes::files},
     Option{"dismiss", Kind::ask, marked("CommandLine", "take the card away")},
     Option{"focus-panel", Kind::ask, marked("CommandLine", "give the card the keyboard")},
     Option{"open-folder", Kind::ask, marked("CommandLine", "open the folder that is watched")},
     Option{"sample", Kind::start, marked("CommandLine", "show two sample captures")},
     Option{"quit", Kind::ask, marked("CommandLine", "end Vantle")},
-    Option{"status", Kind::ask, marked("CommandLine", "say what Vantle is doing")},
+    Option{"status", Kind::ask, marked("CommandLine", "say what Vantle is doing"), Takes::details},
     Option{"version", Kind::print, marked("CommandLine", "print the version")},
     Option{"help", Kind::print, marked("CommandLine", "print this text")},
+};
+
+struct Detail {
+    std::string_view name;
+    const char* help;
+};
+
+// Of the status.
+constexpr std::array details = {
+    Detail{"verbose", marked("CommandLine", "with all that a report of a fault needs")},
+    Detail{"with-paths", marked("CommandLine", "and with the paths in it")},
 };
 
 // For the bus, not for people: the help does not list it.
@@ -53,10 +67,24 @@ std::string absolutePath(const std::string& path, const Url& folder) {
     return Url::file(path.starts_with('/') ? path : folder.appending(path).path()).path();
 }
 
-CommandLine commandFor(const Option& option, const std::vector<std::string>& files,
-                       const Url& folder) {
+CommandLine commandForFiles(const Option& option, const std::vector<std::string>& files,
+                            const Url& folder) {
+    if (files.empty())
+        return wrong(
+            filled(localized("CommandLine", "%1 needs a file"), {"--" + std::string(option.name)}));
     ApplicationRequest request{std::string(option.name), {}};
     for (const auto& file : files) request.arguments.push_back(absolutePath(file, folder));
+    return {option.kind, std::move(request), {}};
+}
+
+CommandLine commandWithDetails(const Option& option, const std::vector<std::string>& wanted) {
+    ApplicationRequest request{std::string(option.name), {}};
+    for (const std::string& detail : wanted) {
+        const bool isKnown = std::ranges::any_of(
+            details, [&](const Detail& known) { return detail == "--" + std::string(known.name); });
+        if (!isKnown) return wrong(unexpected(detail));
+        request.arguments.push_back(detail.substr(2));
+    }
     return {option.kind, std::move(request), {}};
 }
 
@@ -65,10 +93,16 @@ CommandLine printed(std::string_view name) {
             name == "help" ? helpText() : std::string("Vantle ") + std::string(version)};
 }
 
+std::string helpLine(std::string start, const char* help) {
+    constexpr std::size_t column = 18;
+    // The ellipsis is one letter of three bytes.
+    start.resize(column + (start.ends_with("…") ? 2 : 0), ' ');
+    return start + localized("CommandLine", help) + "\n";
+}
+
 }  // namespace
 
 std::string helpText() {
-    constexpr std::size_t column = 16;
     std::string text =
         localized(
             "CommandLine",
@@ -77,10 +111,12 @@ std::string helpText() {
             "the one\nthat runs; --settings, --show and --sample start one where none does.") +
         "\n\n";
     for (const auto& option : options) {
-        std::string line = "  --" + std::string(option.name) + (option.takesFiles ? " FILE…" : "");
-        // The ellipsis is one letter of three bytes.
-        line.resize(column + (option.takesFiles ? 4 : 2), ' ');
-        text += line + localized("CommandLine", option.help) + "\n";
+        const bool takesFiles = option.takes == Takes::files;
+        text +=
+            helpLine("  --" + std::string(option.name) + (takesFiles ? " FILE…" : ""), option.help);
+        if (option.takes != Takes::details) continue;
+        for (const auto& detail : details)
+            text += helpLine("    --" + std::string(detail.name), detail.help);
     }
     text +=
         "\n" +
@@ -94,16 +130,17 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments, const Ur
     if (arguments.empty()) return {};
     if (arguments == std::vector<std::string>{dbusActivated}) return {.launchedByBus = true};
     const std::string& first = arguments.front();
-    const std::vector<std::string> files(arguments.begin() + 1, arguments.end());
+    const std::vector<std::string> rest(arguments.begin() + 1, arguments.end());
     if (!first.starts_with("--")) return wrong(unexpected(first));
     const auto* option =
         std::ranges::find(options, std::string_view(first).substr(2), &Option::name);
     if (option == options.end())
         return wrong(filled(localized("CommandLine", "unknown option \"%1\""), {first}));
-    if (option->takesFiles && files.empty())
-        return wrong(filled(localized("CommandLine", "%1 needs a file"), {first}));
-    if (!option->takesFiles && !files.empty()) return wrong(unexpected(files.front()));
-    return option->kind == Kind::print ? printed(option->name) : commandFor(*option, files, folder);
+    if (option->takes == Takes::files) return commandForFiles(*option, rest, folder);
+    if (option->takes == Takes::details) return commandWithDetails(*option, rest);
+    if (!rest.empty()) return wrong(unexpected(rest.front()));
+    if (option->kind == Kind::print) return printed(option->name);
+    return {option->kind, ApplicationRequest{std::string(option->name), {}}, {}};
 }
 
 }  // namespace vantle

@@ -1,10 +1,13 @@
 // What others may ask of the program by name.
 
+#include <algorithm>
 #include <cerrno>
 #include <functional>
+#include <iterator>
 #include <map>
 
 #include "app/AppDelegate.h"
+#include "app/StatusReport.h"
 #include "support/Localization.h"
 #include "support/Version.h"
 
@@ -21,7 +24,7 @@ Result<std::string> AppDelegate::perform(const ApplicationRequest& request) {
         {"sample", [this] { showDemo(); }},
         {"quit", [this] { platform_.application->terminate(); }},
     };
-    if (request.action == "status") return status();
+    if (request.action == "status") return status(request.arguments);
     if (request.action == "show") return show(request.arguments);
     const auto found = actions.find(request.action);
     if (found == actions.end())
@@ -54,13 +57,25 @@ Result<std::string> AppDelegate::show(const std::vector<std::string>& paths) {
     return std::string();
 }
 
-std::string AppDelegate::status() const {
+Result<std::string> AppDelegate::status(const std::vector<std::string>& arguments) const {
+    const auto isAsked = [&](const char* name) { return std::ranges::count(arguments, name) > 0; };
+    const bool isVerbose = isAsked("verbose");
+    const Paths paths = !isVerbose || isAsked("with-paths") ? Paths::shown : Paths::hidden;
     const char* state = statusBar_.paused()      ? "paused"
                         : watcher_->isWatching() ? "watching"
                                                  : "not watching";
-    return "version: " + std::string(version) + "\nstate: " + state +
-           "\nfolder: " + settings_.screenshotFolder.value().path() +
-           "\ncaptures: " + std::to_string(panel_->state().captures.value().size());
+    std::vector<Fact> facts{
+        {"version", std::string(version)},
+        {"state", state},
+        {"folder", placeOf(settings_.screenshotFolder.value(), *platform_.files, paths)},
+        {"captures", std::to_string(panel_->state().captures.value().size())}};
+    if (!isVerbose) return reportLines(facts);
+    facts.push_back({"folder from", settings_.screenshotFolderOrigin()});
+    facts.push_back(settingsFact(settings_));
+    if (platform_.surroundings)
+        std::ranges::copy(platform_.surroundings(), std::back_inserter(facts));
+    std::ranges::copy(logFacts(recentSystemLog(), paths), std::back_inserter(facts));
+    return reportLines(facts);
 }
 
 }  // namespace vantle

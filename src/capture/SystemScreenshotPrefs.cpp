@@ -43,6 +43,14 @@ std::string SystemScreenshotPrefs::locationObstacle() const {
     return preferences_.obstacle(locationKey);
 }
 
+std::string SystemScreenshotPrefs::locationOrigin() const {
+    const std::string origin = preferences_.origin(locationKey);
+    if (origin.empty()) return "the Desktop, as nothing else is set";
+    const auto path = valueOfType<std::string>(preferences_, locationKey);
+    const bool isUsed = path && expandingTilde(*path) == location();
+    return isUsed ? origin : "the Desktop, as " + origin + " names no folder";
+}
+
 std::optional<Url> SystemScreenshotPrefs::previousLocation() const {
     const auto previous = preferences_.previousValue(locationKey);
     const auto path = previous ? asText(*previous) : std::nullopt;

@@ -35,6 +35,9 @@ public:
     /// Why the system's location cannot be changed, as a sentence; empty when it can.
     std::string locationObstacle() const;
 
+    /// How location() came about, in English, for reports of faults.
+    std::string locationOrigin() const;
+
     /// Where captures were saved before setLocation(); absent when there is no way back.
     std::optional<Url> previousLocation() const;
     void restoreLocation();

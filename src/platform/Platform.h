@@ -2,12 +2,14 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "platform/Alerts.h"
 #include "platform/Application.h"
 #include "platform/Canvas.h"
 #include "platform/DesktopAppearance.h"
 #include "platform/DirectoryEvents.h"
+#include "platform/Fact.h"
 #include "platform/FileManager.h"
 #include "platform/FileOpener.h"
 #include "platform/FolderChooser.h"
@@ -64,6 +66,10 @@ struct Platform {
     /// Empty on a surrounding that has none. Both outlive what is made.
     std::function<std::unique_ptr<Updater>(Platform& platform, UpdaterObserver& observer)>
         makeUpdater;
+
+    /// What surrounds the program, for reports of faults; empty where there is nothing to tell.
+    /// Asks others, so it may take a moment. Names no path.
+    std::function<std::vector<Fact>()> surroundings;
 };
 
 }  // namespace vantle

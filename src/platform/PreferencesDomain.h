@@ -25,6 +25,10 @@ public:
     /// Why the key cannot be changed, as a sentence for a person; empty when it can.
     virtual std::string obstacle(const std::string& key) const = 0;
 
+    /// Where the value of the key comes from, in English, for reports of faults; empty when it has
+    /// none.
+    virtual std::string origin(const std::string& key) const = 0;
+
     /// What the key was before it was set here. Absent when it was not, when others have changed it
     /// since, and when it is the same again.
     virtual std::optional<PreferenceValue> previousValue(const std::string& key) const = 0;

@@ -64,6 +64,8 @@ public:
 
     /// Why the system does not let these two be changed, as a sentence; empty when it does. Asks
     /// the system anew at each call.
+    /// How the folder came about, in English, for reports of faults.
+    std::string screenshotFolderOrigin() const { return screenshotPrefs_.locationOrigin(); }
     std::string screenshotFolderObstacle() const { return screenshotPrefs_.locationObstacle(); }
     std::string systemThumbnailObstacle() const { return screenshotPrefs_.thumbnailObstacle(); }
 

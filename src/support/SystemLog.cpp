@@ -1,6 +1,7 @@
 #include "support/SystemLog.h"
 
 #include <cstdio>
+#include <deque>
 #include <mutex>
 #include <utility>
 
@@ -10,6 +11,7 @@ namespace {
 struct Log {
     std::mutex mutex;
     std::function<void(const std::string&)> receive;
+    std::deque<LoggedMessage> recent;
 };
 
 Log& log() {
@@ -36,17 +38,29 @@ std::string escaped(std::string_view message) {
     return line;
 }
 
+void remember(std::deque<LoggedMessage>& recent, const std::string& line) {
+    if (line.starts_with("Vantle[")) return;
+    recent.push_back({std::chrono::system_clock::now(), line});
+    if (recent.size() > recentMessages) recent.pop_front();
+}
+
 }  // namespace
 
 void systemLog(std::string_view message) {
     const std::string line = escaped(message);
     const std::lock_guard lock(log().mutex);
+    remember(log().recent, line);
     if (log().receive) {
         log().receive(line);
         return;
     }
     std::fprintf(stderr, "%s\n", line.c_str());
     std::fflush(stderr);
+}
+
+std::vector<LoggedMessage> recentSystemLog() {
+    const std::lock_guard lock(log().mutex);
+    return {log().recent.begin(), log().recent.end()};
 }
 
 SystemLogSink::SystemLogSink(std::function<void(const std::string&)> receive) {

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <chrono>
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vantle {
 
@@ -10,6 +13,19 @@ namespace vantle {
 /// other control characters in it are written escaped (a file's name can hold any). Any thread;
 /// lines never mix.
 void systemLog(std::string_view message);
+
+/// A line of the system log, and when it was written.
+struct LoggedMessage {
+    std::chrono::system_clock::time_point time;
+    std::string line;
+};
+
+/// How many are kept in mind.
+inline constexpr std::size_t recentMessages = 20;
+
+/// The latest messages, the oldest first, without the diagnostic ones, which begin with "Vantle[".
+/// Any thread.
+std::vector<LoggedMessage> recentSystemLog();
 
 /// Where messages go instead of standard error while it lives; for tests. It may be called on
 /// any thread that logs.

@@ -135,6 +135,13 @@ TYPED_TEST(PreferencesDomainContract, WhatIsNotKnownIsAbsent) {
     EXPECT_EQ(this->domain.value("nothing"), std::nullopt);
 }
 
+TYPED_TEST(PreferencesDomainContract, WhatHasAValueTellsWhereItIsFrom) {
+    EXPECT_EQ(this->domain.origin("nothing"), "");
+    this->domain.setValue("location", std::string("/usr/share"));
+    this->domain.synchronize();
+    EXPECT_THAT(this->domain.origin("location"), testing::StartsWith("a setting"));
+}
+
 TYPED_TEST(PreferencesDomainContract, ValuesKeepTheirTypes) {
     const std::map<std::string, PreferenceValue> values{{"show-thumbnail", false},
                                                         {"location", "/usr/share"}};

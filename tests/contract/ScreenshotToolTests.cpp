@@ -303,6 +303,13 @@ TEST_F(ScreenshotToolTest, WhatTheToolSavesLastIsReadAgainEachTime) {
     }
 }
 
+TEST_F(ScreenshotToolTest, TellsWhetherTheFolderIsSetOrTheToolsDefault) {
+    EXPECT_EQ(domain("ksnip").origin(location), "the default of ksnip");
+    setFolder("ksnip", makeFolder("other"));
+    EXPECT_EQ(domain("ksnip").origin(location), "a setting of ksnip");
+    EXPECT_EQ(domain("gnome-shell").origin(showThumbnail), "the default of gnome-shell");
+}
+
 TEST_F(ScreenshotToolTest, PreviewsAreReadAndSwitched) {
     const std::map<std::string, std::string> hidden{
         {"spectacle.notifyrc", "[Event/newScreenshotSaved]\nAction=\n"},

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "fakes/CapturedLog.h"
+#include "platform/linux/SystemFacts.h"
 #include "samples/Samples.h"
 
 namespace vantle {
@@ -60,6 +61,16 @@ INSTANTIATE_TEST_SUITE_P(Guards, ConfinementWithout,
                                          MissingGuard{VANTLE_WITHOUT_SECCOMP, "seccomp"},
                                          MissingGuard{VANTLE_WITHOUT_BOTH,
                                                       "Landlock and seccomp"}));
+
+TEST(Confinement, ReportsOfFaultsTellTheGuardsThatAreInForce) {
+    if (!hasLandlock()) GTEST_SKIP() << "this kernel lacks Landlock";
+    EXPECT_EQ(decoderFact(VANTLE_DECODER),
+              (Fact{"decoder", "starts; Landlock in force, seccomp in force"}));
+    EXPECT_EQ(decoderFact(VANTLE_WITHOUT_LANDLOCK).value,
+              "starts; Landlock missing, seccomp in force");
+    EXPECT_EQ(decoderFact(VANTLE_WITHOUT_SECCOMP).value,
+              "starts; Landlock in force, seccomp missing");
+}
 
 TEST(Confinement, IsSilentWhereNothingIsMissing) {
     if (!hasLandlock()) GTEST_SKIP() << "this kernel lacks Landlock";

@@ -54,6 +54,26 @@ def test_show_files(desktop, vantle):
     assert "letter.txt: not a screenshot or recording" in said
 
 
+def test_verbose_status_tells_the_surroundings_but_no_path(desktop, vantle, folder):
+    vantle.start_watching()
+    show_one(desktop, folder)
+    status, report = vantle.command("--status", "--verbose")
+    assert status == 0
+    facts = dict(re.findall(r"^([^:]+): (.*)$", report, re.MULTILINE))
+    assert facts["state"] == "watching"
+    assert facts["captures"] == "1"
+    assert facts["folder"] == "in the home directory"
+    assert facts["folder from"] == "the Desktop, as nothing else is set"
+    assert facts["display server"].startswith("X11, ")
+    assert facts["window manager"] == "Openbox"
+    assert facts["compositor"] == "yes"
+    assert facts["tray"] == "on X"
+    assert facts["decoder"].startswith("starts; ")
+    assert facts["screens"].endswith("at 0, 0, scale 1")
+    assert str(desktop.home) not in report
+    assert str(desktop.home) in vantle.command("--status", "--verbose", "--with-paths")[1]
+
+
 def test_show_starts_the_program(desktop, vantle, binary):
     picture = desktop.home / "picture.png"
     picture.write_bytes(encoded(pattern()))

@@ -24,6 +24,9 @@ public:
         const auto found = obstacles.find(key);
         return found == obstacles.end() ? "" : found->second;
     }
+    std::string origin(const std::string& key) const override {
+        return values.contains(key) ? "a setting in memory" : "";
+    }
     std::optional<PreferenceValue> previousValue(const std::string& key) const override {
         const auto found = previousValues.find(key);
         if (found == previousValues.end()) return std::nullopt;

@@ -10,6 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
 using Kind = CommandLine::Kind;
 
@@ -54,13 +55,20 @@ TEST(CommandLineTest, FilesCountFromTheFolderOfTheCaller) {
     EXPECT_THAT(line.request->arguments, ElementsAre("/here/a.png", "/b/c.png", "/here/--odd.png"));
 }
 
+TEST(CommandLineTest, TheStatusTakesItsDetailsInAnyOrder) {
+    EXPECT_EQ(parse({"--status"}).kind, Kind::ask);
+    EXPECT_THAT(parse({"--status"}).request->arguments, IsEmpty());
+    EXPECT_THAT(parse({"--status", "--with-paths", "--verbose"}).request->arguments,
+                ElementsAre("with-paths", "verbose"));
+}
+
 TEST(CommandLineTest, VersionAndHelpArePrinted) {
     EXPECT_EQ(parse({"--version"}).text, "Vantle " + std::string(version));
     const auto help = parse({"--help"});
     EXPECT_EQ(help.kind, Kind::print);
-    for (const auto* option :
-         {"--settings", "--pause", "--resume", "--show FILE…", "--dismiss", "--focus-panel",
-          "--open-folder", "--sample", "--quit", "--status", "--version", "--help"})
+    for (const auto* option : {"--settings", "--pause", "--resume", "--show FILE…", "--dismiss",
+                               "--focus-panel", "--open-folder", "--sample", "--quit", "--status",
+                               "  --verbose", "  --with-paths", "--version", "--help"})
         EXPECT_THAT(help.text, HasSubstr(option));
 }
 
@@ -74,6 +82,9 @@ TEST(CommandLineTest, WhatCannotBeMadeOutIsNamed) {
         {{"--show"}, "--show needs a file"},
         {{"--pause", "now"}, "unexpected argument \"now\""},
         {{"--help", "--pause"}, "unexpected argument \"--pause\""},
+        {{"--status", "--pause"}, "unexpected argument \"--pause\""},
+        {{"--status", "verbose"}, "unexpected argument \"verbose\""},
+        {{"--verbose"}, "unknown option \"--verbose\""},
     };
     for (const auto& [arguments, reason] : wrongs) {
         const auto line = parse(arguments);

@@ -1,12 +1,15 @@
 #include "AppFixture.h"
+#include "fakes/CapturedLog.h"
 #include "support/Version.h"
 
 namespace vantle {
 namespace {
 
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 class RequestTest : public AppFixture {
 protected:
@@ -16,6 +19,8 @@ protected:
         time.settle();
         return answer ? answer.value() : "failed: " + answer.failure().message;
     }
+
+    const fakes::CapturedLog log;
 };
 
 TEST_F(RequestTest, PausesAndResumesHoweverOften) {
@@ -95,6 +100,25 @@ TEST_F(RequestTest, TellsWhatItIsDoing) {
     ask("pause");
     ask("resume");
     EXPECT_THAT(ask("status"), HasSubstr("state: not watching"));
+}
+
+TEST_F(RequestTest, TheVerboseStatusTellsWhatAReportOfAFaultNeedsButNoPath) {
+    platform.surroundings = [] { return std::vector<Fact>{{"tray", "on D-Bus"}}; };
+    domain->values["location"] = std::string("/home/user/Clients");
+    (void)files->createDirectory(Url::file("/home/user/Clients"));
+    launch();
+    systemLog("Vantle: cannot open /home/user/Clients/Acme.png: denied");
+    const std::string report = ask("status", {"verbose"});
+    EXPECT_THAT(report,
+                AllOf(HasSubstr("version: " + std::string(version)),
+                      HasSubstr("\nfolder: in the home directory\n"),
+                      HasSubstr("\nfolder from: a setting in memory\n"),
+                      HasSubstr("\nsettings: corner bottomRight"), HasSubstr("\ntray: on D-Bus\n"),
+                      HasSubstr(" Vantle: cannot open (path): denied")));
+    EXPECT_THAT(report, Not(HasSubstr("Clients")));
+    EXPECT_THAT(ask("status", {"verbose", "with-paths"}),
+                AllOf(HasSubstr("\nfolder: /home/user/Clients\n"),
+                      HasSubstr(" Vantle: cannot open /home/user/Clients/Acme.png: denied")));
 }
 
 TEST_F(RequestTest, WhatIsNotKnownIsRefused) {

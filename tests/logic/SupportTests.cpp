@@ -128,6 +128,17 @@ TEST(SystemLog, KeepsAMessageOnOneLineWhateverItHolds) {
     EXPECT_THAT(log.lines(), ElementsAre("two\\nlines\\x1b[31m"));
 }
 
+TEST(SystemLog, RemembersTheLatestMessagesButNotTheDiagnosticOnes) {
+    CapturedLog log(CapturedLog::DebugSwitch::on);
+    for (std::size_t i = 1; i <= recentMessages + 1; ++i) systemLog(std::to_string(i));
+    Debug::log([] { return std::string("a step"); });
+    systemLog("Vantle[hit]: a place");
+    const auto recent = recentSystemLog();
+    ASSERT_EQ(recent.size(), recentMessages);
+    EXPECT_EQ(recent.front().line, "2");
+    EXPECT_EQ(recent.back().line, std::to_string(recentMessages + 1));
+}
+
 TEST(NotificationCenter, CallsTheObserversOfThatNameOnly) {
     NotificationCenter center;
     int calls = 0;

@@ -66,6 +66,14 @@ TEST_F(SystemScreenshotPrefsTest, TheThumbnailIsShownUnlessStoredAsFalse) {
     EXPECT_FALSE(prefs.showsThumbnail());
 }
 
+TEST_F(SystemScreenshotPrefsTest, TellsHowTheLocationCameAbout) {
+    EXPECT_EQ(prefs.locationOrigin(), "the Desktop, as nothing else is set");
+    domain.values["location"] = screenshots.path();
+    EXPECT_EQ(prefs.locationOrigin(), "the Desktop, as a setting in memory names no folder");
+    (void)files.createDirectory(screenshots);
+    EXPECT_EQ(prefs.locationOrigin(), "a setting in memory");
+}
+
 TEST_F(SystemScreenshotPrefsTest, SettingALocationCreatesItStoresItAndRestartsTheServiceOnce) {
     prefs.setLocation(screenshots);
     EXPECT_EQ(files.existence(screenshots), FileManager::Existence::directory);

@@ -27,6 +27,9 @@ public:
         if (!values.empty()) (void)file_.store(values);
     }
     std::string obstacle(const std::string&) const override { return {}; }
+    std::string origin(const std::string& key) const override {
+        return value(key) ? "a setting of Vantle's own" : "";
+    }
     // Nobody but this program sets them: there is nothing to go back to.
     std::optional<PreferenceValue> previousValue(const std::string&) const override { return {}; }
     void restore(const std::string&) override {}

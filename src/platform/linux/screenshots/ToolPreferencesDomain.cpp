@@ -48,6 +48,12 @@ std::string ToolPreferencesDomain::obstacle(const std::string& key) const {
     return {};
 }
 
+std::string ToolPreferencesDomain::origin(const std::string& key) const {
+    if (key != location && key != showThumbnail) return {};
+    const auto& setting = key == location ? folder_ : preview_;
+    return (setting && setting->text() ? "a setting of " : "the default of ") + tool_.name;
+}
+
 std::optional<PreferenceValue> ToolPreferencesDomain::previousValue(const std::string& key) const {
     if (key != location || !folder_) return std::nullopt;
     const auto before = folder_->before();
@@ -86,7 +92,8 @@ void ToolPreferencesDomain::setFolder(const Url& folder) {
     if (text) {
         (void)folder_->change(*text);
     } else {
-        systemLog("Vantle: " + tool_.name + " cannot save into " + folder.path());
+        systemLog("Vantle: cannot save into " + folder.path() + ": " + tool_.name +
+                  " has no way to write that");
     }
 }
 

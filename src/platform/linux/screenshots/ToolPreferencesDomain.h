@@ -24,6 +24,7 @@ public:
     void setValue(const std::string& key, const PreferenceValue& value) override;
     void synchronize() override {}
     std::string obstacle(const std::string& key) const override;
+    std::string origin(const std::string& key) const override;
     std::optional<PreferenceValue> previousValue(const std::string& key) const override;
     void restore(const std::string& key) override;
 

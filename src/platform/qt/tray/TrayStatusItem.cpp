@@ -55,6 +55,11 @@ bool TrayStatusItem::isShown() const {
     return (onBus_ && onBus_->isShown()) || onX_.isShown();
 }
 
+std::string TrayStatusItem::tray() const {
+    if (onBus_ && onBus_->isShown()) return "on D-Bus";
+    return onX_.isShown() ? "on X" : "none";
+}
+
 void TrayStatusItem::setAppearsDisabled(bool disabled) {
     icon_.setDimmed(disabled);
     if (onBus_) onBus_->iconChanged();

@@ -32,6 +32,8 @@ public:
     void setAutosaveName(const std::string& name) override;
     void show() override;
     bool isShown() const override;
+    /// Which kind of tray has it, in English: for reports of faults.
+    std::string tray() const;
     void setAppearsDisabled(bool disabled) override;
     void menuChanged() override;
 

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+namespace vantle {
+
+/// A line of what a report of a fault needs. In English, whatever the user's language is: those who
+/// mend the program read it.
+struct Fact {
+    std::string name;
+    std::string value;
+    friend bool operator==(const Fact&, const Fact&) = default;
+};
+
+}  // namespace vantle

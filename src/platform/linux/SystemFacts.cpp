@@ -1,0 +1,60 @@
+#include "platform/linux/SystemFacts.h"
+
+#include <gnu/libc-version.h>
+#include <sys/utsname.h>
+
+#include "platform/linux/DecoderProcess.h"
+#include "platform/linux/KeyFile.h"
+#include "platform/linux/WholeFile.h"
+
+namespace vantle {
+namespace {
+
+constexpr std::size_t largestFile = std::size_t{64} * 1024;
+
+/// What a file of lines "key=value" says; empty where it says nothing.
+std::string valueIn(const Url& file, std::string_view key) {
+    const auto text = readWholeFile(file, largestFile);
+    std::string value = text ? KeyFile(text.value()).value("", key).value_or("") : "";
+    const bool isQuoted = value.size() >= 2 && value.front() == '"' && value.back() == '"';
+    return isQuoted ? value.substr(1, value.size() - 2) : value;
+}
+
+std::string orElse(const std::string& text, const char* otherwise) {
+    return text.empty() ? otherwise : text;
+}
+
+std::string systemName() {
+    const std::string distribution = valueIn(Url::file("/etc/os-release"), "PRETTY_NAME");
+    utsname kernel{};
+    uname(&kernel);
+    return orElse(distribution, "unknown distribution") + ", " + kernel.sysname + " " +
+           kernel.release + ", " + kernel.machine + ", glibc " + gnu_get_libc_version();
+}
+
+std::string guard(std::uint32_t missing, decoder::Guard kind) {
+    return (missing & static_cast<std::uint32_t>(kind)) != 0 ? "missing" : "in force";
+}
+
+}  // namespace
+
+std::vector<Fact> systemFacts(const Environment& environment, const Url& share) {
+    const auto variable = [&](const char* name) {
+        return orElse(environment(name).value_or(""), "unknown");
+    };
+    return {{"installed as", orElse(valueIn(share.appending("release"), "installation"),
+                                    "neither a package nor a tree of a release")},
+            {"system", systemName()},
+            {"desktop", variable("XDG_CURRENT_DESKTOP")},
+            {"session", variable("XDG_SESSION_TYPE")}};
+}
+
+Fact decoderFact(const std::string& program) {
+    const auto started = DecoderProcess::start(program, decoder::Format::png);
+    if (!started) return {"decoder", "does not start: " + started.failure().message};
+    const std::uint32_t missing = started.value()->missingGuards();
+    return {"decoder", "starts; Landlock " + guard(missing, decoder::Guard::fileSystem) +
+                           ", seccomp " + guard(missing, decoder::Guard::systemCalls)};
+}
+
+}  // namespace vantle

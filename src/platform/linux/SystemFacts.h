@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Fact.h"
+#include "support/Environment.h"
+#include "support/Url.h"
+
+namespace vantle {
+
+/// The operating system, the kind of session, and how this copy was installed. `share` is the
+/// folder with the program's own files.
+std::vector<Fact> systemFacts(const Environment& environment, const Url& share);
+
+/// Whether the decoder starts, and with which guards: starts one. `program` is its path.
+Fact decoderFact(const std::string& program);
+
+}  // namespace vantle

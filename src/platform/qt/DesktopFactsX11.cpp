@@ -1,0 +1,64 @@
+// What an X server and those who serve its windows tell about themselves.
+
+#include <QByteArray>
+#include <QGuiApplication>
+#include <cstring>
+#include <string>
+
+#include "platform/qt/BlurBehind.h"
+#include "platform/qt/DesktopFacts.h"
+#include "platform/qt/X11.h"
+
+namespace vantle {
+namespace {
+
+/// Of a window; empty where it has none of that name.
+std::string property(xcb_window_t window, const char* name) {
+    constexpr uint32_t longest = 64;  // in units of four bytes
+    const auto reply = x11::owned(
+        xcb_get_property_reply(x11::connection(),
+                               xcb_get_property(x11::connection(), false, window, x11::atom(name),
+                                                XCB_ATOM_ANY, 0, longest),
+                               nullptr));
+    if (!reply) return {};
+    return {static_cast<const char*>(xcb_get_property_value(reply.get())),
+            static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
+}
+
+std::string windowManager() {
+    const std::string number = property(x11::root(), "_NET_SUPPORTING_WM_CHECK");
+    xcb_window_t window = XCB_WINDOW_NONE;
+    if (number.size() == sizeof window) std::memcpy(&window, number.data(), sizeof window);
+    const std::string name =
+        window == XCB_WINDOW_NONE ? std::string() : property(window, "_NET_WM_NAME");
+    return name.empty() ? "unknown" : name;
+}
+
+bool isComposited() {
+    const auto owner = x11::owned(xcb_get_selection_owner_reply(
+        x11::connection(), xcb_get_selection_owner(x11::connection(), x11::atom("_NET_WM_CM_S0")),
+        nullptr));
+    return owner && owner->owner != XCB_WINDOW_NONE;
+}
+
+std::string server() {
+    const xcb_setup_t* setup = xcb_get_setup(x11::connection());
+    const std::string vendor(xcb_setup_vendor(setup),
+                             static_cast<std::size_t>(xcb_setup_vendor_length(setup)));
+    const bool isWayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    return (isWayland ? "X11 through XWayland, " : "X11, ") + vendor + " " +
+           std::to_string(setup->release_number);
+}
+
+}  // namespace
+
+std::vector<Fact> displayServerFacts() {
+    if (!x11::connection())
+        return {{"display server", QGuiApplication::platformName().toStdString()}};
+    return {{"display server", server()},
+            {"window manager", windowManager()},
+            {"compositor", isComposited() ? "yes" : "none"},
+            {"blur behind windows", blurBehindIsOffered() ? "offered" : "not offered"}};
+}
+
+}  // namespace vantle

@@ -1,0 +1,71 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/StatusReport.h"
+#include "fakes/FakeFileSystem.h"
+#include "fakes/SettingsOnFakes.h"
+
+namespace vantle {
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+
+TEST(StatusReport, HasALineForEachFact) {
+    EXPECT_EQ(reportLines({{"state", "watching"}, {"tray", "none"}}),
+              "state: watching\ntray: none");
+    EXPECT_EQ(reportLines({}), "");
+}
+
+TEST(StatusReport, SaysWhereAFolderIsWithoutItsName) {
+    fakes::VirtualTime time;
+    fakes::ManualQueue queue(time);
+    const fakes::FakeFileSystem files(queue);
+    const auto place = [&](const char* path) {
+        return placeOf(Url::file(path), files, Paths::hidden);
+    };
+    EXPECT_EQ(place("/home/user/Clients/Acme"), "in the home directory");
+    EXPECT_EQ(place("/home/user"), "the home directory");
+    EXPECT_EQ(place("/home/username/Desktop"), "outside the home directory");
+    EXPECT_EQ(placeOf(Url::file("/mnt/shots"), files, Paths::shown), "/mnt/shots");
+}
+
+TEST(StatusReport, TellsWhatTheUserHasChosen) {
+    fakes::SettingsOnFakes onFakes;
+    onFakes.settings.dismissAfter.set(25);
+    onFakes.settings.corner.set(PanelCorner::topLeft);
+    const Fact fact = settingsFact(onFakes.settings);
+    EXPECT_EQ(fact.name, "settings");
+    EXPECT_THAT(fact.value, HasSubstr("corner topLeft, dismissAfter 25, "));
+    EXPECT_THAT(fact.value, HasSubstr("showRecordings yes, copyOnCapture no"));
+}
+
+TEST(StatusReport, TellsTheMessagesOfTheLogWithTheirTimes) {
+    EXPECT_THAT(logFacts({}, Paths::shown), ElementsAre(Fact{"log", "empty"}));
+    const std::vector<LoggedMessage> messages{{{}, "Vantle: cannot watch /a b: missing"}};
+    EXPECT_THAT(logFacts(messages, Paths::shown)[0].value,
+                EndsWith(" Vantle: cannot watch /a b: missing"));
+    EXPECT_THAT(logFacts(messages, Paths::hidden)[0].value,
+                EndsWith(" Vantle: cannot watch (path): missing"));
+}
+
+TEST(StatusReport, HidesPathsWhateverTheyHold) {
+    const std::vector<std::pair<const char*, const char*>> lines{
+        {"nothing to hide: 1/2 and a/b", "nothing to hide: 1/2 and a/b"},
+        {"/home/anna/a.png", "(path)"},
+        {"cannot open /home/anna/My tax.pdf: denied", "cannot open (path): denied"},
+        {"cannot open /home/anna/a: b.pdf: denied", "cannot open (path): denied"},
+        {"the folder \"/home/anna/a: b\" is full: 3", "the folder \"(path)\" is full: 3"},
+        {"\"/home/anna\" and \"/home/bob\"", "\"(path)\" and \"(path)\""},
+        {"not a folder: file:///home/anna/x", "not a folder: (path)"},
+        {"~/secret is gone", "~(path)"},
+        {"/home/a.conf is damaged; it is kept as /home/b, and the defaults are used", "(path)"},
+        {"with \"/an/open/quotation", "with \"(path)"},
+    };
+    for (const auto& [line, hidden] : lines) EXPECT_EQ(withoutPaths(line), hidden);
+}
+
+}  // namespace
+}  // namespace vantle
