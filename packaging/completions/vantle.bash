@@ -6,6 +6,8 @@ _vantle() {
   if ((COMP_CWORD == 1)); then
     mapfile -t COMPREPLY < <(compgen -W '--settings --pause --resume --show --dismiss --focus-panel
       --open-folder --sample --quit --status --version --help' -- "$word")
+  elif [[ ${COMP_WORDS[1]} == --status ]]; then
+    mapfile -t COMPREPLY < <(compgen -W '--verbose --with-paths' -- "$word")
   elif [[ ${COMP_WORDS[1]} == --show ]]; then
     compopt -o filenames
     mapfile -t COMPREPLY < <(compgen -f -- "$word")

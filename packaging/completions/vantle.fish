@@ -12,5 +12,7 @@ complete -c vantle -n '__fish_is_first_arg' -l open-folder -d 'Open the folder t
 complete -c vantle -n '__fish_is_first_arg' -l sample -d 'Show two sample captures'
 complete -c vantle -n '__fish_is_first_arg' -l quit -d 'End Vantle'
 complete -c vantle -n '__fish_is_first_arg' -l status -d 'Say what Vantle is doing'
+complete -c vantle -n '__fish_seen_argument -l status' -l verbose -d 'With all a report needs'
+complete -c vantle -n '__fish_seen_argument -l status' -l with-paths -d 'And with paths'
 complete -c vantle -n '__fish_is_first_arg' -l version -d 'Print the version'
 complete -c vantle -n '__fish_is_first_arg' -l help -d 'Print the help'

@@ -11,6 +11,6 @@ _arguments \
   '(- *)--open-folder[open the folder that is watched]' \
   '(- *)--sample[show two sample captures]' \
   '(- *)--quit[end Vantle]' \
-  '(- *)--status[say what Vantle is doing]' \
+  '(- *)--status[say what Vantle is doing]:*:detail:(--verbose --with-paths)' \
   '(- *)--version[print the version]' \
   '(- *)--help[print the help]'
