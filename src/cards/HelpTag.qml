@@ -8,7 +8,8 @@ PlateView {
     // Where the tag may not cover anything when it is about a whole thumbnail.
     required property Item card
     required property PanelModel panel
-    readonly property Item subject: Help.item && Help.item.visible && !panel.hasMarquee ? Help.item : null
+    readonly property bool isInTheWay: panel.hasMarquee || panel.isDragging
+    readonly property Item subject: Help.item && Help.item.visible && !isInTheWay ? Help.item : null
     property bool isDue: false
     property point place
 

@@ -51,6 +51,18 @@ protected:
     fakes::CapturedLog log{fakes::CapturedLog::DebugSwitch::on};
 };
 
+TEST_F(DragTest, WhatIsSaidAboutATileGoesWhenItIsDragged) {
+    hover(middle());
+    rest();
+    ASSERT_EQ(item("HelpTag")->opacity(), 1);
+    drag();
+    rest();
+    EXPECT_EQ(item("HelpTag")->opacity(), 0);
+    dragging.end(DragOperation::none);
+    rest();
+    EXPECT_EQ(item("HelpTag")->opacity(), 1) << "the pointer is still there";
+}
+
 TEST_F(DragTest, ThreePointsAreStillAClick) {
     press(middle());
     move(middle() + QPointF(3, 0));

@@ -141,11 +141,18 @@ std::vector<DragItem> PanelModel::dragItems(const QString& captureId) const {
     return items;
 }
 
+void PanelModel::setDragging(bool isDragging) {
+    isDragging_ = isDragging;
+    emit isDraggingChanged();
+}
+
 void PanelModel::dragBegan() {
+    setDragging(true);
     context_.actions.dragBegan();
 }
 
 void PanelModel::dragEnded(bool completed, const std::vector<Url>& urls) {
+    setDragging(false);
     context_.actions.dragEnded(completed, urls);
 }
 

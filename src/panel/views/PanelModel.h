@@ -44,6 +44,8 @@ class PanelModel : public QObject, private QAccessible::ActivationObserver {
     Q_PROPERTY(bool hovering READ isHovering NOTIFY hoveringChanged)
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectedCountChanged)
     Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
+    /// Whether captures of the card are being dragged at the moment.
+    Q_PROPERTY(bool isDragging READ isDragging NOTIFY isDraggingChanged)
     Q_PROPERTY(bool hasMarquee READ hasMarquee NOTIFY marqueeChanged)
     Q_PROPERTY(QRectF marquee READ marquee NOTIFY marqueeChanged)
     /// The corner in which the panel stands since it was shown last.
@@ -84,6 +86,7 @@ public:
     bool isHovering() const { return hovering_; }
     int selectedCount() const { return selectedCount_; }
     double progress() const { return progress_; }
+    bool isDragging() const { return isDragging_; }
     bool hasMarquee() const { return marquee_.has_value(); }
     QRectF marquee() const;
     bool atRight() const { return isRight(corner_); }
@@ -131,6 +134,7 @@ signals:
     void hoveringChanged();
     void selectedCountChanged();
     void progressChanged();
+    void isDraggingChanged();
     void marqueeChanged();
     void cornerChanged();
     void hasTimerChanged();
@@ -142,6 +146,7 @@ private:
     void observeMarks();
     void observePresence();
     void setCaptures(const std::vector<CapturePointer>& captures);
+    void setDragging(bool isDragging);
     void perform(const CardActions::OnCapture& action, const QString& captureId);
     const Capture* onlyCapture() const;
 
@@ -152,6 +157,7 @@ private:
     bool visible_ = false;
     bool isEmpty_ = true;
     bool hovering_ = false;
+    bool isDragging_ = false;
     int selectedCount_ = 0;
     double progress_ = 1;
     double dismissAfter_ = 0;
