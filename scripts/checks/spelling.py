@@ -20,7 +20,8 @@ CODE = re.compile(r"`[^`]*`|\]\([^)]*\)|\w+://\S+|</?[\w!][^>]*>|&\w+;|\S*[/_~$@
                   r"|(?<!\w)--?[a-z][\w-]*|\b\w+\.\w+\b|%n|%\d|\b\d\w*")
 NO_PROSE = re.compile(r"\s*<(id|url|image|launchable|binary)\b|.*xml:lang=")
 ENTRY = re.compile(r"^(Name|GenericName|Comment|Keywords)=(.*)$")
-NAMES_IN_CODE = r"\b[a-z]+[A-Z]\w*|\\[nt]"
+# Names, and what the launcher's entry and the metainfo say in other languages.
+NOT_ENGLISH = r"\b[a-z]+[A-Z]\w*|\\[nt]|\w+\[[a-z]{2}\]=.*|xml:lang=.*"
 MISSPELLING = re.compile(r"^(?:\./)?(.+?):(\d+): (.+ ==> .+)$", re.MULTILINE)
 
 
@@ -100,7 +101,7 @@ def common_misspellings(note):
     paths = [path for path in all_files() if text_of(path) and not path.endswith(".ts")]
     note(f"looked for common misspellings in {len(paths)} files")
     output, _ = output_of("codespell", "--ignore-words", str(ROOT / WORDS),
-                          "--ignore-regex", NAMES_IN_CODE, *paths)
+                          "--ignore-regex", NOT_ENGLISH, *paths)
     for path, line, text in MISSPELLING.findall(output):
         yield Problem(path, int(line), text)
 
