@@ -1,7 +1,9 @@
+#include <fcntl.h>
 #include <sched.h>
 #include <seccomp.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
+#include <unistd.h>
 
 #include <array>
 #include <cerrno>
@@ -17,13 +19,13 @@ constexpr std::array allowed = {
     // The file, the socket and the picture's memory, all of which are open or anonymous.
     SCMP_SYS(read), SCMP_SYS(pread64), SCMP_SYS(readv), SCMP_SYS(lseek), SCMP_SYS(fstat),
     SCMP_SYS(newfstatat), SCMP_SYS(write), SCMP_SYS(pwrite64), SCMP_SYS(writev), SCMP_SYS(close),
-    SCMP_SYS(dup), SCMP_SYS(fcntl), SCMP_SYS(ftruncate), SCMP_SYS(memfd_create), SCMP_SYS(poll),
-    SCMP_SYS(ppoll), SCMP_SYS(recvmsg), SCMP_SYS(sendmsg),
+    SCMP_SYS(dup), SCMP_SYS(ftruncate), SCMP_SYS(memfd_create), SCMP_SYS(poll), SCMP_SYS(ppoll),
+    SCMP_SYS(recvmsg), SCMP_SYS(sendmsg),
     // Memory.
     SCMP_SYS(brk), SCMP_SYS(munmap), SCMP_SYS(mremap), SCMP_SYS(madvise),
     // Threads.
     SCMP_SYS(futex), SCMP_SYS(set_robust_list), SCMP_SYS(rseq), SCMP_SYS(gettid), SCMP_SYS(getpid),
-    SCMP_SYS(tgkill), SCMP_SYS(sched_yield), SCMP_SYS(sched_getaffinity), SCMP_SYS(set_tid_address),
+    SCMP_SYS(sched_yield), SCMP_SYS(sched_getaffinity), SCMP_SYS(set_tid_address),
     SCMP_SYS(membarrier),
     // Signals, time, chance, and the end.
     SCMP_SYS(rt_sigaction), SCMP_SYS(rt_sigprocmask), SCMP_SYS(rt_sigreturn), SCMP_SYS(sigaltstack),
@@ -31,6 +33,10 @@ constexpr std::array allowed = {
     SCMP_SYS(clock_nanosleep), SCMP_SYS(nanosleep), SCMP_SYS(gettimeofday), SCMP_SYS(time),
     SCMP_SYS(getrusage), SCMP_SYS(sysinfo), SCMP_SYS(getrandom), SCMP_SYS(exit),
     SCMP_SYS(exit_group)};
+
+// The others of fcntl can make the kernel send signals to whom one likes.
+constexpr std::array allowedOfFcntl = {F_DUPFD, F_DUPFD_CLOEXEC, F_GETFD,     F_SETFD,
+                                       F_GETFL, F_SETFL,         F_ADD_SEALS, F_GET_SEALS};
 
 struct FilterReleaser {
     void operator()(void* filter) const { seccomp_release(filter); }
@@ -58,6 +64,12 @@ bool addRules(const Filter& filter, FileOpening opening) {
     isDone &= seccomp_rule_add(filter.get(), SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0;
     isDone &= seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(prctl), 1,
                                SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME)) == 0;
+    for (const int command : allowedOfFcntl)
+        isDone &= seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(fcntl), 1,
+                                   SCMP_A1(SCMP_CMP_EQ, static_cast<scmp_datum_t>(command))) == 0;
+    // Threads signal each other; older kernels would let them signal other programs.
+    isDone &= seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(tgkill), 1,
+                               SCMP_A0(SCMP_CMP_EQ, static_cast<scmp_datum_t>(getpid()))) == 0;
     // Reading one's own limits, which is how the C library finds a thread's stack.
     isDone &= seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(prlimit64), 1,
                                SCMP_A2(SCMP_CMP_EQ, 0)) == 0;
