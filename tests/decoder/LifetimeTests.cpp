@@ -127,6 +127,12 @@ TEST_F(DecoderLifetime, OneThatDiedBetweenRequestsCostsNothing) {
     EXPECT_NE(image->draw(usual), nullptr);
 }
 
+/// The probe dies over its second file, as one may for what the first has done to it.
+TEST_F(DecoderLifetime, OneThatDiesOverTheNextFileIsReplaced) {
+    ConfinedMediaLoader loader(VANTLE_PROBE_DECODER, [] { return 1.0; });
+    for (int i = 0; i < 3; ++i) EXPECT_NE(loader.openImage(file("rgb.png")), nullptr) << i;
+}
+
 TEST_F(DecoderLifetime, AProgramThatIsMissingIsReportedOnce) {
     fakes::CapturedLog log;
     ConfinedMediaLoader loader("/nowhere/vantle-decoder", [] { return 1.0; });

@@ -1,6 +1,6 @@
 // A decoder that tries, over every file that it is asked to open, what a decoder may not do. The
 // "picture" that it then reports is as wide as the number of attempts that succeeded, and as high
-// as the number of those that the system refused.
+// as the number of those that the system refused. It dies over its second file.
 
 #include <fcntl.h>
 #include <linux/sched.h>
@@ -15,7 +15,9 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdlib>
 
+#include "decoder/protocol/Messages.h"
 #include "decoder/service/Service.h"
 
 namespace {
@@ -63,6 +65,12 @@ long startProgram() {
 long signalOthers() {
     return kill(1, 0);
 }
+long signalThreadsOfOthers() {
+    return syscall(SYS_tgkill, getppid(), getppid(), 0);
+}
+long haveOthersSignalled() {
+    return fcntl(decoderSocket, F_SETOWN, getppid());
+}
 long traceOthers() {
     return ptrace(PTRACE_ATTACH, getppid(), nullptr, nullptr);
 }
@@ -72,10 +80,21 @@ long makeExecutableMemory() {
     return memory == MAP_FAILED ? -1 : 0;
 }
 
-constexpr std::array attempts = {
-    openFile,      openOwnMemory,  createFile,          listFolder,        removeFile,
-    connectSocket, makeUnixSocket, startProcess,        startProcessNewly, startProgram,
-    signalOthers,  traceOthers,    makeExecutableMemory};
+constexpr std::array attempts = {openFile,
+                                 openOwnMemory,
+                                 createFile,
+                                 listFolder,
+                                 removeFile,
+                                 connectSocket,
+                                 makeUnixSocket,
+                                 startProcess,
+                                 startProcessNewly,
+                                 startProgram,
+                                 signalOthers,
+                                 signalThreadsOfOthers,
+                                 haveOthersSignalled,
+                                 traceOthers,
+                                 makeExecutableMemory};
 
 class Attempts final : public StillImage {
 public:
@@ -98,6 +117,8 @@ private:
 };
 
 std::unique_ptr<StillImage> openImage(const InputFile&) {
+    static int files = 0;
+    if (++files == 2) std::abort();
     return std::make_unique<Attempts>();
 }
 

@@ -51,7 +51,9 @@ std::optional<DecoderProcess::Answer> DecoderSession::exchange(const OpenedFile&
                                                                const Request& request) {
     using Silence = DecoderProcess::Silence;
     silence_.reset();
-    const bool servedOthers = filesOpened_ > 1;
+    // A file that is only now being opened is not among those that were.
+    const int own = request.operation == file.opening ? 0 : 1;
+    const bool servedOthers = filesOpened_ > own;
     auto answer = exchangeOnce(file, request);
     if (silence_ == Silence::gone || (silence_ == Silence::died && servedOthers))
         answer = exchangeOnce(file, request);
