@@ -2,6 +2,7 @@
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusContext>
 #include <QDBusError>
 #include <QDBusMessage>
@@ -162,7 +163,10 @@ DBusApplication::DBusApplication(const std::string& identifier, Launch launch)
         taskbar_ = std::make_unique<TaskbarPresence>();
 }
 
-DBusApplication::~DBusApplication() = default;
+/// Who calls in the moments until the process has ended shall reach the next copy.
+DBusApplication::~DBusApplication() {
+    if (object_) QDBusConnection::sessionBus().interface()->unregisterService(identifier_);
+}
 
 void DBusApplication::setActivationPolicy(ActivationPolicy policy) {
     if (taskbar_) taskbar_->setPresent(policy == ActivationPolicy::regular);
