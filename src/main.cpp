@@ -115,6 +115,7 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
     qInstallMessageHandler(endOnFatalMessages);
     QGuiApplication application = makeApplication(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setDesktopFileName(QString::fromLatin1(programIdentifier));
     translations.install();
     joinSession(application);
     if (request) {

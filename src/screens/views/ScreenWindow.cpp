@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QImage>
 #include <QKeyEvent>
 #include <QQmlComponent>
@@ -45,6 +46,8 @@ ScreenWindow::ScreenWindow(const QString& title) {
     setFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
              Qt::WindowCloseButtonHint);
     setTitle(title);
+    // There once the program is installed.
+    setIcon(QIcon::fromTheme(QStringLiteral("org.vantle.Vantle")));
     setResizeMode(QQuickView::SizeRootObjectToView);
 }
 
