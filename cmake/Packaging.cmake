@@ -27,6 +27,6 @@ set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS scripts/packages/
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "ca-certificates, default-dbus-session-bus | dbus-session-bus, file, libcanberra-pulse, libcanberra0, libglib2.0-bin, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS
-    "gnome-shell-extension-gsconnect | kdeconnect, gnome-bluetooth-sendto | blueman | bluedevil, packagekit, xdg-desktop-portal")
+    "gnome-shell-extension-gsconnect | kdeconnect, gnome-bluetooth-sendto | blueman | bluedevil, packagekit, qt6-translations-l10n, xdg-desktop-portal")
 
 include(CPack)
