@@ -3,6 +3,9 @@
 #include <array>
 #include <ctime>
 #include <sstream>
+#include <system_error>
+
+#include "capture/WatchError.h"
 
 namespace vantle {
 namespace {
@@ -15,23 +18,25 @@ std::string localTime(std::chrono::system_clock::time_point time) {
     return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M:%S", &parts)};
 }
 
-/// Where a path begins: a slash at the beginning of a word, or behind the scheme of an address.
+/// Where a path begins: at a slash that no word stands before, as in "and/or".
 std::size_t startOfPath(std::string_view line) {
-    constexpr std::string_view before = " \"'(=~";
-    constexpr std::string_view scheme = "file://";
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        const bool isAddress = line.substr(i).starts_with(scheme);
-        const bool isPath = line[i] == '/' && (i == 0 || before.find(line[i - 1]) != before.npos);
-        if (isAddress || isPath) return i;
-    }
+    const auto isOfWord = [](char letter) {
+        return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') ||
+               (letter >= '0' && letter <= '9');
+    };
+    for (std::size_t i = 0; i < line.size(); ++i)
+        if (line[i] == '/' && (i == 0 || !isOfWord(line[i - 1]))) return i;
     return std::string_view::npos;
 }
 
-/// Where it ends, so far as that can be known.
-std::size_t endOfPath(std::string_view line, std::size_t start) {
-    const bool isQuoted = start > 0 && line[start - 1] == '"';
-    const auto end = isQuoted ? line.find('"', start) : line.rfind(": ");
-    return end == std::string_view::npos || end < start ? line.size() : end;
+/// Whether it is one of the system's messages, or of the watcher's.
+bool isReason(std::string_view text) {
+    constexpr int mostErrors = 134;
+    if (text == WatchError::missing().text() || text == WatchError::accessDenied().text())
+        return true;
+    for (int error = 1; error < mostErrors; ++error)
+        if (text == std::generic_category().message(error)) return true;
+    return false;
 }
 
 std::string text(bool value) {
@@ -85,13 +90,14 @@ std::vector<Fact> logFacts(const std::vector<LoggedMessage>& messages, Paths pat
 }
 
 std::string withoutPaths(std::string_view line) {
-    std::string hidden;
-    for (auto start = startOfPath(line); start != std::string_view::npos;
-         start = startOfPath(line)) {
-        hidden += std::string(line.substr(0, start)) + "(path)";
-        line.remove_prefix(endOfPath(line, start));
-    }
-    return hidden + std::string(line);
+    constexpr std::string_view introduction = ": ";
+    const auto start = startOfPath(line);
+    if (start == std::string_view::npos) return std::string(line);
+    const std::string hidden = std::string(line.substr(0, start)) + "(path)";
+    const auto last = line.rfind(introduction);
+    if (last == std::string_view::npos || last < start) return hidden;
+    const auto reason = line.substr(last + introduction.size());
+    return isReason(reason) ? hidden + ": " + std::string(reason) : hidden;
 }
 
 }  // namespace vantle

@@ -26,9 +26,9 @@ Fact settingsFact(const Settings& settings);
 /// The messages with their times, or that there are none.
 std::vector<Fact> logFacts(const std::vector<LoggedMessage>& messages, Paths paths);
 
-/// The line with each path in it replaced by "(path)": from its first "/" to the next quotation
-/// mark, if one stands before it; else to the last ": " behind it, which introduces a reason, or
-/// to the end of the line. A path can hold anything, so rather too much goes than too little.
+/// The line up to the first path in it, which becomes "(path)" with all that follows: a path can
+/// hold anything, so nobody knows where it ends. Only a reason that the system or the program gives
+/// in those words is kept, behind the last ": ".
 std::string withoutPaths(std::string_view line);
 
 }  // namespace vantle

@@ -107,18 +107,19 @@ TEST_F(RequestTest, TheVerboseStatusTellsWhatAReportOfAFaultNeedsButNoPath) {
     domain->values["location"] = std::string("/home/user/Clients");
     (void)files->createDirectory(Url::file("/home/user/Clients"));
     launch();
-    systemLog("Vantle: cannot open /home/user/Clients/Acme.png: denied");
+    systemLog("Vantle: cannot open /home/user/Clients/Acme.png: Permission denied");
     const std::string report = ask("status", {"verbose"});
     EXPECT_THAT(report,
                 AllOf(HasSubstr("version: " + std::string(version)),
                       HasSubstr("\nfolder: in the home directory\n"),
                       HasSubstr("\nfolder from: a setting in memory\n"),
                       HasSubstr("\nsettings: corner bottomRight"), HasSubstr("\ntray: on D-Bus\n"),
-                      HasSubstr(" Vantle: cannot open (path): denied")));
+                      HasSubstr(" Vantle: cannot open (path): Permission denied")));
     EXPECT_THAT(report, Not(HasSubstr("Clients")));
-    EXPECT_THAT(ask("status", {"verbose", "with-paths"}),
-                AllOf(HasSubstr("\nfolder: /home/user/Clients\n"),
-                      HasSubstr(" Vantle: cannot open /home/user/Clients/Acme.png: denied")));
+    EXPECT_THAT(
+        ask("status", {"verbose", "with-paths"}),
+        AllOf(HasSubstr("\nfolder: /home/user/Clients\n"),
+              HasSubstr(" Vantle: cannot open /home/user/Clients/Acme.png: Permission denied")));
 }
 
 TEST_F(RequestTest, WhatIsNotKnownIsRefused) {
