@@ -108,7 +108,7 @@ std::vector<Fact> surroundings(const Environment& environment, const TrayStatusI
     std::ranges::copy(displayServerFacts(), std::back_inserter(facts));
     std::ranges::copy(desktopFacts(), std::back_inserter(facts));
     facts.push_back({"tray", statusItem.tray()});
-    facts.push_back(decoderFact(beside("vantle-decoder")));
+    std::ranges::copy(decoderFacts(beside("vantle-decoder")), std::back_inserter(facts));
     return facts;
 }
 

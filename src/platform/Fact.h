@@ -4,8 +4,8 @@
 
 namespace vantle {
 
-/// A line of what a report of a fault needs. In English, whatever the user's language is: those who
-/// mend the program read it.
+/// A line of what a report of a fault needs. In English, whatever the user's language is, but for
+/// what the system says of an error: those who mend the program read it.
 struct Fact {
     std::string name;
     std::string value;

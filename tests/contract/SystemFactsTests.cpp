@@ -5,13 +5,13 @@
 
 #include "TemporaryFolder.h"
 #include "TextFile.h"
+#include "decoder/protocol/Format.h"
 #include "platform/linux/SystemFacts.h"
 
 namespace vantle {
 namespace {
 
 using testing::HasSubstr;
-using testing::StartsWith;
 
 class SystemFactsTest : public testing::Test {
 protected:
@@ -48,8 +48,10 @@ TEST_F(SystemFactsTest, TheSessionIsTakenFromTheEnvironment) {
     EXPECT_EQ(fact("session"), "x11");
 }
 
-TEST_F(SystemFactsTest, ADecoderThatDoesNotStartIsSaid) {
-    EXPECT_THAT(decoderFact("/nowhere/vantle-decoder").value, StartsWith("does not start: "));
+TEST_F(SystemFactsTest, DecodersThatDoNotStartAreNamed) {
+    const auto facts = decoderFacts("/nowhere/vantle-decoder");
+    ASSERT_EQ(facts.size(), decoder::formatNames.size());
+    EXPECT_EQ(facts.front(), (Fact{"no decoder", "png: No such file or directory"}));
 }
 
 }  // namespace

@@ -19,7 +19,6 @@ namespace {
 using namespace decoder;
 
 /// How long a decoder may take to load its libraries, from a cold disk.
-constexpr std::chrono::seconds startPatience(10);
 
 /// What the new process gets: the socket, the standard streams, and default signal handling.
 class SpawnSettings {
@@ -75,7 +74,8 @@ DecoderProcess::DecoderProcess(FileDescriptor socket, FileDescriptor process, Fo
       missingGuards_(missingGuards) {}
 
 Result<std::unique_ptr<DecoderProcess>> DecoderProcess::start(const std::string& program,
-                                                              Format format) {
+                                                              Format format,
+                                                              std::chrono::milliseconds patience) {
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0)
         return systemFailure(errno, program);
@@ -86,11 +86,11 @@ Result<std::unique_ptr<DecoderProcess>> DecoderProcess::start(const std::string&
         return systemFailure(error, program);
     theirs.reset();
     // The process that was spawned leaves the work to a child, of which it tells us, and ends.
-    auto hello = receive<Hello>(ours.get(), startPatience);
+    auto hello = receive<Hello>(ours.get(), patience);
     if (!hello) ::kill(first, SIGKILL);
     while (waitpid(first, nullptr, 0) < 0 && errno == EINTR) continue;
     if (!hello || !hello->descriptor) return systemFailure(ECHILD, program);
-    const auto ready = receive<Ready>(ours.get(), startPatience);
+    const auto ready = receive<Ready>(ours.get(), patience);
     std::unique_ptr<DecoderProcess> started(
         new DecoderProcess(std::move(ours), std::move(hello->descriptor), format,
                            ready ? ready->message.missingGuards : 0));

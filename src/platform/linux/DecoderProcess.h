@@ -15,9 +15,11 @@ namespace vantle {
 /// this object goes, ten seconds after the last request, or when it is killed.
 class DecoderProcess {
 public:
-    /// Returns when the decoder has given up its rights.
-    static Result<std::unique_ptr<DecoderProcess>> start(const std::string& program,
-                                                         decoder::Format format);
+    /// Returns when the decoder has given up its rights. It may take `patience` to be a process,
+    /// and again to be ready.
+    static Result<std::unique_ptr<DecoderProcess>> start(
+        const std::string& program, decoder::Format format,
+        std::chrono::milliseconds patience = std::chrono::seconds(10));
 
     decoder::Format format() const { return format_; }
 

@@ -3,12 +3,20 @@
 #include <gnu/libc-version.h>
 #include <sys/utsname.h>
 
+#include <algorithm>
+#include <chrono>
+
 #include "platform/linux/DecoderProcess.h"
 #include "platform/linux/KeyFile.h"
 #include "platform/linux/WholeFile.h"
 
 namespace vantle {
 namespace {
+
+using namespace std::chrono_literals;
+
+/// Whoever asks for the report does not wait longer than three seconds.
+constexpr auto longestLook = 2s;
 
 constexpr std::size_t largestFile = std::size_t{64} * 1024;
 
@@ -49,12 +57,28 @@ std::vector<Fact> systemFacts(const Environment& environment, const Url& share) 
             {"session", variable("XDG_SESSION_TYPE")}};
 }
 
-Fact decoderFact(const std::string& program) {
-    const auto started = DecoderProcess::start(program, decoder::Format::png);
-    if (!started) return {"decoder", "does not start: " + started.failure().message};
-    const std::uint32_t missing = started.value()->missingGuards();
-    return {"decoder", "starts; Landlock " + guard(missing, decoder::Guard::fileSystem) +
-                           ", seccomp " + guard(missing, decoder::Guard::systemCalls)};
+std::vector<Fact> decoderFacts(const std::string& program) {
+    const auto end = std::chrono::steady_clock::now() + longestLook;
+    std::string started;
+    std::vector<Fact> facts;
+    std::uint32_t missing = 0;
+    for (const std::string_view name : decoder::formatNames) {
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
+            end - std::chrono::steady_clock::now());
+        const auto decoder =
+            DecoderProcess::start(program, *decoder::formatNamed(name), std::max(left / 2, 1ms));
+        if (!decoder) {
+            facts.push_back({"no decoder", std::string(name) + ": " + decoder.failure().message});
+            continue;
+        }
+        started += (started.empty() ? "" : ", ") + std::string(name);
+        missing = decoder.value()->missingGuards();
+    }
+    if (!started.empty())
+        facts.push_back({"decoders", started + "; Landlock " +
+                                         guard(missing, decoder::Guard::fileSystem) + ", seccomp " +
+                                         guard(missing, decoder::Guard::systemCalls)});
+    return facts;
 }
 
 }  // namespace vantle

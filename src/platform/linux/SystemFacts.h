@@ -13,7 +13,8 @@ namespace vantle {
 /// folder with the program's own files.
 std::vector<Fact> systemFacts(const Environment& environment, const Url& share);
 
-/// Whether the decoder starts, and with which guards: starts one. `program` is its path.
-Fact decoderFact(const std::string& program);
+/// Whether the decoder of each format starts, and with which guards: starts them. `program` is
+/// their path. Gives up after about two seconds.
+std::vector<Fact> decoderFacts(const std::string& program);
 
 }  // namespace vantle
