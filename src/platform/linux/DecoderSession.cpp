@@ -51,9 +51,8 @@ std::optional<DecoderProcess::Answer> DecoderSession::exchange(const OpenedFile&
                                                                const Request& request) {
     using Silence = DecoderProcess::Silence;
     silence_.reset();
-    // A file that is only now being opened is not among those that were.
-    const int own = request.operation == file.opening ? 0 : 1;
-    const bool servedOthers = filesOpened_ > own;
+    const bool isReused = process_ && process_->format() == file.format;
+    const bool servedOthers = isReused && filesOpened_ > (current_ == &file ? 1 : 0);
     auto answer = exchangeOnce(file, request);
     if (silence_ == Silence::gone || (silence_ == Silence::died && servedOthers))
         answer = exchangeOnce(file, request);
