@@ -29,9 +29,10 @@ public:
     bool claim() { return !isClaimed_.exchange(true); }
     void release() { isClaimed_ = false; }
 
-    void play(const std::string& name) {
+    /// `description` is for those who see sounds instead of hearing them.
+    void play(const std::string& name, const std::string& description) {
         const char* failure = open();
-        if (!failure) failure = start(name);
+        if (!failure) failure = start(name, description);
         if (failure && !std::exchange(hasLogged_, true))
             systemLog("Vantle: cannot play the sound " + name + ": " + failure);
     }
@@ -70,9 +71,8 @@ private:
     }
 
     /// The theme's sound of that name or, where it has none, ours.
-    const char* start(const std::string& name) {
+    const char* start(const std::string& name, const std::string& description) {
         const std::string file = folder_.appending(name + ".wav").path();
-        const std::string description = localized("SoundPlayer", "New capture");
         const int error = library_.play(
             context_, 0, CA_PROP_EVENT_ID, name.c_str(), CA_PROP_MEDIA_FILENAME, file.c_str(),
             CA_PROP_EVENT_DESCRIPTION, description.c_str(), CA_PROP_MEDIA_ROLE, "event", nullptr);
@@ -95,8 +95,9 @@ void CanberraSoundPlayer::play(std::string_view name) {
     if (!service_->claim()) return;
     try {
         // Connecting to the sound server can take as long as that likes.
-        std::thread([service = service_, name = std::string(name)] {
-            service->play(name);
+        std::thread([service = service_, name = std::string(name),
+                     description = localized("SoundPlayer", "New capture")] {
+            service->play(name, description);
             service->release();
         }).detach();
     } catch (const std::system_error& error) {
