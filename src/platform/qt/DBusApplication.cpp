@@ -163,8 +163,12 @@ DBusApplication::DBusApplication(const std::string& identifier, Launch launch)
         taskbar_ = std::make_unique<TaskbarPresence>();
 }
 
-/// Who calls in the moments until the process has ended shall reach the next copy.
 DBusApplication::~DBusApplication() {
+    giveUpName();
+}
+
+/// Who calls in the moments until the process has ended shall reach the next copy.
+void DBusApplication::giveUpName() {
     if (object_) QDBusConnection::sessionBus().interface()->unregisterService(identifier_);
 }
 
@@ -288,6 +292,7 @@ void DBusApplication::activate() {
 }
 
 void DBusApplication::terminate() {
+    giveUpName();
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 

@@ -43,6 +43,7 @@ private:
     Result<std::string> askThroughSocket(const ApplicationRequest& request);
     void activated();
     void reopen();
+    void giveUpName();
     Result<std::string> perform(const ApplicationRequest& request);
 
     QString identifier_;
