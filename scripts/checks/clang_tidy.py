@@ -9,8 +9,8 @@ import json
 import os
 import re
 
-from .repository import (BUILD, ROOT, Problem, configure, files, git, lines_of, output_of, require,
-                         side_by_side)
+from .repository import (BUILD, ROOT, Problem, checked, configure, files, git, lines_of, output_of,
+                         require, side_by_side)
 
 WHAT = "C++ by clang-tidy 14"
 REPAIR = ("by hand; where clang-tidy is wrong, // NOLINT(CHECK) with the reason; "
@@ -83,10 +83,10 @@ def moc(path, command):
     name = os.path.basename(path).removesuffix(".cpp") + ".moc"
     if not any(text == f'#include "{name}"' for _, text in lines_of(path)):
         return
-    folder = re.search(r"(\S+_autogen/include)\b", command)[1]
+    folder = re.search(r"-I(\S+_autogen/include)\b", command)[1]
     os.makedirs(folder, exist_ok=True)
     libexec = output_of("qmake6", "-query", "QT_INSTALL_LIBEXECS")[0].strip()
-    output_of(f"{libexec}/moc", path, "-o", f"{folder}/{name}")
+    checked(f"{libexec}/moc", path, "-o", f"{folder}/{name}")
 
 
 def look_at(path, everything):

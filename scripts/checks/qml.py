@@ -9,7 +9,8 @@ import pathlib
 import re
 import shlex
 
-from .repository import BUILD, ROOT, MissingTool, Problem, configure, files, output_of, require
+from .repository import (BUILD, ROOT, MissingTool, Problem, checked, configure, files, output_of,
+                         require)
 
 WHAT = "QML by qmllint; unused imports count as well"
 REPAIR = "by hand; where qmllint is wrong, // qmllint disable KIND at the end of the line"
@@ -41,12 +42,6 @@ def include_flags():
     words = shlex.split(command)
     system = [f"-I{words[at + 1]}" for at, word in enumerate(words) if word == "-isystem"]
     return [word for word in words if word.startswith("-I")] + system
-
-
-def checked(*command):
-    output, status = output_of(*command)
-    if status:
-        raise MissingTool(f"{command[0]} failed: {output.strip()}")
 
 
 def describe(headers, name, flags):

@@ -39,6 +39,14 @@ def output_of(*command, **options):
     return done.stdout, done.returncode
 
 
+def checked(*command, **options):
+    """What a command writes that has to succeed."""
+    output, status = output_of(*command, **options)
+    if status:
+        raise MissingTool(f"{command[0]} failed: {output.strip()}")
+    return output
+
+
 def git(*arguments):
     """The lines of a command of Git; None where there is no repository, as in an archive."""
     if not shutil.which("git"):

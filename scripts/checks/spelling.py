@@ -6,7 +6,8 @@ software centres show. codespell looks for common misspellings everywhere, in co
 
 import re
 
-from .repository import ROOT, Problem, all_files, files, lines_of, output_of, require, text_of
+from .repository import (ROOT, MissingTool, Problem, all_files, checked, files, lines_of, output_of,
+                         require, text_of)
 from .texts import all_texts
 
 WHAT = "English in texts of the program, documents and code"
@@ -78,8 +79,8 @@ def our_words():
 
 
 def unknown(words):
-    output, _ = output_of("hunspell", "-i", "utf-8", "-d", "en_GB,en_US", "-l",
-                          input="\n".join(sorted(words)))
+    output = checked("hunspell", "-i", "utf-8", "-d", "en_GB,en_US", "-l",
+                     input="\n".join(sorted(words)))
     return set(output.split()) - {""}
 
 
@@ -100,9 +101,12 @@ def common_misspellings(note):
     # Translations are not English.
     paths = [path for path in all_files() if text_of(path) and not path.endswith(".ts")]
     note(f"looked for common misspellings in {len(paths)} files")
-    output, _ = output_of("codespell", "--ignore-words", str(ROOT / WORDS),
-                          "--ignore-regex", NOT_ENGLISH, *paths)
-    for path, line, text in MISSPELLING.findall(output):
+    output, status = output_of("codespell", "--ignore-words", str(ROOT / WORDS),
+                               "--ignore-regex", NOT_ENGLISH, *paths)
+    found = MISSPELLING.findall(output)
+    if status and not found:
+        raise MissingTool(f"codespell failed: {output.strip()}")
+    for path, line, text in found:
         yield Problem(path, int(line), text)
 
 
