@@ -12,7 +12,8 @@ from .screen import Screen
 from .waiting import WaitTimeout, wait_until
 
 _MARK = "VANTLE_PRIVATE_DESKTOP"
-_KEPT_VARIABLES = ("PATH", "LANG", "LC_ALL", "USER", "LOGNAME", "TZ")
+# Not the language: what the program says is compared.
+_KEPT_VARIABLES = ("PATH", "USER", "LOGNAME", "TZ")
 _KEPT_PREFIXES = ("VANTLE_", "ASAN_", "UBSAN_", "LSAN_", "TSAN_")
 BAR_HEIGHT = 26
 FONT_SETTINGS = """<?xml version="1.0"?>

@@ -49,8 +49,9 @@ class Copy:
         self.place = folder
         self.log = folder.parent / "log"
         self.tree = make_tree(folder / "app", OLD, self.programs("echo old", self.updater))
-        self._environment = {**os.environ, "SSL_CERT_FILE": str(certificates),
-                             "VANTLE_TEST_LOG": str(self.log)}
+        # In English, whatever the developer speaks.
+        self._environment = {**os.environ, "LANGUAGE": "", "LC_ALL": "C.UTF-8",
+                             "SSL_CERT_FILE": str(certificates), "VANTLE_TEST_LOG": str(self.log)}
 
     @staticmethod
     def programs(script, updater="#!/bin/sh\nexit 1\n"):
