@@ -143,12 +143,19 @@ def options_of(vantle):
     return re.findall(r"^  (--[a-z-]+)", run(vantle, "--help"), re.MULTILINE)
 
 
+def details_of(vantle):
+    """What may stand behind --status."""
+    return re.findall(r"^    (--[a-z-]+)", run(vantle, "--help"), re.MULTILINE)
+
+
 def test_the_manual_tells_every_option(installed):
     page = run("zcat", installed / "share/man/man1/vantle.1.gz")
     told = [f"-{name}" for name in re.findall(r"^\.It Fl (-[a-z-]+)", page, re.MULTILINE)]
     assert [name for name in told if name != "--dbus-activated"] == options_of(
         installed / "bin/vantle"
     )
+    for detail in details_of(installed / "bin/vantle"):
+        assert f"Fl {detail[1:]}" in page
 
 
 def test_bash_completes(installed, tmp_path):
@@ -166,6 +173,7 @@ def test_bash_completes(installed, tmp_path):
     assert completed("vantle", "--se") == ["--settings"]
     assert completed("vantle", "--show", "a") == ["a b.png"]
     assert completed("vantle", "--pause", "") == [""]
+    assert completed("vantle", "--status", "--") == details_of(installed / "bin/vantle")
 
 
 def test_fish_completes(installed, tmp_path):
@@ -181,6 +189,7 @@ def test_fish_completes(installed, tmp_path):
     assert sorted(completed("vantle --")) == sorted(options_of(installed / "bin/vantle"))
     assert completed("vantle --show a") == ["a b.png"]
     assert completed("vantle --pause a") == []
+    assert sorted(completed("vantle --status --")) == sorted(details_of(installed / "bin/vantle"))
 
 
 def test_zsh_completes(installed):
@@ -188,6 +197,8 @@ def test_zsh_completes(installed):
     run("zsh", "-n", completion)
     offered = re.findall(r"\)(--[a-z-]+)\[", completion.read_text())
     assert offered == options_of(installed / "bin/vantle")
+    for detail in details_of(installed / "bin/vantle"):
+        assert detail in completion.read_text()
 
 
 def test_programs_find_what_belongs_to_them(installed, tmp_path):
