@@ -248,6 +248,10 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <source>and with the paths in it</source>
         <translation>und mit den Pfaden darin</translation>
     </message>
+    <message>
+        <source>FILE…</source>
+        <translation>DATEI …</translation>
+    </message>
 </context>
 <context>
     <name>DismissSlider</name>
@@ -584,7 +588,7 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     <name>ScreenshotTool</name>
     <message>
         <source>The desktop does not let its setting &quot;%1&quot; be changed.</source>
-        <translation>Der Desktop lässt seine Einstellung „%1“ nicht ändern.</translation>
+        <translation>Der Desktop erlaubt nicht, seine Einstellung „%1“ zu ändern.</translation>
     </message>
     <message>
         <source>The screenshot tool of Xfce shows no preview.</source>
@@ -1002,7 +1006,7 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     </message>
     <message>
         <source>This copy of Vantle cannot be updated, because it was built without the key that updates are signed with.</source>
-        <translation>Dieses Vantle lässt sich nicht aktualisieren: Es wurde ohne den Schlüssel gebaut, mit dem Updates signiert werden.</translation>
+        <translation>Diese Kopie von Vantle lässt sich nicht aktualisieren: Sie wurde ohne den Schlüssel gebaut, mit dem Updates signiert werden.</translation>
     </message>
     <message>
         <source>The update feed is older than one that was seen before, so it was refused.</source>
@@ -1010,7 +1014,7 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     </message>
     <message>
         <source>This copy of Vantle cannot be replaced by itself.</source>
-        <translation>Dieses Vantle kann sich nicht selbst ersetzen.</translation>
+        <translation>Diese Kopie von Vantle kann sich nicht selbst ersetzen.</translation>
     </message>
 </context>
 <context>

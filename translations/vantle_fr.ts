@@ -248,6 +248,10 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <source>and with the paths in it</source>
         <translation>et avec les chemins</translation>
     </message>
+    <message>
+        <source>FILE…</source>
+        <translation>FICHIER…</translation>
+    </message>
 </context>
 <context>
     <name>DismissSlider</name>
@@ -573,7 +577,7 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     </message>
     <message>
         <source>the copy that runs does not answer</source>
-        <translation>le Vantle en cours d’exécution ne répond pas</translation>
+        <translation>la copie en cours d’exécution ne répond pas</translation>
     </message>
     <message>
         <source>Vantle is not ready yet</source>
@@ -854,7 +858,7 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     </message>
     <message>
         <source>Version %1 has no length in the update feed, so it was refused.</source>
-        <translation>Le flux ne donne pas la taille de la version %1&#xa0;; elle a été refusée.</translation>
+        <translation>Le flux de mises à jour ne donne pas la taille de la version %1&#xa0;; elle a été refusée.</translation>
     </message>
     <message>
         <source>Version %1 is too large for an update, so it was refused.</source>
@@ -1002,7 +1006,7 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     </message>
     <message>
         <source>This copy of Vantle cannot be updated, because it was built without the key that updates are signed with.</source>
-        <translation>Ce Vantle ne peut pas être mis à jour&#xa0;: il a été construit sans la clé qui signe les mises à jour.</translation>
+        <translation>Cette copie de Vantle ne peut pas être mise à jour&#xa0;: elle a été construite sans la clé qui signe les mises à jour.</translation>
     </message>
     <message>
         <source>The update feed is older than one that was seen before, so it was refused.</source>
@@ -1010,7 +1014,7 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     </message>
     <message>
         <source>This copy of Vantle cannot be replaced by itself.</source>
-        <translation>Ce Vantle ne peut pas se remplacer lui-même.</translation>
+        <translation>Cette copie de Vantle ne peut pas se remplacer elle-même.</translation>
     </message>
 </context>
 <context>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>macOS is blocking Vantle from reading %1. Allow Vantle under System Settings → Privacy &amp; Security → Files and Folders, then click Retry.</source>
-        <translation>システムにより、Vantleは“%1”を読み取れません。システム設定の「プライバシーとセキュリティ」→「ファイルとフォルダ」でVantleを許可してから、「再試行」をクリックしてください。</translation>
+        <translation>システムにより、Vantleは「%1」を読み取れません。システム設定の「プライバシーとセキュリティ」→「ファイルとフォルダ」でVantleを許可してから、「再試行」をクリックしてください。</translation>
     </message>
     <message>
         <source>Open Privacy Settings</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>%1 is missing and could not be recreated. Choose another folder in Settings.</source>
-        <translation>“%1”が見つからず、作り直すこともできませんでした。設定で別のフォルダを選んでください。</translation>
+        <translation>「%1」が見つからず、作り直すこともできませんでした。設定で別のフォルダを選んでください。</translation>
     </message>
     <message>
         <source>Vantle can&apos;t watch your screenshot folder</source>
@@ -212,11 +212,11 @@
     </message>
     <message>
         <source>Try &quot;vantle --help&quot;.</source>
-        <translation>“vantle --help”を参照してください。</translation>
+        <translation>「vantle --help」を参照してください。</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation>予期しない引数“%1”</translation>
+        <translation>予期しない引数「%1」</translation>
     </message>
     <message>
         <source>Usage: vantle [OPTION]
@@ -234,7 +234,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
     <message>
         <source>unknown option &quot;%1&quot;</source>
-        <translation>不明なオプション“%1”</translation>
+        <translation>不明なオプション「%1」</translation>
     </message>
     <message>
         <source>%1 needs a file</source>
@@ -247,6 +247,10 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <message>
         <source>and with the paths in it</source>
         <translation>パスも表示します</translation>
+    </message>
+    <message>
+        <source>FILE…</source>
+        <translation>ファイル…</translation>
     </message>
 </context>
 <context>
@@ -362,7 +366,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <name>OnboardingSummary</name>
     <message>
         <source>Saving to %1 folder</source>
-        <translation>“%1”フォルダに保存</translation>
+        <translation>「%1」フォルダに保存</translation>
     </message>
     <message>
         <source>Stays for %1 seconds unless pinned</source>
@@ -400,7 +404,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <name>PageDots</name>
     <message>
         <source>Step %1 of %2</source>
-        <translation>%2ステップ中の%1</translation>
+        <translation>%2ステップ中%1番目</translation>
     </message>
 </context>
 <context>
@@ -541,7 +545,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
     <message>
         <source>there is no action &quot;%1&quot;</source>
-        <translation>“%1”というアクションはありません</translation>
+        <translation>「%1」というアクションはありません</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -568,7 +572,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <name>ScreenshotTool</name>
     <message>
         <source>The desktop does not let its setting &quot;%1&quot; be changed.</source>
-        <translation>デスクトップが設定“%1”の変更を許可していません。</translation>
+        <translation>デスクトップが設定「%1」の変更を許可していません。</translation>
     </message>
     <message>
         <source>The screenshot tool of Xfce shows no preview.</source>
@@ -801,15 +805,15 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
     <message>
         <source>it holds &quot;%1&quot;.</source>
-        <translation>“%1”が含まれています。</translation>
+        <translation>「%1」が含まれています。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither a file nor a folder.</source>
-        <translation>“%1”はファイルでもフォルダでもありません。</translation>
+        <translation>「%1」はファイルでもフォルダでもありません。</translation>
     </message>
     <message>
         <source>it holds &quot;%1&quot; twice.</source>
-        <translation>“%1”が2回含まれています。</translation>
+        <translation>「%1」が2回含まれています。</translation>
     </message>
     <message>
         <source>its archive is damaged.</source>
@@ -817,7 +821,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
     <message>
         <source>&quot;%1&quot; has holes.</source>
-        <translation>“%1”に欠落があります。</translation>
+        <translation>「%1」に欠落があります。</translation>
     </message>
     <message>
         <source>it is too large once it is unpacked.</source>
@@ -869,7 +873,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
     <message>
         <source>Updates are fetched only by HTTPS, not from &quot;%1&quot;.</source>
-        <translation>アップデートはHTTPSでのみ取得します。“%1”からは取得しません。</translation>
+        <translation>アップデートはHTTPSでのみ取得します。「%1」からは取得しません。</translation>
     </message>
     <message>
         <source>The server sent more than the %1 bytes that are expected at most.</source>
@@ -953,7 +957,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
     <message>
         <source>it should be version %1 and is &quot;%2&quot;.</source>
-        <translation>バージョン%1のはずが“%2”です。</translation>
+        <translation>バージョン%1のはずが「%2」です。</translation>
     </message>
     <message>
         <source>it is not for this system (%1).</source>
@@ -973,7 +977,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
     <message>
         <source>The folder of Vantle, %1, also holds &quot;%2&quot;, which is not part of it. Move that elsewhere first.</source>
-        <translation>Vantleのフォルダ%1に、含まれるべきでない“%2”があります。先に別の場所へ移してください。</translation>
+        <translation>Vantleのフォルダ%1に、含まれるべきでない「%2」があります。先に別の場所へ移してください。</translation>
     </message>
     <message>
         <source>The update is shorter than the feed says, so it was refused.</source>

@@ -93,11 +93,17 @@ CommandLine printed(std::string_view name) {
             name == "help" ? helpText() : std::string("Vantle ") + std::string(version)};
 }
 
-std::string helpLine(std::string start, const char* help) {
+/// Of UTF-8, each of whose letters has one byte that is not a continuation.
+std::size_t lettersIn(std::string_view text) {
+    return static_cast<std::size_t>(
+        std::ranges::count_if(text, [](char byte) { return (byte & 0xc0) != 0x80; }));
+}
+
+std::string helpLine(const std::string& start, const char* help) {
     constexpr std::size_t column = 18;
-    // The ellipsis is one letter of three bytes.
-    start.resize(column + (start.ends_with("…") ? 2 : 0), ' ');
-    return start + localized("CommandLine", help) + "\n";
+    const std::size_t letters = lettersIn(start);
+    return start + std::string(letters < column ? column - letters : 1, ' ') +
+           localized("CommandLine", help) + "\n";
 }
 
 }  // namespace
@@ -112,8 +118,9 @@ std::string helpText() {
         "\n\n";
     for (const auto& option : options) {
         const bool takesFiles = option.takes == Takes::files;
-        text +=
-            helpLine("  --" + std::string(option.name) + (takesFiles ? " FILE…" : ""), option.help);
+        text += helpLine("  --" + std::string(option.name) +
+                             (takesFiles ? " " + localized("CommandLine", "FILE…") : ""),
+                         option.help);
         if (option.takes != Takes::details) continue;
         for (const auto& detail : details)
             text += helpLine("    --" + std::string(detail.name), detail.help);
