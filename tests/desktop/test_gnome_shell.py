@@ -69,9 +69,10 @@ def test_without_a_folder_for_pictures_it_is_in_the_home_directory(desktop, make
 def test_the_settings_say_that_it_stays(desktop, make_vantle):
     vantle = make_vantle("de_DE.UTF-8").start_watching()
     screens = Screens(desktop, vantle)
-    screens.open_settings()
+    vantle.command("--settings")
+    screens.wait_for_text("BILDSCHIRMFOTOS LANDEN IN")
     screens.wait_for_text("~/Bilder/Bildschirmfotos")
-    screens.wait_for_text("GNOME always saves screenshots in this folder.")
-    assert not screens.is_on("Hide the built-in macOS thumbnail")
-    for name in ("Change", "Hide the built-in macOS thumbnail"):
+    screens.wait_for_text("GNOME speichert Bildschirmfotos immer in diesem Ordner.")
+    assert not screens.is_on("Vorschau des Systems ausblenden")
+    for name in ("Ändern", "Vorschau des Systems ausblenden"):
         assert "enabled" not in screens.control(name)["states"], name
