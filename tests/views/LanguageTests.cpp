@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QTranslator>
+#include <set>
+#include <string>
 
 #include "CardStage.h"
 #include "Scenes.h"
@@ -123,9 +125,11 @@ private:
                                {QString::fromLatin1(GetParam())}};
 };
 
-/// Names of files are the only texts that may be cut off on the card.
+/// Names of files are the only texts that may be cut off on the card. These scenes have all others.
 TEST_P(LanguageTest, TheTextsOfTheCardHaveTheirRoom) {
+    const std::set<std::string> wanted{"one-hovered", "hovered", "selected", "recording"};
     for (const Scene& scene : allScenes()) {
+        if (!wanted.contains(scene.name)) continue;
         CardStage stage;
         scene.set(stage);
         for (const QQuickItem* text : stage.items("QQuickText")) {
