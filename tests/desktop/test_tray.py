@@ -3,7 +3,7 @@
 import pytest
 
 from panel_checks import is_dismissed, show_one
-from privatedesktop import processes, wait_until
+from privatedesktop import processes, wait_until, wait_until_still
 from trays import (
     Icon,
     OwnMenu,
@@ -73,6 +73,20 @@ def test_clicks_beside_our_menu_close_it(desktop, vantle):
         OwnMenu(desktop, icon)
         desktop.screen.pointer.click(300, 600, button=button)
         wait_until(lambda: desktop.screen.menu() is None, "the menu closes")
+
+
+def test_a_click_beside_our_menu_closes_it_after_a_long_press(desktop, vantle):
+    vantle.start_watching()
+    icon = Icon(desktop, "top")
+    icon.wait()
+    pointer = desktop.screen.pointer
+    pointer.move(*icon.middle)
+    pointer.press()
+    wait_until(desktop.screen.menu, "the menu opens")
+    wait_until_still(lambda: desktop.screen.screenshot().tobytes(), "the menu", readings=3)
+    pointer.release()
+    pointer.click(300, 600)
+    wait_until(lambda: desktop.screen.menu() is None, "the menu closes")
 
 
 @without_tray

@@ -38,6 +38,7 @@ private:
     void makeWindow(std::uint32_t tray);
     void letGo();
     void handleWindowEvent(std::uint8_t type, const void* event);
+    void click();
     void paint();
     /// What the icon is drawn on, as large as the window.
     QImage background() const;

@@ -217,8 +217,15 @@ void XEmbedIcon::handleWindowEvent(uint8_t type, const void* event) {
     } else if (type == XCB_BUTTON_PRESS) {
         const auto& pressed = *static_cast<const xcb_button_press_event_t*>(event);
         const bool isWheel = pressed.detail > 3;
-        if (pressed.event == window_ && !isWheel && onClick) onClick(frame());
+        if (pressed.event == window_ && !isWheel) click();
     }
+}
+
+void XEmbedIcon::click() {
+    // The press has grabbed the pointer for us until its release, which would also end the grab of
+    // a menu that opens meanwhile.
+    xcb_ungrab_pointer(connection(), XCB_CURRENT_TIME);
+    if (onClick) onClick(frame());
 }
 
 void XEmbedIcon::paint() {
