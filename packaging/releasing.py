@@ -81,6 +81,30 @@ def date_of_package(changelog):
     return int(email.utils.parsedate_to_datetime(date).timestamp())
 
 
+def repack(package, target, date):
+    """Packs a Debian package again, with a size that does not depend on the file system."""
+    with tempfile.TemporaryDirectory() as folder:
+        tree = Path(folder, "package")
+        subprocess.run(["dpkg-deb", "--raw-extract", str(package), str(tree)], check=True)
+        control = tree / "DEBIAN/control"
+        size = f"Installed-Size: {installed_size(tree)}"
+        control.write_text(re.sub("^Installed-Size: .*", size, control.read_text(), flags=re.M))
+        subprocess.run(
+            ["dpkg-deb", "-Zxz", "--root-owner-group", "--build", str(tree), str(target)],
+            check=True, stdout=subprocess.DEVNULL,
+            env={**os.environ, "SOURCE_DATE_EPOCH": str(date)},
+        )
+
+
+def installed_size(tree):
+    """In KiB, as Debian's policy counts: each file rounded up, everything else as one."""
+    entries = [path for path in tree.rglob("*") if "DEBIAN" not in path.relative_to(tree).parts]
+    return sum(
+        -(-path.stat().st_size // 1024) if path.is_file() and not path.is_symlink() else 1
+        for path in entries
+    )
+
+
 def needed_system(tree):
     """The version of the C library that the programs of a tree need."""
     versions = {(0,)}

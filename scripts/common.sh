@@ -143,16 +143,6 @@ require_cmake() {
   fi
 }
 
-# Where the system allows it. The thread sanitizer of older compilers cannot start where addresses
-# are randomised widely.
-without_randomised_addresses() {
-  if setarch "$(uname -m)" -R true 2>/dev/null; then
-    setarch "$(uname -m)" -R "$@"
-  else
-    "$@"
-  fi
-}
-
 # build PRESET [ARGUMENTS...]: configures and builds a preset of CMakePresets.json; the arguments go
 # to the build.
 build() {
@@ -165,10 +155,7 @@ build() {
     fail_with_log "$log" "The preset $preset could not be configured." \
       "The message above says what is missing. After an update of the system, remove" \
       "build/$preset and run this again."
-  # The QML compiler writes in the order of its hashes, of which addresses are a part: the same
-  # sources shall give the same program.
-  (cd "$root" && QT_HASH_SEED=0 without_randomised_addresses \
-    cmake --build --preset "$preset" --parallel "$(build_jobs)" "$@") </dev/null ||
+  (cd "$root" && cmake --build --preset "$preset" --parallel "$(build_jobs)" "$@") </dev/null ||
     fail "The preset $preset could not be built." "The compiler's message is above."
   say "Built $preset in $((SECONDS - started)) s."
 }
