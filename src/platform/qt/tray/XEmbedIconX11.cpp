@@ -1,6 +1,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -256,7 +257,7 @@ QImage XEmbedIcon::background() const {
     if (!drawn || xcb_get_image_data_length(drawn.get()) != picture.sizeInBytes()) return picture;
     const auto* pixels = reinterpret_cast<const QRgb*>(xcb_get_image_data(drawn.get()));
     auto* opaque = reinterpret_cast<QRgb*>(picture.bits());
-    std::transform(pixels, pixels + width * height, opaque,
+    std::transform(pixels, pixels + std::ptrdiff_t{width} * height, opaque,
                    [](QRgb pixel) { return pixel | 0xff000000U; });
     return picture;
 }
