@@ -16,7 +16,8 @@ public:
         install();
         heartbeat_.start();
         beginWhatWaits();
-        // Up to 50 ms of the clock that ran before are still to come: nobody but the heartbeat gets them.
+        // Up to 50 ms of the clock that ran before are still to come: nobody but the heartbeat gets
+        // them.
         advanceAnimation();
     }
     ~ManualFrames() override { uninstall(); }
