@@ -583,6 +583,10 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <source>Vantle is not ready yet</source>
         <translation>Vantle ist noch nicht bereit</translation>
     </message>
+    <message>
+        <source>no card is shown</source>
+        <translation>es ist keine Karte zu sehen</translation>
+    </message>
 </context>
 <context>
     <name>ScreenshotTool</name>

@@ -583,6 +583,10 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <source>Vantle is not ready yet</source>
         <translation>Vantle n’est pas encore prêt</translation>
     </message>
+    <message>
+        <source>no card is shown</source>
+        <translation>aucune carte n’est affichée</translation>
+    </message>
 </context>
 <context>
     <name>ScreenshotTool</name>

@@ -567,6 +567,10 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <source>Vantle is not ready yet</source>
         <translation>Vantleはまだ準備中です</translation>
     </message>
+    <message>
+        <source>no card is shown</source>
+        <translation>カードは表示されていません</translation>
+    </message>
 </context>
 <context>
     <name>ScreenshotTool</name>

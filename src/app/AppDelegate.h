@@ -92,6 +92,7 @@ private:
     int run(const Alert& alert);
 
     void setPaused(bool paused);
+    Result<std::string> focusPanel();
     Result<std::string> show(const std::vector<std::string>& paths);
     Result<std::string> status(const std::vector<std::string>& arguments) const;
 

@@ -19,13 +19,13 @@ Result<std::string> AppDelegate::perform(const ApplicationRequest& request) {
         {"pause", [this] { setPaused(true); }},
         {"resume", [this] { setPaused(false); }},
         {"dismiss", [this] { panel_->dismiss(); }},
-        {"focus-panel", [this] { panel_->takeKeyboard(); }},
         {"open-folder", [this] { statusBar_.openFolder(); }},
         {"sample", [this] { showDemo(); }},
         {"quit", [this] { platform_.application->terminate(); }},
     };
     if (request.action == "status") return status(request.arguments);
     if (request.action == "show") return show(request.arguments);
+    if (request.action == "focus-panel") return focusPanel();
     const auto found = actions.find(request.action);
     if (found == actions.end())
         return Failure{EINVAL,
@@ -39,16 +39,23 @@ void AppDelegate::setPaused(bool paused) {
     if (statusBar_.paused() != paused) statusBar_.togglePause();
 }
 
+Result<std::string> AppDelegate::focusPanel() {
+    if (!panel_->isVisible()) return Failure{ENOENT, localized("Requests", "no card is shown"), ""};
+    panel_->takeKeyboard();
+    return std::string();
+}
+
 Result<std::string> AppDelegate::show(const std::vector<std::string>& paths) {
     std::string refused;
     const auto refuse = [&](const std::string& path, const std::string& reason) {
-        refused += (refused.empty() ? "" : "\n") + path + ": " + reason;
+        refused += (refused.empty() ? "" : "\n") + reason + ": " + path;
     };
     for (const auto& path : paths) {
         const Url url = Url::file(path);
-        if (platform_.files->existence(url) != FileManager::Existence::file)
+        const auto existence = platform_.files->existence(url);
+        if (existence == FileManager::Existence::none)
             refuse(path, localized("Requests", "no such file"));
-        else if (!Capture::kind(url))
+        else if (existence != FileManager::Existence::file || !Capture::kind(url))
             refuse(path, localized("Requests", "not a screenshot or recording"));
         else
             platform_.watcherQueue->async([load = loader(), url] { load(url); });

@@ -51,8 +51,8 @@ TEST_F(RequestTest, ShowsWhatItCanAndNamesTheRest) {
     files->write(Url::file("/pictures/a.png"), 1, Date{});
     files->write(Url::file("/pictures/letter.txt"), 1, Date{});
     EXPECT_EQ(ask("show", {"/pictures/none.png", "/pictures/a.png", "/pictures/letter.txt"}),
-              "failed: /pictures/none.png: no such file\n"
-              "/pictures/letter.txt: not a screenshot or recording");
+              "failed: no such file: /pictures/none.png\n"
+              "not a screenshot or recording: /pictures/letter.txt");
     EXPECT_EQ(delegate->panel().state().captures.value().size(), 1u);
 }
 
@@ -64,9 +64,9 @@ TEST_F(RequestTest, DismissesTheCard) {
     EXPECT_EQ(ask("dismiss"), "");
 }
 
-TEST_F(RequestTest, GivesThePanelTheKeyboard) {
+TEST_F(RequestTest, GivesThePanelTheKeyboardWhereThereIsOne) {
     launch();
-    EXPECT_EQ(ask("focus-panel"), "");
+    EXPECT_EQ(ask("focus-panel"), "failed: no card is shown");
     EXPECT_EQ(panel.timesKeyboardTaken, 0);
     save("shot.png");
     EXPECT_EQ(ask("focus-panel"), "");
