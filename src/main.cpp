@@ -56,10 +56,12 @@ void returnLargeBlocksAtOnce() {
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 }
 
-/// A display that is missing, for instance, is no reason for a core dump.
+/// A missing display is no reason for a core dump, nor to reinstall the program, as Qt says.
 void endOnFatalMessages(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    systemLog((type == QtFatalMsg ? "Vantle: " : "") + message.toStdString());
-    if (type == QtFatalMsg) _exit(EXIT_FAILURE);
+    if (type != QtFatalMsg) return systemLog(message.toStdString());
+    const bool hasDisplay = QGuiApplication::primaryScreen() != nullptr;
+    systemLog("Vantle: " + (hasDisplay ? message.toStdString() : "no display could be opened"));
+    _exit(EXIT_FAILURE);
 }
 
 /// The desktop's session ends this program, but never starts it: its own entry for that does.
