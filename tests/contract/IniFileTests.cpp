@@ -123,7 +123,9 @@ TEST_F(IniFileTest, ADamagedFileMeansDefaultsOneLineAndACopyAside) {
     const std::string damage("[General]\nshown=true\n\0\0\0", 25);
     writeText(file, damage);
     EXPECT_FALSE(isShown(file));
-    EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("is damaged; it is kept as " + aside().path())));
+    EXPECT_THAT(log.lines(),
+                ElementsAre("Vantle: a damaged file is kept aside, and the defaults are used: " +
+                            file.path() + " is now " + aside().path()));
     EXPECT_EQ(readText(aside()), damage);
     EXPECT_FALSE(std::filesystem::exists(file.path()));
 }

@@ -42,11 +42,12 @@ Result<IniDocument> IniFile::read() const {
 Result<IniDocument> IniFile::keepDamagedAside() const {
     const auto aside = keepAside(file_);
     if (!aside) {
-        complain(file_.path() + " is damaged and cannot be kept aside: " + aside.failure().message);
+        complain("cannot keep aside what is damaged, " + file_.path() + ": " +
+                 aside.failure().message);
         return aside.failure();
     }
-    systemLog("Vantle: " + file_.path() + " is damaged; it is kept as " + aside.value().path() +
-              ", and the defaults are used");
+    systemLog("Vantle: a damaged file is kept aside, and the defaults are used: " + file_.path() +
+              " is now " + aside.value().path());
     return IniDocument();
 }
 
