@@ -120,7 +120,7 @@ TEST_F(IniFileTest, MissingFoldersAreMade) {
 }
 
 TEST_F(IniFileTest, ADamagedFileMeansDefaultsOneLineAndACopyAside) {
-    const std::string damage("[General]\nshown=true\n\0\0\0", 25);
+    const std::string damage("[General]\nshown=true\n\0\0\0", 24);
     writeText(file, damage);
     EXPECT_FALSE(isShown(file));
     EXPECT_THAT(log.lines(),

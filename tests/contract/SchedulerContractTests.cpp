@@ -196,7 +196,7 @@ TEST_F(QtSchedulerTest, WorkCanBePostedFromAnyThread) {
     constexpr int threads = 4;
     constexpr int pieces = 500;
     std::vector<std::vector<int>> ranByThread(threads);
-    std::size_t total = 0;
+    int total = 0;
     std::vector<std::jthread> running;
     for (int number = 0; number < threads; ++number)
         running.emplace_back([&, number] {

@@ -41,7 +41,7 @@ protected:
         return inHome(name);
     }
     void writeIn(const std::string& name, std::string text) const {
-        for (auto at = text.find("~"); at != std::string::npos; at = text.find("~"))
+        for (auto at = text.find('~'); at != std::string::npos; at = text.find('~'))
             text.replace(at, 1, home.path());
         std::filesystem::create_directories(inHome(name).deletingLastPathComponent().path());
         writeText(inHome(name), text);
@@ -146,7 +146,7 @@ TEST_F(ScreenshotToolTest, EachSpellingOfAFolderIsRead) {
         {"screengrab", "~/plain", "plain"}};
     for (const auto& [tool, text, name] : spellings) {
         const auto& [file, key] = files.at(tool);
-        writeIn(file, key + "=" + text + "\n");
+        writeIn(file, std::string(key).append("=").append(text).append("\n"));
         EXPECT_EQ(folderOf(tool), name) << tool << ' ' << text;
     }
     writeIn(".config/spectaclerc", "[Save]\ndefaultSaveLocation[$e]=file://$HOME/plain\n");

@@ -177,6 +177,8 @@ TEST(PollQueueTest, ItsEndDropsWhatWaits) {
 
 TEST(PollQueueTest, WorkThatIsDroppedMayHoldTheLastOfWhatAsksForWork) {
     struct Owner {
+        explicit Owner(std::shared_ptr<PollQueue::Descriptors> watched)
+            : descriptors(std::move(watched)) {}
         std::shared_ptr<PollQueue::Descriptors> descriptors;
         ~Owner() { descriptors->unwatch(0); }
     };

@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
         std::string key;
         unsigned value = 0;
         if (!(std::cin >> key >> value)) {
-            application.quit();
+            QCoreApplication::quit();
             return;
         }
         portal.set(QStringLiteral("org.freedesktop.appearance"), QString::fromStdString(key),

@@ -19,7 +19,6 @@ namespace vantle {
 namespace {
 
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Not;
 
 struct MemoryTrash {

@@ -22,10 +22,8 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::MatchesRegex;
-using testing::UnorderedElementsAre;
 
 const std::string contents = "every byte of it";
 

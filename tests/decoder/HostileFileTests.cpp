@@ -138,7 +138,7 @@ protected:
 };
 
 TEST_P(Bomb, EndsInTimeAndWithinTheLimitOfMemory) {
-    constexpr long limit = 1024 * 1024;
+    constexpr long limit = 1 << 20;
     EXPECT_LT(peakMemory(file(GetParam())), limit);
 }
 

@@ -12,9 +12,9 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-Bytes noise(std::size_t size) {
+Bytes noise(int size) {
     std::mt19937 random(1);
-    Bytes bytes(size);
+    Bytes bytes(static_cast<std::size_t>(size));
     for (auto& byte : bytes) byte = static_cast<std::uint8_t>(random());
     return bytes;
 }
@@ -22,7 +22,8 @@ Bytes noise(std::size_t size) {
 Picture reduced(const Bytes& rows, PixelSize source, PixelSize target, PixelLayout layout,
                 const Kernels& kernels = Kernels::best()) {
     Reducer reducer(source, target, layout, kernels);
-    const auto rowSize = static_cast<std::size_t>(source.wide * channelCount(layout));
+    const auto rowSize =
+        static_cast<std::size_t>(source.wide) * static_cast<std::size_t>(channelCount(layout));
     for (std::size_t begin = 0; begin < rows.size(); begin += rowSize)
         reducer.addRow(rows.data() + begin);
     EXPECT_TRUE(reducer.isComplete());
@@ -36,7 +37,7 @@ TEST(Reducer, KeepsAPictureThatFits) {
     const PixelSize size{37, 21};
     const Bytes rows = noise(37 * 21 * 3);
     const Picture picture = reduced(rows, size, size, PixelLayout::rgb);
-    for (std::size_t pixel = 0; pixel < 37 * 21; ++pixel) {
+    for (std::size_t pixel = 0; pixel < std::size_t{37} * 21; ++pixel) {
         for (std::size_t part = 0; part < 3; ++part)
             ASSERT_EQ(picture.rgba[4 * pixel + part], rows[3 * pixel + part]);
         ASSERT_EQ(picture.rgba[4 * pixel + 3], 255);
@@ -114,8 +115,7 @@ TEST(Reducer, IsNotCompleteWithoutItsLastRow) {
 TEST(Kernels, TheBestAndThePortableOnesAgree) {
     for (const PixelLayout layout : layouts)
         for (const PixelSize source : {PixelSize{500, 333}, {1003, 777}}) {
-            const Bytes rows =
-                noise(static_cast<std::size_t>(source.wide * source.high * channelCount(layout)));
+            const Bytes rows = noise(source.wide * source.high * channelCount(layout));
             const Picture best = reduced(rows, source, {120, 90}, layout);
             const Picture portable = reduced(rows, source, {120, 90}, layout, Kernels::portable());
             for (std::size_t i = 0; i < best.rgba.size(); ++i)

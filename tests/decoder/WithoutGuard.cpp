@@ -9,7 +9,7 @@
 #include <cerrno>
 
 int main(int, char** argv) {
-    const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ALLOW);
+    auto* const filter = seccomp_init(SCMP_ACT_ALLOW);
 #ifdef WITHOUT_LANDLOCK
     seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(landlock_create_ruleset), 0);
 #endif

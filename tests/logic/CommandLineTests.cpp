@@ -107,7 +107,8 @@ TEST(GradientLineTest, GoesCounterClockwiseFromTheRight) {
 
 TEST(GradientLineTest, ANegativeAngleRunsDownwardsFromCornerToCorner) {
     for (const double angle : {-30.0, -60.0}) {
-        const auto [start, end] = gradientLine({1600, 1000}, angle);
+        const auto [begin, end] = gradientLine({1600, 1000}, angle);
+        const Point start = begin;
         const Point direction{end.x - start.x, end.y - start.y};
         EXPECT_GT(direction.x, 0);
         EXPECT_GT(direction.y, 0);

@@ -11,7 +11,6 @@ namespace {
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
-using testing::Not;
 
 TEST(StatusReport, HasALineForEachFact) {
     EXPECT_EQ(reportLines({{"state", "watching"}, {"tray", "none"}}),

@@ -11,7 +11,7 @@ using fakes::CapturedLog;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-Environment environmentWith(std::optional<std::string> feed) {
+Environment environmentWith(const std::optional<std::string>& feed) {
     return
         [feed](const std::string& name) { return name == "VANTLE_FEED_URL" ? feed : std::nullopt; };
 }

@@ -18,7 +18,7 @@ namespace vantle {
 namespace {
 
 // Longer than any report: the notes are the longest part.
-constexpr qsizetype longestLine = 1024 * 1024;
+constexpr qsizetype longestLine = 1 << 20;
 
 constexpr int patience = 10'000;  // milliseconds, with a program that starts
 
