@@ -12,6 +12,13 @@ fi
 
 say() { printf '%s==>%s %s\n' "$bold" "$plain" "$*"; }
 
+# explain_if_asked ARGUMENTS...: for --help it shows the comment at the top of the script, and ends.
+explain_if_asked() {
+  if [[ ${1-} != --help && ${1-} != -h ]]; then return; fi
+  sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$0"
+  exit 0
+}
+
 # The first argument says what is wrong; each further one is a line about what to do.
 fail() {
   printf '%sError:%s %s\n' "$red" "$plain" "$1" >&2
