@@ -18,8 +18,6 @@ namespace {
 
 using namespace decoder;
 
-/// How long a decoder may take to load its libraries, from a cold disk.
-
 /// What the new process gets: the socket, the standard streams, and default signal handling.
 class SpawnSettings {
 public:

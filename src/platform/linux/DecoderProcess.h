@@ -16,7 +16,7 @@ namespace vantle {
 class DecoderProcess {
 public:
     /// Returns when the decoder has given up its rights. It may take `patience` to be a process,
-    /// and again to be ready.
+    /// and again to be ready: its libraries may come from a cold disk.
     static Result<std::unique_ptr<DecoderProcess>> start(
         const std::string& program, decoder::Format format,
         std::chrono::milliseconds patience = std::chrono::seconds(10));
