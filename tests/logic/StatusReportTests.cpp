@@ -65,6 +65,7 @@ TEST(StatusReport, HidesPathsWhateverTheyHold) {
         {"the folder \"/home/anna/a: b\" is full", "the folder \"(path)"},
         {"not a folder: file:///home/anna/x", "not a folder: file:(path)"},
         {"~/secret is gone", "~(path)"},
+        {"show: no such file: /home/anna/a.png", "show: no such file: (path)"},
         {"[/home/a] at:/home/b", "[(path)"},
     };
     for (const auto& [line, hidden] : lines) EXPECT_EQ(withoutPaths(line), hidden);
