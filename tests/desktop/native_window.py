@@ -5,6 +5,7 @@ import warnings
 
 import gi
 
+gi.require_version("Gdk", "3.0")
 gi.require_version("Gtk", "3.0")
 warnings.simplefilter("ignore")
 from gi.repository import Gdk, Gtk  # noqa: E402
