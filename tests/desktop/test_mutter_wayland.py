@@ -1,0 +1,193 @@
+"""The card in GNOME's Wayland session, where it is drawn through XWayland."""
+
+import pathlib
+import shutil
+import subprocess
+
+import pytest
+
+from conftest import require_peer
+from mutter_desktop import MutterDesktop
+from panel_checks import encoded, expected_frame
+from pictures import RED, YELLOW, is_one_pattern, mask_of, pattern
+from privatedesktop import Program, Rectangle, WaitTimeout, wait_until, wait_until_still
+from sway_desktop import NativeWindow
+from using import BUTTONS, Drag
+
+pytestmark = pytest.mark.desktop(tray=False, compositor=False)
+
+# From the right edge of a tile to that of its card.
+_MARGIN = 13
+
+
+def is_mutter_43():
+    if not shutil.which("mutter"):
+        return False
+    told = subprocess.run(["mutter", "--version"], stdout=subprocess.PIPE, text=True, check=True)
+    return told.stdout.startswith("mutter 43.")
+
+
+def fails_under_mutter_43(reason):
+    return pytest.mark.xfail(is_mutter_43(), strict=True, raises=WaitTimeout, reason=reason)
+
+
+@pytest.fixture
+def mutter(desktop):
+    require_peer("mutter")
+    require_peer("Xwayland")
+    return MutterDesktop(desktop)
+
+
+@pytest.fixture
+def vantle(mutter, binary):
+    program = Program(mutter.as_user(binary), mutter)
+    program.write_settings(hasExplainedMissingTray="true", removeAfterUse="true")
+    mutter.give_to_user()
+    yield program
+    program.stop()
+
+
+def corner(mutter):
+    return expected_frame(Rectangle(0, 0, *mutter.screen.size), "bottomRight")
+
+
+def show_one(mutter, vantle):
+    """Returns where its tile stands on the screen."""
+    (mutter.home / "Desktop/shot.png").write_bytes(encoded(pattern()))
+    vantle.wait_for_log("captured shot.png")
+    frame = corner(mutter)
+    wait_until(lambda: is_one_pattern(mutter.screen.screenshot(frame)), "the tile stands")
+    picture = wait_until_still(lambda: mutter.screen.screenshot(frame), "the card")
+    first, last = mask_of(picture, RED).getbbox(), mask_of(picture, YELLOW).getbbox()
+    width, height = last[2] - first[0], last[3] - first[1]
+    return Rectangle(frame.x + first[0], frame.y + first[1], width, height)
+
+
+def on_glass(tile):
+    """A point of the card, and not of its tile."""
+    return tile.centre[0], tile.y - 5
+
+
+def click_on_glass(mutter, vantle, tile):
+    before = vantle.log_text().count("host mouseDown")
+    mutter.screen.pointer.click(*on_glass(tile))
+    vantle.wait_for_log("host mouseDown", times=before + 1)
+
+
+def click_through(mutter, window, points):
+    """Clicks there, and waits until the window underneath has got all of them, and no others."""
+    for number, point in enumerate(points, start=1):
+        mutter.screen.pointer.click(*point)
+        wait_until(lambda: len(window.clicks()) == number, f"the click at {point} arrives")
+    assert window.clicks() == points
+
+
+def test_the_card_stands_in_its_corner(mutter, vantle):
+    vantle.start_watching()
+    tile = show_one(mutter, vantle)
+    width, height = mutter.screen.size
+    assert 10 < width - tile.right < 40
+    assert 50 < height - tile.bottom < 90
+
+
+def test_above_a_full_screen_window(mutter, vantle):
+    NativeWindow(mutter)
+    vantle.start_watching()
+    show_one(mutter, vantle)
+
+
+def test_clicks_outside_the_panel_reach_the_window_underneath(mutter, vantle):
+    window = NativeWindow(mutter)
+    vantle.start_watching()
+    tile = show_one(mutter, vantle)
+    frame = corner(mutter)
+    click_on_glass(mutter, vantle, tile)
+    click_through(mutter, window, [
+        (frame.x - 5, frame.centre[1]), (frame.centre[0], frame.y - 5), (300, 300),
+    ])  # fmt: skip
+
+
+@fails_under_mutter_43("It gives a window of X all clicks in its frame once it is drawn again")
+def test_clicks_beside_the_card_reach_the_window_underneath(mutter, vantle):
+    window = NativeWindow(mutter)
+    vantle.start_watching()
+    tile = show_one(mutter, vantle)
+    # The card is drawn again.
+    click_on_glass(mutter, vantle, tile)
+    frame = corner(mutter)
+    click_through(mutter, window, [
+        (frame.x + 60, frame.y + 60), (tile.x - 24, tile.centre[1]), (tile.x, frame.y + 10),
+    ])  # fmt: skip
+
+
+def test_the_focus_stays_where_one_types(mutter, vantle):
+    window = NativeWindow(mutter)
+    vantle.start_watching()
+    mutter.screen.keyboard.type("x")
+    tile = show_one(mutter, vantle)
+    mutter.screen.keyboard.type("y")
+    click_on_glass(mutter, vantle, tile)
+    mutter.screen.keyboard.type("z")
+    wait_until(lambda: window.typed() == "xyz", "all letters arrive")
+    assert not window.has_lost_focus()
+
+
+def test_a_drag_is_promised_by_a_native_window_and_its_preview_follows(mutter, vantle):
+    window = NativeWindow(mutter)
+    vantle.start_watching()
+    tile = show_one(mutter, vantle)
+    drag = Drag(mutter, vantle, tile.centre)
+    for place in ((400, 300), (700, 400)):
+        drag.hold_over(*place)
+        around = Rectangle(place[0] - 200, place[1] - 150, 400, 300)
+        wait_until(lambda: is_one_pattern(mutter.screen.screenshot(around)), "the preview follows")
+    assert window.is_asked()
+
+
+@fails_under_mutter_43("It asks what is dragged when the drag begins, and Qt answers only later")
+def test_dragged_into_a_native_window(mutter, vantle):
+    window = NativeWindow(mutter)
+    vantle.start_watching()
+    tile = show_one(mutter, vantle)
+    Drag(mutter, vantle, tile.centre).hold_over(400, 300).drop()
+    wait_until(window.dropped, "it is dropped")
+    assert window.dropped() == [(mutter.home / "Desktop/shot.png").as_uri()]
+
+
+def test_dropped_where_nobody_takes_it_the_tile_comes_back(mutter, vantle):
+    vantle.start_watching()
+    tile = show_one(mutter, vantle)
+    Drag(mutter, vantle, tile.centre).move(300, 300).drop()
+    vantle.wait_for_log("thumb drag ended op=0")
+    wait_until(lambda: is_one_pattern(mutter.screen.screenshot(corner(mutter))), "it is back")
+
+
+@fails_under_mutter_43("It gives the keys to the window with the focus, which the card never has")
+def test_escape_ends_a_drag(mutter, vantle):
+    NativeWindow(mutter)
+    vantle.start_watching()
+    tile = show_one(mutter, vantle)
+    Drag(mutter, vantle, tile.centre).hold_over(400, 300)
+    mutter.screen.keyboard.press("Escape")
+    vantle.wait_for_log("thumb drag ended op=0")
+
+
+def pasted(mutter, *arguments):
+    """What a native program is given by the clipboard. It needs the focus for it, for a moment."""
+    file = pathlib.Path(mutter.environment["TMPDIR"], "pasted")
+    process = mutter.start("sh", "-c", f'wl-paste "$@" > "{file}"', "sh", *arguments)
+    process.wait(20)
+    return file.read_text().split()
+
+
+def test_native_programs_paste_what_was_copied(mutter, vantle):
+    require_peer("wl-paste")
+    vantle.start_watching()
+    tile = show_one(mutter, vantle)
+    mutter.screen.pointer.click(tile.right + _MARGIN - BUTTONS["copy"], tile.bottom + 26)
+    vantle.wait_for_log("tap icon doc.on.doc")
+    wait_until(lambda: "text/uri-list" in pasted(mutter, "--list-types"), "it is offered")
+    types = pasted(mutter, "--list-types")
+    assert {"image/png", "image/jpeg", "image/bmp", "x-special/gnome-copied-files"} <= set(types)
+    file = mutter.home / "Desktop/shot.png"
+    assert pasted(mutter, "--type", "text/uri-list") == [file.as_uri()]
