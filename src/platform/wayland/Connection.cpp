@@ -1,0 +1,130 @@
+#include "platform/wayland/Connection.h"
+
+#include <qpa/qplatformnativeinterface.h>
+#include <xdg-shell-client-protocol.h>
+
+#include <QGuiApplication>
+#include <QRegion>
+#include <algorithm>
+#include <string_view>
+
+namespace vantle::wayland {
+namespace {
+
+/// Null where the toolkit speaks to another display server.
+QPlatformNativeInterface* toolkit() {
+    const bool isWayland = QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    return isWayland ? QGuiApplication::platformNativeInterface() : nullptr;
+}
+
+template <typename Object>
+void bind(Object*& object, wl_registry* registry, std::uint32_t name, std::uint32_t offered,
+          const wl_interface& interface, std::uint32_t version) {
+    object = static_cast<Object*>(
+        wl_registry_bind(registry, name, &interface, std::min(offered, version)));
+}
+
+void bindOffered(void* data, wl_registry* registry, std::uint32_t name, const char* interface,
+                 std::uint32_t version) {
+    auto& globals = *static_cast<Globals*>(data);
+    const auto isOffered = [offered = std::string_view(interface)](const wl_interface& wanted) {
+        return offered == wanted.name;
+    };
+    if (isOffered(wl_compositor_interface))
+        bind(globals.compositor, registry, name, version, wl_compositor_interface, 4);
+    else if (isOffered(wl_shm_interface))
+        bind(globals.sharedMemory, registry, name, version, wl_shm_interface, 1);
+    else if (isOffered(layershell::shellInterface))
+        bind(globals.layerShell, registry, name, version, layershell::shellInterface,
+             layershell::version);
+    else if (isOffered(xdg_wm_base_interface))
+        bind(globals.shell, registry, name, version, xdg_wm_base_interface, 1);
+    else if (isOffered(blur::managerInterface))
+        bind(globals.blur, registry, name, version, blur::managerInterface, blur::version);
+}
+
+void forget(void*, wl_registry*, std::uint32_t) {
+    // A compositor that takes back what it offered ends.
+}
+
+void answerPing(void*, xdg_wm_base* shell, std::uint32_t serial) {
+    xdg_wm_base_pong(shell, serial);
+}
+
+void answerPings(xdg_wm_base* shell) {
+    static constexpr xdg_wm_base_listener listener{answerPing};
+    xdg_wm_base_add_listener(shell, &listener, nullptr);
+    // They come at any time.
+    wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(shell), nullptr);
+}
+
+Globals bindGlobals() {
+    Globals globals;
+    wl_display* connection = display();
+    if (!connection) return globals;
+    globals.queue = wl_display_create_queue(connection);
+    auto* wrapper = static_cast<wl_display*>(wl_proxy_create_wrapper(connection));
+    wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(wrapper), globals.queue);
+    wl_registry* registry = wl_display_get_registry(wrapper);
+    wl_proxy_wrapper_destroy(wrapper);
+    static constexpr wl_registry_listener listener{bindOffered, forget};
+    wl_registry_add_listener(registry, &listener, &globals);
+    wl_display_roundtrip_queue(connection, globals.queue);
+    wl_registry_destroy(registry);
+    if (globals.shell) answerPings(globals.shell);
+    return globals;
+}
+
+}  // namespace
+
+wl_display* display() {
+    QPlatformNativeInterface* native = toolkit();
+    return native ? static_cast<wl_display*>(native->nativeResourceForIntegration("wl_display"))
+                  : nullptr;
+}
+
+wl_surface* surface(QWindow& window) {
+    QPlatformNativeInterface* native = toolkit();
+    return native && window.handle()
+               ? static_cast<wl_surface*>(native->nativeResourceForWindow("surface", &window))
+               : nullptr;
+}
+
+wl_output* output(QScreen& screen) {
+    // The one that stands for no screen at all has no name, and is none of the compositor's.
+    QPlatformNativeInterface* native = toolkit();
+    return native && !screen.name().isEmpty()
+               ? static_cast<wl_output*>(native->nativeResourceForScreen("output", &screen))
+               : nullptr;
+}
+
+wl_seat* seat() {
+    QPlatformNativeInterface* native = toolkit();
+    return native ? static_cast<wl_seat*>(native->nativeResourceForIntegration("wl_seat"))
+                  : nullptr;
+}
+
+std::uint32_t lastInputSerial() {
+    QPlatformNativeInterface* native = toolkit();
+    const void* serial = native ? native->nativeResourceForIntegration("serial") : nullptr;
+    return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(serial));
+}
+
+const Globals& globals() {
+    static const Globals bound = bindGlobals();
+    return bound;
+}
+
+bool offersLayers() {
+    return globals().layerShell && globals().compositor && globals().shell;
+}
+
+std::unique_ptr<wl_region, RegionDeleter> makeRegion(const QRegion& region) {
+    std::unique_ptr<wl_region, RegionDeleter> made(
+        wl_compositor_create_region(globals().compositor));
+    for (const QRect& rect : region)
+        wl_region_add(made.get(), rect.x(), rect.y(), rect.width(), rect.height());
+    return made;
+}
+
+}  // namespace vantle::wayland

@@ -1,0 +1,19 @@
+#include "platform/wayland/PointerRelease.h"
+
+#include <qpa/qwindowsysteminterface.h>
+
+#include <QCursor>
+
+#include "platform/wayland/Connection.h"
+
+namespace vantle::wayland {
+
+void releaseLeftButton(QWindow& window) {
+    if (!display()) return;
+    const QPoint place = QCursor::pos();
+    QWindowSystemInterface::handleMouseEvent(&window, window.mapFromGlobal(place), place,
+                                             Qt::NoButton, Qt::LeftButton,
+                                             QEvent::MouseButtonRelease);
+}
+
+}  // namespace vantle::wayland

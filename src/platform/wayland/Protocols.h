@@ -1,0 +1,65 @@
+#pragma once
+
+#include <wayland-client.h>
+
+#include <cstdint>
+
+struct xdg_popup;
+
+/// The protocols of compositors that no package describes for programs in C++: their requests, as
+/// thin functions, and their events. Names and numbers are those of the protocols, versions the
+/// highest that is spoken here.
+namespace vantle::wayland {
+
+/// wlr-layer-shell: surfaces that stand above or below the ordinary windows, at edges of an output.
+namespace layershell {
+
+struct Shell;
+struct Surface;
+
+extern const wl_interface shellInterface;
+inline constexpr std::uint32_t version = 4;
+
+enum class Layer : std::uint32_t { overlay = 3 };
+enum Anchor : std::uint32_t { top = 1, bottom = 2, left = 4, right = 8, all = 15 };
+enum class Keyboard : std::uint32_t { none = 0, exclusive = 1 };
+
+/// Its requests, in the protocol's order.
+Surface* getLayerSurface(Shell* shell, wl_surface* surface, wl_output* output, Layer layer,
+                         const char* name);
+void setSize(Surface* surface, std::uint32_t width, std::uint32_t height);
+void setAnchor(Surface* surface, std::uint32_t anchors);
+void setMargin(Surface* surface, int top, int right, int bottom, int left);
+void setKeyboardInteractivity(Surface* surface, Keyboard keyboard);
+void getPopup(Surface* surface, xdg_popup* popup);
+void ackConfigure(Surface* surface, std::uint32_t serial);
+void destroy(Surface* surface);
+
+struct Listener {
+    void (*configure)(void* data, Surface* surface, std::uint32_t serial, std::uint32_t width,
+                      std::uint32_t height);
+    void (*closed)(void* data, Surface* surface);
+};
+
+void addListener(Surface* surface, const Listener* listener, void* data);
+
+}  // namespace layershell
+
+/// KDE's blur of what is behind a part of a surface.
+namespace blur {
+
+struct Manager;
+struct Blur;
+
+extern const wl_interface managerInterface;
+inline constexpr std::uint32_t version = 1;
+
+Blur* create(Manager* manager, wl_surface* surface);
+void unset(Manager* manager, wl_surface* surface);
+void commit(Blur* blur);
+void setRegion(Blur* blur, wl_region* region);
+void release(Blur* blur);
+
+}  // namespace blur
+
+}  // namespace vantle::wayland
