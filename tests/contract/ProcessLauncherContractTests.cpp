@@ -82,13 +82,17 @@ TYPED_TEST(ProcessLauncherContract, AProgramThatIsNotThereCannotBeStarted) {
 class PosixProcessLauncherTest : public testing::Test {
 protected:
     /// What a shell script, run with the folder as its working folder, leaves in the file "out".
-    std::string outputOf(const std::string& script) {
+    std::string outputOf(const std::string& script) { return outputOf(script, launcher); }
+
+    std::string outputOf(const std::string& script, PosixProcessLauncher& starter) {
         const Url file = folder / "out";
         const std::string whole =
             "cd '" + folder.url().path() + "'; { " + script + "; } >new; mv new out";
-        EXPECT_EQ(launcher.launch("/bin/sh", {"-c", whole}), std::nullopt);
+        EXPECT_EQ(starter.launch("/bin/sh", {"-c", whole}), std::nullopt);
         EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(file.path()); }));
-        return readText(file);
+        const std::string output = readText(file);
+        std::filesystem::remove(file.path());
+        return output;
     }
 
     TemporaryFolder folder;
@@ -100,6 +104,14 @@ TEST_F(PosixProcessLauncherTest, AFileThatIsNoProgramCannotBeStarted) {
     const auto failure = launcher.launch((folder / "text").path(), {});
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(failure->code, EACCES);
+}
+
+TEST_F(PosixProcessLauncherTest, VariablesThatAreItsOwnStayWithThisProgram) {
+    setenv("VANTLE_TEST_OWN", "own", 1);
+    setenv("VANTLE_TEST_OWN_TOO", "everybody's", 1);
+    PosixProcessLauncher discreet({"VANTLE_TEST_OWN"});
+    EXPECT_EQ(outputOf("echo $VANTLE_TEST_OWN, $VANTLE_TEST_OWN_TOO"), "own, everybody's\n");
+    EXPECT_EQ(outputOf("echo $VANTLE_TEST_OWN, $VANTLE_TEST_OWN_TOO", discreet), ", everybody's\n");
 }
 
 TEST_F(PosixProcessLauncherTest, NothingIsLeftBehindToCollect) {

@@ -5,8 +5,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <string_view>
 
 #include "support/FileDescriptor.h"
 #include "support/SystemFailure.h"
@@ -16,7 +18,8 @@ namespace {
 
 /// In the grandchild, which nobody waits for. Only what is safe after a fork of a process with
 /// threads. Ends in the new program, or tells `report` why it cannot.
-[[noreturn]] void execute(const char* executable, char* const* arguments, int report) {
+[[noreturn]] void execute(const char* executable, char* const* arguments, char* const* environment,
+                          int report) {
     const int null = open("/dev/null", O_RDWR);
     for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(null, standard);
     // Libraries open some without the mark that closes them here.
@@ -25,10 +28,22 @@ namespace {
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
-    execv(executable, arguments);
+    execve(executable, arguments, environment);
     const int error = errno;
     [[maybe_unused]] const auto written = write(report, &error, sizeof error);
     _exit(127);
+}
+
+/// Of this process, as the system hands it to another.
+std::vector<char*> environmentWithout(const std::vector<std::string>& withheld) {
+    std::vector<char*> variables;
+    for (char** variable = environ; *variable; ++variable) {
+        const std::string_view text = *variable;
+        if (std::ranges::find(withheld, text.substr(0, text.find('='))) == withheld.end())
+            variables.push_back(*variable);
+    }
+    variables.push_back(nullptr);
+    return variables;
 }
 
 }  // namespace
@@ -38,6 +53,8 @@ Outcome PosixProcessLauncher::launch(const std::string& executable,
     std::vector<char*> values{const_cast<char*>(executable.c_str())};
     for (const auto& argument : arguments) values.push_back(const_cast<char*>(argument.c_str()));
     values.push_back(nullptr);
+
+    std::vector<char*> variables = environmentWithout(withheld_);
 
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return systemFailure(errno, executable);
@@ -49,7 +66,8 @@ Outcome PosixProcessLauncher::launch(const std::string& executable,
         setsid();
         // The middle process ends at once: the system adopts the program and collects it.
         const pid_t grandchild = fork();
-        if (grandchild == 0) execute(executable.c_str(), values.data(), report.get());
+        if (grandchild == 0)
+            execute(executable.c_str(), values.data(), variables.data(), report.get());
         const int error = grandchild < 0 ? errno : 0;
         if (error != 0) [[maybe_unused]]
             const auto written = write(report.get(), &error, sizeof error);

@@ -1,13 +1,22 @@
 #pragma once
 
+#include <utility>
+
 #include "platform/ProcessLauncher.h"
 
 namespace vantle {
 
 class PosixProcessLauncher final : public ProcessLauncher {
 public:
+    /// Programs get the environment of this one, without the variables that are named here.
+    explicit PosixProcessLauncher(std::vector<std::string> withheld = {})
+        : withheld_(std::move(withheld)) {}
+
     Outcome launch(const std::string& executable,
                    const std::vector<std::string>& arguments) override;
+
+private:
+    const std::vector<std::string> withheld_;
 };
 
 }  // namespace vantle
