@@ -76,6 +76,8 @@ Result<std::string> AppDelegate::status(const std::vector<std::string>& argument
         {"state", state},
         {"folder", placeOf(settings_.screenshotFolder.value(), *platform_.files, paths)},
         {"captures", std::to_string(panel_->state().captures.value().size())}};
+    if (!isVerbose && platform_.displayServer)
+        facts.push_back({"display server", platform_.displayServer()});
     if (!isVerbose) return reportLines(facts);
     facts.push_back({"folder from", settings_.screenshotFolderOrigin()});
     facts.push_back(settingsFact(settings_));

@@ -67,6 +67,9 @@ struct Platform {
     std::function<std::unique_ptr<Updater>(Platform& platform, UpdaterObserver& observer)>
         makeUpdater;
 
+    /// By what the program is shown, in a few words; not set where there is only one way.
+    std::function<std::string()> displayServer;
+
     /// What surrounds the program, for reports of faults; empty where there is nothing to tell.
     /// Asks others, so it may take a moment. Names no path.
     std::function<std::vector<Fact>()> surroundings;

@@ -91,6 +91,8 @@ TEST_F(RequestTest, TellsWhatItIsDoing) {
     save("shot.png");
     EXPECT_EQ(ask("status"), "version: " + std::string(version) +
                                  "\nstate: watching\nfolder: /home/user/Desktop\ncaptures: 1");
+    platform.displayServer = [] { return "a window system"; };
+    EXPECT_THAT(ask("status"), HasSubstr("\ncaptures: 1\ndisplay server: a window system"));
     ask("pause");
     EXPECT_THAT(ask("status"), HasSubstr("state: paused"));
     ask("resume");
