@@ -46,6 +46,7 @@
 #include "platform/qt/sharing/MailSharing.h"
 #include "platform/qt/sharing/SharingSources.h"
 #include "platform/qt/tray/TrayStatusItem.h"
+#include "platform/wayland/ServerChoice.h"
 #include "screens/views/AlertWindow.h"
 #include "screens/views/UpdateWindow.h"
 #include "support/SystemLog.h"
@@ -94,7 +95,7 @@ std::unique_ptr<TrayStatusItem> makeStatusItem() {
     const auto window = std::make_shared<std::unique_ptr<MenuWindow>>();
     const auto open = [window](const Menu& menu, const QRect& anchor) {
         if (!*window) *window = std::make_unique<MenuWindow>();
-        (*window)->open(menu, anchor);
+        (*window)->open(menu, {anchor});
     };
     // A window of X cannot hold the pointer there.
     const bool isWayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
@@ -115,6 +116,7 @@ std::vector<Fact> surroundings(const Environment& environment, const TrayStatusI
 /// What the program says of itself, outside the panel.
 void addShell(Platform& platform) {
     auto statusItem = makeStatusItem();
+    platform.displayServer = displayServer;
     platform.surroundings = [environment = platform.environment, &item = *statusItem] {
         return surroundings(environment, item);
     };
@@ -190,7 +192,7 @@ Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures,
     platform.screenshotPreferences = makeScreenshotPreferences(
         platform.environment, *platform.defaults,
         own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));
-    platform.launcher = std::make_unique<PosixProcessLauncher>();
+    platform.launcher = std::make_unique<PosixProcessLauncher>(wayland::ownVariables());
     platform.loginItem = makeLoginItem(platform.environment);
     platform.screens = std::make_unique<QtScreens>();
     platform.application = std::make_unique<DBusApplication>(programIdentifier, launch);

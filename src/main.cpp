@@ -19,6 +19,7 @@
 #include "platform/qt/DBusApplication.h"
 #include "platform/qt/UnixSignals.h"
 #include "platform/qt/translations/Translations.h"
+#include "platform/wayland/ServerChoice.h"
 #include "screens/views/OnboardingWindow.h"
 #include "screens/views/SettingsWindow.h"
 #include "support/SystemLog.h"
@@ -33,22 +34,6 @@ PanelModel::Rendering rendering(const Platform& platform) {
     return platform.environment("VANTLE_RENDER_PLAIN") ? PanelModel::Rendering::plain
                                                        : PanelModel::Rendering::glass;
 }
-
-/// A window cannot choose its place on native Wayland: X11 comes first where both answer. Only for
-/// this program, not for those that it starts.
-class X11Preference {
-public:
-    X11Preference() {
-        if (!wasChosen_) qputenv(variable, "xcb;wayland");
-    }
-    ~X11Preference() {
-        if (!wasChosen_) qunsetenv(variable);
-    }
-
-private:
-    static constexpr auto variable = "QT_QPA_PLATFORM";
-    const bool wasChosen_ = qEnvironmentVariableIsSet(variable);
-};
 
 /// Pictures come and go in many sizes. Where the allocator keeps their room for later, as it begins
 /// to after the first large one, forty captures cost a fifth more.
@@ -90,7 +75,7 @@ int ask(int& argc, char** argv, const ApplicationRequest& request) {
 }
 
 QGuiApplication makeApplication(int& argc, char** argv) {
-    const X11Preference preference;
+    const wayland::ServerChoice choice;
     return QGuiApplication(argc, argv);
 }
 

@@ -54,7 +54,7 @@ void MenuSharingServicePicker::open(const std::shared_ptr<Request>& request,
         menu.items.push_back({offer.perform ? MenuItem::Kind::action : MenuItem::Kind::separator,
                               offer.title, offer.symbol});
     if (!window_) window_ = std::make_unique<MenuWindow>();
-    window_->open(menu, fromScreenCoordinates(request->anchor),
+    window_->open(menu, {fromScreenCoordinates(request->anchor)},
                   [request](std::optional<int> chosen) { end(*request, chosen); });
 }
 

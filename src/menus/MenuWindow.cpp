@@ -12,6 +12,10 @@
 #include "menus/MenuPictureProvider.h"
 #include "panel/views/RoundedShape.h"
 #include "platform/qt/InputRegion.h"
+#include "platform/qt/QtGeometry.h"
+#include "platform/wayland/Connection.h"
+#include "platform/wayland/Outputs.h"
+#include "platform/wayland/PopupSurface.h"
 
 Q_IMPORT_QML_PLUGIN(Vantle_MenusPlugin)
 
@@ -21,16 +25,9 @@ namespace {
 constexpr int gap = 4;   // points between the menu and what it points to
 constexpr int edge = 6;  // points between the menu and the sides of the screen
 
-const QScreen& screenAt(const QRect& anchor) {
-    const QScreen* screen = QGuiApplication::screenAt(anchor.center());
-    return screen ? *screen : *QGuiApplication::primaryScreen();
-}
-
 }  // namespace
 
-MenuWindow::MenuWindow() {
-    // No popup: assistive programs are not told of those.
-    setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+MenuWindow::MenuWindow() : overlay_(*this, Overlay::Focus::accepted) {
     setResizeMode(QQuickView::SizeViewToRootObject);
     engine()->addImageProvider(QStringLiteral("menu"), new MenuPictureProvider(model_));
     load(QStringLiteral("Menus/MenuView.qml"),
@@ -42,14 +39,53 @@ MenuWindow::~MenuWindow() {
     unload();
 }
 
-void MenuWindow::open(const Menu& menu, const QRect& anchor, Ended ended) {
+void MenuWindow::open(const Menu& menu, const Anchor& anchor, Ended ended) {
     end(std::nullopt);
     ended_ = std::move(ended);
     model_.setMenu(menu);
     model_.setCurrent(menu.current);
-    place(anchor);
+    resize(rootObject()->size().toSize());
+    const QRect frame = frameFor(anchor.frame);
+    cutOut();
+    if (anchor.window && wayland::display()) return showOver(*anchor.window, frame);
+    if (Overlay* host = Overlay::onLayerAt(anchor.frame.center()))
+        return showOnLayer(*host, anchor.frame);
+    overlay_.setFrame(frame);
+    overlay_.show();
+}
+
+void MenuWindow::showOver(QWindow& window, const QRect& frame) {
+    // Where that window is only the compositor knows: it places the menu, and holds the pointer.
+    setFlags(Qt::Popup | Qt::FramelessWindowHint);
+    setTransientParent(&window);
+    readKeysOf(window);
+    setGeometry(frame);
     show();
-    raise();
+}
+
+void MenuWindow::showOnLayer(Overlay& host, const QRect& anchor) {
+    setScreen(host.window().screen());
+    create();
+    const QRect inHost = anchor.translated(-host.window().position());
+    keyboard_ = host.borrowKeyboard();
+    popup_ = std::make_unique<wayland::PopupSurface>(
+        wayland::surface(*this), host.layer(),
+        wayland::PopupSurface::Place{.anchor = inHost,
+                                     .kept = plate().marginsAdded({edge, 0, edge, 0}),
+                                     .offset = {-edge, gap}});
+    const auto close = [this] { closeMenu(); };
+    popup_->onDismissed = [this, close] {
+        QMetaObject::invokeMethod(this, close, Qt::QueuedConnection);
+    };
+    hostEnds_ = connect(&host, &Overlay::hiding, this, close);
+    readKeysOf(host.window());
+    show();
+    if (popup_->isDismissed()) popup_->onDismissed();
+}
+
+void MenuWindow::readKeysOf(QWindow& window) {
+    keySource_ = &window;
+    window.installEventFilter(this);
 }
 
 QRect MenuWindow::plate() const {
@@ -57,27 +93,42 @@ QRect MenuWindow::plate() const {
     return QRect(QPoint(), size()).marginsRemoved({margin, margin, margin, margin});
 }
 
-void MenuWindow::place(const QRect& anchor) {
-    resize(rootObject()->size().toSize());
+QRect MenuWindow::frameFor(const QRect& anchor) const {
     const QRect shown = plate();
-    const QRect room = screenAt(anchor).availableGeometry();
+    const QRect room = wayland::usableArea(screenAt(anchor.center()));
     const int below = anchor.bottom() + 1 + gap;
     const int above = anchor.top() - gap - shown.height();
     const int y = below + shown.height() <= room.bottom() + 1 ? below : above;
     const int lowest = room.bottom() + 1 - shown.height();
     const int rightmost = room.right() + 1 - edge - shown.width();
     const int x = std::max(room.left() + edge, std::min(anchor.left(), rightmost));
-    setPosition(QPoint(x, std::max(room.top(), std::min(y, lowest))) - shown.topLeft());
+    return {QPoint(x, std::max(room.top(), std::min(y, lowest))) - shown.topLeft(), size()};
+}
+
+void MenuWindow::cutOut() {
     // Where nothing shines through there is no shadow.
     const double radius = rootObject()->property("cornerRadius").toReal();
     setMask(compositorIsRunning()
                 ? QRegion()
-                : QRegion(continuousRoundedRect(shown, radius).toFillPolygon().toPolygon()));
+                : QRegion(continuousRoundedRect(plate(), radius).toFillPolygon().toPolygon()));
 }
 
 void MenuWindow::grab() {
+    // There the compositor does it.
+    if (wayland::display()) return;
     setMouseGrabEnabled(true);
     setKeyboardGrabEnabled(true);
+}
+
+void MenuWindow::letGo() {
+    if (keySource_) keySource_->removeEventFilter(this);
+    keySource_ = nullptr;
+    disconnect(hostEnds_);
+    keyboard_.reset();
+    popup_.reset();
+    if (wayland::display()) return;
+    setMouseGrabEnabled(false);
+    setKeyboardGrabEnabled(false);
 }
 
 bool MenuWindow::event(QEvent* event) {
@@ -103,6 +154,12 @@ bool MenuWindow::event(QEvent* event) {
             break;
     }
     return QQuickView::event(event);
+}
+
+bool MenuWindow::eventFilter(QObject* watched, QEvent* event) {
+    const bool isKey = event->type() == QEvent::KeyPress;
+    return (isKey && ended_ && handleKey(*static_cast<QKeyEvent*>(event))) ||
+           QQuickView::eventFilter(watched, event);
 }
 
 bool MenuWindow::handleKey(const QKeyEvent& event) {
@@ -144,9 +201,10 @@ bool MenuWindow::chooseByKey(int key) {
 void MenuWindow::end(std::optional<int> chosen) {
     const auto ended = std::exchange(ended_, nullptr);
     if (!ended) return;
-    setMouseGrabEnabled(false);
-    setKeyboardGrabEnabled(false);
-    hide();
+    letGo();
+    overlay_.hide();
+    // A surface has its role for good.
+    if (wayland::display()) destroy();
     // What is done may open the menu again.
     const auto action = chosen ? model_.item(*chosen).action : nullptr;
     ended(chosen);

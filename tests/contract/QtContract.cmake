@@ -24,6 +24,7 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/QtContractMain.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SchedulerContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ScreensContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ServerChoiceTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SettingsPortal.h
   ${CMAKE_CURRENT_LIST_DIR}/SharingServices.h
   ${CMAKE_CURRENT_LIST_DIR}/SharingSourceTests.cpp

@@ -17,7 +17,7 @@ const MenuItem rule{MenuItem::Kind::separator, "", ""};
 class MenuTest : public testing::Test {
 protected:
     void open(const std::vector<MenuItem>& lines, const QRect& anchor = {300, 200, 28, 28}) {
-        window.open({"Menu", lines}, anchor, [this](std::optional<int> line) {
+        window.open({"Menu", lines}, {anchor}, [this](std::optional<int> line) {
             ++timesEnded;
             chosen = line;
         });
@@ -152,7 +152,7 @@ TEST_F(MenuTest, WhatALineDoesIsDoneOnceTheMenuHasClosed) {
     window.open({"Menu",
                  {{.title = "One",
                    .action = [&] { told.push_back(window.isVisible() ? "open" : "closed"); }}}},
-                {300, 200, 1, 1}, [&](auto) { told.emplace_back("ended"); });
+                {{300, 200, 1, 1}}, [&](auto) { told.emplace_back("ended"); });
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     EXPECT_EQ(told, (std::vector<std::string>{"ended", "closed"}));

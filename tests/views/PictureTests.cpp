@@ -54,7 +54,7 @@ QImage drawnMenu() {
                      {.kind = MenuItem::Kind::separator},
                      {.title = "Copy file", .symbol = "doc.on.doc"},
                      {.title = "Reveal", .symbol = "folder"}}};
-    window.open(menu, {20, 20, 28, 28}, [](auto) {});
+    window.open(menu, {{20, 20, 28, 28}}, [](auto) {});
     QTest::keyClick(&window, Qt::Key_End);
     QTest::keyClick(&window, Qt::Key_Up);
     return window.grabWindow();
@@ -72,7 +72,7 @@ QImage drawnStatusMenu() {
             capture("Portrait", {1000, 2000}), capture("Recording", {1280, 720})};
     };
     MenuWindow window;
-    window.open(controller.menuNeedsUpdate(), {20, 20, 24, 24});
+    window.open(controller.menuNeedsUpdate(), {{20, 20, 24, 24}});
     QTest::keyClick(&window, Qt::Key_Down);
     return window.grabWindow();
 }

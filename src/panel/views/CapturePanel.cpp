@@ -15,11 +15,6 @@
 namespace vantle {
 namespace {
 
-// A window that its manager does not manage: only that keeps the focus where it is when it is
-// clicked, and stands on every workspace and above full-screen windows.
-constexpr auto windowFlags =
-    Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus;
-
 const QSize windowSize(static_cast<int>(CardLayout::windowSize.width),
                        static_cast<int>(CardLayout::windowSize.height));
 
@@ -57,7 +52,7 @@ const QQuickItem* rowOf(const QQuickItem& thumbnail) {
 
 CapturePanel::CapturePanel(PanelModel::Context context) : model_(std::move(context)) {
     view_ = makeView();
-    view_->setFlags(windowFlags);
+    overlay_ = std::make_unique<Overlay>(*view_);
     view_->onMarquee = [this](const auto& rect) {
         if (onMarquee) onMarquee(rect);
     };
@@ -65,7 +60,6 @@ CapturePanel::CapturePanel(PanelModel::Context context) : model_(std::move(conte
         if (onBackgroundClick) onBackgroundClick();
     };
     container_ = std::make_unique<PassthroughContainerView>(*view_);
-    keyboard_ = std::make_unique<KeyboardFocus>(*view_);
     QObject::connect(&model_, &PanelModel::isPresentedChanged, view_.get(),
                      [this] { letGoOfKeyboard(); });
 }
@@ -85,17 +79,16 @@ std::unique_ptr<FirstMouseHostingView> CapturePanel::makeView() {
 }
 
 void CapturePanel::setFrame(const Rect& frame) {
-    view_->setGeometry(fromScreenCoordinates(frame));
+    overlay_->setFrame(fromScreenCoordinates(frame));
 }
 
 void CapturePanel::orderFrontRegardless() {
     model_.readCorner();
-    view_->show();
-    view_->raise();
+    overlay_->show();
 }
 
 void CapturePanel::orderOut() {
-    view_->hide();
+    overlay_->hide();
     model_.cardHasLeft();
 }
 
@@ -108,12 +101,12 @@ Rect CapturePanel::onScreen(const Rect& inContent) const {
 
 void CapturePanel::takeKeyboard() {
     if (!view_->isExposed()) return;
-    keyboard_->take();
+    overlay_->takeKeyboard();
     QMetaObject::invokeMethod(view_->rootObject(), "focusNewest");
 }
 
 void CapturePanel::letGoOfKeyboard() {
-    if (!model_.isPresented()) keyboard_->giveBack();
+    if (!model_.isPresented()) overlay_->giveBackKeyboard();
 }
 
 std::optional<std::string> CapturePanel::glassFrameDescription() const {

@@ -6,7 +6,7 @@
 #include "panel/views/PanelModel.h"
 #include "panel/views/PassthroughContainerView.h"
 #include "platform/PanelWindow.h"
-#include "platform/qt/KeyboardFocus.h"
+#include "platform/qt/Overlay.h"
 
 namespace vantle {
 
@@ -37,7 +37,7 @@ private:
     PanelModel model_;
     std::unique_ptr<FirstMouseHostingView> view_;
     std::unique_ptr<PassthroughContainerView> container_;
-    std::unique_ptr<KeyboardFocus> keyboard_;
+    std::unique_ptr<Overlay> overlay_;
 };
 
 }  // namespace vantle

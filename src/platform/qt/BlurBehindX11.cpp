@@ -6,6 +6,7 @@
 
 #include "platform/qt/BlurBehind.h"
 #include "platform/qt/X11.h"
+#include "platform/wayland/SurfaceRegions.h"
 
 namespace vantle {
 namespace {
@@ -16,7 +17,7 @@ constexpr auto property = "_KDE_NET_WM_BLUR_BEHIND_REGION";
 
 bool blurBehindIsOffered() {
     xcb_connection_t* x = x11::connection();
-    if (!x) return false;
+    if (!x) return wayland::offersBlur();
     const auto reply =
         x11::owned(xcb_list_properties_reply(x, xcb_list_properties(x, x11::root()), nullptr));
     if (!reply) return false;
@@ -27,7 +28,7 @@ bool blurBehindIsOffered() {
 
 void setBlurBehind(QWindow& window, const QRegion& region) {
     xcb_connection_t* x = x11::connection();
-    if (!x) return;
+    if (!x) return wayland::setBlurBehind(window, region);
     // An empty list would mean the whole window.
     if (region.isEmpty()) {
         xcb_delete_property(x, x11::number(window), x11::atom(property));

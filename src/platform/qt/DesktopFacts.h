@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "platform/Fact.h"
@@ -10,8 +11,11 @@ namespace vantle {
 /// object.
 std::vector<Fact> desktopFacts();
 
-/// The display server, who manages the windows, and who composes them. What is not X is only
-/// named.
+/// By which display server the program is shown, in a few words; where that is not the one of the
+/// session, why.
+std::string displayServer();
+
+/// The display server, who manages the windows, and who composes them, as far as each tells.
 std::vector<Fact> displayServerFacts();
 
 }  // namespace vantle

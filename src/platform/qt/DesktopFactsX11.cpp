@@ -10,6 +10,8 @@
 #include "platform/qt/BlurBehind.h"
 #include "platform/qt/DesktopFacts.h"
 #include "platform/qt/X11.h"
+#include "platform/wayland/Connection.h"
+#include "platform/wayland/ServerChoice.h"
 
 namespace vantle {
 namespace {
@@ -60,19 +62,34 @@ std::string server() {
     const xcb_setup_t* setup = xcb_get_setup(x11::connection());
     const std::string vendor(xcb_setup_vendor(setup),
                              static_cast<std::size_t>(xcb_setup_vendor_length(setup)));
-    return (isWayland() ? "X11 through XWayland, " : "X11, ") + vendor + " " +
-           std::to_string(setup->release_number);
+    return vendor + " " + std::to_string(setup->release_number);
+}
+
+Fact blurFact() {
+    return {"blur behind windows", blurBehindIsOffered() ? "offered" : "not offered"};
 }
 
 }  // namespace
 
+std::string displayServer() {
+    if (x11::connection()) {
+        if (!isWayland()) return "X11";
+        const bool isNeeded = wayland::askCompositor() == wayland::Offer::windows;
+        return isNeeded ? "X11 through XWayland: the compositor offers no layer-shell"
+                        : "X11 through XWayland";
+    }
+    if (!wayland::display()) return QGuiApplication::platformName().toStdString();
+    return wayland::offersLayers()
+               ? "Wayland"
+               : "Wayland: the compositor offers no layer-shell, and so no place";
+}
+
 std::vector<Fact> displayServerFacts() {
-    if (!x11::connection())
-        return {{"display server", QGuiApplication::platformName().toStdString()}};
-    return {{"display server", server()},
+    if (!x11::connection()) return {{"display server", displayServer()}, blurFact()};
+    return {{"display server", displayServer() + ", " + server()},
             {"window manager", windowManager()},
             {"compositor", isComposited() ? "yes" : "none"},
-            {"blur behind windows", blurBehindIsOffered() ? "offered" : "not offered"}};
+            blurFact()};
 }
 
 }  // namespace vantle

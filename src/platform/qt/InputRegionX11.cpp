@@ -2,15 +2,13 @@
 
 #include "platform/qt/InputRegion.h"
 #include "platform/qt/X11.h"
+#include "platform/wayland/SurfaceRegions.h"
 
 namespace vantle {
 
 void setInputRegion(QWindow& window, const QRegion& region) {
     xcb_connection_t* x = x11::connection();
-    if (!x) {
-        window.setMask(region);  // on Wayland this is the input region alone
-        return;
-    }
+    if (!x) return wayland::setInputRegion(window, region);
     const auto rectangles = x11::inPixels(region, window.devicePixelRatio());
     xcb_shape_rectangles(x, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
                          x11::number(window), 0, 0, static_cast<uint32_t>(rectangles.size()),

@@ -55,4 +55,9 @@ QRect primaryScreenGeometry() {
     return primary ? primary->geometry() : QRect();
 }
 
+QScreen& screenAt(const QPoint& place) {
+    QScreen* screen = QGuiApplication::screenAt(place);
+    return screen ? *screen : *QGuiApplication::primaryScreen();
+}
+
 }  // namespace vantle

@@ -2,6 +2,7 @@
 
 #include <QPoint>
 #include <QRect>
+#include <QScreen>
 
 #include "support/Geometry.h"
 
@@ -23,5 +24,8 @@ QPoint fromPixels(const QPoint& pixel);
 
 /// Where the primary screen stands in Qt's coordinates; empty while there is none.
 QRect primaryScreenGeometry();
+
+/// On which that place is, else the primary one. There is one. Main thread only.
+QScreen& screenAt(const QPoint& place);
 
 }  // namespace vantle

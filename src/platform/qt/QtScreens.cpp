@@ -6,31 +6,35 @@
 #include <QWindow>
 
 #include "platform/qt/QtGeometry.h"
+#include "platform/wayland/Outputs.h"
 
 namespace vantle {
 namespace {
 
-Screen converted(const QScreen& screen) {
+Screen converted(QScreen& screen) {
     return {toScreenCoordinates(screen.geometry(), primaryScreenGeometry()),
-            toScreenCoordinates(screen.availableGeometry(), primaryScreenGeometry())};
+            toScreenCoordinates(wayland::usableArea(screen), primaryScreenGeometry())};
 }
 
 }  // namespace
 
 std::vector<Screen> QtScreens::all() const {
     std::vector<Screen> screens;
-    for (const QScreen* screen : QGuiApplication::screens()) screens.push_back(converted(*screen));
+    for (QScreen* screen : QGuiApplication::screens()) screens.push_back(converted(*screen));
     return screens;
 }
 
 std::optional<Screen> QtScreens::main() const {
     const QWindow* focused = QGuiApplication::focusWindow();
-    const QScreen* screen = focused ? focused->screen() : QGuiApplication::primaryScreen();
+    QScreen* screen = focused ? focused->screen() : QGuiApplication::primaryScreen();
     return screen ? std::optional(converted(*screen)) : std::nullopt;
 }
 
 Point QtScreens::pointerLocation() const {
-    return toScreenCoordinates(QCursor::pos(), primaryScreenGeometry());
+    // A Wayland compositor tells where the pointer is only while it is over a window of ours.
+    const QScreen* focused = wayland::focusedScreen();
+    const QPoint place = focused ? focused->geometry().center() : QCursor::pos();
+    return toScreenCoordinates(place, primaryScreenGeometry());
 }
 
 }  // namespace vantle

@@ -137,7 +137,7 @@ Menu SettingsModel::cornerMenu() {
 
 void SettingsModel::open(const Menu& menu, const QQuickItem& button) {
     if (!menu_) menu_ = std::make_unique<MenuWindow>();
-    menu_->open(menu, onScreen(button));
+    menu_->open(menu, {onScreen(button), button.window()});
 }
 
 void SettingsModel::showSample() {

@@ -1,46 +1,100 @@
 #include "panel/views/dragging/FlyBack.h"
 
+#include <QCursor>
 #include <QEasingCurve>
+#include <QEnterEvent>
+#include <QGuiApplication>
 #include <QPainter>
+#include <QScreen>
 #include <utility>
+
+#include "platform/qt/InputRegion.h"
+#include "platform/qt/QtGeometry.h"
+#include "platform/wayland/Connection.h"
+#include "platform/wayland/Outputs.h"
 
 namespace vantle {
 namespace {
 
-constexpr int duration = 280;  // milliseconds
+constexpr int duration = 280;         // milliseconds
+constexpr int pointerPatience = 200;  // milliseconds
 
 }  // namespace
 
-void FlyBack::start(const QImage& picture, const QPoint& from, const QPoint& to) {
-    auto* window = new FlyBack(picture, from, to);
-    window->show();
-    window->flight_.start();
+void FlyBack::start(const QImage& picture, const QPoint& hotSpot, const QPoint& destination) {
+    const bool isAskable = wayland::display() == nullptr;
+    // Without layers nothing can be placed where the picture is.
+    if (!isAskable && !wayland::offersLayers()) return;
+    auto* window = new FlyBack(picture);
+    window->flight_.setEndValue(destination);
+    if (isAskable)
+        window->flyFrom(QCursor::pos() - hotSpot);
+    else
+        window->waitForPointer(hotSpot);
 }
 
-FlyBack::FlyBack(QImage picture, const QPoint& from, const QPoint& to)
-    : picture_(std::move(picture)) {
-    setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
-             Qt::WindowDoesNotAcceptFocus | Qt::WindowTransparentForInput);
+FlyBack::FlyBack(QImage picture)
+    : picture_(std::move(picture)),
+      size_((QSizeF(picture_.size()) / picture_.devicePixelRatio()).toSize()),
+      overlay_(*this) {
     QSurfaceFormat format = requestedFormat();
     format.setAlphaBufferSize(8);
     setFormat(format);
-    resize((QSizeF(picture_.size()) / picture_.devicePixelRatio()).toSize());
-    setPosition(from);
-    flight_.setStartValue(from);
-    flight_.setEndValue(to);
     flight_.setDuration(duration);
     flight_.setEasingCurve(QEasingCurve::OutCubic);
     connect(&flight_, &QVariantAnimation::valueChanged, this,
-            [this](const QVariant& place) { setPosition(place.toPoint()); });
+            [this](const QVariant& place) { moveTo(place.toPoint()); });
     connect(&flight_, &QVariantAnimation::finished, this, &QObject::deleteLater);
+    patience_.setSingleShot(true);
+    connect(&patience_, &QTimer::timeout, this, &QObject::deleteLater);
 }
 
-void FlyBack::paintEvent(QPaintEvent*) {
+void FlyBack::flyFrom(const QPoint& place) {
+    setFlag(Qt::WindowTransparentForInput);
+    overlay_.setFrame({place, size_});
+    overlay_.show();
+    flight_.setStartValue(place);
+    flight_.start();
+}
+
+void FlyBack::waitForPointer(const QPoint& hotSpot) {
+    hotSpot_ = hotSpot;
+    coversScreen_ = true;
+    patience_.start(pointerPatience);
+    overlay_.setFrame(wayland::usableArea(screenAt(flight_.endValue().toPoint())));
+    overlay_.show();
+}
+
+bool FlyBack::event(QEvent* event) {
+    if (event->type() == QEvent::Enter && patience_.isActive()) {
+        patience_.stop();
+        setInputRegion(*this, {});
+        const auto& enter = static_cast<const QEnterEvent&>(*event);
+        place_ = position() + enter.position().toPoint() - hotSpot_;
+        flight_.setStartValue(place_);
+        flight_.start();
+    }
+    return QRasterWindow::event(event);
+}
+
+void FlyBack::moveTo(const QPoint& place) {
+    const QRect before = pictureFrame();
+    place_ = place;
+    if (coversScreen_)
+        update(QRegion(before) | pictureFrame());
+    else
+        setPosition(place);
+}
+
+void FlyBack::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(QRect(QPoint(), size()), Qt::transparent);
+    painter.fillRect(event->rect(), Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.drawImage(0, 0, picture_);
+    if (!coversScreen_)
+        painter.drawImage(0, 0, picture_);
+    else if (flight_.state() == QAbstractAnimation::Running)
+        painter.drawImage(pictureFrame().topLeft(), picture_);
 }
 
 }  // namespace vantle

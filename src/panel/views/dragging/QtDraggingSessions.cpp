@@ -1,6 +1,5 @@
 #include "panel/views/dragging/QtDraggingSessions.h"
 
-#include <QCursor>
 #include <QDrag>
 #include <QPixmap>
 #include <QPointer>
@@ -14,6 +13,7 @@
 #include "platform/qt/DropAnswer.h"
 #include "platform/qt/FileMimeData.h"
 #include "platform/qt/InputRegion.h"
+#include "platform/wayland/PointerRelease.h"
 
 namespace vantle {
 namespace {
@@ -48,8 +48,10 @@ public:
         // Without the keyboard Escape would go to the window that has it.
         window_->setKeyboardGrabEnabled(true);
         const Qt::DropAction action = drag->exec(Qt::CopyAction);
-        if (window_) window_->setKeyboardGrabEnabled(false);
-        end_ = QCursor::pos() - hotSpot_;
+        if (window_) {
+            window_->setKeyboardGrabEnabled(false);
+            wayland::releaseLeftButton(*window_);
+        }
         if (action == Qt::IgnoreAction)
             finish(DragOperation::none);
         else
@@ -68,7 +70,7 @@ private:
 
     void finish(DragOperation operation) {
         if (operation == DragOperation::none && !Appearance().reducesMotion())
-            FlyBack::start(pile_.picture, end_, start_);
+            FlyBack::start(pile_.picture, hotSpot_, start_);
         ended_(operation);
         deleteLater();
     }
@@ -80,7 +82,6 @@ private:
     const QPoint hotSpot_;
     const DraggingSessions::Ended ended_;
     DropAnswer answer_;
-    QPoint end_;
 };
 
 }  // namespace

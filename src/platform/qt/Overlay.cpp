@@ -1,0 +1,171 @@
+#include "platform/qt/Overlay.h"
+
+#include <QGuiApplication>
+#include <QPointer>
+#include <QScreen>
+#include <algorithm>
+#include <vector>
+
+#include "platform/qt/QtGeometry.h"
+#include "platform/wayland/LayerSurface.h"
+#include "platform/wayland/Outputs.h"
+
+namespace vantle {
+namespace {
+
+namespace layershell = wayland::layershell;
+
+Qt::WindowFlags flags(Overlay::Focus focus) {
+    // A window that its manager does not manage: only that keeps the focus where it is when it is
+    // clicked, and stands on every workspace and above full-screen windows. No popup: assistive
+    // programs are not told of those.
+    Qt::WindowFlags flags = Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
+    if (focus == Overlay::Focus::refused) flags |= Qt::WindowDoesNotAcceptFocus;
+    if (wayland::offersLayers()) flags |= Qt::BypassWindowManagerHint;
+    return flags;
+}
+
+/// How far it is from each edge of the area.
+QMargins distances(const QRect& frame, const QRect& area) {
+    return {frame.left() - area.left(), frame.top() - area.top(), area.right() - frame.right(),
+            area.bottom() - frame.bottom()};
+}
+
+bool isNearRight(const QMargins& distances) {
+    return distances.right() < distances.left();
+}
+
+bool isNearBottom(const QMargins& distances) {
+    return distances.bottom() < distances.top();
+}
+
+/// Held by the nearer edges: there it stays when the desktop's panels come and go.
+wayland::LayerSurface::Place placeIn(const QRect& area, const QRect& frame, QScreen& screen) {
+    const QMargins margins = distances(frame, area);
+    const auto horizontal = isNearRight(margins) ? layershell::right : layershell::left;
+    const auto vertical = isNearBottom(margins) ? layershell::bottom : layershell::top;
+    return {.output = wayland::output(screen),
+            .anchors = std::uint32_t{horizontal} | std::uint32_t{vertical},
+            .margins = margins,
+            .size = frame.size()};
+}
+
+/// As far from the same edges of another area.
+QRect moved(const QRect& frame, const QRect& from, const QRect& to) {
+    const QMargins margins = distances(frame, from);
+    QRect there(to.topLeft() + QPoint(margins.left(), margins.top()), frame.size());
+    if (isNearRight(margins)) there.moveRight(to.right() - margins.right());
+    if (isNearBottom(margins)) there.moveBottom(to.bottom() - margins.bottom());
+    return there;
+}
+
+std::vector<Overlay*>& all() {
+    static std::vector<Overlay*> overlays;
+    return overlays;
+}
+
+}  // namespace
+
+Overlay::Overlay(QWindow& window, Focus focus) : window_(window), keyboard_(window) {
+    all().push_back(this);
+    window.setFlags(flags(focus));
+    for (const auto signal : {&QGuiApplication::screenAdded, &QGuiApplication::screenRemoved})
+        connect(qGuiApp, signal, this, &Overlay::showOnRemainingScreen, Qt::QueuedConnection);
+}
+
+Overlay::~Overlay() {
+    std::erase(all(), this);
+}
+
+Overlay* Overlay::onLayerAt(const QPoint& place) {
+    const auto found = std::ranges::find_if(all(), [&place](const Overlay* overlay) {
+        return overlay->layer_ && overlay->frame_.contains(place);
+    });
+    return found == all().end() ? nullptr : *found;
+}
+
+void Overlay::setFrame(const QRect& frame) {
+    frame_ = frame;
+    window_.setGeometry(frame);
+}
+
+void Overlay::show() {
+    lostScreen_ = false;
+    if (wayland::offersLayers()) return showOnLayer();
+    window_.show();
+    window_.raise();
+}
+
+void Overlay::showOnLayer() {
+    QScreen& screen = screenAt(frame_.center());
+    area_ = wayland::usableArea(screen);
+    const auto place = placeIn(area_, frame_, screen);
+    if (layer_ && window_.screen() == &screen) return layer_->move(place);
+    hide();
+    window_.setScreen(&screen);
+    window_.setGeometry(frame_);
+    window_.create();
+    layer_ = std::make_unique<wayland::LayerSurface>(wayland::surface(window_), place);
+    layer_->onClosed = [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { closed(); }, Qt::QueuedConnection);
+    };
+    if (layer_->size().isEmpty())
+        closed();
+    else
+        window_.show();
+}
+
+void Overlay::hide() {
+    lostScreen_ = false;
+    emit hiding();
+    // A surface has its role for good; the next time it is another one.
+    const bool wasOnLayer = layer_ != nullptr;
+    layer_.reset();
+    window_.hide();
+    if (wasOnLayer) window_.destroy();
+}
+
+void Overlay::closed() {
+    if (!layer_) return;
+    hide();
+    lostScreen_ = true;
+    showOnRemainingScreen();
+}
+
+void Overlay::showOnRemainingScreen() {
+    if (!lostScreen_) return;
+    QScreen* screen = QGuiApplication::primaryScreen();
+    // The one that is about to be removed still stands where this was shown.
+    if (!screen || !wayland::output(*screen)) return;
+    const QRect area = wayland::usableArea(*screen);
+    setFrame(moved(frame_, area_, area));
+    show();
+}
+
+Overlay::BorrowedKeyboard Overlay::borrowKeyboard() {
+    if (hasKeyboard_) return {};
+    takeKeyboard();
+    const auto giveBack = [self = QPointer(this)](void*) {
+        if (self) self->giveBackKeyboard();
+    };
+    return {this, giveBack};
+}
+
+void Overlay::takeKeyboard() {
+    hasKeyboard_ = true;
+    if (layer_)
+        layer_->takeKeyboard();
+    else
+        keyboard_.take();
+}
+
+void Overlay::giveBackKeyboard() {
+    hasKeyboard_ = false;
+    if (layer_)
+        layer_->giveBackKeyboard();
+    else
+        keyboard_.giveBack();
+}
+
+}  // namespace vantle

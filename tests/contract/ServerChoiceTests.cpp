@@ -1,0 +1,47 @@
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "platform/wayland/ServerChoice.h"
+
+namespace vantle::wayland {
+namespace {
+
+Environment with(std::map<std::string, std::string> variables) {
+    return [variables = std::move(variables)](const std::string& name) {
+        const auto found = variables.find(name);
+        return found == variables.end() ? std::nullopt : std::optional(found->second);
+    };
+}
+
+TEST(ServerChoiceTest, WhereOverlaysAreOfferedItIsWayland) {
+    EXPECT_EQ(serversToTry({Offer::overlays, true}), "wayland;xcb");
+    EXPECT_EQ(serversToTry({Offer::overlays, false}), "wayland;xcb");
+}
+
+TEST(ServerChoiceTest, WhereTheCompositorPlacesAllWindowsItIsXWaylandIfThereIsOne) {
+    EXPECT_EQ(serversToTry({Offer::windows, true}), "xcb;wayland");
+    EXPECT_EQ(serversToTry({Offer::windows, false}), "wayland;xcb");
+}
+
+TEST(ServerChoiceTest, WithoutACompositorItIsX11) {
+    EXPECT_EQ(serversToTry({Offer::none, true}), "xcb;wayland");
+    EXPECT_EQ(serversToTry({Offer::none, false}), "xcb;wayland");
+}
+
+TEST(ServerChoiceTest, ACompositorIsAskedOnlyInItsOwnSession) {
+    EXPECT_FALSE(isWaylandSession(with({{"DISPLAY", ":0"}})));
+    EXPECT_FALSE(isWaylandSession(with({{"XDG_SESSION_TYPE", "x11"}})));
+    EXPECT_TRUE(isWaylandSession(with({{"XDG_SESSION_TYPE", "wayland"}})));
+    EXPECT_TRUE(isWaylandSession(with({{"WAYLAND_DISPLAY", "wayland-1"}})));
+    EXPECT_TRUE(isWaylandSession(with({{"QT_QPA_PLATFORM", "wayland"}})));
+}
+
+TEST(ServerChoiceTest, WhereNobodyAnswersNothingIsOffered) {
+    setenv("WAYLAND_DISPLAY", "/nonexistent/wayland", 1);
+    EXPECT_EQ(askCompositor(), Offer::none);
+    unsetenv("WAYLAND_DISPLAY");
+}
+
+}  // namespace
+}  // namespace vantle::wayland
