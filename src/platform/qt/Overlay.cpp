@@ -1,8 +1,6 @@
 #include "platform/qt/Overlay.h"
 
 #include <QGuiApplication>
-#include <QPointer>
-#include <QScreen>
 #include <algorithm>
 #include <vector>
 
@@ -100,8 +98,9 @@ void Overlay::showOnLayer() {
     QScreen& screen = screenAt(frame_.center());
     area_ = wayland::usableArea(screen);
     const auto place = placeIn(area_, frame_, screen);
-    if (layer_ && window_.screen() == &screen) return layer_->move(place);
+    if (layer_ && screen_ == &screen) return layer_->move(place);
     hide();
+    screen_ = &screen;
     window_.setScreen(&screen);
     window_.setGeometry(frame_);
     window_.create();

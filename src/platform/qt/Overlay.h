@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QRect>
+#include <QScreen>
 #include <QWindow>
 #include <memory>
 
@@ -60,7 +62,8 @@ private:
     QWindow& window_;
     KeyboardFocus keyboard_;
     QRect frame_;
-    QRect area_;  ///< In which the frame stands, of its screen.
+    QRect area_;                ///< In which the frame stands, of its screen.
+    QPointer<QScreen> screen_;  ///< On which the layer is.
     std::unique_ptr<wayland::LayerSurface> layer_;
     bool hasKeyboard_ = false;
     bool lostScreen_ = false;  ///< While it is to be shown and there is none for it.
