@@ -38,7 +38,12 @@ void QtPasteboard::offer(std::unique_ptr<QMimeData> contents) {
     // Only the last of several counts: a clipboard that is empty in between would be filled again
     // with what was there before by some managers.
     next_ = std::move(contents);
-    time_.refreshThen([this] { QGuiApplication::clipboard()->setMimeData(next_.release()); });
+    time_.refreshThen([this] {
+        if (wayland::Selection::isOffered())
+            selection_.offer(std::move(next_));
+        else
+            QGuiApplication::clipboard()->setMimeData(next_.release());
+    });
 }
 
 }  // namespace vantle

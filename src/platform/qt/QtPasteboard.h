@@ -4,6 +4,7 @@
 
 #include "platform/Pasteboard.h"
 #include "platform/qt/SelectionTime.h"
+#include "platform/wayland/Selection.h"
 
 class QMimeData;
 
@@ -28,6 +29,7 @@ private:
 
     const std::shared_ptr<MediaLoader> media_;
     SelectionTime time_;
+    wayland::Selection selection_;
     std::unique_ptr<QMimeData> next_;  ///< What is about to be offered; null clears.
 };
 

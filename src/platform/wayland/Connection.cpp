@@ -39,6 +39,9 @@ void bindOffered(void* data, wl_registry* registry, std::uint32_t name, const ch
              layershell::version);
     else if (isOffered(xdg_wm_base_interface))
         bind(globals.shell, registry, name, version, xdg_wm_base_interface, 1);
+    else if (isOffered(datacontrol::managerInterface))
+        bind(globals.dataControl, registry, name, version, datacontrol::managerInterface,
+             datacontrol::version);
     else if (isOffered(blur::managerInterface))
         bind(globals.blur, registry, name, version, blur::managerInterface, blur::version);
 }
@@ -55,7 +58,7 @@ void answerPings(xdg_wm_base* shell) {
     static constexpr xdg_wm_base_listener listener{answerPing};
     xdg_wm_base_add_listener(shell, &listener, nullptr);
     // They come at any time.
-    wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(shell), nullptr);
+    useToolkitQueue(shell);
 }
 
 Globals bindGlobals() {

@@ -35,6 +35,7 @@ struct Globals {
     wl_shm* sharedMemory = nullptr;
     layershell::Shell* layerShell = nullptr;
     blur::Manager* blur = nullptr;
+    datacontrol::Manager* dataControl = nullptr;
     xdg_wm_base* shell = nullptr;  ///< Of ordinary windows and popups.
 };
 
@@ -42,6 +43,12 @@ const Globals& globals();
 
 /// Whether windows can be placed by the layer-shell protocol.
 bool offersLayers();
+
+/// What comes from now on is dispatched with the events of the toolkit.
+template <typename Object>
+void useToolkitQueue(Object* object) {
+    wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(object), nullptr);
+}
 
 struct RegionDeleter {
     void operator()(wl_region* region) const { wl_region_destroy(region); }

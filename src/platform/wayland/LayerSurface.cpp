@@ -25,8 +25,7 @@ LayerSurface::~LayerSurface() {
 void LayerSurface::waitUntilConfigured() {
     while (size_.isEmpty() && !isClosed_)
         if (wl_display_dispatch_queue(display(), globals().queue) < 0) return;
-    // What comes later is dispatched with the events of the toolkit.
-    wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(role_), nullptr);
+    useToolkitQueue(role_);
     wl_display_dispatch_queue_pending(display(), globals().queue);
 }
 

@@ -32,11 +32,6 @@ xdg_surface* makeShellSurface(wl_surface* surface) {
 void placed(void*, xdg_popup*, std::int32_t, std::int32_t, std::int32_t, std::int32_t) {}
 void placedAgain(void*, xdg_popup*, std::uint32_t) {}
 
-template <typename Object>
-void useToolkitQueue(Object* object) {
-    wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(object), nullptr);
-}
-
 }  // namespace
 
 PopupSurface::PopupSurface(wl_surface* surface, LayerSurface& parent, const Place& place)
@@ -65,7 +60,6 @@ PopupSurface::~PopupSurface() {
 void PopupSurface::waitUntilConfigured() {
     while (!isConfigured_ && !isDismissed_)
         if (wl_display_dispatch_queue(display(), globals().queue) < 0) return;
-    // What comes later is dispatched with the events of the toolkit.
     useToolkitQueue(surface_);
     useToolkitQueue(popup_);
     wl_display_dispatch_queue_pending(display(), globals().queue);

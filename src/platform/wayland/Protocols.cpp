@@ -36,6 +36,12 @@ Made* make(Object* object, std::uint32_t number, const wl_interface& interface,
 // For arguments that are no objects, and for objects of any kind.
 std::array<const wl_interface*, 4> noTypes{};
 
+template <typename Object, typename Listener>
+void listen(Object* object, const Listener* listener, void* data) {
+    wl_proxy_add_listener(proxy(object),
+                          reinterpret_cast<void (**)()>(const_cast<Listener*>(listener)), data);
+}
+
 }  // namespace
 
 namespace layershell {
@@ -114,8 +120,7 @@ void destroy(Surface* surface) {
 }
 
 void addListener(Surface* surface, const Listener* listener, void* data) {
-    wl_proxy_add_listener(proxy(surface),
-                          reinterpret_cast<void (**)()>(const_cast<Listener*>(listener)), data);
+    listen(surface, listener, data);
 }
 
 }  // namespace layershell
@@ -169,5 +174,97 @@ void release(Blur* blur) {
 }
 
 }  // namespace blur
+
+namespace datacontrol {
+namespace {
+
+extern const wl_interface deviceInterface;
+extern const wl_interface sourceInterface;
+extern const wl_interface offerInterface;
+
+std::array<const wl_interface*, 1> sourceTypes{&sourceInterface};
+std::array<const wl_interface*, 1> offerTypes{&offerInterface};
+std::array<const wl_interface*, 2> getDataDeviceTypes{&deviceInterface, &wl_seat_interface};
+
+constexpr std::array managerRequests{
+    wl_message{"create_data_source", "n", sourceTypes.data()},
+    wl_message{"get_data_device", "no", getDataDeviceTypes.data()},
+    wl_message{"destroy", "", noTypes.data()},
+};
+
+constexpr std::array deviceRequests{
+    wl_message{"set_selection", "?o", sourceTypes.data()},
+    wl_message{"destroy", "", noTypes.data()},
+};
+
+constexpr std::array deviceEvents{
+    wl_message{"data_offer", "n", offerTypes.data()},
+    wl_message{"selection", "?o", offerTypes.data()},
+    wl_message{"finished", "", noTypes.data()},
+};
+
+constexpr std::array sourceRequests{
+    wl_message{"offer", "s", noTypes.data()},
+    wl_message{"destroy", "", noTypes.data()},
+};
+
+constexpr std::array sourceEvents{
+    wl_message{"send", "sh", noTypes.data()},
+    wl_message{"cancelled", "", noTypes.data()},
+};
+
+constexpr std::array offerRequests{
+    wl_message{"receive", "sh", noTypes.data()},
+    wl_message{"destroy", "", noTypes.data()},
+};
+
+constexpr std::array offerEvents{wl_message{"offer", "s", noTypes.data()}};
+
+const wl_interface deviceInterface{"zwlr_data_control_device_v1", version,
+                                   deviceRequests.size(),         deviceRequests.data(),
+                                   deviceEvents.size(),           deviceEvents.data()};
+
+const wl_interface sourceInterface{"zwlr_data_control_source_v1", version,
+                                   sourceRequests.size(),         sourceRequests.data(),
+                                   sourceEvents.size(),           sourceEvents.data()};
+
+const wl_interface offerInterface{"zwlr_data_control_offer_v1", version,
+                                  offerRequests.size(),         offerRequests.data(),
+                                  offerEvents.size(),           offerEvents.data()};
+
+}  // namespace
+
+const wl_interface managerInterface{"zwlr_data_control_manager_v1", version, managerRequests.size(),
+                                    managerRequests.data(),         0,       nullptr};
+
+Source* createDataSource(Manager* manager) {
+    return make<Source>(manager, 0, sourceInterface);
+}
+
+Device* getDataDevice(Manager* manager, wl_seat* seat) {
+    return make<Device>(manager, 1, deviceInterface, seat);
+}
+
+void setSelection(Device* device, Source* source) {
+    request(device, 0, source);
+}
+
+void destroy(Device* device) {
+    destructor(device, 1);
+}
+
+void offer(Source* source, const char* type) {
+    request(source, 0, type);
+}
+
+void destroy(Source* source) {
+    destructor(source, 1);
+}
+
+void addListener(Source* source, const SourceListener* listener, void* data) {
+    listen(source, listener, data);
+}
+
+}  // namespace datacontrol
 
 }  // namespace vantle::wayland

@@ -62,4 +62,32 @@ void release(Blur* blur);
 
 }  // namespace blur
 
+/// wlr-data-control: the clipboard, for programs that nobody has just clicked or typed into. Of it
+/// this is what it takes to offer something there.
+namespace datacontrol {
+
+struct Manager;
+struct Device;
+struct Source;
+
+extern const wl_interface managerInterface;
+inline constexpr std::uint32_t version = 1;
+
+Source* createDataSource(Manager* manager);
+Device* getDataDevice(Manager* manager, wl_seat* seat);
+void setSelection(Device* device, Source* source);
+void destroy(Device* device);
+void offer(Source* source, const char* type);
+void destroy(Source* source);
+
+struct SourceListener {
+    /// `pipe` is the receiver's to close.
+    void (*send)(void* data, Source* source, const char* type, std::int32_t pipe);
+    void (*cancelled)(void* data, Source* source);
+};
+
+void addListener(Source* source, const SourceListener* listener, void* data);
+
+}  // namespace datacontrol
+
 }  // namespace vantle::wayland

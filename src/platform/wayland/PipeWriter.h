@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include "support/FileDescriptor.h"
+
+namespace vantle::wayland {
+
+/// Writes bytes into a pipe as fast as somebody reads them, without waiting for that. It gives up
+/// on who does not read for a while, and deletes itself in the end. Main thread only; SIGPIPE is
+/// ignored.
+class PipeWriter final : public QObject {
+public:
+    static void start(FileDescriptor pipe, QByteArray bytes);
+
+private:
+    PipeWriter(FileDescriptor pipe, QByteArray bytes);
+    void write();
+
+    const FileDescriptor pipe_;
+    const QByteArray bytes_;
+    qsizetype written_ = 0;
+    QSocketNotifier readiness_;
+    QTimer patience_;
+};
+
+}  // namespace vantle::wayland

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QMimeData>
+#include <memory>
+
+#include "platform/wayland/Protocols.h"
+
+namespace vantle::wayland {
+
+/// What this program offers on the clipboard of a Wayland session by the data-control protocol. The
+/// toolkit's own way works only for the program that has just been clicked or typed into. Main
+/// thread only.
+class Selection {
+public:
+    /// Whether the compositor lets programs do that.
+    static bool isOffered();
+
+    Selection() = default;
+    ~Selection();
+    Selection(const Selection&) = delete;
+    Selection& operator=(const Selection&) = delete;
+
+    /// Until others offer something; null clears the clipboard. The contents are made when somebody
+    /// asks for them.
+    void offer(std::unique_ptr<QMimeData> contents);
+
+private:
+    static void send(void* data, datacontrol::Source* source, const char* type, std::int32_t pipe);
+    static void cancelled(void* data, datacontrol::Source* source);
+    void withdraw();
+
+    std::unique_ptr<QMimeData> contents_;
+    datacontrol::Source* source_ = nullptr;
+};
+
+}  // namespace vantle::wayland
