@@ -144,7 +144,6 @@ def test_a_drag_is_promised_by_a_native_window_and_its_preview_follows(mutter, v
     assert window.is_asked()
 
 
-@fails_under_mutter_43("It asks what is dragged when the drag begins, and Qt answers only later")
 def test_dragged_into_a_native_window(mutter, vantle):
     window = NativeWindow(mutter)
     vantle.start_watching()

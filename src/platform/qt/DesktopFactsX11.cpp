@@ -1,11 +1,8 @@
 // What an X server and those who serve its windows tell about themselves.
 
 #include <QGuiApplication>
-#include <QScreen>
-#include <algorithm>
 #include <cstring>
 #include <string>
-#include <string_view>
 
 #include "platform/qt/BlurBehind.h"
 #include "platform/qt/DesktopFacts.h"
@@ -45,19 +42,6 @@ bool isComposited() {
     return owner && owner->owner != XCB_WINDOW_NONE;
 }
 
-/// XWayland says so since version 23.1; before that its outputs bear a name of their own.
-bool isWayland() {
-    constexpr std::string_view extension = "XWAYLAND";
-    const auto reply = x11::owned(xcb_query_extension_reply(
-        x11::connection(),
-        xcb_query_extension(x11::connection(), extension.size(), extension.data()), nullptr));
-    const auto screens = QGuiApplication::screens();
-    return (reply && reply->present != 0) ||
-           std::ranges::any_of(screens, [](const QScreen* screen) {
-               return screen->name().startsWith(QLatin1String("XWAYLAND"));
-           });
-}
-
 std::string server() {
     const xcb_setup_t* setup = xcb_get_setup(x11::connection());
     const std::string vendor(xcb_setup_vendor(setup),
@@ -73,7 +57,7 @@ Fact blurFact() {
 
 std::string displayServer() {
     if (x11::connection()) {
-        if (!isWayland()) return "X11";
+        if (!x11::isXWayland()) return "X11";
         const bool isNeeded = wayland::askCompositor() == wayland::Offer::windows;
         return isNeeded ? "X11 through XWayland: the compositor offers no layer-shell"
                         : "X11 through XWayland";

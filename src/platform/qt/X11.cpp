@@ -1,11 +1,13 @@
 #include "platform/qt/X11.h"
 
 #include <QGuiApplication>
+#include <QScreen>
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <map>
 #include <string>
+#include <string_view>
 
 namespace vantle::x11 {
 
@@ -17,6 +19,19 @@ xcb_connection_t* connection() {
 xcb_window_t root() {
     // Qt stays on the first screen unless DISPLAY names another, which nobody does any more.
     return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+}
+
+bool isXWayland() {
+    // It says so since version 23.1; before that its outputs bear a name of their own.
+    constexpr std::string_view extension = "XWAYLAND";
+    const auto reply = owned(xcb_query_extension_reply(
+        connection(), xcb_query_extension(connection(), extension.size(), extension.data()),
+        nullptr));
+    const auto screens = QGuiApplication::screens();
+    return (reply && reply->present != 0) ||
+           std::ranges::any_of(screens, [](const QScreen* screen) {
+               return screen->name().startsWith(QLatin1String("XWAYLAND"));
+           });
 }
 
 xcb_window_t number(const QWindow& window) {

@@ -17,6 +17,9 @@ xcb_connection_t* connection();
 /// The window that everything stands on.
 xcb_window_t root();
 
+/// Whether what serves X is a Wayland compositor's XWayland.
+bool isXWayland();
+
 xcb_window_t number(const QWindow& window);
 
 /// XCB_ATOM_NONE when it cannot be made. Asked for once.

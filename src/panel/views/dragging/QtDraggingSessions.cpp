@@ -4,12 +4,14 @@
 #include <QPixmap>
 #include <QPointer>
 #include <QWindow>
+#include <optional>
 #include <utility>
 
 #include "capture/Capture.h"
 #include "panel/views/Appearance.h"
 #include "panel/views/dragging/DragPile.h"
 #include "panel/views/dragging/FlyBack.h"
+#include "platform/qt/DragSelection.h"
 #include "platform/qt/DropAnswer.h"
 #include "platform/qt/FileMimeData.h"
 #include "platform/qt/InputRegion.h"
@@ -41,6 +43,7 @@ public:
             finish(DragOperation::none);
             return;
         }
+        if (DragSelection::isNeeded()) selection_.emplace(contents(media));
         auto* drag = new QDrag(window_);
         drag->setMimeData(contents(media).release());
         drag->setPixmap(QPixmap::fromImage(pile_.picture));
@@ -82,6 +85,7 @@ private:
     const QPoint hotSpot_;
     const DraggingSessions::Ended ended_;
     DropAnswer answer_;
+    std::optional<DragSelection> selection_;
 };
 
 }  // namespace
