@@ -21,6 +21,7 @@ SKIPPED_EXIT_STATUS = 77
 
 def pytest_configure(config):
     config.addinivalue_line("markers", "desktop(**options): how the private desktop is to be made")
+    config.addinivalue_line("markers", "sway(lines): more of its configuration")
     config.passed_tests = 0
     config.skipped_tests = 0
 

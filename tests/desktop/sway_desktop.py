@@ -1,133 +1,33 @@
-"""A Wayland desktop inside a private one: Sway in a window that fills it, with XWayland.
+"""Sway as a Wayland desktop inside a private one."""
 
-So the pointer and the keyboard of the private desktop are real ones for Sway, and what its screen
-shows is what Sway shows.
-"""
+import json
 
-import os
-import pathlib
-import shutil
+from wayland_desktop import WaylandDesktop
 
-from privatedesktop import wait_until
-
+_NAMES = ("DISPLAY", "WAYLAND_DISPLAY", "SWAYSOCK")
 _CONFIGURATION = """
 output * bg #405070 solid_color
 xwayland force
 default_border none
 focus_follows_mouse no
-exec sh -c 'echo $DISPLAY $WAYLAND_DISPLAY > $HOME/displays'
+exec sh -c 'echo $DISPLAY $WAYLAND_DISPLAY $SWAYSOCK > $HOME/told'
 """
-_NOBODY = 65534
 
 
-class SwayDesktop:
-    """Has what Program and WatchedFolder need of a desktop. It ends with the private desktop."""
+class SwayDesktop(WaylandDesktop):
+    name = "sway"
 
-    def __init__(self, host):
-        self._host = host
-        self.screen = host.screen
-        self.log_folder = host.log_folder
-        self._folder = host.home.parent / "sway"
-        self.home = self._folder / "home"
-        self._make_folders()
-        self.environment = self._environment()
-        self._start_bus()
-        self._start_sway()
+    def __init__(self, host, more_configuration=""):
+        self._configuration = _CONFIGURATION + more_configuration
+        super().__init__(host)
 
-    def _make_folders(self):
-        (self.home / "Desktop").mkdir(parents=True)
-        (self._folder / "runtime").mkdir(mode=0o700)
-        (self._folder / "config").write_text(_CONFIGURATION)
-        # Its user has to get through.
-        self._host.home.parent.chmod(0o755)
-        self.give_to_user()
-
-    def _environment(self):
-        folders = {
-            "HOME": self.home,
-            "TMPDIR": self._folder,
-            "XDG_RUNTIME_DIR": self._folder / "runtime",
-            "XDG_CONFIG_HOME": self.home / ".config",
-            "XDG_DATA_HOME": self.home / ".local/share",
-            "XDG_STATE_HOME": self.home / ".local/state",
-            "XDG_CACHE_HOME": self.home / ".cache",
-        }
-        return {
-            **self._host.environment,
-            **{name: str(path) for name, path in folders.items()},
-            "XDG_CURRENT_DESKTOP": "sway",
-            "XDG_SESSION_TYPE": "wayland",
-            "DBUS_SESSION_BUS_ADDRESS": f"unix:path={self._folder}/runtime/bus",
-        }
-
-    def as_user(self, *command):
-        """Root may not start Sway, and only who started XWayland may use it."""
-        if os.geteuid() != 0:
-            return list(command)
-        return ["setpriv", f"--reuid={_NOBODY}", f"--regid={_NOBODY}", "--clear-groups", *command]
-
-    def give_to_user(self):
-        """What was written so far is its user's."""
-        if os.geteuid() != 0:
-            return
-        for path in (self._folder, *self._folder.rglob("*")):
-            shutil.chown(path, _NOBODY, _NOBODY)
-
-    def start(self, *command):
-        """Starts a program of its user's."""
-        variables = [f"{name}={text}" for name, text in self.environment.items()]
-        return self._host.start(*self.as_user("env", *variables, *map(str, command)))
-
-    def _start_bus(self):
-        self.start("dbus-daemon", "--session", "--nofork", "--nopidfile",
-                   "--address", self.environment["DBUS_SESSION_BUS_ADDRESS"])
-        wait_until((self._folder / "runtime/bus").exists, "the session bus listens")
-
-    def _start_sway(self):
-        self._host.run("xhost", "+local:")
+    def _start_compositor(self):
+        configuration = self.folder / "config"
+        configuration.write_text(self._configuration)
         self.start("env", "WLR_BACKENDS=x11", "WLR_RENDERER=pixman",
-                   "sway", "--config", self._folder / "config")
-        told = self.home / "displays"
-        displays = wait_until(lambda: told.exists() and told.read_text().split(), "Sway starts")
-        self.environment["DISPLAY"], self.environment["WAYLAND_DISPLAY"] = displays
-        self._fill_screen()
+                   "sway", "--config", configuration)
+        self._wait_for_names(*_NAMES)
 
-    def _fill_screen(self):
-        [window] = wait_until(self.screen.client_list, "Sway's window opens")
-        self.screen.change_state(window, 1, "_NET_WM_STATE_FULLSCREEN")
-        wait_until(
-            lambda: self.screen.area(window).box == (0, 0, *self.screen.size), "it fills the screen"
-        )
-
-
-class NativeWindow:
-    """A window that speaks Wayland, and tells what reaches it. It fills the screen."""
-
-    def __init__(self, sway):
-        program = pathlib.Path(__file__).with_name("native_window.py")
-        sway.start("sh", "-c", f'GDK_BACKEND=wayland exec "{program}" >> "$TMPDIR/native.log"')
-        self._log = pathlib.Path(sway.environment["TMPDIR"], "native.log")
-        wait_until(lambda: "focus" in self._told(), "the native window has the keyboard")
-
-    def _told(self):
-        return self._log.read_text() if self._log.exists() else ""
-
-    def _all(self, kind):
-        lines = [line.split(" ", 1) for line in self._told().splitlines() if " " in line]
-        return [text for name, text in lines if name == kind]
-
-    def clicks(self):
-        return [tuple(map(int, text.split())) for text in self._all("click")]
-
-    def typed(self):
-        return "".join(self._all("key"))
-
-    def is_asked(self):
-        """Whether something is dragged over it."""
-        return bool(self._all("drag"))
-
-    def dropped(self):
-        return self._all("drop")
-
-    def has_lost_focus(self):
-        return "blur" in self._told()
+    def message(self, *words):
+        """Asks Sway something, or tells it to do something, and returns what it answers."""
+        return json.loads(self.run("swaymsg", "--raw", *words).stdout)

@@ -8,11 +8,11 @@ import pytest
 
 from conftest import require_peer
 from mutter_desktop import MutterDesktop
-from panel_checks import encoded, expected_frame
-from pictures import RED, YELLOW, is_one_pattern, mask_of, pattern
-from privatedesktop import Program, Rectangle, WaitTimeout, wait_until, wait_until_still
-from sway_desktop import NativeWindow
+from pictures import is_one_pattern
+from privatedesktop import Rectangle, WaitTimeout, wait_until
 from using import BUTTONS, Drag
+from wayland_checks import click_on_glass, click_through, corner, program_on, show_one
+from wayland_desktop import NativeWindow
 
 pytestmark = pytest.mark.desktop(tray=False, compositor=False)
 
@@ -40,46 +40,8 @@ def mutter(desktop):
 
 @pytest.fixture
 def vantle(mutter, binary):
-    program = Program(mutter.as_user(binary), mutter)
-    program.write_settings(hasExplainedMissingTray="true", removeAfterUse="true")
-    mutter.give_to_user()
-    yield program
-    program.stop()
-
-
-def corner(mutter):
-    return expected_frame(Rectangle(0, 0, *mutter.screen.size), "bottomRight")
-
-
-def show_one(mutter, vantle):
-    """Returns where its tile stands on the screen."""
-    (mutter.home / "Desktop/shot.png").write_bytes(encoded(pattern()))
-    vantle.wait_for_log("captured shot.png")
-    frame = corner(mutter)
-    wait_until(lambda: is_one_pattern(mutter.screen.screenshot(frame)), "the tile stands")
-    picture = wait_until_still(lambda: mutter.screen.screenshot(frame), "the card")
-    first, last = mask_of(picture, RED).getbbox(), mask_of(picture, YELLOW).getbbox()
-    width, height = last[2] - first[0], last[3] - first[1]
-    return Rectangle(frame.x + first[0], frame.y + first[1], width, height)
-
-
-def on_glass(tile):
-    """A point of the card, and not of its tile."""
-    return tile.centre[0], tile.y - 5
-
-
-def click_on_glass(mutter, vantle, tile):
-    before = vantle.log_text().count("host mouseDown")
-    mutter.screen.pointer.click(*on_glass(tile))
-    vantle.wait_for_log("host mouseDown", times=before + 1)
-
-
-def click_through(mutter, window, points):
-    """Clicks there, and waits until the window underneath has got all of them, and no others."""
-    for number, point in enumerate(points, start=1):
-        mutter.screen.pointer.click(*point)
-        wait_until(lambda: len(window.clicks()) == number, f"the click at {point} arrives")
-    assert window.clicks() == points
+    with program_on(mutter, binary) as program:
+        yield program
 
 
 def test_the_card_stands_in_its_corner(mutter, vantle):

@@ -1,67 +1,81 @@
-"""The card under a Wayland compositor, where it is drawn through XWayland."""
+"""The card on a Wayland desktop whose compositor lets it choose its place."""
 
-import shutil
-import subprocess
+import io
+import pathlib
+import signal
+import tempfile
+import time
 
 import pytest
+from PIL import Image
 
 from conftest import require_peer
 from panel_checks import encoded, expected_frame
 from pictures import RED, YELLOW, is_one_pattern, mask_of, pattern
-from privatedesktop import Program, Rectangle, WaitTimeout, wait_until, wait_until_still
-from sway_desktop import NativeWindow, SwayDesktop
+from privatedesktop import Rectangle, WaitTimeout, wait_until, wait_until_still
+from sway_desktop import SwayDesktop
+from test_idle import MEASURED_SECONDS
+from using import BUTTONS, Drag
+from wayland_checks import click_on_glass, click_through, corner, program_on, show_one
+from wayland_desktop import NativeWindow
 
 pytestmark = pytest.mark.desktop(tray=False, compositor=False)
 
+_BAR = """
+bar {
+    position %s
+    status_command while echo bar; do sleep 60; done
+}
+"""
+# From the right edge of a tile to that of its card, and from its lower edge to the buttons.
+_MARGIN = 13
+_BUTTONS_BELOW_TILE = 26
+
 
 @pytest.fixture
-def sway(desktop):
+def sway(request, desktop):
     require_peer("sway")
     require_peer("Xwayland")
-    return SwayDesktop(desktop)
+    marker = request.node.get_closest_marker("sway")
+    return SwayDesktop(desktop, *(marker.args if marker else ()))
 
 
 @pytest.fixture
 def vantle(sway, binary):
-    program = Program(sway.as_user(binary), sway)
-    program.write_settings(hasExplainedMissingTray="true", removeAfterUse="true")
-    sway.give_to_user()
-    yield program
-    program.stop()
+    with program_on(sway, binary) as program:
+        yield program
 
 
-def corner(sway):
-    return expected_frame(Rectangle(0, 0, *sway.screen.size), "bottomRight")
+def save(sway, name):
+    (sway.home / "Desktop" / name).write_bytes(encoded(pattern()))
 
 
-def show_one(sway, vantle):
-    """Returns where its tile stands on the screen."""
-    file = sway.home / "Desktop/shot.png"
-    file.write_bytes(encoded(pattern()))
-    vantle.wait_for_log("captured shot.png")
-    frame = corner(sway)
-    wait_until(lambda: is_one_pattern(sway.screen.screenshot(frame)), "the tile stands")
-    picture = wait_until_still(lambda: sway.screen.screenshot(frame), "the card")
-    first, last = mask_of(picture, RED).getbbox(), mask_of(picture, YELLOW).getbbox()
-    width, height = last[2] - first[0], last[3] - first[1]
-    return Rectangle(frame.x + first[0], frame.y + first[1], width, height)
-
-
-def point_at(sway, point):
-    """Moves the pointer there. Sway tells it to the windows with its next picture."""
-    sway.screen.pointer.move(*point)
-    frame = corner(sway)
-    wait_until_still(lambda: sway.screen.screenshot(frame).tobytes(), "the card", readings=3)
-
-
-def click(sway, point):
-    point_at(sway, point)
-    sway.screen.pointer.press()
-    sway.screen.pointer.release()
+def press(sway, tile, button):
+    place = tile.right + _MARGIN - BUTTONS[button], tile.bottom + _BUTTONS_BELOW_TILE
+    sway.screen.pointer.click(*place)
 
 
 def is_gone(sway):
     return mask_of(sway.screen.screenshot(corner(sway)), RED).getbbox() is None
+
+
+def picture_around(sway, tile):
+    """Without the line below it, which tells how long ago that was."""
+    around = Rectangle(tile.x - 30, tile.y - 60, tile.width + 50, tile.height + 60)
+    return wait_until_still(lambda: sway.screen.screenshot(around).tobytes(), "the card")
+
+
+def test_it_speaks_wayland_there_and_says_so(vantle):
+    vantle.start_watching()
+    status, text = vantle.command("--status")
+    assert status == 0 and "display server: Wayland\n" in text
+
+
+def test_one_may_choose_x11_nevertheless(sway, binary):
+    with program_on(sway, binary, {"QT_QPA_PLATFORM": "xcb"}) as vantle:
+        vantle.start_watching()
+        show_one(sway, vantle)
+        assert "display server: X11 through XWayland\n" in vantle.command("--status")[1]
 
 
 def test_the_card_stands_in_its_corner(sway, vantle):
@@ -72,47 +86,54 @@ def test_the_card_stands_in_its_corner(sway, vantle):
     assert 50 < height - tile.bottom < 90
 
 
+@pytest.mark.sway(_BAR % "top")
+@pytest.mark.parametrize("side", ["bottomRight", "bottomLeft", "topRight", "topLeft"])
+def test_in_each_corner_it_leaves_the_bar_free(sway, binary, side):
+    width, height = sway.screen.size
+    bar = wait_until(lambda: bar_height(sway), "the bar comes")
+    with program_on(sway, binary, corner=side) as vantle:
+        vantle.start_watching()
+        save(sway, "shot.png")
+        frame = expected_frame(Rectangle(0, bar, width, height - bar), side)
+        wait_until(lambda: is_one_pattern(sway.screen.screenshot(frame)), "the tile stands")
+        picture = wait_until_still(lambda: sway.screen.screenshot(frame), "the card")
+        left, top, _, _ = mask_of(picture, RED).getbbox()
+        _, _, right, bottom = mask_of(picture, YELLOW).getbbox()
+        across = frame.width - right if side.endswith("Right") else left
+        down = frame.height - bottom if side.startswith("bottom") else top
+        assert 10 < across < 40 and 10 < down < 90
+
+
+def bar_height(sway):
+    """Of the bar at the upper edge; None while there is none."""
+    picture = sway.screen.screenshot(Rectangle(700, 0, 1, 100))
+    ground = picture.getpixel((0, 99))
+    rows = [row for row in range(100) if picture.getpixel((0, row)) != ground]
+    return len(rows) if 10 < len(rows) < 60 else None
+
+
 def test_above_a_full_screen_window(sway, vantle):
     NativeWindow(sway)
     vantle.start_watching()
     show_one(sway, vantle)
 
 
-def check_clicks_arrive(sway, vantle, points_for):
-    """That they do at these points, and not on the glass."""
+def test_on_every_workspace(sway, vantle):
+    vantle.start_watching()
+    show_one(sway, vantle)
+    sway.message("workspace", "2")
+    wait_until_still(lambda: sway.screen.screenshot().tobytes(), "the workspace")
+    assert is_one_pattern(sway.screen.screenshot(corner(sway)))
+
+
+def test_clicks_outside_the_card_reach_the_window_underneath(sway, vantle):
     window = NativeWindow(sway)
     vantle.start_watching()
     tile = show_one(sway, vantle)
-    beside = points_for(corner(sway), tile)
-    for number, point in enumerate(beside, start=1):
-        click(sway, point)
-        wait_until(lambda: len(window.clicks()) == number, f"the click at {point} arrives")
-    # When the last one has arrived, the one on the glass would have, too.
-    click(sway, (tile.centre[0], tile.y - 5))
-    click(sway, beside[0])
-    wait_until(lambda: len(window.clicks()) > len(beside), "the last click arrives")
-    assert window.clicks() == [*beside, beside[0]]
-
-
-def test_clicks_outside_the_panel_reach_the_window_underneath(sway, vantle):
-    check_clicks_arrive(sway, vantle, lambda frame, _: [
+    click_on_glass(sway, vantle, tile)
+    frame = corner(sway)
+    click_through(sway, window, [
         (frame.x - 5, frame.centre[1]), (frame.centre[0], frame.y - 5), (300, 300),
-    ])  # fmt: skip
-
-
-def is_sway_1_7():
-    if not shutil.which("sway"):
-        return False
-    told = subprocess.run(["sway", "--version"], stdout=subprocess.PIPE, text=True, check=True)
-    return told.stdout.startswith("sway version 1.7")
-
-
-@pytest.mark.xfail(
-    is_sway_1_7(), strict=True, raises=WaitTimeout,
-    reason="Sway 1.7 gives a window of X all clicks in its frame, also those that it does not take",
-)  # fmt: skip
-def test_clicks_beside_the_card_reach_the_window_underneath(sway, vantle):
-    check_clicks_arrive(sway, vantle, lambda frame, tile: [
         (frame.x + 60, frame.y + 60), (tile.x - 24, tile.centre[1]), (tile.x, frame.y + 10),
     ])  # fmt: skip
 
@@ -120,44 +141,306 @@ def test_clicks_beside_the_card_reach_the_window_underneath(sway, vantle):
 def test_the_focus_stays_where_one_types(sway, vantle):
     window = NativeWindow(sway)
     vantle.start_watching()
-    typed = ""
-
-    def type_one():
-        nonlocal typed
-        typed += "x"
-        sway.screen.keyboard.type("x")
-
-    type_one()
+    sway.screen.keyboard.type("x")
     tile = show_one(sway, vantle)
-    type_one()
-    click(sway, (tile.centre[0], tile.y - 5))
-    type_one()
-    wait_until(lambda: window.typed() == typed, "all letters arrive")
+    sway.screen.keyboard.type("y")
+    click_on_glass(sway, vantle, tile)
+    sway.screen.keyboard.type("z")
+    wait_until(lambda: window.typed() == "xyz", "all letters arrive")
     assert not window.has_lost_focus()
 
 
-@pytest.mark.xfail(
-    is_sway_1_7(), strict=True, raises=WaitTimeout,
-    reason="In a drag, too, Sway 1.7 takes the pointer from a window of X that it leaves",
-)  # fmt: skip
+def test_the_keyboard_comes_when_it_is_asked_for_and_goes_back(sway, vantle):
+    window = NativeWindow(sway)
+    vantle.start_watching()
+    show_one(sway, vantle)
+    assert vantle.command("--focus-panel") == (0, "")
+    wait_until(window.has_lost_focus, "the card has the keyboard")
+    sway.screen.keyboard.press("Escape")
+    wait_until(lambda: is_gone(sway), "the card goes")
+    sway.screen.keyboard.type("x")
+    wait_until(lambda: window.typed() == "x", "the window has the keyboard again")
+
+
+def test_it_comes_again_after_it_was_dismissed(sway, vantle):
+    vantle.start_watching()
+    for name in ("one.png", "two.png"):
+        tile = show_one(sway, vantle, name)
+        press(sway, tile, "copy")
+        wait_until(lambda: is_gone(sway), "the card goes")
+
+
+def test_the_pointer_shows_what_can_be_done(sway, vantle):
+    vantle.start_watching()
+    tile = show_one(sway, vantle)
+    before = picture_around(sway, tile)
+    sway.screen.pointer.move(*tile.centre)
+    wait_until(lambda: picture_around(sway, tile) != before, "the button to close it comes")
+    sway.screen.pointer.move(300, 300)
+    wait_until(lambda: picture_around(sway, tile) == before, "it goes")
+
+
+def test_a_marquee_selects_and_a_drag_takes_all_of_it(sway, vantle):
+    window = NativeWindow(sway)
+    vantle.start_watching()
+    names = ["one.png", "two.png"]
+    for name in names:
+        save(sway, name)
+        vantle.wait_for_log(f"captured {name}")
+    frame = corner(sway)
+    picture = wait_until_still(lambda: sway.screen.screenshot(frame), "the card")
+    left, top, _, _ = mask_of(picture, RED).getbbox()
+    first = frame.x + left, frame.y + top
+    sway.screen.pointer.drag((first[0] - 6, first[1] + 150), (frame.right - 40, first[1] + 40))
+    wait_until_still(lambda: sway.screen.screenshot(frame).tobytes(), "the selection")
+    Drag(sway, vantle, (first[0] + 30, first[1] + 30)).hold_over(400, 300).drop()
+    wait_until(window.dropped, "it is dropped")
+    assert window.dropped() == [(sway.home / "Desktop" / name).as_uri() for name in names]
+
+
 def test_dragged_into_a_native_window(sway, vantle):
     window = NativeWindow(sway)
     vantle.start_watching()
     tile = show_one(sway, vantle)
-    pointer = sway.screen.pointer
-    point_at(sway, tile.centre)
-    pointer.press()
-    pointer.move(tile.centre[0] - 8, tile.centre[1] - 8)
-    vantle.wait_for_log("thumb drag begins")
-    turn = 0
-
-    def is_asked():
-        nonlocal turn
-        turn += 1
-        pointer.move(300 + turn % 5, 300)
-        return window.is_asked()
-
-    wait_until(is_asked, "the window hears of the drag", interval=0.1)
-    pointer.release()
+    drag = Drag(sway, vantle, tile.centre).hold_over(400, 300)
+    around = Rectangle(300, 200, 800, 500)
+    wait_until(lambda: is_one_pattern(sway.screen.screenshot(around)), "the preview is there")
+    assert drag.drop()
     wait_until(window.dropped, "it is dropped")
     assert window.dropped() == [(sway.home / "Desktop/shot.png").as_uri()]
+    wait_until(lambda: is_gone(sway), "the tile is used up")
+
+
+def test_dragged_into_a_native_file_manager(sway, vantle):
+    require_peer("thunar")
+    target = sway.home / "target"
+    target.mkdir()
+    sway.give_to_user()
+    sway.start("env", "GDK_BACKEND=wayland", "thunar", target)
+    wait_until(lambda: "Thunar" in str(sway.message("-t", "get_tree")), "its window opens")
+    vantle.start_watching()
+    tile = show_one(sway, vantle)
+    width, height = sway.screen.size
+    assert Drag(sway, vantle, tile.centre).hold_over(width // 2, height // 2).drop()
+    wait_until((target / "shot.png").exists, "it arrives")
+    original = (sway.home / "Desktop/shot.png").read_bytes()
+    wait_until(lambda: (target / "shot.png").read_bytes() == original, "it is whole")
+
+
+def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(sway, vantle):
+    vantle.start_watching()
+    tile = show_one(sway, vantle)
+    drag = Drag(sway, vantle, tile.centre).move(300, 300)
+    assert not drag.drop()
+    frame = corner(sway)
+    wait_until(lambda: is_one_pattern(sway.screen.screenshot(frame)), "the tile is back")
+    whole = wait_until_still(lambda: sway.screen.screenshot(), "the screen")
+    assert is_one_pattern(whole)
+    press(sway, tile, "copy")
+    vantle.wait_for_log("tap icon doc.on.doc")
+
+
+@pytest.mark.xfail(strict=True, raises=WaitTimeout, reason="Sway gives nobody the keys of a drag")
+def test_escape_ends_a_drag(sway, vantle):
+    NativeWindow(sway)
+    vantle.start_watching()
+    tile = show_one(sway, vantle)
+    Drag(sway, vantle, tile.centre).hold_over(400, 300)
+    sway.screen.keyboard.press("Escape")
+    vantle.wait_for_log("thumb drag ended op=0")
+
+
+def test_the_share_menu_opens_over_the_card_and_closes(sway, vantle):
+    window = NativeWindow(sway)
+    vantle.start_watching()
+    tile = show_one(sway, vantle)
+    closed = picture_around(sway, tile)
+
+    def opened(press_share):
+        press_share()
+        wait_until(window.has_lost_focus, "the menu has the keyboard")
+        return wait_until_still(lambda: sway.screen.screenshot(corner(sway)).tobytes(), "the menu")
+
+    def is_closed():
+        sway.screen.pointer.move(300, 300)
+        return picture_around(sway, tile) == closed
+
+    before = sway.screen.screenshot(corner(sway)).tobytes()
+    assert opened(lambda: press(sway, tile, "share")) != before
+    sway.screen.keyboard.press("Escape")
+    wait_until(is_closed, "Escape closes it")
+    press(sway, tile, "share")
+    wait_until(lambda: picture_around(sway, tile) != closed, "it opens again")
+    sway.screen.pointer.click(300, 300)
+    wait_until(is_closed, "a click beside it closes it")
+    sway.screen.keyboard.type("x")
+    wait_until(lambda: window.typed() == "x", "the window has the keyboard again")
+    assert window.clicks() == []
+
+
+def test_a_line_of_the_share_menu_is_chosen_by_keys(sway, vantle):
+    NativeWindow(sway)
+    vantle.start_watching()
+    tile = show_one(sway, vantle)
+    press(sway, tile, "share")
+    wait_until_still(lambda: sway.screen.screenshot(corner(sway)).tobytes(), "the menu")
+    for key in ("Down", "Return"):
+        sway.screen.keyboard.press(key)
+    wait_until(lambda: "text/uri-list" in pasted(sway, "--list-types"), "it is copied")
+
+
+def pasted(sway, *arguments):
+    """What wl-paste prints; nothing that counts while the clipboard is empty."""
+    return sway.run("wl-paste", *arguments, check=False, text=True).stdout
+
+
+def check_pasted(sway):
+    wait_until(lambda: "image/png" in pasted(sway, "--list-types"), "it is offered")
+    types = pasted(sway, "--list-types").split()
+    assert types[0] == "image/png"
+    assert {"image/jpeg", "text/uri-list", "x-special/gnome-copied-files"} <= set(types)
+    file = sway.home / "Desktop/shot.png"
+    assert pasted(sway, "--type", "text/uri-list").split() == [file.as_uri()]
+    sway.run("sh", "-c", 'wl-paste --type image/png > "$TMPDIR/pasted"')
+    assert (sway.folder / "pasted").read_bytes() == file.read_bytes()
+
+
+def test_native_programs_paste_what_was_copied(sway, vantle):
+    require_peer("wl-paste")
+    vantle.start_watching()
+    press(sway, show_one(sway, vantle), "copy")
+    check_pasted(sway)
+
+
+def test_what_is_copied_by_itself_reaches_the_clipboard(sway, binary):
+    require_peer("wl-paste")
+    NativeWindow(sway)
+    with program_on(sway, binary, copyOnCapture="true") as vantle:
+        vantle.start_watching()
+        save(sway, "shot.png")
+        check_pasted(sway)
+
+
+def test_who_does_not_read_the_clipboard_holds_nothing_up(sway, binary):
+    require_peer("wl-paste")
+    with program_on(sway, binary, copyOnCapture="true") as vantle:
+        vantle.start_watching()
+        noise = io.BytesIO()
+        Image.effect_noise((1500, 1000), 90).save(noise, "PNG")
+        (sway.home / "Desktop/noise.png").write_bytes(noise.getvalue())
+        wait_until(lambda: "image/png" in pasted(sway, "--list-types"), "it is offered")
+        sway.start("sh", "-c", "wl-paste --type image/png | sleep 1000")
+        sway.start("sh", "-c", "wl-paste --type image/png | head -c 1")
+        for _ in range(3):
+            assert "watching" in vantle.command("--status", limit=10)[1]
+        sway.run("sh", "-c", 'wl-paste --type image/png > "$TMPDIR/pasted"')
+        assert (sway.folder / "pasted").read_bytes() == noise.getvalue()
+
+
+def test_grim_is_noticed(sway, vantle):
+    require_peer("grim")
+    vantle.start_watching()
+    sway.run("grim", sway.home / "Desktop/grim.png")
+    vantle.wait_for_log("captured grim.png")
+    vantle.wait_for_log(r"panel shows 1 capture\(s\)")
+
+
+def test_wf_recorder_is_noticed_when_it_has_ended(sway, vantle):
+    require_peer("wf-recorder")
+    vantle.start_watching()
+    file = sway.home / "Desktop/recording.mp4"
+    recorder = sway.start("wf-recorder", "--no-damage", "--file", file)
+    wait_until(lambda: file.exists() and file.stat().st_size > 0, "it records")
+    assert "captured" not in vantle.log_text()
+    recorder.send_signal(signal.SIGINT)
+    vantle.wait_for_log("captured recording.mp4")
+
+
+@pytest.mark.sway("output * scale 1.5")
+def test_on_an_output_that_is_scaled(sway, vantle):
+    vantle.start_watching()
+    save(sway, "shot.png")
+    width, height = sway.screen.size
+    frame = Rectangle(width - 1200, height - 495, 1200, 495)
+    wait_until(lambda: is_one_pattern(sway.screen.screenshot(frame)), "the tile stands")
+    left, top, right, bottom = wait_until_still(
+        lambda: mask_of(sway.screen.screenshot(frame), RED).getbbox(), "the card"
+    )
+    # The red quarter of a thumbnail of 304 × 190 points.
+    assert abs(right - left - 228) <= 3 and abs(bottom - top - 142) <= 3
+
+
+def outputs(sway):
+    return [output["name"] for output in sway.message("-t", "get_outputs")]
+
+
+def shows_card(sway, output):
+    with tempfile.TemporaryDirectory(dir=sway.home) as folder:
+        pathlib.Path(folder).chmod(0o777)
+        sway.run("grim", "-o", output, f"{folder}/output.png")
+        with Image.open(f"{folder}/output.png") as picture:
+            return mask_of(picture.convert("RGB"), RED).getbbox() is not None
+
+
+def close_output(sway, window):
+    """An output of the nested Sway is a window."""
+    before = outputs(sway)
+    sway.screen.ask_to_close(window)
+    wait_until(lambda: outputs(sway) != before, "the output goes")
+
+
+def test_it_follows_the_focus_from_output_to_output(sway, vantle):
+    require_peer("grim")
+    vantle.start_watching()
+    sway.message("create_output")
+    first, second = wait_until(lambda: len(outputs(sway)) == 2 and outputs(sway), "both are there")
+    for number, output in enumerate((second, first, second)):
+        sway.message("focus", "output", output)
+        save(sway, f"{number}.png")
+        wait_until(lambda: shows_card(sway, output), f"the card comes to {output}")
+        wait_until(lambda: not shows_card(sway, first if output == second else second),
+                   "it has left the other one")  # fmt: skip
+
+
+def test_it_survives_the_outputs_that_it_stands_on(sway, vantle):
+    require_peer("grim")
+    vantle.start_watching()
+    sway.message("create_output")
+    first, second = wait_until(lambda: len(outputs(sway)) == 2 and outputs(sway), "both are there")
+    sway.message("focus", "output", second)
+    save(sway, "shot.png")
+    wait_until(lambda: shows_card(sway, second), "the card comes")
+    windows = sway.screen.client_list()
+    close_output(sway, windows[1])
+    wait_until(lambda: shows_card(sway, first), "it moves to the one that is left")
+    close_output(sway, windows[0])
+    sway.message("create_output")
+    [third] = wait_until(lambda: outputs(sway), "there is one again")
+    wait_until(lambda: shows_card(sway, third), "it stands there")
+
+
+@pytest.mark.sway(_BAR % "bottom")
+def test_the_bar_shows_its_icon(sway, vantle):
+    vantle.start_watching()
+    wait_until(
+        lambda: "tray: on D-Bus" in vantle.command("--status", "--verbose")[1],
+        "the icon is in the tray",
+    )
+
+
+def test_the_end_of_the_compositor_ends_it(sway, vantle):
+    vantle.start_watching()
+    show_one(sway, vantle)
+    sway.run("swaymsg", "exit", check=False)
+    assert vantle.wait_for_end() == 1
+    assert "The Wayland connection broke" in vantle.log_text()
+
+
+def test_idle_it_does_nothing(sway, vantle):
+    vantle.start_watching()
+    sway.screen.pointer.move(300, 300)
+    show_one(sway, vantle)
+    wait_until_still(vantle.voluntary_switches, "the program", readings=20)
+    before = vantle.voluntary_switches()
+    time.sleep(MEASURED_SECONDS)
+    assert vantle.voluntary_switches() == before

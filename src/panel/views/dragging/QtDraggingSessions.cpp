@@ -15,13 +15,23 @@
 #include "platform/qt/DropAnswer.h"
 #include "platform/qt/FileMimeData.h"
 #include "platform/qt/InputRegion.h"
+#include "platform/wayland/Connection.h"
 #include "platform/wayland/PointerRelease.h"
+#include "support/Debug.h"
 
 namespace vantle {
 namespace {
 
 DragPile::Edges possibleEdges() {
     return compositorIsRunning() ? DragPile::Edges::soft : DragPile::Edges::opaque;
+}
+
+/// On X11 the target's own answers are heard.
+void logPromise(Qt::DropAction action) {
+    Debug::log([action] {
+        return std::string("drop target promised=") +
+               (action == Qt::IgnoreAction ? "false" : "true");
+    });
 }
 
 /// One drag, from its beginning to the answer of whoever it was dropped on.
@@ -48,6 +58,7 @@ public:
         drag->setMimeData(contents(media).release());
         drag->setPixmap(QPixmap::fromImage(pile_.picture));
         drag->setHotSpot(hotSpot_);
+        if (wayland::display()) connect(drag, &QDrag::actionChanged, drag, logPromise);
         // Without the keyboard Escape would go to the window that has it.
         window_->setKeyboardGrabEnabled(true);
         const Qt::DropAction action = drag->exec(Qt::CopyAction);

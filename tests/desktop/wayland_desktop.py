@@ -1,0 +1,141 @@
+"""A Wayland desktop inside a private one: a compositor in a window that fills it, with XWayland.
+
+So the pointer and the keyboard of the private desktop are real ones for the compositor, and what
+its screen shows is what the compositor shows.
+"""
+
+import os
+import pathlib
+import shutil
+
+from privatedesktop import wait_until
+
+_NOBODY = 65534
+
+
+class WaylandDesktop:
+    """Has what Program and WatchedFolder need of a desktop. It ends with the private desktop.
+
+    A subclass names itself as XDG_CURRENT_DESKTOP does, and starts its compositor.
+    """
+
+    name = None
+
+    def __init__(self, host):
+        self._host = host
+        self.screen = host.screen
+        self.log_folder = host.log_folder
+        self.folder = host.home.parent / self.name
+        self.home = self.folder / "home"
+        self._make_folders()
+        self.environment = self._environment()
+        self._start_bus()
+        self._host.run("xhost", "+local:")
+        self._start_compositor()
+        self._fill_screen()
+
+    def _make_folders(self):
+        (self.home / "Desktop").mkdir(parents=True)
+        (self.folder / "runtime").mkdir(mode=0o700)
+        # Its user has to get through.
+        self._host.home.parent.chmod(0o755)
+        self.give_to_user()
+
+    def _environment(self):
+        folders = {
+            "HOME": self.home,
+            "TMPDIR": self.folder,
+            "XDG_RUNTIME_DIR": self.folder / "runtime",
+            "XDG_CONFIG_HOME": self.home / ".config",
+            "XDG_DATA_HOME": self.home / ".local/share",
+            "XDG_STATE_HOME": self.home / ".local/state",
+            "XDG_CACHE_HOME": self.home / ".cache",
+        }
+        return {
+            **self._host.environment,
+            **{name: str(path) for name, path in folders.items()},
+            "XDG_CURRENT_DESKTOP": self.name,
+            "XDG_SESSION_TYPE": "wayland",
+            "DBUS_SESSION_BUS_ADDRESS": f"unix:path={self.folder}/runtime/bus",
+        }
+
+    def as_user(self, *command):
+        """Compositors refuse to be root's, and only who started XWayland may use it."""
+        if os.geteuid() != 0:
+            return list(command)
+        return ["setpriv", f"--reuid={_NOBODY}", f"--regid={_NOBODY}", "--clear-groups", *command]
+
+    def give_to_user(self):
+        """What was written so far is its user's."""
+        if os.geteuid() != 0:
+            return
+        for path in (self.folder, *self.folder.rglob("*")):
+            shutil.chown(path, _NOBODY, _NOBODY)
+
+    def _command(self, command):
+        variables = [f"{name}={text}" for name, text in self.environment.items()]
+        return self.as_user("env", *variables, *map(str, command))
+
+    def start(self, *command):
+        """Starts a program of its user's."""
+        return self._host.start(*self._command(command))
+
+    def run(self, *command, **options):
+        """Runs a program of its user's to its end and returns what subprocess.run returns."""
+        return self._host.run(*self._command(command), **options)
+
+    def _start_bus(self):
+        self.start("dbus-daemon", "--session", "--nofork", "--nopidfile",
+                   "--address", self.environment["DBUS_SESSION_BUS_ADDRESS"])
+        wait_until((self.folder / "runtime/bus").exists, "the session bus listens")
+
+    def _start_compositor(self):
+        """Starts it and sets in the environment by which names programs find it."""
+        raise NotImplementedError
+
+    def _wait_for_names(self, *names):
+        """Until a program of the compositor's has told these variables, which then are set."""
+        told = self.home / "told"
+        texts = wait_until(lambda: told.exists() and told.read_text().split(),
+                           f"the compositor of {self.name} starts")
+        self.environment.update(zip(names, texts, strict=True))
+
+    def _fill_screen(self):
+        [window] = wait_until(self.screen.client_list, "the compositor's window opens")
+        self.screen.change_state(window, 1, "_NET_WM_STATE_FULLSCREEN")
+        wait_until(
+            lambda: self.screen.area(window).box == (0, 0, *self.screen.size), "it fills the screen"
+        )
+
+
+class NativeWindow:
+    """A window that speaks Wayland, and tells what reaches it. It fills the screen."""
+
+    def __init__(self, desktop):
+        program = pathlib.Path(__file__).with_name("native_window.py")
+        desktop.start("sh", "-c", f'GDK_BACKEND=wayland exec "{program}" >> "$TMPDIR/native.log"')
+        self._log = desktop.folder / "native.log"
+        wait_until(lambda: "focus" in self._told(), "the native window has the keyboard")
+
+    def _told(self):
+        return self._log.read_text() if self._log.exists() else ""
+
+    def _all(self, kind):
+        lines = [line.split(" ", 1) for line in self._told().splitlines() if " " in line]
+        return [text for name, text in lines if name == kind]
+
+    def clicks(self):
+        return [tuple(map(int, text.split())) for text in self._all("click")]
+
+    def typed(self):
+        return "".join(self._all("key"))
+
+    def is_asked(self):
+        """Whether something is dragged over it."""
+        return bool(self._all("drag"))
+
+    def dropped(self):
+        return self._all("drop")
+
+    def has_lost_focus(self):
+        return "blur" in self._told()
