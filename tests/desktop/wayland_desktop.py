@@ -8,7 +8,7 @@ import os
 import pathlib
 import shutil
 
-from privatedesktop import wait_until
+from privatedesktop import DesktopFailure, WaitTimeout, wait_until
 
 _NOBODY = 65534
 
@@ -115,7 +115,14 @@ class NativeWindow:
         program = pathlib.Path(__file__).with_name("native_window.py")
         desktop.start("sh", "-c", f'GDK_BACKEND=wayland exec "{program}" >> "$TMPDIR/native.log"')
         self._log = desktop.folder / "native.log"
-        wait_until(lambda: "focus" in self._told(), "the native window has the keyboard")
+        self._wait_for_keyboard()
+
+    def _wait_for_keyboard(self):
+        try:
+            wait_until(lambda: "focus" in self._told(), "the native window has the keyboard")
+        except WaitTimeout as error:
+            # Not what a test may expect to wait for in vain.
+            raise DesktopFailure(str(error)) from error
 
     def _told(self):
         return self._log.read_text() if self._log.exists() else ""
