@@ -15,7 +15,7 @@
 #include "platform/qt/QtGeometry.h"
 #include "platform/wayland/Connection.h"
 #include "platform/wayland/Outputs.h"
-#include "platform/wayland/PopupSurface.h"
+#include "platform/wayland/OverlaySurface.h"
 
 Q_IMPORT_QML_PLUGIN(Vantle_MenusPlugin)
 
@@ -67,12 +67,13 @@ void MenuWindow::showOnLayer(Overlay& host, const QRect& anchor) {
     setScreen(host.window().screen());
     create();
     const QRect inHost = anchor.translated(-host.window().position());
-    keyboard_ = host.borrowKeyboard();
+    // Before the popup has the pointer: then no other window gets it.
+    if (!wayland::globals().isKWin) keyboard_ = host.borrowKeyboard();
     popup_ = std::make_unique<wayland::PopupSurface>(
         wayland::surface(*this), host.layer(),
-        wayland::PopupSurface::Place{.anchor = inHost,
-                                     .kept = plate().marginsAdded({edge, 0, edge, 0}),
-                                     .offset = {-edge, gap}});
+        wayland::PopupSurface::below(inHost, plate().marginsAdded({edge, 0, edge, 0}),
+                                     {-edge, gap}),
+        wayland::PopupSurface::Grab::pointer);
     const auto close = [this] { closeMenu(); };
     popup_->onDismissed = [this, close] {
         QMetaObject::invokeMethod(this, close, Qt::QueuedConnection);

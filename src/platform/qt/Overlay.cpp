@@ -2,11 +2,13 @@
 
 #include <QGuiApplication>
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "platform/qt/QtGeometry.h"
-#include "platform/wayland/LayerSurface.h"
+#include "platform/wayland/Connection.h"
 #include "platform/wayland/Outputs.h"
+#include "platform/wayland/OverlaySurface.h"
 
 namespace vantle {
 namespace {
@@ -104,15 +106,23 @@ void Overlay::showOnLayer() {
     window_.setScreen(&screen);
     window_.setGeometry(frame_);
     window_.create();
-    layer_ = std::make_unique<wayland::LayerSurface>(wayland::surface(window_), place);
+    layer_ = std::make_unique<wayland::OverlaySurface>(
+        wayland::surface(window_), place,
+        hasKeyboard_ ? wayland::OverlaySurface::Keyboard::possible
+                     : wayland::OverlaySurface::Keyboard::never);
     layer_->onClosed = [this] {
         QMetaObject::invokeMethod(
             this, [this] { closed(); }, Qt::QueuedConnection);
     };
-    if (layer_->size().isEmpty())
+    if (layer_->isRefused())
         closed();
     else
         window_.show();
+}
+
+void Overlay::showAgain() {
+    hide();
+    showOnLayer();
 }
 
 void Overlay::hide() {
@@ -152,11 +162,10 @@ Overlay::BorrowedKeyboard Overlay::borrowKeyboard() {
 }
 
 void Overlay::takeKeyboard() {
-    hasKeyboard_ = true;
-    if (layer_)
-        layer_->takeKeyboard();
-    else
-        keyboard_.take();
+    if (std::exchange(hasKeyboard_, true)) return;
+    if (!layer_) return keyboard_.take();
+    if (wayland::globals().isKWin) showAgain();
+    if (layer_) layer_->takeKeyboard();
 }
 
 void Overlay::giveBackKeyboard() {

@@ -12,7 +12,7 @@
 namespace vantle {
 
 namespace wayland {
-class LayerSurface;
+class OverlaySurface;
 }
 
 /// Shows a window above all others at a place of its own, on every workspace, where no window
@@ -39,7 +39,7 @@ public:
     static Overlay* onLayerAt(const QPoint& place);
 
     QWindow& window() const { return window_; }
-    wayland::LayerSurface& layer() const { return *layer_; }
+    wayland::OverlaySurface& layer() const { return *layer_; }
 
     /// While it is held, the window has the keyboard.
     using BorrowedKeyboard = std::shared_ptr<void>;
@@ -56,6 +56,9 @@ signals:
 
 private:
     void showOnLayer();
+    /// As another surface, on a compositor that gives some the keyboard with each click and others
+    /// never.
+    void showAgain();
     void closed();
     void showOnRemainingScreen();
 
@@ -64,7 +67,7 @@ private:
     QRect frame_;
     QRect area_;                ///< In which the frame stands, of its screen.
     QPointer<QScreen> screen_;  ///< On which the layer is.
-    std::unique_ptr<wayland::LayerSurface> layer_;
+    std::unique_ptr<wayland::OverlaySurface> layer_;
     bool hasKeyboard_ = false;
     bool lostScreen_ = false;  ///< While it is to be shown and there is none for it.
 };

@@ -11,6 +11,8 @@
 namespace vantle::wayland {
 namespace {
 
+constexpr std::string_view kwinInterface = "org_kde_plasma_shell";
+
 /// Null where the toolkit speaks to another display server.
 QPlatformNativeInterface* toolkit() {
     const bool isWayland = QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
@@ -27,9 +29,8 @@ void bind(Object*& object, wl_registry* registry, std::uint32_t name, std::uint3
 void bindOffered(void* data, wl_registry* registry, std::uint32_t name, const char* interface,
                  std::uint32_t version) {
     auto& globals = *static_cast<Globals*>(data);
-    const auto isOffered = [offered = std::string_view(interface)](const wl_interface& wanted) {
-        return offered == wanted.name;
-    };
+    const std::string_view offered = interface;
+    const auto isOffered = [offered](const wl_interface& wanted) { return offered == wanted.name; };
     if (isOffered(wl_compositor_interface))
         bind(globals.compositor, registry, name, version, wl_compositor_interface, 4);
     else if (isOffered(wl_shm_interface))
@@ -42,6 +43,8 @@ void bindOffered(void* data, wl_registry* registry, std::uint32_t name, const ch
     else if (isOffered(datacontrol::managerInterface))
         bind(globals.dataControl, registry, name, version, datacontrol::managerInterface,
              datacontrol::version);
+    else if (offered == kwinInterface)
+        globals.isKWin = true;
     else if (isOffered(blur::managerInterface))
         bind(globals.blur, registry, name, version, blur::managerInterface, blur::version);
 }

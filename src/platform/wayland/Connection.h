@@ -37,6 +37,10 @@ struct Globals {
     blur::Manager* blur = nullptr;
     datacontrol::Manager* dataControl = nullptr;
     xdg_wm_base* shell = nullptr;  ///< Of ordinary windows and popups.
+    /// Known by what only it offers. It gives a popup that has the pointer the keyboard, too, as
+    /// the protocol says, where compositors on wlroots leave it where it is; and it gives the
+    /// keyboard to a layer surface that is clicked, whether that wants it or not.
+    bool isKWin = false;
 };
 
 const Globals& globals();

@@ -3,6 +3,7 @@
 namespace vantle::wayland {
 namespace {
 
+/// By which users may name it in the settings of their compositor.
 constexpr auto surfaceName = "vantle";
 
 }  // namespace

@@ -1,41 +1,13 @@
 #include "platform/wayland/Outputs.h"
 
-#include <sys/mman.h>
-#include <unistd.h>
-
 #include <QGuiApplication>
 #include <algorithm>
 
 #include "platform/wayland/LayerSurface.h"
-#include "support/FileDescriptor.h"
+#include "platform/wayland/OwnSurface.h"
 
 namespace vantle::wayland {
 namespace {
-
-struct SurfaceDeleter {
-    void operator()(wl_surface* surface) const { wl_surface_destroy(surface); }
-};
-struct BufferDeleter {
-    void operator()(wl_buffer* buffer) const { wl_buffer_destroy(buffer); }
-};
-
-using OwnSurface = std::unique_ptr<wl_surface, SurfaceDeleter>;
-using OwnBuffer = std::unique_ptr<wl_buffer, BufferDeleter>;
-
-OwnSurface makeSurface() {
-    return OwnSurface(wl_compositor_create_surface(globals().compositor));
-}
-
-/// Of one pixel through which everything shines.
-OwnBuffer makeEmptyBuffer() {
-    constexpr int bytes = 4;
-    const FileDescriptor file(memfd_create("vantle pixel", MFD_CLOEXEC));
-    if (file.get() < 0 || ftruncate(file.get(), bytes) != 0) return nullptr;
-    wl_shm_pool* pool = wl_shm_create_pool(globals().sharedMemory, file.get(), bytes);
-    OwnBuffer buffer(wl_shm_pool_create_buffer(pool, 0, 1, 1, bytes, WL_SHM_FORMAT_ARGB8888));
-    wl_shm_pool_destroy(pool);
-    return buffer;
-}
 
 void enter(void* data, wl_surface*, wl_output* entered) {
     *static_cast<wl_output**>(data) = entered;
@@ -52,12 +24,10 @@ wl_output* chosenOutput() {
     const OwnBuffer buffer = makeEmptyBuffer();
     const OwnSurface surface = makeSurface();
     wl_surface_add_listener(surface.get(), &surfaceListener, &chosen);
-    wl_surface_set_input_region(surface.get(), makeRegion({}).get());
     const LayerSurface role(surface.get(),
                             {.anchors = layershell::top | layershell::left, .size = {1, 1}});
     if (!buffer || role.size().isEmpty()) return nullptr;
-    wl_surface_attach(surface.get(), buffer.get(), 0, 0);
-    wl_surface_commit(surface.get());
+    show(surface.get(), buffer.get());
     for (int turn = 0; turn < turns && !chosen; ++turn)
         if (wl_display_roundtrip_queue(display(), globals().queue) < 0) break;
     return chosen;

@@ -10,13 +10,10 @@ xdg_positioner* makePositioner(const PopupSurface::Place& place) {
     xdg_positioner_set_size(positioner, place.kept.width(), place.kept.height());
     xdg_positioner_set_anchor_rect(positioner, place.anchor.x(), place.anchor.y(),
                                    place.anchor.width(), place.anchor.height());
-    xdg_positioner_set_anchor(positioner, XDG_POSITIONER_ANCHOR_BOTTOM_LEFT);
-    xdg_positioner_set_gravity(positioner, XDG_POSITIONER_GRAVITY_BOTTOM_RIGHT);
+    xdg_positioner_set_anchor(positioner, place.corner);
+    xdg_positioner_set_gravity(positioner, place.gravity);
     xdg_positioner_set_offset(positioner, place.offset.x(), place.offset.y());
-    xdg_positioner_set_constraint_adjustment(positioner,
-                                             XDG_POSITIONER_CONSTRAINT_ADJUSTMENT_FLIP_Y |
-                                                 XDG_POSITIONER_CONSTRAINT_ADJUSTMENT_SLIDE_X |
-                                                 XDG_POSITIONER_CONSTRAINT_ADJUSTMENT_SLIDE_Y);
+    xdg_positioner_set_constraint_adjustment(positioner, place.adjustments);
     return positioner;
 }
 
@@ -34,19 +31,32 @@ void placedAgain(void*, xdg_popup*, std::uint32_t) {}
 
 }  // namespace
 
-PopupSurface::PopupSurface(wl_surface* surface, LayerSurface& parent, const Place& place)
+PopupSurface::Place PopupSurface::below(const QRect& anchor, const QRect& kept,
+                                        const QPoint& offset) {
+    return {.anchor = anchor,
+            .kept = kept,
+            .offset = offset,
+            .corner = XDG_POSITIONER_ANCHOR_BOTTOM_LEFT,
+            .gravity = XDG_POSITIONER_GRAVITY_BOTTOM_RIGHT,
+            .adjustments = XDG_POSITIONER_CONSTRAINT_ADJUSTMENT_FLIP_Y |
+                           XDG_POSITIONER_CONSTRAINT_ADJUSTMENT_SLIDE_X |
+                           XDG_POSITIONER_CONSTRAINT_ADJUSTMENT_SLIDE_Y};
+}
+
+PopupSurface::PopupSurface(wl_surface* surface, PopupParent& parent, const Place& place, Grab grab)
     : surface_(makeShellSurface(surface)) {
     static constexpr xdg_surface_listener surfaceListener{configured};
     xdg_surface_add_listener(surface_, &surfaceListener, this);
     xdg_positioner* positioner = makePositioner(place);
-    popup_ = xdg_surface_get_popup(surface_, nullptr, positioner);
+    popup_ = xdg_surface_get_popup(surface_, parent.shellSurface(), positioner);
     xdg_positioner_destroy(positioner);
     xdg_surface_set_window_geometry(surface_, place.kept.x(), place.kept.y(), place.kept.width(),
                                     place.kept.height());
     static constexpr xdg_popup_listener popupListener{placed, dismissed, placedAgain};
     xdg_popup_add_listener(popup_, &popupListener, this);
-    parent.adopt(popup_);
-    if (wl_seat* user = seat()) xdg_popup_grab(popup_, user, lastInputSerial());
+    if (!parent.shellSurface()) parent.adopt(popup_);
+    wl_seat* user = grab == Grab::pointer ? seat() : nullptr;
+    if (user) xdg_popup_grab(popup_, user, lastInputSerial());
     wl_surface_commit(surface);
     waitUntilConfigured();
 }

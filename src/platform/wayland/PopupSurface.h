@@ -10,24 +10,45 @@ struct xdg_surface;
 
 namespace vantle::wayland {
 
-/// The role of a surface that opens beside a part of a layer surface and is above it. It has the
-/// pointer: a click elsewhere dismisses it. Main thread only.
+/// What a popup stands beside and above.
+class PopupParent {
+public:
+    /// Null where the parent has none; then it adopts the popup.
+    virtual xdg_surface* shellSurface() const = 0;
+    virtual void adopt(xdg_popup* popup) = 0;
+
+protected:
+    ~PopupParent() = default;
+};
+
+/// The role of a surface that stands beside a part of another one and above it. Main thread only.
 class PopupSurface {
 public:
     struct Place {
-        QRect anchor;   ///< What it points to, in the layer surface.
-        QRect kept;     ///< The part of the popup's own surface that is kept on the screen.
-        QPoint offset;  ///< Of that part from the anchor's lower left corner.
+        QRect anchor;                   ///< The part of the parent.
+        QRect kept;                     ///< The part of the popup's own surface that is placed.
+        QPoint offset;                  ///< Of that part, from the anchor's corner.
+        std::uint32_t corner;           ///< Of the anchor, in the protocol's numbers.
+        std::uint32_t gravity;          ///< Where it goes from there.
+        std::uint32_t adjustments = 0;  ///< What the compositor may do to keep it on the screen.
     };
 
-    /// It stands below the anchor, or above it where there is no room. `surface` has no role and no
-    /// contents yet, and outlives this, as `parent` does. Returns once the compositor has placed
-    /// it: now it may be given contents. It is made while the user's last click or key is the
-    /// reason for it.
-    PopupSurface(wl_surface* surface, LayerSurface& parent, const Place& place);
+    /// Below the anchor, or above it where there is no room.
+    static Place below(const QRect& anchor, const QRect& kept, const QPoint& offset);
+
+    enum class Grab {
+        nothing,
+        pointer,  ///< A click elsewhere dismisses it. The user's last click or key is its reason.
+    };
+
+    /// `surface` has no role and no contents yet, and outlives this, as `parent` does. Returns once
+    /// the compositor has placed it: now it may be given contents.
+    PopupSurface(wl_surface* surface, PopupParent& parent, const Place& place, Grab grab);
     ~PopupSurface();
     PopupSurface(const PopupSurface&) = delete;
     PopupSurface& operator=(const PopupSurface&) = delete;
+
+    xdg_surface* shellSurface() const { return surface_; }
 
     /// Whether the compositor has taken it away, as it does when one clicks elsewhere.
     bool isDismissed() const { return isDismissed_; }
