@@ -109,9 +109,9 @@ TEST_F(PosixProcessLauncherTest, AFileThatIsNoProgramCannotBeStarted) {
 TEST_F(PosixProcessLauncherTest, VariablesThatAreItsOwnStayWithThisProgram) {
     setenv("VANTLE_TEST_OWN", "own", 1);
     setenv("VANTLE_TEST_OWN_TOO", "everybody's", 1);
-    PosixProcessLauncher discreet({"VANTLE_TEST_OWN"});
+    PosixProcessLauncher reserved({"VANTLE_TEST_OWN"});
     EXPECT_EQ(outputOf("echo $VANTLE_TEST_OWN, $VANTLE_TEST_OWN_TOO"), "own, everybody's\n");
-    EXPECT_EQ(outputOf("echo $VANTLE_TEST_OWN, $VANTLE_TEST_OWN_TOO", discreet), ", everybody's\n");
+    EXPECT_EQ(outputOf("echo $VANTLE_TEST_OWN, $VANTLE_TEST_OWN_TOO", reserved), ", everybody's\n");
 }
 
 TEST_F(PosixProcessLauncherTest, NothingIsLeftBehindToCollect) {
