@@ -50,6 +50,7 @@ void MenuWindow::open(const Menu& menu, const Anchor& anchor, Ended ended) {
     if (anchor.window && wayland::display()) return showOver(*anchor.window, frame);
     if (Overlay* host = Overlay::onLayerAt(anchor.frame.center()))
         return showOnLayer(*host, anchor.frame);
+    if (wayland::offersLayers()) return showAt(anchor.frame.center());
     overlay_.setFrame(frame);
     overlay_.show();
 }
@@ -82,6 +83,11 @@ void MenuWindow::showOnLayer(Overlay& host, const QRect& anchor) {
     readKeysOf(host.window());
     show();
     if (popup_->isDismissed()) popup_->onDismissed();
+}
+
+void MenuWindow::showAt(const QPoint& place) {
+    if (!anchor_) anchor_ = std::make_unique<MenuAnchor>();
+    anchor_->show(place, [this, place] { showOnLayer(anchor_->overlay(), {place, QSize(1, 1)}); });
 }
 
 void MenuWindow::readKeysOf(QWindow& window) {
@@ -204,6 +210,7 @@ void MenuWindow::end(std::optional<int> chosen) {
     if (!ended) return;
     letGo();
     overlay_.hide();
+    if (anchor_) anchor_->hide();
     // A surface has its role for good.
     if (wayland::display()) destroy();
     // What is done may open the menu again.

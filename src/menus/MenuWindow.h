@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "menus/MenuAnchor.h"
 #include "menus/MenuModel.h"
 #include "panel/views/ViewWindow.h"
 #include "platform/qt/Overlay.h"
@@ -54,6 +55,8 @@ private:
     QRect plate() const;
     /// Over an overlay, at whose place only the compositor can keep something.
     void showOnLayer(Overlay& host, const QRect& anchor);
+    /// Where there is none.
+    void showAt(const QPoint& place);
     void readKeysOf(QWindow& window);
     void grab();
     void letGo();
@@ -63,6 +66,7 @@ private:
 
     MenuModel model_;
     Overlay overlay_;
+    std::unique_ptr<MenuAnchor> anchor_;  ///< Made when it is needed.
     std::unique_ptr<wayland::PopupSurface> popup_;
     Overlay::BorrowedKeyboard keyboard_;
     QMetaObject::Connection hostEnds_;
