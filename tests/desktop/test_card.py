@@ -122,6 +122,10 @@ def test_keyboard_on_request(desktop, vantle, folder, assistant, binary):
     assert desktop.screen.focused_window() == other.number
     desktop.run(binary, "--focus-panel")
     wait_until(lambda: assistant.in_state("focused") == ["3.png"], "the newest has the keyboard")
+    desktop.screen.pointer.click(300, 300)
+    wait_until(lambda: desktop.screen.focused_window() == other.number, "a click takes it away")
+    desktop.run(binary, "--focus-panel")
+    wait_until(lambda: assistant.in_state("focused") == ["3.png"], "it comes again")
     press = desktop.screen.keyboard.press
     press("Left")
     wait_until(lambda: assistant.in_state("focused") == ["2.png"], "its neighbour has it")

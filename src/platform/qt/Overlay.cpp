@@ -99,6 +99,7 @@ void Overlay::show() {
 void Overlay::showOnLayer() {
     QScreen& screen = screenAt(frame_.center());
     area_ = wayland::usableArea(screen);
+    if (!wayland::output(screen)) return waitForScreen();
     const auto place = placeIn(area_, frame_, screen);
     if (layer_ && screen_ == &screen) return layer_->move(place);
     hide();
@@ -137,9 +138,13 @@ void Overlay::hide() {
 
 void Overlay::closed() {
     if (!layer_) return;
+    waitForScreen();
+    showOnRemainingScreen();
+}
+
+void Overlay::waitForScreen() {
     hide();
     lostScreen_ = true;
-    showOnRemainingScreen();
 }
 
 void Overlay::showOnRemainingScreen() {
@@ -162,10 +167,13 @@ Overlay::BorrowedKeyboard Overlay::borrowKeyboard() {
 }
 
 void Overlay::takeKeyboard() {
-    if (std::exchange(hasKeyboard_, true)) return;
+    const bool couldHaveIt = std::exchange(hasKeyboard_, true);
     if (!layer_) return keyboard_.take();
-    if (wayland::globals().isKWin) showAgain();
-    if (layer_) layer_->takeKeyboard();
+    if (wayland::globals().isKWin && !couldHaveIt) showAgain();
+    if (!layer_) return;
+    // Asked anew: somebody may have clicked another window since.
+    if (couldHaveIt) layer_->giveBackKeyboard();
+    layer_->takeKeyboard();
 }
 
 void Overlay::giveBackKeyboard() {

@@ -60,6 +60,7 @@ private:
     /// never.
     void showAgain();
     void closed();
+    void waitForScreen();
     void showOnRemainingScreen();
 
     QWindow& window_;
