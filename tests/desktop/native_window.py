@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """A window of GTK that tells on its standard output which clicks, keys and files reach it."""
 
+import sys
 import warnings
 
 import gi
@@ -25,11 +26,23 @@ def on_event(_, event):
     return False
 
 
+def refuse(_, context, x, y, time):
+    """What it has promised to take."""
+    tell("refused", x, y)
+    Gtk.drag_finish(context, False, False, time)
+    return True
+
+
 def main():
     window = Gtk.Window(title="Native window")
     window.add_events(Gdk.EventMask.BUTTON_PRESS_MASK)
-    window.drag_dest_set(Gtk.DestDefaults.ALL, [], Gdk.DragAction.COPY)
-    window.drag_dest_add_uri_targets()
+    if "--takes-no-files" not in sys.argv:
+        window.drag_dest_set(Gtk.DestDefaults.ALL, [], Gdk.DragAction.COPY)
+        window.drag_dest_add_uri_targets()
+    if "--breaks-promises" in sys.argv:
+        window.drag_dest_set(Gtk.DestDefaults.MOTION, [], Gdk.DragAction.COPY)
+        window.drag_dest_add_uri_targets()
+        window.connect("drag-drop", refuse)
     window.connect("focus-in-event", lambda *_: tell("focus"))
     window.connect("focus-out-event", lambda *_: tell("blur"))
     window.connect("event", on_event)

@@ -10,14 +10,11 @@ from conftest import require_peer
 from mutter_desktop import MutterDesktop
 from pictures import is_one_pattern
 from privatedesktop import Rectangle, WaitTimeout, wait_until
-from using import BUTTONS, Drag
-from wayland_checks import click_on_glass, click_through, corner, program_on, show_one
+from using import Drag
+from wayland_checks import click_on_glass, click_through, corner, press, program_on, show_one
 from wayland_desktop import NativeWindow
 
 pytestmark = pytest.mark.desktop(tray=False, compositor=False)
-
-# From the right edge of a tile to that of its card.
-_MARGIN = 13
 
 
 def is_mutter_43():
@@ -145,7 +142,7 @@ def test_native_programs_paste_what_was_copied(mutter, vantle):
     require_peer("wl-paste")
     vantle.start_watching()
     tile = show_one(mutter, vantle)
-    mutter.screen.pointer.click(tile.right + _MARGIN - BUTTONS["copy"], tile.bottom + 26)
+    press(mutter, tile, "copy")
     vantle.wait_for_log("tap icon doc.on.doc")
     wait_until(lambda: "text/uri-list" in pasted(mutter, "--list-types"), "it is offered")
     types = pasted(mutter, "--list-types")

@@ -10,13 +10,24 @@ import pytest
 from PIL import Image
 
 from conftest import require_peer
-from panel_checks import encoded, expected_frame
-from pictures import RED, YELLOW, is_one_pattern, mask_of, pattern
+from panel_checks import expected_frame
+from pictures import RED, YELLOW, is_one_pattern, mask_of
 from privatedesktop import Rectangle, WaitTimeout, wait_until, wait_until_still
 from sway_desktop import SwayDesktop
 from test_idle import MEASURED_SECONDS
-from using import BUTTONS, Drag
-from wayland_checks import click_on_glass, click_through, corner, program_on, show_one
+from using import Drag
+from wayland_checks import (
+    check_pasted,
+    click_on_glass,
+    click_through,
+    corner,
+    is_gone,
+    pasted,
+    press,
+    program_on,
+    save,
+    show_one,
+)
 from wayland_desktop import NativeWindow
 
 pytestmark = pytest.mark.desktop(tray=False, compositor=False)
@@ -27,9 +38,6 @@ bar {
     status_command while echo bar; do sleep 60; done
 }
 """
-# From the right edge of a tile to that of its card, and from its lower edge to the buttons.
-_MARGIN = 13
-_BUTTONS_BELOW_TILE = 26
 
 
 @pytest.fixture
@@ -44,19 +52,6 @@ def sway(request, desktop):
 def vantle(sway, binary):
     with program_on(sway, binary) as program:
         yield program
-
-
-def save(sway, name):
-    (sway.home / "Desktop" / name).write_bytes(encoded(pattern()))
-
-
-def press(sway, tile, button):
-    place = tile.right + _MARGIN - BUTTONS[button], tile.bottom + _BUTTONS_BELOW_TILE
-    sway.screen.pointer.click(*place)
-
-
-def is_gone(sway):
-    return mask_of(sway.screen.screenshot(corner(sway)), RED).getbbox() is None
 
 
 def picture_around(sway, tile):
@@ -227,6 +222,15 @@ def test_dragged_into_a_native_file_manager(sway, vantle):
     wait_until(lambda: (target / "shot.png").read_bytes() == original, "it is whole")
 
 
+def test_what_a_window_promised_and_did_not_take_is_no_use(sway, binary):
+    with program_on(sway, binary, deleteAfterUse="true") as vantle:
+        NativeWindow(sway, "--breaks-promises")
+        vantle.start_watching()
+        tile = show_one(sway, vantle)
+        assert not Drag(sway, vantle, tile.centre).hold_over(400, 300).drop()
+        wait_until(lambda: is_one_pattern(sway.screen.screenshot(corner(sway))), "it is back")
+
+
 def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(sway, vantle):
     vantle.start_watching()
     tile = show_one(sway, vantle)
@@ -287,22 +291,6 @@ def test_a_line_of_the_share_menu_is_chosen_by_keys(sway, vantle):
     for key in ("Down", "Return"):
         sway.screen.keyboard.press(key)
     wait_until(lambda: "text/uri-list" in pasted(sway, "--list-types"), "it is copied")
-
-
-def pasted(sway, *arguments):
-    """What wl-paste prints; nothing that counts while the clipboard is empty."""
-    return sway.run("wl-paste", *arguments, check=False, text=True).stdout
-
-
-def check_pasted(sway):
-    wait_until(lambda: "image/png" in pasted(sway, "--list-types"), "it is offered")
-    types = pasted(sway, "--list-types").split()
-    assert types[0] == "image/png"
-    assert {"image/jpeg", "text/uri-list", "x-special/gnome-copied-files"} <= set(types)
-    file = sway.home / "Desktop/shot.png"
-    assert pasted(sway, "--type", "text/uri-list").split() == [file.as_uri()]
-    sway.run("sh", "-c", 'wl-paste --type image/png > "$TMPDIR/pasted"')
-    assert (sway.folder / "pasted").read_bytes() == file.read_bytes()
 
 
 def test_native_programs_paste_what_was_copied(sway, vantle):
@@ -420,12 +408,30 @@ def test_it_survives_the_outputs_that_it_stands_on(sway, vantle):
 
 
 @pytest.mark.sway(_BAR % "bottom")
-def test_the_bar_shows_its_icon(sway, vantle):
+def test_the_menu_of_its_icon_in_the_bar(sway, vantle):
     vantle.start_watching()
-    wait_until(
-        lambda: "tray: on D-Bus" in vantle.command("--status", "--verbose")[1],
-        "the icon is in the tray",
-    )
+    width, height = sway.screen.size
+    # The bar draws no menus, and leaves them to the program.
+    beside = Rectangle(width - 220, height - 250, 200, 200)
+    empty = sway.screen.screenshot(beside).tobytes()
+
+    def is_open():
+        return sway.screen.screenshot(beside).tobytes() != empty
+
+    def open_menu():
+        sway.screen.pointer.click(width - 11, height - 11)
+        return is_open()
+
+    wait_until(open_menu, "a click on the icon opens it", interval=1)
+    sway.screen.keyboard.press("Escape")
+    wait_until(lambda: not is_open(), "Escape closes it")
+    wait_until(open_menu, "it opens again", interval=1)
+    sway.screen.pointer.click(300, 300)
+    wait_until(lambda: not is_open(), "a click beside it closes it")
+    wait_until(open_menu, "it opens once more", interval=1)
+    sway.screen.keyboard.type("p")
+    sway.screen.keyboard.press("Return")
+    wait_until(lambda: "state: paused" in vantle.command("--status")[1], "a line is chosen")
 
 
 def test_the_end_of_the_compositor_ends_it(sway, vantle):

@@ -5,6 +5,11 @@ import contextlib
 from panel_checks import encoded, expected_frame
 from pictures import RED, YELLOW, is_one_pattern, mask_of, pattern
 from privatedesktop import Program, Rectangle, wait_until, wait_until_still
+from using import BUTTONS
+
+# From the right edge of a tile to that of its card, and from its lower edge to the buttons.
+_MARGIN = 13
+_BUTTONS_BELOW_TILE = 26
 
 
 @contextlib.contextmanager
@@ -25,9 +30,13 @@ def corner(desktop):
     return expected_frame(Rectangle(0, 0, *desktop.screen.size), "bottomRight")
 
 
+def save(desktop, name):
+    (desktop.home / "Desktop" / name).write_bytes(encoded(pattern()))
+
+
 def show_one(desktop, vantle, name="shot.png"):
     """Returns where its tile stands on the screen."""
-    (desktop.home / "Desktop" / name).write_bytes(encoded(pattern()))
+    save(desktop, name)
     vantle.wait_for_log(f"captured {name}")
     frame = corner(desktop)
     wait_until(lambda: is_one_pattern(desktop.screen.screenshot(frame)), "the tile stands")
@@ -35,6 +44,15 @@ def show_one(desktop, vantle, name="shot.png"):
     first, last = mask_of(picture, RED).getbbox(), mask_of(picture, YELLOW).getbbox()
     width, height = last[2] - first[0], last[3] - first[1]
     return Rectangle(frame.x + first[0], frame.y + first[1], width, height)
+
+
+def is_gone(desktop):
+    return mask_of(desktop.screen.screenshot(corner(desktop)), RED).getbbox() is None
+
+
+def press(desktop, tile, button):
+    place = tile.right + _MARGIN - BUTTONS[button], tile.bottom + _BUTTONS_BELOW_TILE
+    desktop.screen.pointer.click(*place)
 
 
 def on_glass(tile):
@@ -54,3 +72,19 @@ def click_through(desktop, window, points):
         desktop.screen.pointer.click(*point)
         wait_until(lambda: len(window.clicks()) == number, f"the click at {point} arrives")
     assert window.clicks() == points
+
+
+def pasted(desktop, *arguments):
+    """What wl-paste prints; nothing that counts while the clipboard is empty."""
+    return desktop.run("wl-paste", *arguments, check=False, text=True).stdout
+
+
+def check_pasted(desktop):
+    wait_until(lambda: "image/png" in pasted(desktop, "--list-types"), "it is offered")
+    types = pasted(desktop, "--list-types").split()
+    assert types[0] == "image/png"
+    assert {"image/jpeg", "text/uri-list", "x-special/gnome-copied-files"} <= set(types)
+    file = desktop.home / "Desktop/shot.png"
+    assert pasted(desktop, "--type", "text/uri-list").split() == [file.as_uri()]
+    desktop.run("sh", "-c", 'wl-paste --type image/png > "$TMPDIR/pasted"')
+    assert (desktop.folder / "pasted").read_bytes() == file.read_bytes()

@@ -111,15 +111,16 @@ class WaylandDesktop:
 class NativeWindow:
     """A window that speaks Wayland, and tells what reaches it. It fills the screen."""
 
-    def __init__(self, desktop):
+    def __init__(self, desktop, *options):
         program = pathlib.Path(__file__).with_name("native_window.py")
-        desktop.start("sh", "-c", f'GDK_BACKEND=wayland exec "{program}" >> "$TMPDIR/native.log"')
+        desktop.start("env", "GDK_BACKEND=wayland",
+                      "sh", "-c", 'exec "$@" >> "$TMPDIR/native.log"', "sh", program, *options)
         self._log = desktop.folder / "native.log"
         self._wait_for_keyboard()
 
     def _wait_for_keyboard(self):
         try:
-            wait_until(lambda: "focus" in self._told(), "the native window has the keyboard")
+            wait_until(self.has_focus, "the native window has the keyboard")
         except WaitTimeout as error:
             # Not what a test may expect to wait for in vain.
             raise DesktopFailure(str(error)) from error
@@ -146,3 +147,8 @@ class NativeWindow:
 
     def has_lost_focus(self):
         return "blur" in self._told()
+
+    def has_focus(self):
+        """Whether it has it now; to have lost it is to have been without it for a moment."""
+        changes = [line for line in self._told().splitlines() if line in ("focus", "blur")]
+        return changes[-1:] == ["focus"]

@@ -56,6 +56,7 @@ QStringList FileMimeData::formats() const {
 }
 
 QVariant FileMimeData::retrieveData(const QString& type, QMetaType) const {
+    *wasRead_ = true;
     if (picture_ && picture_->types().contains(type)) return picture_->as(type);
     if (!fileFormats().contains(type)) return {};
     if (type == transferKey) return portal_.keyFor(files_);

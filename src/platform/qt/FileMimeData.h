@@ -27,6 +27,9 @@ public:
 
     QStringList formats() const override;
 
+    /// Becomes true when somebody reads any of it, and outlives this.
+    std::shared_ptr<const bool> readMark() const { return wasRead_; }
+
 protected:
     QVariant retrieveData(const QString& type, QMetaType wanted) const override;
 
@@ -38,6 +41,7 @@ private:
     const Use use_;
     const FileTransferPortal portal_;
     const bool hasPortal_;
+    const std::shared_ptr<bool> wasRead_ = std::make_shared<bool>(false);
 };
 
 }  // namespace vantle

@@ -53,9 +53,15 @@ public:
             finish(DragOperation::none);
             return;
         }
-        if (DragSelection::isNeeded()) selection_.emplace(contents(media));
+        auto carried = contents(media);
+        wasRead_ = carried->readMark();
+        if (DragSelection::isNeeded()) {
+            auto selected = contents(media);
+            wasRead_ = selected->readMark();
+            selection_.emplace(std::move(selected));
+        }
         auto* drag = new QDrag(window_);
-        drag->setMimeData(contents(media).release());
+        drag->setMimeData(carried.release());
         drag->setPixmap(QPixmap::fromImage(pile_.picture));
         drag->setHotSpot(hotSpot_);
         if (wayland::display()) connect(drag, &QDrag::actionChanged, drag, logPromise);
@@ -70,12 +76,18 @@ public:
             finish(DragOperation::none);
         else
             answer_.wait([this](bool wasTaken) {
-                finish(wasTaken ? DragOperation::copy : DragOperation::none);
+                finish(wasTaken && isBelievable() ? DragOperation::copy : DragOperation::none);
             });
     }
 
 private:
-    std::unique_ptr<QMimeData> contents(const std::shared_ptr<MediaLoader>& media) const {
+    /// A Wayland compositor tells only what was promised: who has read nothing has taken nothing.
+    bool isBelievable() const {
+        const bool isCompositorsWord = wayland::display() || selection_;
+        return !isCompositorsWord || *wasRead_;
+    }
+
+    std::unique_ptr<FileMimeData> contents(const std::shared_ptr<MediaLoader>& media) const {
         const bool isPicture =
             urls_.size() == 1 && Capture::kind(urls_.front()) == CaptureKind::image;
         auto picture = isPicture ? PictureContents::open(urls_.front(), media) : nullptr;
@@ -97,6 +109,7 @@ private:
     const DraggingSessions::Ended ended_;
     DropAnswer answer_;
     std::optional<DragSelection> selection_;
+    std::shared_ptr<const bool> wasRead_;
 };
 
 }  // namespace
