@@ -1,6 +1,5 @@
 #include "menus/MenuAnchor.h"
 
-#include <QPainter>
 #include <utility>
 
 #include "platform/qt/InputRegion.h"
@@ -13,9 +12,6 @@ constexpr int patience = 200;  // milliseconds
 }  // namespace
 
 MenuAnchor::MenuAnchor() : overlay_(*this, Overlay::Focus::accepted) {
-    QSurfaceFormat format = requestedFormat();
-    format.setAlphaBufferSize(8);
-    setFormat(format);
     patience_.setSingleShot(true);
     patience_.setInterval(patience);
     connect(&patience_, &QTimer::timeout, this, &MenuAnchor::tellReady);
@@ -38,7 +34,7 @@ void MenuAnchor::hide() {
 
 bool MenuAnchor::event(QEvent* event) {
     if (event->type() == QEvent::Expose && isExposed()) setInputRegion(*this, {});
-    const bool isHandled = QRasterWindow::event(event);
+    const bool isHandled = ClearWindow::event(event);
     if (event->type() == QEvent::FocusIn) tellReady();
     return isHandled;
 }
@@ -46,12 +42,6 @@ bool MenuAnchor::event(QEvent* event) {
 void MenuAnchor::tellReady() {
     patience_.stop();
     if (const auto ready = std::exchange(ready_, nullptr)) ready();
-}
-
-void MenuAnchor::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(QRect(QPoint(), size()), Qt::transparent);
 }
 
 }  // namespace vantle

@@ -1,16 +1,16 @@
 #pragma once
 
-#include <QRasterWindow>
 #include <QTimer>
 #include <functional>
 
+#include "platform/qt/ClearWindow.h"
 #include "platform/qt/Overlay.h"
 
 namespace vantle {
 
 /// What a menu stands beside where no window of ours is, on Wayland: a point that nobody sees. A
 /// menu by itself could neither notice a click elsewhere nor have the keyboard.
-class MenuAnchor final : public QRasterWindow {
+class MenuAnchor final : public ClearWindow {
 public:
     MenuAnchor();
 
@@ -23,7 +23,6 @@ public:
 
 protected:
     bool event(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     void tellReady();

@@ -254,6 +254,16 @@ def test_escape_ends_a_drag(sway, vantle):
     vantle.wait_for_log("thumb drag ended op=0")
 
 
+def test_it_ends_in_peace_in_the_middle_of_a_drag(sway, vantle):
+    NativeWindow(sway)
+    vantle.start_watching()
+    tile = show_one(sway, vantle)
+    drag = Drag(sway, vantle, tile.centre).hold_over(400, 300)
+    assert vantle.command("--quit")[0] == 0
+    drag.move(500, 400)
+    assert vantle.wait_for_end() == 0
+
+
 def test_the_share_menu_opens_over_the_card_and_closes(sway, vantle):
     window = NativeWindow(sway)
     vantle.start_watching()

@@ -7,6 +7,7 @@
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusMetaType>
+#include <QDrag>
 #include <QGuiApplication>
 #include <QVariantMap>
 #include <QWindow>
@@ -293,6 +294,8 @@ void DBusApplication::activate() {
 
 void DBusApplication::terminate() {
     giveUpName();
+    // What a compositor says of a drag that went on would meet none any more: Qt falls over that.
+    QDrag::cancel();
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 

@@ -37,9 +37,6 @@ FlyBack::FlyBack(QImage picture)
     : picture_(std::move(picture)),
       size_((QSizeF(picture_.size()) / picture_.devicePixelRatio()).toSize()),
       overlay_(*this) {
-    QSurfaceFormat format = requestedFormat();
-    format.setAlphaBufferSize(8);
-    setFormat(format);
     flight_.setDuration(duration);
     flight_.setEasingCurve(QEasingCurve::OutCubic);
     connect(&flight_, &QVariantAnimation::valueChanged, this,
@@ -74,7 +71,7 @@ bool FlyBack::event(QEvent* event) {
         flight_.setStartValue(place_);
         flight_.start();
     }
-    return QRasterWindow::event(event);
+    return ClearWindow::event(event);
 }
 
 void FlyBack::moveTo(const QPoint& place) {
@@ -87,10 +84,8 @@ void FlyBack::moveTo(const QPoint& place) {
 }
 
 void FlyBack::paintEvent(QPaintEvent* event) {
+    ClearWindow::paintEvent(event);
     QPainter painter(this);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(event->rect(), Qt::transparent);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     if (!coversScreen_)
         painter.drawImage(0, 0, picture_);
     else if (flight_.state() == QAbstractAnimation::Running)

@@ -2,18 +2,18 @@
 
 #include <QImage>
 #include <QPoint>
-#include <QRasterWindow>
 #include <QTimer>
 #include <QVariantAnimation>
 #include <memory>
 
+#include "platform/qt/ClearWindow.h"
 #include "platform/qt/Overlay.h"
 
 namespace vantle {
 
 /// The picture of a drag that nobody took, on its way back to where it started. Deletes itself when
 /// it is there.
-class FlyBack final : public QRasterWindow {
+class FlyBack final : public ClearWindow {
     Q_OBJECT
 
 public:

@@ -1,0 +1,26 @@
+#include "platform/qt/ClearWindow.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+namespace vantle {
+
+ClearWindow::ClearWindow() {
+    QSurfaceFormat format = requestedFormat();
+    format.setAlphaBufferSize(8);
+    setFormat(format);
+}
+
+bool ClearWindow::event(QEvent* event) {
+    // On Wayland Qt still has a window painted that has been closed meanwhile, and falls over that.
+    const bool isTooLate = event->type() == QEvent::Paint && !handle();
+    return isTooLate || QRasterWindow::event(event);
+}
+
+void ClearWindow::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(event->rect(), Qt::transparent);
+}
+
+}  // namespace vantle

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QRasterWindow>
+
+namespace vantle {
+
+/// A window through which everything shines where nothing is painted.
+class ClearWindow : public QRasterWindow {
+protected:
+    ClearWindow();
+
+    bool event(QEvent* event) override;
+    /// Clears what is to be painted.
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace vantle
