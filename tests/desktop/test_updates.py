@@ -225,6 +225,10 @@ def test_a_check_from_the_menu_of_the_tray(desktop, vantle, screens, publisher, 
     publisher.publish(later(), version_of(vantle))
     vantle.start_watching()
     screens.wait_for_text("Vantle is up to date")
+    # It can be read before it has the keyboard.
+    wait_until(
+        lambda: desktop.screen.active_window() == find_window(desktop, TITLE), "it is active"
+    )
     desktop.screen.keyboard.press("Escape")
     wait_until(lambda: not find_window(desktop, TITLE), "the window closes")
     icon = Icon(desktop, "top")
