@@ -115,10 +115,8 @@ void Overlay::showOnLayer() {
         QMetaObject::invokeMethod(
             this, [this] { closed(); }, Qt::QueuedConnection);
     };
-    if (layer_->isRefused())
-        closed();
-    else
-        window_.show();
+    if (layer_->isRefused()) return waitForScreen();
+    window_.show();
 }
 
 void Overlay::showAgain() {
@@ -139,7 +137,8 @@ void Overlay::hide() {
 void Overlay::closed() {
     if (!layer_) return;
     waitForScreen();
-    showOnRemainingScreen();
+    // The end of its screen may be told later, and brings us there as well.
+    if (!screen_) showOnRemainingScreen();
 }
 
 void Overlay::waitForScreen() {

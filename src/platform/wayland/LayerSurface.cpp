@@ -24,7 +24,7 @@ LayerSurface::~LayerSurface() {
 }
 
 void LayerSurface::waitUntilConfigured() {
-    while (size_.isEmpty() && !isClosed_)
+    while (!isConfigured_ && !isClosed_)
         if (wl_display_dispatch_queue(display(), globals().queue) < 0) return;
     useToolkitQueue(role_);
     wl_display_dispatch_queue_pending(display(), globals().queue);
@@ -33,8 +33,9 @@ void LayerSurface::waitUntilConfigured() {
 void LayerSurface::configured(void* data, layershell::Surface* role, std::uint32_t serial,
                               std::uint32_t width, std::uint32_t height) {
     layershell::ackConfigure(role, serial);
-    static_cast<LayerSurface*>(data)->size_ =
-        QSize(static_cast<int>(width), static_cast<int>(height));
+    auto& self = *static_cast<LayerSurface*>(data);
+    self.size_ = QSize(static_cast<int>(width), static_cast<int>(height));
+    self.isConfigured_ = true;
 }
 
 void LayerSurface::closed(void* data, layershell::Surface*) {

@@ -28,7 +28,10 @@ public:
     LayerSurface(const LayerSurface&) = delete;
     LayerSurface& operator=(const LayerSurface&) = delete;
 
-    /// As the compositor has set it; empty when it has refused the surface.
+    /// Whether the compositor has not taken it, or has taken it away.
+    bool isRefused() const { return !isConfigured_ || isClosed_; }
+
+    /// As the compositor has set it; empty where it leaves that to the program.
     QSize size() const { return size_; }
 
     /// On the same output.
@@ -53,6 +56,7 @@ private:
     wl_surface* const surface_;
     layershell::Surface* role_;
     QSize size_;
+    bool isConfigured_ = false;
     bool isClosed_ = false;
 };
 

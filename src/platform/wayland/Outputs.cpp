@@ -26,7 +26,7 @@ wl_output* chosenOutput() {
     wl_surface_add_listener(surface.get(), &surfaceListener, &chosen);
     const LayerSurface role(surface.get(),
                             {.anchors = layershell::top | layershell::left, .size = {1, 1}});
-    if (!buffer || role.size().isEmpty()) return nullptr;
+    if (!buffer || role.isRefused()) return nullptr;
     show(surface.get(), buffer.get());
     for (int turn = 0; turn < turns && !chosen; ++turn)
         if (wl_display_roundtrip_queue(display(), globals().queue) < 0) break;

@@ -52,7 +52,7 @@ void OverlaySurface::placeBesideAnchor(wl_surface* surface, LayerSurface::Place 
     pixel_ = makeEmptyBuffer();
     anchor_ = makeSurface();
     layer_ = std::make_unique<LayerSurface>(anchor_.get(), place);
-    if (layer_->size().isEmpty()) return;
+    if (layer_->isRefused()) return;
     show(anchor_.get(), pixel_.get());
     popup_ = std::make_unique<PopupSurface>(surface, *this,
                                             PopupSurface::Place{.anchor = {QPoint(), pixelSize},
@@ -63,7 +63,7 @@ void OverlaySurface::placeBesideAnchor(wl_surface* surface, LayerSurface::Place 
 }
 
 bool OverlaySurface::isRefused() const {
-    return layer_->size().isEmpty() || (popup_ && popup_->isDismissed());
+    return layer_->isRefused() || (popup_ && popup_->isDismissed());
 }
 
 void OverlaySurface::move(const LayerSurface::Place& place) {

@@ -33,6 +33,8 @@ void forget(void*, wl_registry*, std::uint32_t) {}
 }  // namespace
 
 Offer askCompositor() {
+    // A connection that was handed to this program is the toolkit's: it can be used but once.
+    if (qEnvironmentVariableIsSet("WAYLAND_SOCKET")) return Offer::none;
     const std::unique_ptr<wl_display, ConnectionDeleter> connection(wl_display_connect(nullptr));
     if (!connection) return Offer::none;
     Offer offer = Offer::windows;

@@ -9,7 +9,7 @@ namespace vantle::wayland {
 
 /// What the compositor of the session offers to place windows with.
 enum class Offer {
-    none,      ///< No compositor answers.
+    none,      ///< No compositor answers, or none can be asked.
     windows,   ///< It places all windows itself.
     overlays,  ///< It lets programs place some (layer-shell).
 };
