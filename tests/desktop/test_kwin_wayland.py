@@ -5,17 +5,21 @@ import pytest
 from conftest import require_peer
 from kwin_wayland_desktop import KWinDesktop
 from pictures import is_one_pattern
-from privatedesktop import Rectangle, wait_until, wait_until_still
+from privatedesktop import wait_until, wait_until_still
 from using import Drag
 from wayland_checks import (
+    check_above_a_full_screen_window,
+    check_clicks_beside_it_pass,
+    check_copied_by_itself,
+    check_corner,
+    check_dragged_into_a_native_window,
+    check_focus_stays,
+    check_keyboard_on_request,
     check_pasted,
-    click_on_glass,
     click_through,
     corner,
-    is_gone,
     press,
     program_on,
-    save,
     show_one,
 )
 from wayland_desktop import NativeWindow
@@ -43,17 +47,11 @@ def test_it_speaks_wayland_there_and_says_so(vantle):
 
 
 def test_the_card_stands_in_its_corner(kwin, vantle):
-    vantle.start_watching()
-    tile = show_one(kwin, vantle)
-    width, height = kwin.screen.size
-    assert 10 < width - tile.right < 40
-    assert 50 < height - tile.bottom < 90
+    check_corner(kwin, vantle)
 
 
 def test_above_a_full_screen_window(kwin, vantle):
-    NativeWindow(kwin)
-    vantle.start_watching()
-    show_one(kwin, vantle)
+    check_above_a_full_screen_window(kwin, vantle)
 
 
 def test_stays_above_a_window_that_becomes_full_screen(kwin, vantle):
@@ -66,53 +64,19 @@ def test_stays_above_a_window_that_becomes_full_screen(kwin, vantle):
 
 
 def test_clicks_outside_the_card_reach_the_window_underneath(kwin, vantle):
-    window = NativeWindow(kwin)
-    vantle.start_watching()
-    tile = show_one(kwin, vantle)
-    click_on_glass(kwin, vantle, tile)
-    frame = corner(kwin)
-    click_through(kwin, window, [
-        (frame.x - 5, frame.centre[1]), (frame.centre[0], frame.y - 5), (300, 300),
-        (frame.x + 60, frame.y + 60), (tile.x - 24, tile.centre[1]), (tile.x, frame.y + 10),
-    ])  # fmt: skip
+    check_clicks_beside_it_pass(kwin, vantle)
 
 
 def test_the_focus_stays_where_one_types(kwin, vantle):
-    window = NativeWindow(kwin)
-    vantle.start_watching()
-    kwin.screen.keyboard.type("x")
-    tile = show_one(kwin, vantle)
-    kwin.screen.keyboard.type("y")
-    click_on_glass(kwin, vantle, tile)
-    kwin.screen.keyboard.type("z")
-    wait_until(lambda: window.typed() == "xyz", "all letters arrive")
-    assert not window.has_lost_focus()
+    check_focus_stays(kwin, vantle)
 
 
 def test_the_keyboard_comes_when_it_is_asked_for_and_goes_back(kwin, vantle):
-    window = NativeWindow(kwin)
-    vantle.start_watching()
-    show_one(kwin, vantle)
-    assert vantle.command("--focus-panel") == (0, "")
-    wait_until(window.has_lost_focus, "the card has the keyboard")
-    kwin.screen.keyboard.press("Escape")
-    wait_until(lambda: is_gone(kwin), "the card goes")
-    wait_until(window.has_focus, "the window has the keyboard again")
-    kwin.screen.keyboard.type("x")
-    wait_until(lambda: window.typed() == "x", "the letter arrives")
+    check_keyboard_on_request(kwin, vantle)
 
 
 def test_dragged_into_a_native_window(kwin, vantle):
-    window = NativeWindow(kwin)
-    vantle.start_watching()
-    tile = show_one(kwin, vantle)
-    drag = Drag(kwin, vantle, tile.centre).hold_over(400, 300)
-    around = Rectangle(200, 150, 700, 400)
-    wait_until(lambda: is_one_pattern(kwin.screen.screenshot(around)), "the preview is there")
-    assert drag.drop()
-    wait_until(window.dropped, "it is dropped")
-    assert window.dropped() == [(kwin.home / "Desktop/shot.png").as_uri()]
-    wait_until(lambda: is_gone(kwin), "the tile is used up")
+    check_dragged_into_a_native_window(kwin, vantle)
 
 
 def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(kwin, vantle):
@@ -147,8 +111,4 @@ def test_native_programs_paste_what_was_copied(kwin, vantle):
 
 def test_what_is_copied_by_itself_reaches_the_clipboard(kwin, binary):
     require_peer("wl-paste")
-    NativeWindow(kwin)
-    with program_on(kwin, binary, copyOnCapture="true") as vantle:
-        vantle.start_watching()
-        save(kwin, "shot.png")
-        check_pasted(kwin)
+    check_copied_by_itself(kwin, binary)

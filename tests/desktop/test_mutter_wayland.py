@@ -11,7 +11,18 @@ from mutter_desktop import MutterDesktop
 from pictures import is_one_pattern
 from privatedesktop import Rectangle, WaitTimeout, wait_until
 from using import Drag
-from wayland_checks import click_on_glass, click_through, corner, press, program_on, show_one
+from wayland_checks import (
+    check_above_a_full_screen_window,
+    check_corner,
+    check_dragged_into_a_native_window,
+    check_focus_stays,
+    click_on_glass,
+    click_through,
+    corner,
+    press,
+    program_on,
+    show_one,
+)
 from wayland_desktop import NativeWindow
 
 pytestmark = pytest.mark.desktop(tray=False, compositor=False)
@@ -42,17 +53,11 @@ def vantle(mutter, binary):
 
 
 def test_the_card_stands_in_its_corner(mutter, vantle):
-    vantle.start_watching()
-    tile = show_one(mutter, vantle)
-    width, height = mutter.screen.size
-    assert 10 < width - tile.right < 40
-    assert 50 < height - tile.bottom < 90
+    check_corner(mutter, vantle)
 
 
 def test_above_a_full_screen_window(mutter, vantle):
-    NativeWindow(mutter)
-    vantle.start_watching()
-    show_one(mutter, vantle)
+    check_above_a_full_screen_window(mutter, vantle)
 
 
 def test_clicks_outside_the_panel_reach_the_window_underneath(mutter, vantle):
@@ -80,15 +85,7 @@ def test_clicks_beside_the_card_reach_the_window_underneath(mutter, vantle):
 
 
 def test_the_focus_stays_where_one_types(mutter, vantle):
-    window = NativeWindow(mutter)
-    vantle.start_watching()
-    mutter.screen.keyboard.type("x")
-    tile = show_one(mutter, vantle)
-    mutter.screen.keyboard.type("y")
-    click_on_glass(mutter, vantle, tile)
-    mutter.screen.keyboard.type("z")
-    wait_until(lambda: window.typed() == "xyz", "all letters arrive")
-    assert not window.has_lost_focus()
+    check_focus_stays(mutter, vantle)
 
 
 def test_a_drag_is_promised_by_a_native_window_and_its_preview_follows(mutter, vantle):
@@ -104,12 +101,7 @@ def test_a_drag_is_promised_by_a_native_window_and_its_preview_follows(mutter, v
 
 
 def test_dragged_into_a_native_window(mutter, vantle):
-    window = NativeWindow(mutter)
-    vantle.start_watching()
-    tile = show_one(mutter, vantle)
-    Drag(mutter, vantle, tile.centre).hold_over(400, 300).drop()
-    wait_until(window.dropped, "it is dropped")
-    assert window.dropped() == [(mutter.home / "Desktop/shot.png").as_uri()]
+    check_dragged_into_a_native_window(mutter, vantle)
 
 
 def test_dropped_where_nobody_takes_it_the_tile_comes_back(mutter, vantle):

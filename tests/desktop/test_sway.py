@@ -17,9 +17,14 @@ from sway_desktop import SwayDesktop
 from test_idle import MEASURED_SECONDS
 from using import Drag
 from wayland_checks import (
+    check_above_a_full_screen_window,
+    check_clicks_beside_it_pass,
+    check_copied_by_itself,
+    check_corner,
+    check_dragged_into_a_native_window,
+    check_focus_stays,
+    check_keyboard_on_request,
     check_pasted,
-    click_on_glass,
-    click_through,
     corner,
     is_gone,
     pasted,
@@ -74,11 +79,7 @@ def test_one_may_choose_x11_nevertheless(sway, binary):
 
 
 def test_the_card_stands_in_its_corner(sway, vantle):
-    vantle.start_watching()
-    tile = show_one(sway, vantle)
-    width, height = sway.screen.size
-    assert 10 < width - tile.right < 40
-    assert 50 < height - tile.bottom < 90
+    check_corner(sway, vantle)
 
 
 @pytest.mark.sway(_BAR % "top")
@@ -108,9 +109,7 @@ def bar_height(sway):
 
 
 def test_above_a_full_screen_window(sway, vantle):
-    NativeWindow(sway)
-    vantle.start_watching()
-    show_one(sway, vantle)
+    check_above_a_full_screen_window(sway, vantle)
 
 
 def test_on_every_workspace(sway, vantle):
@@ -122,39 +121,15 @@ def test_on_every_workspace(sway, vantle):
 
 
 def test_clicks_outside_the_card_reach_the_window_underneath(sway, vantle):
-    window = NativeWindow(sway)
-    vantle.start_watching()
-    tile = show_one(sway, vantle)
-    click_on_glass(sway, vantle, tile)
-    frame = corner(sway)
-    click_through(sway, window, [
-        (frame.x - 5, frame.centre[1]), (frame.centre[0], frame.y - 5), (300, 300),
-        (frame.x + 60, frame.y + 60), (tile.x - 24, tile.centre[1]), (tile.x, frame.y + 10),
-    ])  # fmt: skip
+    check_clicks_beside_it_pass(sway, vantle)
 
 
 def test_the_focus_stays_where_one_types(sway, vantle):
-    window = NativeWindow(sway)
-    vantle.start_watching()
-    sway.screen.keyboard.type("x")
-    tile = show_one(sway, vantle)
-    sway.screen.keyboard.type("y")
-    click_on_glass(sway, vantle, tile)
-    sway.screen.keyboard.type("z")
-    wait_until(lambda: window.typed() == "xyz", "all letters arrive")
-    assert not window.has_lost_focus()
+    check_focus_stays(sway, vantle)
 
 
 def test_the_keyboard_comes_when_it_is_asked_for_and_goes_back(sway, vantle):
-    window = NativeWindow(sway)
-    vantle.start_watching()
-    show_one(sway, vantle)
-    assert vantle.command("--focus-panel") == (0, "")
-    wait_until(window.has_lost_focus, "the card has the keyboard")
-    sway.screen.keyboard.press("Escape")
-    wait_until(lambda: is_gone(sway), "the card goes")
-    sway.screen.keyboard.type("x")
-    wait_until(lambda: window.typed() == "x", "the window has the keyboard again")
+    check_keyboard_on_request(sway, vantle)
 
 
 def test_it_comes_again_after_it_was_dismissed(sway, vantle):
@@ -194,16 +169,7 @@ def test_a_marquee_selects_and_a_drag_takes_all_of_it(sway, vantle):
 
 
 def test_dragged_into_a_native_window(sway, vantle):
-    window = NativeWindow(sway)
-    vantle.start_watching()
-    tile = show_one(sway, vantle)
-    drag = Drag(sway, vantle, tile.centre).hold_over(400, 300)
-    around = Rectangle(300, 200, 800, 500)
-    wait_until(lambda: is_one_pattern(sway.screen.screenshot(around)), "the preview is there")
-    assert drag.drop()
-    wait_until(window.dropped, "it is dropped")
-    assert window.dropped() == [(sway.home / "Desktop/shot.png").as_uri()]
-    wait_until(lambda: is_gone(sway), "the tile is used up")
+    check_dragged_into_a_native_window(sway, vantle)
 
 
 def test_dragged_into_a_native_file_manager(sway, vantle):
@@ -312,11 +278,7 @@ def test_native_programs_paste_what_was_copied(sway, vantle):
 
 def test_what_is_copied_by_itself_reaches_the_clipboard(sway, binary):
     require_peer("wl-paste")
-    NativeWindow(sway)
-    with program_on(sway, binary, copyOnCapture="true") as vantle:
-        vantle.start_watching()
-        save(sway, "shot.png")
-        check_pasted(sway)
+    check_copied_by_itself(sway, binary)
 
 
 def test_who_does_not_read_the_clipboard_holds_nothing_up(sway, binary):

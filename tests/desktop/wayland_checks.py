@@ -5,7 +5,8 @@ import contextlib
 from panel_checks import encoded, expected_frame
 from pictures import RED, YELLOW, is_one_pattern, mask_of, pattern
 from privatedesktop import Program, Rectangle, wait_until, wait_until_still
-from using import BUTTONS
+from using import BUTTONS, Drag
+from wayland_desktop import NativeWindow
 
 # From the right edge of a tile to that of its card, and from its lower edge to the buttons.
 _MARGIN = 13
@@ -88,3 +89,76 @@ def check_pasted(desktop):
     assert pasted(desktop, "--type", "text/uri-list").split() == [file.as_uri()]
     desktop.run("sh", "-c", 'wl-paste --type image/png > "$TMPDIR/pasted"')
     assert (desktop.folder / "pasted").read_bytes() == file.read_bytes()
+
+
+def check_corner(desktop, vantle):
+    vantle.start_watching()
+    tile = show_one(desktop, vantle)
+    width, height = desktop.screen.size
+    assert 10 < width - tile.right < 40
+    assert 50 < height - tile.bottom < 90
+
+
+def check_above_a_full_screen_window(desktop, vantle):
+    NativeWindow(desktop)
+    vantle.start_watching()
+    show_one(desktop, vantle)
+
+
+def check_clicks_beside_it_pass(desktop, vantle):
+    """Also inside the panel's frame, after the card has been drawn again."""
+    window = NativeWindow(desktop)
+    vantle.start_watching()
+    tile = show_one(desktop, vantle)
+    click_on_glass(desktop, vantle, tile)
+    frame = corner(desktop)
+    click_through(desktop, window, [
+        (frame.x - 5, frame.centre[1]), (frame.centre[0], frame.y - 5), (300, 300),
+        (frame.x + 60, frame.y + 60), (tile.x - 24, tile.centre[1]), (tile.x, frame.y + 10),
+    ])  # fmt: skip
+
+
+def check_focus_stays(desktop, vantle):
+    window = NativeWindow(desktop)
+    vantle.start_watching()
+    desktop.screen.keyboard.type("x")
+    tile = show_one(desktop, vantle)
+    desktop.screen.keyboard.type("y")
+    click_on_glass(desktop, vantle, tile)
+    desktop.screen.keyboard.type("z")
+    wait_until(lambda: window.typed() == "xyz", "all letters arrive")
+    assert not window.has_lost_focus()
+
+
+def check_keyboard_on_request(desktop, vantle):
+    window = NativeWindow(desktop)
+    vantle.start_watching()
+    show_one(desktop, vantle)
+    assert vantle.command("--focus-panel") == (0, "")
+    wait_until(window.has_lost_focus, "the card has the keyboard")
+    desktop.screen.keyboard.press("Escape")
+    wait_until(lambda: is_gone(desktop), "the card goes")
+    wait_until(window.has_focus, "the window has the keyboard again")
+    desktop.screen.keyboard.type("x")
+    wait_until(lambda: window.typed() == "x", "the letter arrives")
+
+
+def check_dragged_into_a_native_window(desktop, vantle):
+    window = NativeWindow(desktop)
+    vantle.start_watching()
+    tile = show_one(desktop, vantle)
+    drag = Drag(desktop, vantle, tile.centre).hold_over(400, 300)
+    around = Rectangle(200, 150, 800, 500)
+    wait_until(lambda: is_one_pattern(desktop.screen.screenshot(around)), "the preview is there")
+    assert drag.drop()
+    wait_until(window.dropped, "it is dropped")
+    assert window.dropped() == [(desktop.home / "Desktop/shot.png").as_uri()]
+    wait_until(lambda: is_gone(desktop), "the tile is used up")
+
+
+def check_copied_by_itself(desktop, binary):
+    NativeWindow(desktop)
+    with program_on(desktop, binary, copyOnCapture="true") as vantle:
+        vantle.start_watching()
+        save(desktop, "shot.png")
+        check_pasted(desktop)
