@@ -107,11 +107,13 @@ DropAnswer::DropAnswer() {
 
 DropAnswer::~DropAnswer() = default;
 
-void DropAnswer::wait(std::function<void(bool wasTaken)> told) {
-    if (watch_)
-        watch_->wait(std::move(told));
-    else
-        told(true);
+void DropAnswer::wait(std::shared_ptr<const bool> wasRead,
+                      std::function<void(bool wasTaken)> told) {
+    if (!watch_) return told(*wasRead);
+    if (!x11::isXWayland()) return watch_->wait(std::move(told));
+    watch_->wait([wasRead = std::move(wasRead), told = std::move(told)](bool wasTaken) {
+        told(wasTaken && *wasRead);
+    });
 }
 
 }  // namespace vantle

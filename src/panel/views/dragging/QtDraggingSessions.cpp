@@ -75,18 +75,12 @@ public:
         if (action == Qt::IgnoreAction)
             finish(DragOperation::none);
         else
-            answer_.wait([this](bool wasTaken) {
-                finish(wasTaken && isBelievable() ? DragOperation::copy : DragOperation::none);
+            answer_.wait(wasRead_, [this](bool wasTaken) {
+                finish(wasTaken ? DragOperation::copy : DragOperation::none);
             });
     }
 
 private:
-    /// A Wayland compositor tells only what was promised: who has read nothing has taken nothing.
-    bool isBelievable() const {
-        const bool isCompositorsWord = wayland::display() || selection_;
-        return !isCompositorsWord || *wasRead_;
-    }
-
     std::unique_ptr<FileMimeData> contents(const std::shared_ptr<MediaLoader>& media) const {
         const bool isPicture =
             urls_.size() == 1 && Capture::kind(urls_.front()) == CaptureKind::image;
