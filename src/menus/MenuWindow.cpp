@@ -65,13 +65,14 @@ void MenuWindow::showOver(QWindow& window, const QRect& frame) {
 }
 
 void MenuWindow::showOnLayer(Overlay& host, const QRect& anchor) {
+    if (!host.layer()) return closeMenu();
     setScreen(host.window().screen());
     create();
     const QRect inHost = anchor.translated(-host.window().position());
     // Before the popup has the pointer: then no other window gets it.
     if (!wayland::globals().isKWin) keyboard_ = host.borrowKeyboard();
     popup_ = std::make_unique<wayland::PopupSurface>(
-        wayland::surface(*this), host.layer(),
+        wayland::surface(*this), *host.layer(),
         wayland::PopupSurface::below(inHost, plate().marginsAdded({edge, 0, edge, 0}),
                                      {-edge, gap}),
         wayland::PopupSurface::Grab::pointer);

@@ -39,7 +39,8 @@ public:
     static Overlay* onLayerAt(const QPoint& place);
 
     QWindow& window() const { return window_; }
-    wayland::OverlaySurface& layer() const { return *layer_; }
+    /// Null while it is not shown on one.
+    wayland::OverlaySurface* layer() const { return layer_.get(); }
 
     /// While it is held, the window has the keyboard.
     using BorrowedKeyboard = std::shared_ptr<void>;
