@@ -12,13 +12,14 @@ from pictures import is_one_pattern
 from privatedesktop import Rectangle, WaitTimeout, wait_until
 from using import Drag
 from wayland_checks import (
+    beside_card,
     check_above_a_full_screen_window,
+    check_clicks_pass,
     check_corner,
     check_dragged_into_a_native_window,
     check_focus_stays,
-    click_on_glass,
-    click_through,
     corner,
+    outside_panel,
     press,
     program_on,
     show_one,
@@ -61,27 +62,12 @@ def test_above_a_full_screen_window(mutter, vantle):
 
 
 def test_clicks_outside_the_panel_reach_the_window_underneath(mutter, vantle):
-    window = NativeWindow(mutter)
-    vantle.start_watching()
-    tile = show_one(mutter, vantle)
-    frame = corner(mutter)
-    click_on_glass(mutter, vantle, tile)
-    click_through(mutter, window, [
-        (frame.x - 5, frame.centre[1]), (frame.centre[0], frame.y - 5), (300, 300),
-    ])  # fmt: skip
+    check_clicks_pass(mutter, vantle, outside_panel)
 
 
 @fails_under_mutter_43("It gives a window of X all clicks in its frame once it is drawn again")
 def test_clicks_beside_the_card_reach_the_window_underneath(mutter, vantle):
-    window = NativeWindow(mutter)
-    vantle.start_watching()
-    tile = show_one(mutter, vantle)
-    # The card is drawn again.
-    click_on_glass(mutter, vantle, tile)
-    frame = corner(mutter)
-    click_through(mutter, window, [
-        (frame.x + 60, frame.y + 60), (tile.x - 24, tile.centre[1]), (tile.x, frame.y + 10),
-    ])  # fmt: skip
+    check_clicks_pass(mutter, vantle, beside_card)
 
 
 def test_the_focus_stays_where_one_types(mutter, vantle):

@@ -105,17 +105,23 @@ def check_above_a_full_screen_window(desktop, vantle):
     show_one(desktop, vantle)
 
 
-def check_clicks_beside_it_pass(desktop, vantle):
-    """Also inside the panel's frame, after the card has been drawn again."""
+def outside_panel(frame, _):
+    return [(frame.x - 5, frame.centre[1]), (frame.centre[0], frame.y - 5), (300, 300)]
+
+
+def beside_card(frame, tile):
+    """Inside the panel's frame."""
+    return [(frame.x + 60, frame.y + 60), (tile.x - 24, tile.centre[1]), (tile.x, frame.y + 10)]
+
+
+def check_clicks_pass(desktop, vantle, *places):
+    """Also after the card has been drawn again."""
     window = NativeWindow(desktop)
     vantle.start_watching()
     tile = show_one(desktop, vantle)
     click_on_glass(desktop, vantle, tile)
     frame = corner(desktop)
-    click_through(desktop, window, [
-        (frame.x - 5, frame.centre[1]), (frame.centre[0], frame.y - 5), (300, 300),
-        (frame.x + 60, frame.y + 60), (tile.x - 24, tile.centre[1]), (tile.x, frame.y + 10),
-    ])  # fmt: skip
+    click_through(desktop, window, [point for where in places for point in where(frame, tile)])
 
 
 def check_focus_stays(desktop, vantle):
