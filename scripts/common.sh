@@ -51,6 +51,20 @@ is_installed() {
   [[ $(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
 }
 
+# is_known PACKAGE: whether this release has it, by the package lists of the latest update.
+is_known() { apt-cache show "$1" >/dev/null 2>&1; }
+
+# missing_packages LIST...: the lines "name reason" of what the lists name and this machine lacks.
+# A name with a question mark counts only where the release has the package.
+missing_packages() {
+  local name reason
+  while read -r name reason; do
+    if is_installed "${name%\?}"; then continue; fi
+    if [[ $name == *\? ]] && ! is_known "${name%\?}"; then continue; fi
+    printf '%-32s %s\n' "${name%\?}" "$reason"
+  done < <(package_lines "$@")
+}
+
 # Runs a command as root, by sudo where needed. Without a terminal sudo must not ask.
 as_root() {
   if ((EUID == 0)); then
@@ -111,27 +125,34 @@ run_apt_install() {
 install_missing() {
   if [[ -n ${VANTLE_SKIP_PACKAGES-} ]]; then return; fi
   require_apt
-  local name reason missing=() lines=()
-  while read -r name reason; do
-    if is_installed "$name"; then continue; fi
-    missing+=("$name")
-    lines+=("$(printf '%-32s %s' "$name" "$reason")")
-  done < <(package_lines "$@")
-  if ((${#missing[@]} == 0)); then return; fi
+  local lines
+  mapfile -t lines < <(missing_packages "$@")
+  if ((${#lines[@]} == 0)); then return; fi
 
-  say "Installing what is missing here (${#missing[@]} packages and what they depend on):"
+  require_root "${lines[@]%% *}"
+  update_package_lists
+  # Only now is it sure what this release has.
+  mapfile -t lines < <(missing_packages "$@")
+  say "Installing what is missing here (${#lines[@]} packages and what they depend on):"
   printf '    %s\n' "${lines[@]}"
-  require_root "${missing[@]}"
-  install_packages "${missing[@]}"
+  install_known "${lines[@]%% *}"
 }
 
 install_packages() {
-  local log=$logs/apt.log started=$SECONDS
+  update_package_lists
+  install_known "$@"
+}
+
+update_package_lists() {
   mkdir -p "$logs"
-  : >"$log"
   # A mirror that fails here need not be one that the packages come from: the install decides.
-  as_root apt-get update -q >>"$log" 2>&1 </dev/null ||
+  as_root apt-get update -q >"$logs/apt-update.log" 2>&1 </dev/null ||
     say "apt-get update failed; trying with the package lists of last time."
+}
+
+install_known() {
+  local log=$logs/apt.log started=$SECONDS
+  : >"$log"
   if ! run_apt_install "$log" "$@"; then
     fail_with_log "$log" "apt-get could not install what is missing." \
       "Check the network connection and /etc/apt/sources.list, then run this again." \
