@@ -33,10 +33,12 @@ def still(folder, name, seconds, *options):
 
 
 def turned(folder):
-    """Stored lying on its left side, with the order to turn it upright."""
-    still(folder, "lying.mp4", 1, "-vf", "transpose=cclock")
-    ffmpeg("-i", folder / "lying.mp4", "-c", "copy", "-metadata:s:v", "rotate=270",
-           folder / "portrait.mov")
+    """Stored lying on its left side, with the order to turn it upright: the matrix of its track."""
+    still(folder, "lying.mov", 1, "-vf", "transpose=cclock")
+    data = bytearray((folder / "lying.mov").read_bytes())
+    start = data.index(b"tkhd") + 44
+    data[start:start + 36] = struct.pack(">9i", 0, 1 << 16, 0, -1 << 16, 0, 0, 0, 0, 1 << 30)
+    (folder / "portrait.mov").write_bytes(data)
 
 
 def sound(folder):
