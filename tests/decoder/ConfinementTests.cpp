@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(Guards, ConfinementWithout,
 
 TEST(Confinement, ReportsOfFaultsTellTheGuardsThatAreInForce) {
     if (!hasLandlock()) GTEST_SKIP() << "this kernel lacks Landlock";
-    const std::string all = "png, jpeg, gif, tiff, heic, pdf, recording; ";
+    const std::string all = "png, jpeg, gif, tiff, heic, webp, pdf, recording; ";
     const auto guards = [&](const char* decoder) { return decoderFacts(decoder).back(); };
     EXPECT_EQ(guards(VANTLE_DECODER),
               (Fact{"decoders", all + "Landlock in force, seccomp in force"}));
@@ -89,9 +89,10 @@ TEST(Confinement, TheProgramItselfLoadsNoCodecAndNothingOfUpdates) {
     EXPECT_NE(libraries.find("libQt6Gui"), std::string::npos);
     // Not libpng, which Qt brings with it for its own icons.
     for (const auto* codec :
-         {"libisal", "libjpeg", "libturbojpeg", "libtiff", "libgif", "libheif", "libde265",
-          "libpoppler", "libavcodec", "libavformat", "libswscale", "liblcms", "libvantle",
-          "vantle-decoder", "libcurl", "libsodium", "libpugixml", "libarchive", "libssl"})
+         {"libisal",     "libjpeg",    "libturbojpeg", "libtiff",    "libgif",
+          "libheif",     "libde265",   "libwebp",      "libpoppler", "libavcodec",
+          "libavformat", "libswscale", "liblcms",      "libvantle",  "vantle-decoder",
+          "libcurl",     "libsodium",  "libpugixml",   "libarchive", "libssl"})
         EXPECT_EQ(libraries.find(codec), std::string::npos) << codec;
 }
 

@@ -37,7 +37,13 @@ INSTANTIATE_TEST_SUITE_P(Tiff, HonestImage,
                                          "tiled.tif", "tiled_deflate.tif", "strips.tif", "deep.tif",
                                          "deep_big_endian.tif", "planar.tif", "cmyk.tif",
                                          "directory_in_itself.tif"));
-INSTANTIATE_TEST_SUITE_P(Heic, HonestImage, testing::Values("quarters.heic", "large.heic"));
+INSTANTIATE_TEST_SUITE_P(Heic, HonestImage,
+                         testing::Values("quarters.heic", "large.heic", "quarters.avif",
+                                         "large.avif"));
+INSTANTIATE_TEST_SUITE_P(Webp, HonestImage,
+                         testing::Values("lossy.webp", "lossless.webp", "large.webp",
+                                         "animated.webp", "rotated.webp", "rotated_as_in_jpeg.webp",
+                                         "really_webp.png"));
 INSTANTIATE_TEST_SUITE_P(Pdf, HonestImage,
                          testing::Values("quarters.pdf", "after_garbage.pdf", "turned.pdf"));
 
@@ -60,7 +66,8 @@ TEST_P(TranslucentImage, IsPremultiplied) {
 INSTANTIATE_TEST_SUITE_P(Formats, TranslucentImage,
                          testing::Values("translucent.png", "deep_translucent.png",
                                          "interlaced_translucent.png", "straight_alpha.tif",
-                                         "translucent.heic"));
+                                         "translucent.heic", "translucent.avif", "translucent.webp",
+                                         "translucent_lossy.webp"));
 
 TEST(TransparentImage, HasNothingWhereItsColorIsTransparent) {
     for (const auto* name : {"transparent_color.png", "transparent.gif"}) {
@@ -81,6 +88,12 @@ TEST(TransparentImage, HasNothingWhereItsOnlyFrameIsNot) {
     const auto image = drawn("one_quarter.gif");
     ASSERT_NE(image, nullptr);
     EXPECT_THAT(quarters(*image), IsAbout(std::array{red, nothing, nothing, nothing}, 0));
+}
+
+TEST(TransparentImage, HasNothingAroundAFirstFrameThatBeginsFartherIn) {
+    const auto image = drawn("one_quarter.webp");
+    ASSERT_NE(image, nullptr);
+    EXPECT_THAT(quarters(*image), IsAbout(std::array{nothing, nothing, nothing, yellow}, 0));
 }
 
 class GrayImage : public testing::TestWithParam<const char*> {};
@@ -122,7 +135,8 @@ TEST_P(ProfiledImage, IsShownInTheColorsOfAScreen) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, ProfiledImage,
-                         testing::Values("profile.png", "profile.jpg", "profile.tif"));
+                         testing::Values("profile.png", "profile.jpg", "profile.tif",
+                                         "profile.webp", "profile.heic", "profile.avif"));
 
 TEST(ProfiledImageTest, MayBeTranslucent) {
     const auto image = drawn("profile_translucent.png");
@@ -163,17 +177,21 @@ INSTANTIATE_TEST_SUITE_P(Formats, DamagedImage,
                                          "cut_before_end.jpg", "cut_in_header.jpg",
                                          "zeros_at_end.jpg", "cut.gif", "cut.tif",
                                          "too_few_rows.tif", "missing_strip.tif", "cut.heic",
-                                         "cut.pdf", "no_pages.pdf", "empty.png", "text.png"));
+                                         "cut.avif", "cut.webp", "cut_before_end.webp",
+                                         "cut_in_header.webp", "no_frame.webp", "cut.pdf",
+                                         "no_pages.pdf", "empty.png", "text.png"));
 
 TEST(DecoderTest, WritesNothingAboutAnyFile) {
     if (!hasLandlock()) GTEST_SKIP() << "the program says once that this kernel lacks Landlock";
     testing::internal::CaptureStderr();
     for (const auto* name :
          {"cut.png", "flipped.png", "huge.png", "huge.jpg", "cut.jpg", "cut.gif", "huge.gif",
-          "cut.tif", "far_away.tif", "cut.heic", "cut.pdf", "recursive_pages.pdf", "letters.pdf"})
+          "cut.tif", "far_away.tif", "cut.heic", "cut.avif", "cut.webp", "huge_lossy.webp",
+          "cut.pdf", "recursive_pages.pdf", "letters.pdf"})
         drawn(name);
     Loader loader;
-    for (const auto* name : {"cut.mp4", "lying_index.mp4", "ten_seconds.mp4", "fragments.mp4"})
+    for (const auto* name : {"cut.mp4", "lying_index.mp4", "ten_seconds.mp4", "fragments.mp4",
+                             "cut.webm", "huge_frames.webm", "live.webm", "av1.webm"})
         if (const auto recording = loader.openRecording(file(name))) recording->frame(0.5, 800);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <fstream>
@@ -26,7 +27,8 @@ Bytes contents(const std::string& path) {
 }
 
 bool isRecording(const std::string& name) {
-    return name.ends_with(".mp4") || name.ends_with(".mov") || name.ends_with(".m4v");
+    constexpr std::array extensions = {".mp4", ".mov", ".m4v", ".webm", ".mkv"};
+    return std::ranges::any_of(extensions, [&](auto* each) { return name.ends_with(each); });
 }
 
 /// Opens whatever it is told to, and shows after it that the next good file still gets its picture.
@@ -90,14 +92,18 @@ TEST_P(CutOff, EverySampleAtManyPlacesHarmsNobody) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, CutOff,
-                         testing::Values(".png", ".jpg", ".gif", ".tif", ".tiff", ".heic", ".pdf",
-                                         ".mp4", ".mov", ".m4v"));
+                         testing::Values(".png", ".jpg", ".gif", ".tif", ".tiff", ".heic", ".avif",
+                                         ".webp", ".pdf", ".mp4", ".mov", ".m4v", ".webm", ".mkv"));
 
 /// One sample for each path through the decoder.
-constexpr std::array ofEachKind = {
-    "filters_rgba.png", "interlaced.png",  "palette.png",  "baseline.jpg", "progressive.jpg",
-    "interlaced.gif",   "strips.tif",      "tiled.tif",    "jpeg.tif",     "quarters.heic",
-    "letters.pdf",      "ten_seconds.mp4", "fragments.mp4"};
+constexpr std::array ofEachKind = {"filters_rgba.png", "interlaced.png",  "palette.png",
+                                   "baseline.jpg",     "progressive.jpg", "interlaced.gif",
+                                   "strips.tif",       "tiled.tif",       "jpeg.tif",
+                                   "quarters.heic",    "quarters.avif",   "lossy.webp",
+                                   "lossless.webp",    "animated.webp",   "translucent_lossy.webp",
+                                   "letters.pdf",      "ten_seconds.mp4", "fragments.mp4",
+                                   "live.webm",        "vp9.webm",        "av1.webm",
+                                   "h264.mkv"};
 
 class Flipped : public HostileFile, public testing::WithParamInterface<const char*> {};
 
@@ -142,14 +148,15 @@ TEST_P(Bomb, EndsInTimeAndWithinTheLimitOfMemory) {
     EXPECT_LT(peakMemory(file(GetParam())), limit);
 }
 
-INSTANTIATE_TEST_SUITE_P(Samples, Bomb,
-                         testing::Values("huge.png", "huge.jpg", "huge_progressive.jpg",
-                                         "large_progressive.jpg", "many_scans.jpg", "texts.png",
-                                         "huge.gif", "many_frames.gif", "huge.tif", "huge_tile.tif",
-                                         "four_gigabytes.tif", "directory_in_itself.tif",
-                                         "far_away.tif", "recursive_pages.pdf",
-                                         "recursive_form.pdf", "huge_page.pdf", "endless.pdf",
-                                         "lying_index.mp4", "long_index.mp4"));
+INSTANTIATE_TEST_SUITE_P(
+    Samples, Bomb,
+    testing::Values("huge.png", "huge.jpg", "huge_progressive.jpg", "large_progressive.jpg",
+                    "many_scans.jpg", "texts.png", "huge.gif", "many_frames.gif", "huge.tif",
+                    "huge_tile.tif", "four_gigabytes.tif", "directory_in_itself.tif",
+                    "far_away.tif", "recursive_pages.pdf", "recursive_form.pdf", "huge_page.pdf",
+                    "endless.pdf", "huge.webp", "huge_lossy.webp", "huge_canvas.webp",
+                    "large_canvas.webp", "many_frames.webp", "huge.avif", "huge.heic",
+                    "lying_index.mp4", "long_index.mp4", "huge_frames.webm", "large_frames.webm"));
 
 class LyingFile : public testing::TestWithParam<const char*> {};
 
@@ -160,10 +167,12 @@ TEST_P(LyingFile, GivesNoPicture) {
 INSTANTIATE_TEST_SUITE_P(Samples, LyingFile,
                          testing::Values("huge.png", "huge.jpg", "huge_progressive.jpg", "huge.gif",
                                          "huge.tif", "four_gigabytes.tif", "many_scans.jpg",
-                                         "recursive_pages.pdf", "huge_page.pdf"));
+                                         "recursive_pages.pdf", "huge_page.pdf", "huge.webp",
+                                         "huge_lossy.webp", "huge_canvas.webp",
+                                         "frame_outside.webp", "huge.avif", "huge.heic"));
 
-TEST_F(HostileFile, ALyingIndexOfARecordingGivesNoPicture) {
-    for (const auto* name : {"lying_index.mp4", "long_index.mp4"}) {
+TEST_F(HostileFile, ARecordingThatLiesGivesNoPicture) {
+    for (const auto* name : {"lying_index.mp4", "long_index.mp4", "huge_frames.webm"}) {
         const auto recording = loader.openRecording(file(name));
         EXPECT_EQ(recording ? recording->frame(0.5, 800) : nullptr, nullptr) << name;
     }
@@ -171,9 +180,11 @@ TEST_F(HostileFile, ALyingIndexOfARecordingGivesNoPicture) {
 }
 
 TEST_F(HostileFile, OnlyTheFirstOfManyFramesIsLookedAt) {
-    const auto image = loader.openImage(file("many_frames.gif"));
-    ASSERT_NE(image, nullptr);
-    EXPECT_NE(image->draw({2, 2}), nullptr);
+    for (const auto* name : {"many_frames.gif", "many_frames.webp"}) {
+        const auto image = loader.openImage(file(name));
+        ASSERT_NE(image, nullptr) << name;
+        EXPECT_NE(image->draw({2, 2}), nullptr) << name;
+    }
 }
 
 TEST_F(HostileFile, OnlyRegularFilesAreOpened) {

@@ -19,9 +19,15 @@ protected:
     Loader loader;
 };
 
-TEST_F(RecordingTest, TheFrameIsThatOfTheTime) {
-    const auto recording = opened("colors.mp4");
+class RecordingOfColors : public RecordingTest, public testing::WithParamInterface<const char*> {};
+
+INSTANTIATE_TEST_SUITE_P(Containers, RecordingOfColors,
+                         testing::Values("colors.mp4", "colors.webm"));
+
+TEST_P(RecordingOfColors, ShowsTheFrameOfTheTime) {
+    const auto recording = opened(GetParam());
     ASSERT_NE(recording, nullptr);
+    EXPECT_NEAR(recording->duration(), 10, 0.001);
     const auto colorAtTime = [&](double time) {
         const auto frame = recording->frame(time, 800);
         return frame ? only(colorAt(*frame, 30, 20)) : only(nothing);
@@ -66,12 +72,14 @@ TEST_F(RecordingTest, APortraitOneIsUpright) {
 }
 
 TEST_F(RecordingTest, WidePixelsCountAsWideAsTheyAre) {
-    const auto recording = opened("wide_pixels.mp4");
-    ASSERT_NE(recording, nullptr);
-    EXPECT_EQ(recording->videoTrackSize(), (Size{128, 48}));
-    const auto frame = recording->frame(0.5, 800);
-    ASSERT_NE(frame, nullptr);
-    EXPECT_EQ(frame->size, (Size{128, 48}));
+    for (const auto* name : {"wide_pixels.mp4", "wide_pixels.mkv"}) {
+        const auto recording = opened(name);
+        ASSERT_NE(recording, nullptr) << name;
+        EXPECT_EQ(recording->videoTrackSize(), (Size{128, 48})) << name;
+        const auto frame = recording->frame(0.5, 800);
+        ASSERT_NE(frame, nullptr) << name;
+        EXPECT_EQ(frame->size, (Size{128, 48})) << name;
+    }
 }
 
 TEST_F(RecordingTest, OneInFragmentsHasItsDuration) {
@@ -81,9 +89,44 @@ TEST_F(RecordingTest, OneInFragmentsHasItsDuration) {
     EXPECT_NE(recording->frame(0.5, 800), nullptr);
 }
 
-TEST_F(RecordingTest, AnotherCodecWorksToo) {
-    const auto recording = opened("prores.mov");
+TEST_F(RecordingTest, OneThatWasSentWhileItWasMadeHasItsDuration) {
+    const auto recording = opened("live.webm");
     ASSERT_NE(recording, nullptr);
+    EXPECT_NEAR(recording->duration(), 2, 0.05);
+    const auto frame = recording->frame(0.5, 800);
+    ASSERT_NE(frame, nullptr);
+    EXPECT_THAT(quarters(*frame), IsAbout(usualQuarters, 12));
+}
+
+TEST_F(RecordingTest, OneWhoseRecorderWasKilledIsAsLongAsItGot) {
+    const auto recording = opened("killed.webm");
+    ASSERT_NE(recording, nullptr);
+    EXPECT_GT(recording->duration(), 1);
+    EXPECT_LT(recording->duration(), 1.9);
+    EXPECT_NE(recording->frame(0.5, 800), nullptr);
+}
+
+TEST_F(RecordingTest, OneOfSoundOnlyHasItsDurationAndNoPicture) {
+    for (const auto* name : {"sound.m4v", "sound.webm"}) {
+        const auto recording = opened(name);
+        ASSERT_NE(recording, nullptr) << name;
+        EXPECT_NEAR(recording->duration(), 2, 0.05) << name;
+        EXPECT_EQ(recording->videoTrackSize(), std::nullopt) << name;
+        EXPECT_EQ(recording->frame(0.5, 800), nullptr) << name;
+    }
+}
+
+class RecordingOfAnotherCodec : public RecordingTest,
+                                public testing::WithParamInterface<const char*> {};
+
+INSTANTIATE_TEST_SUITE_P(Codecs, RecordingOfAnotherCodec,
+                         testing::Values("prores.mov", "vp8.webm", "vp9.webm", "translucent.webm",
+                                         "av1.webm", "h264.mkv"));
+
+TEST_P(RecordingOfAnotherCodec, ShowsItsPicture) {
+    const auto recording = opened(GetParam());
+    ASSERT_NE(recording, nullptr);
+    EXPECT_EQ(recording->videoTrackSize(), usual);
     const auto frame = recording->frame(0.25, 800);
     ASSERT_NE(frame, nullptr);
     EXPECT_THAT(quarters(*frame), IsAbout(usualQuarters, 12));

@@ -16,7 +16,7 @@ TEST(DrawingSize, NeverHasMorePixelsThanTheFile) {
 }
 
 TEST(DrawingSize, HasMorePixelsOnADenseScreen) {
-    for (const auto* name : {"dense.png", "large.jpg", "large.heic"}) {
+    for (const auto* name : {"dense.png", "large.jpg", "large.heic", "large.avif", "large.webp"}) {
         const auto image = drawn(name, {320, 208}, 1.5);
         ASSERT_NE(image, nullptr);
         EXPECT_EQ(image->pixelsWide, 480);
@@ -64,7 +64,11 @@ INSTANTIATE_TEST_SUITE_P(
         SizedSample{"raw.tiff", usual, usual}, SizedSample{"dense.tif", usual, {32, 24}},
         SizedSample{"centimetres.tif", usual, {32, 24}}, SizedSample{"turned.tif", usual, usual},
         SizedSample{"large.heic", {1000, 750}, {1000, 750}},
-        SizedSample{"quarters.pdf", {0, 0}, usual}, SizedSample{"turned.pdf", {0, 0}, usual}));
+        SizedSample{"large.avif", {1000, 750}, {1000, 750}},
+        SizedSample{"large.webp", {2000, 1501}, {2000, 1501}},
+        // Stored on its side, with twice the dots across as it is stored.
+        SizedSample{"rotated.webp", usual, {64, 24}}, SizedSample{"quarters.pdf", {0, 0}, usual},
+        SizedSample{"turned.pdf", {0, 0}, usual}));
 
 }  // namespace
 }  // namespace vantle

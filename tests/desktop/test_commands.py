@@ -69,7 +69,7 @@ def test_verbose_status_tells_the_surroundings_but_no_path(desktop, vantle, fold
     assert facts["window manager"] == "Openbox"
     assert facts["compositor"] == "yes"
     assert facts["tray"] == "on X"
-    assert facts["decoders"].startswith("png, jpeg, gif, tiff, heic, pdf, recording; ")
+    assert facts["decoders"].startswith("png, jpeg, gif, tiff, heic, webp, pdf, recording; ")
     assert facts["screens"].endswith("at 0, 0, scale 1")
     assert str(desktop.home) not in report
     assert str(desktop.home) in vantle.command("--status", "--verbose", "--with-paths")[1]

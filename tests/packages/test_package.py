@@ -14,7 +14,7 @@ IDENTIFIER = "org.vantle.Vantle"
 SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
 PROGRAMS = ["vantle", "vantle-decoder", "vantle-folder-dialog", "vantle-updater"]
 LANGUAGES = sorted(path.stem for path in (ROOT / "translations").glob("*.ts"))
-FORMATS = ["gif", "heic", "jpeg", "pdf", "png", "recording", "tiff"]
+FORMATS = ["gif", "heic", "jpeg", "pdf", "png", "recording", "tiff", "webp"]
 OF_ANY_COPY = [
     *(f"bin/{program}" for program in PROGRAMS),
     *(f"lib/vantle/modules/vantle-decoder-{name}.so" for name in FORMATS),

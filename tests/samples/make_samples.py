@@ -8,12 +8,14 @@ import sys
 from pathlib import Path
 
 from gifs import gifs
+from heifs import write_heifs
 from jpegs import jpeg, jpegs
 from pdfs import pdfs
 from picture import quarters, swapped_profile
 from pngs import pngs
-from recordings import write_heics, write_recordings
+from recordings import write_recordings
 from tiffs import tiffs
+from webps import webps
 
 
 def others():
@@ -36,11 +38,11 @@ def write_profiled(folder):
 def main():
     folder = Path(sys.argv[1])
     folder.mkdir(parents=True, exist_ok=True)
-    for group in (pngs(), jpegs(), gifs(), tiffs(), pdfs(), others()):
+    for group in (pngs(), jpegs(), gifs(), tiffs(), pdfs(), webps(), others()):
         for name, data in group.items():
             (folder / name).write_bytes(data)
     write_profiled(folder)
-    write_heics(folder)
+    write_heifs(folder)
     write_recordings(folder)
 
 

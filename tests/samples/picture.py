@@ -4,6 +4,7 @@ from PIL import Image, ImageCms
 
 WIDTH, HEIGHT = 64, 48
 RED, GREEN, BLUE, YELLOW = (255, 0, 0), (0, 255, 0), (0, 0, 255), (255, 255, 0)
+BLACK = (0, 0, 0)
 HUGE = 60_000
 
 

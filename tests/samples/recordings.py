@@ -1,8 +1,7 @@
-"""HEIC and recording samples, made by the tools of others."""
+"""Samples of recordings, made by ffmpeg."""
 
 import struct
 import subprocess
-from pathlib import Path
 
 from picture import HEIGHT, WIDTH, quarters
 
@@ -50,6 +49,43 @@ def without_duration(folder):
     still(folder, "fragments.mp4", 2, "-movflags", "frag_keyframe+empty_moov+default_base_moof")
 
 
+VP8 = ("-c:v", "libvpx", "-b:v", "2M", "-deadline", "realtime", "-cpu-used", "8")
+VP9 = ("-c:v", "libvpx-vp9", "-b:v", "2M", "-deadline", "realtime", "-cpu-used", "8")
+AV1 = ("-c:v", "libaom-av1", "-b:v", "2M", "-usage", "realtime", "-cpu-used", "8")
+
+
+def matroska(folder):
+    """What recorders of Wayland desktops write, and how each codec stands in it."""
+    still(folder, "vp8.webm", 10, *VP8)
+    still(folder, "vp9.webm", 0.5, *VP9)
+    still(folder, "translucent.webm", 0.5, *VP9, "-pix_fmt", "yuva420p")
+    still(folder, "av1.webm", 0.5, *AV1)
+    still(folder, "h264.mkv", 1)
+    still(folder, "wide_pixels.mkv", 1, "-vf", "setsar=2")
+    ffmpeg("-i", folder / "colors.mp4", *VP8, "-g", 1000, folder / "colors.webm")
+    ffmpeg("-f", "lavfi", "-i", "sine=d=2", "-c:a", "libopus", folder / "sound.webm")
+
+
+def live(folder):
+    """A header that says no duration and no place of anything, as for one that is sent while it is
+    recorded; and the same as its recorder left it when it was killed."""
+    still(folder, "live.webm", 2, *VP8, "-g", 10, "-live", 1)
+    data = (folder / "live.webm").read_bytes()
+    (folder / "killed.webm").write_bytes(data[:len(data) * 3 // 4])
+    (folder / "cut.webm").write_bytes(data[:300])
+
+
+def lying_frames(folder):
+    """Key frames that claim another size than their track: one that nobody opens, and one that
+    takes much memory for little data."""
+    data = (folder / "vp8.webm").read_bytes()
+    start = b"\x9d\x01\x2a"
+    usual = start + struct.pack("<HH", WIDTH, HEIGHT)
+    for name, side in (("huge_frames", 16_383), ("large_frames", 8000)):
+        lying = data.replace(usual, start + struct.pack("<HH", side, side))
+        (folder / f"{name}.webm").write_bytes(lying)
+
+
 def lying_index(folder):
     """The table of where the frames are points behind the end of the file."""
     data = bytearray((folder / "ten_seconds.mp4").read_bytes())
@@ -78,22 +114,9 @@ def write_recordings(folder):
     turned(folder)
     sound(folder)
     without_duration(folder)
+    matroska(folder)
+    live(folder)
+    lying_frames(folder)
     lying_index(folder)
     long_index(folder)
     (folder / "cut.mp4").write_bytes((folder / "ten_seconds.mp4").read_bytes()[:2000])
-
-
-def write_heics(folder):
-    picture = Path(folder) / "encoded.png"
-    for name, image in (("quarters", quarters()), ("large", quarters(1000, 750))):
-        image.save(picture)
-        subprocess.run(["heif-enc", "-q", "95", picture, "-o", folder / f"{name}.heic"],
-                       check=True, stdout=subprocess.DEVNULL)
-    translucent = quarters().convert("RGBA")
-    translucent.putalpha(128)
-    translucent.save(picture)
-    subprocess.run(["heif-enc", "-q", "95", picture, "-o", folder / "translucent.heic"],
-                   check=True, stdout=subprocess.DEVNULL)
-    picture.unlink()
-    good = (folder / "quarters.heic").read_bytes()
-    (folder / "cut.heic").write_bytes(good[:len(good) // 2])

@@ -11,7 +11,7 @@ using namespace std::string_view_literals;
 /// Files of the ISO base media format begin with a box that names their brand.
 std::optional<Format> formatOfBoxes(std::string_view start) {
     constexpr std::array imageBrands = {"heic"sv, "heix"sv, "heim"sv, "heis"sv, "hevc"sv,
-                                        "hevx"sv, "mif1"sv, "msf1"sv, "avif"sv};
+                                        "hevx"sv, "mif1"sv, "msf1"sv, "avif"sv, "avis"sv};
     // Older recorders begin with other boxes than the one that names the brand.
     constexpr std::array boxes = {"ftyp"sv, "moov"sv, "mdat"sv, "wide"sv, "free"sv, "skip"sv};
     if (start.size() < 12 || std::ranges::find(boxes, start.substr(4, 4)) == boxes.end())
@@ -32,6 +32,9 @@ std::optional<Format> formatOf(const InputFile& file) {
     if (start.starts_with("II*\0"sv) || start.starts_with("MM\0*"sv) ||
         start.starts_with("II+\0"sv) || start.starts_with("MM\0+"sv))
         return Format::tiff;
+    if (start.starts_with("RIFF") && start.find("WEBP") == 8) return Format::webp;
+    // Matroska, of which WebM is one kind.
+    if (start.starts_with("\x1a\x45\xdf\xa3")) return Format::recording;
     // Other programs may write something before the header.
     if (start.find("%PDF-") != std::string_view::npos) return Format::pdf;
     return formatOfBoxes(start);

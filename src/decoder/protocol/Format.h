@@ -8,10 +8,10 @@
 namespace vantle::decoder {
 
 /// The formats that can be opened. Each has a module of its own, which is loaded alone.
-enum class Format : std::uint32_t { png, jpeg, gif, tiff, heic, pdf, recording };
+enum class Format : std::uint32_t { png, jpeg, gif, tiff, heic, webp, pdf, recording };
 
-constexpr std::array<std::string_view, 7> formatNames = {"png",  "jpeg", "gif",      "tiff",
-                                                         "heic", "pdf",  "recording"};
+constexpr std::array<std::string_view, 8> formatNames = {"png",  "jpeg", "gif", "tiff",
+                                                         "heic", "webp", "pdf", "recording"};
 
 constexpr std::string_view name(Format format) {
     return formatNames[static_cast<std::size_t>(format)];

@@ -36,6 +36,7 @@ Format formatNamedBy(const Url& url) {
         Extension{"jpg", Format::jpeg},  Extension{"jpeg", Format::jpeg},
         Extension{"gif", Format::gif},   Extension{"tif", Format::tiff},
         Extension{"tiff", Format::tiff}, Extension{"heic", Format::heic},
+        Extension{"avif", Format::heic}, Extension{"webp", Format::webp},
         Extension{"pdf", Format::pdf}};
     std::string extension(url.pathExtension());
     std::ranges::transform(extension, extension.begin(), lowercase);

@@ -3,47 +3,27 @@
 #include <poppler-image.h>
 #include <poppler-page-renderer.h>
 #include <poppler-page.h>
-#include <sys/mman.h>
 
 #include <cmath>
 #include <memory>
 #include <utility>
 
+#include "decoder/formats/MappedFile.h"
 #include "decoder/formats/MediaFile.h"
 #include "decoder/formats/pdf/PdfFonts.h"
 
 namespace vantle::decoder {
 namespace {
 
-/// A file's bytes, mapped: a document may be large, and only its first page is looked at.
-class Mapping {
-public:
-    explicit Mapping(const InputFile& file) : size_(static_cast<std::size_t>(file.size())) {
-        if (size_ == 0) return;
-        void* bytes = mmap(nullptr, size_, PROT_READ, MAP_PRIVATE, file.descriptor(), 0);
-        if (bytes != MAP_FAILED) bytes_ = bytes;
-    }
-    ~Mapping() {
-        if (bytes_) munmap(bytes_, size_);
-    }
-    Mapping(const Mapping&) = delete;
-    Mapping& operator=(const Mapping&) = delete;
-
-    const char* data() const { return static_cast<const char*>(bytes_); }
-    int size() const { return static_cast<int>(size_); }
-
-private:
-    std::size_t size_;
-    void* bytes_ = nullptr;
-};
-
 class PdfImage final : public StillImage {
 public:
-    explicit PdfImage(const InputFile& file) : bytes_(file) {}
+    explicit PdfImage(const InputFile& file) : file_(file) {}
 
     bool open() {
-        if (!bytes_.data()) return false;
-        document_.reset(poppler::document::load_from_raw_data(bytes_.data(), bytes_.size()));
+        const auto bytes = text(file_.bytes());
+        if (bytes.empty()) return false;
+        document_.reset(
+            poppler::document::load_from_raw_data(bytes.data(), static_cast<int>(bytes.size())));
         if (!document_ || document_->is_locked() || document_->pages() < 1) return false;
         page_.reset(document_->create_page(0));
         if (!page_) return false;
@@ -92,7 +72,7 @@ private:
         return picture;
     }
 
-    const Mapping bytes_;
+    const MappedFile file_;
     std::unique_ptr<poppler::document> document_;
     std::unique_ptr<poppler::page> page_;
     Size size_;

@@ -5,6 +5,7 @@ extern "C" {
 }
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -13,6 +14,18 @@ namespace vantle::decoder {
 namespace {
 
 constexpr int bufferSize = 64 * 1024;
+
+/// How far a recording is read to find out how long it is: some minutes of a screen.
+constexpr std::int64_t farthestLook = std::int64_t{512} * 1024 * 1024;
+
+/// What is later is no time, but a lie; it is one in any unit.
+constexpr std::int64_t latestTime = std::numeric_limits<std::int64_t>::max() / 4;
+
+bool isMatroska(const InputFile& file) {
+    std::array<std::uint8_t, 4> start{};
+    file.read(0, start);
+    return text(start) == "\x1a\x45\xdf\xa3";
+}
 
 /// The matrix by which pictures are turned before they are shown; null when they are not.
 const std::int32_t* displayMatrix(const AVStream& track) {
@@ -54,6 +67,7 @@ std::unique_ptr<Demuxer> Demuxer::open(const InputFile& file) {
     std::unique_ptr<Demuxer> demuxer(new Demuxer(file));
     if (!demuxer->openFormat()) return nullptr;
     demuxer->chooseTracks();
+    demuxer->findDuration();
     return demuxer;
 }
 
@@ -71,14 +85,41 @@ bool Demuxer::openFormat() {
     if (!format) return false;
     format->pb = input_;
     format->flags |= AVFMT_FLAG_CUSTOM_IO;
-    // This one demuxer only: others open further files that a file names.
-    const AVInputFormat* quickTime = av_find_input_format("mov");
+    // One demuxer only: others open further files that a file names.
+    const AVInputFormat* demuxer = av_find_input_format(isMatroska(file_) ? "matroska" : "mov");
     // On failure it frees the context.
-    if (avformat_open_input(&format, nullptr, quickTime, nullptr) < 0) return false;
+    if (avformat_open_input(&format, nullptr, demuxer, nullptr) < 0) return false;
     format_.reset(format);
-    // A recording in fragments does not say at its beginning how long it is.
-    if (format->duration == AV_NOPTS_VALUE) avformat_find_stream_info(format, nullptr);
     return true;
+}
+
+void Demuxer::findDuration() {
+    if (format_->duration != AV_NOPTS_VALUE) return;
+    if (isMatroska(file_))
+        findLastPacket();
+    else
+        // Of a recording in fragments.
+        avformat_find_stream_info(format_.get(), nullptr);
+}
+
+void Demuxer::findLastPacket() {
+    AVStream* track = pictureTrack();
+    const Packet packet(av_packet_alloc());
+    if (!track || !packet) return;
+    std::int64_t first = AV_NOPTS_VALUE;
+    std::int64_t end = AV_NOPTS_VALUE;
+    while (av_read_frame(format_.get(), packet.get()) >= 0) {
+        const std::int64_t begin = packet->pts;
+        const std::int64_t length = std::max<std::int64_t>(packet->duration, 0);
+        av_packet_unref(packet.get());
+        // Too far to go on, so nothing is known.
+        if (position_ > farthestLook) return;
+        if (begin < 0 || begin > latestTime || length > latestTime) continue;
+        if (first == AV_NOPTS_VALUE) first = begin;
+        end = std::max(end, begin + length);
+    }
+    if (first == AV_NOPTS_VALUE) return;
+    format_->duration = av_rescale_q(end - first, track->time_base, AV_TIME_BASE_Q);
 }
 
 void Demuxer::chooseTracks() {

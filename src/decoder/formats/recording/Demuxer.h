@@ -12,7 +12,12 @@ extern "C" {
 
 namespace vantle::decoder {
 
-/// A QuickTime or MPEG-4 file, open for reading its first video track.
+struct PacketFreer {
+    void operator()(AVPacket* packet) const { av_packet_free(&packet); }
+};
+using Packet = std::unique_ptr<AVPacket, PacketFreer>;
+
+/// A file of QuickTime, MPEG-4 or Matroska, open for reading its first video track.
 class Demuxer {
 public:
     /// Null when it cannot be opened.
@@ -43,6 +48,9 @@ private:
     explicit Demuxer(const InputFile& file) : file_(file) {}
     bool openFormat();
     void chooseTracks();
+    /// Recorders that write as they go do not say at the beginning how long it will be.
+    void findDuration();
+    void findLastPacket();
 
     static int read(void* self, std::uint8_t* bytes, int count);
     static std::int64_t seek(void* self, std::int64_t offset, int origin);

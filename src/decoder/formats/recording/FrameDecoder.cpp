@@ -14,11 +14,6 @@ struct CodecFreer {
 };
 using Codec = std::unique_ptr<AVCodecContext, CodecFreer>;
 
-struct PacketFreer {
-    void operator()(AVPacket* packet) const { av_packet_free(&packet); }
-};
-using Packet = std::unique_ptr<AVPacket, PacketFreer>;
-
 Codec openCodec(const AVStream& track) {
     const AVCodecParameters& parameters = *track.codecpar;
     const AVCodec* decoder = avcodec_find_decoder(parameters.codec_id);
