@@ -19,6 +19,7 @@
 #include "platform/linux/IniPreferencesDomain.h"
 #include "platform/linux/IniUserDefaults.h"
 #include "platform/linux/InotifyDirectoryEvents.h"
+#include "platform/linux/LinuxCaptureExtensions.h"
 #include "platform/linux/LinuxFileManager.h"
 #include "platform/linux/PollQueue.h"
 #include "platform/linux/PosixProcessLauncher.h"
@@ -57,7 +58,7 @@ namespace vantle {
 namespace {
 
 bool isRecording(const Url& url) {
-    return Capture::kind(url) == CaptureKind::video;
+    return Capture::kind(url, linuxCaptureExtensions) == CaptureKind::video;
 }
 
 /// The path of another program that belongs to this one.
@@ -181,6 +182,7 @@ Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures,
                            DBusApplication::Launch launch) {
     Platform platform;
     platform.environment = processEnvironment();
+    platform.moreExtensions = linuxCaptureExtensions;
     const Url configuration = UserDirectories(platform.environment).configuration();
     const Url own = configuration.appending("vantle");
     platform.scheduler = std::make_unique<QtScheduler>();

@@ -116,7 +116,7 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
         makeLinuxPlatform(pictures, line.launchedByBus ? DBusApplication::Launch::byBus
                                                        : DBusApplication::Launch::byUser);
     Appearance::follow(platform.appearance.get());
-    QtDraggingSessions dragging(pictures);
+    QtDraggingSessions dragging(pictures, platform.moreExtensions);
     const auto delegate = AppDelegate::create(platform, makeViews(platform, dragging));
     if (!delegate->applicationWillFinishLaunching(request)) return EXIT_SUCCESS;
     const UnixSignals endingSignals([&] { platform.application->terminate(); });

@@ -55,7 +55,8 @@ Result<std::string> AppDelegate::show(const std::vector<std::string>& paths) {
         const auto existence = platform_.files->existence(url);
         if (existence == FileManager::Existence::none)
             refuse(path, localized("Requests", "no such file"));
-        else if (existence != FileManager::Existence::file || !Capture::kind(url))
+        else if (existence != FileManager::Existence::file ||
+                 !Capture::kind(url, platform_.moreExtensions))
             refuse(path, localized("Requests", "not a screenshot or recording"));
         else
             platform_.watcherQueue->async([load = loader(), url] { load(url); });

@@ -53,7 +53,7 @@ void AppDelegate::showDemo() {
 
 std::function<void(const Url&)> AppDelegate::loader() {
     return [&platform = platform_, weak = weak_from_this()](const Url& url) {
-        const auto capture = Capture::create(url, platform.clock->now());
+        const auto capture = Capture::create(url, platform.clock->now(), platform.moreExtensions);
         if (!capture) return;
         capture->loadThumbnail(*platform.media);
         platform.scheduler->async([weak, capture] {

@@ -22,15 +22,17 @@ bool contains(const auto& extensions, std::string_view extension) {
 
 }  // namespace
 
-std::optional<CaptureKind> Capture::kind(const Url& url) {
+std::optional<CaptureKind> Capture::kind(const Url& url, const CaptureExtensions& more) {
     const auto extension = url.pathExtension();
-    if (contains(imageExtensions, extension)) return CaptureKind::image;
-    if (contains(videoExtensions, extension)) return CaptureKind::video;
+    if (contains(imageExtensions, extension) || contains(more.image, extension))
+        return CaptureKind::image;
+    if (contains(videoExtensions, extension) || contains(more.video, extension))
+        return CaptureKind::video;
     return std::nullopt;
 }
 
-std::shared_ptr<Capture> Capture::create(const Url& url, Date date) {
-    const auto kind = Capture::kind(url);
+std::shared_ptr<Capture> Capture::create(const Url& url, Date date, const CaptureExtensions& more) {
+    const auto kind = Capture::kind(url, more);
     if (!kind) return nullptr;
     return std::shared_ptr<Capture>(new Capture(url, date, *kind));
 }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "capture/CaptureKind.h"
+#include "platform/CaptureExtensions.h"
 #include "platform/MediaLoader.h"
 #include "support/Date.h"
 #include "support/Geometry.h"
@@ -21,11 +22,13 @@ public:
     static constexpr double defaultMaximumDimension = 800;
 
     /// The kind of the file, by its extension alone, whole and without regard to case; absent when
-    /// a file of that name cannot be a capture.
-    static std::optional<CaptureKind> kind(const Url& url);
+    /// a file of that name cannot be a capture. `more` extensions count besides those of every
+    /// system.
+    static std::optional<CaptureKind> kind(const Url& url, const CaptureExtensions& more = {});
 
     /// Null when the file's extension is not a capture's. Does not touch the file.
-    static std::shared_ptr<Capture> create(const Url& url, Date date);
+    static std::shared_ptr<Capture> create(const Url& url, Date date,
+                                           const CaptureExtensions& more = {});
 
     const UUID& id() const { return id_; }
     const Url& url() const { return url_; }

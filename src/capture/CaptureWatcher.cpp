@@ -110,7 +110,7 @@ void CaptureWatcher::consider(const Url& folder, std::string_view name, Date now
     if (name.starts_with('.')) return;
     const Url url = folder.appending(name);
     if (pending_.contains(url.path())) return;
-    if (!Capture::kind(url)) return;
+    if (!Capture::kind(url, services_.moreExtensions)) return;
     const auto values = services_.files.resourceValues(url);
     if (!values || values.value().isRegularFile != true) return;
 
@@ -148,7 +148,7 @@ void CaptureWatcher::deliver(const Url& url, Date fileDate) {
     pending_.erase(url.path());
     // Of another folder than the one watched by now, no listing would ever ask for it.
     if (url.deletingLastPathComponent() == known_.folder()) known_.insert(url.lastPathComponent());
-    const auto capture = Capture::create(url, fileDate);
+    const auto capture = Capture::create(url, fileDate, services_.moreExtensions);
     if (!capture) return;
     capture->loadThumbnail(services_.media);
     services_.main.async([self = shared_from_this(), capture] {

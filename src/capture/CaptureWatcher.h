@@ -38,6 +38,7 @@ public:
         FileManager& files;
         MediaLoader& media;
         WallClock& clock;
+        CaptureExtensions moreExtensions;  ///< Of captures, besides those of every system.
     };
 
     static std::shared_ptr<CaptureWatcher> create(const Services& services);

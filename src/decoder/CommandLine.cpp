@@ -14,6 +14,7 @@
 #include "capture/Capture.h"
 #include "decoder/PngWriter.h"
 #include "platform/linux/ConfinedMediaLoader.h"
+#include "platform/linux/LinuxCaptureExtensions.h"
 
 namespace vantle::decoder {
 namespace {
@@ -65,7 +66,7 @@ int makeThumbnail(const Arguments& arguments) {
         std::fprintf(stderr, "%s: %s\n", arguments.in.c_str(), error.message().c_str());
         return 1;
     }
-    const auto capture = Capture::create(Url::file(path.string()), Date{});
+    const auto capture = Capture::create(Url::file(path.string()), Date{}, linuxCaptureExtensions);
     if (!capture) {
         std::fprintf(stderr, "%s: no kind of file that is shown\n", arguments.in.c_str());
         return 1;

@@ -7,6 +7,7 @@
 #include "platform/Alerts.h"
 #include "platform/Application.h"
 #include "platform/Canvas.h"
+#include "platform/CaptureExtensions.h"
 #include "platform/DesktopAppearance.h"
 #include "platform/DirectoryEvents.h"
 #include "platform/Fact.h"
@@ -39,6 +40,8 @@ namespace vantle {
 struct Platform {
     Environment environment;
     NotificationCenter notifications;
+    /// What the tools of this system write, besides what those of every system do.
+    CaptureExtensions moreExtensions;
     std::unique_ptr<Scheduler> scheduler;
     std::unique_ptr<WallClock> clock;
     std::unique_ptr<FileManager> files;

@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QThread>
 #include <QUrl>
+#include <map>
 
 #include "contract/DesktopServices.h"
 #include "contract/PrivateBus.h"
@@ -193,6 +194,24 @@ TEST_F(FileMimeDataTest, ThePictureLastsWhenItsFileIsMoved) {
     const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
     QFile::remove(QString::fromStdString(file.path()));
     EXPECT_EQ(get(data, "image/png"), pictureFile("PNG"));
+}
+
+TEST_F(FileMimeDataTest, APictureIsOfferedInTheTypeThatItsFirstBytesShow) {
+    using namespace std::string_literals;
+    const std::map<std::string, const char*> types{{"RIFF\x10\0\0\0WEBPVP8 "s, "image/webp"},
+                                                   {"\0\0\0\x1c"
+                                                    "ftypavif\0\0\0\0"s,
+                                                    "image/avif"},
+                                                   {"\0\0\0\x1c"
+                                                    "ftypheic\0\0\0\0"s,
+                                                    "image/heic"}};
+    for (const auto& [bytes, type] : types) {
+        const Url file = desktop.folder / "shot.png";
+        save(file, QByteArray::fromStdString(bytes));
+        desktop.media->addImage(file, Size{40, 30}, Size{40, 30});
+        const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
+        EXPECT_EQ(get(data, type), QByteArray::fromStdString(bytes)) << type;
+    }
 }
 
 TEST_F(FileMimeDataTest, APictureWithoutPixelsIsDrawnForADenseScreen) {

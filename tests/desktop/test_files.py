@@ -32,9 +32,9 @@ def test_files_already_there(vantle, folder):
 
 def test_every_kind(vantle, folder):
     vantle.start_watching()
-    kinds = ("png", "jpg", "jpeg", "heic", "tiff", "tif", "gif", "pdf")
+    kinds = ("png", "jpg", "jpeg", "heic", "tiff", "tif", "gif", "pdf", "webp", "avif")
     images = [f"shot.{kind}" for kind in kinds]
-    recordings = [f"clip.{kind}" for kind in ("mov", "mp4", "m4v")]
+    recordings = [f"clip.{kind}" for kind in ("mov", "mp4", "m4v", "webm", "mkv")]
     shouting = ["SHOT.PNG", "Clip.MP4"]
     for name in images + recordings + shouting:
         folder.save(name)

@@ -12,10 +12,11 @@ from privatedesktop import wait_until
 def encode(name, folder):
     """The pattern in the format of that name, made where nobody watches."""
     path, picture = folder / name, folder / "picture.png"
-    if path.suffix in (".heic", ".mov", ".mp4", ".m4v"):
+    if path.suffix in (".heic", ".avif", ".mov", ".mp4", ".m4v", ".webm", ".mkv"):
         pattern().save(picture)
         command = {
             ".heic": ["heif-enc", picture, "-o", path],
+            ".avif": ["heif-enc", "-A", picture, "-o", path],
         }.get(path.suffix, ["ffmpeg", "-nostdin", "-loglevel", "error", "-loop", "1", "-i", picture,
                             "-t", "2", "-pix_fmt", "yuv420p", path])
         subprocess.run([str(part) for part in command], check=True, stdout=subprocess.DEVNULL)
@@ -26,7 +27,8 @@ def encode(name, folder):
 
 @pytest.mark.parametrize(
     "name", ["shot.png", "shot.jpg", "shot.jpeg", "shot.heic", "shot.tiff", "shot.tif", "shot.gif",
-             "shot.pdf", "clip.mov", "clip.mp4", "clip.m4v"])  # fmt: skip
+             "shot.pdf", "shot.webp", "shot.avif", "clip.mov", "clip.mp4", "clip.m4v", "clip.webm",
+             "clip.mkv"])  # fmt: skip
 def test_every_kind_has_its_picture(desktop, vantle, folder, tmp_path, name):
     vantle.start_watching()
     folder.move_in(name, encode(name, tmp_path))

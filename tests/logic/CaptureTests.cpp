@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -41,6 +42,30 @@ TEST(CaptureKindOfFile, IsDecidedByTheExtensionWholeAndWithoutRegardToCase) {
         EXPECT_EQ(kind(image), CaptureKind::image) << image;
     for (const char* video : {"a.mov", "a.mp4", "a.m4v"})
         EXPECT_EQ(kind(video), CaptureKind::video) << video;
+}
+
+constexpr std::array<std::string_view, 1> moreImages{"webp"};
+constexpr std::array<std::string_view, 1> moreVideos{"webm"};
+constexpr CaptureExtensions more{moreImages, moreVideos};
+
+TEST(CaptureKindOfFile, CountsTheExtensionsThatTheSystemAdds) {
+    const auto kind = [](const char* name) {
+        return Capture::kind(Url::file("/shots").appending(name), more);
+    };
+    EXPECT_EQ(kind("a.png"), CaptureKind::image);
+    EXPECT_EQ(kind("a.mov"), CaptureKind::video);
+    EXPECT_EQ(kind("a.WebP"), CaptureKind::image);
+    EXPECT_EQ(kind("a.webm"), CaptureKind::video);
+    EXPECT_EQ(kind("a.webm.part"), std::nullopt);
+    EXPECT_EQ(Capture::kind(Url::file("/shots/a.webp")), std::nullopt);
+    EXPECT_EQ(Capture::kind(Url::file("/shots/a.webm")), std::nullopt);
+}
+
+TEST_F(CaptureTest, IsMadeOfAFileThatTheSystemAdds) {
+    EXPECT_EQ(Capture::create(Url::file("/shots/a.webm"), Date{}), nullptr);
+    const auto capture = Capture::create(Url::file("/shots/a.webm"), Date{}, more);
+    ASSERT_NE(capture, nullptr);
+    EXPECT_EQ(capture->kind(), CaptureKind::video);
 }
 
 TEST_F(CaptureTest, CannotBeMadeOfAnotherFile) {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cerrno>
 
 #include "capture/CaptureWatcher.h"
@@ -22,7 +23,8 @@ class CaptureWatcherTest : public testing::Test {
 protected:
     CaptureWatcherTest() {
         (void)files.createDirectory(folder);
-        watcher = CaptureWatcher::create({scheduler, queue, files, files, media, clock});
+        watcher =
+            CaptureWatcher::create({scheduler, queue, files, files, media, clock, moreExtensions});
         watcher->onCapture = [this](const CapturePointer& capture) {
             captured.push_back(capture->fileName());
         };
@@ -38,6 +40,9 @@ protected:
         time.settle();
     }
     void wait(double seconds) { time.advance(Seconds(seconds)); }
+
+    static constexpr std::array<std::string_view, 1> moreVideos{"webm"};
+    static constexpr CaptureExtensions moreExtensions{{}, moreVideos};
 
     fakes::VirtualTime time;
     fakes::ManualScheduler scheduler{time};
@@ -58,6 +63,14 @@ TEST_F(CaptureWatcherTest, FilesPresentAtTheStartAreNeverReported) {
     files.touch(folder);
     wait(60);
     EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(CaptureWatcherTest, AFileWithAnExtensionThatTheSystemAddsIsReported) {
+    start();
+    save("clip.webm");
+    save("clip.ogv");
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("clip.webm"));
 }
 
 TEST_F(CaptureWatcherTest, ANewFileIsReportedOnceAQuarterSecondAfterItsSizeSettles) {

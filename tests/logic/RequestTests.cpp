@@ -46,6 +46,15 @@ TEST_F(RequestTest, ShowsFilesWithoutMakingThemRecent) {
     EXPECT_THAT(recentNames(), IsEmpty());
 }
 
+TEST_F(RequestTest, ShowsFilesWithAnExtensionThatTheSystemAdds) {
+    static constexpr std::array<std::string_view, 1> images{"webp"};
+    platform.moreExtensions.image = images;
+    launch();
+    files->write(Url::file("/pictures/a.webp"), 1, Date{});
+    EXPECT_EQ(ask("show", {"/pictures/a.webp"}), "");
+    EXPECT_EQ(delegate->panel().state().captures.value().size(), 1u);
+}
+
 TEST_F(RequestTest, ShowsWhatItCanAndNamesTheRest) {
     launch();
     files->write(Url::file("/pictures/a.png"), 1, Date{});

@@ -63,7 +63,9 @@ QString typeOf(int file) {
                                        Signature{"MM\0*"sv, 0, "image/tiff"},
                                        Signature{"%PDF-"sv, 0, "application/pdf"},
                                        Signature{"ftyphei"sv, 4, "image/heic"},
-                                       Signature{"ftypmif1"sv, 4, "image/heif"}};
+                                       Signature{"ftypmif1"sv, 4, "image/heif"},
+                                       Signature{"ftypavif"sv, 4, "image/avif"},
+                                       Signature{"WEBP"sv, 8, "image/webp"}};
     const QByteArray start = read(file, 16);
     const std::string_view text(start.data(), static_cast<std::size_t>(start.size()));
     for (const auto& signature : signatures)

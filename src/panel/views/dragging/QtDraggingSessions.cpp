@@ -38,11 +38,12 @@ void logPromise(Qt::DropAction action) {
 class Session final : public QObject {
 public:
     Session(QWindow& window, std::vector<DraggingItem> items, const QPointF& grip,
-            DraggingSessions::Ended ended)
+            const CaptureExtensions& more, DraggingSessions::Ended ended)
         : window_(&window),
           pile_(dragPile(items, window.devicePixelRatio(), possibleEdges())),
           start_(window.position() + pile_.frame.topLeft().toPoint()),
           hotSpot_((grip - pile_.frame.topLeft()).toPoint()),
+          more_(more),
           ended_(std::move(ended)) {
         for (auto& item : items) urls_.push_back(std::move(item.url));
     }
@@ -83,7 +84,7 @@ public:
 private:
     std::unique_ptr<FileMimeData> contents(const std::shared_ptr<MediaLoader>& media) const {
         const bool isPicture =
-            urls_.size() == 1 && Capture::kind(urls_.front()) == CaptureKind::image;
+            urls_.size() == 1 && Capture::kind(urls_.front(), more_) == CaptureKind::image;
         auto picture = isPicture ? PictureContents::open(urls_.front(), media) : nullptr;
         return std::make_unique<FileMimeData>(urls_, std::move(picture), FileMimeData::Use::drag);
     }
@@ -100,6 +101,7 @@ private:
     const DragPile pile_;
     const QPoint start_;
     const QPoint hotSpot_;
+    const CaptureExtensions more_;
     const DraggingSessions::Ended ended_;
     DropAnswer answer_;
     std::optional<DragSelection> selection_;
@@ -108,12 +110,13 @@ private:
 
 }  // namespace
 
-QtDraggingSessions::QtDraggingSessions(std::shared_ptr<MediaLoader> media)
-    : media_(std::move(media)) {}
+QtDraggingSessions::QtDraggingSessions(std::shared_ptr<MediaLoader> media,
+                                       const CaptureExtensions& more)
+    : media_(std::move(media)), more_(more) {}
 
 void QtDraggingSessions::begin(QWindow& window, std::vector<DraggingItem> items,
                                const QPointF& grip, Ended ended) {
-    auto* session = new Session(window, std::move(items), grip, std::move(ended));
+    auto* session = new Session(window, std::move(items), grip, more_, std::move(ended));
     // Not inside the mouse event: a drag is an event loop of its own.
     QMetaObject::invokeMethod(
         session, [session, media = media_] { session->run(media); }, Qt::QueuedConnection);
