@@ -69,7 +69,11 @@ def save_images(folder, name, picture):
     picture.save(folder / f"{name}-raw.tiff")
     picture.quantize(256, dither=Image.Dither.NONE).save(folder / f"{name}.gif")
     picture.save(folder / f"{name}.pdf", resolution=144)
+    picture.save(folder / f"{name}.webp", quality=90, method=2)
+    picture.save(folder / f"{name}-lossless.webp", lossless=True, quality=20, method=1)
     run("heif-enc", "-q", "60", folder / f"{name}.png", "-o", folder / f"{name}.heic")
+    run("heif-enc", "-A", "-q", "60", "-p", "speed=9", folder / f"{name}.png", "-o",
+        folder / f"{name}.avif")
 
 
 def ffmpeg(*arguments):
@@ -84,6 +88,12 @@ def save_recordings(folder, name, minutes=10):
     ffmpeg(*rolling, "-t", "10", folder / f"{name}-10s.mp4")
     ffmpeg("-stream_loop", 6 * minutes - 1, "-i", folder / f"{name}-10s.mp4", "-c", "copy",
            folder / f"{name}-{minutes}min.mp4")
+    ffmpeg("-i", folder / f"{name}-10s.mp4", "-c", "copy", folder / f"{name}-10s.mkv")
+    # As recorders write it while they record.
+    live = ("-b:v", "8M", "-deadline", "realtime", "-cpu-used", "8")
+    ffmpeg("-i", folder / f"{name}-10s.mp4", "-c:v", "libvpx", *live, folder / f"{name}-vp8.webm")
+    ffmpeg("-i", folder / f"{name}-10s.mp4", "-c:v", "libvpx-vp9", *live,
+           folder / f"{name}-vp9.webm")
     save_turned(folder / f"{name}-10s.mp4", folder / f"{name}-turned.mov")
 
 

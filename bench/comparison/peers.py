@@ -5,7 +5,8 @@ from dataclasses import dataclass
 
 KINDS = {
     "png": "png", "jpg": "jpeg", "jpeg": "jpeg", "gif": "gif", "tif": "tiff", "tiff": "tiff",
-    "heic": "heic", "pdf": "pdf", "mov": "recording", "mp4": "recording", "m4v": "recording",
+    "heic": "heic", "avif": "avif", "webp": "webp", "pdf": "pdf", "mov": "recording",
+    "mp4": "recording", "m4v": "recording", "webm": "recording", "mkv": "recording",
 }  # fmt: skip
 IMAGES = frozenset(KINDS.values()) - {"recording", "pdf"}
 MOST = 800
@@ -43,7 +44,8 @@ def peers(qt_reader):
         Peer("gdk-pixbuf-thumbnailer", IMAGES,
              lambda file, out: ["gdk-pixbuf-thumbnailer", "-s", side, file, out],
              "gdk-pixbuf-thumbnailer"),
-        Peer("Qt", IMAGES - {"heic"}, lambda file, out: [qt_reader, file, out, side], qt_reader),
+        Peer("Qt", IMAGES - {"heic", "avif", "webp"},
+             lambda file, out: [qt_reader, file, out, side], qt_reader),
         Peer("pdftoppm", frozenset({"pdf"}),
              lambda file, out: ["pdftoppm", "-png", "-singlefile", "-f", "1", "-scale-to", side,
                                 file, out.removesuffix(".png")], "pdftoppm"),

@@ -18,7 +18,8 @@ from comparison import corpus  # noqa: E402
 DECODER = os.environ["VANTLE_DECODER"]
 MOST = 800
 SIZES = {"small": (1280, 800), "retina": (2940, 1912), "wide": (3840, 1080)}
-IMAGES = ["png", "rgba.png", "jpg", "lzw.tif", "deflate.tif", "raw.tiff", "gif", "heic"]
+IMAGES = ["png", "rgba.png", "jpg", "lzw.tif", "deflate.tif", "raw.tiff", "gif", "heic",
+          "avif", "webp", "lossless.webp"]
 
 
 def output_of(*command):
@@ -52,7 +53,7 @@ def thumbnail(file):
 
 def decoded(file):
     """All pixels, by a decoder that is not ours."""
-    if file.suffix != ".heic":
+    if file.suffix not in (".heic", ".avif"):
         return Image.open(file).convert("RGB")
     whole = file.with_suffix(".whole.png")
     output_of("heif-convert", file, whole)
@@ -86,7 +87,7 @@ def test_images_are_better_than_those_of_others(folder, name, kind):
 @pytest.mark.parametrize("name", SIZES)
 def test_image_sizes(folder, name, kind):
     file = file_named(folder, name, kind)
-    if kind == "heic":
+    if kind in ("heic", "avif"):
         said = re.search(r"image: (\d+)x(\d+)", output_of("heif-info", file)).groups()
     else:
         said = output_of("identify", "-format", "%w %h\n", f"{file}[0]").split()
@@ -106,7 +107,8 @@ def test_documents(folder, name):
 
 
 @pytest.mark.parametrize("name", ["small-short.mov", "small-10s.mp4", "small-turned.mov",
-                                  "small-1min.mp4"])
+                                  "small-1min.mp4", "small-vp8.webm", "small-vp9.webm",
+                                  "small-10s.mkv"])
 def test_recordings(folder, name):
     file = folder / name
     ours, size, duration = thumbnail(file)
