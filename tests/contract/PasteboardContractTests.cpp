@@ -156,6 +156,38 @@ TEST_F(FileMimeDataTest, FilesAreOfferedAsEachFileManagerTakesThem) {
     EXPECT_EQ(get(data, "text/plain"), "/folder/50% \xff of\nit.png\n/folder/other.mov");
 }
 
+TEST_F(FileMimeDataTest, TheToolkitFindsTheSameFilesInIt) {
+    for (const auto use : {FileMimeData::Use::clipboard, FileMimeData::Use::drag}) {
+        const FileMimeData data({odd, other}, nullptr, use);
+        std::vector<std::string> addresses;
+        for (const QUrl& url : data.urls()) addresses.push_back(url.toEncoded().toStdString());
+        EXPECT_THAT(addresses, ElementsAre(odd.address(), other.address()));
+    }
+}
+
+TEST_F(FileMimeDataTest, TheToolkitFindsThePathsAsTextInIt) {
+    const FileMimeData data({other}, nullptr, FileMimeData::Use::clipboard);
+    EXPECT_EQ(data.text(), QStringLiteral("/folder/other.mov"));
+}
+
+TEST_F(FileMimeDataTest, NobodyHasReadItBeforeHeGotSomething) {
+    const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
+    const auto wasRead = data.readMark();
+    (void)data.formats();
+    EXPECT_FALSE(data.hasImage());
+    EXPECT_EQ(get(data, "image/png"), "");
+    EXPECT_FALSE(*wasRead);
+    (void)get(data, "text/uri-list");
+    EXPECT_TRUE(*wasRead);
+}
+
+TEST_F(FileMimeDataTest, WhoAsksForTheListOfAddressesHasReadIt) {
+    const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
+    const auto wasRead = data.readMark();
+    (void)data.urls();
+    EXPECT_TRUE(*wasRead);
+}
+
 TEST_F(FileMimeDataTest, ADragCarriesAddressesOnly) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
     EXPECT_THAT(data.formats(), ElementsAre("text/uri-list"));
@@ -228,7 +260,9 @@ TEST_F(FileMimeDataTest, ADamagedPictureGivesNothing) {
     save(file, "II*");
     desktop.media->addDamagedImage(file, Size{40, 30}, Size{40, 30});
     const FileMimeData data({file}, open(file), FileMimeData::Use::drag);
+    const auto wasRead = data.readMark();
     EXPECT_EQ(get(data, "image/png"), "");
+    EXPECT_FALSE(*wasRead);
 }
 
 TEST_F(FileMimeDataTest, AFileOfAnotherKindHoldsNoPicture) {

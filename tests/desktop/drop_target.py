@@ -14,6 +14,7 @@ class DropTarget:
 
     "take"    takes what it is given
     "deny"    promises to take it, and says afterwards that it has not
+    "ignore"  says that it has taken it, and has read nothing
     "die"     promises to take it, and is gone when it is dropped
     "refuse"  promises nothing
     """
@@ -71,8 +72,8 @@ class DropTarget:
         if self._behaviour == "die":
             self._window.destroy()
             self._display.sync()
-        elif self._behaviour == "deny":
-            self._answer("XdndFinished", 0)
+        elif self._behaviour in ("deny", "ignore"):
+            self._answer("XdndFinished", 1 if self._behaviour == "ignore" else 0)
         else:
             self._window.convert_selection(
                 self._atom("XdndSelection"), self._atom(self._wanted), self._atom("DROPPED"),

@@ -120,6 +120,13 @@ def test_a_promise_that_is_not_kept_is_no_use(desktop, vantle, folder, card):
     check_nothing_happened(desktop, folder)
 
 
+def test_who_has_read_nothing_has_taken_nothing(desktop, vantle, folder, card):
+    target = DropTarget(desktop, TARGET, behaviour="ignore")
+    with served(target):
+        assert not Drag(desktop, vantle, tile_of(card)).hold_over(*TARGET.centre).drop()
+    check_nothing_happened(desktop, folder)
+
+
 def test_a_target_that_dies_at_the_drop_takes_nothing(desktop, vantle, folder, card):
     target = DropTarget(desktop, TARGET, behaviour="die")
     with served(target):

@@ -110,7 +110,6 @@ DropAnswer::~DropAnswer() = default;
 void DropAnswer::wait(std::shared_ptr<const bool> wasRead,
                       std::function<void(bool wasTaken)> told) {
     if (!watch_) return told(*wasRead);
-    if (!x11::isXWayland()) return watch_->wait(std::move(told));
     watch_->wait([wasRead = std::move(wasRead), told = std::move(told)](bool wasTaken) {
         told(wasTaken && *wasRead);
     });

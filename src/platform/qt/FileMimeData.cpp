@@ -1,5 +1,7 @@
 #include "platform/qt/FileMimeData.h"
 
+#include <QUrl>
+#include <QVariantList>
 #include <utility>
 
 namespace vantle {
@@ -32,6 +34,13 @@ std::string path(const Url& file) {
     return file.path();
 }
 
+QVariantList urlList(const std::vector<Url>& files) {
+    QVariantList all;
+    for (const Url& file : files)
+        all << QUrl::fromEncoded(QByteArray::fromStdString(file.address()));
+    return all;
+}
+
 }  // namespace
 
 FileMimeData::FileMimeData(std::vector<Url> files, std::shared_ptr<const PictureContents> picture,
@@ -55,8 +64,18 @@ QStringList FileMimeData::formats() const {
     return (picture_ ? picture_->types() : QStringList()) + fileFormats();
 }
 
-QVariant FileMimeData::retrieveData(const QString& type, QMetaType) const {
-    *wasRead_ = true;
+QVariant FileMimeData::retrieveData(const QString& type, QMetaType wanted) const {
+    // Qt 6.8 makes an empty list of the bytes; its plugin for Wayland asks for the list.
+    if (type == addressList && wanted.id() == QMetaType::QVariantList) {
+        *wasRead_ = *wasRead_ || !files_.empty();
+        return urlList(files_);
+    }
+    const QByteArray bytes = as(type);
+    *wasRead_ = *wasRead_ || !bytes.isEmpty();
+    return bytes;
+}
+
+QByteArray FileMimeData::as(const QString& type) const {
     if (picture_ && picture_->types().contains(type)) return picture_->as(type);
     if (!fileFormats().contains(type)) return {};
     if (type == transferKey) return portal_.keyFor(files_);

@@ -27,7 +27,7 @@ public:
 
     QStringList formats() const override;
 
-    /// Becomes true when somebody reads any of it, and outlives this.
+    /// Becomes true when somebody has read some of it: an empty answer is none. Outlives this.
     std::shared_ptr<const bool> readMark() const { return wasRead_; }
 
 protected:
@@ -35,6 +35,7 @@ protected:
 
 private:
     QStringList fileFormats() const;
+    QByteArray as(const QString& type) const;
 
     const std::vector<Url> files_;
     const std::shared_ptr<const PictureContents> picture_;
