@@ -201,7 +201,8 @@ class PrivateDesktop:
         )
 
     def _start_compositor(self):
-        compositor = self.start("picom", "--backend", "xrender", "--config", "/dev/null")
+        compositor = self.start("picom", "--backend", "xrender", "--no-use-damage",
+                                "--config", "/dev/null")
         self._require(self.screen.is_composited, "the compositor composes", compositor)
 
     def _start_tray(self):

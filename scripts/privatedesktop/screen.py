@@ -298,4 +298,6 @@ class Screen:
 
     def title(self, window_number):
         window = self._display.create_resource_object("window", window_number)
-        return self._property(window, "WM_NAME", Xatom.STRING)
+        # The older name holds Latin letters alone.
+        return self._property(window, "_NET_WM_NAME") or self._property(window, "WM_NAME",
+                                                                        Xatom.STRING)
