@@ -14,6 +14,7 @@ class DropTarget:
 
     "take"    takes what it is given
     "deny"    promises to take it, and says afterwards that it has not
+    "early"   asks as soon as it hears of the drag, by no time, and takes what it was given
     "ignore"  says that it has taken it, and has read nothing
     "die"     promises to take it, and is gone when it is dropped
     "refuse"  promises nothing
@@ -56,6 +57,8 @@ class DropTarget:
         if name == "XdndEnter":
             self._enter(data)
         elif name == "XdndPosition":
+            if self._behaviour == "early" and self.received is None:
+                self._ask(X.CurrentTime)
             self._answer("XdndStatus", 0 if self._behaviour == "refuse" else 1)
             self.is_promised = self._behaviour != "refuse"
         elif name == "XdndDrop":
@@ -74,18 +77,23 @@ class DropTarget:
             self._display.sync()
         elif self._behaviour in ("deny", "ignore"):
             self._answer("XdndFinished", 1 if self._behaviour == "ignore" else 0)
+        elif self._behaviour == "early":
+            self._answer("XdndFinished", 1 if self.received else 0)
         else:
-            self._window.convert_selection(
-                self._atom("XdndSelection"), self._atom(self._wanted), self._atom("DROPPED"),
-                data[2],
-            )
-            self._display.sync()
+            self._ask(data[2])
+
+    def _ask(self, time):
+        self._window.convert_selection(
+            self._atom("XdndSelection"), self._atom(self._wanted), self._atom("DROPPED"), time
+        )
+        self._display.sync()
 
     def _receive(self, message):
         if message.property:
             answer = self._window.get_full_property(message.property, X.AnyPropertyType)
             self.received = answer.value
-        self._answer("XdndFinished", 1 if self.received else 0)
+        if self._behaviour != "early":
+            self._answer("XdndFinished", 1 if self.received else 0)
 
     def _answer(self, name, flags):
         action = self._atom("XdndActionCopy") if flags else 0

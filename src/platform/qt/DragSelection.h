@@ -5,13 +5,13 @@
 
 namespace vantle {
 
-/// Gives what is dragged to native programs of a Wayland session that is reached through XWayland.
-/// Some compositors ask for it as soon as the drag begins, and by a time of their own, which Qt
-/// refuses: the drop would be taken and nothing arrive. It lives from before the drag to the
-/// target's answer. Main thread only.
+/// Gives what is dragged to programs on an X server. Qt refuses who asks before the drop, by a time
+/// of his own, as programs of GTK 4 do and compositors that pass a drag on to Wayland: they would
+/// take the drop, and nothing would arrive. Nothing larger than one request of the protocol can be
+/// given. It lives from before the drag to the target's answer. Main thread only.
 class DragSelection {
 public:
-    /// On a plain X server it is not.
+    /// Whether this is an X server.
     static bool isNeeded();
 
     /// `contents` says the same as the drag's own.

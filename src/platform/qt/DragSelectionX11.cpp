@@ -83,7 +83,7 @@ private:
 };
 
 bool DragSelection::isNeeded() {
-    return x11::connection() && x11::isXWayland();
+    return x11::connection() != nullptr;
 }
 
 DragSelection::DragSelection(std::unique_ptr<QMimeData> contents)
