@@ -76,12 +76,17 @@ std::unique_ptr<SharingSource> makeSharingSource(const Platform& platform) {
     return std::make_unique<SharingSources>(std::move(sources));
 }
 
+/// Draws whole pictures for other programs, whatever the screens.
+std::shared_ptr<MediaLoader> makePictureLoader() {
+    return std::make_shared<ConfinedMediaLoader>(beside("vantle-decoder"), [] { return 1.0; });
+}
+
 /// What a capture can be used for.
-void addUses(Platform& platform, std::shared_ptr<MediaLoader> pictures) {
+void addUses(Platform& platform) {
     platform.opener = std::make_unique<DesktopFileOpener>(*platform.launcher,
                                                           DesktopFileOpener::currentSandbox());
     platform.trash = std::make_unique<FreedesktopTrash>(*platform.scheduler, platform.environment);
-    platform.pasteboard = std::make_unique<QtPasteboard>(std::move(pictures));
+    platform.pasteboard = std::make_unique<QtPasteboard>(makePictureLoader());
     platform.sharing = std::make_unique<MenuSharingServicePicker>(
         makeSharingSource(platform), *platform.pasteboard, *platform.opener);
     platform.privacySettings = std::make_unique<DesktopPrivacySettings>(
@@ -174,12 +179,7 @@ std::unique_ptr<LoginItem> makeLoginItem(const Environment& environment) {
 
 }  // namespace
 
-std::shared_ptr<MediaLoader> makePictureLoader() {
-    return std::make_shared<ConfinedMediaLoader>(beside("vantle-decoder"), [] { return 1.0; });
-}
-
-Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures,
-                           DBusApplication::Launch launch) {
+Platform makeLinuxPlatform(DBusApplication::Launch launch) {
     Platform platform;
     platform.environment = processEnvironment();
     platform.moreExtensions = linuxCaptureExtensions;
@@ -202,7 +202,7 @@ Platform makeLinuxPlatform(const std::shared_ptr<MediaLoader>& pictures,
     auto queue = std::make_unique<PollQueue>("vantle.watcher");
     platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*queue);
     platform.watcherQueue = std::move(queue);
-    addUses(platform, pictures);
+    addUses(platform);
     addShell(platform);
     platform.makeUpdater = makeUpdater;
     return platform;

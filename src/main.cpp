@@ -111,12 +111,10 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
         if (!isNobodyThere) return conclude(answer);
     }
 
-    const auto pictures = makePictureLoader();
-    Platform platform =
-        makeLinuxPlatform(pictures, line.launchedByBus ? DBusApplication::Launch::byBus
-                                                       : DBusApplication::Launch::byUser);
+    Platform platform = makeLinuxPlatform(line.launchedByBus ? DBusApplication::Launch::byBus
+                                                             : DBusApplication::Launch::byUser);
     Appearance::follow(platform.appearance.get());
-    QtDraggingSessions dragging(pictures, platform.moreExtensions);
+    QtDraggingSessions dragging;
     const auto delegate = AppDelegate::create(platform, makeViews(platform, dragging));
     if (!delegate->applicationWillFinishLaunching(request)) return EXIT_SUCCESS;
     const UnixSignals endingSignals([&] { platform.application->terminate(); });

@@ -195,8 +195,8 @@ TEST_F(FileMimeDataTest, ADragCarriesAddressesOnly) {
 
 TEST_F(FileMimeDataTest, APictureIsOfferedInItsOwnTypeByItsOwnBytes) {
     const Url file = desktop.saveImage("shot.png");
-    const FileMimeData data({file}, open(file), FileMimeData::Use::drag);
-    EXPECT_THAT(data.formats(),
+    const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
+    EXPECT_THAT(data.formats().mid(0, 4),
                 ElementsAre("image/png", "image/jpeg", "image/bmp", "text/uri-list"));
     EXPECT_EQ(get(data, "image/png"), pictureFile("PNG"));
     EXPECT_THAT(desktop.media->drawnSizes, IsEmpty());
@@ -204,8 +204,8 @@ TEST_F(FileMimeDataTest, APictureIsOfferedInItsOwnTypeByItsOwnBytes) {
 
 TEST_F(FileMimeDataTest, OtherTypesAreMadeWhenSomebodyAsks) {
     const Url file = desktop.saveImage("shot.jpg", "JPEG");
-    const FileMimeData data({file}, open(file), FileMimeData::Use::drag);
-    EXPECT_THAT(data.formats(),
+    const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
+    EXPECT_THAT(data.formats().mid(0, 4),
                 ElementsAre("image/jpeg", "image/png", "image/bmp", "text/uri-list"));
     EXPECT_EQ(get(data, "image/jpeg"), pictureFile("JPEG"));
     EXPECT_THAT(desktop.media->drawnSizes, IsEmpty());
@@ -216,7 +216,7 @@ TEST_F(FileMimeDataTest, OtherTypesAreMadeWhenSomebodyAsks) {
 
 TEST_F(FileMimeDataTest, WhatLetsThroughStandsOnWhiteWhereATypeCannotSayIt) {
     const Url file = desktop.saveImage("shot.png");
-    const FileMimeData data({file}, open(file), FileMimeData::Use::drag);
+    const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
     for (const auto* type : {"image/jpeg", "image/bmp"})
         EXPECT_EQ(QImage::fromData(get(data, type)).pixelColor(5, 5), QColor(Qt::white)) << type;
 }
@@ -250,7 +250,7 @@ TEST_F(FileMimeDataTest, APictureWithoutPixelsIsDrawnForADenseScreen) {
     const Url file = desktop.folder / "page.pdf";
     save(file, "%PDF-1.4");
     desktop.media->addImage(file, Size{0, 0}, Size{50, 70});
-    const FileMimeData data({file}, open(file), FileMimeData::Use::drag);
+    const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
     EXPECT_EQ(get(data, "application/pdf"), "%PDF-1.4");
     EXPECT_EQ(QImage::fromData(get(data, "image/png")).size(), QSize(100, 140));
 }
@@ -259,7 +259,7 @@ TEST_F(FileMimeDataTest, ADamagedPictureGivesNothing) {
     const Url file = desktop.folder / "shot.tiff";
     save(file, "II*");
     desktop.media->addDamagedImage(file, Size{40, 30}, Size{40, 30});
-    const FileMimeData data({file}, open(file), FileMimeData::Use::drag);
+    const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
     const auto wasRead = data.readMark();
     EXPECT_EQ(get(data, "image/png"), "");
     EXPECT_FALSE(*wasRead);

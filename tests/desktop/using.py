@@ -82,9 +82,10 @@ def find_window(desktop, text):
     return None
 
 
-def window_titled(desktop, text):
+def window_titled(desktop, text, limit=20.0):
     """The same, once there is one."""
-    return wait_until(lambda: find_window(desktop, text), f"a window has {text} in its title")
+    what = f"a window has {text} in its title"
+    return wait_until(lambda: find_window(desktop, text), what, limit)
 
 
 def press_with_control(desktop, key):

@@ -40,6 +40,29 @@ tell("ready", {isReady: true});
 """
 
 
+def start_chromium(desktop, address):
+    desktop.start(
+        "chromium", "--no-sandbox", "--test-type", "--no-first-run", "--disable-gpu",
+        "--password-store=basic",
+        "--disable-background-networking", "--disable-component-update",
+        f"--user-data-dir={desktop.home / 'browser'}",
+        "--window-position=20,60", "--window-size=900,600",
+        f"--app={address}",
+    )  # fmt: skip
+
+
+def start_firefox(desktop, address):
+    profile = desktop.home / "browser"
+    profile.mkdir()
+    # It tells nobody that it is here, and asks nothing at its first start.
+    (profile / "user.js").write_text(
+        'user_pref("datareporting.policy.dataSubmissionEnabled", false);\n'
+        'user_pref("browser.aboutwelcome.enabled", false);\n'
+        'user_pref("browser.shell.checkDefaultBrowser", false);\n'
+        'user_pref("app.normandy.enabled", false);\n')
+    desktop.start("firefox-esr", "--profile", str(profile), "--new-instance", "--kiosk", address)
+
+
 class File:
     def __init__(self, told):
         self.name = told["name"]
@@ -54,7 +77,7 @@ class WebPage:
     middle = (420, 420)
     _text = (120, 130)
 
-    def __init__(self, desktop):
+    def __init__(self, desktop, start_browser=start_chromium):
         self._desktop = desktop
         self._told = {}
         page = self
@@ -77,14 +100,7 @@ class WebPage:
 
         self._server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
         threading.Thread(target=self._server.serve_forever, daemon=True).start()
-        desktop.start(
-            "chromium", "--no-sandbox", "--test-type", "--no-first-run", "--disable-gpu",
-            "--password-store=basic",
-            "--disable-background-networking", "--disable-component-update",
-            f"--user-data-dir={desktop.home / 'browser'}",
-            "--window-position=20,60", "--window-size=900,600",
-            f"--app=http://127.0.0.1:{self._server.server_port}/",
-        )  # fmt: skip
+        start_browser(desktop, f"http://127.0.0.1:{self._server.server_port}/")
         self._wait_for("ready")
 
     def _wait_for(self, what):

@@ -7,7 +7,6 @@
 #include <optional>
 #include <utility>
 
-#include "capture/Capture.h"
 #include "panel/views/Appearance.h"
 #include "panel/views/dragging/DragPile.h"
 #include "panel/views/dragging/FlyBack.h"
@@ -38,26 +37,25 @@ void logPromise(Qt::DropAction action) {
 class Session final : public QObject {
 public:
     Session(QWindow& window, std::vector<DraggingItem> items, const QPointF& grip,
-            const CaptureExtensions& more, DraggingSessions::Ended ended)
+            DraggingSessions::Ended ended)
         : window_(&window),
           pile_(dragPile(items, window.devicePixelRatio(), possibleEdges())),
           start_(window.position() + pile_.frame.topLeft().toPoint()),
           hotSpot_((grip - pile_.frame.topLeft()).toPoint()),
-          more_(more),
           ended_(std::move(ended)) {
         for (auto& item : items) urls_.push_back(std::move(item.url));
     }
 
     /// Returns when the button was released or the drag was given up; events go on meanwhile.
-    void run(const std::shared_ptr<MediaLoader>& media) {
+    void run() {
         if (!window_) {
             finish(DragOperation::none);
             return;
         }
-        auto carried = contents(media);
+        auto carried = contents();
         wasRead_ = carried->readMark();
         if (DragSelection::isNeeded()) {
-            auto selected = contents(media);
+            auto selected = contents();
             wasRead_ = selected->readMark();
             selection_.emplace(std::move(selected));
         }
@@ -82,11 +80,8 @@ public:
     }
 
 private:
-    std::unique_ptr<FileMimeData> contents(const std::shared_ptr<MediaLoader>& media) const {
-        const bool isPicture =
-            urls_.size() == 1 && Capture::kind(urls_.front(), more_) == CaptureKind::image;
-        auto picture = isPicture ? PictureContents::open(urls_.front(), media) : nullptr;
-        return std::make_unique<FileMimeData>(urls_, std::move(picture), FileMimeData::Use::drag);
+    std::unique_ptr<FileMimeData> contents() const {
+        return std::make_unique<FileMimeData>(urls_, nullptr, FileMimeData::Use::drag);
     }
 
     void finish(DragOperation operation) {
@@ -101,7 +96,6 @@ private:
     const DragPile pile_;
     const QPoint start_;
     const QPoint hotSpot_;
-    const CaptureExtensions more_;
     const DraggingSessions::Ended ended_;
     DropAnswer answer_;
     std::optional<DragSelection> selection_;
@@ -110,16 +104,12 @@ private:
 
 }  // namespace
 
-QtDraggingSessions::QtDraggingSessions(std::shared_ptr<MediaLoader> media,
-                                       const CaptureExtensions& more)
-    : media_(std::move(media)), more_(more) {}
-
 void QtDraggingSessions::begin(QWindow& window, std::vector<DraggingItem> items,
                                const QPointF& grip, Ended ended) {
-    auto* session = new Session(window, std::move(items), grip, more_, std::move(ended));
+    auto* session = new Session(window, std::move(items), grip, std::move(ended));
     // Not inside the mouse event: a drag is an event loop of its own.
     QMetaObject::invokeMethod(
-        session, [session, media = media_] { session->run(media); }, Qt::QueuedConnection);
+        session, [session] { session->run(); }, Qt::QueuedConnection);
 }
 
 }  // namespace vantle
