@@ -51,10 +51,12 @@ void logPassThrough(const QPointF& point, const QRectF& card) {
 
 }  // namespace
 
-PassthroughContainerView::PassthroughContainerView(QQuickWindow& window) : window_(window) {
+PassthroughContainerView::PassthroughContainerView(QQuickWindow& window)
+    : window_(window), inputRegion_(window) {
     window.installEventFilter(this);
     // Before each frame that is drawn: the region follows the glass while it moves.
     connect(&window, &QQuickWindow::afterAnimating, this, [this] { follow(Repeat::whenChanged); });
+    connect(&window, &QQuickWindow::frameSwapped, &inputRegion_, &KeptInputRegion::frameDrawn);
 }
 
 GlassBackdropView* PassthroughContainerView::findGlass(const QQuickItem& item) {
@@ -99,7 +101,7 @@ void PassthroughContainerView::follow(Repeat repeat) {
     const QRect frame = glass ? frameOf(*glass).toAlignedRect() : QRect();
     if (!window_.isExposed() || (repeat == Repeat::whenChanged && frame == glassFrame_)) return;
     glassFrame_ = frame;
-    setInputRegion(window_, frame);
+    inputRegion_.set(frame);
     const QRegion shape = glass ? shapeOf(*glass) : QRegion();
     cutOut(glass, shape);
     if (repeat == Repeat::always) blurIsOffered_ = blurBehindIsOffered();

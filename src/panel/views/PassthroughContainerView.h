@@ -5,6 +5,7 @@
 #include <QRect>
 
 #include "panel/views/GlassBackdropView.h"
+#include "platform/qt/KeptInputRegion.h"
 
 namespace vantle {
 
@@ -35,6 +36,7 @@ private:
     void cutOut(const GlassBackdropView* glass, const QRegion& shape);
 
     QQuickWindow& window_;
+    KeptInputRegion inputRegion_;
     QRect glassFrame_;
     bool blurIsOffered_ = false;
 };

@@ -1,7 +1,6 @@
 // What an X server and those who serve its windows tell about themselves.
 
 #include <QGuiApplication>
-#include <cstring>
 #include <string>
 
 #include "platform/qt/BlurBehind.h"
@@ -13,25 +12,8 @@
 namespace vantle {
 namespace {
 
-/// Of a window; empty where it has none of that name.
-std::string property(xcb_window_t window, const char* name) {
-    constexpr uint32_t longest = 64;  // in units of four bytes
-    const auto reply = x11::owned(
-        xcb_get_property_reply(x11::connection(),
-                               xcb_get_property(x11::connection(), false, window, x11::atom(name),
-                                                XCB_ATOM_ANY, 0, longest),
-                               nullptr));
-    if (!reply) return {};
-    return {static_cast<const char*>(xcb_get_property_value(reply.get())),
-            static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
-}
-
 std::string windowManager() {
-    const std::string number = property(x11::root(), "_NET_SUPPORTING_WM_CHECK");
-    xcb_window_t window = XCB_WINDOW_NONE;
-    if (number.size() == sizeof window) std::memcpy(&window, number.data(), sizeof window);
-    const std::string name =
-        window == XCB_WINDOW_NONE ? std::string() : property(window, "_NET_WM_NAME");
+    const std::string name = x11::propertyOfWindowManager("_NET_WM_NAME");
     return name.empty() ? "unknown" : name;
 }
 

@@ -50,6 +50,24 @@ xcb_atom_t atom(const char* name) {
     return known[name] = reply->atom;
 }
 
+std::string property(xcb_window_t window, const char* name) {
+    constexpr uint32_t longest = 64;  // in units of four bytes
+    const auto reply = owned(xcb_get_property_reply(
+        connection(),
+        xcb_get_property(connection(), false, window, atom(name), XCB_ATOM_ANY, 0, longest),
+        nullptr));
+    if (!reply) return {};
+    return {static_cast<const char*>(xcb_get_property_value(reply.get())),
+            static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
+}
+
+std::string propertyOfWindowManager(const char* name) {
+    const std::string number = property(root(), "_NET_SUPPORTING_WM_CHECK");
+    xcb_window_t window = XCB_WINDOW_NONE;
+    if (number.size() == sizeof window) std::memcpy(&window, number.data(), sizeof window);
+    return window == XCB_WINDOW_NONE ? std::string() : property(window, name);
+}
+
 std::vector<xcb_rectangle_t> inPixels(const QRegion& region, double pixelsPerPoint) {
     const auto pixels = [pixelsPerPoint](int points) {
         return std::lround(points * pixelsPerPoint);

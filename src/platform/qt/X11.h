@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdlib>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace vantle::x11 {
@@ -16,6 +17,12 @@ xcb_connection_t* connection();
 
 /// The window that everything stands on.
 xcb_window_t root();
+
+/// Of a window; empty where it has none of that name. At most 256 bytes of it.
+std::string property(xcb_window_t window, const char* name);
+
+/// Of the window by which the window manager makes itself known; empty where there is none.
+std::string propertyOfWindowManager(const char* name);
 
 /// Whether what serves X is a Wayland compositor's XWayland.
 bool isXWayland();
