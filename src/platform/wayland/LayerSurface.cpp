@@ -8,10 +8,10 @@ constexpr auto surfaceName = "vantle";
 
 }  // namespace
 
-LayerSurface::LayerSurface(wl_surface* surface, const Place& place)
+LayerSurface::LayerSurface(wl_surface* surface, const Place& place, layershell::Layer layer)
     : surface_(surface),
-      role_(layershell::getLayerSurface(globals().layerShell, surface, place.output,
-                                        layershell::Layer::overlay, surfaceName)) {
+      role_(layershell::getLayerSurface(globals().layerShell, surface, place.output, layer,
+                                        surfaceName)) {
     static constexpr layershell::Listener listener{configured, closed};
     layershell::addListener(role_, &listener, this);
     request(place);

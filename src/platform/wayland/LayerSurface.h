@@ -23,7 +23,8 @@ public:
 
     /// `surface` has no role and no contents yet, and outlives this. Returns once the compositor
     /// has said how large it is: now it may be given contents.
-    LayerSurface(wl_surface* surface, const Place& place);
+    LayerSurface(wl_surface* surface, const Place& place,
+                 layershell::Layer layer = layershell::Layer::overlay);
     ~LayerSurface();
     LayerSurface(const LayerSurface&) = delete;
     LayerSurface& operator=(const LayerSurface&) = delete;

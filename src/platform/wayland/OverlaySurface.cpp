@@ -51,7 +51,9 @@ void OverlaySurface::placeBesideAnchor(wl_surface* surface, LayerSurface::Place 
     place.size = pixelSize;
     pixel_ = makeEmptyBuffer();
     anchor_ = makeSurface();
-    layer_ = std::make_unique<LayerSurface>(anchor_.get(), place);
+    // Popups stand above full-screen windows there, whatever the layer below them. On this one the
+    // menus of the desktop's panels, which are popups too, come to stand above the card.
+    layer_ = std::make_unique<LayerSurface>(anchor_.get(), place, layershell::Layer::top);
     if (layer_->isRefused()) return;
     show(anchor_.get(), pixel_.get());
     popup_ = std::make_unique<PopupSurface>(surface, *this,

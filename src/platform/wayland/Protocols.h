@@ -20,7 +20,7 @@ struct Surface;
 extern const wl_interface shellInterface;
 inline constexpr std::uint32_t version = 4;
 
-enum class Layer : std::uint32_t { overlay = 3 };
+enum class Layer : std::uint32_t { top = 2, overlay = 3 };
 enum Anchor : std::uint32_t { top = 1, bottom = 2, left = 4, right = 8, all = 15 };
 enum class Keyboard : std::uint32_t { none = 0, exclusive = 1 };
 
