@@ -69,8 +69,10 @@ std::vector<Overlay*>& all() {
 Overlay::Overlay(QWindow& window, Focus focus) : window_(window), keyboard_(window) {
     all().push_back(this);
     window.setFlags(flags(focus));
-    for (const auto signal : {&QGuiApplication::screenAdded, &QGuiApplication::screenRemoved})
-        connect(qGuiApp, signal, this, &Overlay::showOnRemainingScreen, Qt::QueuedConnection);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &Overlay::showOnRemainingScreen,
+            Qt::QueuedConnection);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &Overlay::screenRemoved,
+            Qt::QueuedConnection);
 }
 
 Overlay::~Overlay() {
@@ -135,7 +137,17 @@ void Overlay::hide() {
 }
 
 void Overlay::closed() {
-    if (!layer_) return;
+    // By now it may be another one.
+    if (layer_ && layer_->isRefused()) leaveScreen();
+}
+
+void Overlay::screenRemoved() {
+    // Not every compositor tells that the layer went with it.
+    if (layer_ && !screen_) return leaveScreen();
+    showOnRemainingScreen();
+}
+
+void Overlay::leaveScreen() {
     waitForScreen();
     // The end of its screen may be told later, and brings us there as well.
     if (!screen_) showOnRemainingScreen();

@@ -61,6 +61,8 @@ private:
     /// never.
     void showAgain();
     void closed();
+    void screenRemoved();
+    void leaveScreen();
     void waitForScreen();
     void showOnRemainingScreen();
 
