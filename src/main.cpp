@@ -17,6 +17,7 @@
 #include "panel/views/CapturePanel.h"
 #include "panel/views/dragging/QtDraggingSessions.h"
 #include "platform/qt/DBusApplication.h"
+#include "platform/qt/DisplayConnection.h"
 #include "platform/qt/UnixSignals.h"
 #include "platform/qt/translations/Translations.h"
 #include "platform/wayland/ServerChoice.h"
@@ -41,9 +42,14 @@ void returnLargeBlocksAtOnce() {
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 }
 
-/// A missing display is no reason for a core dump, nor to reinstall the program, as Qt says.
-void endOnFatalMessages(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    if (type != QtFatalMsg) return systemLog(message.toStdString());
+/// A missing display is no reason for a core dump, nor to reinstall the program, as Qt says. Of one
+/// that has gone Qt says so before it ends the program, with a status that depends on its version.
+void logOrEnd(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    if (type != QtFatalMsg) {
+        systemLog(message.toStdString());
+        if (isDisplayLost()) _exit(EXIT_FAILURE);
+        return;
+    }
     const bool hasDisplay = QGuiApplication::primaryScreen() != nullptr;
     systemLog("Vantle: " + (hasDisplay ? message.toStdString() : "no display could be opened"));
     _exit(EXIT_FAILURE);
@@ -99,7 +105,7 @@ AppDelegate::Views makeViews(Platform& platform, DraggingSessions& dragging) {
 
 int run(int& argc, char** argv, const CommandLine& line, Translations& translations) {
     const auto& request = line.request;
-    qInstallMessageHandler(endOnFatalMessages);
+    qInstallMessageHandler(logOrEnd);
     QGuiApplication application = makeApplication(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName(QString::fromLatin1(programIdentifier));
