@@ -3,6 +3,7 @@
 import os
 import pathlib
 import shutil
+import subprocess
 import sys
 
 import pytest
@@ -22,6 +23,7 @@ SKIPPED_EXIT_STATUS = 77
 def pytest_configure(config):
     config.addinivalue_line("markers", "desktop(**options): how the private desktop is to be made")
     config.addinivalue_line("markers", "sway(lines): more of its configuration")
+    config.addinivalue_line("markers", "kwin(**options): how it is to be started")
     config.passed_tests = 0
     config.skipped_tests = 0
 
@@ -58,13 +60,20 @@ def keep_evidence(item):
         shutil.copy(log, target)
 
 
-def require_peer(tool):
-    """Skips the test where a heavy peer is missing, unless none may be missing."""
+def require_peer(tool, package=None):
+    """Skips the test where a heavy peer is missing, unless none may be missing. One of a package
+    that only some releases have may be missing in the others."""
     if shutil.which(tool):
         return
-    if os.environ.get("VANTLE_REQUIRE_ALL_PEERS"):
+    if os.environ.get("VANTLE_REQUIRE_ALL_PEERS") and (package is None or is_offered(package)):
         pytest.fail(f"{tool} is not installed")
     pytest.skip(f"{tool} is not installed; ./test --all installs it")
+
+
+def is_offered(package):
+    """Whether this release has it, installed or not."""
+    shown = subprocess.run(["apt-cache", "show", package], capture_output=True, check=False)
+    return shown.returncode == 0
 
 
 @pytest.fixture

@@ -1,5 +1,6 @@
 """KDE's compositor as a Wayland desktop inside a private one, with XWayland."""
 
+import json
 import shutil
 
 from wayland_desktop import WaylandDesktop
@@ -13,6 +14,10 @@ echo $DISPLAY $WAYLAND_DISPLAY > $HOME/told
 class KWinDesktop(WaylandDesktop):
     name = "KDE"
 
+    def __init__(self, host, scale=1):
+        self._scale = scale
+        super().__init__(host)
+
     def _start_compositor(self):
         # The installed one has a right of its own, and does not start where nobody may have it. A
         # copy has none.
@@ -20,9 +25,26 @@ class KWinDesktop(WaylandDesktop):
         teller = self.folder / "tell-names"
         teller.write_text(_TELL_NAMES)
         teller.chmod(0o755)
+        self._write_scale()
         width, height = self.screen.size
         # Painted by Qt: the X server has not all that KWin needs of OpenGL.
-        self.start("env", "KWIN_COMPOSE=Q",
-                   kwin, "--x11-display", self.environment["DISPLAY"], "--xwayland",
-                   "--width", width, "--height", height, "--no-lockscreen", teller)
+        self._compositor = self.start(
+            "env", "KWIN_COMPOSE=Q",
+            kwin, "--x11-display", self.environment["DISPLAY"], "--xwayland",
+            "--width", width, "--height", height, "--no-lockscreen", "--scale", self._scale, teller,
+        )  # fmt: skip
         self._wait_for_names("DISPLAY", "WAYLAND_DISPLAY")
+
+    def _write_scale(self):
+        """Where KWin 6 looks for it; 5 has an option."""
+        output = {"connectorName": "X11-0", "scale": self._scale}
+        place = {"outputIndex": 0, "enabled": True, "position": {"x": 0, "y": 0}, "priority": 0}
+        setup = {"lidClosed": False, "outputs": [place]}
+        configuration = self.home / ".config"
+        configuration.mkdir(exist_ok=True)
+        (configuration / "kwinoutputconfig.json").write_text(json.dumps(
+            [{"name": "outputs", "data": [output]}, {"name": "setups", "data": [setup]}]))
+        self.give_to_user()
+
+    def end(self):
+        self._compositor.terminate()

@@ -14,9 +14,13 @@ from wayland_checks import (
     check_copied_by_itself,
     check_corner,
     check_dragged_into_a_native_window,
+    check_ends_with_compositor,
     check_focus_stays,
+    check_idle,
     check_keyboard_on_request,
+    check_on_every_workspace,
     check_pasted,
+    check_scaled_by_a_half,
     click_through,
     corner,
     outside_panel,
@@ -30,10 +34,11 @@ pytestmark = pytest.mark.desktop(tray=False, compositor=False)
 
 
 @pytest.fixture
-def kwin(desktop):
+def kwin(request, desktop):
     require_peer("kwin_wayland")
     require_peer("Xwayland")
-    return KWinDesktop(desktop)
+    marker = request.node.get_closest_marker("kwin")
+    return KWinDesktop(desktop, **(marker.kwargs if marker else {}))
 
 
 @pytest.fixture
@@ -114,3 +119,34 @@ def test_native_programs_paste_what_was_copied(kwin, vantle):
 def test_what_is_copied_by_itself_reaches_the_clipboard(kwin, binary):
     require_peer("wl-paste")
     check_copied_by_itself(kwin, binary)
+
+
+def test_on_every_workspace(kwin, vantle):
+    check_on_every_workspace(kwin, vantle, lambda: switch_to_new_workspace(kwin))
+
+
+def switch_to_new_workspace(kwin):
+    manager = "org.kde.KWin", "/VirtualDesktopManager", "org.kde.KWin.VirtualDesktopManager"
+    kwin.run("busctl", "--user", "call", *manager, "createDesktop", "us", "1", "second")
+    kwin.run("busctl", "--user", "set-property", *manager, "current", "s", second_workspace(kwin))
+
+
+def second_workspace(kwin):
+    """The name by which KWin knows it."""
+    told = kwin.run("busctl", "--user", "get-property", "org.kde.KWin", "/VirtualDesktopManager",
+                    "org.kde.KWin.VirtualDesktopManager", "desktops", text=True).stdout  # fmt: skip
+    # The number of them, then of each its position, identifier and name.
+    return told.split()[6].strip('"')
+
+
+@pytest.mark.kwin(scale=1.5)
+def test_on_an_output_that_is_scaled(kwin, vantle):
+    check_scaled_by_a_half(kwin, vantle)
+
+
+def test_the_end_of_the_compositor_ends_it(kwin, vantle):
+    check_ends_with_compositor(kwin, vantle, kwin.end)
+
+
+def test_idle_it_does_nothing(kwin, vantle):
+    check_idle(kwin, vantle)

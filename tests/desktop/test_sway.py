@@ -4,17 +4,14 @@ import io
 import pathlib
 import signal
 import tempfile
-import time
 
 import pytest
 from PIL import Image
 
 from conftest import require_peer
-from panel_checks import expected_frame
-from pictures import RED, YELLOW, is_one_pattern, mask_of
+from pictures import RED, is_one_pattern, mask_of
 from privatedesktop import Rectangle, WaitTimeout, wait_until, wait_until_still
 from sway_desktop import SwayDesktop
-from test_idle import MEASURED_SECONDS
 from using import Drag
 from wayland_checks import (
     beside_card,
@@ -23,9 +20,14 @@ from wayland_checks import (
     check_copied_by_itself,
     check_corner,
     check_dragged_into_a_native_window,
+    check_ends_with_compositor,
     check_focus_stays,
+    check_idle,
     check_keyboard_on_request,
+    check_on_every_workspace,
     check_pasted,
+    check_scaled_by_a_half,
+    check_stands_in,
     corner,
     is_gone,
     outside_panel,
@@ -89,17 +91,7 @@ def test_the_card_stands_in_its_corner(sway, vantle):
 def test_in_each_corner_it_leaves_the_bar_free(sway, binary, side):
     width, height = sway.screen.size
     bar = wait_until(lambda: bar_height(sway), "the bar comes")
-    with program_on(sway, binary, corner=side) as vantle:
-        vantle.start_watching()
-        save(sway, "shot.png")
-        frame = expected_frame(Rectangle(0, bar, width, height - bar), side)
-        wait_until(lambda: is_one_pattern(sway.screen.screenshot(frame)), "the tile stands")
-        picture = wait_until_still(lambda: sway.screen.screenshot(frame), "the card")
-        left, top, _, _ = mask_of(picture, RED).getbbox()
-        _, _, right, bottom = mask_of(picture, YELLOW).getbbox()
-        across = frame.width - right if side.endswith("Right") else left
-        down = frame.height - bottom if side.startswith("bottom") else top
-        assert 10 < across < 40 and 10 < down < 90
+    check_stands_in(sway, binary, Rectangle(0, bar, width, height - bar), side)
 
 
 def bar_height(sway):
@@ -115,11 +107,7 @@ def test_above_a_full_screen_window(sway, vantle):
 
 
 def test_on_every_workspace(sway, vantle):
-    vantle.start_watching()
-    show_one(sway, vantle)
-    sway.message("workspace", "2")
-    wait_until_still(lambda: sway.screen.screenshot().tobytes(), "the workspace")
-    assert is_one_pattern(sway.screen.screenshot(corner(sway)))
+    check_on_every_workspace(sway, vantle, lambda: sway.message("workspace", "2"))
 
 
 def test_clicks_outside_the_card_reach_the_window_underneath(sway, vantle):
@@ -320,16 +308,7 @@ def test_wf_recorder_is_noticed_when_it_has_ended(sway, vantle):
 
 @pytest.mark.sway("output * scale 1.5")
 def test_on_an_output_that_is_scaled(sway, vantle):
-    vantle.start_watching()
-    save(sway, "shot.png")
-    width, height = sway.screen.size
-    frame = Rectangle(width - 1200, height - 495, 1200, 495)
-    wait_until(lambda: is_one_pattern(sway.screen.screenshot(frame)), "the tile stands")
-    left, top, right, bottom = wait_until_still(
-        lambda: mask_of(sway.screen.screenshot(frame), RED).getbbox(), "the card"
-    )
-    # The red quarter of a thumbnail of 304 × 190 points.
-    assert abs(right - left - 228) <= 3 and abs(bottom - top - 142) <= 3
+    check_scaled_by_a_half(sway, vantle)
 
 
 def outputs(sway):
@@ -409,18 +388,8 @@ def test_the_menu_of_its_icon_in_the_bar(sway, vantle):
 
 
 def test_the_end_of_the_compositor_ends_it(sway, vantle):
-    vantle.start_watching()
-    show_one(sway, vantle)
-    sway.run("swaymsg", "exit", check=False)
-    assert vantle.wait_for_end() == 1
-    assert "The Wayland connection broke" in vantle.log_text()
+    check_ends_with_compositor(sway, vantle, lambda: sway.run("swaymsg", "exit", check=False))
 
 
 def test_idle_it_does_nothing(sway, vantle):
-    vantle.start_watching()
-    sway.screen.pointer.move(300, 300)
-    show_one(sway, vantle)
-    wait_until_still(vantle.voluntary_switches, "the program", readings=20)
-    before = vantle.voluntary_switches()
-    time.sleep(MEASURED_SECONDS)
-    assert vantle.voluntary_switches() == before
+    check_idle(sway, vantle)

@@ -1,10 +1,12 @@
 """What tests of the card on Wayland desktops share."""
 
 import contextlib
+import time
 
 from panel_checks import encoded, expected_frame
 from pictures import RED, YELLOW, is_one_pattern, mask_of, pattern
 from privatedesktop import Program, Rectangle, wait_until, wait_until_still
+from test_idle import MEASURED_SECONDS
 from using import BUTTONS, Drag
 from wayland_desktop import NativeWindow
 
@@ -14,9 +16,9 @@ _BUTTONS_BELOW_TILE = 26
 
 
 @contextlib.contextmanager
-def program_on(desktop, binary, environment=None, **settings):
+def program_on(desktop, binary, environment=None, name="vantle", **settings):
     """Vantle, not started yet, as the desktop's user starts it."""
-    program = Program(desktop.as_user(binary), desktop, environment)
+    program = Program(desktop.as_user(binary), desktop, environment, name)
     program.write_settings(
         **{"hasExplainedMissingTray": "true", "removeAfterUse": "true", **settings}
     )
@@ -28,7 +30,7 @@ def program_on(desktop, binary, environment=None, **settings):
 
 
 def corner(desktop):
-    return expected_frame(Rectangle(0, 0, *desktop.screen.size), "bottomRight")
+    return expected_frame(desktop.work_area(), "bottomRight")
 
 
 def save(desktop, name):
@@ -94,9 +96,64 @@ def check_pasted(desktop):
 def check_corner(desktop, vantle):
     vantle.start_watching()
     tile = show_one(desktop, vantle)
+    area = desktop.work_area()
+    assert 10 < area.right - tile.right < 40
+    assert 50 < area.bottom - tile.bottom < 90
+
+
+def check_stands_in(desktop, binary, area, side):
+    """In that corner of that part of the screen, without reaching out of it."""
+    with program_on(desktop, binary, name=side, corner=side) as vantle:
+        vantle.start_watching()
+        save(desktop, f"{side}.png")
+        frame = expected_frame(area, side)
+        wait_until(lambda: is_one_pattern(desktop.screen.screenshot(frame)), "the tile stands")
+        picture = wait_until_still(lambda: desktop.screen.screenshot(frame), "the card")
+        left, top, _, _ = mask_of(picture, RED).getbbox()
+        _, _, right, bottom = mask_of(picture, YELLOW).getbbox()
+        across = frame.width - right if side.endswith("Right") else left
+        down = frame.height - bottom if side.startswith("bottom") else top
+        assert 10 < across < 40 and 10 < down < 90
+
+
+def check_on_every_workspace(desktop, vantle, switch):
+    vantle.start_watching()
+    show_one(desktop, vantle)
+    switch()
+    wait_until_still(lambda: desktop.screen.screenshot().tobytes(), "the workspace")
+    assert is_one_pattern(desktop.screen.screenshot(corner(desktop)))
+
+
+def check_scaled_by_a_half(desktop, vantle):
+    """On an output with one and a half pixels a point."""
+    vantle.start_watching()
+    save(desktop, "shot.png")
     width, height = desktop.screen.size
-    assert 10 < width - tile.right < 40
-    assert 50 < height - tile.bottom < 90
+    frame = Rectangle(width - 1200, height - 495, 1200, 495)
+    wait_until(lambda: is_one_pattern(desktop.screen.screenshot(frame)), "the tile stands")
+    left, top, right, bottom = wait_until_still(
+        lambda: mask_of(desktop.screen.screenshot(frame), RED).getbbox(), "the card"
+    )
+    # The red quarter of a thumbnail of 304 × 190 points.
+    assert abs(right - left - 228) <= 3 and abs(bottom - top - 142) <= 3
+
+
+def check_idle(desktop, vantle):
+    vantle.start_watching()
+    desktop.screen.pointer.move(300, 300)
+    show_one(desktop, vantle)
+    wait_until_still(vantle.voluntary_switches, "the program", readings=20)
+    before = vantle.voluntary_switches()
+    time.sleep(MEASURED_SECONDS)
+    assert vantle.voluntary_switches() == before
+
+
+def check_ends_with_compositor(desktop, vantle, end):
+    vantle.start_watching()
+    show_one(desktop, vantle)
+    end()
+    assert vantle.wait_for_end() == 1
+    assert "The Wayland connection broke" in vantle.log_text()
 
 
 def check_above_a_full_screen_window(desktop, vantle):

@@ -8,7 +8,7 @@ import os
 import pathlib
 import shutil
 
-from privatedesktop import DesktopFailure, WaitTimeout, wait_until
+from privatedesktop import DesktopFailure, Rectangle, WaitTimeout, wait_until
 
 _NOBODY = 65534
 
@@ -59,6 +59,10 @@ class WaylandDesktop:
             "DBUS_SESSION_BUS_ADDRESS": f"unix:path={self.folder}/runtime/bus",
         }
 
+    def work_area(self):
+        """The part of the screen that is left to windows."""
+        return Rectangle(0, 0, *self.screen.size)
+
     def as_user(self, *command):
         """Compositors refuse to be root's, and only who started XWayland may use it."""
         if os.geteuid() != 0:
@@ -66,10 +70,11 @@ class WaylandDesktop:
         return ["setpriv", f"--reuid={_NOBODY}", f"--regid={_NOBODY}", "--clear-groups", *command]
 
     def give_to_user(self):
-        """What was written so far is its user's."""
+        """What was written so far is its user's. What is in the runtime folder is that already, and
+        a file system of theirs may stand there, which is closed to others."""
         if os.geteuid() != 0:
             return
-        for path in (self.folder, *self.folder.rglob("*")):
+        for path in (self.folder, *self.folder.iterdir(), *self.home.rglob("*")):
             shutil.chown(path, _NOBODY, _NOBODY)
 
     def _command(self, command):
