@@ -54,12 +54,13 @@ def start_xfce_panel(desktop):
 
 
 class Icon:
-    """Vantle's icon in a bar along the top or the bottom of the screen."""
+    """Vantle's icon in a bar along the top or the bottom of the screen, right of `left`."""
 
-    def __init__(self, desktop, edge, height=36):
+    def __init__(self, desktop, edge, height=36, left=0):
         self._desktop = desktop
         width, total = desktop.size
-        self._bar = Rectangle(0, 0 if edge == "top" else total - height, width, height)
+        top = 0 if edge == "top" else total - height
+        self._bar = Rectangle(left, top, width - left, height)
 
     def _pixels(self, least_saturation):
         """The places of the icon's colours, which nothing else in a bar has."""
