@@ -190,7 +190,19 @@ TEST_F(FileMimeDataTest, WhoAsksForTheListOfAddressesHasReadIt) {
 
 TEST_F(FileMimeDataTest, ADragCarriesAddressesOnly) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
-    EXPECT_THAT(data.formats(), ElementsAre("text/uri-list"));
+    // The second has nothing in it.
+    EXPECT_THAT(data.formats(), ElementsAre("text/uri-list", "application/x-kio-metadata"));
+}
+
+TEST_F(FileMimeDataTest, KdesFileManagersDecideLater) {
+    const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
+    const auto wasRead = data.readMark();
+    const auto decidesLater = data.decidesLaterMark();
+    (void)data.urls();
+    EXPECT_FALSE(*decidesLater);
+    EXPECT_EQ(get(data, "application/x-kio-metadata"), "");
+    EXPECT_TRUE(*decidesLater);
+    EXPECT_TRUE(*wasRead);
 }
 
 TEST_F(FileMimeDataTest, APictureIsOfferedInItsOwnTypeByItsOwnBytes) {

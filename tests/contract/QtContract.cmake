@@ -17,6 +17,7 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/DesktopServices.h
   ${CMAKE_CURRENT_LIST_DIR}/FileChooserPortal.h
   ${CMAKE_CURRENT_LIST_DIR}/FileOpenerContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FileUseTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FolderChooserContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/GSettingsContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PasteboardContractTests.cpp

@@ -158,6 +158,16 @@ def test_dragged_into_dolphin(plasma, vantle, dolphin):
     wait_until(lambda: is_gone(plasma), "the tile is used up")
 
 
+def test_a_drop_that_ends_in_cancel_in_dolphins_menu_is_no_use(plasma, binary, dolphin):
+    with program_on(plasma, binary, deleteAfterUse="true") as vantle:
+        vantle.start_watching()
+        drag = drop_on_dolphin(plasma, vantle, show_one(plasma, vantle))
+        plasma.screen.keyboard.press("Escape")
+        assert not drag.was_taken()
+        assert not is_gone(plasma)
+        assert (plasma.home / "Desktop/shot.png").exists()
+
+
 def test_pasted_into_dolphin(plasma, vantle, dolphin):
     vantle.start_watching()
     press(plasma, show_one(plasma, vantle), "copy")

@@ -14,6 +14,8 @@ const QString gnomeFiles = QStringLiteral("x-special/gnome-copied-files");
 const QString mateFiles = QStringLiteral("x-special/mate-copied-files");
 // KDE's only asks whether it is to be cut.
 const QString kdeCut = QStringLiteral("application/x-kde-cutselection");
+// They ask for it with a drop, not while something is dragged over them. Nothing needs to be in it.
+const QString kdeDrop = QStringLiteral("application/x-kio-metadata");
 const QString plainText = QStringLiteral("text/plain");
 
 QByteArray joined(const std::vector<Url>& files, std::string (*describe)(const Url&),
@@ -56,6 +58,7 @@ QStringList FileMimeData::fileFormats() const {
     // Programs outside a sandbox take the addresses.
     QStringList formats = hasPortal_ ? QStringList{transferKey} : QStringList();
     formats << addressList;
+    if (use_ == Use::drag) formats << kdeDrop;
     if (use_ == Use::clipboard) formats << gnomeFiles << mateFiles << kdeCut << plainText;
     return formats;
 }
@@ -70,6 +73,7 @@ QVariant FileMimeData::retrieveData(const QString& type, QMetaType wanted) const
         *wasRead_ = *wasRead_ || !files_.empty();
         return urlList(files_);
     }
+    *decidesLater_ = *decidesLater_ || type == kdeDrop;
     const QByteArray bytes = as(type);
     *wasRead_ = *wasRead_ || !bytes.isEmpty();
     return bytes;
@@ -81,6 +85,7 @@ QByteArray FileMimeData::as(const QString& type) const {
     if (type == transferKey) return portal_.keyFor(files_);
     if (type == addressList) return joined(files_, address, "\r\n") + "\r\n";
     if (type == gnomeFiles || type == mateFiles) return "copy\n" + joined(files_, address, "\n");
+    if (type == kdeDrop) return {};
     if (type == kdeCut) return QByteArray("0");
     return joined(files_, path, "\n");
 }

@@ -30,6 +30,10 @@ public:
     /// Becomes true when somebody has read some of it: an empty answer is none. Outlives this.
     std::shared_ptr<const bool> readMark() const { return wasRead_; }
 
+    /// Becomes true when KDE's file managers have taken a drop of it. They ask what is to be done
+    /// with the files only after they have said that they take them. Outlives this.
+    std::shared_ptr<const bool> decidesLaterMark() const { return decidesLater_; }
+
 protected:
     QVariant retrieveData(const QString& type, QMetaType wanted) const override;
 
@@ -43,6 +47,7 @@ private:
     const FileTransferPortal portal_;
     const bool hasPortal_;
     const std::shared_ptr<bool> wasRead_ = std::make_shared<bool>(false);
+    const std::shared_ptr<bool> decidesLater_ = std::make_shared<bool>(false);
 };
 
 }  // namespace vantle

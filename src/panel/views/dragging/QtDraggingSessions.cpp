@@ -13,6 +13,7 @@
 #include "platform/qt/DragSelection.h"
 #include "platform/qt/DropAnswer.h"
 #include "platform/qt/FileMimeData.h"
+#include "platform/qt/FileUse.h"
 #include "platform/qt/InputRegion.h"
 #include "platform/wayland/Connection.h"
 #include "platform/wayland/PointerRelease.h"
@@ -24,6 +25,9 @@ namespace {
 DragPile::Edges possibleEdges() {
     return compositorIsRunning() ? DragPile::Edges::soft : DragPile::Edges::opaque;
 }
+
+/// For who has dropped files to choose in a menu what becomes of them.
+constexpr auto patience = std::chrono::seconds(20);
 
 /// On X11 the target's own answers are heard.
 void logPromise(Qt::DropAction action) {
@@ -53,12 +57,8 @@ public:
             return;
         }
         auto carried = contents();
-        wasRead_ = carried->readMark();
-        if (DragSelection::isNeeded()) {
-            auto selected = contents();
-            wasRead_ = selected->readMark();
-            selection_.emplace(std::move(selected));
-        }
+        if (DragSelection::isNeeded()) selection_.emplace(contents());
+        use_.emplace(urls_);
         auto* drag = new QDrag(window_);
         drag->setMimeData(carried.release());
         drag->setPixmap(QPixmap::fromImage(pile_.picture));
@@ -74,19 +74,34 @@ public:
         if (action == Qt::IgnoreAction)
             finish(DragOperation::none);
         else
-            answer_.wait(wasRead_, [this](bool wasTaken) {
-                finish(wasTaken ? DragOperation::copy : DragOperation::none);
-            });
+            answer_.wait(wasRead_, [this](bool wasTaken) { answered(wasTaken); });
     }
 
 private:
-    std::unique_ptr<FileMimeData> contents() const {
-        return std::make_unique<FileMimeData>(urls_, nullptr, FileMimeData::Use::drag);
+    /// The marks are those of the last ones.
+    std::unique_ptr<FileMimeData> contents() {
+        auto made = std::make_unique<FileMimeData>(urls_, nullptr, FileMimeData::Use::drag);
+        wasRead_ = made->readMark();
+        decidesLater_ = made->decidesLaterMark();
+        return made;
+    }
+
+    void answered(bool wasTaken) {
+        if (!wasTaken || !*decidesLater_)
+            finish(wasTaken ? DragOperation::copy : DragOperation::none);
+        else
+            use_->wait(patience, [this](bool wasUsed) {
+                end(wasUsed ? DragOperation::copy : DragOperation::none);
+            });
     }
 
     void finish(DragOperation operation) {
         if (operation == DragOperation::none && !Appearance().reducesMotion())
             FlyBack::start(pile_.picture, hotSpot_, start_);
+        end(operation);
+    }
+
+    void end(DragOperation operation) {
         ended_(operation);
         deleteLater();
     }
@@ -100,6 +115,8 @@ private:
     DropAnswer answer_;
     std::optional<DragSelection> selection_;
     std::shared_ptr<const bool> wasRead_;
+    std::shared_ptr<const bool> decidesLater_;
+    std::optional<FileUse> use_;
 };
 
 }  // namespace
