@@ -18,7 +18,8 @@ _BUTTONS_BELOW_TILE = 26
 @contextlib.contextmanager
 def program_on(desktop, binary, environment=None, name="vantle", **settings):
     """Vantle, not started yet, as the desktop's user starts it."""
-    program = Program(desktop.as_user(binary), desktop, environment, name)
+    command = desktop.as_user(desktop.lend_build(binary))
+    program = Program(command, desktop, environment, name)
     program.write_settings(
         **{"hasExplainedMissingTray": "true", "removeAfterUse": "true", **settings}
     )

@@ -11,6 +11,9 @@ import shutil
 from privatedesktop import DesktopFailure, Rectangle, WaitTimeout, wait_until
 
 _NOBODY = 65534
+_CHECKOUT = pathlib.Path(__file__).resolve().parents[2]
+# Vantle, and what it looks for from its own folder.
+_PARTS_OF_BUILD = ("bin/vantle*", "lib/vantle/*/*", "share/vantle/*/*")
 
 
 class WaylandDesktop:
@@ -37,6 +40,7 @@ class WaylandDesktop:
     def _make_folders(self):
         (self.home / "Desktop").mkdir(parents=True)
         (self.folder / "runtime").mkdir(mode=0o700)
+        (self.folder / "lent").mkdir()
         # Its user has to get through.
         self._host.home.parent.chmod(0o755)
         self.give_to_user()
@@ -67,7 +71,32 @@ class WaylandDesktop:
         """Compositors refuse to be root's, and only who started XWayland may use it."""
         if os.geteuid() != 0:
             return list(command)
+        self._require_reachable(command)
         return ["setpriv", f"--reuid={_NOBODY}", f"--regid={_NOBODY}", "--clear-groups", *command]
+
+    def _require_reachable(self, command):
+        """Where only root gets, this would fail in another way, and elsewhere not at all."""
+        for word in command:
+            if _CHECKOUT in pathlib.Path(word).parents:
+                raise DesktopFailure(f"{word} has to be lent to the desktop's user")
+
+    def lend(self, path):
+        """A file of the checkout where its user reaches it: the checkout may lie where only root
+        gets."""
+        if os.geteuid() != 0:
+            return path
+        return shutil.copy(path, self.folder / "lent")
+
+    def lend_build(self, binary):
+        """The same for Vantle, with all that it starts and loads."""
+        if os.geteuid() != 0:
+            return binary
+        build = pathlib.Path(binary).parents[1]
+        for part in (path for parts in _PARTS_OF_BUILD for path in build.glob(parts)):
+            copy = self.folder / "lent" / part.relative_to(build)
+            copy.parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy(part, copy)
+        return self.folder / "lent/bin/vantle"
 
     def give_to_user(self):
         """What was written so far is its user's. What is in the runtime folder is that already, and
@@ -117,7 +146,7 @@ class NativeWindow:
     """A window that speaks Wayland, and tells what reaches it. It fills the screen."""
 
     def __init__(self, desktop, *options):
-        program = pathlib.Path(__file__).with_name("native_window.py")
+        program = desktop.lend(pathlib.Path(__file__).with_name("native_window.py"))
         desktop.start("env", "GDK_BACKEND=wayland",
                       "sh", "-c", 'exec "$@" >> "$TMPDIR/native.log"', "sh", program, *options)
         self._log = desktop.folder / "native.log"
