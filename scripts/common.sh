@@ -156,7 +156,7 @@ install_known() {
   if ! run_apt_install "$log" "$@"; then
     fail_with_log "$log" "apt-get could not install what is missing." \
       "Check the network connection and /etc/apt/sources.list, then run this again." \
-      "Vantle needs Debian 12, Ubuntu 24.04 or newer."
+      "Vantle needs Debian 12, Debian 13, Ubuntu 24.04 or newer."
   fi
   say "Installed in $((SECONDS - started)) s."
 }
