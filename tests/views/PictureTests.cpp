@@ -1,13 +1,17 @@
 // The card and the other windows as people see them, against pictures that somebody has looked at.
 // A picture that differs is left in the working folder; when it is right, VANTLE_WRITE_REFERENCES=1
-// makes it the new one.
+// makes it the new one. Inter 4 has letters of another form than the version before it: what looks
+// different for that alone has a second reference.
 
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFontInfo>
 #include <QImage>
 #include <QPainter>
+#include <QRawFont>
+#include <QtEndian>
 #include <algorithm>
 #include <cstdlib>
 #include <functional>
@@ -170,6 +174,40 @@ double difference(const QImage& a, const QImage& b) {
     return different / static_cast<double>(a.width() * a.height());
 }
 
+bool isLike(const QImage& taken, const QImage& reference) {
+    return difference(taken, reference) <= toleratedPart;
+}
+
+QFont fontOfReferences() {
+    return QFont(QStringLiteral("Inter"));
+}
+
+/// The first number of the version that the font says of itself in its table "head".
+int majorVersion(const QFont& font) {
+    const QByteArray head = QRawFont::fromFont(font).fontTable("head");
+    return head.size() < 8 ? 0 : qFromBigEndian<qint16>(head.constData() + 4);
+}
+
+QString reference(const QString& file) {
+    return QStringLiteral(VANTLE_REFERENCES "/") + file;
+}
+QString referenceOfInter4(const QString& file) {
+    return reference("inter-4/" + file);
+}
+
+QString referenceInUse(const QString& file) {
+    const bool hasSecond = QFile::exists(referenceOfInter4(file));
+    return hasSecond && majorVersion(fontOfReferences()) >= 4 ? referenceOfInter4(file)
+                                                              : reference(file);
+}
+
+/// There is a second one only where the first does not hold for both.
+bool writeReference(const QImage& taken, const QString& file) {
+    if (majorVersion(fontOfReferences()) < 4) return taken.save(reference(file));
+    QFile::remove(referenceOfInter4(file));
+    return isLike(taken, QImage(reference(file))) || taken.save(referenceOfInter4(file));
+}
+
 class PictureTest : public testing::TestWithParam<Picture> {
 protected:
     PictureTest() {
@@ -194,21 +232,20 @@ protected:
 };
 
 TEST_P(PictureTest, LooksAsItShould) {
-    if (!QFontInfo(QFont(QStringLiteral("Inter"))).exactMatch())
+    if (!QFontInfo(fontOfReferences()).exactMatch())
         GTEST_SKIP() << "the font of the references is not installed";
     const QString file = QString::fromStdString(pictureName(GetParam()) + ".png");
-    const QString path = QStringLiteral(VANTLE_REFERENCES "/") + file;
     const QImage taken = take();
     if (qEnvironmentVariableIsSet("VANTLE_WRITE_REFERENCES")) {
-        ASSERT_TRUE(taken.save(path));
+        ASSERT_TRUE(writeReference(taken, file));
         return;
     }
-    const QImage reference(path);
-    ASSERT_FALSE(reference.isNull()) << path.toStdString();
-    const double differs = difference(taken, reference);
-    if (differs > toleratedPart) taken.save(file);
-    EXPECT_LE(differs, toleratedPart)
-        << "see " << QDir::current().filePath(file).toStdString() << " and " << path.toStdString();
+    const QString path = referenceInUse(file);
+    ASSERT_TRUE(QFile::exists(path)) << path.toStdString();
+    const bool isRight = isLike(taken, QImage(path));
+    if (!isRight) taken.save(file);
+    EXPECT_TRUE(isRight) << "see " << QDir::current().filePath(file).toStdString() << " and "
+                         << path.toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(
