@@ -29,6 +29,8 @@ STATES = {
     "checked": Atspi.StateType.CHECKED,
     "read only": Atspi.StateType.READ_ONLY,
 }
+# What older releases call otherwise.
+ROLES = {"push button": "button"}
 
 
 def program():
@@ -66,7 +68,7 @@ def described(item):
     return {
         "name": item.get_name(),
         "description": item.get_description(),
-        "role": item.get_role_name(),
+        "role": ROLES.get(item.get_role_name(), item.get_role_name()),
         "states": [name for name, state in STATES.items() if states.contains(state)],
         "actions": actions(item) if item.get_action_iface() else [],
         "frame": frame(item) if item.get_component_iface() else None,

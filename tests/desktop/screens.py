@@ -5,7 +5,7 @@ import re
 from assistant import Assistant
 from privatedesktop import Rectangle, wait_until, wait_until_still
 
-_CONTROLS = {"push button", "check box", "radio button", "slider", "menu item"}
+_CONTROLS = {"button", "check box", "radio button", "slider", "menu item"}
 _WHEEL_DOWN = 5
 _BAR = 80  # what stands below the steps of the onboarding
 
