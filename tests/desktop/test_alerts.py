@@ -80,7 +80,7 @@ def denied(desktop, binary, folder):
 
 def test_the_permissions_of_a_folder_that_cannot_be_read(desktop, denied):
     desktop.screen.keyboard.press("Return")
-    window_titled(desktop, "Desktop - Properties")
+    window_titled(desktop, "Properties")
     wait_until(lambda: desktop.screen.dialogs() == [], "the alert is gone")
 
 
