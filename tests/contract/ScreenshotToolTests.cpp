@@ -57,15 +57,27 @@ protected:
     ToolPreferencesDomain domain(const std::string& tool) const {
         return domain(tool, inHome("memory.conf"));
     }
-    ToolPreferencesDomain domain(const std::string& tool, const Url& memory) const {
+    ScreenshotTool description(const std::string& tool) const {
         const Environment environment =
             [path = home.path()](const std::string& name) -> std::optional<std::string> {
             if (name == "HOME") return path;
             if (name == "XDG_CONFIG_DIRS") return path + "/system";
+            if (name == "XDG_DATA_DIRS") return path + "/local/share:" + path + "/share";
             return std::nullopt;
         };
-        return {*makeScreenshotTool(tool, environment, settings), home, memory};
+        return std::move(*makeScreenshotTool(tool, environment, settings));
     }
+    ToolPreferencesDomain domain(const std::string& tool, const Url& memory) const {
+        return {description(tool), home, memory};
+    }
+    /// The folder that its recordings are found to be saved into.
+    std::string recordingsFolderOf(const std::string& tool) const {
+        const auto recordings = description(tool).recordingsFolder;
+        if (!recordings) return "none";
+        return std::filesystem::path(recordings().path()).lexically_relative(home.path());
+    }
+    /// Spectacle as it was until it stood on Qt 6.
+    void installSpectacleForQt5() const { writeIn("share/knotifications5/spectacle.notifyrc", ""); }
     /// The name of the folder that the tool is found to save into.
     std::string folderOf(const std::string& tool) const {
         const auto path = domain(tool).value(location);
@@ -94,7 +106,7 @@ const std::vector<std::string> allTools{
 
 /// Where those with a settings file keep their folder.
 const std::map<std::string, std::pair<std::string, std::string>> files{
-    {"spectacle", {".config/spectaclerc", "[Save]\ndefaultSaveLocation"}},
+    {"spectacle", {".config/spectaclerc", "[ImageSave]\nimageSaveLocation"}},
     {"xfce4-screenshooter", {".config/xfce4/xfce4-screenshooter", "screenshot_dir"}},
     {"flameshot", {".config/flameshot/flameshot.ini", "[General]\nsavePath"}},
     {"ksnip", {".config/ksnip/ksnip.conf", "[Application]\nSaveDirectory"}},
@@ -106,14 +118,14 @@ TEST_F(ScreenshotToolTest, AllAreKnownByTheirNames) {
 }
 
 TEST_F(ScreenshotToolTest, WithoutSettingsTheDefaultOfEachToolCounts) {
-    EXPECT_EQ(folderOf("spectacle"), "Pictures");
+    EXPECT_EQ(folderOf("spectacle"), "Pictures/Screenshots");
     EXPECT_EQ(folderOf("gnome-shell"), "Screenshots");
     EXPECT_EQ(folderOf("mate-screenshot"), "Desktop");
     for (const auto* tool :
          {"xfce4-screenshooter", "gnome-screenshot", "flameshot", "ksnip", "screengrab"})
         EXPECT_EQ(folderOf(tool), ".") << tool;
     nameThePictures();
-    EXPECT_EQ(folderOf("spectacle"), "Bilder");
+    EXPECT_EQ(folderOf("spectacle"), "Bilder/Screenshots");
     EXPECT_EQ(folderOf("gnome-shell"), "Bilder/Screenshots");
     EXPECT_EQ(folderOf("mate-screenshot"), "Desktop");
     for (const auto* tool : {"xfce4-screenshooter", "gnome-screenshot", "flameshot"})
@@ -128,6 +140,9 @@ TEST_F(ScreenshotToolTest, ADefaultFolderThatTheToolWouldMakeIsMade) {
     EXPECT_TRUE(std::filesystem::is_directory(inHome("Bilder/Screenshots").path()));
     (void)folderOf("spectacle");
     EXPECT_FALSE(std::filesystem::exists(inHome("Pictures").path()));
+    std::filesystem::remove(inHome("Bilder/Screenshots").path());
+    (void)folderOf("spectacle");
+    EXPECT_TRUE(std::filesystem::is_directory(inHome("Bilder/Screenshots").path()));
 }
 
 TEST_F(ScreenshotToolTest, EachSpellingOfAFolderIsRead) {
@@ -149,7 +164,7 @@ TEST_F(ScreenshotToolTest, EachSpellingOfAFolderIsRead) {
         writeIn(file, std::string(key).append("=").append(text).append("\n"));
         EXPECT_EQ(folderOf(tool), name) << tool << ' ' << text;
     }
-    writeIn(".config/spectaclerc", "[Save]\ndefaultSaveLocation[$e]=file://$HOME/plain\n");
+    writeIn(".config/spectaclerc", "[ImageSave]\nimageSaveLocation[$e]=file://$HOME/plain\n");
     EXPECT_EQ(folderOf("spectacle"), "plain");
 }
 
@@ -187,7 +202,7 @@ TEST_F(ScreenshotToolTest, AMissingFolderMeansWhatTheToolMakesOfIt) {
 TEST_F(ScreenshotToolTest, TheSystemsSettingsCountWhereTheUserHasNone) {
     makeFolder("theirs");
     makeFolder("ours");
-    writeIn("system/spectaclerc", "[Save]\ndefaultSaveLocation=file://~/theirs\n");
+    writeIn("system/spectaclerc", "[ImageSave]\nimageSaveLocation=file://~/theirs\n");
     EXPECT_EQ(folderOf("spectacle"), "theirs");
     setFolder("spectacle", inHome("ours"));
     EXPECT_EQ(folderOf("spectacle"), "ours");
@@ -370,8 +385,9 @@ TEST_F(ScreenshotToolTest, ADamagedOrHugeFileMeansTheDefaultOneLineAndIsNotOverw
             writeIn(place.first, damage);
             const std::string before = readText(inHome(place.first));
             auto preferences = domain(tool);
-            EXPECT_EQ(preferences.value(location),
-                      PreferenceValue(inHome(tool == "spectacle" ? "Pictures" : "").path()));
+            EXPECT_EQ(
+                preferences.value(location),
+                PreferenceValue(inHome(tool == "spectacle" ? "Pictures/Screenshots" : "").path()));
             preferences.setValue(location, makeFolder("other").path());
             EXPECT_NE(preferences.value(location), PreferenceValue(inHome("other").path()));
             EXPECT_FALSE(preferences.obstacle(location).empty());
@@ -437,6 +453,62 @@ TEST_F(ScreenshotToolTest, ASettingThatTheAdministratorLockedIsSaidSo) {
     EXPECT_FALSE(domain("gnome-screenshot").obstacle(location).empty());
     setFolder("gnome-screenshot", makeFolder("other"));
     EXPECT_EQ(folderOf("gnome-screenshot"), ".");
+}
+
+TEST_F(ScreenshotToolTest, TheNameThatSpectacleWroteDownCountsInAnyLanguage) {
+    nameThePictures();
+    writeIn(".config/spectaclerc",
+            "[ImageSave]\ntranslatedScreenshotsFolder=\\sFotos\n"
+            "[VideoSave]\ntranslatedScreencastsFolder=Filme\n");
+    EXPECT_EQ(folderOf("spectacle"), "Bilder/ Fotos");
+    EXPECT_EQ(recordingsFolderOf("spectacle"), "Videos/Filme");
+}
+
+TEST_F(ScreenshotToolTest, SpectacleForQt5HasItsOwnFolderAndSetting) {
+    installSpectacleForQt5();
+    writeIn(".config/spectaclerc", "[ImageSave]\nimageSaveLocation=/nowhere\n");
+    EXPECT_EQ(folderOf("spectacle"), "Pictures");
+    setFolder("spectacle", makeFolder("fresh"));
+    EXPECT_EQ(folderOf("spectacle"), "fresh");
+    EXPECT_THAT(configuration("spectaclerc"), HasSubstr("[Save]\ndefaultSaveLocation="));
+    EXPECT_THAT(configuration("spectaclerc"), HasSubstr("imageSaveLocation=/nowhere\n"));
+    EXPECT_EQ(recordingsFolderOf("spectacle"), "none");
+}
+
+TEST_F(ScreenshotToolTest, TheSettingOfSpectacleForQt5IsNoneOfTheLaterOne) {
+    makeFolder("old");
+    writeIn(".config/spectaclerc", "[Save]\ndefaultSaveLocation=~/old\n");
+    EXPECT_EQ(folderOf("spectacle"), "Pictures/Screenshots");
+}
+
+TEST_F(ScreenshotToolTest, OfTwoSpectaclesTheLaterOneCounts) {
+    installSpectacleForQt5();
+    writeIn("local/share/knotifications6/spectacle.notifyrc", "");
+    EXPECT_EQ(folderOf("spectacle"), "Pictures/Screenshots");
+}
+
+TEST_F(ScreenshotToolTest, RecordingsAreWhereTheDesktopsRecorderSavesThem) {
+    EXPECT_EQ(recordingsFolderOf("spectacle"), "Videos/Screencasts");
+    EXPECT_EQ(recordingsFolderOf("gnome-shell"), "Screencasts");
+    writeIn(".config/user-dirs.dirs", "XDG_VIDEOS_DIR=\"$HOME/Filme\"\n");
+    EXPECT_EQ(recordingsFolderOf("spectacle"), "Filme/Screencasts");
+    EXPECT_EQ(recordingsFolderOf("gnome-shell"), "Filme/Screencasts");
+    for (const auto* tool : {"xfce4-screenshooter", "gnome-screenshot", "mate-screenshot",
+                             "flameshot", "ksnip", "screengrab"})
+        EXPECT_EQ(recordingsFolderOf(tool), "none") << tool;
+    EXPECT_FALSE(std::filesystem::exists(inHome("Filme").path())) << "nothing is made";
+}
+
+TEST_F(ScreenshotToolTest, TheFolderForRecordingsCanBeChosen) {
+    for (const auto* text : {"file://~/a%20b", "~/a b", "file://~/a%20b/"}) {
+        writeIn(".config/spectaclerc",
+                std::string("[VideoSave]\nvideoSaveLocation=") + text + "\n");
+        EXPECT_EQ(recordingsFolderOf("spectacle"), "a b") << text;
+    }
+    writeIn(".config/spectaclerc", "[VideoSave]\nvideoSaveLocation=else\n");
+    EXPECT_EQ(recordingsFolderOf("spectacle"), "Videos/Screencasts");
+    setFolder("spectacle", makeFolder("other"));
+    EXPECT_EQ(recordingsFolderOf("spectacle"), "Videos/Screencasts");
 }
 
 TEST_F(ScreenshotToolTest, OtherKeysAreNone) {

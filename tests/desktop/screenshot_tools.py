@@ -1,6 +1,8 @@
 """The screenshot tools of the desktops, as people use them: each takes one and saves it."""
 
 import pathlib
+import shutil
+import subprocess
 
 from privatedesktop import wait_until
 from using import find_window, press_with_control, window_titled
@@ -87,6 +89,13 @@ XFCE = AskingTool("xfce4-screenshooter", "-f", titles=["Screenshot", "Save scree
 MATE = AskingTool("mate-screenshot", titles=["Save Screenshot"])
 SCREENGRAB = Editor("screengrab", "-f", window="ScreenGrab", dialog="Save As...")
 KSNIP_EDITOR = Editor("ksnip", "-f", window="ksnip")
+
+
+def spectacle_is_for_qt5():
+    """Whether the one that is installed is of the time before KDE Gear 24.02."""
+    program = shutil.which("spectacle")
+    libraries = subprocess.run(["ldd", program], capture_output=True, text=True, check=True).stdout
+    return "libQt5Core" in libraries
 
 
 def pictures_in(folder):

@@ -3,6 +3,7 @@
 import pytest
 
 from assistant import ENVIRONMENT
+from languages import compile_locale
 from privatedesktop import Program
 from screenshot_tools import USER_FOLDERS
 from screens import Screens
@@ -23,10 +24,9 @@ def make_vantle(desktop, binary):
     made = []
 
     def make(language):
-        compile_locale(desktop, language)
         environment = {
             **ENVIRONMENT, "LANG": language, "LC_ALL": None,
-            "LOCPATH": str(desktop.home / "locale"),
+            "LOCPATH": compile_locale(desktop, language),
         }  # fmt: skip
         program = Program(binary, desktop, environment=environment, name=f"vantle-{language}")
         program.write_settings(screenshotTool=None)
@@ -36,16 +36,6 @@ def make_vantle(desktop, binary):
     yield make
     for program in made:
         program.stop()
-
-
-def compile_locale(desktop, language):
-    """As a system has it on which that language is installed."""
-    name, charset = language.split(".")
-    if name == "xx_XX":
-        return
-    folder = desktop.home / "locale"
-    folder.mkdir(exist_ok=True)
-    desktop.run("localedef", "-i", name, "-f", charset, "--no-archive", str(folder / language))
 
 
 @pytest.mark.desktop(environment=GNOME, configuration={"user-dirs.dirs": USER_FOLDERS})

@@ -6,8 +6,10 @@ import pytest
 
 import screenshot_tools
 from assistant import ENVIRONMENT
+from languages import compile_locale
 from privatedesktop import Program, wait_until
 from screenshot_tools import USER_FOLDERS, pictures_in
+from watched_folder import WatchedFolder
 
 
 def on_desktop(name):
@@ -54,9 +56,42 @@ def check_folder(desktop, vantle, screens, tool, default):
     assert vantle.shown_counts() == [1, 2, 3]
 
 
+def folder_of_spectacle(name="Screenshots"):
+    """Its default. Later versions have one of their own, with a name in the user's language."""
+    return "Bilder" if screenshot_tools.spectacle_is_for_qt5() else f"Bilder/{name}"
+
+
+def setting_of_spectacle():
+    """Where it keeps a folder that was chosen."""
+    if screenshot_tools.spectacle_is_for_qt5():
+        return "[Save]\ndefaultSaveLocation"
+    return "[ImageSave]\nimageSaveLocation"
+
+
 @on_desktop("KDE")
 def test_spectacle(desktop, vantle, screens):
-    check_folder(desktop, vantle, screens, screenshot_tools.SPECTACLE, "Bilder")
+    check_folder(desktop, vantle, screens, screenshot_tools.SPECTACLE, folder_of_spectacle())
+
+
+@on_desktop("KDE")
+def test_spectacle_in_another_language(desktop, binary):
+    language = "de_DE.UTF-8"
+    speaking = {"LANG": language, "LC_ALL": None, "LOCPATH": compile_locale(desktop, language)}
+    vantle = Program(binary, desktop, environment=speaking)
+    vantle.write_settings(screenshotTool=None)
+    (desktop.home / "Bilder").mkdir()
+    folder = desktop.home / folder_of_spectacle("Bildschirmfotos")
+    vantle.start_watching()
+    vantle.wait_for_log(f"watching {folder} ")
+    desktop.environment.pop("LC_ALL", None)
+    desktop.environment.update({name: text for name, text in speaking.items() if text})
+    take(desktop, vantle, screenshot_tools.SPECTACLE, folder)
+    vantle.stop()
+    # In another language it stays the folder that the tool has written down.
+    vantle = Program(binary, desktop, environment={"LANG": "C.UTF-8"}, name="vantle-english")
+    vantle.start_watching()
+    vantle.wait_for_log(f"watching {folder} ")
+    vantle.stop()
 
 
 @on_desktop("XFCE")
@@ -95,8 +130,10 @@ def test_a_change_from_outside_counts_from_the_next_start(desktop, vantle):
     vantle.start_watching()
     (desktop.home / "Andere").mkdir()
     settings = desktop.home / ".config/spectaclerc"
-    settings.write_text("[Save]\ndefaultSaveLocation[$e]=file://$HOME/Andere\n")
-    take(desktop, vantle, screenshot_tools.GNOME_SCREENSHOT, desktop.home / "Bilder")
+    settings.write_text(f"{setting_of_spectacle()}[$e]=file://$HOME/Andere\n")
+    folder = desktop.home / folder_of_spectacle()
+    WatchedFolder(folder, vantle).save("shot.png")
+    vantle.wait_for_log("captured shot.png$")
     vantle.stop()
     vantle.start_watching()
     vantle.wait_for_log(f"watching {desktop.home / 'Andere'} ")
@@ -106,10 +143,10 @@ def test_a_change_from_outside_counts_from_the_next_start(desktop, vantle):
 @on_desktop("KDE")
 def test_damaged_settings_of_the_tool_are_left_alone(desktop, vantle, screens):
     settings = desktop.home / ".config/spectaclerc"
-    damage = b"[Save]\ndefaultSaveLocation=file:///usr\n\0\0\0"
+    damage = setting_of_spectacle().encode() + b"=file:///usr\n\0\0\0"
     settings.write_bytes(damage)
     vantle.start_watching()
-    vantle.wait_for_log(f"watching {desktop.home / 'Bilder'} ")
+    vantle.wait_for_log(f"watching {desktop.home / folder_of_spectacle()} ")
     screens.open_settings()
     screens.wait_for_text("The tool's settings file spectaclerc cannot be read: it is damaged.")
     assert "enabled" not in screens.control("Change")["states"]

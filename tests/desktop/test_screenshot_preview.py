@@ -62,7 +62,8 @@ def check_preview(desktop, vantle, screens, tool, name, folder="Bilder"):
 )
 def test_spectacle(desktop, vantle, screens):
     tool = screenshot_tools.ScreenshotTool("spectacle", "-b")
-    check_preview(desktop, vantle, screens, tool, "Spectacle")
+    folder = "Bilder" if screenshot_tools.spectacle_is_for_qt5() else "Bilder/Screenshots"
+    check_preview(desktop, vantle, screens, tool, "Spectacle", folder)
 
 
 @pytest.mark.desktop(configuration={"user-dirs.dirs": USER_FOLDERS})

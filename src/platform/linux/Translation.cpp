@@ -4,17 +4,24 @@
 #include <locale.h>
 
 namespace vantle {
+namespace {
 
-std::string translated(const std::string& domain, const std::string& text) {
+constexpr auto endOfContext = "\004";
+
+}  // namespace
+
+std::string translated(const std::string& domain, const std::string& text,
+                       const std::string& context) {
     const locale_t language = newlocale(LC_ALL_MASK, "", nullptr);
     // A language that is not installed: other programs speak English then, too.
     if (!language) return text;
     const locale_t before = uselocale(language);
     bind_textdomain_codeset(domain.c_str(), "UTF-8");
-    std::string translation = dgettext(domain.c_str(), text.c_str());
+    const std::string entry = context.empty() ? text : context + endOfContext + text;
+    std::string translation = dgettext(domain.c_str(), entry.c_str());
     uselocale(before);
     freelocale(language);
-    return translation;
+    return translation == entry ? text : translation;
 }
 
 }  // namespace vantle

@@ -71,15 +71,15 @@ Url UserDirectories::configuration() const {
 }
 
 std::vector<Url> UserDirectories::systemConfiguration() const {
-    std::vector<Url> folders;
-    for (const auto& folder : split(environment_("XDG_CONFIG_DIRS").value_or(""), ':'))
-        if (folder.starts_with('/')) folders.push_back(Url::file(folder));
-    if (folders.empty()) folders.push_back(Url::file("/etc/xdg"));
-    return folders;
+    return listed("XDG_CONFIG_DIRS", "/etc/xdg");
 }
 
 Url UserDirectories::data() const {
     return baseDirectory("XDG_DATA_HOME", ".local/share");
+}
+
+std::vector<Url> UserDirectories::systemData() const {
+    return listed("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
 }
 
 Url UserDirectories::cache() const {
@@ -92,12 +92,27 @@ Url UserDirectories::baseDirectory(const std::string& variable, std::string_view
     return home().appending(inHome);
 }
 
+std::vector<Url> UserDirectories::listed(const std::string& variable,
+                                         std::string_view byDefault) const {
+    std::vector<Url> folders;
+    for (const std::string& text : {environment_(variable).value_or(""), std::string(byDefault)}) {
+        for (const auto& folder : split(text, ':'))
+            if (folder.starts_with('/')) folders.push_back(Url::file(folder));
+        if (!folders.empty()) break;
+    }
+    return folders;
+}
+
 Url UserDirectories::desktop() const {
     return named("XDG_DESKTOP_DIR").value_or(home().appending("Desktop"));
 }
 
 std::optional<Url> UserDirectories::pictures() const {
     return named("XDG_PICTURES_DIR");
+}
+
+std::optional<Url> UserDirectories::videos() const {
+    return named("XDG_VIDEOS_DIR");
 }
 
 std::optional<Url> UserDirectories::named(std::string_view key) const {

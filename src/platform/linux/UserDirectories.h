@@ -28,6 +28,10 @@ public:
     /// $XDG_DATA_HOME, else ~/.local/share.
     Url data() const;
 
+    /// $XDG_DATA_DIRS, else those of the standard: those of the system, the most important one
+    /// first.
+    std::vector<Url> systemData() const;
+
     /// $XDG_CACHE_HOME, else ~/.cache.
     Url cache() const;
 
@@ -37,6 +41,9 @@ public:
     /// The folder for pictures; absent when the settings do not name one.
     std::optional<Url> pictures() const;
 
+    /// The folder for videos; absent when the settings do not name one.
+    std::optional<Url> videos() const;
+
     /// The folder that the text of a user-dirs.dirs file gives for a key such as
     /// "XDG_DESKTOP_DIR": the last line that names an absolute path or one below $HOME counts.
     static std::optional<Url> parse(std::string_view text, std::string_view key, const Url& home);
@@ -44,6 +51,7 @@ public:
 private:
     std::optional<Url> named(std::string_view key) const;
     Url baseDirectory(const std::string& variable, std::string_view inHome) const;
+    std::vector<Url> listed(const std::string& variable, std::string_view byDefault) const;
 
     Environment environment_;
 };

@@ -11,7 +11,7 @@
 namespace vantle {
 
 /// What there is to know about a screenshot tool: where it saves by default, where its settings
-/// are, how they are written, and what cannot be set.
+/// are, how they are written, what cannot be set, and where it saves recordings.
 struct ScreenshotTool {
     /// What it does when its folder is not there.
     enum class MissingFolder { meansDefault, isMade };
@@ -33,6 +33,10 @@ struct ScreenshotTool {
         bool isShown = false;  ///< Where it cannot be set.
         std::string obstacle;
     } preview;
+
+    /// Where it saves recordings, read anew at each call. Empty when it makes none, or saves them
+    /// where it saves screenshots.
+    std::function<Url()> recordingsFolder;
 };
 
 }  // namespace vantle

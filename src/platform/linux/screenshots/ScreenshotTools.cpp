@@ -1,11 +1,13 @@
 #include "platform/linux/screenshots/ScreenshotTools.h"
 
+#include <algorithm>
 #include <map>
 #include <utility>
 #include <vector>
 
 #include "platform/linux/Translation.h"
 #include "platform/linux/UserDirectories.h"
+#include "platform/linux/screenshots/Escapes.h"
 #include "platform/linux/screenshots/Folders.h"
 #include "platform/linux/screenshots/GSettingsSetting.h"
 #include "platform/linux/screenshots/KeyFileSetting.h"
@@ -31,6 +33,13 @@ struct Surroundings {
         return std::make_shared<SettingsFiles>(std::move(all));
     }
 
+    bool hasData(std::string_view name) const {
+        std::vector<Url> all = directories.systemData();
+        all.push_back(directories.data());
+        return std::ranges::any_of(
+            all, [name](const Url& folder) { return isFile(folder.appending(name)); });
+    }
+
     std::unique_ptr<TextSetting> inGSettings(std::string schema, std::string key) const {
         return std::make_unique<GSettingsSetting>(settings, std::move(schema), std::move(key));
     }
@@ -45,7 +54,22 @@ struct Surroundings {
     }
 };
 
-ScreenshotTool spectacle(const Surroundings& its) {
+/// How all its versions say whether they show what they saved.
+ScreenshotTool::Preview previewOfSpectacle(const Surroundings& its) {
+    return {.setting = std::make_unique<KeyFileSetting>(its.files("spectacle.notifyrc"),
+                                                        "Event/newScreenshotSaved", "Action"),
+            .notation = popupOfKde(),
+            .textByDefault = "Popup"};
+}
+
+/// The versions up to 23.08. They alone stand on KDE's libraries for Qt 5, and describe their
+/// notifications where those look: that tells them without starting the program.
+bool isSpectacleForQt5(const Surroundings& its) {
+    return its.hasData("knotifications5/spectacle.notifyrc") &&
+           !its.hasData("knotifications6/spectacle.notifyrc");
+}
+
+ScreenshotTool spectacleForQt5(const Surroundings& its) {
     return {
         .defaultFolder =
             [directories = its.directories] {
@@ -55,10 +79,60 @@ ScreenshotTool spectacle(const Surroundings& its) {
         .folder = {.setting = std::make_unique<KeyFileSetting>(its.files("spectaclerc"), "Save",
                                                                "defaultSaveLocation"),
                    .notation = addressOfKde(its.environment)},
-        .preview = {.setting = std::make_unique<KeyFileSetting>(
-                        its.files("spectacle.notifyrc"), "Event/newScreenshotSaved", "Action"),
-                    .notation = popupOfKde(),
-                    .textByDefault = "Popup"}};
+        .preview = previewOfSpectacle(its)};
+}
+
+/// What Spectacle keeps of one kind of capture.
+struct KeptBySpectacle {
+    const char* group;
+    const char* location;
+    /// Where it writes down the name of the folder that it saves into by default, at its first
+    /// start, in the language that it speaks then.
+    const char* folderName;
+    const char* folderInEnglish;
+};
+
+constexpr KeptBySpectacle images{"ImageSave", "imageSaveLocation", "translatedScreenshotsFolder",
+                                 "Screenshots"};
+constexpr KeptBySpectacle videos{"VideoSave", "videoSaveLocation", "translatedScreencastsFolder",
+                                 "Screencasts"};
+
+/// What stands there. A failure is logged by the settings, and means the default.
+std::optional<std::string> textIn(const SettingsFiles& files, const char* group, const char* key) {
+    const auto text = files.value(group, key);
+    return text ? text.value() : std::nullopt;
+}
+
+Url defaultOfSpectacle(const SettingsFiles& files, const KeptBySpectacle& kept, const Url& parent) {
+    const auto name = textIn(files, kept.group, kept.folderName);
+    return parent.appending(
+        name ? fromBackslashEscapes(*name)
+             : translated("spectacle", kept.folderInEnglish, "translatable folder name"));
+}
+
+ScreenshotTool spectacle(const Surroundings& its) {
+    if (isSpectacleForQt5(its)) return spectacleForQt5(its);
+    const auto files = its.files("spectaclerc");
+    const auto notation = addressOfKde(its.environment);
+    const auto defaultFolder = [files, directories = its.directories] {
+        return defaultOfSpectacle(
+            *files, images,
+            directories.pictures().value_or(directories.home().appending("Pictures")));
+    };
+    const auto recordingsFolder = [files, notation, directories = its.directories] {
+        const auto chosen = textIn(*files, videos.group, videos.location);
+        const std::string path = chosen ? notation.read(*chosen) : "";
+        if (path.starts_with('/')) return Url::file(path);
+        return defaultOfSpectacle(
+            *files, videos, directories.videos().value_or(directories.home().appending("Videos")));
+    };
+    return {.defaultFolder = defaultFolder,
+            .missingFolder = MissingFolder::isMade,
+            .folder = {.setting =
+                           std::make_unique<KeyFileSetting>(files, images.group, images.location),
+                       .notation = notation},
+            .preview = previewOfSpectacle(its),
+            .recordingsFolder = recordingsFolder};
 }
 
 ScreenshotTool xfceScreenshooter(const Surroundings& its) {
@@ -126,18 +200,24 @@ ScreenshotTool screengrab(const Surroundings& its) {
 }
 
 ScreenshotTool shellOfGnome(const Surroundings& its) {
-    return {.defaultFolder =
-                [directories = its.directories] {
-                    return directories.pictures()
-                        .value_or(directories.home())
-                        .appending(translated(gnomeShell, "Screenshots"));
-                },
-            .missingFolder = MissingFolder::isMade,
-            .folder = {.obstacle = localized("ScreenshotTool",
-                                             "GNOME always saves screenshots in this folder.")},
-            .preview = {
-                .isShown = true,
-                .obstacle = localized("ScreenshotTool", "GNOME always shows its own preview.")}};
+    return {
+        .defaultFolder =
+            [directories = its.directories] {
+                return directories.pictures()
+                    .value_or(directories.home())
+                    .appending(translated(gnomeShell, "Screenshots"));
+            },
+        .missingFolder = MissingFolder::isMade,
+        .folder = {.obstacle = localized("ScreenshotTool",
+                                         "GNOME always saves screenshots in this folder.")},
+        .preview = {.isShown = true,
+                    .obstacle = localized("ScreenshotTool", "GNOME always shows its own preview.")},
+        .recordingsFolder =
+            [directories = its.directories] {
+                return directories.videos()
+                    .value_or(directories.home())
+                    .appending(translated(gnomeShell, "Screencasts"));
+            }};
 }
 
 }  // namespace
