@@ -91,6 +91,26 @@ SCREENGRAB = Editor("screengrab", "-f", window="ScreenGrab", dialog="Save As..."
 KSNIP_EDITOR = Editor("ksnip", "-f", window="ksnip")
 
 
+class Notifications:
+    """The desktop's notifications; counts what is notified by a tool.
+
+    Where they are missing, but the system knows a program for them that does not come up on this
+    desktop, a tool that notifies waits for that before it ends.
+    """
+
+    def __init__(self, desktop):
+        program = pathlib.Path(__file__).with_name("notifications.py")
+        desktop.start("/usr/bin/python3", str(program))
+        self._log = desktop.log_folder / "python3.log"
+        wait_until(lambda: "ready" in self._text(), "notifications are taken")
+
+    def _text(self):
+        return self._log.read_text() if self._log.exists() else ""
+
+    def count(self, tool):
+        return self._text().count(f"notified by {tool}\n")
+
+
 def spectacle_is_for_qt5():
     """Whether the one that is installed is of the time before KDE Gear 24.02."""
     program = shutil.which("spectacle")

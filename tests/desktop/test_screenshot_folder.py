@@ -116,6 +116,7 @@ def test_screengrab(desktop, vantle, screens):
 
 @on_desktop("sway")
 def test_flameshot(desktop, vantle, screens):
+    screenshot_tools.Notifications(desktop)
     check_folder(desktop, vantle, screens, screenshot_tools.FLAMESHOT, "Bilder")
 
 

@@ -1,31 +1,13 @@
 """The previews of the desktops' own screenshot tools are hidden, and come back as they were."""
 
-import pathlib
-
 import pytest
 
 import screenshot_tools
 from assistant import ENVIRONMENT
 from privatedesktop import Program, wait_until
-from screenshot_tools import USER_FOLDERS, pictures_in
+from screenshot_tools import USER_FOLDERS, Notifications, pictures_in
 
 HIDE = "Hide the built-in macOS thumbnail"
-
-
-class Notifications:
-    """Counts what is notified by a tool."""
-
-    def __init__(self, desktop):
-        program = pathlib.Path(__file__).with_name("notifications.py")
-        desktop.start("/usr/bin/python3", str(program))
-        self._log = desktop.log_folder / "python3.log"
-        wait_until(lambda: "ready" in self._text(), "notifications are taken")
-
-    def _text(self):
-        return self._log.read_text() if self._log.exists() else ""
-
-    def count(self, tool):
-        return self._text().count(f"notified by {tool}\n")
 
 
 @pytest.fixture

@@ -4,6 +4,7 @@ import subprocess
 
 from pictures import count_patterns, is_one_pattern, pattern, plain
 from privatedesktop import wait_until
+from screenshot_tools import Notifications
 
 
 def panel_picture(desktop):
@@ -66,6 +67,7 @@ def test_xfce4_screenshooter(desktop, vantle, folder):
 
 
 def test_flameshot(desktop, vantle, folder):
+    Notifications(desktop)
     check_one_tile(
         desktop, vantle, folder, lambda: desktop.run("flameshot", "full", "-p", str(folder.path))
     )
