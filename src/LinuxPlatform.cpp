@@ -151,20 +151,30 @@ bool isInstalled(const std::string& program) {
     return !QStandardPaths::findExecutable(QString::fromStdString(program)).isEmpty();
 }
 
-/// Those of the tool that saves the screenshots of this desktop, else our own.
-std::unique_ptr<PreferencesDomain> makeScreenshotPreferences(const Environment& environment,
-                                                             const UserDefaults& defaults,
-                                                             const Url& own) {
-    auto name = defaults.text("screenshotTool").value_or("");
-    if (name.empty())
-        name = chooseScreenshotTool(environment("XDG_CURRENT_DESKTOP").value_or(""), isInstalled);
-    auto tool = makeScreenshotTool(name, environment, std::make_shared<GSettingsCommand>());
-    if (tool)
-        return std::make_unique<ToolPreferencesDomain>(std::move(*tool),
-                                                       UserDirectories(environment).home(), own);
+std::string toolOfDesktop(const Environment& environment) {
+    return chooseScreenshotTool(environment("XDG_CURRENT_DESKTOP").value_or(""), isInstalled);
+}
+
+/// The settings of the tool that saves the screenshots of this desktop, else our own, and the
+/// folder of the recorder: that stays the desktop's, whatever takes the screenshots.
+void addScreenshotTool(Platform& platform, const Url& own) {
+    const std::string usual = toolOfDesktop(platform.environment);
+    std::string name = platform.defaults->text("screenshotTool").value_or("");
+    if (name.empty()) name = usual;
+    const auto settings = std::make_shared<GSettingsCommand>();
+    auto tool = makeScreenshotTool(name, platform.environment, settings);
+    const auto recorder =
+        name == usual ? std::nullopt : makeScreenshotTool(usual, platform.environment, settings);
+    if (recorder) platform.recordingsFolder = recorder->recordingsFolder;
+    if (tool && tool->recordingsFolder) platform.recordingsFolder = tool->recordingsFolder;
+    if (tool) {
+        platform.screenshotPreferences = std::make_unique<ToolPreferencesDomain>(
+            std::move(*tool), UserDirectories(platform.environment).home(), own);
+        return;
+    }
     if (name != noScreenshotTool)
         systemLog("Vantle: there is no screenshotTool named " + name + "; none is used");
-    return std::make_unique<IniPreferencesDomain>(own);
+    platform.screenshotPreferences = std::make_unique<IniPreferencesDomain>(own);
 }
 
 std::unique_ptr<LoginItem> makeLoginItem(const Environment& environment) {
@@ -191,9 +201,8 @@ Platform makeLinuxPlatform(DBusApplication::Launch launch) {
     platform.media =
         std::make_unique<ConfinedMediaLoader>(beside("vantle-decoder"), densestScreen());
     platform.defaults = std::make_unique<IniUserDefaults>(own.appending("vantle.conf"));
-    platform.screenshotPreferences = makeScreenshotPreferences(
-        platform.environment, *platform.defaults,
-        own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));
+    addScreenshotTool(platform,
+                      own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));
     platform.launcher = std::make_unique<PosixProcessLauncher>(wayland::ownVariables());
     platform.loginItem = makeLoginItem(platform.environment);
     platform.screens = std::make_unique<QtScreens>();

@@ -659,6 +659,10 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <source>Show panel in</source>
         <translation>Karte zeigen</translation>
     </message>
+    <message>
+        <source>Your desktop saves them in %1.</source>
+        <translation>Ihr Desktop speichert sie in %1.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStep</name>

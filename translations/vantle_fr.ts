@@ -659,6 +659,10 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <source>Show panel in</source>
         <translation>Afficher la carte</translation>
     </message>
+    <message>
+        <source>Your desktop saves them in %1.</source>
+        <translation>Votre bureau les enregistre dans %1.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStep</name>

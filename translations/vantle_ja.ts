@@ -642,6 +642,10 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <source>Show panel in</source>
         <translation>カードの位置</translation>
     </message>
+    <message>
+        <source>Your desktop saves them in %1.</source>
+        <translation>デスクトップは%1に保存します。</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStep</name>

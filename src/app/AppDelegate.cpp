@@ -19,6 +19,16 @@ constexpr Seconds updateCheckDelay{1.0};
 constexpr Seconds onboardingSnapshotDelay{1.0};
 constexpr double onboardingSnapshotScale = 2;
 
+CaptureWatcher::Services watcherServices(const Platform& platform) {
+    return {.main = *platform.scheduler,
+            .queue = *platform.watcherQueue,
+            .events = *platform.directoryEvents,
+            .files = *platform.files,
+            .media = *platform.media,
+            .clock = *platform.clock,
+            .moreExtensions = platform.moreExtensions};
+}
+
 }  // namespace
 
 std::shared_ptr<AppDelegate> AppDelegate::create(Platform& platform, Views views) {
@@ -32,13 +42,8 @@ AppDelegate::AppDelegate(Platform& platform, Views views)
                 SystemScreenshotPrefs(*platform.files, *platform.screenshotPreferences,
                                       *platform.launcher),
                 *platform.loginItem, *platform.application),
-      watcher_(CaptureWatcher::create({.main = *platform.scheduler,
-                                       .queue = *platform.watcherQueue,
-                                       .events = *platform.directoryEvents,
-                                       .files = *platform.files,
-                                       .media = *platform.media,
-                                       .clock = *platform.clock,
-                                       .moreExtensions = platform.moreExtensions})),
+      watcher_(CaptureWatcher::create(watcherServices(platform))),
+      recordings_(RecordingsWatcher::create(watcherServices(platform))),
       panel_(CapturePanelController::create({.settings = settings_,
                                              .scheduler = *platform.scheduler,
                                              .screens = *platform.screens,
@@ -72,6 +77,7 @@ void AppDelegate::applicationDidFinishLaunching() {
                                    }));
     connectWatcher();
     observeScreenshotFolder();
+    observeShowRecordings();
     connectNotifications();
     explainMissingTray();
     if (settings_.hasCompletedOnboarding.value())
@@ -103,7 +109,7 @@ void AppDelegate::connectStatusBar() {
     statusBar_.onCheckForUpdates = weakly(self, [](auto& delegate) { delegate.checkForUpdates(); });
     statusBar_.onPause = weakly(self, [](auto& delegate, bool paused) {
         if (paused)
-            delegate.watcher_->stop();
+            delegate.stopWatching();
         else
             delegate.startWatching();
     });
@@ -115,6 +121,8 @@ void AppDelegate::connectWatcher() {
         weakly(self, [](auto& delegate, const auto& capture) { delegate.captured(capture); });
     watcher_->onError =
         weakly(self, [](auto& delegate, const auto& error) { delegate.handleWatchError(error); });
+    recordings_->onRecording =
+        weakly(self, [](auto& delegate, const auto& capture) { delegate.captured(capture); });
 }
 
 void AppDelegate::observeScreenshotFolder() {
@@ -124,7 +132,13 @@ void AppDelegate::observeScreenshotFolder() {
             if (std::exchange(last, folder) == folder) return;
             if (settings_.hasCompletedOnboarding.value() && !statusBar_.paused())
                 watcher_->start(folder);
+            watchRecordingsSoon();
         }));
+}
+
+void AppDelegate::observeShowRecordings() {
+    cancellables_.push_back(
+        settings_.showRecordings.observeChanges([this](bool) { watchRecordingsSoon(); }));
 }
 
 void AppDelegate::connectNotifications() {
@@ -134,6 +148,31 @@ void AppDelegate::connectNotifications() {
 
 void AppDelegate::startWatching() {
     watcher_->start(settings_.screenshotFolder.value());
+    watchRecordings();
+}
+
+void AppDelegate::stopWatching() {
+    watcher_->stop();
+    recordings_->stop();
+}
+
+void AppDelegate::watchRecordings() {
+    const bool isWatching = settings_.hasCompletedOnboarding.value() && !statusBar_.paused();
+    const bool isWanted = isWatching && settings_.showRecordings.value();
+    const auto folder = isWanted && platform_.recordingsFolder
+                            ? std::optional(platform_.recordingsFolder())
+                            : std::nullopt;
+    // Where both are saved in one folder, that is watched already.
+    if (folder && *folder != settings_.screenshotFolder.value())
+        recordings_->start(*folder);
+    else
+        recordings_->stop();
+}
+
+void AppDelegate::watchRecordingsSoon() {
+    // A change is announced before it is stored.
+    platform_.scheduler->async(
+        weakly(shared_from_this(), [](auto& self) { self.watchRecordings(); }));
 }
 
 void AppDelegate::captured(const CapturePointer& capture) {
@@ -160,6 +199,7 @@ void AppDelegate::showSettings() {
     if (!views_.makeSettingsWindow) return;
     if (!settingsWindow_) settingsWindow_ = views_.makeSettingsWindow(settings_);
     settings_.readSystem();
+    watchRecordings();
     present(*settingsWindow_, settingsSize);
 }
 

@@ -7,8 +7,10 @@
 #include <vector>
 
 #include "app/StatusBarController.h"
+#include "app/StatusReport.h"
 #include "app/UpdaterDelegate.h"
 #include "capture/CaptureWatcher.h"
+#include "capture/RecordingsWatcher.h"
 #include "panel/CapturePanelController.h"
 #include "platform/Platform.h"
 #include "platform/Window.h"
@@ -65,6 +67,7 @@ public:
     StatusBarController& statusBar() { return statusBar_; }
     CapturePanelController& panel() { return *panel_; }
     const CaptureWatcher& watcher() const { return *watcher_; }
+    const RecordingsWatcher& recordings() const { return *recordings_; }
 
     /// Newest first; of this run only.
     const std::vector<CapturePointer>& recent() const { return recent_; }
@@ -76,8 +79,13 @@ private:
     void connectStatusBar();
     void connectWatcher();
     void observeScreenshotFolder();
+    void observeShowRecordings();
     void connectNotifications();
     void startWatching();
+    void stopWatching();
+    /// Starts or stops with the recorder's folder, by all that decides about it.
+    void watchRecordings();
+    void watchRecordingsSoon();
     void finishOnboarding();
     void present(Window& window, Size contentSize);
     void writeOnboardingSnapshot(const std::string& path);
@@ -95,6 +103,7 @@ private:
     Result<std::string> focusPanel();
     Result<std::string> show(const std::vector<std::string>& paths);
     Result<std::string> status(const std::vector<std::string>& arguments) const;
+    std::vector<Fact> recordingsFacts(Paths paths) const;
 
     /// To be called on the watcher's queue with a file: loads it, then shows it in the panel.
     std::function<void(const Url&)> loader();
@@ -109,6 +118,7 @@ private:
     Views views_;
     Settings settings_;
     std::shared_ptr<CaptureWatcher> watcher_;
+    std::shared_ptr<RecordingsWatcher> recordings_;  ///< Of the desktop's recorder.
     std::shared_ptr<CapturePanelController> panel_;
     StatusBarController statusBar_;
     std::vector<CapturePointer> recent_;

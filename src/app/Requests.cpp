@@ -65,6 +65,24 @@ Result<std::string> AppDelegate::show(const std::vector<std::string>& paths) {
     return std::string();
 }
 
+std::vector<Fact> AppDelegate::recordingsFacts(Paths paths) const {
+    if (!platform_.recordingsFolder) return {};
+    const Url folder = platform_.recordingsFolder();
+    if (folder == settings_.screenshotFolder.value()) return {};
+    const auto state = [this] {
+        switch (recordings_->state()) {
+            case RecordingsWatcher::State::watching:
+                return "watched";
+            case RecordingsWatcher::State::waiting:
+                return "waited for";
+            default:
+                return "not watched";
+        }
+    };
+    return {{"recordings", state()},
+            {"recordings folder", placeOf(folder, *platform_.files, paths)}};
+}
+
 Result<std::string> AppDelegate::status(const std::vector<std::string>& arguments) const {
     const auto isAsked = [&](const char* name) { return std::ranges::count(arguments, name) > 0; };
     const bool isVerbose = isAsked("verbose");
@@ -77,6 +95,7 @@ Result<std::string> AppDelegate::status(const std::vector<std::string>& argument
         {"state", state},
         {"folder", placeOf(settings_.screenshotFolder.value(), *platform_.files, paths)},
         {"captures", std::to_string(panel_->state().captures.value().size())}};
+    std::ranges::copy(recordingsFacts(paths), std::back_inserter(facts));
     if (!isVerbose && platform_.displayServer)
         facts.push_back({"display server", platform_.displayServer()});
     if (!isVerbose) return reportLines(facts);

@@ -30,10 +30,10 @@ CaptureWatcher::~CaptureWatcher() {
     stop();
 }
 
-std::optional<WatchError> CaptureWatcher::start(const Url& folder) {
+std::optional<WatchError> CaptureWatcher::start(const Url& folder, Existing existing) {
     stop();
     folder_ = folder;
-    auto error = watch(folder);
+    auto error = watch(folder, existing);
     if (error) report(*error);
     return error;
 }
@@ -44,7 +44,7 @@ void CaptureWatcher::stop() {
     source_.reset();
 }
 
-std::optional<WatchError> CaptureWatcher::watch(const Url& folder) {
+std::optional<WatchError> CaptureWatcher::watch(const Url& folder, Existing existing) {
     if (services_.files.existence(folder) != FileManager::Existence::directory)
         return WatchError::missing();
     const auto listing = services_.files.contentsOfDirectory(folder);
@@ -66,8 +66,9 @@ std::optional<WatchError> CaptureWatcher::watch(const Url& folder) {
     });
     // What is known belongs to the queue. The scan finds what was saved after the listing and
     // before the source was open.
-    services_.queue.async(weakly(shared_from_this(), [folder, watch, names](auto& self) {
-        self.known_ = KnownNames(folder, names);
+    const NameList known = existing == Existing::isKnown ? names : NameList();
+    services_.queue.async(weakly(shared_from_this(), [folder, watch, known](auto& self) {
+        self.known_ = KnownNames(folder, known);
         self.handleEvent(folder, watch, {.contents = true});
     }));
     source_->resume();

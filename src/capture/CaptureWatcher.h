@@ -22,8 +22,8 @@
 namespace vantle {
 
 /// Watches one folder and turns each new, finished capture file in it into a Capture. Files that
-/// were there when watching began, and files older than two minutes when first seen, are never
-/// reported.
+/// were there when watching began are not reported unless that is asked for, and files older than
+/// two minutes when first seen never.
 ///
 /// start(), stop() and both callbacks belong to the main thread. Scans, polling and thumbnails run
 /// on the queue, which alone touches what is known and pending; the two sides share nothing but
@@ -50,9 +50,12 @@ public:
     /// Watching failed or ended. Called after the start() that it is about has returned.
     std::function<void(const WatchError&)> onError;
 
+    /// What is in the folder when watching begins: never reported, or as if it were saved then.
+    enum class Existing { isKnown, isNew };
+
     /// Watches `folder` from now on instead of any other. Absent on success; otherwise the error
     /// that is also logged and goes to onError. Starting again on the same folder is harmless.
-    std::optional<WatchError> start(const Url& folder);
+    std::optional<WatchError> start(const Url& folder, Existing existing = Existing::isKnown);
 
     /// Files that are settling at that moment may still be reported.
     void stop();
@@ -68,7 +71,7 @@ private:
     explicit CaptureWatcher(const Services& services) : services_(services) {}
 
     // Main thread.
-    std::optional<WatchError> watch(const Url& folder);
+    std::optional<WatchError> watch(const Url& folder, Existing existing);
     void report(const WatchError& error);
     void loseFolder(WatchNumber watch);
 

@@ -70,6 +70,10 @@ struct Platform {
     std::function<std::unique_ptr<Updater>(Platform& platform, UpdaterObserver& observer)>
         makeUpdater;
 
+    /// The folder into which the desktop's recorder saves, asked anew at each call: it need not
+    /// exist. Not set where there is no recorder, or it has no folder of its own.
+    std::function<Url()> recordingsFolder;
+
     /// By what the program is shown, in a few words; not set where there is only one way.
     std::function<std::string()> displayServer;
 

@@ -4,7 +4,9 @@ import signal
 
 import pytest
 
-from privatedesktop import ensure_never, wait_until
+from assistant import ENVIRONMENT
+from privatedesktop import Program, ensure_never, wait_until
+from watched_folder import WatchedFolder
 
 
 def start_recording(desktop, path):
@@ -60,3 +62,42 @@ def test_recordings_switched_off(desktop, vantle, folder):
     folder.save("clip.mp4", b"\0" * 4096)
     folder.wait_for_marker()
     assert folder.shown_count() == 0
+
+
+@pytest.mark.desktop(
+    environment={"XDG_CURRENT_DESKTOP": "GNOME"},
+    configuration={"user-dirs.dirs": 'XDG_VIDEOS_DIR="$HOME/Filme"\n'},
+)
+def test_a_recorder_that_makes_its_own_folder_gives_one_tile(desktop, binary):
+    """As the recorder of GNOME does at its first use, while screenshots go elsewhere."""
+    vantle = Program(binary, desktop, environment=ENVIRONMENT)
+    vantle.write_settings(screenshotTool=None)
+    (desktop.home / "Filme").mkdir()
+    recordings = desktop.home / "Filme/Screencasts"
+    vantle.start_watching()
+    vantle.wait_for_log(f"waiting in {desktop.home / 'Filme'} for {recordings}$")
+    assert "recordings: waited for\n" in vantle.command("--status")[1]
+    recordings.mkdir()
+    screenshots = WatchedFolder(desktop.home / "Screenshots", vantle)
+    record_beside(desktop, recordings / "first.webm", screenshots)
+    vantle.wait_for_log("captured first.webm$")
+    assert "recordings: watched\n" in vantle.command("--status")[1]
+    record_beside(desktop, recordings / "second.mp4", screenshots)
+    vantle.wait_for_log("captured second.mp4$")
+    screenshots.wait_for_marker()
+    assert screenshots.captured() == ["first.webm", "second.mp4"]
+    assert screenshots.shown_count() == 2
+    vantle.stop()
+
+
+def record_beside(desktop, path, screenshots):
+    """Records for some seconds, looking all the time that no tile of it appears."""
+    recorder = start_recording(desktop, path)
+    wait_until(path.exists, "the recording begins")
+    for _ in range(3):
+        screenshots.wait_for_marker()
+        ensure_never(
+            lambda: path.name in screenshots.captured(), "a tile while recording", seconds=1.0
+        )
+    recorder.send_signal(signal.SIGINT)
+    recorder.wait(30)

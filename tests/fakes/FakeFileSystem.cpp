@@ -105,6 +105,7 @@ void FakeFileSystem::removeDirectory(const Url& folder) {
         return entry.first == folder.path() || isBelow(entry.first, folder.path());
     });
     report(folder, {.contents = true, .lost = true});
+    report(folder.deletingLastPathComponent(), {.contents = true});
 }
 
 void FakeFileSystem::moveDirectory(const Url& from, const Url& to) {
@@ -115,6 +116,8 @@ void FakeFileSystem::moveDirectory(const Url& from, const Url& to) {
     }
     entries_ = std::move(moved);
     report(from, {.lost = true});
+    for (const Url& folder : {from, to})
+        report(folder.deletingLastPathComponent(), {.contents = true});
 }
 
 void FakeFileSystem::revoke(const Url& folder) {

@@ -109,6 +109,7 @@ TEST_P(ScreenLayoutTest, TheOnboarding) {
 TEST_P(ScreenLayoutTest, TheSettingsThatCannotBeChanged) {
     const std::string reason = "The tool's settings file flameshot.ini is read-only.";
     preferences->obstacles = {{"location", reason}, {"show-thumbnail", reason}};
+    platform.recordingsFolder = [] { return Url::file("/data/" + std::string(200, 'w')); };
     openSettings(GetParam().size);
     expectOrder();
 }

@@ -229,6 +229,23 @@ TEST_F(SettingsViewTest, AFolderThatCannotBeChangedIsShownWithTheReason) {
     EXPECT_EQ(openMenu(), nullptr);
 }
 
+TEST_F(SettingsViewTest, TheFolderOfTheDesktopsRecorderIsNamedUnderItsSwitch) {
+    Url recordings = Url::file("/home/user/Videos/Screencasts");
+    platform.recordingsFolder = [&recordings] { return recordings; };
+    openSettings();
+    EXPECT_TRUE(has(QStringLiteral("Your desktop saves them in ~/Videos/Screencasts.")));
+    window().close();
+    recordings = Url::file("/data/casts");
+    window().makeKeyAndOrderFront();
+    settle();
+    EXPECT_TRUE(has(QStringLiteral("Your desktop saves them in /data/casts.")));
+}
+
+TEST_F(SettingsViewTest, WithoutARecorderOfTheDesktopNoFolderIsNamed) {
+    openSettings();
+    EXPECT_TRUE(texts().filter(QStringLiteral("Your desktop saves them")).isEmpty());
+}
+
 TEST_F(SettingsViewTest, AThumbnailThatCannotBeSwitchedIsShownAsItIsWithTheReason) {
     const QString hide = QStringLiteral("Hide the built-in macOS thumbnail");
     const QString caption = QStringLiteral(

@@ -51,6 +51,7 @@ Column {
 
         ToggleRow {
             text: qsTr("Also show screen recordings")
+            caption: controls.settings.recordingsPlace
             isOn: controls.settings.showRecordings
             onWanted: on => controls.settings.showRecordings = on
         }

@@ -20,7 +20,8 @@ SettingsModel::SettingsModel(Settings& settings, Platform& platform)
     : settings_(settings),
       notifications_(platform.notifications),
       picker_({settings, *platform.files, *platform.folderChooser, *platform.application}),
-      controls_(settings) {
+      controls_(settings),
+      recordingsFolder_(platform.recordingsFolder) {
     follow();
 }
 
@@ -42,7 +43,14 @@ void SettingsModel::follow() {
 void SettingsModel::appear() {
     controls_.appear();
     readObstacles();
+    readRecordingsPlace();
     emit changed();
+}
+
+void SettingsModel::readRecordingsPlace() {
+    if (!recordingsFolder_) return;
+    recordingsPlace_ = text(filled(localized("SettingsModel", "Your desktop saves them in %1."),
+                                   {picker_.displayName(recordingsFolder_())}));
 }
 
 void SettingsModel::readObstacles() {

@@ -34,6 +34,8 @@ class SettingsModel : public QObject {
     Q_PROPERTY(bool removeAfterUse READ removeAfterUse WRITE setRemoveAfterUse NOTIFY changed)
     Q_PROPERTY(bool deleteAfterUse READ deleteAfterUse WRITE setDeleteAfterUse NOTIFY changed)
     Q_PROPERTY(bool showRecordings READ showRecordings WRITE setShowRecordings NOTIFY changed)
+    /// Where the desktop saves recordings, as a sentence; empty when nothing is known of it.
+    Q_PROPERTY(QString recordingsPlace READ recordingsPlace NOTIFY changed)
     Q_PROPERTY(bool copyOnCapture READ copyOnCapture WRITE setCopyOnCapture NOTIFY changed)
     Q_PROPERTY(QString corner READ corner NOTIFY changed)
     Q_PROPERTY(bool hideSystemThumbnail READ hideSystemThumbnail WRITE setHideSystemThumbnail NOTIFY
@@ -59,6 +61,7 @@ public:
     bool removeAfterUse() const { return settings_.removeAfterUse.value(); }
     bool deleteAfterUse() const { return settings_.deleteAfterUse.value(); }
     bool showRecordings() const { return settings_.showRecordings.value(); }
+    QString recordingsPlace() const { return recordingsPlace_; }
     bool copyOnCapture() const { return settings_.copyOnCapture.value(); }
     QString corner() const;
     bool hideSystemThumbnail() const { return settings_.hideSystemThumbnail.value(); }
@@ -88,6 +91,7 @@ signals:
 private:
     void follow();
     void readObstacles();
+    void readRecordingsPlace();
     Menu cornerMenu();
     void open(const Menu& menu, const QQuickItem& button);
 
@@ -102,6 +106,8 @@ private:
     BehaviorControls controls_;
     QString folderObstacle_;
     QString thumbnailObstacle_;
+    std::function<Url()> recordingsFolder_;
+    QString recordingsPlace_;
     std::unique_ptr<MenuWindow> menu_;  ///< Made when one is opened for the first time.
     std::vector<Subscription> subscriptions_;
 };
