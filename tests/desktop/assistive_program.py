@@ -30,7 +30,7 @@ STATES = {
     "read only": Atspi.StateType.READ_ONLY,
 }
 # What older releases call otherwise.
-ROLES = {"push button": "button"}
+ROLES = {"push button": "button", "push button menu": "button"}
 
 
 def program():
