@@ -215,6 +215,25 @@ TEST_F(TrayOnBusTest, ALineThatLooksTheSameKeepsItsNumberAndNoNumberIsUsedAgain)
     EXPECT_THAT(after, testing::Not(testing::Contains(ids()[0])));
 }
 
+TEST_F(TrayOnBusTest, LinesThatStayKeepTheirOrderAlsoAmongRules) {
+    const MenuItem rule{.kind = MenuItem::Kind::separator};
+    lines = {{.title = "None"}, rule, {.title = "Settings"}, rule, {.title = "Quit"}};
+    const auto before = ids();
+    lines = {{.title = "Newest"},   rule, {.title = "Folder"}, rule,
+             {.title = "Settings"}, rule, {.title = "Quit"}};
+    const auto after = ids();
+    ASSERT_EQ(after.size(), 7u);
+    EXPECT_THAT(std::vector(after.begin() + 3, after.end()),
+                testing::ElementsAre(before[1], before[2], before[3], before[4]));
+}
+
+TEST_F(TrayOnBusTest, AnActivationTokenThatTheTrayProvidesIsTaken) {
+    const auto reply = tray.tray.call(
+        QStringLiteral("/StatusNotifierItem"), QStringLiteral("org.kde.StatusNotifierItem"),
+        QStringLiteral("ProvideXdgActivationToken"), {QStringLiteral("token")});
+    EXPECT_EQ(reply.type(), QDBusMessage::ReplyMessage);
+}
+
 TEST_F(TrayOnBusTest, AnOpenMenuStaysAsItIs) {
     const auto before = ids();
     tray.tray.send(0, QStringLiteral("opened"));

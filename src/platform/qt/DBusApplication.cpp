@@ -17,6 +17,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/qt/ActivationToken.h"
 #include "support/Localization.h"
 #include "support/SystemLog.h"
 #include "support/Url.h"
@@ -102,7 +103,10 @@ public:
         : QDBusAbstractAdaptor(&object), object_(object) {}
 
 public slots:
-    void Activate(const QVariantMap&) { object_.activated(); }
+    void Activate(const QVariantMap& platformData) {
+        keepToken(platformData);
+        object_.activated();
+    }
     void Open(const QStringList& addresses, const QVariantMap&) {
         ApplicationRequest request{"show", {}};
         for (const QString& address : addresses)
@@ -110,11 +114,19 @@ public slots:
                 request.arguments.push_back(url->path());
         object_.perform(request);
     }
-    void ActivateAction(const QString& action, const QVariantList&, const QVariantMap&) {
+    void ActivateAction(const QString& action, const QVariantList&,
+                        const QVariantMap& platformData) {
+        keepToken(platformData);
         object_.perform({action.toStdString(), {}});
     }
 
 private:
+    static void keepToken(const QVariantMap& platformData) {
+        const auto older = platformData.value(QStringLiteral("desktop-startup-id"));
+        keepActivationToken(
+            platformData.value(QStringLiteral("activation-token"), older).toString());
+    }
+
     DBusApplication::BusObject& object_;
 };
 

@@ -6,6 +6,8 @@
 #include <QQuickItem>
 #include <QScreen>
 
+#include "platform/qt/ActivationToken.h"
+
 Q_IMPORT_QML_PLUGIN(Vantle_ScreensPlugin)
 
 namespace vantle {
@@ -33,8 +35,7 @@ int AlertWindow::run() {
     if (const QScreen* shown = screen()) place.moveCenter(shown->availableGeometry().center());
     setGeometry(place);
     show();
-    raise();
-    requestActivate();
+    bringToFront(*this);
     loop_.exec();
     return answer_;
 }

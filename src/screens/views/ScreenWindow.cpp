@@ -13,6 +13,8 @@
 #include <QScreen>
 #include <memory>
 
+#include "platform/qt/ActivationToken.h"
+
 Q_IMPORT_QML_PLUGIN(Vantle_ScreensPlugin)
 
 namespace vantle {
@@ -77,8 +79,7 @@ void ScreenWindow::makeKeyAndOrderFront() {
         centre();
     }
     show();
-    raise();
-    requestActivate();
+    bringToFront(*this);
 }
 
 void ScreenWindow::orderFront() {

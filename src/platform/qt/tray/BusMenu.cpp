@@ -3,6 +3,8 @@
 #include <QBuffer>
 #include <QGuiApplication>
 #include <algorithm>
+#include <iterator>
+#include <ranges>
 #include <utility>
 
 #include "platform/qt/MenuPicture.h"
@@ -69,18 +71,22 @@ bool BusMenu::rebuild() {
         return ids;
     };
     const auto formerIds = idsOf(former);
-    for (auto& made : makeMenu_().items) {
-        const auto same = std::ranges::find_if(
-            former, [&made](const Line& line) { return looksEqual(line.item, made); });
+    // From the end, where least changes: rules all look the same, and trays move lines badly.
+    std::vector<MenuItem> made = makeMenu_().items;
+    for (auto& item : made | std::views::reverse) {
+        const auto same = std::find_if(former.rbegin(), former.rend(), [&item](const Line& line) {
+            return looksEqual(line.item, item);
+        });
         int id = 0;
-        if (same == former.end()) {
+        if (same == former.rend()) {
             id = ++lastId_;
         } else {
             id = same->id;
-            former.erase(same);
+            former.erase(std::next(same).base());
         }
-        lines_.push_back({id, std::move(made)});
+        lines_.push_back({id, std::move(item)});
     }
+    std::ranges::reverse(lines_);
     const bool isChanged = revision_ == 0 || idsOf(lines_) != formerIds;
     if (isChanged) ++revision_;
     return isChanged;

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 
+#include "platform/qt/ActivationToken.h"
 #include "platform/qt/tray/BusMenu.h"
 #include "platform/qt/tray/BusMenuTypes.h"
 #include "platform/qt/tray/TrayIcon.h"
@@ -83,6 +84,8 @@ public slots:
     void Activate(int x, int y);
     void SecondaryActivate(int x, int y) { Activate(x, y); }
     void ContextMenu(int x, int y) { Activate(x, y); }
+    /// Comes before a click on the item or on a line of its menu.
+    static void ProvideXdgActivationToken(const QString& token) { keepActivationToken(token); }
     static void Scroll(int, const QString&) {}
 
 signals:
