@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <algorithm>
 #include <iterator>
-#include <ranges>
 #include <utility>
 
 #include "platform/qt/MenuPicture.h"
@@ -73,7 +72,8 @@ bool BusMenu::rebuild() {
     const auto formerIds = idsOf(former);
     // From the end, where least changes: rules all look the same, and trays move lines badly.
     std::vector<MenuItem> made = makeMenu_().items;
-    for (auto& item : made | std::views::reverse) {
+    std::ranges::reverse(made);
+    for (auto& item : made) {
         const auto same = std::find_if(former.rbegin(), former.rend(), [&item](const Line& line) {
             return looksEqual(line.item, item);
         });
