@@ -319,7 +319,7 @@ protected:
 TEST_F(FileTransferPortalTest, ProgramsInASandboxGetAKeyForTheFiles) {
     const FileMimeData data(save(2), nullptr, FileMimeData::Use::drag,
                             FileTransferPortal(bus.connect()));
-    EXPECT_THAT(data.formats(),
+    EXPECT_THAT(data.formats().mid(0, 2),
                 ElementsAre("application/vnd.portal.filetransfer", "text/uri-list"));
     const QByteArray key = data.data(QStringLiteral("application/vnd.portal.filetransfer"));
     EXPECT_EQ(key, "key 1");
