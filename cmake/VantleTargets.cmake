@@ -30,6 +30,19 @@ function(vantle_optimize_for_speed library)
   target_compile_options(vantle_${library} PRIVATE $<$<CONFIG:Release>:-O2>)
 endfunction()
 
+# An argument of qt_add_qml_module: compiling QML ahead takes a while, and the sanitizers see nothing
+# in it.
+if(VANTLE_SANITIZE)
+  set(VANTLE_QML_COMPILATION NO_CACHEGEN)
+endif()
+
+# QML becomes bytecode when Vantle is built: what the toolkit would compile at run time it keeps in the
+# user's home, and takes for this version's later, because all files in the program carry one date.
+# What its compiler makes of the bindings in C++ differs from folder to folder; its bytecode does not.
+function(vantle_compile_qml target)
+  set_target_properties(${target} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
+endfunction()
+
 # Reads headers of others once for all files of a target. Only under the sanitizers, where whole
 # builds are the rule: elsewhere each file is to prove that it includes what it uses.
 function(vantle_precompile target)

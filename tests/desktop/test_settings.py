@@ -229,3 +229,10 @@ def test_a_small_screen(desktop, vantle, screens):
     )
     desktop.screen.keyboard.press("Return")
     wait_until(desktop.screen.panel, "the samples are shown")
+
+
+def test_no_window_leaves_anything_in_the_users_cache(desktop, vantle, screens):
+    vantle.start_watching()
+    screens.open_settings()
+    screens.choose("Change", "Desktop (macOS default)")
+    assert not (desktop.home / ".cache/vantle").exists()
