@@ -16,6 +16,7 @@
 #include "platform/linux/CanberraSoundPlayer.h"
 #include "platform/linux/ConfinedMediaLoader.h"
 #include "platform/linux/FreedesktopTrash.h"
+#include "platform/linux/GnomeTrayExtension.h"
 #include "platform/linux/IniPreferencesDomain.h"
 #include "platform/linux/IniUserDefaults.h"
 #include "platform/linux/InotifyDirectoryEvents.h"
@@ -123,6 +124,9 @@ std::vector<Fact> surroundings(const Environment& environment, const TrayStatusI
 void addShell(Platform& platform) {
     auto statusItem = makeStatusItem();
     platform.displayServer = displayServer;
+    platform.trayExtension = [environment = platform.environment] {
+        return gnomeTrayExtension(environment);
+    };
     platform.surroundings = [environment = platform.environment, &item = *statusItem] {
         return surroundings(environment, item);
     };

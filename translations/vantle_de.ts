@@ -348,6 +348,17 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     </message>
 </context>
 <context>
+    <name>MissingTrayAdvice</name>
+    <message>
+        <source>The extension “%1” brings a tray, and it is installed: switch it on in Extensions.</source>
+        <translation>Die Erweiterung „%1“ bringt einen Infobereich mit und ist installiert: Schalten Sie sie unter „Erweiterungen“ ein.</translation>
+    </message>
+    <message>
+        <source>The extension “%1” brings a tray: install the package %2, log out and in again, then switch it on in Extensions.</source>
+        <translation>Die Erweiterung „%1“ bringt einen Infobereich mit: Installieren Sie das Paket %2, melden Sie sich ab und wieder an, und schalten Sie sie dann unter „Erweiterungen“ ein.</translation>
+    </message>
+</context>
+<context>
     <name>OnboardingSteps</name>
     <message>
         <source>Start Using Vantle</source>
@@ -391,6 +402,10 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     <message>
         <source>Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will slide into the %1 corner. Take another and they line up together.</source>
         <translation>Vantle wartet in Ihrer Menüleiste. Machen Sie mit ⇧⌘4 ein Bildschirmfoto, und es gleitet in die Ecke „%1“. Machen Sie noch eines, und beide stehen nebeneinander.</translation>
+    </message>
+    <message>
+        <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon: to reach the settings, start Vantle again.</source>
+        <translation>Machen Sie ein Bildschirmfoto, und es gleitet in die Ecke „%1“. Machen Sie noch eines, und beide stehen nebeneinander. Ihr Desktop hat keinen Infobereich für das Symbol von Vantle: Die Einstellungen erreichen Sie, indem Sie Vantle noch einmal starten.</translation>
     </message>
 </context>
 <context>

@@ -348,6 +348,17 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     </message>
 </context>
 <context>
+    <name>MissingTrayAdvice</name>
+    <message>
+        <source>The extension “%1” brings a tray, and it is installed: switch it on in Extensions.</source>
+        <translation>L’extension «&#xa0;%1&#xa0;» apporte une zone de notification, et elle est installée&#xa0;: activez-la dans Extensions.</translation>
+    </message>
+    <message>
+        <source>The extension “%1” brings a tray: install the package %2, log out and in again, then switch it on in Extensions.</source>
+        <translation>L’extension «&#xa0;%1&#xa0;» apporte une zone de notification&#xa0;: installez le paquet %2, fermez puis rouvrez votre session, et activez-la dans Extensions.</translation>
+    </message>
+</context>
+<context>
     <name>OnboardingSteps</name>
     <message>
         <source>Start Using Vantle</source>
@@ -391,6 +402,10 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     <message>
         <source>Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will slide into the %1 corner. Take another and they line up together.</source>
         <translation>Vantle vit dans votre barre des menus. Faites une capture avec ⇧⌘4&#xa0;: elle glisse dans le coin «&#xa0;%1&#xa0;». Faites-en une autre, et elles s’alignent.</translation>
+    </message>
+    <message>
+        <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon: to reach the settings, start Vantle again.</source>
+        <translation>Faites une capture&#xa0;: elle glisse dans le coin «&#xa0;%1&#xa0;». Faites-en une autre, et elles s’alignent. Votre bureau n’a pas de zone de notification pour l’icône de Vantle&#xa0;: pour accéder aux réglages, relancez Vantle.</translation>
     </message>
 </context>
 <context>

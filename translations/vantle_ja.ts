@@ -348,6 +348,17 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
 </context>
 <context>
+    <name>MissingTrayAdvice</name>
+    <message>
+        <source>The extension “%1” brings a tray, and it is installed: switch it on in Extensions.</source>
+        <translation>拡張機能「%1」でトレイを表示できます。インストール済みなので、「拡張機能」で有効にしてください。</translation>
+    </message>
+    <message>
+        <source>The extension “%1” brings a tray: install the package %2, log out and in again, then switch it on in Extensions.</source>
+        <translation>拡張機能「%1」でトレイを表示できます。パッケージ%2をインストールし、ログインし直してから、「拡張機能」で有効にしてください。</translation>
+    </message>
+</context>
+<context>
     <name>OnboardingSteps</name>
     <message>
         <source>Start Using Vantle</source>
@@ -391,6 +402,10 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <message>
         <source>Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will slide into the %1 corner. Take another and they line up together.</source>
         <translation>Vantleはメニューバーにいます。⇧⌘4でスクリーンショットを撮ると、画面の%1に現れます。続けて撮ると横に並びます。</translation>
+    </message>
+    <message>
+        <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon: to reach the settings, start Vantle again.</source>
+        <translation>スクリーンショットを撮ると、画面の%1に現れます。続けて撮ると横に並びます。このデスクトップにはVantleのアイコンを表示するトレイがありません。設定を開くにはVantleをもう一度起動してください。</translation>
     </message>
 </context>
 <context>

@@ -110,6 +110,7 @@ private:
 
     /// Where no tray shows the icon, tells the user once and for all how to reach the program.
     void explainMissingTray();
+    std::string trayAdvice() const;
 
     /// Made on the first call; null where there is none.
     Updater* updater();

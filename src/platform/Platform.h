@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/Alerts.h"
@@ -27,6 +28,7 @@
 #include "platform/SoundPlayer.h"
 #include "platform/StatusItem.h"
 #include "platform/Trash.h"
+#include "platform/TrayExtension.h"
 #include "platform/Updater.h"
 #include "platform/UserDefaults.h"
 #include "platform/WallClock.h"
@@ -73,6 +75,10 @@ struct Platform {
     /// The folder into which the desktop's recorder saves, asked anew at each call: it need not
     /// exist. Not set where there is no recorder, or it has no folder of its own.
     std::function<Url()> recordingsFolder;
+
+    /// What would bring a tray to this desktop; absent where nothing is known. Asked anew at each
+    /// call; not set on a system whose desktops all have one.
+    std::function<std::optional<TrayExtension>()> trayExtension;
 
     /// By what the program is shown, in a few words; not set where there is only one way.
     std::function<std::string()> displayServer;

@@ -21,7 +21,13 @@ std::vector<SummaryRow> onboardingSummary(const Settings& settings) {
                               : localized("OnboardingSummary", "macOS thumbnail still shown")}};
 }
 
-std::string onboardingOutlook(const Settings& settings) {
+std::string onboardingOutlook(const Settings& settings, Tray tray) {
+    if (tray == Tray::isMissing)
+        return filled(localized("OnboardingSummary",
+                                "Take a screenshot and it will slide into the %1 corner. Take "
+                                "another and they line up together. Your desktop has no tray for "
+                                "Vantle's icon: to reach the settings, start Vantle again."),
+                      {label(settings.corner.value())});
     return filled(localized("OnboardingSummary",
                             "Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will "
                             "slide into the %1 corner. Take another and they line up together."),

@@ -16,7 +16,10 @@ struct SummaryRow {
 /// What the user has chosen, in the words of the onboarding's last step.
 std::vector<SummaryRow> onboardingSummary(const Settings& settings);
 
-/// What happens with the next screenshot.
-std::string onboardingOutlook(const Settings& settings);
+/// Where the program's icon is.
+enum class Tray { isThere, isMissing };
+
+/// What happens with the next screenshot, and how Vantle is reached.
+std::string onboardingOutlook(const Settings& settings, Tray tray);
 
 }  // namespace vantle

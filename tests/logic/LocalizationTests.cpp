@@ -7,6 +7,7 @@
 #include "fakes/Pseudolanguage.h"
 #include "screens/BehaviorControls.h"
 #include "screens/FolderAccessRow.h"
+#include "screens/MissingTrayAdvice.h"
 #include "screens/OnboardingSummary.h"
 #include "support/Localization.h"
 
@@ -112,7 +113,10 @@ TEST_F(LocalizedApp, TheSummaryOfTheOnboardingIsTranslated) {
     launch();
     for (const auto& row : onboardingSummary(delegate->settings()))
         EXPECT_THAT(row.text, IsTranslated());
-    EXPECT_THAT(onboardingOutlook(delegate->settings()), IsTranslated());
+    for (const auto tray : {Tray::isThere, Tray::isMissing})
+        EXPECT_THAT(onboardingOutlook(delegate->settings(), tray), IsTranslated());
+    for (const bool isInstalled : {false, true})
+        EXPECT_THAT(missingTrayAdvice(TrayExtension{"Tray", "tray", isInstalled}), IsTranslated());
 }
 
 TEST_F(LocalizedApp, TheLengthOfTheCountdownIsTranslated) {

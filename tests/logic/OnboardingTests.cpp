@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/SettingsOnFakes.h"
+#include "screens/MissingTrayAdvice.h"
 #include "screens/OnboardingSteps.h"
 #include "screens/OnboardingSummary.h"
 
@@ -9,6 +10,8 @@ namespace vantle {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
 
 class OnboardingTest : public testing::Test, protected fakes::SettingsOnFakes {
 protected:
@@ -116,9 +119,32 @@ TEST_F(OnboardingTest, WithoutATimerTheSummaryReadsStaysUntilDismissed) {
 
 TEST_F(OnboardingTest, TheOutlookNamesTheCorner) {
     settings.corner.set(PanelCorner::topRight);
-    EXPECT_EQ(onboardingOutlook(settings),
+    EXPECT_EQ(onboardingOutlook(settings, Tray::isThere),
               "Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will slide into "
               "the Top Right corner. Take another and they line up together.");
+}
+
+TEST_F(OnboardingTest, WithoutATrayTheOutlookTellsHowTheSettingsAreReached) {
+    const std::string outlook = onboardingOutlook(settings, Tray::isMissing);
+    EXPECT_THAT(outlook, HasSubstr("the Bottom Right corner"));
+    EXPECT_THAT(outlook, HasSubstr("has no tray"));
+    EXPECT_THAT(outlook, HasSubstr("start Vantle again"));
+}
+
+TEST(MissingTrayAdviceTest, NamesTheExtensionAndItsPackage) {
+    const std::string advice = missingTrayAdvice(TrayExtension{"Tray", "shell-tray", false});
+    EXPECT_THAT(advice, HasSubstr("“Tray”"));
+    EXPECT_THAT(advice, HasSubstr("install the package shell-tray"));
+}
+
+TEST(MissingTrayAdviceTest, WhatIsInstalledHasOnlyToBeSwitchedOn) {
+    const std::string advice = missingTrayAdvice(TrayExtension{"Tray", "shell-tray", true});
+    EXPECT_THAT(advice, HasSubstr("switch it on"));
+    EXPECT_THAT(advice, Not(HasSubstr("install the package")));
+}
+
+TEST(MissingTrayAdviceTest, WhereNothingIsKnownThereIsNone) {
+    EXPECT_EQ(missingTrayAdvice(std::nullopt), "");
 }
 
 }  // namespace

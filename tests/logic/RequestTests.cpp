@@ -163,6 +163,15 @@ TEST_F(MissingTrayTest, IsExplainedOnceAndForAll) {
     EXPECT_EQ(alerts->shown.size(), 1u);
 }
 
+TEST_F(MissingTrayTest, TheExplanationSaysWhatWouldBringOne) {
+    statusItem->hasTray = false;
+    platform.trayExtension = [] { return TrayExtension{"Tray", "shell-tray", false}; };
+    launch();
+    time.advance(Seconds(31));
+    ASSERT_EQ(alerts->shown.size(), 1u);
+    EXPECT_THAT(alerts->shown[0].informativeText, HasSubstr("the package shell-tray"));
+}
+
 TEST_F(MissingTrayTest, ATrayThatComesLaterNeedsNoExplanation) {
     statusItem->hasTray = false;
     launch();

@@ -67,6 +67,20 @@ TEST_F(OnboardingViewTest, TheDoneStep) {
     EXPECT_EQ(samples, 1);
 }
 
+TEST_F(OnboardingViewTest, WithoutATrayTheDoneStepSaysSoAndWhatBringsOne) {
+    statusItem->hasTray = false;
+    platform.trayExtension = [] { return TrayExtension{"Tray", "shell-tray", false}; };
+    openOnboarding(2);
+    expectTexts(
+        {QStringLiteral("You're all set"),
+         QStringLiteral("Take a screenshot and it will slide into the Bottom Right corner. Take "
+                        "another and they line up together. Your desktop has no tray for "
+                        "Vantle's icon: to reach the settings, start Vantle again."),
+         QStringLiteral("The extension “Tray” brings a tray: install the package shell-tray, log "
+                        "out and in again, then switch it on in Extensions."),
+         QStringLiteral("Start Using Vantle")});
+}
+
 TEST_F(OnboardingViewTest, MerelyOpeningItAppliesTheRecommendedSettings) {
     settings->dismissAfter.set(20);
     settings->corner.set(PanelCorner::topLeft);

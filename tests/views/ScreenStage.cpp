@@ -44,6 +44,8 @@ ScreenStage::ScreenStage() {
     platform.launcher = std::make_unique<fakes::FakeProcessLauncher>();
     loginItem = add(platform.loginItem, std::make_unique<fakes::FakeLoginItem>());
     application = add(platform.application, std::make_unique<fakes::FakeApplication>());
+    statusItem = add(platform.statusItem, std::make_unique<fakes::FakeStatusItem>());
+    statusItem->show();
     privacySettings = add(platform.privacySettings, std::make_unique<fakes::FakePrivacySettings>());
     chooser = add(platform.folderChooser,
                   std::make_unique<fakes::FakeFolderChooser>(*platform.scheduler));

@@ -16,6 +16,7 @@
 #include "fakes/FakePreferencesDomain.h"
 #include "fakes/FakePrivacySettings.h"
 #include "fakes/FakeProcessLauncher.h"
+#include "fakes/FakeStatusItem.h"
 #include "fakes/FakeUpdateEngine.h"
 #include "fakes/FakeUserDefaults.h"
 #include "fakes/FakeWindow.h"
@@ -70,6 +71,7 @@ public:
     fakes::FakeFolderChooser* chooser = nullptr;
     fakes::FakePrivacySettings* privacySettings = nullptr;
     fakes::FakeApplication* application = nullptr;
+    fakes::FakeStatusItem* statusItem = nullptr;
     std::unique_ptr<Settings> settings;
     fakes::FakeFileOpener opener;
     fakes::FakeUpdateEngine::Record updates;

@@ -31,6 +31,15 @@ StepView {
             lineHeight: 1.25
             font.pointSize: Style.points(14)
         }
+
+        Body {
+            text: step.onboarding.trayAdvice
+            visible: step.onboarding.trayAdvice !== ""
+            horizontalAlignment: Text.AlignHCenter
+            color: Appearance.secondary
+            lineHeight: 1.25
+            font.pointSize: Style.points(14)
+        }
     }
 
     FeatureList { lines: step.onboarding.summary }

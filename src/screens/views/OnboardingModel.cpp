@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "screens/MissingTrayAdvice.h"
 #include "screens/OnboardingSummary.h"
 
 namespace vantle {
@@ -19,6 +20,7 @@ std::function<void()> onTheEventLoop(Scheduler& scheduler, std::function<void()>
 OnboardingModel::OnboardingModel(Settings& settings, Platform& platform,
                                  std::function<void()> finish)
     : settings_(settings),
+      platform_(platform),
       model_(settings, platform),
       access_({settings, *platform.files, *platform.watcherQueue, *platform.scheduler,
                *platform.privacySettings}),
@@ -35,7 +37,13 @@ void OnboardingModel::appear() {
 }
 
 QString OnboardingModel::outlook() const {
-    return QString::fromStdString(onboardingOutlook(settings_));
+    const Tray tray = platform_.statusItem->isShown() ? Tray::isThere : Tray::isMissing;
+    return QString::fromStdString(onboardingOutlook(settings_, tray));
+}
+
+QString OnboardingModel::trayAdvice() const {
+    if (platform_.statusItem->isShown() || !platform_.trayExtension) return {};
+    return QString::fromStdString(missingTrayAdvice(platform_.trayExtension()));
 }
 
 QVariantList OnboardingModel::summary() const {
@@ -49,6 +57,8 @@ QVariantList OnboardingModel::summary() const {
 void OnboardingModel::forward() {
     steps_.forward();
     emit stepChanged();
+    // A tray may have come meanwhile.
+    emit summaryChanged();
 }
 
 void OnboardingModel::back() {

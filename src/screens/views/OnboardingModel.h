@@ -25,6 +25,8 @@ class OnboardingModel : public QObject {
     Q_PROPERTY(bool offersBack READ offersBack NOTIFY stepChanged)
     /// What comes next, and a "symbol" and a "text" for each thing that was chosen.
     Q_PROPERTY(QString outlook READ outlook NOTIFY summaryChanged)
+    /// How to get a tray where there is none; else empty.
+    Q_PROPERTY(QString trayAdvice READ trayAdvice NOTIFY summaryChanged)
     Q_PROPERTY(QVariantList summary READ summary NOTIFY summaryChanged)
 
 public:
@@ -41,6 +43,7 @@ public:
     QString forwardTitle() const { return QString::fromStdString(steps_.forwardTitle()); }
     bool offersBack() const { return steps_.offersBack(); }
     QString outlook() const;
+    QString trayAdvice() const;
     QVariantList summary() const;
 
     Q_INVOKABLE void forward();
@@ -52,6 +55,7 @@ signals:
 
 private:
     Settings& settings_;
+    const Platform& platform_;
     SettingsModel model_;
     FolderAccessModel access_;
     OnboardingSteps steps_;

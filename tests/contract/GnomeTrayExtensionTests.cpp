@@ -1,0 +1,63 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <string>
+
+#include "TemporaryFolder.h"
+#include "platform/linux/GnomeTrayExtension.h"
+
+namespace vantle {
+namespace {
+
+class GnomeTrayExtensionTest : public testing::Test {
+protected:
+    std::optional<TrayExtension> on(const std::string& desktop) {
+        const std::map<std::string, std::string> variables{
+            {"XDG_CURRENT_DESKTOP", desktop},
+            {"XDG_DATA_HOME", (folder / "own").path()},
+            {"XDG_DATA_DIRS", (folder / "first").path() + ":" + (folder / "second").path()}};
+        return gnomeTrayExtension([variables](const std::string& name) {
+            const auto found = variables.find(name);
+            return found == variables.end() ? std::nullopt : std::optional(found->second);
+        });
+    }
+    void install(const std::string& place, const std::string& identifier) {
+        std::filesystem::create_directories((folder / place).path() + "/gnome-shell/extensions/" +
+                                            identifier);
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_F(GnomeTrayExtensionTest, TheShellHasATrayByAnExtension) {
+    for (const auto* desktop : {"GNOME", "ubuntu:GNOME", "GNOME-Classic:GNOME"}) {
+        const auto extension = on(desktop);
+        ASSERT_TRUE(extension) << desktop;
+        EXPECT_EQ(extension->package, "gnome-shell-extension-appindicator");
+        EXPECT_FALSE(extension->isInstalled);
+    }
+}
+
+TEST_F(GnomeTrayExtensionTest, OtherDesktopsHaveATray) {
+    for (const auto* desktop : {"", "KDE", "Budgie:GNOME", "GNOME-Flashback:GNOME", "XFCE"})
+        EXPECT_FALSE(on(desktop)) << desktop;
+}
+
+TEST_F(GnomeTrayExtensionTest, IsFoundWhereTheUserHasPutIt) {
+    install("own", "appindicatorsupport@rgcjonas.gmail.com");
+    EXPECT_TRUE(on("GNOME")->isInstalled);
+}
+
+TEST_F(GnomeTrayExtensionTest, IsFoundWhereTheSystemHasIt) {
+    install("second", "ubuntu-appindicators@ubuntu.com");
+    EXPECT_TRUE(on("GNOME")->isInstalled);
+}
+
+TEST_F(GnomeTrayExtensionTest, AnotherExtensionIsNone) {
+    install("first", "clock@example.org");
+    EXPECT_FALSE(on("GNOME")->isInstalled);
+}
+
+}  // namespace
+}  // namespace vantle
