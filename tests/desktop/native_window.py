@@ -51,7 +51,10 @@ def main():
         "drag-data-received",
         lambda _, context, x, y, data, *rest: [tell("drop", uri) for uri in data.get_uris()],
     )
-    window.fullscreen()
+    if "--beside-bars" in sys.argv:
+        window.maximize()
+    else:
+        window.fullscreen()
     window.show_all()
     Gtk.main()
 

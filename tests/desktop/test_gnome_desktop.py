@@ -1,0 +1,90 @@
+"""The card and the tray in the whole GNOME Shell, with the extension that shows tray icons."""
+
+import pathlib
+
+import pytest
+
+from conftest import require_peer
+from gnome_shell_desktop import EXTENSION, GnomeShellDesktop
+from privatedesktop import wait_until, wait_until_still
+from trays import Icon
+from using import press_with_control
+from wayland_checks import check_corner, program_on
+from wayland_desktop import NativeWindow
+
+pytestmark = pytest.mark.desktop(tray=False, compositor=False)
+
+_BAR = 32
+
+
+@pytest.fixture
+def gnome(desktop):
+    require_peer("gnome-shell")
+    assert pathlib.Path("/usr/share/gnome-shell/extensions", EXTENSION).exists()
+    return GnomeShellDesktop(desktop)
+
+
+@pytest.fixture
+def vantle(gnome, binary):
+    with program_on(gnome, binary) as program:
+        yield program
+
+
+def place_of_icon(gnome):
+    return Icon(gnome, "top", _BAR).wait()
+
+
+class Menu:
+    """Of the icon, as the shell draws it below its bar."""
+
+    def __init__(self, gnome, place, button=1):
+        self._gnome = gnome
+        x, y = place
+        before = gnome.screen.screenshot()
+        gnome.screen.pointer.move(x - 3, y)
+        gnome.screen.pointer.click(x, y, button)
+        wait_until(lambda: self._is_below_bar(before), "the menu opens")
+        wait_until_still(lambda: gnome.screen.screenshot().tobytes(), "the menu")
+
+    def _is_below_bar(self, before):
+        place = (1380, 60)
+        return self._gnome.screen.screenshot().getpixel(place) != before.getpixel(place)
+
+    def choose(self, downs):
+        for _ in range(downs):
+            self._gnome.screen.keyboard.press("Down")
+        self._gnome.screen.keyboard.press("Return")
+
+
+def test_the_card_stands_in_its_corner(gnome, vantle):
+    check_corner(gnome, vantle)
+
+
+def test_its_own_screenshot_comes_onto_the_card(gnome, binary):
+    with program_on(gnome, binary, screenshotTool=None) as vantle:
+        vantle.start_watching()
+        before = gnome.screen.screenshot()
+        gnome.screen.keyboard.press("F12")
+        wait_until(lambda: gnome.screen.screenshot() != before, "the shell asks what to take")
+        wait_until_still(lambda: gnome.screen.screenshot(), "its question")
+        gnome.screen.keyboard.press("Return")
+        vantle.wait_for_log(r"captured Screenshot.*\.png$")
+        vantle.wait_for_log("panel shows 1 capture")
+
+
+def test_the_menu_of_its_icon_by_either_button(gnome, vantle):
+    vantle.start_watching()
+    place = place_of_icon(gnome)
+    for button, state in ((1, "paused"), (3, "watching")):
+        Menu(gnome, place, button).choose(1)
+        wait_until(lambda: f"state: {state}" in vantle.command("--status")[1], state)
+
+
+def test_the_settings_come_to_the_front(gnome, vantle):
+    vantle.start_watching()
+    place = place_of_icon(gnome)
+    window = NativeWindow(gnome, "--beside-bars")
+    Menu(gnome, place).choose(2)
+    wait_until(window.has_lost_focus, "the settings have the keyboard")
+    press_with_control(gnome, "w")
+    wait_until(window.has_focus, "the other window has it again")
