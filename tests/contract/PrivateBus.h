@@ -1,20 +1,26 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QUuid>
 
 namespace vantle {
 
-/// A message bus of its own, for as long as it lives.
+/// A message bus of its own, for as long as it lives. It starts none of the services that this system
+/// has installed.
 class PrivateBus {
 public:
     PrivateBus() {
+        const QString configuration = folder_.filePath(QStringLiteral("bus.conf"));
+        QFile file(configuration);
+        file.open(QIODevice::WriteOnly);
+        file.write(settings().toUtf8());
+        file.close();
         process_.start(QStringLiteral("dbus-daemon"),
-                       {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                        QStringLiteral("--print-address"),
-                        QStringLiteral("--address=unix:path=%1/bus").arg(folder_.path())});
+                       {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
+                        QStringLiteral("--config-file=%1").arg(configuration)});
         while (!process_.canReadLine() && process_.waitForReadyRead(30'000)) {
         }
         address_ = QString::fromUtf8(process_.readLine().trimmed());
@@ -30,6 +36,14 @@ public:
     }
 
 private:
+    QString settings() const {
+        return QStringLiteral(
+                   "<busconfig><type>session</type><listen>unix:path=%1/bus</listen>"
+                   "<policy context='default'><allow send_destination='*' eavesdrop='true'/>"
+                   "<allow eavesdrop='true'/><allow own='*'/></policy></busconfig>")
+            .arg(folder_.path());
+    }
+
     QTemporaryDir folder_;
     QProcess process_;
     QString address_;
