@@ -8,8 +8,8 @@
 
 namespace vantle {
 
-/// A message bus of its own, for as long as it lives. It starts none of the services that this system
-/// has installed.
+/// A message bus of its own, for as long as it lives. It starts none of the services that this
+/// system has installed.
 class PrivateBus {
 public:
     PrivateBus() {

@@ -171,6 +171,9 @@ DBusApplication::DBusApplication(const std::string& identifier, Launch launch)
     : identifier_(QString::fromStdString(identifier)),
       path_(QLatin1Char('/') + QString(identifier_).replace(QLatin1Char('.'), QLatin1Char('/'))),
       launch_(launch) {
+    // Qt's list of types outlives what was made later, as the thread has to be that reads the bus:
+    // it goes on while the program ends, and complains about types that are gone.
+    qRegisterMetaType<QDBusObjectPath>();
     qDBusRegisterMetaType<QByteArrayList>();
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         taskbar_ = std::make_unique<TaskbarPresence>();
