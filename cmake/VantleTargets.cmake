@@ -19,9 +19,23 @@ function(vantle_add_library name)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
   add_library(vantle_${name} STATIC ${arg_SOURCES})
   target_include_directories(vantle_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-  # The decoder's modules are shared objects made of these libraries.
-  set_target_properties(vantle_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
   target_link_libraries(vantle_${name} PUBLIC ${arg_LINKS} PRIVATE vantle_warnings)
+endfunction()
+
+# Puts all of these libraries of ours into a shared one, and not only what that itself refers to.
+function(vantle_add_parts shared)
+  foreach(part IN LISTS ARGN)
+    target_sources(${shared} PRIVATE $<TARGET_OBJECTS:vantle_${part}>)
+    target_link_libraries(${shared} PRIVATE vantle_${part})
+  endforeach()
+endfunction()
+
+# Others see of this shared library what the version script `exports` names, which is less to bind when
+# it is loaded.
+function(vantle_export_only shared exports)
+  cmake_path(ABSOLUTE_PATH exports)
+  target_link_options(${shared} PRIVATE -Wl,--version-script=${exports} -Wl,-z,defs)
+  set_property(TARGET ${shared} APPEND PROPERTY LINK_DEPENDS ${exports})
 endfunction()
 
 # Most of the program waits for people: there small code counts, which is memory that stays. This is

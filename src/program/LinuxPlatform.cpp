@@ -1,4 +1,4 @@
-#include "LinuxPlatform.h"
+#include "program/LinuxPlatform.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,8 +10,6 @@
 
 #include "capture/Capture.h"
 #include "capture/SystemScreenshotPrefs.h"
-#include "menus/MenuSharingServicePicker.h"
-#include "menus/MenuWindow.h"
 #include "platform/linux/AutostartLoginItem.h"
 #include "platform/linux/CanberraSoundPlayer.h"
 #include "platform/linux/ConfinedMediaLoader.h"
@@ -49,8 +47,6 @@
 #include "platform/qt/sharing/SharingSources.h"
 #include "platform/qt/tray/TrayStatusItem.h"
 #include "platform/wayland/ServerChoice.h"
-#include "screens/views/AlertWindow.h"
-#include "screens/views/UpdateWindow.h"
 #include "support/SystemLog.h"
 #include "support/Version.h"
 #include "updates/UpdateFlow.h"
@@ -83,13 +79,13 @@ std::shared_ptr<MediaLoader> makePictureLoader() {
 }
 
 /// What a capture can be used for.
-void addUses(Platform& platform) {
+void addUses(Platform& platform, LoadedViews& views) {
     platform.opener = std::make_unique<DesktopFileOpener>(*platform.launcher,
                                                           DesktopFileOpener::currentSandbox());
     platform.trash = std::make_unique<FreedesktopTrash>(*platform.scheduler, platform.environment);
     platform.pasteboard = std::make_unique<QtPasteboard>(makePictureLoader());
-    platform.sharing = std::make_unique<MenuSharingServicePicker>(
-        makeSharingSource(platform), *platform.pasteboard, *platform.opener);
+    platform.sharing = loadedSharingServicePicker(views, makeSharingSource(platform),
+                                                  *platform.pasteboard, *platform.opener);
     platform.privacySettings = std::make_unique<DesktopPrivacySettings>(
         programIdentifier, *platform.opener, DesktopFileOpener::currentSandbox());
     platform.folderChooser =
@@ -97,17 +93,12 @@ void addUses(Platform& platform) {
             QString::fromStdString(beside("vantle-folder-dialog"))));
 }
 
-/// The icon in the tray. Its menu is loaded when it is opened for the first time.
-std::unique_ptr<TrayStatusItem> makeStatusItem() {
-    const auto window = std::make_shared<std::unique_ptr<MenuWindow>>();
-    const auto open = [window](const Menu& menu, const QRect& anchor) {
-        if (!*window) *window = std::make_unique<MenuWindow>();
-        (*window)->open(menu, {anchor});
-    };
+std::unique_ptr<TrayStatusItem> makeStatusItem(OpenMenu openMenu) {
     // A window of X cannot hold the pointer there.
     const bool isWayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    return std::make_unique<TrayStatusItem>(open, isWayland ? TrayStatusItem::Click::opensMenuOfTray
-                                                            : TrayStatusItem::Click::opensOurMenu);
+    return std::make_unique<TrayStatusItem>(
+        std::move(openMenu),
+        isWayland ? TrayStatusItem::Click::opensMenuOfTray : TrayStatusItem::Click::opensOurMenu);
 }
 
 /// What stands around the program, for reports of faults.
@@ -121,8 +112,8 @@ std::vector<Fact> surroundings(const Environment& environment, const TrayStatusI
 }
 
 /// What the program says of itself, outside the panel.
-void addShell(Platform& platform) {
-    auto statusItem = makeStatusItem();
+void addShell(Platform& platform, LoadedViews& views) {
+    auto statusItem = makeStatusItem(loadedMenu(views));
     platform.displayServer = displayServer;
     platform.trayExtension = [environment = platform.environment] {
         return gnomeTrayExtension(environment);
@@ -131,14 +122,15 @@ void addShell(Platform& platform) {
         return surroundings(environment, item);
     };
     platform.statusItem = std::move(statusItem);
-    platform.alerts = std::make_unique<WindowAlerts>();
+    platform.alerts = loadedAlerts(views);
     platform.canvas = std::make_unique<QtCanvas>(densestScreen());
     platform.sounds =
         std::make_unique<CanberraSoundPlayer>(Url::file(beside("../share/vantle/sounds")));
 }
 
 /// Looks for new versions, and shows them.
-std::unique_ptr<Updater> makeUpdater(Platform& platform, UpdaterObserver& observer) {
+std::unique_ptr<Updater> makeUpdater(LoadedViews& views, Platform& platform,
+                                     UpdaterObserver& observer) {
     return std::make_unique<UpdateFlow>(UpdateFlow::Context{
         .scheduler = *platform.scheduler,
         .clock = *platform.clock,
@@ -148,7 +140,7 @@ std::unique_ptr<Updater> makeUpdater(Platform& platform, UpdaterObserver& observ
         .observer = observer,
         .engine = std::make_unique<UpdateProgram>(QString::fromStdString(beside("vantle-updater"))),
         .version = std::string(version),
-        .makeWindow = [](UpdateFlow& flow) { return std::make_unique<UpdateWindow>(flow); }});
+        .makeWindow = [&views](UpdateFlow& flow) { return views.get().makeUpdateWindow(flow); }});
 }
 
 bool isInstalled(const std::string& program) {
@@ -193,7 +185,7 @@ std::unique_ptr<LoginItem> makeLoginItem(const Environment& environment) {
 
 }  // namespace
 
-Platform makeLinuxPlatform(DBusApplication::Launch launch) {
+Platform makeLinuxPlatform(DBusApplication::Launch launch, LoadedViews& views) {
     Platform platform;
     platform.environment = processEnvironment();
     platform.moreExtensions = linuxCaptureExtensions;
@@ -212,12 +204,15 @@ Platform makeLinuxPlatform(DBusApplication::Launch launch) {
     platform.screens = std::make_unique<QtScreens>();
     platform.application = std::make_unique<DBusApplication>(programIdentifier, launch);
     platform.appearance = std::make_unique<PortalAppearance>();
+    views.follow(*platform.appearance);
     auto queue = std::make_unique<PollQueue>("vantle.watcher");
     platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*queue);
     platform.watcherQueue = std::move(queue);
-    addUses(platform);
-    addShell(platform);
-    platform.makeUpdater = makeUpdater;
+    addUses(platform, views);
+    addShell(platform, views);
+    platform.makeUpdater = [&views](Platform& surroundings, UpdaterObserver& observer) {
+        return makeUpdater(views, surroundings, observer);
+    };
     return platform;
 }
 

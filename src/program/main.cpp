@@ -10,19 +10,15 @@
 #include <memory>
 #include <system_error>
 
-#include "LinuxPlatform.h"
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
-#include "panel/views/Appearance.h"
-#include "panel/views/CapturePanel.h"
-#include "panel/views/dragging/QtDraggingSessions.h"
 #include "platform/qt/DBusApplication.h"
 #include "platform/qt/DisplayConnection.h"
 #include "platform/qt/UnixSignals.h"
 #include "platform/qt/translations/Translations.h"
 #include "platform/wayland/ServerChoice.h"
-#include "screens/views/OnboardingWindow.h"
-#include "screens/views/SettingsWindow.h"
+#include "program/LinuxPlatform.h"
+#include "program/LoadedViews.h"
 #include "support/SystemLog.h"
 
 namespace {
@@ -30,11 +26,6 @@ namespace {
 using namespace vantle;
 
 constexpr int wrongCommandLine = 2;  // the exit status
-
-PanelModel::Rendering rendering(const Platform& platform) {
-    return platform.environment("VANTLE_RENDER_PLAIN") ? PanelModel::Rendering::plain
-                                                       : PanelModel::Rendering::glass;
-}
 
 /// Pictures come and go in many sizes. Where the allocator keeps their room for later, as it begins
 /// to after the first large one, forty captures cost a fifth more.
@@ -85,22 +76,18 @@ QGuiApplication makeApplication(int& argc, char** argv) {
     return QGuiApplication(argc, argv);
 }
 
-AppDelegate::Views makeViews(Platform& platform, DraggingSessions& dragging) {
-    return {.makePanel =
-                [&](PanelState& state, Settings& settings, CardActions actions) {
-                    return std::make_unique<CapturePanel>(
-                        PanelModel::Context{state, settings, *platform.clock, dragging,
-                                            std::move(actions), rendering(platform)});
-                },
-            .makeSettingsWindow =
-                [&](Settings& settings) {
-                    return std::make_unique<SettingsWindow>(settings, platform);
-                },
-            .makeOnboardingWindow =
-                [&](Settings& settings, std::function<void()> finish) {
-                    return std::make_unique<OnboardingWindow>(settings, platform,
-                                                              std::move(finish));
-                }};
+AppDelegate::Views makeViews(Platform& platform, LoadedViews& views) {
+    return {
+        .makePanel =
+            [&](PanelState& state, Settings& settings, CardActions actions) {
+                return views.get().makePanel(platform, state, settings, std::move(actions));
+            },
+        .makeSettingsWindow =
+            [&](Settings& settings) { return views.get().makeSettingsWindow(platform, settings); },
+        .makeOnboardingWindow =
+            [&](Settings& settings, std::function<void()> finish) {
+                return views.get().makeOnboardingWindow(platform, settings, std::move(finish));
+            }};
 }
 
 int run(int& argc, char** argv, const CommandLine& line, Translations& translations) {
@@ -117,11 +104,11 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
         if (!isNobodyThere) return conclude(answer);
     }
 
-    Platform platform = makeLinuxPlatform(line.launchedByBus ? DBusApplication::Launch::byBus
-                                                             : DBusApplication::Launch::byUser);
-    Appearance::follow(platform.appearance.get());
-    QtDraggingSessions dragging;
-    const auto delegate = AppDelegate::create(platform, makeViews(platform, dragging));
+    LoadedViews views;
+    Platform platform = makeLinuxPlatform(
+        line.launchedByBus ? DBusApplication::Launch::byBus : DBusApplication::Launch::byUser,
+        views);
+    const auto delegate = AppDelegate::create(platform, makeViews(platform, views));
     if (!delegate->applicationWillFinishLaunching(request)) return EXIT_SUCCESS;
     const UnixSignals endingSignals([&] { platform.application->terminate(); });
     delegate->applicationDidFinishLaunching();

@@ -89,23 +89,41 @@ std::string outputOf(const char* command) {
     return output;
 }
 
-TEST(Confinement, TheProgramItselfLoadsNoCodec) {
-    const std::string libraries = outputOf("ldd " VANTLE_PROGRAM);
+// The program and its views, with all that they are linked with.
+class LinkedLibraries : public testing::TestWithParam<const char*> {
+protected:
+    std::string all() const { return outputOf((std::string("ldd ") + GetParam()).c_str()); }
+    std::string own() const {
+        return outputOf((std::string("readelf --dynamic --wide ") + GetParam()).c_str());
+    }
+};
+
+TEST_P(LinkedLibraries, HoldNoCodec) {
+    const std::string libraries = all();
     EXPECT_NE(libraries.find("libQt6Gui"), std::string::npos);
     // Not libpng, which Qt brings with it for its own icons.
     for (const auto* codec :
          {"libisal", "libjpeg", "libturbojpeg", "libtiff", "libgif", "libheif", "libde265",
           "libdav1d", "libaom", "libwebp", "libpoppler", "libavcodec", "libavformat", "libswscale",
-          "liblcms", "libvantle", "vantle-decoder"})
+          "liblcms", "vantle-decoder"})
         EXPECT_EQ(libraries.find(codec), std::string::npos) << codec;
 }
 
-// What it links, and not what comes with that: on Debian 13 Qt Network brings a libcurl of its own.
-TEST(Confinement, TheProgramItselfLinksNothingOfUpdates) {
-    const std::string libraries = outputOf("readelf --dynamic --wide " VANTLE_PROGRAM);
-    EXPECT_NE(libraries.find("libQt6Gui"), std::string::npos);
+TEST_P(LinkedLibraries, HoldNothingOfUpdates) {
+    const std::string libraries = own();
+    EXPECT_NE(libraries.find("libQt6Core"), std::string::npos);
     for (const auto* library :
          {"libcurl", "libsodium", "libpugixml", "libarchive", "libssl", "libcrypto", "libsystemd"})
+        EXPECT_EQ(libraries.find(library), std::string::npos) << library;
+}
+
+INSTANTIATE_TEST_SUITE_P(Confinement, LinkedLibraries,
+                         testing::Values(VANTLE_PROGRAM, VANTLE_VIEWS));
+
+TEST(Confinement, TheProgramLoadsNoSceneBeforeThereIsSomethingToSee) {
+    const std::string libraries = outputOf("ldd " VANTLE_PROGRAM);
+    EXPECT_NE(libraries.find("libQt6Gui"), std::string::npos);
+    for (const auto* library : {"libQt6Quick", "libQt6Qml", "libQt6Network", "libQt6Svg"})
         EXPECT_EQ(libraries.find(library), std::string::npos) << library;
 }
 

@@ -1,11 +1,13 @@
 """Starting, starting twice, and ending."""
 
 import itertools
+import pathlib
 import signal
 
 import pytest
 from PIL import Image
 
+from build_tree import copy_program
 from privatedesktop import Program, processes, wait_until
 
 
@@ -115,6 +117,42 @@ def test_ends_when_asked_with_a_tile_on_the_screen(desktop, vantle, folder):
     vantle.signal(signal.SIGTERM)
     assert vantle.wait_for_end(limit=5.0) == 0
     wait_until(lambda: desktop.screen.panel() is None, "the panel is gone")
+
+
+def test_shows_captures_after_an_update_has_replaced_its_views(desktop, folder, binary, tmp_path):
+    copy = Program(copy_program(binary, tmp_path), desktop, name="copy")
+    views = tmp_path / "lib/vantle/modules/vantle-views.so"
+    copy.write_settings()
+    try:
+        copy.start_watching()
+        views.with_suffix(".next").write_text("the views of the next version")
+        views.with_suffix(".next").replace(views)
+        folder.save("shot.png")
+        wait_until(desktop.screen.panel, "the panel appears")
+        assert copy.is_running()
+    finally:
+        copy.stop()
+
+
+def test_says_that_it_lacks_its_views(desktop, binary, tmp_path):
+    copy = Program(copy_program(binary, tmp_path), desktop, name="copy")
+    (tmp_path / "lib/vantle/modules/vantle-views.so").unlink()
+    copy.start()
+    try:
+        assert copy.wait_for_end() == 1
+        assert "lib/vantle/modules/vantle-views.so cannot be read" in copy.log_text()
+    finally:
+        copy.stop()
+
+
+def test_loads_nothing_that_reaches_the_network(desktop, vantle, folder):
+    vantle.start_watching()
+    folder.save("shot.png")
+    wait_until(desktop.screen.panel, "the panel appears")
+    loaded = pathlib.Path(f"/proc/{vantle.pid}/maps").read_text()
+    assert "libQt6Quick" in loaded
+    for library in ("libcurl", "libgnutls", "libssl", "libcrypto", "libpxbackend", "libduktape"):
+        assert library not in loaded
 
 
 def test_snapshot_of_the_card(desktop, folder, vantle, binary):

@@ -42,8 +42,9 @@ def publisher(server, tmp_path):
 def programs(binary, main):
     """All that it takes, with another main program; the decoder for what is saved in the tests."""
     build = Path(binary).parents[1]
+    modules = ["libvantle-core", "vantle-decoder-png", "vantle-no-proxies", "vantle-views"]
     places = ["bin/vantle-decoder", "bin/vantle-folder-dialog",
-              "lib/vantle/modules/vantle-decoder-png.so"]
+              *(f"lib/vantle/modules/{name}.so" for name in modules)]
     return {
         "bin/vantle": main,
         "bin/vantle-updater": Path(os.environ["VANTLE_UPDATER"]),

@@ -8,12 +8,11 @@ import os
 import pathlib
 import shutil
 
+from build_tree import copy_program
 from privatedesktop import DesktopFailure, Rectangle, WaitTimeout, wait_until
 
 _NOBODY = 65534
 _CHECKOUT = pathlib.Path(__file__).resolve().parents[2]
-# Vantle, and what it looks for from its own folder.
-_PARTS_OF_BUILD = ("bin/vantle*", "lib/vantle/*/*", "share/vantle/*/*")
 
 
 class WaylandDesktop:
@@ -91,12 +90,7 @@ class WaylandDesktop:
         """The same for Vantle, with all that it starts and loads."""
         if os.geteuid() != 0:
             return binary
-        build = pathlib.Path(binary).parents[1]
-        for part in (path for parts in _PARTS_OF_BUILD for path in build.glob(parts)):
-            copy = self.folder / "lent" / part.relative_to(build)
-            copy.parent.mkdir(parents=True, exist_ok=True)
-            shutil.copy(part, copy)
-        return self.folder / "lent/bin/vantle"
+        return copy_program(binary, self.folder / "lent")
 
     def give_to_user(self):
         """What was written so far is its user's. What is in the runtime folder is that already, and

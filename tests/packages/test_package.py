@@ -15,9 +15,11 @@ SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
 PROGRAMS = ["vantle", "vantle-decoder", "vantle-folder-dialog", "vantle-updater"]
 LANGUAGES = sorted(path.stem for path in (ROOT / "translations").glob("*.ts"))
 FORMATS = ["gif", "heic", "jpeg", "pdf", "png", "recording", "tiff", "webp"]
+LIBRARIES = ["libvantle-core", "vantle-no-proxies", "vantle-views"]
 OF_ANY_COPY = [
     *(f"bin/{program}" for program in PROGRAMS),
     *(f"lib/vantle/modules/vantle-decoder-{name}.so" for name in FORMATS),
+    *(f"lib/vantle/modules/{name}.so" for name in LIBRARIES),
     "share/doc/vantle/copyright",
     "share/vantle/release",
     "share/vantle/sounds/Pop.wav",

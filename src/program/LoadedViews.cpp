@@ -1,0 +1,97 @@
+#include "program/LoadedViews.h"
+
+#include <dlfcn.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <string>
+#include <utility>
+
+#include "program/ViewsEntry.h"
+
+namespace vantle {
+namespace {
+
+class LoadedAlerts final : public Alerts {
+public:
+    explicit LoadedAlerts(LoadedViews& views) : views_(views) {}
+
+    int runModal(const Alert& alert) override { return views_.get().makeAlerts()->runModal(alert); }
+
+private:
+    LoadedViews& views_;
+};
+
+class LoadedSharingServicePicker final : public SharingServicePicker {
+public:
+    LoadedSharingServicePicker(LoadedViews& views, std::unique_ptr<SharingSource> source,
+                               Pasteboard& pasteboard, FileOpener& opener)
+        : views_(views), source_(std::move(source)), pasteboard_(pasteboard), opener_(opener) {}
+
+    void show(const std::vector<Url>& items, const Rect& anchor,
+              std::weak_ptr<SharingServicePickerDelegate> delegate) override {
+        if (!picker_)
+            picker_ =
+                views_.get().makeSharingServicePicker(std::move(source_), pasteboard_, opener_);
+        picker_->show(items, anchor, std::move(delegate));
+    }
+
+private:
+    LoadedViews& views_;
+    std::unique_ptr<SharingSource> source_;  ///< Until there is a picker.
+    Pasteboard& pasteboard_;
+    FileOpener& opener_;
+    std::unique_ptr<SharingServicePicker> picker_;
+};
+
+std::string fileOf(const char* library) {
+    const QString folder =
+        QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/vantle/modules/");
+    return QFile::encodeName(folder + QString::fromLatin1(library)).toStdString();
+}
+
+}  // namespace
+
+LoadedViews::LoadedViews()
+    : noProxies_(fileOf("vantle-no-proxies.so")), library_(fileOf("vantle-views.so")) {
+    if (!library_.isThere()) qFatal("%s cannot be read", fileOf("vantle-views.so").c_str());
+}
+
+Views& LoadedViews::get() {
+    if (views_) return *views_;
+    void* library = load();
+    const auto entry = library ? reinterpret_cast<ViewsEntry>(dlsym(library, viewsEntry)) : nullptr;
+    if (!entry) qFatal("the library of the views cannot be loaded: %s", dlerror());
+    views_.reset(entry(appearance_));
+    return *views_;
+}
+
+/// With the library that is in the way of what reaches the network (NoProxies.cpp), or without it
+/// where the toolkit has come to want more of that than there is.
+void* LoadedViews::load() const {
+    void* noProxies = noProxies_.load();
+    if (void* library = library_.load()) return library;
+    if (noProxies) dlclose(noProxies);
+    return library_.load();
+}
+
+std::unique_ptr<Alerts> loadedAlerts(LoadedViews& views) {
+    return std::make_unique<LoadedAlerts>(views);
+}
+
+std::unique_ptr<SharingServicePicker> loadedSharingServicePicker(
+    LoadedViews& views, std::unique_ptr<SharingSource> source, Pasteboard& pasteboard,
+    FileOpener& opener) {
+    return std::make_unique<LoadedSharingServicePicker>(views, std::move(source), pasteboard,
+                                                        opener);
+}
+
+OpenMenu loadedMenu(LoadedViews& views) {
+    const auto open = std::make_shared<OpenMenu>();
+    return [&views, open](const Menu& menu, const QRect& anchor) {
+        if (!*open) *open = views.get().makeMenu();
+        (*open)(menu, anchor);
+    };
+}
+
+}  // namespace vantle

@@ -1,0 +1,68 @@
+#include <utility>
+
+#include "menus/MenuSharingServicePicker.h"
+#include "menus/MenuWindow.h"
+#include "panel/views/Appearance.h"
+#include "panel/views/CapturePanel.h"
+#include "panel/views/dragging/QtDraggingSessions.h"
+#include "program/ViewsEntry.h"
+#include "screens/views/AlertWindow.h"
+#include "screens/views/OnboardingWindow.h"
+#include "screens/views/SettingsWindow.h"
+#include "screens/views/UpdateWindow.h"
+
+namespace vantle {
+namespace {
+
+PanelModel::Rendering rendering(const Platform& platform) {
+    return platform.environment("VANTLE_RENDER_PLAIN") ? PanelModel::Rendering::plain
+                                                       : PanelModel::Rendering::glass;
+}
+
+/// The views as Qt Quick draws them.
+class QuickViews final : public Views {
+public:
+    std::unique_ptr<PanelWindow> makePanel(Platform& platform, PanelState& state,
+                                           Settings& settings, CardActions actions) override {
+        return std::make_unique<CapturePanel>(PanelModel::Context{
+            state, settings, *platform.clock, dragging_, std::move(actions), rendering(platform)});
+    }
+
+    std::unique_ptr<Window> makeSettingsWindow(Platform& platform, Settings& settings) override {
+        return std::make_unique<SettingsWindow>(settings, platform);
+    }
+
+    std::unique_ptr<Window> makeOnboardingWindow(Platform& platform, Settings& settings,
+                                                 std::function<void()> finish) override {
+        return std::make_unique<OnboardingWindow>(settings, platform, std::move(finish));
+    }
+
+    std::unique_ptr<Window> makeUpdateWindow(UpdateFlow& flow) override {
+        return std::make_unique<UpdateWindow>(flow);
+    }
+
+    std::unique_ptr<Alerts> makeAlerts() override { return std::make_unique<WindowAlerts>(); }
+
+    std::unique_ptr<SharingServicePicker> makeSharingServicePicker(
+        std::unique_ptr<SharingSource> source, Pasteboard& pasteboard,
+        FileOpener& opener) override {
+        return std::make_unique<MenuSharingServicePicker>(std::move(source), pasteboard, opener);
+    }
+
+    OpenMenu makeMenu() override {
+        return [window = std::make_shared<MenuWindow>()](const Menu& menu, const QRect& anchor) {
+            window->open(menu, {anchor});
+        };
+    }
+
+private:
+    QtDraggingSessions dragging_;
+};
+
+}  // namespace
+}  // namespace vantle
+
+extern "C" vantle::Views* vantleMakeViews(vantle::DesktopAppearance* appearance) {
+    vantle::Appearance::follow(appearance);
+    return std::make_unique<vantle::QuickViews>().release();
+}
