@@ -98,6 +98,8 @@ class Figures:
 
     def _measure_rest(self, when):
         vantle = self._vantle
+        # They end once, half a minute after the last picture.
+        wait_until(lambda: not vantle.has_thread("Thread (pooled)"), "Qt's threads end", limit=60)
         wait_until_still(vantle.voluntary_switches, "the program", readings=20)
         before = vantle.voluntary_switches()
         time.sleep(IDLE_SECONDS)

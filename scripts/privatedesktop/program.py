@@ -123,11 +123,17 @@ class Program:
     def voluntary_switches(self):
         """How often its threads have waited for something so far."""
         total = 0
-        for task in pathlib.Path("/proc", str(self.pid), "task").iterdir():
+        for task in self._threads():
             for line in (task / "status").read_text().splitlines():
                 if line.startswith("voluntary_ctxt_switches"):
                     total += int(line.split()[1])
         return total
+
+    def has_thread(self, name):
+        return any((task / "comm").read_text().strip() == name for task in self._threads())
+
+    def _threads(self):
+        return pathlib.Path("/proc", str(self.pid), "task").iterdir()
 
     def proportional_memory(self):
         """PSS in KiB."""
