@@ -109,7 +109,9 @@ def test_what_is_loaded_by_name_is_depended_upon(package):
     assert modules
     depends = [part.split()[0] for part in field(package, "Depends").split(", ")]
     assert set(modules) < set(depends)
-    assert {"libqt6quick6", "libpoppler-cpp0v5", "libc6"} < set(depends)
+    assert {"libqt6quick6", "libc6"} < set(depends)
+    # Its number is the release's.
+    assert any(name.startswith("libpoppler-cpp") for name in depends)
 
 
 def test_the_desktop_understands_its_entries(installed):
@@ -119,7 +121,8 @@ def test_the_desktop_understands_its_entries(installed):
     service = (installed / f"share/dbus-1/services/{IDENTIFIER}.service").read_text()
     assert f"Name={IDENTIFIER}\n" in service
     assert "Exec=/usr/bin/vantle --dbus-activated\n" in service
-    run("appstreamcli", "validate", "--strict", "--no-net",
+    # The tool of Debian 12 does not know <developer>, that of Debian 13 asks for it.
+    run("appstreamcli", "validate", "--strict", "--no-net", "--override=unknown-tag=pedantic",
         installed / f"share/metainfo/{IDENTIFIER}.metainfo.xml")  # fmt: skip
 
 
@@ -137,11 +140,12 @@ def test_icons_have_their_size(installed, size):
 @pytest.mark.parametrize("program", PROGRAMS)
 def test_each_program_has_a_manual(installed, program):
     page = installed / f"share/man/man1/{program}.1.gz"
-    environment = {"PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8", "MANROFFSEQ": "", "MANWIDTH": "80"}
+    environment = {"PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8", "MANROFFSEQ": "", "MANWIDTH": "80",
+                   "GROFF_NO_SGR": "1"}
     said = run("man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", page, env=environment)
     assert "warning" not in said and "mdoc" not in said
     # Bold letters are struck twice.
-    assert f"NAME\n     {program} —" in re.sub(".\b", "", said)
+    assert re.search(rf"^NAME\n +{program} —", re.sub(".\b", "", said), re.MULTILINE)
 
 
 def options_of(vantle):
