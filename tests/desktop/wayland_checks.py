@@ -182,6 +182,16 @@ def check_clicks_pass(desktop, vantle, *places):
     click_through(desktop, window, [point for where in places for point in where(frame, tile)])
 
 
+def check_clicks_count_under_a_pointer_at_rest(desktop, vantle):
+    """Of card after card that comes to where the pointer is."""
+    vantle.start_watching()
+    for number in range(3):
+        tile = show_one(desktop, vantle, f"{number}.png")
+        press(desktop, tile, "copy")
+        wait_until(lambda: vantle.log_text().count("tap icon doc.on.doc") > number, "it counts")
+        wait_until(lambda: is_gone(desktop), "the card goes")
+
+
 def check_focus_stays(desktop, vantle):
     window = NativeWindow(desktop)
     vantle.start_watching()

@@ -1,6 +1,7 @@
 #include <QVersionNumber>
 #include <chrono>
 
+#include "platform/qt/ClearWindow.h"
 #include "platform/qt/InputRegion.h"
 #include "platform/qt/KeptInputRegion.h"
 #include "platform/qt/X11.h"
@@ -14,13 +15,26 @@ constexpr std::chrono::milliseconds rest{100};
 const QVersionNumber firstThatRemembers{44, 2};
 
 /// Nobody can ask what a compositor does with clicks; but Mutter, and so GNOME Shell, tells its
-/// version beside its name.
-bool compositorForgets() {
-    if (!x11::connection() || !x11::isXWayland()) return false;
-    const std::string version = x11::propertyOfWindowManager("_MUTTER_VERSION");
-    return !version.empty() &&
-           QVersionNumber::fromString(QString::fromStdString(version)) < firstThatRemembers;
+/// version beside its name. Empty where it is another one, or there is no XWayland between.
+std::string versionOfMutter() {
+    if (!x11::connection() || !x11::isXWayland()) return {};
+    return x11::propertyOfWindowManager("_MUTTER_VERSION");
 }
+
+bool forgets(const std::string& versionOfMutter) {
+    const auto version = QVersionNumber::fromString(QString::fromStdString(versionOfMutter));
+    return !version.isNull() && version < firstThatRemembers;
+}
+
+/// One pixel that is clear, and no target of anything.
+class UnseenWindow final : public ClearWindow {
+public:
+    explicit UnseenWindow(const QPoint& place) {
+        setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
+                 Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
+        setGeometry(QRect(place, QSize(1, 1)));
+    }
+};
 
 /// The region, or the region without the pixel in one of its corners.
 QRegion variant(const QRegion& region, int number) {
@@ -38,15 +52,22 @@ QRegion variant(const QRegion& region, int number) {
 }  // namespace
 
 KeptInputRegion::KeptInputRegion(QWindow& window) : window_(window) {
-    afterLastFrame_.setSingleShot(true);
-    afterLastFrame_.setInterval(rest);
+    for (QTimer* timer : {&afterLastFrame_, &afterLastChange_}) {
+        timer->setSingleShot(true);
+        timer->setInterval(rest);
+    }
     connect(&afterLastFrame_, &QTimer::timeout, this, [this] { change(); });
+    connect(&afterLastChange_, &QTimer::timeout, this, [this] { haveItNoticed(); });
 }
+
+KeptInputRegion::~KeptInputRegion() = default;
 
 void KeptInputRegion::set(const QRegion& region) {
     region_ = region;
-    isForgotten_ = compositorForgets();
+    const std::string version = versionOfMutter();
+    isForgotten_ = forgets(version);
     setInputRegion(window_, variant(region_, variant_));
+    if (!version.empty()) afterLastChange_.start();
 }
 
 void KeptInputRegion::frameDrawn() {
@@ -59,6 +80,14 @@ void KeptInputRegion::change() {
     constexpr int variants = 3;
     variant_ = (variant_ + 1) % variants;
     setInputRegion(window_, variant(region_, variant_));
+    afterLastChange_.start();
+}
+
+void KeptInputRegion::haveItNoticed() {
+    if (!window_.isExposed()) return;
+    unseen_ = std::make_unique<UnseenWindow>(window_.position());
+    unseen_->show();
+    QTimer::singleShot(rest, unseen_.get(), [this] { unseen_.reset(); });
 }
 
 }  // namespace vantle
