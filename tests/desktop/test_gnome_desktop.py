@@ -5,11 +5,18 @@ import pathlib
 import pytest
 
 from conftest import require_peer
+from first_day import Card, go_through_onboarding, paste_into_editor, restore, wait_for_copy
 from gnome_shell_desktop import EXTENSION, GnomeShellDesktop
 from privatedesktop import wait_until, wait_until_still
 from trays import Icon
-from using import press_with_control
-from wayland_checks import check_corner, program_on
+from using import Drag, press_with_control
+from wayland_checks import (
+    beside_card,
+    check_clicks_count_under_a_pointer_at_rest,
+    check_clicks_pass,
+    check_corner,
+    program_on,
+)
 from wayland_desktop import NativeWindow
 
 pytestmark = pytest.mark.desktop(tray=False, compositor=False)
@@ -32,6 +39,21 @@ def vantle(gnome, binary):
 
 def place_of_icon(gnome):
     return Icon(gnome, "top", _BAR).wait()
+
+
+def take_screenshot(gnome, vantle):
+    """By the shell's own key; returns the file once it is on the card."""
+    captured = len(vantle.captured())
+    before = gnome.screen.screenshot()
+    gnome.screen.keyboard.press("F12")
+    wait_until(lambda: gnome.screen.screenshot() != before, "the shell asks what to take")
+    wait_until_still(lambda: gnome.screen.screenshot(), "its question")
+    gnome.screen.keyboard.press("Return")
+    [name] = wait_until(lambda: vantle.captured()[captured:], "it is captured")
+    assert name.startswith("Screenshot")
+    wait_until(lambda: vantle.shown_counts()[-1:] == [1], "it is on the card")
+    wait_until_still(lambda: gnome.screen.screenshot(), "the card")
+    return gnome.home / "Screenshots" / name
 
 
 class Menu:
@@ -60,16 +82,18 @@ def test_the_card_stands_in_its_corner(gnome, vantle):
     check_corner(gnome, vantle)
 
 
+def test_clicks_beside_the_card_reach_the_window_underneath(gnome, vantle):
+    check_clicks_pass(gnome, vantle, beside_card)
+
+
+def test_clicks_count_when_the_card_comes_under_a_pointer_at_rest(gnome, vantle):
+    check_clicks_count_under_a_pointer_at_rest(gnome, vantle)
+
+
 def test_its_own_screenshot_comes_onto_the_card(gnome, binary):
     with program_on(gnome, binary, screenshotTool=None) as vantle:
         vantle.start_watching()
-        before = gnome.screen.screenshot()
-        gnome.screen.keyboard.press("F12")
-        wait_until(lambda: gnome.screen.screenshot() != before, "the shell asks what to take")
-        wait_until_still(lambda: gnome.screen.screenshot(), "its question")
-        gnome.screen.keyboard.press("Return")
-        vantle.wait_for_log(r"captured Screenshot.*\.png$")
-        vantle.wait_for_log("panel shows 1 capture")
+        take_screenshot(gnome, vantle)
 
 
 def test_the_menu_of_its_icon_by_either_button(gnome, vantle):
@@ -88,3 +112,36 @@ def test_the_settings_come_to_the_front(gnome, vantle):
     wait_until(window.has_lost_focus, "the settings have the keyboard")
     press_with_control(gnome, "w")
     wait_until(window.has_focus, "the other window has it again")
+
+
+def test_from_a_fresh_home_to_the_trash_and_back(gnome, binary):
+    for peer in ("nautilus", "gnome-text-editor"):
+        require_peer(peer)
+    target = gnome.home / "target"
+    fresh = {"screenshotTool": None, "hasCompletedOnboarding": None, "removeAfterUse": None}
+    with program_on(gnome, binary, **fresh) as vantle:
+        vantle.start()
+        go_through_onboarding(gnome, vantle)
+        card = Card(gnome)
+
+        target.mkdir()
+        gnome.give_to_user()
+        gnome.start("nautilus", "--new-window", target)
+        file = take_screenshot(gnome, vantle)
+        width, height = gnome.size
+        assert Drag(gnome, vantle, card.tile).hold_over(width // 2 + 80, height // 2).drop()
+        wait_for_copy(file, target / file.name)
+
+        file = take_screenshot(gnome, vantle)
+        card.press("copy")
+        paste_into_editor(
+            gnome, lambda notes: gnome.start("gnome-text-editor", "-s", notes),
+            target / "notes.txt", file.name,
+        )  # fmt: skip
+
+        file = take_screenshot(gnome, vantle)
+        content = file.read_bytes()
+        card.press("trash")
+        wait_until(lambda: not file.exists(), "it is in the Trash")
+        restore(gnome, file.name)
+        assert file.read_bytes() == content

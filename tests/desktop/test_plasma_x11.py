@@ -3,10 +3,12 @@
 import pytest
 
 from conftest import require_peer
+from first_day import Card, go_through_onboarding, paste_into_editor, restore, wait_for_copy
 from panel_checks import show_one
 from plasma_desktop import PlasmaShell
-from privatedesktop import wait_until
+from privatedesktop import wait_until, wait_until_still
 from trays import Icon, OwnMenu, choose_by_keys, open_menu_of_tray
+from using import Drag
 
 pytestmark = pytest.mark.desktop(
     tray=False, compositor=False, window_manager=["kwin_x11"],
@@ -53,3 +55,54 @@ def test_spectacle_is_noticed(desktop, vantle, shell):
                 "--output", desktop.home / "Desktop/spectacle.png")  # fmt: skip
     vantle.wait_for_log("captured spectacle.png")
     wait_until(desktop.screen.panel, "the card comes")
+
+
+def take_screenshot(desktop, vantle):
+    """With Spectacle; returns the file once it is on the card."""
+    captured = len(vantle.captured())
+    desktop.run("spectacle", "--background", "--nonotify", "--fullscreen")
+    [name] = wait_until(lambda: vantle.captured()[captured:], "it is captured")
+    wait_until(lambda: vantle.shown_counts()[-1:] == [1], "it is on the card")
+    panel = wait_until(desktop.screen.panel, "the card comes").frame
+    wait_until_still(lambda: desktop.screen.screenshot(panel).tobytes(), "the card")
+    [file] = desktop.home.rglob(name)
+    return file
+
+
+def test_from_a_fresh_home_to_the_trash_and_back(desktop, shell, vantle):
+    for peer in ("spectacle", "dolphin", "kwrite"):
+        require_peer(peer)
+    fresh = {"screenshotTool": None, "hasCompletedOnboarding": None, "removeAfterUse": None}
+    vantle.write_settings(**fresh)
+    vantle.start()
+    wait_until(desktop.screen.dialogs, "the onboarding opens")
+    go_through_onboarding(desktop, vantle)
+    card = Card(desktop)
+    target = desktop.home / "target"
+    target.mkdir()
+
+    dolphin = shell.run_program("dolphin", target)
+    file = take_screenshot(desktop, vantle)
+    width, height = desktop.screen.size
+    drag = Drag(desktop, vantle, card.tile).hold_over(width // 2 + 150, height * 2 // 3)
+    before = desktop.screen.screenshot().tobytes()
+    desktop.screen.pointer.release()
+    wait_until(lambda: desktop.screen.screenshot().tobytes() != before, "Dolphin's menu opens")
+    wait_until_still(lambda: desktop.screen.screenshot().tobytes(), "its menu", readings=8)
+    desktop.screen.keyboard.press("c")
+    wait_for_copy(file, target / file.name)
+    assert drag.was_taken()
+    dolphin.terminate()
+
+    file = take_screenshot(desktop, vantle)
+    card.press("copy")
+    paste_into_editor(
+        desktop, lambda notes: shell.run_program("kwrite", notes), target / "notes.txt", file.name
+    )
+
+    file = take_screenshot(desktop, vantle)
+    content = file.read_bytes()
+    card.press("trash")
+    wait_until(lambda: not file.exists(), "it is in the Trash")
+    restore(desktop, file.name)
+    assert file.read_bytes() == content
