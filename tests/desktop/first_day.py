@@ -80,6 +80,10 @@ def paste_into_editor(desktop, editor, file, text):
     process.terminate()
 
 
-def restore(desktop, name):
-    """As a file manager does."""
-    desktop.run("gio", "trash", "--restore", f"trash:///{name}")
+def move_to_trash_and_back(desktop, card, file):
+    """Back as a file manager does it."""
+    content = file.read_bytes()
+    card.press("trash")
+    wait_until(lambda: not file.exists(), "it is in the Trash")
+    desktop.run("gio", "trash", "--restore", f"trash:///{file.name}")
+    assert file.read_bytes() == content

@@ -5,7 +5,13 @@ import pathlib
 import pytest
 
 from conftest import require_peer
-from first_day import Card, go_through_onboarding, paste_into_editor, restore, wait_for_copy
+from first_day import (
+    Card,
+    go_through_onboarding,
+    move_to_trash_and_back,
+    paste_into_editor,
+    wait_for_copy,
+)
 from gnome_shell_desktop import EXTENSION, GnomeShellDesktop
 from privatedesktop import wait_until, wait_until_still
 from trays import Icon
@@ -139,9 +145,4 @@ def test_from_a_fresh_home_to_the_trash_and_back(gnome, binary):
             target / "notes.txt", file.name,
         )  # fmt: skip
 
-        file = take_screenshot(gnome, vantle)
-        content = file.read_bytes()
-        card.press("trash")
-        wait_until(lambda: not file.exists(), "it is in the Trash")
-        restore(gnome, file.name)
-        assert file.read_bytes() == content
+        move_to_trash_and_back(gnome, card, take_screenshot(gnome, vantle))

@@ -3,7 +3,13 @@
 import pytest
 
 from conftest import require_peer
-from first_day import Card, go_through_onboarding, paste_into_editor, restore, wait_for_copy
+from first_day import (
+    Card,
+    go_through_onboarding,
+    move_to_trash_and_back,
+    paste_into_editor,
+    wait_for_copy,
+)
 from panel_checks import show_one
 from plasma_desktop import PlasmaShell
 from privatedesktop import wait_until, wait_until_still
@@ -100,9 +106,4 @@ def test_from_a_fresh_home_to_the_trash_and_back(desktop, shell, vantle):
         desktop, lambda notes: shell.run_program("kwrite", notes), target / "notes.txt", file.name
     )
 
-    file = take_screenshot(desktop, vantle)
-    content = file.read_bytes()
-    card.press("trash")
-    wait_until(lambda: not file.exists(), "it is in the Trash")
-    restore(desktop, file.name)
-    assert file.read_bytes() == content
+    move_to_trash_and_back(desktop, card, take_screenshot(desktop, vantle))
