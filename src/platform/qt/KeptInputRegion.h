@@ -15,8 +15,7 @@ namespace vantle {
 ///   changes: a card that slides under a pointer at rest would never get its clicks. So a window
 ///   that nobody sees comes and goes when the region has come to rest.
 /// - Mutter before 44.2 gives the window all clicks with each frame, until its region becomes
-/// another
-///   one. So there it changes by a pixel in a corner, once no frame has come for a moment.
+///   another one. So there it changes by a pixel in a corner, once no frame has come for a moment.
 class KeptInputRegion final : public QObject {
 public:
     /// `window` outlives this.
