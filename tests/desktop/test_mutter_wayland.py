@@ -104,15 +104,15 @@ def test_dragged_into_a_native_window(mutter, vantle):
     check_dragged_into_a_native_window(mutter, vantle)
 
 
-@fails_under_mutter(48, "It tells nobody of a release over no window at all")
 def test_dropped_where_nobody_takes_it_the_tile_comes_back(mutter, vantle):
     vantle.start_watching()
     tile = show_one(mutter, vantle)
-    drag = Drag(mutter, vantle, tile.centre).move(300, 300)
-    wait_for_preview(mutter, 300, 300)
-    drag.drop()
-    vantle.wait_for_log("thumb drag ended op=0")
-    wait_until(lambda: is_one_pattern(mutter.screen.screenshot(corner(mutter))), "it is back")
+    for time in (1, 2):
+        drag = Drag(mutter, vantle, tile.centre).move(300, 300)
+        wait_for_preview(mutter, 300, 300)
+        drag.drop()
+        wait_until(lambda: vantle.log_text().count("thumb drag ended op=0") == time, "it has ended")
+        wait_until(lambda: is_one_pattern(mutter.screen.screenshot(corner(mutter))), "it is back")
 
 
 @fails_under_mutter(43, "It gives the keys to the window with the focus, which the card never has")

@@ -14,13 +14,6 @@ constexpr std::chrono::milliseconds rest{100};
 
 const QVersionNumber firstThatRemembers{44, 2};
 
-/// Nobody can ask what a compositor does with clicks; but Mutter, and so GNOME Shell, tells its
-/// version beside its name. Empty where it is another one, or there is no XWayland between.
-std::string versionOfMutter() {
-    if (!x11::connection() || !x11::isXWayland()) return {};
-    return x11::propertyOfWindowManager("_MUTTER_VERSION");
-}
-
 bool forgets(const std::string& versionOfMutter) {
     const auto version = QVersionNumber::fromString(QString::fromStdString(versionOfMutter));
     return !version.isNull() && version < firstThatRemembers;
@@ -64,7 +57,7 @@ KeptInputRegion::~KeptInputRegion() = default;
 
 void KeptInputRegion::set(const QRegion& region) {
     region_ = region;
-    const std::string version = versionOfMutter();
+    const std::string version = x11::versionOfMutter();
     isForgotten_ = forgets(version);
     setInputRegion(window_, variant(region_, variant_));
     if (!version.empty()) afterLastChange_.start();

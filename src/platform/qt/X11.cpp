@@ -34,6 +34,11 @@ bool isXWayland() {
            });
 }
 
+std::string versionOfMutter() {
+    if (!connection() || !isXWayland()) return {};
+    return propertyOfWindowManager("_MUTTER_VERSION");
+}
+
 xcb_window_t number(const QWindow& window) {
     return static_cast<xcb_window_t>(window.winId());
 }

@@ -27,6 +27,11 @@ std::string propertyOfWindowManager(const char* name);
 /// Whether what serves X is a Wayland compositor's XWayland.
 bool isXWayland();
 
+/// Of the Mutter, or GNOME Shell, behind XWayland: nobody can ask what a compositor does with
+/// clicks, but it tells its version beside its name. Empty where there is none, on Wayland and on
+/// plain X.
+std::string versionOfMutter();
+
 xcb_window_t number(const QWindow& window);
 
 /// XCB_ATOM_NONE when it cannot be made. Asked for once.

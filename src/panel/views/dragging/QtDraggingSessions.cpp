@@ -12,6 +12,7 @@
 #include "panel/views/dragging/FlyBack.h"
 #include "platform/qt/DragSelection.h"
 #include "platform/qt/DropAnswer.h"
+#include "platform/qt/DropGround.h"
 #include "platform/qt/FileMimeData.h"
 #include "platform/qt/FileUse.h"
 #include "platform/qt/InputRegion.h"
@@ -66,7 +67,7 @@ public:
         if (wayland::display()) connect(drag, &QDrag::actionChanged, drag, logPromise);
         // Without the keyboard Escape would go to the window that has it.
         window_->setKeyboardGrabEnabled(true);
-        const Qt::DropAction action = drag->exec(Qt::CopyAction);
+        const Qt::DropAction action = exec(*drag);
         if (window_) {
             window_->setKeyboardGrabEnabled(false);
             wayland::releaseLeftButton(*window_);
@@ -78,6 +79,11 @@ public:
     }
 
 private:
+    static Qt::DropAction exec(QDrag& drag) {
+        const DropGround ground;
+        return drag.exec(Qt::CopyAction);
+    }
+
     /// The marks are those of the last ones.
     std::unique_ptr<FileMimeData> contents() {
         auto made = std::make_unique<FileMimeData>(urls_, nullptr, FileMimeData::Use::drag);

@@ -1,0 +1,81 @@
+#include <algorithm>
+#include <array>
+
+#include "platform/qt/DropGround.h"
+#include "platform/qt/X11.h"
+
+namespace vantle {
+namespace {
+
+constexpr uint8_t depthWithAlpha = 32;
+
+/// A kind of picture that can be clear; zero where there is none.
+xcb_visualid_t clearVisual(const xcb_screen_t& screen) {
+    auto depth = xcb_screen_allowed_depths_iterator(&screen);
+    while (depth.rem > 0 && depth.data->depth != depthWithAlpha) xcb_depth_next(&depth);
+    if (depth.rem == 0 || xcb_depth_visuals_length(depth.data) == 0) return 0;
+    return xcb_depth_visuals(depth.data)->visual_id;
+}
+
+}  // namespace
+
+/// Not one of the toolkit's: those take part in drags themselves.
+class DropGround::Window {
+public:
+    Window() : x_(x11::connection()), window_(xcb_generate_id(x_)), colors_(xcb_generate_id(x_)) {
+        create(clearVisual(*xcb_setup_roots_iterator(xcb_get_setup(x_)).data));
+        sayWhatItIs();
+        xcb_map_window(x_, window_);
+        // Below the window of a program that draws the desktop's icons.
+        const uint32_t below = XCB_STACK_MODE_BELOW;
+        xcb_configure_window(x_, window_, XCB_CONFIG_WINDOW_STACK_MODE, &below);
+        xcb_flush(x_);
+    }
+
+    ~Window() {
+        xcb_destroy_window(x_, window_);
+        xcb_free_colormap(x_, colors_);
+        xcb_flush(x_);
+    }
+
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+private:
+    void create(xcb_visualid_t visual) {
+        const xcb_window_t root = x11::root();
+        // What was said at the connection's begin may be another size, of other outputs.
+        const auto all =
+            x11::owned(xcb_get_geometry_reply(x_, xcb_get_geometry(x_, root), nullptr));
+        if (!all) return;
+        xcb_create_colormap(x_, XCB_COLORMAP_ALLOC_NONE, colors_, root, visual);
+        // Clear, without a border, in colours of its own.
+        const std::array<uint32_t, 3> values{0, 0, colors_};
+        xcb_create_window(x_, depthWithAlpha, window_, root, 0, 0, all->width, all->height, 0,
+                          XCB_WINDOW_CLASS_INPUT_OUTPUT, visual,
+                          XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_COLORMAP, values.data());
+    }
+
+    /// Part of the desktop, so in no list of windows; and it takes no keys.
+    void sayWhatItIs() {
+        const xcb_atom_t kind = x11::atom("_NET_WM_WINDOW_TYPE_DESKTOP");
+        xcb_change_property(x_, XCB_PROP_MODE_REPLACE, window_, x11::atom("_NET_WM_WINDOW_TYPE"),
+                            XCB_ATOM_ATOM, 32, 1, &kind);
+        constexpr uint32_t saysInput = 1;
+        const std::array<uint32_t, 9> hints{saysInput, 0};
+        xcb_change_property(x_, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_HINTS,
+                            XCB_ATOM_WM_HINTS, 32, hints.size(), hints.data());
+    }
+
+    xcb_connection_t* const x_;
+    const xcb_window_t window_;
+    const xcb_colormap_t colors_;
+};
+
+DropGround::DropGround() {
+    if (!x11::versionOfMutter().empty()) window_ = std::make_unique<Window>();
+}
+
+DropGround::~DropGround() = default;
+
+}  // namespace vantle
