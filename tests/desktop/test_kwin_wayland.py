@@ -5,22 +5,25 @@ import pytest
 from conftest import require_peer
 from kwin_wayland_desktop import KWinDesktop
 from pictures import is_one_pattern
-from privatedesktop import wait_until, wait_until_still
-from using import Drag
+from privatedesktop import wait_until_still
 from wayland_checks import (
     beside_card,
     check_above_a_full_screen_window,
+    check_clicks_count_under_a_pointer_at_rest,
     check_clicks_pass,
     check_copied_by_itself,
     check_corner,
     check_dragged_into_a_native_window,
     check_ends_with_compositor,
+    check_escape_ends_a_drag,
+    check_flies_back,
     check_focus_stays,
     check_idle,
     check_keyboard_on_request,
     check_on_every_workspace,
     check_pasted,
     check_scaled_by_a_half,
+    check_speaks_wayland,
     click_through,
     corner,
     outside_panel,
@@ -48,9 +51,7 @@ def vantle(kwin, binary):
 
 
 def test_it_speaks_wayland_there_and_says_so(vantle):
-    vantle.start_watching()
-    status, text = vantle.command("--status")
-    assert status == 0 and "display server: Wayland\n" in text
+    check_speaks_wayland(vantle)
 
 
 def test_the_card_stands_in_its_corner(kwin, vantle):
@@ -65,13 +66,16 @@ def test_stays_above_a_window_that_becomes_full_screen(kwin, vantle):
     vantle.start_watching()
     show_one(kwin, vantle)
     NativeWindow(kwin)
-    frame = corner(kwin)
     wait_until_still(lambda: kwin.screen.screenshot().tobytes(), "the screen")
-    assert is_one_pattern(kwin.screen.screenshot(frame))
+    assert is_one_pattern(kwin.screen.screenshot(corner(kwin)))
 
 
 def test_clicks_outside_the_card_reach_the_window_underneath(kwin, vantle):
     check_clicks_pass(kwin, vantle, outside_panel, beside_card)
+
+
+def test_clicks_count_when_the_card_comes_under_a_pointer_at_rest(kwin, vantle):
+    check_clicks_count_under_a_pointer_at_rest(kwin, vantle)
 
 
 def test_the_focus_stays_where_one_types(kwin, vantle):
@@ -88,25 +92,12 @@ def test_dragged_into_a_native_window(kwin, vantle):
 
 def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(kwin, vantle):
     window = NativeWindow(kwin, "--takes-no-files")
-    vantle.start_watching()
-    tile = show_one(kwin, vantle)
-    assert not Drag(kwin, vantle, tile.centre).move(300, 300).drop()
-    wait_until(lambda: is_one_pattern(kwin.screen.screenshot()), "the tile is back")
-    whole = wait_until_still(lambda: kwin.screen.screenshot(), "the screen")
-    assert is_one_pattern(whole)
+    check_flies_back(kwin, vantle, (300, 300), (300, 300))
     click_through(kwin, window, [(320, 320)])
-    press(kwin, tile, "copy")
-    vantle.wait_for_log("tap icon doc.on.doc")
 
 
 def test_escape_ends_a_drag(kwin, vantle):
-    window = NativeWindow(kwin)
-    vantle.start_watching()
-    tile = show_one(kwin, vantle)
-    Drag(kwin, vantle, tile.centre).hold_over(400, 300)
-    kwin.screen.keyboard.press("Escape")
-    vantle.wait_for_log("thumb drag ended op=0")
-    assert window.dropped() == []
+    check_escape_ends_a_drag(kwin, vantle)
 
 
 def test_native_programs_paste_what_was_copied(kwin, vantle):

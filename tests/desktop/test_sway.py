@@ -16,17 +16,21 @@ from using import Drag
 from wayland_checks import (
     beside_card,
     check_above_a_full_screen_window,
+    check_clicks_count_under_a_pointer_at_rest,
     check_clicks_pass,
     check_copied_by_itself,
     check_corner,
     check_dragged_into_a_native_window,
     check_ends_with_compositor,
+    check_escape_ends_a_drag,
+    check_flies_back,
     check_focus_stays,
     check_idle,
     check_keyboard_on_request,
     check_on_every_workspace,
     check_pasted,
     check_scaled_by_a_half,
+    check_speaks_wayland,
     check_stands_in,
     corner,
     is_gone,
@@ -70,9 +74,7 @@ def picture_around(sway, tile):
 
 
 def test_it_speaks_wayland_there_and_says_so(vantle):
-    vantle.start_watching()
-    status, text = vantle.command("--status")
-    assert status == 0 and "display server: Wayland\n" in text
+    check_speaks_wayland(vantle)
 
 
 def test_one_may_choose_x11_nevertheless(sway, binary):
@@ -112,6 +114,10 @@ def test_on_every_workspace(sway, vantle):
 
 def test_clicks_outside_the_card_reach_the_window_underneath(sway, vantle):
     check_clicks_pass(sway, vantle, outside_panel, beside_card)
+
+
+def test_clicks_count_when_the_card_comes_under_a_pointer_at_rest(sway, vantle):
+    check_clicks_count_under_a_pointer_at_rest(sway, vantle)
 
 
 def test_the_focus_stays_where_one_types(sway, vantle):
@@ -188,26 +194,12 @@ def test_what_a_window_promised_and_did_not_take_is_no_use(sway, binary):
 
 
 def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(sway, vantle):
-    vantle.start_watching()
-    tile = show_one(sway, vantle)
-    drag = Drag(sway, vantle, tile.centre).move(300, 300)
-    assert not drag.drop()
-    frame = corner(sway)
-    wait_until(lambda: is_one_pattern(sway.screen.screenshot(frame)), "the tile is back")
-    whole = wait_until_still(lambda: sway.screen.screenshot(), "the screen")
-    assert is_one_pattern(whole)
-    press(sway, tile, "copy")
-    vantle.wait_for_log("tap icon doc.on.doc")
+    check_flies_back(sway, vantle, (300, 300), (300, 300))
 
 
 @pytest.mark.xfail(strict=True, raises=WaitTimeout, reason="Sway gives nobody the keys of a drag")
 def test_escape_ends_a_drag(sway, vantle):
-    NativeWindow(sway)
-    vantle.start_watching()
-    tile = show_one(sway, vantle)
-    Drag(sway, vantle, tile.centre).hold_over(400, 300)
-    sway.screen.keyboard.press("Escape")
-    vantle.wait_for_log("thumb drag ended op=0")
+    check_escape_ends_a_drag(sway, vantle)
 
 
 def test_it_ends_in_peace_in_the_middle_of_a_drag(sway, vantle):

@@ -94,6 +94,12 @@ def check_pasted(desktop):
     assert (desktop.folder / "pasted").read_bytes() == file.read_bytes()
 
 
+def check_speaks_wayland(vantle):
+    vantle.start_watching()
+    status, text = vantle.command("--status")
+    assert status == 0 and "display server: Wayland\n" in text
+
+
 def check_corner(desktop, vantle):
     vantle.start_watching()
     tile = show_one(desktop, vantle)
@@ -228,6 +234,30 @@ def check_dragged_into_a_native_window(desktop, vantle):
     wait_until(window.dropped, "it is dropped")
     assert window.dropped() == [(desktop.home / "Desktop/shot.png").as_uri()]
     wait_until(lambda: is_gone(desktop), "the tile is used up")
+
+
+def check_flies_back(desktop, vantle, *places):
+    """Dropped there, where nobody takes it; and the next click counts."""
+    vantle.start_watching()
+    tile = show_one(desktop, vantle)
+    card = corner(desktop)
+    for place in places:
+        assert not Drag(desktop, vantle, tile.centre).move(*place).drop()
+        wait_until(lambda: is_one_pattern(desktop.screen.screenshot(card)), "the tile is back")
+        whole = wait_until_still(lambda: desktop.screen.screenshot(), "the screen")
+        assert is_one_pattern(whole)
+    press(desktop, tile, "copy")
+    vantle.wait_for_log("tap icon doc.on.doc")
+
+
+def check_escape_ends_a_drag(desktop, vantle):
+    window = NativeWindow(desktop)
+    vantle.start_watching()
+    tile = show_one(desktop, vantle)
+    Drag(desktop, vantle, tile.centre).hold_over(400, 300)
+    desktop.screen.keyboard.press("Escape")
+    vantle.wait_for_log("thumb drag ended op=0")
+    assert window.dropped() == []
 
 
 def check_copied_by_itself(desktop, binary):
