@@ -203,6 +203,12 @@ class Screen:
         atom = self._display.intern_atom(state)
         self._send_to_root("_NET_WM_STATE", window, [action, atom, 0, 1, 0])
 
+    def ask_to_move(self, window_number, x, y):
+        """As the window's own program does."""
+        window = self._display.create_resource_object("window", window_number)
+        window.configure(x=x, y=y)
+        self._display.sync()
+
     def ask_to_close(self, window_number):
         """As the button in a window's title bar does."""
         window = self._display.create_resource_object("window", window_number)

@@ -1,5 +1,7 @@
 """labwc as a Wayland desktop inside a private one."""
 
+from privatedesktop import wait_until
+from using import window_titled
 from wayland_desktop import WaylandDesktop
 
 _TELL_NAMES = """#!/bin/sh
@@ -8,14 +10,51 @@ echo $DISPLAY $WAYLAND_DISPLAY $LABWC_PID > $HOME/told
 
 
 class LabwcDesktop(WaylandDesktop):
+    """Each output is a window of the private desktop. A single one fills its screen."""
+
     name = "labwc"
+
+    def __init__(self, host, outputs=1):
+        self._outputs = outputs
+        super().__init__(host)
 
     def _start_compositor(self):
         teller = self.folder / "tell-names"
         teller.write_text(_TELL_NAMES)
         teller.chmod(0o755)
-        self.start("env", "WLR_BACKENDS=x11", "WLR_RENDERER=pixman", "labwc", "-s", teller)
+        self.start("env", "WLR_BACKENDS=x11", f"WLR_X11_OUTPUTS={self._outputs}",
+                   "WLR_RENDERER=pixman", "labwc", "-s", teller)
         self._wait_for_names("DISPLAY", "WAYLAND_DISPLAY", "LABWC_PID")
+
+    def _fill_screen(self):
+        if self._outputs == 1:
+            super()._fill_screen()
+        else:
+            self._stand_side_by_side()
+
+    def _stand_side_by_side(self):
+        windows = wait_until(
+            lambda: len(found := self.screen.client_list()) == self._outputs and found,
+            "the compositor's windows open",
+        )
+        places = [place * self.screen.size[0] // self._outputs for place in range(self._outputs)]
+        for window, x in zip(windows, places, strict=True):
+            self.screen.ask_to_move(window, x, 0)
+        wait_until(
+            lambda: all(0 <= self.screen.area(window).x - x < 10
+                        for window, x in zip(windows, places, strict=True)),
+            "they stand side by side",
+        )  # fmt: skip
+
+    def area_of(self, output):
+        """Where the output with that name is on the private desktop."""
+        return self.screen.area(window_titled(self, output))
+
+    def close_output(self, name):
+        self.screen.ask_to_close(window_titled(self, name))
+
+    def change_output(self, name, *options):
+        self.run("wlr-randr", "--output", name, *options)
 
     def end(self):
         self.run("labwc", "--exit")

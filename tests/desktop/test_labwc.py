@@ -4,7 +4,9 @@ import pytest
 
 from conftest import require_peer
 from labwc_desktop import LabwcDesktop
-from privatedesktop import WaitTimeout
+from pictures import RED, mask_of
+from privatedesktop import WaitTimeout, wait_until
+from trays import start_xfce_panel
 from wayland_checks import (
     beside_card,
     check_above_a_full_screen_window,
@@ -12,6 +14,7 @@ from wayland_checks import (
     check_clicks_pass,
     check_copied_by_itself,
     check_corner,
+    check_dragged_into_a_native_file_manager,
     check_dragged_into_a_native_window,
     check_ends_with_compositor,
     check_escape_ends_a_drag,
@@ -21,23 +24,34 @@ from wayland_checks import (
     check_keyboard_on_request,
     check_on_every_workspace,
     check_pasted,
+    check_scaled_by_a_half,
     check_speaks_wayland,
+    check_stands_in,
     click_through,
     outside_panel,
     press,
     program_on,
+    save,
     show_one,
+    wait_for_bar,
 )
 from wayland_desktop import NativeWindow
 
 pytestmark = pytest.mark.desktop(tray=False, compositor=False)
 
 
+def two_outputs(test):
+    """Their windows have room side by side."""
+    room = pytest.mark.desktop(size=(2880, 900), tray=False, compositor=False)
+    return room(pytest.mark.labwc(outputs=2)(test))
+
+
 @pytest.fixture
-def labwc(desktop):
+def labwc(request, desktop):
     require_peer("labwc", package="labwc")
     require_peer("Xwayland")
-    return LabwcDesktop(desktop)
+    marker = request.node.get_closest_marker("labwc")
+    return LabwcDesktop(desktop, **(marker.kwargs if marker else {}))
 
 
 @pytest.fixture
@@ -52,6 +66,14 @@ def test_it_speaks_wayland_there_and_says_so(vantle):
 
 def test_the_card_stands_in_its_corner(labwc, vantle):
     check_corner(labwc, vantle)
+
+
+@pytest.mark.parametrize("edge", ["top", "bottom"])
+@pytest.mark.parametrize("side", ["bottomRight", "bottomLeft", "topRight", "topLeft"])
+def test_in_each_corner_it_leaves_the_bar_free(labwc, binary, side, edge):
+    require_peer("xfce4-panel")
+    start_xfce_panel(labwc, edge)
+    check_stands_in(labwc, binary, wait_for_bar(labwc, edge), side)
 
 
 def test_above_a_full_screen_window(labwc, vantle):
@@ -87,6 +109,11 @@ def test_dragged_into_a_native_window(labwc, vantle):
     check_dragged_into_a_native_window(labwc, vantle)
 
 
+def test_dragged_into_a_native_file_manager(labwc, vantle):
+    require_peer("thunar")
+    check_dragged_into_a_native_file_manager(labwc, vantle)
+
+
 def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(labwc, vantle):
     window = NativeWindow(labwc, "--takes-no-files")
     check_flies_back(labwc, vantle, (300, 300), (300, 300))
@@ -115,6 +142,47 @@ def test_grim_is_noticed(labwc, vantle):
     vantle.start_watching()
     labwc.run("grim", labwc.home / "Desktop/grim.png")
     vantle.wait_for_log("captured grim.png")
+
+
+def test_on_an_output_that_is_scaled(labwc, vantle):
+    require_peer("wlr-randr")
+    labwc.change_output("X11-1", "--scale", "1.5")
+    check_scaled_by_a_half(labwc, vantle)
+
+
+def shows_card(labwc, output):
+    picture = labwc.screen.screenshot(labwc.area_of(output))
+    return mask_of(picture, RED).getbbox() is not None
+
+
+def show_on(labwc, output, name):
+    """Saves a screenshot while the pointer is there."""
+    labwc.screen.pointer.move(*labwc.area_of(output).centre)
+    save(labwc, name)
+    wait_until(lambda: shows_card(labwc, output), f"the card comes to {output}")
+
+
+@two_outputs
+def test_it_follows_the_pointer_from_output_to_output(labwc, vantle):
+    vantle.start_watching()
+    names = ["X11-1", "X11-2"]
+    for number, place in enumerate((1, 0, 1)):
+        show_on(labwc, names[place], f"{number}.png")
+        wait_until(lambda: not shows_card(labwc, names[1 - place]), "it has left the other one")
+
+
+@two_outputs
+def test_it_survives_the_outputs_that_it_stands_on(labwc, vantle):
+    require_peer("wlr-randr")
+    vantle.start_watching()
+    show_on(labwc, "X11-2", "shot.png")
+    labwc.close_output("X11-2")
+    wait_until(lambda: shows_card(labwc, "X11-1"), "it moves to the one that is left")
+    labwc.change_output("X11-1", "--off")
+    wait_until(lambda: not labwc.screen.client_list(), "there is none")
+    labwc.change_output("X11-1", "--on")
+    wait_until(labwc.screen.client_list, "there is one again")
+    wait_until(lambda: shows_card(labwc, "X11-1"), "it stands there")
 
 
 def test_the_end_of_the_compositor_ends_it(labwc, vantle):

@@ -20,6 +20,7 @@ from wayland_checks import (
     check_clicks_pass,
     check_copied_by_itself,
     check_corner,
+    check_dragged_into_a_native_file_manager,
     check_dragged_into_a_native_window,
     check_ends_with_compositor,
     check_escape_ends_a_drag,
@@ -40,6 +41,7 @@ from wayland_checks import (
     program_on,
     save,
     show_one,
+    wait_for_bar,
 )
 from wayland_desktop import NativeWindow
 
@@ -91,17 +93,7 @@ def test_the_card_stands_in_its_corner(sway, vantle):
 @pytest.mark.sway(_BAR % "top")
 @pytest.mark.parametrize("side", ["bottomRight", "bottomLeft", "topRight", "topLeft"])
 def test_in_each_corner_it_leaves_the_bar_free(sway, binary, side):
-    width, height = sway.screen.size
-    bar = wait_until(lambda: bar_height(sway), "the bar comes")
-    check_stands_in(sway, binary, Rectangle(0, bar, width, height - bar), side)
-
-
-def bar_height(sway):
-    """Of the bar at the upper edge; None while there is none."""
-    picture = sway.screen.screenshot(Rectangle(700, 0, 1, 100))
-    ground = picture.getpixel((0, 99))
-    rows = [row for row in range(100) if picture.getpixel((0, row)) != ground]
-    return len(rows) if 10 < len(rows) < 60 else None
+    check_stands_in(sway, binary, wait_for_bar(sway, "top"), side)
 
 
 def test_above_a_full_screen_window(sway, vantle):
@@ -170,18 +162,7 @@ def test_dragged_into_a_native_window(sway, vantle):
 
 def test_dragged_into_a_native_file_manager(sway, vantle):
     require_peer("thunar")
-    target = sway.home / "target"
-    target.mkdir()
-    sway.give_to_user()
-    sway.start("env", "GDK_BACKEND=wayland", "thunar", target)
-    wait_until(lambda: "Thunar" in str(sway.message("-t", "get_tree")), "its window opens")
-    vantle.start_watching()
-    tile = show_one(sway, vantle)
-    width, height = sway.screen.size
-    assert Drag(sway, vantle, tile.centre).hold_over(width // 2, height // 2).drop()
-    wait_until((target / "shot.png").exists, "it arrives")
-    original = (sway.home / "Desktop/shot.png").read_bytes()
-    wait_until(lambda: (target / "shot.png").read_bytes() == original, "it is whole")
+    check_dragged_into_a_native_file_manager(sway, vantle)
 
 
 def test_what_a_window_promised_and_did_not_take_is_no_use(sway, binary):

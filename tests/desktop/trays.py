@@ -23,7 +23,7 @@ _XFCE = """<?xml version="1.0" encoding="UTF-8"?>
   <property name="panels" type="array">
     <value type="int" value="1"/>
     <property name="panel-1" type="empty">
-      <property name="position" type="string" value="p=8;x=720;y=885"/>
+      <property name="position" type="string" value="%s"/>
       <property name="length" type="uint" value="100"/>
       <property name="size" type="uint" value="32"/>
       <property name="position-locked" type="bool" value="true"/>
@@ -37,6 +37,10 @@ _XFCE = """<?xml version="1.0" encoding="UTF-8"?>
 """
 
 
+# The left end of an edge has a number there.
+_XFCE_PLACES = {"top": "p=6;x=720;y=16", "bottom": "p=8;x=720;y=885"}
+
+
 def _write(desktop, name, text):
     path = pathlib.Path(desktop.environment["XDG_CONFIG_HOME"], name)
     path.parent.mkdir(parents=True, exist_ok=True)
@@ -48,8 +52,9 @@ def start_lxqt_panel(desktop):
     return desktop.start("lxqt-panel")
 
 
-def start_xfce_panel(desktop):
-    _write(desktop, "xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml", _XFCE)
+def start_xfce_panel(desktop, edge="bottom"):
+    text = _XFCE % _XFCE_PLACES[edge]
+    _write(desktop, "xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml", text)
     return desktop.start("xfce4-panel", "--disable-wm-check")
 
 

@@ -3,6 +3,8 @@
 import contextlib
 import time
 
+from PIL import ImageChops
+
 from panel_checks import encoded, expected_frame
 from pictures import RED, YELLOW, is_one_pattern, mask_of, pattern
 from privatedesktop import Program, Rectangle, wait_until, wait_until_still
@@ -120,7 +122,25 @@ def check_stands_in(desktop, binary, area, side):
         _, _, right, bottom = mask_of(picture, YELLOW).getbbox()
         across = frame.width - right if side.endswith("Right") else left
         down = frame.height - bottom if side.startswith("bottom") else top
-        assert 10 < across < 40 and 10 < down < 90
+        # Below it there is a line of buttons.
+        least, most = (50, 90) if side.startswith("bottom") else (10, 40)
+        assert 10 < across < 40 and least < down < most
+
+
+def wait_for_bar(desktop, edge):
+    """Until there is a bar at that edge. Returns the part of the screen that it leaves free."""
+    width, total = desktop.screen.size
+    strip = Rectangle(700, 0 if edge == "top" else total - 100, 1, 100)
+
+    def height():
+        picture = desktop.screen.screenshot(strip)
+        ground = picture.getpixel((0, 99 if edge == "top" else 0))
+        rows = [row for row in range(100) if picture.getpixel((0, row)) != ground]
+        return len(rows) if 10 < len(rows) < 60 else None
+
+    wait_until(height, "the bar comes")
+    bar = wait_until_still(height, "the bar")
+    return Rectangle(0, bar if edge == "top" else 0, width, total - bar)
 
 
 def check_on_every_workspace(desktop, vantle, switch):
@@ -234,6 +254,31 @@ def check_dragged_into_a_native_window(desktop, vantle):
     wait_until(window.dropped, "it is dropped")
     assert window.dropped() == [(desktop.home / "Desktop/shot.png").as_uri()]
     wait_until(lambda: is_gone(desktop), "the tile is used up")
+
+
+def check_dragged_into_a_native_file_manager(desktop, vantle):
+    target = desktop.home / "target"
+    target.mkdir()
+    desktop.give_to_user()
+    window = opened_file_manager(desktop, target)
+    vantle.start_watching()
+    tile = show_one(desktop, vantle)
+    assert Drag(desktop, vantle, tile.centre).hold_over(*window.centre).drop()
+    wait_until((target / "shot.png").exists, "it arrives")
+    original = (desktop.home / "Desktop/shot.png").read_bytes()
+    wait_until(lambda: (target / "shot.png").read_bytes() == original, "it is whole")
+
+
+def opened_file_manager(desktop, folder):
+    """Returns where on the screen its window with that folder stands."""
+
+    def picture():
+        return wait_until_still(lambda: desktop.screen.screenshot(), "the screen")
+
+    before = picture()
+    desktop.start("env", "GDK_BACKEND=wayland", "thunar", folder)
+    box = wait_until(lambda: ImageChops.difference(before, picture()).getbbox(), "it opens")
+    return Rectangle(box[0], box[1], box[2] - box[0], box[3] - box[1])
 
 
 def check_flies_back(desktop, vantle, *places):
