@@ -134,6 +134,7 @@ FocusScope {
             y: card.height - view.bottomPadding - height
             width: card.width - 2 * view.sidePadding
             panel: view.panel
+            isAtRest: view.panel.isPresented && !presence.running && !wide.running && !high.running
         }
 
         ClearAllPill {

@@ -40,13 +40,19 @@ def save(desktop, name):
     (desktop.home / "Desktop" / name).write_bytes(encoded(pattern()))
 
 
+def down_to_tile(picture):
+    """What is below it may change all the time: how much is left of it."""
+    end = mask_of(picture, YELLOW).getbbox()
+    return picture.crop((0, 0, picture.width, end[3] if end else picture.height))
+
+
 def show_one(desktop, vantle, name="shot.png"):
     """Returns where its tile stands on the screen."""
     save(desktop, name)
     vantle.wait_for_log(f"captured {name}")
     frame = corner(desktop)
     wait_until(lambda: is_one_pattern(desktop.screen.screenshot(frame)), "the tile stands")
-    picture = wait_until_still(lambda: desktop.screen.screenshot(frame), "the card")
+    picture = wait_until_still(lambda: down_to_tile(desktop.screen.screenshot(frame)), "the card")
     first, last = mask_of(picture, RED).getbbox(), mask_of(picture, YELLOW).getbbox()
     width, height = last[2] - first[0], last[3] - first[1]
     return Rectangle(frame.x + first[0], frame.y + first[1], width, height)

@@ -172,6 +172,19 @@ TEST_F(CardTest, TheTimerBarIsAsWideAsWhatIsLeft) {
     EXPECT_EQ(glassFrame().height(), 254);
 }
 
+TEST_F(CardTest, TheTimerBarGetsShorterByWholePixels) {
+    show(captures(1));
+    makeCard();
+    state.progress.set(0.5);
+    rest();
+    const auto* capsule = item("TimerBar")->childItems().front();
+    const double room = 324 - 32;
+    state.progress.set(0.5 - 0.4 / room);
+    EXPECT_EQ(capsule->width(), room / 2);
+    state.progress.set(0.5 - 0.6 / room);
+    EXPECT_EQ(capsule->width(), room / 2 - 1);
+}
+
 TEST_F(CardTest, WhileThePointerIsOverTheCardTheTimerBarIsHidden) {
     show(captures(1));
     makeCard();

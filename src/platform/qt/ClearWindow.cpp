@@ -11,6 +11,11 @@ ClearWindow::ClearWindow() {
     setFormat(format);
 }
 
+void ClearWindow::keepOutOfTheWay() {
+    setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
+             Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
+}
+
 bool ClearWindow::event(QEvent* event) {
     // On Wayland Qt still has a window painted that has been closed meanwhile, and falls over that.
     const bool isTooLate = event->type() == QEvent::Paint && !handle();

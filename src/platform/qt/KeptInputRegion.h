@@ -8,17 +8,23 @@
 
 namespace vantle {
 
+/// Whether the compositor forgets the region of a window with each frame, as Mutter before 44.2
+/// does.
+bool inputRegionIsForgotten();
+
 /// The input region of a window that is drawn again and again, as Mutter has to be told it, where
 /// the window goes through XWayland. Main thread only.
 ///
 /// - Mutter looks anew at what is under a pointer when windows come and go, and not when a region
 ///   changes: a card that slides under a pointer at rest would never get its clicks. So a window
 ///   that nobody sees comes and goes when the region has come to rest.
-/// - Mutter before 44.2 gives the window all clicks with each frame, until its region becomes
-///   another one. So there it changes by a pixel in a corner, once no frame has come for a moment.
+/// - Mutter before 44.2 gives the window all clicks with each frame. It takes up a region that has
+///   changed meanwhile either at once, or with the next frame: which of them, nobody can tell. So
+///   once no frame has come for a moment the region changes by a pixel in a corner, a pixel is
+///   drawn, and the region changes again.
 class KeptInputRegion final : public QObject {
 public:
-    /// `window` outlives this.
+    /// `window` outlives this. Its first pixel has to be clear.
     explicit KeptInputRegion(QWindow& window);
     ~KeptInputRegion() override;
 
@@ -29,12 +35,17 @@ public:
     void frameDrawn();
 
 private:
+    enum class Step { change, draw, changeAgain };
+
+    /// The next one, each a moment after the one before.
+    void goOn();
     /// To one that differs by a pixel.
     void change();
     void haveItNoticed();
 
     QWindow& window_;
     QRegion region_;
+    Step next_ = Step::change;
     QTimer afterLastFrame_;
     QTimer afterLastChange_;
     std::unique_ptr<QWindow> unseen_;  ///< For a moment.

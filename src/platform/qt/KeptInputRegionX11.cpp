@@ -23,8 +23,7 @@ bool forgets(const std::string& versionOfMutter) {
 class UnseenWindow final : public ClearWindow {
 public:
     explicit UnseenWindow(const QPoint& place) {
-        setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
-                 Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
+        keepOutOfTheWay();
         setGeometry(QRect(place, QSize(1, 1)));
     }
 };
@@ -42,14 +41,31 @@ QRegion variant(const QRegion& region, int number) {
     }
 }
 
+/// Nobody sees it, but the compositor gets a frame. The toolkit would draw nothing where nothing
+/// has changed.
+void drawFirstPixel(const QWindow& window) {
+    xcb_connection_t* x = x11::connection();
+    const xcb_gcontext_t clear = xcb_generate_id(x);
+    const uint32_t colour = 0;
+    xcb_create_gc(x, clear, x11::number(window), XCB_GC_FOREGROUND, &colour);
+    const xcb_point_t first{0, 0};
+    xcb_poly_point(x, XCB_COORD_MODE_ORIGIN, x11::number(window), clear, 1, &first);
+    xcb_free_gc(x, clear);
+    xcb_flush(x);
+}
+
 }  // namespace
+
+bool inputRegionIsForgotten() {
+    return forgets(x11::versionOfMutter());
+}
 
 KeptInputRegion::KeptInputRegion(QWindow& window) : window_(window) {
     for (QTimer* timer : {&afterLastFrame_, &afterLastChange_}) {
         timer->setSingleShot(true);
         timer->setInterval(rest);
     }
-    connect(&afterLastFrame_, &QTimer::timeout, this, [this] { change(); });
+    connect(&afterLastFrame_, &QTimer::timeout, this, [this] { goOn(); });
     connect(&afterLastChange_, &QTimer::timeout, this, [this] { haveItNoticed(); });
 }
 
@@ -60,20 +76,39 @@ void KeptInputRegion::set(const QRegion& region) {
     const std::string version = x11::versionOfMutter();
     isForgotten_ = forgets(version);
     setInputRegion(window_, variant(region_, variant_));
-    if (!version.empty()) afterLastChange_.start();
+    if (!version.empty() && !isForgotten_) afterLastChange_.start();
 }
 
 void KeptInputRegion::frameDrawn() {
-    if (isForgotten_) afterLastFrame_.start();
+    if (!isForgotten_) return;
+    next_ = Step::change;
+    afterLastFrame_.start();
+}
+
+void KeptInputRegion::goOn() {
+    if (!window_.isExposed()) return;
+    switch (next_) {
+        case Step::change:
+            change();
+            next_ = Step::draw;
+            break;
+        case Step::draw:
+            drawFirstPixel(window_);
+            next_ = Step::changeAgain;
+            break;
+        case Step::changeAgain:
+            change();
+            afterLastChange_.start();
+            return;
+    }
+    afterLastFrame_.start();
 }
 
 void KeptInputRegion::change() {
-    if (!window_.isExposed()) return;
     // Two would not do: the compositor may miss one, and find the region that it knows.
     constexpr int variants = 3;
     variant_ = (variant_ + 1) % variants;
     setInputRegion(window_, variant(region_, variant_));
-    afterLastChange_.start();
 }
 
 void KeptInputRegion::haveItNoticed() {
