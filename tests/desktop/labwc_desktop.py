@@ -8,6 +8,15 @@ _TELL_NAMES = """#!/bin/sh
 echo $DISPLAY $WAYLAND_DISPLAY $LABWC_PID > $HOME/told
 """
 
+_CONFIGURATION = """
+<labwc_config>
+  <desktops number="2"/>
+  <keyboard>
+    <keybind key="W-Page_Down"><action name="GoToDesktop" to="right"/></keybind>
+  </keyboard>
+</labwc_config>
+"""
+
 
 class LabwcDesktop(WaylandDesktop):
     """Each output is a window of the private desktop. A single one fills its screen."""
@@ -19,6 +28,10 @@ class LabwcDesktop(WaylandDesktop):
         super().__init__(host)
 
     def _start_compositor(self):
+        configuration = self.home / ".config/labwc/rc.xml"
+        configuration.parent.mkdir(parents=True)
+        configuration.write_text(_CONFIGURATION)
+        self.give_to_user()
         teller = self.folder / "tell-names"
         teller.write_text(_TELL_NAMES)
         teller.chmod(0o755)

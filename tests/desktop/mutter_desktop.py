@@ -8,6 +8,7 @@ from wayland_desktop import WaylandDesktop
 # Mutter ends when this ends.
 _TELL_NAMES = """
 echo $DISPLAY $WAYLAND_DISPLAY $XAUTHORITY > $HOME/told
+echo $$ > $HOME/pid
 exec sleep infinity
 """
 
@@ -16,6 +17,8 @@ class MutterDesktop(WaylandDesktop):
     name = "GNOME"
 
     def _start_compositor(self):
+        # Without a shell nobody makes workspaces when they are needed.
+        self.run("gsettings", "set", "org.gnome.mutter", "dynamic-workspaces", "false")
         width, height = self.screen.size
         self.start("env", f"MUTTER_DEBUG_DUMMY_MODE_SPECS={width}x{height}",
                    "mutter", "--wayland", "--nested", "--", "sh", "-c", _TELL_NAMES)
@@ -30,3 +33,6 @@ class MutterDesktop(WaylandDesktop):
         width, height = self.screen.size
         for x in (width // 2, width // 2 + 20):
             self.screen.pointer.move(x, height // 3)
+
+    def end(self):
+        self.run("kill", (self.home / "pid").read_text().strip())

@@ -1,5 +1,7 @@
 """The card in KDE's Wayland session, whose compositor lets it choose its place."""
 
+import json
+
 import pytest
 
 from conftest import require_peer
@@ -124,10 +126,11 @@ def switch_to_new_workspace(kwin):
 
 def second_workspace(kwin):
     """The name by which KWin knows it."""
-    told = kwin.run("busctl", "--user", "get-property", "org.kde.KWin", "/VirtualDesktopManager",
-                    "org.kde.KWin.VirtualDesktopManager", "desktops", text=True).stdout  # fmt: skip
-    # The number of them, then of each its position, identifier and name.
-    return told.split()[6].strip('"')
+    told = kwin.run("busctl", "--user", "--json=short", "get-property", "org.kde.KWin",
+                    "/VirtualDesktopManager", "org.kde.KWin.VirtualDesktopManager", "desktops",
+                    text=True).stdout  # fmt: skip
+    [(_, identifier, _)] = [row for row in json.loads(told)["data"] if row[2] == "second"]
+    return identifier
 
 
 @pytest.mark.kwin(scale=1.5)

@@ -81,12 +81,7 @@ def test_above_a_full_screen_window(labwc, vantle):
 
 
 def test_on_every_workspace(labwc, vantle):
-    def switch():
-        labwc.screen.keyboard.hold("Super_L")
-        labwc.screen.keyboard.press("Right")
-        labwc.screen.keyboard.let_go("Super_L")
-
-    check_on_every_workspace(labwc, vantle, switch)
+    check_on_every_workspace(labwc, vantle, labwc.go_to_next_workspace)
 
 
 def test_clicks_outside_the_card_reach_the_window_underneath(labwc, vantle):

@@ -18,11 +18,17 @@ from wayland_checks import (
     check_clicks_pass,
     check_corner,
     check_dragged_into_a_native_window,
+    check_escape_ends_a_drag,
+    check_flies_back,
     check_focus_stays,
+    check_idle,
+    check_keyboard_on_request,
+    check_on_every_workspace,
     corner,
     outside_panel,
     press,
     program_on,
+    save,
     show_one,
 )
 from wayland_desktop import NativeWindow
@@ -84,6 +90,14 @@ def test_the_focus_stays_where_one_types(mutter, vantle):
     check_focus_stays(mutter, vantle)
 
 
+def test_the_keyboard_comes_when_it_is_asked_for_and_goes_back(mutter, vantle):
+    check_keyboard_on_request(mutter, vantle)
+
+
+def test_on_every_workspace(mutter, vantle):
+    check_on_every_workspace(mutter, vantle, mutter.go_to_next_workspace)
+
+
 def wait_for_preview(mutter, x, y):
     around = Rectangle(x - 200, y - 150, 400, 300)
     wait_until(lambda: is_one_pattern(mutter.screen.screenshot(around)), "the preview follows")
@@ -104,25 +118,18 @@ def test_dragged_into_a_native_window(mutter, vantle):
     check_dragged_into_a_native_window(mutter, vantle)
 
 
-def test_dropped_where_nobody_takes_it_the_tile_comes_back(mutter, vantle):
-    vantle.start_watching()
-    tile = show_one(mutter, vantle)
-    for time in (1, 2):
-        drag = Drag(mutter, vantle, tile.centre).move(300, 300)
-        wait_for_preview(mutter, 300, 300)
-        drag.drop()
-        wait_until(lambda: vantle.log_text().count("thumb drag ended op=0") == time, "it has ended")
-        wait_until(lambda: is_one_pattern(mutter.screen.screenshot(corner(mutter))), "it is back")
+def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(mutter, vantle):
+    check_flies_back(mutter, vantle, (300, 300), (300, 300))
+
+
+def test_dropped_on_a_window_that_takes_no_files_it_flies_back(mutter, vantle):
+    NativeWindow(mutter, "--takes-no-files")
+    check_flies_back(mutter, vantle, (300, 300))
 
 
 @fails_under_mutter(43, "It gives the keys to the window with the focus, which the card never has")
 def test_escape_ends_a_drag(mutter, vantle):
-    NativeWindow(mutter)
-    vantle.start_watching()
-    tile = show_one(mutter, vantle)
-    Drag(mutter, vantle, tile.centre).hold_over(400, 300)
-    mutter.screen.keyboard.press("Escape")
-    vantle.wait_for_log("thumb drag ended op=0")
+    check_escape_ends_a_drag(mutter, vantle)
 
 
 def pasted(mutter, *arguments):
@@ -144,3 +151,22 @@ def test_native_programs_paste_what_was_copied(mutter, vantle):
     assert {"image/png", "image/jpeg", "image/bmp", "x-special/gnome-copied-files"} <= set(types)
     file = mutter.home / "Desktop/shot.png"
     assert pasted(mutter, "--type", "text/uri-list") == [file.as_uri()]
+
+
+def test_what_is_copied_by_itself_reaches_the_clipboard(mutter, binary):
+    require_peer("wl-paste")
+    with program_on(mutter, binary, copyOnCapture="true") as vantle:
+        vantle.start_watching()
+        save(mutter, "shot.png")
+        wait_until(lambda: "image/png" in pasted(mutter, "--list-types"), "it is offered")
+
+
+def test_the_end_of_the_compositor_ends_it(mutter, vantle):
+    vantle.start_watching()
+    show_one(mutter, vantle)
+    mutter.end()
+    assert vantle.wait_for_end() == 1
+
+
+def test_idle_it_does_nothing(mutter, vantle):
+    check_idle(mutter, vantle)

@@ -150,9 +150,13 @@ def wait_for_bar(desktop, edge):
 
 
 def check_on_every_workspace(desktop, vantle, switch):
+    NativeWindow(desktop)
     vantle.start_watching()
     show_one(desktop, vantle)
+    beside = Rectangle(200, 200, 200, 200)
+    window = desktop.screen.screenshot(beside)
     switch()
+    wait_until(lambda: desktop.screen.screenshot(beside) != window, "another workspace comes")
     wait_until_still(lambda: desktop.screen.screenshot().tobytes(), "the workspace")
     assert is_one_pattern(desktop.screen.screenshot(corner(desktop)))
 

@@ -128,6 +128,12 @@ class WaylandDesktop:
                            f"the compositor of {self.name} starts")
         self.environment.update(zip(names, texts, strict=True))
 
+    def go_to_next_workspace(self):
+        """By the keys of GNOME, which others are told to use as well."""
+        self.screen.keyboard.hold("Super_L")
+        self.screen.keyboard.press("Page_Down")
+        self.screen.keyboard.let_go("Super_L")
+
     def _fill_screen(self):
         [window] = wait_until(self.screen.client_list, "the compositor's window opens")
         self.screen.change_state(window, 1, "_NET_WM_STATE_FULLSCREEN")
