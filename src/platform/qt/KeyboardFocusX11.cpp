@@ -14,6 +14,12 @@ void focus(xcb_connection_t* x, xcb_window_t window) {
     xcb_flush(x);
 }
 
+/// A window that speaks Wayland is none on X. But Mutter gives the keyboard to the window that had
+/// it last, wherever nobody has it.
+xcb_window_t whoGetsItBack(xcb_window_t previous) {
+    return x11::versionOfMutter().empty() ? previous : x11::root();
+}
+
 }  // namespace
 
 void KeyboardFocus::take() {
@@ -34,7 +40,7 @@ void KeyboardFocus::giveBack() {
     xcb_connection_t* x = x11::connection();
     if (!x) window_.setFlag(Qt::WindowDoesNotAcceptFocus);
     if (!x || previous_ == 0) return;
-    if (focused(x) == x11::number(window_)) focus(x, previous_);
+    if (focused(x) == x11::number(window_)) focus(x, whoGetsItBack(previous_));
     previous_ = 0;
 }
 
