@@ -25,6 +25,7 @@ def pytest_configure(config):
     config.addinivalue_line("markers", "sway(lines): more of its configuration")
     config.addinivalue_line("markers", "kwin(**options): how it is to be started")
     config.addinivalue_line("markers", "labwc(**options): the same")
+    config.addinivalue_line("markers", "mutter(**options): the same")
     config.passed_tests = 0
     config.skipped_tests = 0
 

@@ -48,10 +48,11 @@ def fails_under_mutter(number, reason):
 
 
 @pytest.fixture
-def mutter(desktop):
+def mutter(request, desktop):
     require_peer("mutter")
     require_peer("Xwayland")
-    return MutterDesktop(desktop)
+    marker = request.node.get_closest_marker("mutter")
+    return MutterDesktop(desktop, **(marker.kwargs if marker else {}))
 
 
 @pytest.fixture
@@ -96,6 +97,17 @@ def test_the_keyboard_comes_when_it_is_asked_for_and_goes_back(mutter, vantle):
 
 def test_on_every_workspace(mutter, vantle):
     check_on_every_workspace(mutter, vantle, mutter.go_to_next_workspace)
+
+
+@pytest.mark.desktop(size=(2880, 900), tray=False, compositor=False)
+@pytest.mark.mutter(outputs=2)
+def test_it_survives_the_output_that_it_stands_on(mutter, vantle):
+    vantle.start_watching()
+    mutter.screen.pointer.move(2000, 300)
+    show_one(mutter, vantle)
+    mutter.keep_first_output()
+    first = Rectangle(0, 0, 1440, 900)
+    wait_until(lambda: is_one_pattern(mutter.screen.screenshot(first)), "it stands on the other")
 
 
 def wait_for_preview(mutter, x, y):

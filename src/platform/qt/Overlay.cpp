@@ -94,6 +94,8 @@ void Overlay::setFrame(const QRect& frame) {
 void Overlay::show() {
     lostScreen_ = false;
     if (wayland::offersLayers()) return showOnLayer();
+    screen_ = &screenAt(frame_.center());
+    area_ = wayland::usableArea(*screen_);
     window_.show();
     window_.raise();
 }
@@ -144,6 +146,7 @@ void Overlay::closed() {
 void Overlay::screenRemoved() {
     // Not every compositor tells that the layer went with it.
     if (layer_ && !screen_) return leaveScreen();
+    if (!wayland::offersLayers() && window_.isVisible() && !screen_) return moveToRemainingScreen();
     showOnRemainingScreen();
 }
 
@@ -162,8 +165,11 @@ void Overlay::showOnRemainingScreen() {
     if (!lostScreen_) return;
     QScreen* screen = QGuiApplication::primaryScreen();
     // The one that is about to be removed still stands where this was shown.
-    if (!screen || !wayland::output(*screen)) return;
-    const QRect area = wayland::usableArea(*screen);
+    if (screen && wayland::output(*screen)) moveToRemainingScreen();
+}
+
+void Overlay::moveToRemainingScreen() {
+    const QRect area = wayland::usableArea(*QGuiApplication::primaryScreen());
     setFrame(moved(frame_, area_, area));
     show();
 }

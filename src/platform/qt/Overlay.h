@@ -65,12 +65,13 @@ private:
     void leaveScreen();
     void waitForScreen();
     void showOnRemainingScreen();
+    void moveToRemainingScreen();
 
     QWindow& window_;
     KeyboardFocus keyboard_;
     QRect frame_;
     QRect area_;                ///< In which the frame stands, of its screen.
-    QPointer<QScreen> screen_;  ///< On which the layer is.
+    QPointer<QScreen> screen_;  ///< On which it was shown last.
     std::unique_ptr<wayland::OverlaySurface> layer_;
     bool hasKeyboard_ = false;
     bool lostScreen_ = false;  ///< While it is to be shown and there is none for it.
