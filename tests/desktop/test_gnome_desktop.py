@@ -13,6 +13,7 @@ from first_day import (
     wait_for_copy,
 )
 from gnome_shell_desktop import EXTENSION, GnomeShellDesktop
+from pictures import GREEN, area_of
 from privatedesktop import wait_until, wait_until_still
 from trays import Icon
 from using import Drag, press_with_control
@@ -21,7 +22,10 @@ from wayland_checks import (
     check_clicks_count_under_a_pointer_at_rest,
     check_clicks_pass,
     check_corner,
+    check_dragged_into_a_web_page,
+    is_gone,
     program_on,
+    show_one,
 )
 from wayland_desktop import NativeWindow
 
@@ -110,6 +114,17 @@ def test_the_menu_of_its_icon_by_either_button(gnome, vantle):
         wait_until(lambda: f"state: {state}" in vantle.command("--status")[1], state)
 
 
+def test_its_menu_shows_the_thumbnails_of_captures(gnome, vantle):
+    vantle.start_watching()
+    show_one(gnome, vantle)
+    vantle.command("--dismiss")
+    wait_until(lambda: is_gone(gnome), "the card goes")
+    Menu(gnome, place_of_icon(gnome))
+    gnome.screen.keyboard.press("Down")
+    wait_until_still(lambda: gnome.screen.screenshot().tobytes(), "the menu")
+    assert 20 < area_of(gnome.screen.screenshot(), GREEN) < 2500
+
+
 def test_the_settings_come_to_the_front(gnome, vantle):
     vantle.start_watching()
     place = place_of_icon(gnome)
@@ -118,6 +133,11 @@ def test_the_settings_come_to_the_front(gnome, vantle):
     wait_until(window.has_lost_focus, "the settings have the keyboard")
     press_with_control(gnome, "w")
     wait_until(window.has_focus, "the other window has it again")
+
+
+def test_dragged_into_a_web_page(gnome, vantle):
+    require_peer("firefox-esr")
+    check_dragged_into_a_web_page(gnome, vantle)
 
 
 def test_from_a_fresh_home_to_the_trash_and_back(gnome, binary):

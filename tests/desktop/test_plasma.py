@@ -13,6 +13,7 @@ from wayland_checks import (
     beside_card,
     check_clicks_pass,
     check_corner,
+    check_dragged_into_a_web_page,
     check_stands_in,
     corner,
     is_gone,
@@ -129,6 +130,11 @@ def test_the_settings_open_in_front_with_the_keyboard(plasma, vantle, icon, dolp
     wait_until(lambda: picture() != before, "they open")
     plasma.screen.keyboard.press("Escape")
     wait_until(lambda: picture() == before, "Escape closes them")
+
+
+def test_dragged_into_a_web_page(plasma, vantle):
+    require_peer("firefox-esr")
+    check_dragged_into_a_web_page(plasma, vantle)
 
 
 def in_dolphin(plasma):

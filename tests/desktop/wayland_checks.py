@@ -11,6 +11,7 @@ from privatedesktop import Program, Rectangle, wait_until, wait_until_still
 from test_idle import MEASURED_SECONDS
 from using import BUTTONS, Drag
 from wayland_desktop import NativeWindow
+from web_page import WebPage, start_firefox
 
 # From the right edge of a tile to that of its card, and from its lower edge to the buttons.
 _MARGIN = 13
@@ -264,6 +265,17 @@ def check_dragged_into_a_native_window(desktop, vantle):
     wait_until(window.dropped, "it is dropped")
     assert window.dropped() == [(desktop.home / "Desktop/shot.png").as_uri()]
     wait_until(lambda: is_gone(desktop), "the tile is used up")
+
+
+def check_dragged_into_a_web_page(desktop, vantle):
+    """Of Firefox, which fills the screen and speaks Wayland."""
+    with contextlib.closing(WebPage(desktop, start_firefox)) as page:
+        vantle.start_watching()
+        tile = show_one(desktop, vantle)
+        assert Drag(desktop, vantle, tile.centre).hold_over(*page.middle).drop()
+        [file] = page.dropped()
+        assert (file.name, file.type) == ("shot.png", "image/png")
+        assert file.content == (desktop.home / "Desktop/shot.png").read_bytes()
 
 
 def check_dragged_into_a_native_file_manager(desktop, vantle):

@@ -60,6 +60,8 @@ def start_firefox(desktop, address):
         'user_pref("browser.aboutwelcome.enabled", false);\n'
         'user_pref("browser.shell.checkDefaultBrowser", false);\n'
         'user_pref("app.normandy.enabled", false);\n')
+    if hasattr(desktop, "give_to_user"):
+        desktop.give_to_user()
     desktop.start("firefox-esr", "--profile", str(profile), "--new-instance", "--kiosk", address)
 
 
