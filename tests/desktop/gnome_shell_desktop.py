@@ -61,6 +61,9 @@ class GnomeShellDesktop(WaylandDesktop):
             XDG_SESSION_ID="c1", XDG_SESSION_DESKTOP="gnome", LIBGL_ALWAYS_SOFTWARE="1"
         )
         self._write_settings()
+        self._start_shell()
+
+    def _start_shell(self):
         width, height = self.screen.size
         self.start("env", f"MUTTER_DEBUG_DUMMY_MODE_SPECS={width}x{height}", "sh", "-c",
                    'exec "$@" > "$TMPDIR/shell.log" 2>&1', "sh",
@@ -88,6 +91,9 @@ class GnomeShellDesktop(WaylandDesktop):
 
     def _fill_screen(self):
         super()._fill_screen()
+        self._wait_for_shell()
+
+    def _wait_for_shell(self):
         wait_until(self._shows_overview, "the shell shows its overview", limit=60)
         # Before its start is over the shell takes no input, on 48 never again if it got some.
         wait_until_still(self._picture, "the shell", limit=60)
@@ -121,3 +127,17 @@ class GnomeShellDesktop(WaylandDesktop):
         bar = self.screen.screenshot(Rectangle(0, 0, self.screen.size[0], 30))
         has_clock = bar.convert("L").getextrema()[1] > 180
         return bar.getpixel((200, 3)) if has_clock else None
+
+
+class GnomeShellOnX11(GnomeShellDesktop):
+    """The window manager of the private desktop itself."""
+
+    toolkit_backend = "x11"
+
+    def _start_shell(self):
+        self.environment["XDG_SESSION_TYPE"] = "x11"
+        self.start("sh", "-c", 'exec "$@" > "$TMPDIR/shell.log" 2>&1', "sh",
+                   "gnome-shell", "--x11", "--replace")
+
+    def _fill_screen(self):
+        self._wait_for_shell()

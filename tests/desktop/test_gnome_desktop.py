@@ -1,4 +1,7 @@
-"""The card and the tray in the whole GNOME Shell, with the extension that shows tray icons."""
+"""The card and the tray in the whole GNOME Shell, with the extension that shows tray icons.
+
+Each test runs in its Wayland session and in the one on X11.
+"""
 
 import pathlib
 
@@ -12,7 +15,7 @@ from first_day import (
     paste_into_editor,
     wait_for_copy,
 )
-from gnome_shell_desktop import EXTENSION, GnomeShellDesktop
+from gnome_shell_desktop import EXTENSION, GnomeShellDesktop, GnomeShellOnX11
 from pictures import GREEN, area_of
 from privatedesktop import wait_until, wait_until_still
 from trays import Icon
@@ -34,11 +37,11 @@ pytestmark = pytest.mark.desktop(tray=False, compositor=False)
 _BAR = 32
 
 
-@pytest.fixture
-def gnome(desktop):
+@pytest.fixture(params=[GnomeShellDesktop, GnomeShellOnX11])
+def gnome(request, desktop):
     require_peer("gnome-shell")
     assert pathlib.Path("/usr/share/gnome-shell/extensions", EXTENSION).exists()
-    return GnomeShellDesktop(desktop)
+    return request.param(desktop)
 
 
 @pytest.fixture

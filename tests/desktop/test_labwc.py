@@ -16,6 +16,7 @@ from wayland_checks import (
     check_corner,
     check_dragged_into_a_native_file_manager,
     check_dragged_into_a_native_window,
+    check_dragged_into_a_web_page,
     check_ends_with_compositor,
     check_escape_ends_a_drag,
     check_flies_back,
@@ -107,6 +108,11 @@ def test_dragged_into_a_native_window(labwc, vantle):
 def test_dragged_into_a_native_file_manager(labwc, vantle):
     require_peer("thunar")
     check_dragged_into_a_native_file_manager(labwc, vantle)
+
+
+def test_dragged_into_a_web_page(labwc, vantle):
+    require_peer("firefox-esr")
+    check_dragged_into_a_web_page(labwc, vantle)
 
 
 def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(labwc, vantle):

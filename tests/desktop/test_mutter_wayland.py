@@ -24,7 +24,6 @@ from wayland_checks import (
     check_idle,
     check_keyboard_on_request,
     check_on_every_workspace,
-    corner,
     outside_panel,
     press,
     program_on,

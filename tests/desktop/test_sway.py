@@ -22,6 +22,7 @@ from wayland_checks import (
     check_corner,
     check_dragged_into_a_native_file_manager,
     check_dragged_into_a_native_window,
+    check_dragged_into_a_web_page,
     check_ends_with_compositor,
     check_escape_ends_a_drag,
     check_flies_back,
@@ -163,6 +164,11 @@ def test_dragged_into_a_native_window(sway, vantle):
 def test_dragged_into_a_native_file_manager(sway, vantle):
     require_peer("thunar")
     check_dragged_into_a_native_file_manager(sway, vantle)
+
+
+def test_dragged_into_a_web_page(sway, vantle):
+    require_peer("firefox-esr")
+    check_dragged_into_a_web_page(sway, vantle)
 
 
 def test_what_a_window_promised_and_did_not_take_is_no_use(sway, binary):

@@ -22,6 +22,8 @@ class WaylandDesktop:
     """
 
     name = None
+    # Which display server its native windows speak to, as GTK calls it.
+    toolkit_backend = "wayland"
 
     def __init__(self, host):
         self._host = host
@@ -143,11 +145,11 @@ class WaylandDesktop:
 
 
 class NativeWindow:
-    """A window that speaks Wayland, and tells what reaches it. It fills the screen."""
+    """A window of the desktop's own kind, which tells what reaches it. It fills the screen."""
 
     def __init__(self, desktop, *options):
         program = desktop.lend(pathlib.Path(__file__).with_name("native_window.py"))
-        desktop.start("env", "GDK_BACKEND=wayland",
+        desktop.start("env", f"GDK_BACKEND={desktop.toolkit_backend}",
                       "sh", "-c", 'exec "$@" >> "$TMPDIR/native.log"', "sh", program, *options)
         self._log = desktop.folder / "native.log"
         self._wait_for_keyboard()
