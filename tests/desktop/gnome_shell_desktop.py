@@ -107,13 +107,13 @@ class GnomeShellDesktop(WaylandDesktop):
             self.screen.pointer.move(x, height // 3)
 
     def leave_overview(self):
-        """To the windows, which the shell does not show at first."""
+        """To the windows, which the shell does not show at first. While it starts it may come back."""
 
         def is_left():
             self.screen.keyboard.press("Escape")
-            return self._bar() == _BLACK
+            return wait_until_still(self._bar, "the bar", readings=30) == _BLACK
 
-        wait_until(is_left, "the overview is left", interval=0.5)
+        wait_until(is_left, "the overview is left", limit=60)
         wait_until_still(self._picture, "the shell", limit=60)
 
     def _shows_overview(self):

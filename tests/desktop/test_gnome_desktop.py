@@ -24,6 +24,7 @@ from wayland_checks import (
     beside_card,
     check_clicks_count_under_a_pointer_at_rest,
     check_clicks_pass,
+    check_clicks_pass_while_time_runs,
     check_corner,
     check_dragged_into_a_web_page,
     is_gone,
@@ -97,6 +98,10 @@ def test_the_card_stands_in_its_corner(gnome, vantle):
 
 def test_clicks_beside_the_card_reach_the_window_underneath(gnome, vantle):
     check_clicks_pass(gnome, vantle, beside_card)
+
+
+def test_clicks_beside_the_card_pass_while_its_time_runs(gnome, binary):
+    check_clicks_pass_while_time_runs(gnome, binary)
 
 
 def test_clicks_count_when_the_card_comes_under_a_pointer_at_rest(gnome, vantle):

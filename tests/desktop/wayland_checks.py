@@ -219,6 +219,12 @@ def check_clicks_pass(desktop, vantle, *places):
     click_through(desktop, window, [point for where in places for point in where(frame, tile)])
 
 
+def check_clicks_pass_while_time_runs(desktop, binary):
+    """Its bar gets shorter by a pixel every tenth of a second."""
+    with program_on(desktop, binary, dismissAfter="30") as vantle:
+        check_clicks_pass(desktop, vantle, *[beside_card] * 4)
+
+
 def check_clicks_count_under_a_pointer_at_rest(desktop, vantle):
     """Of card after card that comes to where the pointer is."""
     vantle.start_watching()
