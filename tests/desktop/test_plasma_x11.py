@@ -1,5 +1,7 @@
 """Vantle on the whole Plasma on X11."""
 
+import contextlib
+
 import pytest
 
 from conftest import require_peer
@@ -15,6 +17,7 @@ from plasma_desktop import PlasmaShell
 from privatedesktop import wait_until, wait_until_still
 from trays import Icon, OwnMenu, choose_by_keys, open_menu_of_tray
 from using import Drag
+from web_page import WebPage, start_firefox
 
 pytestmark = pytest.mark.desktop(
     tray=False, compositor=False, window_manager=["kwin_x11"],
@@ -52,6 +55,16 @@ def test_the_tray_draws_the_same_menu(desktop, vantle, folder, icon):
     open_menu_of_tray(desktop, icon)
     choose_by_keys(desktop, 1)
     wait_until(desktop.screen.panel, "the capture is shown again")
+
+
+def test_dragged_into_a_web_page(desktop, shell, vantle, folder):
+    require_peer("firefox-esr")
+    with contextlib.closing(WebPage(desktop, start_firefox)) as page:
+        vantle.start_watching()
+        show_one(desktop, folder)
+        assert Drag(desktop, vantle, Card(desktop).tile).hold_over(*page.middle).drop()
+        [file] = page.dropped()
+        assert file.content == (folder.path / "shot.png").read_bytes()
 
 
 def test_spectacle_is_noticed(desktop, vantle, shell):
