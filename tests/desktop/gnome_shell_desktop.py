@@ -107,7 +107,7 @@ class GnomeShellDesktop(WaylandDesktop):
             self.screen.pointer.move(x, height // 3)
 
     def leave_overview(self):
-        """To the windows, which the shell does not show at first. While it starts it may come back."""
+        """To the windows, which the shell does not show at first. It may come back at the start."""
 
         def is_left():
             self.screen.keyboard.press("Escape")
