@@ -73,6 +73,9 @@ Overlay::Overlay(QWindow& window, Focus focus) : window_(window), keyboard_(wind
             Qt::QueuedConnection);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &Overlay::screenRemoved,
             Qt::QueuedConnection);
+    if (!KWinWorkspaces::leavePopups()) return;
+    workspaces_ = std::make_unique<KWinWorkspaces>();
+    connect(workspaces_.get(), &KWinWorkspaces::changed, this, &Overlay::workspaceChanged);
 }
 
 Overlay::~Overlay() {
@@ -105,8 +108,9 @@ void Overlay::showOnLayer() {
     area_ = wayland::usableArea(screen);
     if (!wayland::output(screen)) return waitForScreen();
     const auto place = placeIn(area_, frame_, screen);
-    if (layer_ && screen_ == &screen) return layer_->move(place);
+    if (layer_ && screen_ == &screen && !isLeftBehind_) return layer_->move(place);
     hide();
+    isLeftBehind_ = false;
     screen_ = &screen;
     window_.setScreen(&screen);
     window_.setGeometry(frame_);
@@ -141,6 +145,12 @@ void Overlay::hide() {
 void Overlay::closed() {
     // By now it may be another one.
     if (layer_ && layer_->isRefused()) leaveScreen();
+}
+
+void Overlay::workspaceChanged() {
+    isLeftBehind_ = layer_ != nullptr;
+    // What is dragged out of the window would end with it.
+    if (isLeftBehind_ && QGuiApplication::mouseButtons() == Qt::NoButton) showOnLayer();
 }
 
 void Overlay::screenRemoved() {

@@ -7,6 +7,7 @@
 #include <QWindow>
 #include <memory>
 
+#include "platform/qt/KWinWorkspaces.h"
 #include "platform/qt/KeyboardFocus.h"
 
 namespace vantle {
@@ -61,6 +62,7 @@ private:
     /// never.
     void showAgain();
     void closed();
+    void workspaceChanged();
     void screenRemoved();
     void leaveScreen();
     void waitForScreen();
@@ -73,6 +75,8 @@ private:
     QRect area_;                ///< In which the frame stands, of its screen.
     QPointer<QScreen> screen_;  ///< On which it was shown last.
     std::unique_ptr<wayland::OverlaySurface> layer_;
+    std::unique_ptr<KWinWorkspaces> workspaces_;  ///< Null where it is on all of them.
+    bool isLeftBehind_ = false;                   ///< On another workspace.
     bool hasKeyboard_ = false;
     bool lostScreen_ = false;  ///< While it is to be shown and there is none for it.
 };

@@ -35,10 +35,11 @@ void bindOffered(void* data, wl_registry* registry, std::uint32_t name, const ch
         bind(globals.compositor, registry, name, version, wl_compositor_interface, 4);
     else if (isOffered(wl_shm_interface))
         bind(globals.sharedMemory, registry, name, version, wl_shm_interface, 1);
-    else if (isOffered(layershell::shellInterface))
+    else if (isOffered(layershell::shellInterface)) {
+        globals.layerShellVersion = version;
         bind(globals.layerShell, registry, name, version, layershell::shellInterface,
              layershell::version);
-    else if (isOffered(xdg_wm_base_interface))
+    } else if (isOffered(xdg_wm_base_interface))
         bind(globals.shell, registry, name, version, xdg_wm_base_interface, 1);
     else if (isOffered(datacontrol::managerInterface))
         bind(globals.dataControl, registry, name, version, datacontrol::managerInterface,

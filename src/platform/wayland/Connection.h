@@ -41,6 +41,8 @@ struct Globals {
     /// the protocol says, where compositors on wlroots leave it where it is; and it gives the
     /// keyboard to a layer surface that is clicked, whether that wants it or not.
     bool isKWin = false;
+    /// Of the layer-shell protocol, as the compositor offers it.
+    std::uint32_t layerShellVersion = 0;
 };
 
 const Globals& globals();
