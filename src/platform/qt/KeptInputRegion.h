@@ -21,7 +21,7 @@ bool inputRegionIsForgotten();
 /// - Mutter before 44.2 gives the window all clicks with each frame. It takes up a region that has
 ///   changed meanwhile either at once, or with the next frame: which of them, nobody can tell. So
 ///   once no frame has come for a moment the region changes by a pixel in a corner, a pixel is
-///   drawn, and the region changes again.
+///   drawn, and the region changes again; and all that once more, for a busy compositor.
 class KeptInputRegion final : public QObject {
 public:
     /// `window` outlives this. Its first pixel has to be clear.
@@ -46,6 +46,7 @@ private:
     QWindow& window_;
     QRegion region_;
     Step next_ = Step::change;
+    int rounds_ = 0;  ///< Of the steps, since the last frame.
     QTimer afterLastFrame_;
     QTimer afterLastChange_;
     std::unique_ptr<QWindow> unseen_;  ///< For a moment.

@@ -11,6 +11,8 @@ namespace {
 
 /// Longer than between two frames of the card, and than a compositor takes to show the last one.
 constexpr std::chrono::milliseconds rest{100};
+/// That compositor may be busy. What comes too early is lost, so it comes once more.
+constexpr std::chrono::milliseconds secondRound{1000};
 
 const QVersionNumber firstThatRemembers{44, 2};
 
@@ -82,7 +84,8 @@ void KeptInputRegion::set(const QRegion& region) {
 void KeptInputRegion::frameDrawn() {
     if (!isForgotten_) return;
     next_ = Step::change;
-    afterLastFrame_.start();
+    rounds_ = 0;
+    afterLastFrame_.start(rest);
 }
 
 void KeptInputRegion::goOn() {
@@ -91,17 +94,17 @@ void KeptInputRegion::goOn() {
         case Step::change:
             change();
             next_ = Step::draw;
-            break;
+            return afterLastFrame_.start(rest);
         case Step::draw:
             drawFirstPixel(window_);
             next_ = Step::changeAgain;
-            break;
+            return afterLastFrame_.start(rest);
         case Step::changeAgain:
             change();
+            next_ = Step::change;
             afterLastChange_.start();
-            return;
+            if (++rounds_ < 2) afterLastFrame_.start(secondRound);
     }
-    afterLastFrame_.start();
 }
 
 void KeptInputRegion::change() {
