@@ -78,7 +78,7 @@ void KeptInputRegion::set(const QRegion& region) {
     const std::string version = x11::versionOfMutter();
     isForgotten_ = forgets(version);
     setInputRegion(window_, variant(region_, variant_));
-    if (!version.empty() && !isForgotten_) afterLastChange_.start();
+    if (!version.empty()) afterLastChange_.start();
 }
 
 void KeptInputRegion::frameDrawn() {
