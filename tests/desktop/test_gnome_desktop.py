@@ -17,7 +17,7 @@ from first_day import (
 )
 from gnome_shell_desktop import EXTENSION, GnomeShellDesktop, GnomeShellOnX11
 from pictures import GREEN, area_of
-from privatedesktop import wait_until, wait_until_still
+from privatedesktop import Rectangle, wait_until, wait_until_still
 from trays import Icon
 from using import Drag, press_with_control
 from wayland_checks import (
@@ -58,6 +58,13 @@ def place_of_icon(gnome):
 def take_screenshot(gnome, vantle):
     """By the shell's own key; returns the file once it is on the card."""
     captured = len(vantle.captured())
+    # Not all of the card: how much time is left changes.
+    x, y = Card(gnome).tile
+
+    def tile():
+        return gnome.screen.screenshot(Rectangle(x - 80, y - 60, 160, 120))
+
+    empty = wait_until_still(tile, "what is behind the card")
     before = gnome.screen.screenshot()
     gnome.screen.keyboard.press("F12")
     wait_until(lambda: gnome.screen.screenshot() != before, "the shell asks what to take")
@@ -66,7 +73,8 @@ def take_screenshot(gnome, vantle):
     [name] = wait_until(lambda: vantle.captured()[captured:], "it is captured")
     assert name.startswith("Screenshot")
     wait_until(lambda: vantle.shown_counts()[-1:] == [1], "it is on the card")
-    wait_until_still(lambda: gnome.screen.screenshot(), "the card")
+    wait_until(lambda: tile() != empty, "the card comes")
+    wait_until_still(tile, "the card")
     return gnome.home / "Screenshots" / name
 
 
