@@ -156,7 +156,9 @@ void Overlay::workspaceChanged() {
 void Overlay::screenRemoved() {
     // Not every compositor tells that the layer went with it.
     if (layer_ && !screen_) return leaveScreen();
-    if (!wayland::offersLayers() && window_.isVisible() && !screen_) return moveToRemainingScreen();
+    QScreen* remaining = QGuiApplication::primaryScreen();
+    const bool hasLostPlace = !wayland::offersLayers() && window_.isVisible() && !screen_;
+    if (hasLostPlace && remaining) return moveTo(*remaining);
     showOnRemainingScreen();
 }
 
@@ -175,12 +177,11 @@ void Overlay::showOnRemainingScreen() {
     if (!lostScreen_) return;
     QScreen* screen = QGuiApplication::primaryScreen();
     // The one that is about to be removed still stands where this was shown.
-    if (screen && wayland::output(*screen)) moveToRemainingScreen();
+    if (screen && wayland::output(*screen)) moveTo(*screen);
 }
 
-void Overlay::moveToRemainingScreen() {
-    const QRect area = wayland::usableArea(*QGuiApplication::primaryScreen());
-    setFrame(moved(frame_, area_, area));
+void Overlay::moveTo(QScreen& screen) {
+    setFrame(moved(frame_, area_, wayland::usableArea(screen)));
     show();
 }
 

@@ -67,7 +67,7 @@ private:
     void leaveScreen();
     void waitForScreen();
     void showOnRemainingScreen();
-    void moveToRemainingScreen();
+    void moveTo(QScreen& screen);
 
     QWindow& window_;
     KeyboardFocus keyboard_;
