@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <array>
 
 #include "platform/qt/DropGround.h"
@@ -10,8 +9,9 @@ namespace {
 constexpr uint8_t depthWithAlpha = 32;
 
 /// A kind of picture that can be clear; zero where there is none.
-xcb_visualid_t clearVisual(const xcb_screen_t& screen) {
-    auto depth = xcb_screen_allowed_depths_iterator(&screen);
+xcb_visualid_t clearVisual() {
+    const auto screen = xcb_setup_roots_iterator(xcb_get_setup(x11::connection()));
+    auto depth = xcb_screen_allowed_depths_iterator(screen.data);
     while (depth.rem > 0 && depth.data->depth != depthWithAlpha) xcb_depth_next(&depth);
     if (depth.rem == 0 || xcb_depth_visuals_length(depth.data) == 0) return 0;
     return xcb_depth_visuals(depth.data)->visual_id;
@@ -22,8 +22,9 @@ xcb_visualid_t clearVisual(const xcb_screen_t& screen) {
 /// Not one of the toolkit's: those take part in drags themselves.
 class DropGround::Window {
 public:
-    Window() : x_(x11::connection()), window_(xcb_generate_id(x_)), colors_(xcb_generate_id(x_)) {
-        create(clearVisual(*xcb_setup_roots_iterator(xcb_get_setup(x_)).data));
+    explicit Window(xcb_visualid_t visual)
+        : x_(x11::connection()), window_(xcb_generate_id(x_)), colors_(xcb_generate_id(x_)) {
+        create(visual);
         sayWhatItIs();
         xcb_map_window(x_, window_);
         // Below the window of a program that draws the desktop's icons.
@@ -73,7 +74,9 @@ private:
 };
 
 DropGround::DropGround() {
-    if (!x11::versionOfMutter().empty()) window_ = std::make_unique<Window>();
+    if (x11::versionOfMutter().empty()) return;
+    // One that could be seen would do more harm than a drag that goes on.
+    if (const xcb_visualid_t visual = clearVisual()) window_ = std::make_unique<Window>(visual);
 }
 
 DropGround::~DropGround() = default;
