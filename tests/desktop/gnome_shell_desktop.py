@@ -100,12 +100,6 @@ class GnomeShellDesktop(WaylandDesktop):
         self.leave_overview()
         self._wake_pointer()
 
-    def _wake_pointer(self):
-        """What opens under a pointer that has not moved yet stays hidden from it."""
-        width, height = self.screen.size
-        for x in (width // 2, width // 2 + 20):
-            self.screen.pointer.move(x, height // 3)
-
     def leave_overview(self):
         """To the windows, which the shell does not show at first. It may come back at the start."""
 

@@ -57,11 +57,5 @@ class MutterDesktop(WaylandDesktop):
         super()._fill_screen()
         self._wake_pointer()
 
-    def _wake_pointer(self):
-        """What opens under a pointer that has not moved yet stays hidden from it."""
-        width, height = self.screen.size
-        for x in (width // 2, width // 2 + 20):
-            self.screen.pointer.move(x, height // 3)
-
     def end(self):
         self.run("kill", (self.home / "pid").read_text().strip())

@@ -136,6 +136,12 @@ class WaylandDesktop:
         self.screen.keyboard.press("Page_Down")
         self.screen.keyboard.let_go("Super_L")
 
+    def _wake_pointer(self):
+        """To Mutter, what opens under a pointer that has not moved yet stays hidden from it."""
+        width, height = self.screen.size
+        for x in (width // 2, width // 2 + 20):
+            self.screen.pointer.move(x, height // 3)
+
     def _fill_screen(self):
         [window] = wait_until(self.screen.client_list, "the compositor's window opens")
         self.screen.change_state(window, 1, "_NET_WM_STATE_FULLSCREEN")
