@@ -85,12 +85,26 @@ void CapturePanelController::position(PanelWindow& panel) {
 
 void CapturePanelController::add(const CapturePointer& capture) {
     auto captures = state_.captures.value();
-    std::erase_if(captures, [&](const auto& shown) { return *shown == *capture; });
+    const auto equal = [&](const auto& shown) { return *shown == *capture; };
+    const auto old = std::ranges::find_if(captures, equal);
+    if (old != captures.end()) {
+        replaceMarks((*old)->id(), capture->id());
+        captures.erase(old);
+    }
     captures.push_back(capture);
     // The identifiers of those dropped may stay selected or pinned: they match nothing any more.
     if (captures.size() > CardLayout::maxCaptures)
         captures.erase(captures.begin(), captures.end() - CardLayout::maxCaptures);
     state_.captures.set(std::move(captures));
+}
+
+void CapturePanelController::replaceMarks(const UUID& old, const UUID& current) {
+    for (auto* marked : {&state_.selected, &state_.pinned}) {
+        auto ids = marked->value();
+        if (old == current || ids.erase(old) == 0) continue;
+        ids.insert(current);
+        marked->set(std::move(ids));
+    }
 }
 
 void CapturePanelController::present() {
@@ -170,14 +184,29 @@ void CapturePanelController::takeKeyboard() {
 }
 
 void CapturePanelController::marqueeChanged(const std::optional<Rect>& rect) {
+    if (!state_.visible.value()) return;
+    const bool begins = rect && !state_.marquee.value();
     state_.marquee.set(rect);
-    if (!rect) return;
+    if (begins) pauseCountdown();
+    if (rect) {
+        auto hits = touched(*rect);
+        if (hits != state_.selected.value()) state_.selected.set(std::move(hits));
+    } else if (!isInUse() && !state_.hovering.value()) {
+        resumeCountdown();
+    }
+}
+
+std::set<UUID> CapturePanelController::touched(const Rect& rect) const {
+    const auto& captures = state_.captures.value();
     std::set<UUID> hits;
     for (const auto& [id, frame] : panel_->visibleThumbnails()) {
         const bool isSeen = frame.size.width > 0 && frame.size.height > 0;
-        if (isSeen && intersects(frame, *rect)) hits.insert(id);
+        const auto isThat = [&id = id](const auto& capture) { return capture->id() == id; };
+        // A tile that is on its way out stands for no capture of the card.
+        if (isSeen && intersects(frame, rect) && std::ranges::any_of(captures, isThat))
+            hits.insert(id);
     }
-    if (hits != state_.selected.value()) state_.selected.set(std::move(hits));
+    return hits;
 }
 
 void CapturePanelController::dismiss() {

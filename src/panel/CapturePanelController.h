@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <vector>
 
 #include "panel/CardActions.h"
@@ -87,12 +88,17 @@ private:
     std::vector<DragItem> dragItems(const CapturePointer& startingFrom) const;
     void dragBegan();
     void dragEnded(bool completed, const std::vector<Url>& urls);
+    /// A card that leaves has no rubber band.
     void marqueeChanged(const std::optional<Rect>& rect);
+    /// The captures of the card whose thumbnails can be seen inside `rect`.
+    std::set<UUID> touched(const Rect& rect) const;
     std::vector<CapturePointer> selectedCaptures() const;
 
     void createPanel();
     void position(PanelWindow& panel);
     void add(const CapturePointer& capture);
+    /// An equal capture that takes the place of another is selected and pinned as that was.
+    void replaceMarks(const UUID& old, const UUID& current);
     void present();
     void restartCountdown();
     void scheduleDebugHooks();
@@ -103,7 +109,7 @@ private:
     void invalidateTimers();
     void expire();
     /// Whether the user is at something that needs the card although the pointer has left it.
-    bool isInUse() const { return drags_ > 0 || isSharing_; }
+    bool isInUse() const { return drags_ > 0 || isSharing_ || state_.marquee.value(); }
     void pauseCountdown();
     void resumeCountdown();
 

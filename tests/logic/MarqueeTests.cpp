@@ -84,6 +84,64 @@ TEST_F(MarqueeTest, AClickOnTheBackgroundClearsTheSelection) {
     EXPECT_THAT(selected(), IsEmpty());
 }
 
+TEST_F(MarqueeTest, ATileThatLeavesIsNotSelected) {
+    actions.close(shown[0]);
+    drag({{0, 0}, {400, 400}});
+    EXPECT_THAT(selected(), UnorderedElementsAre(shown[1]->id(), shown[2]->id()));
+}
+
+TEST_F(MarqueeTest, ACardThatLeavesHasNone) {
+    drag({{5, 5}, {50, 50}});
+    controller().dismiss();
+    drag({{5, 5}, {60, 60}});
+    EXPECT_EQ(state->marquee.value(), std::nullopt);
+    EXPECT_THAT(selected(), IsEmpty());
+}
+
+/// The same with a countdown of three seconds.
+class MarqueeCountdownTest : public MarqueeTest {
+protected:
+    MarqueeCountdownTest() {
+        settings.dismissAfter.set(3);
+        controller().show(shown[2]);
+        time.settle();
+    }
+};
+
+TEST_F(MarqueeCountdownTest, HoldsTheCountdown) {
+    drag({{5, 5}, {50, 50}});
+    wait(60);
+    EXPECT_TRUE(state->visible.value());
+    release();
+    wait(2.9);
+    EXPECT_TRUE(state->visible.value());
+    wait(0.2);
+    EXPECT_FALSE(state->visible.value());
+}
+
+TEST_F(MarqueeCountdownTest, HoldsItAlsoWhenThePointerLeavesTheCard) {
+    hover(true);
+    drag({{5, 5}, {50, 50}});
+    hover(false);
+    wait(60);
+    EXPECT_TRUE(state->visible.value());
+}
+
+TEST_F(MarqueeCountdownTest, ItsEndDoesNotStartTheCountdownUnderThePointer) {
+    hover(true);
+    drag({{5, 5}, {50, 50}});
+    release();
+    wait(60);
+    EXPECT_TRUE(state->visible.value());
+}
+
+TEST_F(MarqueeCountdownTest, ACaptureThatComesMeanwhileDoesNotStartTheCountdown) {
+    drag({{5, 5}, {50, 50}});
+    controller().show(capture("d"));
+    wait(60);
+    EXPECT_TRUE(state->visible.value());
+}
+
 TEST_F(MarqueeTest, AfterTheControllerHasGoneThePanelsRequestsDoNothing) {
     const auto onMarquee = panel.window->onMarquee;
     const auto onBackgroundClick = panel.window->onBackgroundClick;

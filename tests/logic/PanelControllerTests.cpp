@@ -42,6 +42,25 @@ TEST_F(PanelControllerTest, AnEqualCaptureMovesToTheEnd) {
     EXPECT_THAT(shownNames(), ElementsAre("b.png", "a.png"));
 }
 
+TEST_F(PanelControllerTest, AnEqualCaptureTakesTheSelectionAndThePinAlong) {
+    const auto first = show({"a", "b"}).front();
+    actions.toggleSelect(first);
+    actions.togglePin(first);
+    const auto again = show({"a"}).front();
+    ASSERT_NE(again->id(), first->id());
+    EXPECT_EQ(state->selected.value(), std::set{again->id()});
+    EXPECT_EQ(state->pinned.value(), std::set{again->id()});
+    show({"b"});
+    EXPECT_EQ(state->selected.value(), std::set{again->id()}) << "the other one was not selected";
+}
+
+TEST_F(PanelControllerTest, TheSameCaptureShownAgainStaysSelected) {
+    const auto first = show({"a", "b"}).front();
+    actions.toggleSelect(first);
+    controller().show(first);
+    EXPECT_EQ(state->selected.value(), std::set{first->id()});
+}
+
 TEST_F(PanelControllerTest, The41stCaptureDropsTheOldest) {
     std::vector<std::string> names;
     for (int i = 0; i < 41; ++i) names.push_back(std::to_string(i));
