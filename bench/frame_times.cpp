@@ -83,9 +83,10 @@ public:
     QObject* row() { return panel.window().findChild<QObject*>(QStringLiteral("tileRow")); }
 
     fakes::VirtualClock wallClock{time};
+    fakes::ManualScheduler scheduler{time};
     fakes::FakeDraggingSessions dragging;
     PanelState state;
-    CapturePanel panel{PanelModel::Context{state, settings, wallClock, dragging, {}}};
+    CapturePanel panel{PanelModel::Context{state, settings, wallClock, scheduler, dragging, {}}};
 
 private:
     static Rect visibleFrame() {

@@ -12,6 +12,7 @@ Item {
     opacity: presence.value
     scale: Appearance.reducesMotion ? 1 : 0.6 + 0.4 * presence.value
     visible: opacity > 0
+    enabled: isOffered
 
     Spring {
         id: presence

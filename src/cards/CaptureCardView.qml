@@ -33,6 +33,7 @@ FocusScope {
         row: row
     }
 
+    Keys.enabled: panel.isPresented
     Keys.onPressed: event => keys.handle(event)
 
     Spring {
@@ -58,6 +59,7 @@ FocusScope {
         height: high.value
         opacity: presence.value
         visible: view.panel.isPresented || presence.running
+        enabled: view.panel.isPresented
 
         ListSpring {
             id: wide
@@ -98,6 +100,7 @@ FocusScope {
             id: glass
 
             anchors.fill: parent
+            isSolid: view.panel.isPresented
             fill: view.panel.rendersPlain ? Qt.alpha(Appearance.windowBackground, 0.85)
                   : isBlurred ? Appearance.glassMaterial : Appearance.popoverMaterial
             borderWidth: view.panel.rendersPlain ? 0 : 1

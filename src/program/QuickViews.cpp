@@ -24,8 +24,9 @@ class QuickViews final : public Views {
 public:
     std::unique_ptr<PanelWindow> makePanel(Platform& platform, PanelState& state,
                                            Settings& settings, CardActions actions) override {
-        return std::make_unique<CapturePanel>(PanelModel::Context{
-            state, settings, *platform.clock, dragging_, std::move(actions), rendering(platform)});
+        return std::make_unique<CapturePanel>(
+            PanelModel::Context{state, settings, *platform.clock, *platform.scheduler, dragging_,
+                                std::move(actions), rendering(platform)});
     }
 
     std::unique_ptr<Window> makeSettingsWindow(Platform& platform, Settings& settings) override {

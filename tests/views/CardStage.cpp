@@ -46,7 +46,7 @@ void CardStage::recordRequests() {
 void CardStage::makeCard() {
     panel.reset();
     panel = std::make_unique<CapturePanel>(
-        PanelModel::Context{state, settings, clock, dragging, actions, rendering});
+        PanelModel::Context{state, settings, clock, scheduler, dragging, actions, rendering});
     panel->orderFrontRegardless();
     if (!QTest::qWaitForWindowExposed(&window())) throw std::runtime_error("no window came up");
     rest();

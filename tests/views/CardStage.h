@@ -26,7 +26,10 @@ public:
     void makeCard();
     /// Changes the captures and lets everything come to rest.
     void show(const std::vector<CapturePointer>& captures);
-    void rest() { frames.settle(); }
+    void rest() {
+        frames.settle();
+        time.advance(Seconds(4));
+    }
 
     QQuickWindow& window() const { return panel->window(); }
     QRectF glassFrame() const;
@@ -59,6 +62,7 @@ public:
 
     ManualFrames frames;
     fakes::VirtualClock clock{time};
+    fakes::ManualScheduler scheduler{time};
     PanelState state;
     fakes::FakeDraggingSessions dragging;
     std::vector<DragItem> dragItems;  ///< What a drag carries; empty: what it started from.

@@ -108,6 +108,50 @@ TEST_F(HostingViewTest, FurtherThanSixPointsItDrawsAMarquee) {
     EXPECT_EQ(backgroundClicks, 0);
 }
 
+TEST_F(HostingViewTest, AMarqueeEndsWithTheCard) {
+    showTwo();
+    press(background());
+    move(background() + QPointF(40, -40));
+    state.visible.set(false);
+    EXPECT_EQ(marquees.back(), std::nullopt);
+    const auto told = marquees.size();
+    move(background() + QPointF(60, -60));
+    release(background() + QPointF(60, -60));
+    EXPECT_EQ(marquees.size(), told);
+    EXPECT_EQ(backgroundClicks, 0);
+}
+
+TEST_F(HostingViewTest, APressWhoseReleaseNobodyTellsDrawsNoMarquee) {
+    showTwo();
+    press(background());
+    // As when the window was not on the screen at the release: the button is up.
+    const QPointF to = background() + QPointF(60, -60);
+    QMouseEvent moved(QEvent::MouseMove, to, window().mapToGlobal(to), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(&window(), &moved);
+    EXPECT_THAT(marquees, IsEmpty());
+    release(to);
+    EXPECT_EQ(backgroundClicks, 0);
+}
+
+TEST_F(HostingViewTest, ACardThatLeavesTakesNoClick) {
+    showTwo();
+    const QPointF onTile = frame(*tile(0)).center();
+    const QPointF onBackground = background();
+    state.visible.set(false);
+    for (const QPointF& point : {onTile, onBackground}) {
+        press(point);
+        release(point);
+    }
+    frames.advance(50);
+    for (const QPointF& point : {onTile, onBackground}) {
+        press(point);
+        release(point);
+    }
+    EXPECT_THAT(asked, IsEmpty());
+    EXPECT_EQ(backgroundClicks, 0);
+}
+
 TEST_F(HostingViewTest, APressOnAControlOrATileIsNotOnTheBackground) {
     showTwo();
     hover(*tile(0));

@@ -171,6 +171,16 @@ void CaptureListModel::announce(const QList<int>& roles) {
     if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1), roles);
 }
 
+int CaptureListModel::selectedCount() const {
+    return static_cast<int>(std::ranges::count_if(
+        captures_, [this](const auto& capture) { return selected_.contains(capture->id()); }));
+}
+
+CapturePointer CaptureListModel::present(const QString& captureId) const {
+    const auto found = capture(captureId);
+    return found && positionOf(found->id()) >= 0 ? found : nullptr;
+}
+
 CapturePointer CaptureListModel::capture(const QString& captureId) const {
     const auto found = std::ranges::find(rows_, captureId.toStdString(),
                                          [](const Row& row) { return row.capture->id().text(); });

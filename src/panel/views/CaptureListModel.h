@@ -54,6 +54,10 @@ public:
 
     /// Null when no row has that identifier.
     CapturePointer capture(const QString& captureId) const;
+    /// The same; null as well for a capture that leaves.
+    CapturePointer present(const QString& captureId) const;
+    /// How many of those that stay are selected.
+    int selectedCount() const;
     /// Those that stay.
     const std::vector<CapturePointer>& captures() const { return captures_; }
 

@@ -60,8 +60,10 @@ CapturePanel::CapturePanel(PanelModel::Context context) : model_(std::move(conte
         if (onBackgroundClick) onBackgroundClick();
     };
     container_ = std::make_unique<PassthroughContainerView>(*view_);
-    QObject::connect(&model_, &PanelModel::isPresentedChanged, view_.get(),
-                     [this] { letGoOfKeyboard(); });
+    pressFilter_ = std::make_unique<PressFilter>(*view_, *container_, model_);
+    QObject::connect(&model_, &PanelModel::isPresentedChanged, view_.get(), [this] {
+        if (!model_.isPresented()) cardLeaves();
+    });
 }
 
 CapturePanel::~CapturePanel() = default;
@@ -105,8 +107,9 @@ void CapturePanel::takeKeyboard() {
     QMetaObject::invokeMethod(view_->rootObject(), "focusNewest");
 }
 
-void CapturePanel::letGoOfKeyboard() {
-    if (!model_.isPresented()) overlay_->giveBackKeyboard();
+void CapturePanel::cardLeaves() {
+    view_->endMarquee();
+    overlay_->giveBackKeyboard();
 }
 
 std::optional<std::string> CapturePanel::glassFrameDescription() const {

@@ -5,6 +5,7 @@
 #include "panel/views/FirstMouseHostingView.h"
 #include "panel/views/PanelModel.h"
 #include "panel/views/PassthroughContainerView.h"
+#include "panel/views/PressFilter.h"
 #include "platform/PanelWindow.h"
 #include "platform/qt/Overlay.h"
 
@@ -31,12 +32,14 @@ public:
 
 private:
     std::unique_ptr<FirstMouseHostingView> makeView();
-    /// Once the card goes, the keyboard goes back where it came from.
-    void letGoOfKeyboard();
+    /// Nothing of what the user was doing with the card is left, and the keyboard goes back where
+    /// it came from.
+    void cardLeaves();
 
     PanelModel model_;
     std::unique_ptr<FirstMouseHostingView> view_;
     std::unique_ptr<PassthroughContainerView> container_;
+    std::unique_ptr<PressFilter> pressFilter_;
     std::unique_ptr<Overlay> overlay_;
 };
 

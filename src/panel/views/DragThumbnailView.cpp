@@ -42,6 +42,11 @@ void DragThumbnailView::mousePressEvent(QMouseEvent* event) {
     Debug::log([this] { return "thumb mouseDown " + fileName_.toStdString(); });
     mouseDownPoint_ = event->scenePosition();
     dragging_ = false;
+    isSecondClick_ = false;
+}
+
+void DragThumbnailView::mouseDoubleClickEvent(QMouseEvent*) {
+    isSecondClick_ = true;
 }
 
 void DragThumbnailView::mouseMoveEvent(QMouseEvent* event) {
@@ -104,7 +109,7 @@ void DragThumbnailView::mouseReleaseEvent(QMouseEvent* event) {
     const bool toggles = event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
     if (toggles)
         emit toggleSelect();
-    else
+    else if (!isSecondClick_)
         emit click();
 }
 

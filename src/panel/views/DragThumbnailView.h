@@ -33,6 +33,7 @@ public:
 
 signals:
     void changed();
+    /// A double-click is one, too.
     void click();
     /// A click with the key that adds to a selection.
     void toggleSelect();
@@ -40,6 +41,7 @@ signals:
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseUngrabEvent() override;
 
@@ -54,6 +56,7 @@ private:
     QString fileName_;
     std::optional<QPointF> mouseDownPoint_;  ///< In the window; absent when nothing is pressed.
     bool dragging_ = false;
+    bool isSecondClick_ = false;  ///< The press that is going on is the second of a double-click.
 };
 
 }  // namespace vantle

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "panel/views/DisplayText.h"
 #include "support/Debug.h"
@@ -55,6 +56,8 @@ void FirstMouseHostingView::mouseDown(const QMouseEvent& event) {
 
 void FirstMouseHostingView::mouseDragged(const QMouseEvent& event) {
     if (!downPoint_) return;
+    // A window that was not there at the release was not told of it.
+    if (!(event.buttons() & Qt::LeftButton)) return endMarquee();
     const QPointF way = event.scenePosition() - *downPoint_;
     if (!marqueeActive_ && !(std::hypot(way.x(), way.y()) > marqueeThreshold)) return;
     marqueeActive_ = true;
@@ -63,12 +66,13 @@ void FirstMouseHostingView::mouseDragged(const QMouseEvent& event) {
 
 void FirstMouseHostingView::mouseUp(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton) return;
-    if (marqueeActive_)
-        tellMarquee(std::nullopt);
-    else if (downPoint_ && onBackgroundClick)
-        onBackgroundClick();
+    if (downPoint_ && !marqueeActive_ && onBackgroundClick) onBackgroundClick();
+    endMarquee();
+}
+
+void FirstMouseHostingView::endMarquee() {
     downPoint_.reset();
-    marqueeActive_ = false;
+    if (std::exchange(marqueeActive_, false)) tellMarquee(std::nullopt);
 }
 
 void FirstMouseHostingView::tellMarquee(const std::optional<Rect>& rect) const {

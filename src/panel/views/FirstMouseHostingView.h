@@ -20,6 +20,9 @@ public:
     /// Shows the card of `panel`, which outlives it.
     void loadCard(PanelModel& panel);
 
+    /// Ends the rubber band that is being drawn, if there is one, before the button is released.
+    void endMarquee();
+
     /// Called with the rubber band while one is drawn, and with nothing when it ends.
     std::function<void(const std::optional<Rect>&)> onMarquee;
     /// Called when a click on the background ends.

@@ -12,6 +12,8 @@ class GlassBackdropView : public vantle::PlateView {  // in full: the linter rea
     Q_OBJECT
     QML_ELEMENT
 
+    /// Whether the presses that it catches count; those on a card that leaves do not.
+    Q_PROPERTY(bool isSolid MEMBER isSolid_ NOTIFY isSolidChanged)
     /// Whether the compositor blurs what is behind it; set by the window that it stands in.
     Q_PROPERTY(bool isBlurred READ isBlurred NOTIFY isBlurredChanged)
 
@@ -20,6 +22,7 @@ public:
 
     explicit GlassBackdropView(QQuickItem* parent = nullptr);
 
+    bool isSolid() const { return isSolid_; }
     bool isBlurred() const { return isBlurred_; }
     void setBlurred(bool isBlurred);
 
@@ -30,9 +33,11 @@ public:
     QString debugFrameDescription() const;
 
 signals:
+    void isSolidChanged();
     void isBlurredChanged();
 
 private:
+    bool isSolid_ = true;
     bool isBlurred_ = false;
 };
 

@@ -36,7 +36,6 @@ void PanelModel::observeCaptures() {
         state.copiedID.observe([this](const auto& copied) { captures_.setCopied(copied); }));
     subscriptions_.push_back(state.selected.observe([this](const auto& selected) {
         captures_.setSelected(selected);
-        selectedCount_ = static_cast<int>(selected.size());
         emit selectedCountChanged();
     }));
 }
@@ -80,6 +79,7 @@ void PanelModel::setCaptures(const std::vector<CapturePointer>& captures) {
         emit listAnimationChanged();
         captures_.setCaptures(captures);
         emit countChanged();
+        emit selectedCountChanged();
         emit subtitleChanged();
     }
     emit isPresentedChanged();
@@ -156,8 +156,12 @@ void PanelModel::dragEnded(bool completed, const std::vector<Url>& urls) {
     context_.actions.dragEnded(completed, urls);
 }
 
+CapturePointer PanelModel::present(const QString& captureId) const {
+    return isPresented() ? captures_.present(captureId) : nullptr;
+}
+
 void PanelModel::perform(const CardActions::OnCapture& action, const QString& captureId) {
-    if (const auto capture = captures_.capture(captureId)) action(capture);
+    if (const auto capture = present(captureId)) action(capture);
 }
 
 void PanelModel::close(const QString& captureId) {
@@ -184,7 +188,7 @@ void PanelModel::reveal(const QString& captureId) {
 
 void PanelModel::share(const QString& captureId, const QRectF& anchor) {
     const Rect frame{{anchor.x(), anchor.y()}, {anchor.width(), anchor.height()}};
-    if (const auto capture = captures_.capture(captureId)) context_.actions.share(capture, frame);
+    if (const auto capture = present(captureId)) context_.actions.share(capture, frame);
 }
 
 void PanelModel::trash(const QString& captureId) {

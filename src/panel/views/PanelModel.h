@@ -12,6 +12,7 @@
 #include "panel/PanelState.h"
 #include "panel/views/CaptureListModel.h"
 #include "panel/views/dragging/DraggingSession.h"
+#include "platform/Scheduler.h"
 #include "platform/WallClock.h"
 #include "settings/Settings.h"
 #include "support/Subscription.h"
@@ -42,6 +43,7 @@ class PanelModel : public QObject, private QAccessible::ActivationObserver {
     /// Whether there is a card: the panel is visible and has something to show.
     Q_PROPERTY(bool isPresented READ isPresented NOTIFY isPresentedChanged)
     Q_PROPERTY(bool hovering READ isHovering NOTIFY hoveringChanged)
+    /// The captures on the card that are selected.
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectedCountChanged)
     Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
     /// Whether captures of the card are being dragged at the moment.
@@ -65,6 +67,7 @@ public:
         PanelState& state;
         Settings& settings;
         const WallClock& clock;
+        const Scheduler& scheduler;
         DraggingSessions& dragging;
         CardActions actions;
         Rendering rendering = Rendering::glass;
@@ -84,7 +87,7 @@ public:
     QString subtitle() const;
     bool isPresented() const { return visible_ && !isEmpty_; }
     bool isHovering() const { return hovering_; }
-    int selectedCount() const { return selectedCount_; }
+    int selectedCount() const { return captures_.selectedCount(); }
     double progress() const { return progress_; }
     bool isDragging() const { return isDragging_; }
     bool hasMarquee() const { return marquee_.has_value(); }
@@ -100,6 +103,8 @@ public:
     /// The card is gone from the screen: lets go of what it showed.
     void cardHasLeft();
 
+    /// On the clock that only moves forward.
+    Instant now() const { return context_.scheduler.now(); }
     DraggingSessions& draggingSessions() { return context_.dragging; }
     /// What a drag from that capture carries; its own file at least, while its tile is there.
     std::vector<DragItem> dragItems(const QString& captureId) const;
@@ -147,6 +152,8 @@ private:
     void observePresence();
     void setCaptures(const std::vector<CapturePointer>& captures);
     void setDragging(bool isDragging);
+    /// Null for one that has left or is leaving: nothing can be done with it any more.
+    CapturePointer present(const QString& captureId) const;
     void perform(const CardActions::OnCapture& action, const QString& captureId);
     const Capture* onlyCapture() const;
 
@@ -158,7 +165,6 @@ private:
     bool isEmpty_ = true;
     bool hovering_ = false;
     bool isDragging_ = false;
-    int selectedCount_ = 0;
     double progress_ = 1;
     double dismissAfter_ = 0;
     std::optional<Rect> marquee_;

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QMouseEvent>
 #include <QQuickItem>
+#include <algorithm>
 
 #include "panel/views/DisplayText.h"
 #include "panel/views/RoundedShape.h"
@@ -23,14 +24,22 @@ QRegion shapeOf(const GlassBackdropView& glass) {
     return {outline.toFillPolygon().toPolygon()};
 }
 
+/// The items in `item`, the topmost first.
+QList<QQuickItem*> stackedChildren(const QQuickItem& item) {
+    QList<QQuickItem*> children = item.childItems();
+    std::ranges::stable_sort(children, {}, &QQuickItem::z);
+    std::ranges::reverse(children);
+    return children;
+}
+
 /// The topmost item below `item` that takes clicks at that point of the scene; null when there is
 /// none.
 QQuickItem* topmost(const QQuickItem& item, const QPointF& point) {
     // Neither where an item is cut off.
     if (item.clip() && !item.contains(item.mapFromScene(point))) return nullptr;
-    const auto children = item.childItems();
-    for (auto child = children.rbegin(); child != children.rend(); ++child) {
-        if (!(*child)->isVisible()) continue;
+    const auto children = stackedChildren(item);
+    for (auto child = children.begin(); child != children.end(); ++child) {
+        if (!(*child)->isVisible() || !(*child)->isEnabled()) continue;
         if (QQuickItem* found = topmost(**child, point)) return found;
         if ((*child)->acceptedMouseButtons() && (*child)->contains((*child)->mapFromScene(point)))
             return *child;
@@ -72,17 +81,19 @@ GlassBackdropView* PassthroughContainerView::visibleGlass() const {
     return glass && glass->isVisible() ? glass : nullptr;
 }
 
-QQuickItem* PassthroughContainerView::hitTest(const QPointF& point) const {
+QQuickItem* PassthroughContainerView::itemAt(const QPointF& point) const {
     const GlassBackdropView* glass = visibleGlass();
-    if (!glass) return nullptr;
-    if (!frameOf(*glass).contains(point)) {
-        if (Debug::on()) logPassThrough(point, frameOf(*glass));
-        return nullptr;
-    }
+    if (!glass || !glass->isSolid() || !frameOf(*glass).contains(point)) return nullptr;
     QQuickItem* background = window_.contentItem();
     QQuickItem* control = topmost(*background, point);
-    QQuickItem* found = control ? control : background;
-    if (Debug::on()) logHit(point, *found);
+    return control ? control : background;
+}
+
+QQuickItem* PassthroughContainerView::hitTest(const QPointF& point) const {
+    QQuickItem* found = itemAt(point);
+    const GlassBackdropView* glass = visibleGlass();
+    if (Debug::on() && found) logHit(point, *found);
+    if (Debug::on() && !found && glass) logPassThrough(point, frameOf(*glass));
     return found;
 }
 
@@ -101,7 +112,8 @@ void PassthroughContainerView::follow(Repeat repeat) {
     const QRect frame = glass ? frameOf(*glass).toAlignedRect() : QRect();
     if (!window_.isExposed() || (repeat == Repeat::whenChanged && frame == glassFrame_)) return;
     glassFrame_ = frame;
-    inputRegion_.set(frame);
+    // Where a card leaves, the second click of a double-click is to reach nobody else.
+    if (!glass || glass->isSolid()) inputRegion_.set(frame);
     const QRegion shape = glass ? shapeOf(*glass) : QRegion();
     cutOut(glass, shape);
     if (repeat == Repeat::always) blurIsOffered_ = blurBehindIsOffered();

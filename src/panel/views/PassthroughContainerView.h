@@ -23,8 +23,11 @@ public:
     /// The glass that can be seen in the window; null when there is none.
     GlassBackdropView* visibleGlass() const;
 
-    /// What takes a click at a point of the window; null where it falls through.
+    /// What takes a click at a point of the window; null where it falls through, and where a card
+    /// that leaves takes it and does nothing. It logs both while debugging.
     QQuickItem* hitTest(const QPointF& point) const;
+    /// The same without a word in the log.
+    QQuickItem* itemAt(const QPointF& point) const;
 
 protected:
     /// Drops the presses that fall through, where the window system delivers them nevertheless.

@@ -1,0 +1,102 @@
+#include "panel/views/PressFilter.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QPointerEvent>
+#include <QQuickItem>
+#include <QStyleHints>
+#include <optional>
+#include <utility>
+
+#include "platform/wayland/Connection.h"
+#include "support/Debug.h"
+
+namespace vantle {
+namespace {
+
+PressGuard::Limits limitsOfDesktop() {
+    const QStyleHints& hints = *QGuiApplication::styleHints();
+    return {.interval = std::chrono::milliseconds(hints.mouseDoubleClickInterval()),
+            .distance = static_cast<double>(hints.mouseDoubleClickDistance())};
+}
+
+/// Where it is on the screen, if that is known while it is not over a window of ours.
+std::optional<Point> pointer() {
+    if (wayland::display()) return std::nullopt;
+    const QPointF position = QCursor::pos();
+    return Point{position.x(), position.y()};
+}
+
+Point onScreen(const QPointerEvent& event) {
+    const QPointF position = event.points().front().globalPosition();
+    return {position.x(), position.y()};
+}
+
+}  // namespace
+
+PressFilter::PressFilter(QQuickWindow& window, const PassthroughContainerView& container,
+                         PanelModel& panel)
+    : window_(window), container_(container), panel_(panel), guard_(limitsOfDesktop()) {
+    window.installEventFilter(this);
+    connect(&window, &QQuickWindow::afterAnimating, this, [this] { followFrame(); });
+    const auto contentChanges = [this] { guard_.contentChanges(panel_.now(), pointer()); };
+    connect(&panel, &PanelModel::countChanged, this, contentChanges);
+    connect(&panel, &PanelModel::selectedCountChanged, this, contentChanges);
+    connect(&panel, &PanelModel::isPresentedChanged, this, contentChanges);
+}
+
+bool PressFilter::eventFilter(QObject*, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::Enter:
+        case QEvent::MouseMove:
+            followPointer(static_cast<const QPointerEvent&>(*event),
+                          event->type() == QEvent::Enter);
+            return false;
+        case QEvent::Leave:
+            pointer_.reset();
+            return false;
+        case QEvent::MouseButtonPress:
+        case QEvent::TouchBegin:
+            isKept_ = !isMeant(static_cast<const QPointerEvent&>(*event));
+            return isKept_;
+        case QEvent::MouseButtonDblClick:
+        case QEvent::TouchUpdate:
+            return isKept_;
+        case QEvent::MouseButtonRelease:
+        case QEvent::TouchEnd:
+        case QEvent::TouchCancel:
+            return std::exchange(isKept_, false);
+        default:
+            return false;
+    }
+}
+
+void PressFilter::followPointer(const QPointerEvent& event, bool enters) {
+    pointer_ = event.points().front().scenePosition();
+    if (enters)
+        guard_.pointerEnters(onScreen(event), targetAt(*pointer_), panel_.now());
+    else
+        guard_.pointerMoves(onScreen(event), targetAt(*pointer_));
+}
+
+void PressFilter::followFrame() {
+    if (pointer_) guard_.targetBecomes(targetAt(*pointer_), panel_.now());
+}
+
+bool PressFilter::isMeant(const QPointerEvent& event) {
+    const QPointF point = event.points().front().scenePosition();
+    const bool isMeant = guard_.allowsPress(onScreen(event), targetAt(point), panel_.now());
+    if (!isMeant) Debug::log([] { return "press on what has just moved there is not taken"; });
+    return isMeant;
+}
+
+std::string PressFilter::targetAt(const QPointF& point) const {
+    const QQuickItem* hit = container_.itemAt(point);
+    for (const QQuickItem* item = hit; item; item = item->parentItem()) {
+        const QVariant captureId = item->property("captureId");
+        if (captureId.isValid()) return captureId.toString().toStdString();
+    }
+    return hit ? std::to_string(reinterpret_cast<quintptr>(hit)) : std::string();
+}
+
+}  // namespace vantle

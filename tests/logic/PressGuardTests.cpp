@@ -1,0 +1,151 @@
+#include <gtest/gtest.h>
+
+#include "panel/PressGuard.h"
+
+namespace vantle {
+namespace {
+
+/// A pointer that rests on the first of two neighbours, the card being at rest for long.
+class PressGuardTest : public testing::Test {
+protected:
+    static constexpr Point place{100, 100};
+
+    PressGuardTest() {
+        guard.pointerEnters({90, 100}, "first", now);
+        guard.pointerMoves(place, "first");
+    }
+
+    void wait(double seconds) { now += Seconds(seconds); }
+    bool press(const std::string& target, const Point& point = place) {
+        return guard.allowsPress(point, target, now);
+    }
+    /// The first one leaves, and its neighbour is under the pointer a little later.
+    void slideSecondUnder(double after = 0.1) {
+        guard.contentChanges(now);
+        wait(after);
+        guard.targetBecomes("second", now);
+    }
+
+    Instant now{Seconds(1000)};
+    PressGuard guard{{.interval = Seconds(0.4), .distance = 5}};
+};
+
+TEST_F(PressGuardTest, APressWherePointerHasComeIsMeant) {
+    EXPECT_TRUE(press("first"));
+}
+
+TEST_F(PressGuardTest, WhatHasSlidUnderThePointerTakesNoPressForTheTimeOfADoubleClick) {
+    slideSecondUnder();
+    EXPECT_FALSE(press("second"));
+    wait(0.39);
+    EXPECT_FALSE(press("second"));
+    wait(0.02);
+    EXPECT_TRUE(press("second"));
+}
+
+TEST_F(PressGuardTest, TheSecondOfTwoClicksHalfASecondApartIsNotMeantForTheNeighbour) {
+    for (const double gap : {0.2, 0.3, 0.4, 0.5}) {
+        SCOPED_TRACE(gap);
+        wait(10);
+        guard.targetBecomes("first", now);
+        guard.pointerMoves({0, 0}, "");
+        guard.pointerMoves(place, "first");
+        EXPECT_TRUE(press("first"));
+        slideSecondUnder(0.15);
+        wait(gap - 0.15);
+        EXPECT_FALSE(press("second"));
+    }
+}
+
+TEST_F(PressGuardTest, AfterThePointerHasMovedThePressIsMeant) {
+    slideSecondUnder();
+    guard.pointerMoves({106, 100}, "second");
+    EXPECT_TRUE(press("second", {106, 100}));
+}
+
+TEST_F(PressGuardTest, AHandThatShakesHasNotMovedThePointer) {
+    slideSecondUnder();
+    guard.pointerMoves({104, 102}, "second");
+    guard.pointerMoves({98, 101}, "second");
+    EXPECT_FALSE(press("second", {98, 101}));
+}
+
+TEST_F(PressGuardTest, ThatHandMayShakeAcrossAnEdge) {
+    guard.contentChanges(now);
+    guard.pointerMoves({103, 100}, "second");
+    EXPECT_TRUE(press("second", {103, 100})) << "it was the pointer that went there";
+}
+
+TEST_F(PressGuardTest, WhatStaysUnderThePointerTakesPressesWhileOthersMove) {
+    guard.contentChanges(now);
+    guard.targetBecomes("first", now);
+    EXPECT_TRUE(press("first"));
+}
+
+TEST_F(PressGuardTest, WhatComesBecauseThePointerIsThereTakesPresses) {
+    wait(5);
+    guard.targetBecomes("button", now);
+    EXPECT_TRUE(press("button"));
+}
+
+TEST_F(PressGuardTest, ACardThatComesUnderThePointerTakesNoPressAtOnce) {
+    guard.contentChanges(now);
+    wait(0.3);
+    guard.pointerEnters({300, 300}, "first", now);
+    EXPECT_FALSE(press("first", {300, 300}));
+    wait(0.5);
+    EXPECT_TRUE(press("first", {300, 300}));
+}
+
+TEST_F(PressGuardTest, APointerThatComesFromElsewhereAtThatMomentIsMeant) {
+    guard.contentChanges(now, Point{10, 10});
+    wait(0.3);
+    guard.pointerEnters({300, 300}, "first", now);
+    EXPECT_TRUE(press("first", {300, 300}));
+}
+
+TEST_F(PressGuardTest, ACardThatComesUnderAPointerWhosePlaceIsKnownTakesNoPressAtOnce) {
+    guard.contentChanges(now, Point{300, 301});
+    wait(0.3);
+    guard.pointerEnters({300, 300}, "first", now);
+    EXPECT_FALSE(press("first", {300, 300}));
+}
+
+TEST_F(PressGuardTest, ACardThatStandsTakesThePressOfAPointerThatComes) {
+    guard.contentChanges(now);
+    wait(2);
+    guard.pointerEnters({300, 300}, "first", now);
+    EXPECT_TRUE(press("first", {300, 300}));
+}
+
+TEST_F(PressGuardTest, TheSecondClickOfADoubleClickIsNeverOneOnSomethingElse) {
+    EXPECT_TRUE(press("first"));
+    wait(0.2);
+    // Nothing has told that the content changes.
+    EXPECT_FALSE(press("second", {102, 100}));
+}
+
+TEST_F(PressGuardTest, TheSecondClickOfADoubleClickOnTheSameThingIsMeant) {
+    EXPECT_TRUE(press("first"));
+    wait(0.2);
+    EXPECT_TRUE(press("first"));
+}
+
+TEST_F(PressGuardTest, TwoClicksInDifferentPlacesAreNoDoubleClick) {
+    EXPECT_TRUE(press("first"));
+    wait(0.1);
+    EXPECT_TRUE(press("second", {120, 100}));
+}
+
+TEST_F(PressGuardTest, AChangeThatTheNextFrameIsToShowCountsAsWell) {
+    guard.contentChanges(now);
+    EXPECT_FALSE(press("second"));
+}
+
+TEST_F(PressGuardTest, APressWithoutAPointerThatMovedThereIsMeant) {
+    guard.contentChanges(now);
+    EXPECT_TRUE(press("second", {300, 20})) << "a finger";
+}
+
+}  // namespace
+}  // namespace vantle
