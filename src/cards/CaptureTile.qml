@@ -34,7 +34,7 @@ FocusScope {
     // Forty captures have no need of forty times six buttons that nobody looks for.
     property bool hasControls
     readonly property bool compact: panel.count >= 2
-    readonly property bool hovering: bar.isHovered || (hover.hovered && !isCovered)
+    readonly property bool hovering: bar.isHovered || closeHover.hovered || (hover.hovered && !isCovered)
     // Whether the pointer is on another tile's actions, which reach over this one.
     property bool isCovered: false
     readonly property bool isActionsHovered: bar.isHovered
@@ -172,15 +172,25 @@ FocusScope {
         }
     }
 
-    Loader {
-        id: close
-
+    // The pointer on the disc that overhangs the tile is a pointer on the tile, also before the disc
+    // is there.
+    Item {
         x: -8
         y: -8
-        active: tile.hasControls
-        sourceComponent: CloseButton {
-            isOffered: tile.isAttended && !tile.isSelected
-            onTapped: tile.panel.close(tile.captureId)
+        width: 22
+        height: 22
+        containmentMask: Disc { radius: 11 }
+
+        HoverHandler {
+            id: closeHover
+        }
+
+        Loader {
+            active: tile.hasControls
+            sourceComponent: CloseButton {
+                isOffered: tile.isAttended && !tile.isSelected
+                onTapped: tile.panel.close(tile.captureId)
+            }
         }
     }
 

@@ -35,11 +35,7 @@ Appearing {
 
         name: qsTr("Dismiss")
         radius: 13
-        containmentMask: QtObject {
-            function contains(point: point): bool {
-                return Math.hypot(point.x - 11, point.y - 11) <= 11;
-            }
-        }
+        containmentMask: Disc { radius: 11 }
         onTapped: button.tapped()
     }
 }

@@ -16,6 +16,7 @@ Item {
     height: actions.height + 2 * 3
     opacity: presence.value
     visible: opacity > 0
+    enabled: isOffered
 
     transform: Translate {
         y: Appearance.reducesMotion ? 0 : (1 - presence.value) * 16
@@ -35,6 +36,8 @@ Item {
         cornerRadius: height / 2
         fill: Qt.rgba(0, 0, 0, 0.55)
     }
+
+    PressCatcher {}
 
     TileActions {
         id: actions

@@ -39,9 +39,12 @@ Item {
         borderColor: Qt.rgba(1, 1, 1, 0.35)
     }
 
+    PressCatcher {}
+
     Row {
         id: row
 
+        enabled: bar.panel.selectedCount > 0
         topPadding: 2
         bottomPadding: 2
         rightPadding: 2

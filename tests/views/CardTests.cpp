@@ -229,6 +229,39 @@ TEST_F(CardTest, WithOneSelectedCaptureTheBarReads1Selected) {
     EXPECT_EQ(words(), "2 selected") << "while it fades out";
 }
 
+TEST_F(CardTest, OnlyCapturesOfTheCardCountAsSelected) {
+    const auto a = capture("a");
+    const auto b = capture("b");
+    show({a, b});
+    makeCard();
+    state.selected.set({capture("gone")->id()});
+    rest();
+    EXPECT_FALSE(item("SelectionBar")->isVisible());
+    state.selected.set({a->id(), capture("gone")->id()});
+    rest();
+    EXPECT_EQ(text(item("QQuickText", item("SelectionBar")), "text"), "1 selected");
+    show({b});
+    EXPECT_FALSE(item("SelectionBar")->isVisible());
+}
+
+TEST_F(CardTest, TheSelectionBarTakesThePressesOnItsPlate) {
+    const auto a = capture("a");
+    const auto b = capture("b");
+    show({a, b});
+    state.selected.set({a->id()});
+    makeCard();
+    int backgroundClicks = 0;
+    panel->onBackgroundClick = [&] { ++backgroundClicks; };
+    const QRectF bar = frame(*item("SelectionBar"));
+    for (const QPointF point : {QPointF(bar.left() + 20, bar.center().y()),
+                                QPointF(bar.center().x(), bar.bottom() - 1)}) {
+        hover(point);
+        click(point);
+    }
+    EXPECT_THAT(asked, IsEmpty());
+    EXPECT_EQ(backgroundClicks, 0);
+}
+
 TEST_F(CardTest, TheSelectionBarsButtonsAskForAllThatIsSelected) {
     const auto a = capture("a");
     show({a, capture("b")});
@@ -292,7 +325,7 @@ TEST_F(CardTest, WithDebuggingOffTappingClearAllWritesNothing) {
 }
 
 TEST_F(CardTest, TheModelKeepsWhatIsAnnouncedBeforeItIsStored) {
-    PanelModel model({state, settings, clock, dragging, actions});
+    PanelModel model({state, settings, clock, scheduler, dragging, actions});
     bool seen = false;
     state.captures.set(captures(1));
     state.visible.set(false);

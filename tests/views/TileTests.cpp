@@ -113,6 +113,34 @@ TEST_F(TileTest, TheCloseButtonOverhangsTheTileUnderThePointer) {
     EXPECT_THAT(asked, ElementsAre("close a.png"));
 }
 
+TEST_F(TileTest, ThePointerOnTheDiscOutsideTheTileIsOneOnTheTile) {
+    showTwo();
+    const QPointF disc = frame(*tile(0)).topLeft() + QPointF(3, 3);
+    for (const QPointF offset : {QPointF(-8, 0), QPointF(0, -8), QPointF(-6, -6), QPointF(6, -6)}) {
+        SCOPED_TRACE(testing::Message() << offset.x() << ", " << offset.y());
+        asked.clear();
+        hover(disc + offset);
+        EXPECT_TRUE(isSeen("CloseButton", 0));
+        click(disc + offset);
+        EXPECT_THAT(asked, ElementsAre("close a.png"));
+    }
+    hover(disc + QPointF(-9, -9));
+    EXPECT_FALSE(isSeen("CloseButton", 0)) << "beside the disc";
+}
+
+TEST_F(TileTest, TheRimOfTheHoverBarTakesPresses) {
+    showTwo();
+    hover(*tile(0));
+    const QRectF bar = frame(*item("HoverBar", tile(0)));
+    for (const QPointF point :
+         {QPointF(bar.center().x(), bar.top() + 1), QPointF(bar.center().x(), bar.bottom() - 1),
+          QPointF(bar.left() + 3, bar.center().y()), QPointF(bar.right() - 3, bar.center().y())}) {
+        hover(point);
+        click(point);
+        EXPECT_THAT(asked, IsEmpty()) << point.x() << ", " << point.y();
+    }
+}
+
 TEST_F(TileTest, TheCloseButtonsCornersBelongToTheThumbnail) {
     showTwo();
     hover(*tile(0));
