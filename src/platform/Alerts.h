@@ -26,8 +26,9 @@ public:
     virtual ~Alerts() = default;
 
     /// Shows the alert before all other windows and returns when it was answered. Meanwhile the run
-    /// loop goes on, and the program's other ordinary windows take no input. Where the program ends
-    /// without an answer, it is the last button's.
+    /// loop goes on; the card and the program's other windows can be used, and one that the user
+    /// asks for comes before the alert. Where the program ends without an answer, it is the last
+    /// button's.
     virtual int runModal(const Alert& alert) = 0;
 };
 

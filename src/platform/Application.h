@@ -40,7 +40,8 @@ public:
     /// need anotherCopyIsRunning() before it, nor a display.
     virtual Result<std::string> ask(const ApplicationRequest& request) = 0;
 
-    /// Brings the windows of this copy before those of all other programs.
+    /// Brings the window of this copy that was in front of its others before those of all other
+    /// programs. It does nothing where the user sees none of them.
     virtual void activate() = 0;
 
     /// Ends the run loop; the process then ends in order.

@@ -1,17 +1,25 @@
 #pragma once
 
 #include <QString>
-#include <QWindow>
+#include <QVariantMap>
 
 namespace vantle {
 
-/// Keeps what the desktop hands over when the user has asked it for something of this program: in
-/// its tray, or in a launcher. It lets the next window that is brought to the front pass those in
-/// front of it. An empty one is none. Main thread only.
+/// What the desktop hands over when the user has asked it for something of this program: in its
+/// tray, in a launcher, or by a start of the program. It lets the next window that is brought to
+/// the front pass those of other programs. Main thread only.
+
+/// Keeps a token for the next window. An empty one is none.
 void keepActivationToken(const QString& token);
 
-/// Brings a window that is shown above all others and gives it the keyboard, as far as the desktop
-/// allows. Takes the token that is kept.
-void bringToFront(QWindow& window);
+/// The token that is kept, which is used with that.
+QString takeActivationToken();
+
+/// What the desktop gave this copy with its start, as org.freedesktop.Application passes it on
+/// ("platform data"). It has to be read before the toolkit starts, which takes a part of it away.
+QVariantMap platformDataOfThisStart();
+
+/// The token in such data; empty where there is none.
+QString activationToken(const QVariantMap& platformData);
 
 }  // namespace vantle

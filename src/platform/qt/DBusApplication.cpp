@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "platform/qt/ActivationToken.h"
+#include "platform/qt/FrontWindow.h"
 #include "support/Localization.h"
 #include "support/SystemLog.h"
 #include "support/Url.h"
@@ -67,16 +68,6 @@ QDBusMessage requestName(const QString& name) {
     return ask(message);
 }
 
-/// What lets the other copy take the focus: the desktop gave it to this one with its start.
-QVariantMap platformData() {
-    QVariantMap data;
-    for (const auto& [variable, key] : {std::pair{"XDG_ACTIVATION_TOKEN", "activation-token"},
-                                        std::pair{"DESKTOP_STARTUP_ID", "desktop-startup-id"}})
-        if (qEnvironmentVariableIsSet(variable))
-            data.insert(QString::fromLatin1(key), qEnvironmentVariable(variable));
-    return data;
-}
-
 }  // namespace
 
 /// What other copies and the desktop's launcher talk to.
@@ -104,7 +95,7 @@ public:
 
 public slots:
     void Activate(const QVariantMap& platformData) {
-        keepToken(platformData);
+        keepActivationToken(activationToken(platformData));
         object_.activated();
     }
     void Open(const QStringList& addresses, const QVariantMap&) {
@@ -116,17 +107,11 @@ public slots:
     }
     void ActivateAction(const QString& action, const QVariantList&,
                         const QVariantMap& platformData) {
-        keepToken(platformData);
+        keepActivationToken(activationToken(platformData));
         object_.perform({action.toStdString(), {}});
     }
 
 private:
-    static void keepToken(const QVariantMap& platformData) {
-        const auto older = platformData.value(QStringLiteral("desktop-startup-id"));
-        keepActivationToken(
-            platformData.value(QStringLiteral("activation-token"), older).toString());
-    }
-
     DBusApplication::BusObject& object_;
 };
 
@@ -146,6 +131,8 @@ public slots:
             request.arguments.push_back(argument.toStdString());
         return object_.perform(request);
     }
+    /// For what is asked next. A copy of another version may not know it, so nobody waits for it.
+    Q_NOREPLY void UseActivationToken(const QString& token) { keepActivationToken(token); }
 
 private:
     DBusApplication::BusObject& object_;
@@ -160,6 +147,8 @@ DBusApplication::BusObject::BusObject(DBusApplication& application) : applicatio
 QString DBusApplication::BusObject::perform(const ApplicationRequest& request) {
     application_.causeOfLaunch_ = QDeadlineTimer(0);
     const auto answer = application_.perform(request);
+    // It was for this and for nothing else.
+    takeActivationToken();
     if (answer) return QString::fromStdString(answer.value());
     const std::string& reason = answer.failure().message;
     systemLog("Vantle: " + request.action + ": " + reason);
@@ -275,14 +264,27 @@ void DBusApplication::activateOtherCopy() {
     auto message = QDBusMessage::createMethodCall(identifier_, path_,
                                                   QStringLiteral("org.freedesktop.Application"),
                                                   QStringLiteral("Activate"));
-    message << platformData();
+    message << platformDataOfThisStart();
     const auto reply = vantle::ask(message);
     if (reply.type() == QDBusMessage::ErrorMessage)
         systemLog("Vantle: " + std::string(noAnswer) + ": " + reply.errorMessage().toStdString());
 }
 
+/// The other copy gets the focus that the desktop meant for this one.
+void DBusApplication::passOnActivationToken() const {
+    const QString token = activationToken(platformDataOfThisStart());
+    if (token.isEmpty()) return;
+    auto message =
+        QDBusMessage::createMethodCall(identifier_, path_, QStringLiteral("org.vantle.Vantle"),
+                                       QStringLiteral("UseActivationToken"));
+    message << token;
+    message.setAutoStartService(false);
+    QDBusConnection::sessionBus().send(message);
+}
+
 Result<std::string> DBusApplication::ask(const ApplicationRequest& request) {
     if (socket_ || !QDBusConnection::sessionBus().isConnected()) return askThroughSocket(request);
+    passOnActivationToken();
     QByteArrayList arguments;
     for (const auto& argument : request.arguments) arguments << QByteArray::fromStdString(argument);
     auto message = QDBusMessage::createMethodCall(
@@ -300,11 +302,7 @@ Result<std::string> DBusApplication::ask(const ApplicationRequest& request) {
 }
 
 void DBusApplication::activate() {
-    for (QWindow* window : QGuiApplication::topLevelWindows()) {
-        if (!isOrdinaryWindow(*window) || !window->isVisible()) continue;
-        window->raise();
-        window->requestActivate();
-    }
+    bringLastToFront();
 }
 
 void DBusApplication::terminate() {

@@ -40,6 +40,7 @@ private:
     bool anotherHoldsTheRuntimeFolder();
     RuntimeSocket& socket();
     std::string answerToSocket(const std::string& message);
+    void passOnActivationToken() const;
     Result<std::string> askThroughSocket(const ApplicationRequest& request);
     void activated();
     void reopen();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/qt/QtGeometry.h"
+#include "platform/qt/UsableArea.h"
 #include "platform/wayland/Connection.h"
 #include "platform/wayland/Outputs.h"
 #include "platform/wayland/OverlaySurface.h"
@@ -98,14 +99,14 @@ void Overlay::show() {
     lostScreen_ = false;
     if (wayland::offersLayers()) return showOnLayer();
     screen_ = &screenAt(frame_.center());
-    area_ = wayland::usableArea(*screen_);
+    area_ = usableArea(*screen_);
     window_.show();
     window_.raise();
 }
 
 void Overlay::showOnLayer() {
     QScreen& screen = screenAt(frame_.center());
-    area_ = wayland::usableArea(screen);
+    area_ = usableArea(screen);
     if (!wayland::output(screen)) return waitForScreen();
     const auto place = placeIn(area_, frame_, screen);
     if (layer_ && screen_ == &screen && !isLeftBehind_) return layer_->move(place);
@@ -181,7 +182,7 @@ void Overlay::showOnRemainingScreen() {
 }
 
 void Overlay::moveTo(QScreen& screen) {
-    setFrame(moved(frame_, area_, wayland::usableArea(screen)));
+    setFrame(moved(frame_, area_, usableArea(screen)));
     show();
 }
 

@@ -39,14 +39,18 @@ QRect fromScreenCoordinates(const Rect& rect) {
     return fromScreenCoordinates(rect, primaryScreenGeometry());
 }
 
+QRect frameInPixels(const QScreen& screen) {
+    return {screen.geometry().topLeft(), screen.geometry().size() * screen.devicePixelRatio()};
+}
+
+QPoint fromPixels(const QPoint& pixel, const QScreen& screen) {
+    const QPoint corner = screen.geometry().topLeft();
+    return corner + (QPointF(pixel - corner) / screen.devicePixelRatio()).toPoint();
+}
+
 QPoint fromPixels(const QPoint& pixel) {
-    // A screen's corner is the same in both, and its points count from there.
-    for (const QScreen* screen : QGuiApplication::screens()) {
-        const QPoint corner = screen->geometry().topLeft();
-        const double scale = screen->devicePixelRatio();
-        const QRect inPixels(corner, screen->geometry().size() * scale);
-        if (inPixels.contains(pixel)) return corner + (QPointF(pixel - corner) / scale).toPoint();
-    }
+    for (const QScreen* screen : QGuiApplication::screens())
+        if (frameInPixels(*screen).contains(pixel)) return fromPixels(pixel, *screen);
     return pixel;
 }
 

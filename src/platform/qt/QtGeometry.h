@@ -19,7 +19,12 @@ QRect fromScreenCoordinates(const Rect& rect, const QRect& primary);
 /// With the primary screen of this moment. Main thread only.
 QRect fromScreenCoordinates(const Rect& rect);
 
-/// A place in the pixels of the X server, in Qt's coordinates.
+/// Where a screen stands in the pixels of the X server. Its corner is the same there as in Qt's
+/// coordinates, and its points count from that.
+QRect frameInPixels(const QScreen& screen);
+
+/// A place in those pixels, in Qt's coordinates: on that screen, or on the one that has the pixel.
+QPoint fromPixels(const QPoint& pixel, const QScreen& screen);
 QPoint fromPixels(const QPoint& pixel);
 
 /// Where the primary screen stands in Qt's coordinates; empty while there is none.

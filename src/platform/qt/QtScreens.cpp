@@ -6,6 +6,7 @@
 #include <QWindow>
 
 #include "platform/qt/QtGeometry.h"
+#include "platform/qt/UsableArea.h"
 #include "platform/wayland/Outputs.h"
 
 namespace vantle {
@@ -13,7 +14,7 @@ namespace {
 
 Screen converted(QScreen& screen) {
     return {toScreenCoordinates(screen.geometry(), primaryScreenGeometry()),
-            toScreenCoordinates(wayland::usableArea(screen), primaryScreenGeometry())};
+            toScreenCoordinates(usableArea(screen), primaryScreenGeometry())};
 }
 
 }  // namespace

@@ -21,6 +21,9 @@ xcb_window_t root();
 /// Of a window; empty where it has none of that name. At most 256 bytes of it.
 std::string property(xcb_window_t window, const char* name);
 
+/// Of a window, whole numbers; none where it has none of that name. At most 16,384 of them.
+std::vector<uint32_t> cardinals(xcb_window_t window, const char* name);
+
 /// Of the window by which the window manager makes itself known; empty where there is none.
 std::string propertyOfWindowManager(const char* name);
 

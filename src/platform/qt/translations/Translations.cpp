@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLocale>
+#include <algorithm>
 
 #include "support/Localization.h"
 
@@ -15,7 +16,8 @@ namespace {
     //: left.
     QT_TRANSLATE_NOOP("QGuiApplication", "QT_LAYOUT_DIRECTION");
 
-bool isAsWritten(const QString& language) {
+/// "C" is what programs speak where nobody has chosen a language.
+bool isEnglish(const QString& language) {
     return language == QLatin1String("C") || language == QLatin1String("en") ||
            language.startsWith(QLatin1String("en-"));
 }
@@ -36,15 +38,15 @@ Translations::Translations(const QString& folder, const QStringList& languages) 
         // Where there is no file "vantle_de_AT", the toolkit looks for "vantle_de".
         return translator_.load(QStringLiteral("vantle_") + language.replace(u'-', u'_'), folder);
     };
-    for (const QString& language : languages) {
-        if (isAsWritten(language)) return;
-        if (!load(language)) continue;
-        setTranslator([this](const char* context, const char* text) {
-            const QString found = translator_.translate(context, text);
-            return found.isEmpty() ? std::string(text) : found.toStdString();
-        });
-        return;
-    }
+    const auto english = QStringLiteral("en");
+    const auto isTaken = [&](const QString& language) {
+        return load(isEnglish(language) ? english : language);
+    };
+    if (std::ranges::none_of(languages, isTaken) && !load(english)) return;
+    setTranslator([this](const char* context, const char* text) {
+        const QString found = translator_.translate(context, text);
+        return found.isEmpty() ? std::string(text) : found.toStdString();
+    });
 }
 
 Translations::~Translations() {

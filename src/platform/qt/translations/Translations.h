@@ -16,8 +16,9 @@ public:
     static QString folderOfProgram();
 
     /// Takes the first of `languages` (as "de-AT") of which `folder` holds a translation
-    /// ("vantle_de.qm"); none, where English stands before it: that is what the texts are written
-    /// in. By default the desktop's, in the user's order.
+    /// ("vantle_de.qm"), and English where there is none: the texts are written in English, but for
+    /// another system, so that what they say of the desktop has to be said anew for this one. By
+    /// default the desktop's languages, in the user's order.
     explicit Translations(const QString& folder = folderOfProgram(),
                           const QStringList& languages = languagesOfDesktop());
     ~Translations();
@@ -27,7 +28,7 @@ public:
     /// For the views as well. Needs the application object, which may end before this does.
     void install();
 
-    /// Which was taken, as its file calls it ("de"); empty for the texts as they are written.
+    /// Which was taken, as its file calls it ("de"); empty where not even English is there.
     QString language() const { return translator_.language(); }
 
 private:
