@@ -45,6 +45,11 @@ CapturePanelController::CapturePanelController(Services services) : services_(st
         else if (!isInUse())
             resumeCountdown();
     }));
+    cancellables_.push_back(services_.settings.corner.observeChanges([this](PanelCorner) {
+        // A change is announced before it is stored.
+        services_.scheduler.async(
+            weakly(shared_from_this(), [](auto& self) { self.moveToCorner(); }));
+    }));
 }
 
 CapturePanelController::~CapturePanelController() {
@@ -81,6 +86,13 @@ void CapturePanelController::createPanel() {
 void CapturePanelController::position(PanelWindow& panel) {
     panel.setFrame(CardLayout::windowFrame(services_.settings.corner.value(),
                                            visibleFrame(services_.screens)));
+}
+
+void CapturePanelController::moveToCorner() {
+    if (!state_.visible.value()) return;
+    position(*panel_);
+    state_.corner = services_.settings.corner.value();
+    panel_->orderFrontRegardless();
 }
 
 void CapturePanelController::add(const CapturePointer& capture) {

@@ -96,6 +96,8 @@ private:
 
     void createPanel();
     void position(PanelWindow& panel);
+    /// A card that stands goes to the corner that the user has just chosen.
+    void moveToCorner();
     void add(const CapturePointer& capture);
     /// An equal capture that takes the place of another is selected and pinned as that was.
     void replaceMarks(const UUID& old, const UUID& current);

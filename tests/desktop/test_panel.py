@@ -2,6 +2,7 @@
 
 import pytest
 
+from assistant import ENVIRONMENT
 from panel_checks import (
     check_above_a_full_screen_window,
     check_clicks_beside_the_card_pass_through,
@@ -17,6 +18,8 @@ from panel_checks import (
 )
 from pictures import NEUTRAL, count_patterns, mask_of, pattern, plain
 from privatedesktop import Program, Rectangle, wait_until
+from screens import Screens
+from trays import start_xfce_panel
 from watched_folder import WatchedFolder, png
 
 MARGIN = 14
@@ -121,6 +124,57 @@ def test_screens_of_different_scales(desktop, binary):
                 "it shows all tiles",
             )
             assert desktop.screen.panel().number == panel.number
+    finally:
+        vantle.stop()
+
+
+@pytest.mark.parametrize("edge, corner", [("bottom", "bottomRight"), ("top", "topRight")])
+@pytest.mark.desktop(size=(2400, 900), tray=False)
+def test_a_panel_on_one_of_two_screens(desktop, vantle, folder, edge, corner):
+    """It keeps its room on that screen, and none on the other."""
+    desktop.run("xrandr", "--setmonitor", "left", "1200/300x900/300+0+0", "screen")
+    desktop.run("xrandr", "--setmonitor", "right", "1200/300x700/300+1200+0", "none")
+    left, right = Rectangle(0, 0, 1200, 900), Rectangle(1200, 0, 1200, 700)
+    start_xfce_panel(desktop, edge, "monitor-0")
+    bar = wait_until(lambda: xfce_bar(desktop), "the bar comes")
+    assert left.x <= bar.x and bar.right <= left.right, bar
+    vantle.write_settings(corner=corner)
+    vantle.start_watching()
+    free = Rectangle(0, 0 if edge == "bottom" else bar.height, 1200, 900 - bar.height)
+    for number, (area, pointer) in enumerate([(free, 300), (right, 1800), (free, 300)]):
+        desktop.screen.pointer.move(pointer, 300)
+        folder.save(f"{number}.png", png())
+        frame = expected_frame(area, corner)
+        wait_until(lambda: panel_frame(desktop) == frame, f"the card stands in {frame}")
+
+
+def xfce_bar(desktop):
+    """Where the bar of Xfce's panel stands; None while it is not there."""
+    for window in desktop.screen.client_list():
+        if desktop.screen.window_property(window, "_NET_WM_STRUT_PARTIAL") is not None:
+            return desktop.screen.area(window)
+    return None
+
+
+def panel_frame(desktop):
+    panel = desktop.screen.panel()
+    return panel and panel.frame
+
+
+def test_a_corner_that_is_chosen_moves_a_card_that_stands(desktop, binary, folder):
+    vantle = Program(binary, desktop, environment=ENVIRONMENT)
+    vantle.write_settings()
+    vantle.start_watching()
+    WatchedFolder(desktop.home / "Desktop", vantle).save("shot.png", png())
+    wait_until(desktop.screen.panel, "the panel appears")
+    screens = Screens(desktop, vantle)
+    screens.open_settings()
+    screens.choose("Show panel in", "Top Left")
+    frame = expected_frame(desktop.screen.work_area(), "topLeft")
+    try:
+        wait_until(lambda: panel_frame(desktop) == frame, "it stands there")
+        card = wait_for_card(desktop, desktop.screen.panel())
+        assert card.x - frame.x <= MARGIN + 1 and card.y - frame.y <= MARGIN + 1
     finally:
         vantle.stop()
 

@@ -3,7 +3,7 @@
 import colorsys
 import pathlib
 
-from privatedesktop import Rectangle, wait_until, wait_until_still
+from privatedesktop import Rectangle, WaitTimeout, processes, wait_until, wait_until_still
 
 _LXQT = """[General]
 panels=panel1
@@ -24,6 +24,7 @@ _XFCE = """<?xml version="1.0" encoding="UTF-8"?>
     <value type="int" value="1"/>
     <property name="panel-1" type="empty">
       <property name="position" type="string" value="%s"/>
+      <property name="output-name" type="string" value="%s"/>
       <property name="length" type="uint" value="100"/>
       <property name="size" type="uint" value="32"/>
       <property name="position-locked" type="bool" value="true"/>
@@ -48,12 +49,24 @@ def _write(desktop, name, text):
 
 
 def start_lxqt_panel(desktop):
+    """On a busy machine its bar sometimes never comes, whoever else is there; a second one does."""
     _write(desktop, "lxqt/panel.conf", _LXQT)
-    return desktop.start("lxqt-panel")
+    panel = desktop.start("lxqt-panel")
+    try:
+        wait_until(lambda: has_room_taken(desktop), "the bar comes", limit=10)
+    except WaitTimeout:
+        processes.end(panel)
+        panel = desktop.start("lxqt-panel")
+        wait_until(lambda: has_room_taken(desktop), "the bar comes")
+    return panel
 
 
-def start_xfce_panel(desktop, edge="bottom"):
-    text = _XFCE % _XFCE_PLACES[edge]
+def has_room_taken(desktop):
+    return desktop.screen.work_area().height < desktop.size[1]
+
+
+def start_xfce_panel(desktop, edge="bottom", monitor="Automatic"):
+    text = _XFCE % (_XFCE_PLACES[edge], monitor)
     _write(desktop, "xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml", text)
     return desktop.start("xfce4-panel", "--disable-wm-check")
 

@@ -88,6 +88,21 @@ TEST_F(PanelControllerTest, ThePanelStandsInTheCornerOfTheSettings) {
     EXPECT_EQ(state->corner, PanelCorner::topLeft);
 }
 
+TEST_F(PanelControllerTest, ACardThatStandsGoesToTheCornerThatIsChosen) {
+    show({"a"});
+    settings.corner.set(PanelCorner::topLeft);
+    time.settle();
+    EXPECT_EQ(panel.frames.back(),
+              CardLayout::windowFrame(PanelCorner::topLeft, screens.all().front().visibleFrame));
+    EXPECT_EQ(state->corner, PanelCorner::topLeft);
+    EXPECT_EQ(panel.timesOrderedFront, 2) << "so that it reads the corner";
+    controller().dismiss();
+    const auto moves = panel.frames.size();
+    settings.corner.set(PanelCorner::topRight);
+    time.settle();
+    EXPECT_EQ(panel.frames.size(), moves) << "one that leaves does so where it is";
+}
+
 TEST_F(PanelControllerTest, ThePanelFollowsThePointerToASecondDisplay) {
     screens.screens = {{{{0, 0}, {1920, 1080}}, {{0, 0}, {1920, 1080}}},
                        {{{1920, 200}, {1280, 800}}, {{1920, 200}, {1280, 770}}}};

@@ -10,6 +10,7 @@
 
 #include "platform/qt/InputRegion.h"
 #include "platform/qt/QtGeometry.h"
+#include "platform/qt/UsableArea.h"
 #include "platform/wayland/Connection.h"
 #include "platform/wayland/Outputs.h"
 
@@ -58,7 +59,7 @@ void FlyBack::waitForPointer(const QPoint& hotSpot) {
     hotSpot_ = hotSpot;
     coversScreen_ = true;
     patience_.start(pointerPatience);
-    overlay_.setFrame(wayland::usableArea(screenAt(flight_.endValue().toPoint())));
+    overlay_.setFrame(usableArea(screenAt(flight_.endValue().toPoint())));
     overlay_.show();
 }
 
