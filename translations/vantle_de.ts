@@ -33,11 +33,11 @@
     </message>
     <message>
         <source>macOS is blocking Vantle from reading %1. Allow Vantle under System Settings → Privacy &amp; Security → Files and Folders, then click Retry.</source>
-        <translation>Das System lässt Vantle „%1“ nicht lesen. Erlauben Sie es Vantle in den Systemeinstellungen unter Datenschutz &amp; Sicherheit → Dateien und Ordner und klicken Sie dann auf „Erneut versuchen“.</translation>
+        <translation>Vantle darf „%1“ nicht lesen. Erlauben Sie sich das Lesen in den Eigenschaften des Ordners und klicken Sie dann auf „Erneut versuchen“.</translation>
     </message>
     <message>
         <source>Open Privacy Settings</source>
-        <translation>Datenschutz öffnen</translation>
+        <translation>Zugriffsrechte zeigen</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>Hide the built-in macOS thumbnail</source>
-        <translation>Vorschau des Systems ausblenden</translation>
+        <translation>Vorschau des Desktops ausblenden</translation>
     </message>
     <message>
         <source>Recommended. Captures reach Vantle instantly instead of after Apple&apos;s preview.</source>
@@ -128,7 +128,7 @@
     </message>
     <message>
         <source>Useful if the menu bar icon is hidden under the notch.</source>
-        <translation>Nützlich, wenn das Symbol in der Menüleiste verdeckt ist.</translation>
+        <translation>Seine Fenster stehen dann in der Taskleiste und beim Fensterwechsel.</translation>
     </message>
     <message>
         <source>%1 seconds</source>
@@ -275,18 +275,18 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     <name>DraggableThumbnail</name>
     <message>
         <source>Drag into any app, or click to open. ⌘-click to select.</source>
-        <translation>In Apps ziehen, klicken öffnet. ⌘-Klick wählt aus.</translation>
+        <translation>In Apps ziehen, klicken öffnet. Strg-Klick wählt aus.</translation>
     </message>
 </context>
 <context>
     <name>FolderAccessRow</name>
     <message>
         <source>macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.</source>
-        <translation>Für Schreibtisch, Dokumente und Downloads fragt das System einmal. Bilder braucht keine Erlaubnis.</translation>
+        <translation>Hier liest Vantle Ihre Bildschirmfotos. Jeder Ordner geht, den Sie lesen dürfen.</translation>
     </message>
     <message>
         <source>Grant access</source>
-        <translation>Zugriff erlauben</translation>
+        <translation>Zugriff prüfen</translation>
     </message>
     <message>
         <source>Folder access</source>
@@ -302,15 +302,15 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     </message>
     <message>
         <source>macOS is blocking access to this folder</source>
-        <translation>Das System verweigert den Zugriff auf diesen Ordner</translation>
+        <translation>Vantle kann diesen Ordner nicht lesen</translation>
     </message>
     <message>
         <source>Allow Vantle under Privacy &amp; Security → Files and Folders, then check again.</source>
-        <translation>Erlauben Sie es Vantle unter Datenschutz &amp; Sicherheit → Dateien und Ordner und prüfen Sie erneut.</translation>
+        <translation>Sorgen Sie dafür, dass es ihn gibt und Sie ihn lesen dürfen, und prüfen Sie erneut.</translation>
     </message>
     <message>
         <source>Open Privacy Settings</source>
-        <translation>Datenschutz öffnen</translation>
+        <translation>Zugriffsrechte zeigen</translation>
     </message>
 </context>
 <context>
@@ -321,7 +321,7 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     </message>
     <message>
         <source>Desktop (macOS default)</source>
-        <translation>Schreibtisch (Standard)</translation>
+        <translation>Standard des Desktops</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -337,7 +337,7 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     </message>
     <message>
         <source>Choose where macOS should save screenshots and screen recordings.</source>
-        <translation>Wo sollen Bildschirmfotos und Bildschirmaufzeichnungen gespeichert werden?</translation>
+        <translation>Wo sollen Bildschirmfotos gespeichert werden?</translation>
     </message>
 </context>
 <context>
@@ -393,15 +393,15 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     </message>
     <message>
         <source>macOS thumbnail hidden</source>
-        <translation>Vorschau des Systems ausgeblendet</translation>
+        <translation>Vorschau des Desktops ausgeblendet</translation>
     </message>
     <message>
         <source>macOS thumbnail still shown</source>
-        <translation>Vorschau des Systems wird noch gezeigt</translation>
+        <translation>Vorschau des Desktops wird noch gezeigt</translation>
     </message>
     <message>
         <source>Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will slide into the %1 corner. Take another and they line up together.</source>
-        <translation>Vantle wartet in Ihrer Menüleiste. Machen Sie mit ⇧⌘4 ein Bildschirmfoto, und es gleitet in die Ecke „%1“. Machen Sie noch eines, und beide stehen nebeneinander.</translation>
+        <translation>Vantle wartet in Ihrem Infobereich. Machen Sie ein Bildschirmfoto, meist mit der Druck-Taste, und es gleitet in die Ecke „%1“. Machen Sie noch eines, und beide stehen nebeneinander.</translation>
     </message>
     <message>
         <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon: to reach the settings, start Vantle again.</source>

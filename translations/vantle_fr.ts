@@ -33,11 +33,11 @@
     </message>
     <message>
         <source>macOS is blocking Vantle from reading %1. Allow Vantle under System Settings → Privacy &amp; Security → Files and Folders, then click Retry.</source>
-        <translation>Le système empêche Vantle de lire «&#xa0;%1&#xa0;». Autorisez Vantle dans Réglages Système → Confidentialité et sécurité → Fichiers et dossiers, puis cliquez sur Réessayer.</translation>
+        <translation>Vantle n’a pas le droit de lire « %1 ». Accordez-vous la lecture dans les propriétés du dossier, puis cliquez sur Réessayer.</translation>
     </message>
     <message>
         <source>Open Privacy Settings</source>
-        <translation>Ouvrir la confidentialité</translation>
+        <translation>Afficher les permissions</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>Hide the built-in macOS thumbnail</source>
-        <translation>Masquer l’aperçu du système</translation>
+        <translation>Masquer l’aperçu du bureau</translation>
     </message>
     <message>
         <source>Recommended. Captures reach Vantle instantly instead of after Apple&apos;s preview.</source>
@@ -124,11 +124,11 @@
     </message>
     <message>
         <source>Also show Vantle in the Dock</source>
-        <translation>Afficher aussi Vantle dans le Dock</translation>
+        <translation>Afficher aussi Vantle dans la barre des tâches</translation>
     </message>
     <message>
         <source>Useful if the menu bar icon is hidden under the notch.</source>
-        <translation>Utile si l’icône de la barre des menus est cachée.</translation>
+        <translation>Ses fenêtres figurent alors dans la barre des tâches et le sélecteur.</translation>
     </message>
     <message>
         <source>%1 seconds</source>
@@ -275,18 +275,18 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     <name>DraggableThumbnail</name>
     <message>
         <source>Drag into any app, or click to open. ⌘-click to select.</source>
-        <translation>Glissez dans une app, ou cliquez pour ouvrir. ⌘-clic pour sélectionner.</translation>
+        <translation>Glissez dans une app, ou cliquez pour ouvrir. Ctrl-clic pour sélectionner.</translation>
     </message>
 </context>
 <context>
     <name>FolderAccessRow</name>
     <message>
         <source>macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.</source>
-        <translation>Le système demande une fois pour Bureau, Documents et Téléchargements. Images n’exige rien.</translation>
+        <translation>Vantle y lit vos captures. Tout dossier que vous pouvez lire convient.</translation>
     </message>
     <message>
         <source>Grant access</source>
-        <translation>Autoriser l’accès</translation>
+        <translation>Vérifier l’accès</translation>
     </message>
     <message>
         <source>Folder access</source>
@@ -302,15 +302,15 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     </message>
     <message>
         <source>macOS is blocking access to this folder</source>
-        <translation>Le système bloque l’accès à ce dossier</translation>
+        <translation>Vantle ne peut pas lire ce dossier</translation>
     </message>
     <message>
         <source>Allow Vantle under Privacy &amp; Security → Files and Folders, then check again.</source>
-        <translation>Autorisez Vantle dans Confidentialité et sécurité → Fichiers et dossiers, puis vérifiez à nouveau.</translation>
+        <translation>Assurez-vous qu’il existe et que vous pouvez le lire, puis vérifiez à nouveau.</translation>
     </message>
     <message>
         <source>Open Privacy Settings</source>
-        <translation>Ouvrir la confidentialité</translation>
+        <translation>Afficher les permissions</translation>
     </message>
 </context>
 <context>
@@ -321,7 +321,7 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     </message>
     <message>
         <source>Desktop (macOS default)</source>
-        <translation>Bureau (par défaut)</translation>
+        <translation>Défaut du bureau</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -337,7 +337,7 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     </message>
     <message>
         <source>Choose where macOS should save screenshots and screen recordings.</source>
-        <translation>Choisissez où enregistrer les captures et les enregistrements d’écran.</translation>
+        <translation>Choisissez où enregistrer les captures d’écran.</translation>
     </message>
 </context>
 <context>
@@ -393,15 +393,15 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     </message>
     <message>
         <source>macOS thumbnail hidden</source>
-        <translation>Aperçu du système masqué</translation>
+        <translation>Aperçu du bureau masqué</translation>
     </message>
     <message>
         <source>macOS thumbnail still shown</source>
-        <translation>Aperçu du système encore affiché</translation>
+        <translation>Aperçu du bureau encore affiché</translation>
     </message>
     <message>
         <source>Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will slide into the %1 corner. Take another and they line up together.</source>
-        <translation>Vantle vit dans votre barre des menus. Faites une capture avec ⇧⌘4&#xa0;: elle glisse dans le coin «&#xa0;%1&#xa0;». Faites-en une autre, et elles s’alignent.</translation>
+        <translation>Vantle vit dans votre zone de notification. Faites une capture, le plus souvent avec la touche Impr. écran : elle glisse dans le coin « %1 ». Faites-en une autre, et elles s’alignent.</translation>
     </message>
     <message>
         <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon: to reach the settings, start Vantle again.</source>

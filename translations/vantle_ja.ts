@@ -33,11 +33,11 @@
     </message>
     <message>
         <source>macOS is blocking Vantle from reading %1. Allow Vantle under System Settings → Privacy &amp; Security → Files and Folders, then click Retry.</source>
-        <translation>システムにより、Vantleは「%1」を読み取れません。システム設定の「プライバシーとセキュリティ」→「ファイルとフォルダ」でVantleを許可してから、「再試行」をクリックしてください。</translation>
+        <translation>Vantleは「%1」を読み取れません。フォルダのプロパティで読み取りを許可してから、「再試行」をクリックしてください。</translation>
     </message>
     <message>
         <source>Open Privacy Settings</source>
-        <translation>プライバシー設定を開く</translation>
+        <translation>アクセス権を表示</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>Hide the built-in macOS thumbnail</source>
-        <translation>システムのサムネールを隠す</translation>
+        <translation>デスクトップのプレビューを隠す</translation>
     </message>
     <message>
         <source>Recommended. Captures reach Vantle instantly instead of after Apple&apos;s preview.</source>
@@ -124,11 +124,11 @@
     </message>
     <message>
         <source>Also show Vantle in the Dock</source>
-        <translation>VantleをDockにも表示</translation>
+        <translation>Vantleをタスクバーにも表示</translation>
     </message>
     <message>
         <source>Useful if the menu bar icon is hidden under the notch.</source>
-        <translation>メニューバーのアイコンが隠れているときに便利です。</translation>
+        <translation>ウインドウがタスクバーと切り替え画面に表示されます。</translation>
     </message>
     <message>
         <source>%1 seconds</source>
@@ -275,18 +275,18 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <name>DraggableThumbnail</name>
     <message>
         <source>Drag into any app, or click to open. ⌘-click to select.</source>
-        <translation>アプリへドラッグ、クリックで開く。⌘クリックで選択。</translation>
+        <translation>アプリへドラッグ、クリックで開く。Ctrlクリックで選択。</translation>
     </message>
 </context>
 <context>
     <name>FolderAccessRow</name>
     <message>
         <source>macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.</source>
-        <translation>デスクトップ、書類、ダウンロードは一度だけ確認されます。ピクチャは許可不要です。</translation>
+        <translation>Vantleはここからスクリーンショットを読み取ります。読み取れるフォルダならどこでも使えます。</translation>
     </message>
     <message>
         <source>Grant access</source>
-        <translation>アクセスを許可</translation>
+        <translation>アクセスを確認</translation>
     </message>
     <message>
         <source>Folder access</source>
@@ -302,15 +302,15 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
     <message>
         <source>macOS is blocking access to this folder</source>
-        <translation>システムがこのフォルダへのアクセスを拒否しています</translation>
+        <translation>Vantleはこのフォルダを読み取れません</translation>
     </message>
     <message>
         <source>Allow Vantle under Privacy &amp; Security → Files and Folders, then check again.</source>
-        <translation>「プライバシーとセキュリティ」→「ファイルとフォルダ」でVantleを許可し、再確認してください。</translation>
+        <translation>フォルダがあり、読み取れることを確かめてから、再確認してください。</translation>
     </message>
     <message>
         <source>Open Privacy Settings</source>
-        <translation>プライバシー設定を開く</translation>
+        <translation>アクセス権を表示</translation>
     </message>
 </context>
 <context>
@@ -321,7 +321,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
     <message>
         <source>Desktop (macOS default)</source>
-        <translation>デスクトップ（標準）</translation>
+        <translation>デスクトップの標準</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -337,7 +337,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
     <message>
         <source>Choose where macOS should save screenshots and screen recordings.</source>
-        <translation>スクリーンショットと画面収録の保存先を選んでください。</translation>
+        <translation>スクリーンショットの保存先を選んでください。</translation>
     </message>
 </context>
 <context>
@@ -393,15 +393,15 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
     <message>
         <source>macOS thumbnail hidden</source>
-        <translation>システムのサムネールは非表示</translation>
+        <translation>デスクトップのプレビューは非表示</translation>
     </message>
     <message>
         <source>macOS thumbnail still shown</source>
-        <translation>システムのサムネールも表示</translation>
+        <translation>デスクトップのプレビューも表示</translation>
     </message>
     <message>
         <source>Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will slide into the %1 corner. Take another and they line up together.</source>
-        <translation>Vantleはメニューバーにいます。⇧⌘4でスクリーンショットを撮ると、画面の%1に現れます。続けて撮ると横に並びます。</translation>
+        <translation>Vantleは通知領域にいます。スクリーンショットを撮ると（多くの場合Print Screenキー）、画面の%1に現れます。続けて撮ると横に並びます。</translation>
     </message>
     <message>
         <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon: to reach the settings, start Vantle again.</source>

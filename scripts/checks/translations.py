@@ -1,4 +1,5 @@
-"""Each text of the program is translated, with the same placeholders, and no other is."""
+"""Each text of the program is translated, with the same placeholders, and no other is; and what a
+user of Linux reads speaks of nothing that only another system has."""
 
 import os
 import re
@@ -6,10 +7,18 @@ import xml.etree.ElementTree as xml
 
 from .repository import ROOT, Problem, files, output_of, text_of
 
-WHAT = "translations: complete, placeholders as in the source"
+WHAT = "translations: complete, placeholders as in the source, true on Linux"
 REPAIR = "scripts/update_translations, then translate what is new"
 
 PLACEHOLDER = re.compile(r"%(?:L?\d|n)")
+# The sources are English. Its file has only what Linux says otherwise.
+AS_WRITTEN = "translations/vantle_en.ts"
+# What the sources say of another system, in any language.
+ELSEWHERE = re.compile(
+    r"\b(?:mac ?os|mac|apple|finder|dock|notch|menu bar|privacy|cmd|command key)\b|⌘|⇧|⌥"
+    r"|menüleiste|datenschutz|befehlstaste|barre des menus|confidentialité|encoche"
+    r"|メニューバー|ノッチ|プライバシー|システム設定", re.IGNORECASE)
+PACKAGING = ("packaging/*.desktop*", "packaging/*.xml*")
 UNFINISHED = {"unfinished": "is not translated", "vanished": "is not in the sources any more",
               "obsolete": "is not in the sources any more"}
 
@@ -34,9 +43,15 @@ def translated(message):
     return forms or [translation.text or ""]
 
 
-def faults(message):
+def faults(message, may_be_as_written):
     source = message.findtext("source") or ""
     kind = message.find("translation").get("type")
+    is_as_written = kind == "unfinished" and may_be_as_written
+    for form in [source] if is_as_written else translated(message):
+        if found := ELSEWHERE.search(form):
+            yield f"speaks of \"{found[0]}\", which Linux does not have"
+    if is_as_written:
+        return
     if kind in UNFINISHED:
         yield UNFINISHED[kind]
         return
@@ -52,8 +67,15 @@ def faults(message):
 def problems_of(path):
     for message in xml.parse(ROOT / path).getroot().iter("message"):
         source = message.findtext("source") or ""
-        for fault in faults(message):
+        for fault in faults(message, path == AS_WRITTEN):
             yield Problem(path, line_of(path, source), f"\"{source}\" {fault}")
+
+
+def foreign_words():
+    for path in files(*PACKAGING):
+        for number, line in enumerate((text_of(path) or "").splitlines(), start=1):
+            if found := ELSEWHERE.search(line):
+                yield Problem(path, number, f"speaks of \"{found[0]}\", which Linux does not have")
 
 
 def outdated():
@@ -69,5 +91,6 @@ def problems(_everything, note):
     note(f"looked at {', '.join(paths) or 'none'}")
     for path in paths:
         yield from problems_of(path)
+    yield from foreign_words()
     if paths:
         yield from outdated()

@@ -164,6 +164,10 @@ class Screen:
         """The windows that a taskbar or a pager shows."""
         return list(self.root_property("_NET_CLIENT_LIST") or [])
 
+    def stacked(self):
+        """The same windows, lowest first."""
+        return list(self.root_property("_NET_CLIENT_LIST_STACKING") or [])
+
     def dialogs(self):
         """Vantle's windows that the window manager manages."""
         return [w for w in self.client_list() if "vantle" in self._class_names(w)]

@@ -13,6 +13,7 @@
 #include "panel/views/RoundedShape.h"
 #include "platform/qt/InputRegion.h"
 #include "platform/qt/QtGeometry.h"
+#include "platform/qt/UsableArea.h"
 #include "platform/wayland/Connection.h"
 #include "platform/wayland/Outputs.h"
 #include "platform/wayland/OverlaySurface.h"
@@ -103,7 +104,7 @@ QRect MenuWindow::plate() const {
 
 QRect MenuWindow::frameFor(const QRect& anchor) const {
     const QRect shown = plate();
-    const QRect room = wayland::usableArea(screenAt(anchor.center()));
+    const QRect room = usableArea(screenAt(anchor.center()));
     const int below = anchor.bottom() + 1 + gap;
     const int above = anchor.top() - gap - shown.height();
     const int y = below + shown.height() <= room.bottom() + 1 ? below : above;

@@ -12,6 +12,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
+#include "platform/qt/ActivationToken.h"
 #include "platform/qt/DBusApplication.h"
 #include "platform/qt/DisplayConnection.h"
 #include "platform/qt/UnixSignals.h"
@@ -120,6 +121,7 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
 
 int main(int argc, char** argv) {
     returnLargeBlocksAtOnce();
+    platformDataOfThisStart();
     Translations translations;
     const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
     std::error_code noFolder;

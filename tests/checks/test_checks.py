@@ -144,6 +144,31 @@ def test_translations_are_complete(repository, translation, fault):
     expect_success(repository, "translations")
 
 
+@pytest.mark.parametrize("name", ["a_de.ts", "vantle_en.ts"])
+def test_texts_speak_of_nothing_that_only_another_system_has(repository, name):
+    write(repository, "scripts/update_translations", "#!/bin/sh\n")
+    (repository / "scripts/update_translations").chmod(0o755)
+    path = f"translations/{name}"
+    write(repository, path, TRANSLATION.format("<translation>%1 im Finder</translation>"))
+    expect_failure(repository, "translations", f'{path}:4: "Copy %1" speaks of "Finder"')
+
+
+def test_english_is_as_written_but_not_about_another_system(repository):
+    write(repository, "scripts/update_translations", "#!/bin/sh\n")
+    (repository / "scripts/update_translations").chmod(0o755)
+    path = "translations/vantle_en.ts"
+    unfinished = TRANSLATION.format('<translation type="unfinished"></translation>')
+    write(repository, path, unfinished)
+    expect_success(repository, "translations")
+    write(repository, path, unfinished.replace("Copy %1", "Copy %1 to the Dock"))
+    expect_failure(repository, "translations", f'{path}:4: "Copy %1 to the Dock" speaks of "Dock"')
+
+
+def test_launchers_speak_of_nothing_that_only_another_system_has(repository):
+    write(repository, "packaging/a.desktop.in", "[Desktop Entry]\nComment=For your menu bar\n")
+    expect_failure(repository, "translations", 'packaging/a.desktop.in:2: speaks of "menu bar"')
+
+
 def test_translations_that_lack_a_text_are_told(repository):
     write(repository, "scripts/update_translations", "#!/bin/sh\necho lacks texts; exit 1\n")
     (repository / "scripts/update_translations").chmod(0o755)

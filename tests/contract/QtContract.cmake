@@ -32,7 +32,8 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/StatusItemContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TranslationsTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TrayService.h
-  ${CMAKE_CURRENT_LIST_DIR}/UpdateEngineContractTests.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateEngineContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UsableAreaTests.cpp)
 set_target_properties(qt_contract_tests PROPERTIES AUTOMOC ON)
 target_compile_definitions(
   qt_contract_tests PRIVATE VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>"

@@ -30,15 +30,21 @@ TEST(Translations, ALanguageOfACountryFallsBackToTheLanguage) {
     EXPECT_EQ(taken({"de-Latn-AT"}), "de");
 }
 
-TEST(Translations, EnglishNeedsNoneAndEndsTheSearch) {
-    EXPECT_EQ(taken({"en-US", "en", "de"}), "");
-    EXPECT_EQ(taken({"C", "de"}), "");
-    EXPECT_EQ(quit(), "Quit Vantle");
+TEST(Translations, EnglishIsAsWrittenButForWhatItSaysOfTheDesktop) {
+    for (const QStringList& languages : {QStringList{"en-US", "en", "de"}, {"C", "de"}}) {
+        const Translations translations(folder, languages);
+        EXPECT_EQ(translations.language(), "en");
+        EXPECT_EQ(quit(), "Quit Vantle");
+        EXPECT_EQ(localized("TileActions", "Reveal in Finder"), "Show in file manager");
+    }
 }
 
-TEST(Translations, WithoutOneTheTextsAreAsTheyAreWritten) {
-    EXPECT_EQ(taken({"tlh"}), "");
-    EXPECT_EQ(taken({}), "");
+TEST(Translations, WhereThereIsNoneOfTheUsersItIsEnglish) {
+    EXPECT_EQ(taken({"tlh"}), "en");
+    EXPECT_EQ(taken({}), "en");
+}
+
+TEST(Translations, WithoutAnyFileTheTextsAreAsTheyAreWritten) {
     EXPECT_EQ(Translations(QStringLiteral("/nowhere"), {"de"}).language(), "");
 }
 
@@ -74,7 +80,7 @@ TEST(Translations, PluralsFollowTheNumber) {
 
 TEST(Translations, EachThatIsThereCanBeTaken) {
     const auto files = QDir(folder).entryList({QStringLiteral("vantle_*.qm")});
-    EXPECT_EQ(files.size(), 3);
+    EXPECT_EQ(files.size(), 4);
     for (QString file : files) {
         const QString language = file.remove("vantle_").remove(".qm");
         EXPECT_EQ(taken({language}), language);

@@ -72,7 +72,8 @@ def denied(desktop, binary, folder):
     program.write_settings()
     folder.path.chmod(0)
     program.start()
-    wait_until(desktop.screen.dialogs, "the alert opens")
+    alert = wait_until(desktop.screen.dialogs, "the alert opens")[0]
+    wait_until(lambda: desktop.screen.active_window() == alert, "it has the keyboard")
     yield program
     folder.path.chmod(0o700)
     program.stop()

@@ -136,9 +136,9 @@ def test_a_folder_that_is_not_there(desktop, vantle, screens):
     (desktop.home / "Desktop").rmdir()
     start(desktop, vantle)
     screens.click("Get Started")
-    screens.wait_for_text("macOS is blocking access to this folder")
+    screens.wait_for_text("Vantle cannot read this folder")
     (desktop.home / "Desktop").mkdir()
-    screens.click("Grant access")
+    screens.click("Check access")
     screens.wait_for_text("Vantle can read this folder")
 
 

@@ -7,7 +7,7 @@ from assistant import ENVIRONMENT
 from privatedesktop import Program, wait_until
 from screenshot_tools import USER_FOLDERS, Notifications, pictures_in
 
-HIDE = "Hide the built-in macOS thumbnail"
+HIDE = "Hide the desktop's own preview"
 
 
 @pytest.fixture

@@ -7,13 +7,13 @@ from panel_checks import expected_frame, show_one
 from privatedesktop import Program, wait_until, wait_until_still
 from using import press_with_control, window_titled
 
-CHOOSER = "Choose where macOS should save screenshots and screen recordings."
+CHOOSER = "Choose where screenshots are to be saved."
 KEEP = "Keep captures until dismissed (recommended)"
 TOGGLES = {
     "Move the file to the Trash after I use it": ("deleteAfterUse", "true"),
     "Also show screen recordings": ("showRecordings", "false"),
     "Copy screenshot to clipboard automatically": ("copyOnCapture", "true"),
-    "Also show Vantle in the Dock": ("showInDock", "true"),
+    "Also show Vantle in the taskbar": ("showInDock", "true"),
 }
 
 
@@ -35,13 +35,13 @@ def test_every_setting_by_mouse(desktop, vantle, folder, screens):
     wait_until(lambda: not is_in_taskbar(desktop, window), "it stays out of the taskbar")
     screens.choose("Change", "~/Screenshots")
     vantle.wait_for_log(f"watching {desktop.home / 'Screenshots'} ")
-    screens.choose("Change", "Desktop (macOS default)")
+    screens.choose("Change", "Your desktop's default")
     screens.wait_for_text("~/Desktop")
     for name, (key, value) in TOGGLES.items():
         screens.click(name)
         screens.wait_for_setting(key, value)
     wait_until(lambda: is_in_taskbar(desktop, window), "it stands in the taskbar")
-    screens.click("Hide the built-in macOS thumbnail")
+    screens.click("Hide the desktop's own preview")
     wait_until(lambda: not screens.thumbnail_is_shown(), "the thumbnail is off")
     screens.click("Open Vantle at login")
     wait_until(lambda: screens.starts_at_login(), "it starts at login")
@@ -122,7 +122,7 @@ def test_every_setting_by_an_assistive_program(desktop, vantle, screens):
         act(name, "Toggle")
         screens.wait_for_setting(key, value)
         assert screens.is_on(name) == (value == "true")
-    act("Hide the built-in macOS thumbnail")
+    act("Hide the desktop's own preview")
     wait_until(lambda: not screens.thumbnail_is_shown(), "the thumbnail is off")
     act("Open Vantle at login")
     wait_until(lambda: screens.starts_at_login(), "it starts at login")
@@ -193,7 +193,7 @@ def test_what_changed_outside_is_shown_when_it_is_shown_again(desktop, vantle, f
     screens.wait_until_closed()
     vantle.command("--settings")
     screens.wait_for_text("~/elsewhere")
-    assert screens.is_on("Hide the built-in macOS thumbnail")
+    assert screens.is_on("Hide the desktop's own preview")
     vantle.wait_for_log(f"watching {elsewhere} ")
 
 
@@ -234,5 +234,5 @@ def test_a_small_screen(desktop, vantle, screens):
 def test_no_window_leaves_anything_in_the_users_cache(desktop, vantle, screens):
     vantle.start_watching()
     screens.open_settings()
-    screens.choose("Change", "Desktop (macOS default)")
+    screens.choose("Change", "Your desktop's default")
     assert not (desktop.home / ".cache/vantle").exists()

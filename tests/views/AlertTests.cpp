@@ -32,8 +32,8 @@ struct ShownAlerts {
     static QQuickView* topmost() {
         QQuickView* last = nullptr;
         for (QWindow* window : QGuiApplication::topLevelWindows())
-            if (window->isExposed() && window->modality() == Qt::ApplicationModal)
-                last = static_cast<QQuickView*>(window);
+            if (auto* alert = dynamic_cast<AlertWindow*>(window); alert && alert->isExposed())
+                last = alert;
         return last;
     }
 

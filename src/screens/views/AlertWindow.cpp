@@ -6,7 +6,8 @@
 #include <QQuickItem>
 #include <QScreen>
 
-#include "platform/qt/ActivationToken.h"
+#include "platform/qt/FrontWindow.h"
+#include "platform/qt/UsableArea.h"
 
 Q_IMPORT_QML_PLUGIN(Vantle_ScreensPlugin)
 
@@ -14,9 +15,9 @@ namespace vantle {
 
 AlertWindow::AlertWindow(const Alert& alert)
     : model_(alert), answer_(static_cast<int>(alert.buttons.size()) - 1) {
-    setFlags(Qt::Dialog | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+    // No dialog, as no window with one of our screens is one (ScreenWindow.cpp).
+    setFlags(Qt::Window | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
              Qt::WindowCloseButtonHint);
-    setModality(Qt::ApplicationModal);
     setResizeMode(QQuickView::SizeViewToRootObject);
     load(QStringLiteral("Screens/AlertView.qml"),
          {{QStringLiteral("alert"), QVariant::fromValue(&model_)}});
@@ -32,7 +33,7 @@ int AlertWindow::run() {
     setMinimumSize(size);
     setMaximumSize(size);
     QRect place(QPoint(), size);
-    if (const QScreen* shown = screen()) place.moveCenter(shown->availableGeometry().center());
+    if (QScreen* shown = screen()) place.moveCenter(usableArea(*shown).center());
     setGeometry(place);
     show();
     bringToFront(*this);

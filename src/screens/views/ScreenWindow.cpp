@@ -13,7 +13,8 @@
 #include <QScreen>
 #include <memory>
 
-#include "platform/qt/ActivationToken.h"
+#include "platform/qt/FrontWindow.h"
+#include "platform/qt/UsableArea.h"
 
 Q_IMPORT_QML_PLUGIN(Vantle_ScreensPlugin)
 
@@ -45,7 +46,9 @@ QImage drawnOffscreen(QQuickItem& item, double scale) {
 }  // namespace
 
 ScreenWindow::ScreenWindow(const QString& title) {
-    setFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+    // No dialog: the toolkit says of one that it belongs to all windows of the program, and some
+    // window managers then keep one of two above the other for ever.
+    setFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
              Qt::WindowCloseButtonHint);
     setTitle(title);
     // There once the program is installed.
@@ -69,7 +72,7 @@ void ScreenWindow::setContentSize(Size size) {
 void ScreenWindow::centre() {
     if (!screen()) return;
     QRect place(QPoint(), size());
-    place.moveCenter(screen()->availableGeometry().center());
+    place.moveCenter(usableArea(*screen()).center());
     setPosition(place.topLeft());
 }
 
