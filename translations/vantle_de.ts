@@ -145,6 +145,10 @@
         <source>Pinned</source>
         <translation>Angeheftet</translation>
     </message>
+    <message>
+        <source>The file is gone</source>
+        <translation>Die Datei ist nicht mehr da</translation>
+    </message>
 </context>
 <context>
     <name>ClearAllPill</name>
@@ -282,7 +286,7 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     <name>FolderAccessRow</name>
     <message>
         <source>macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.</source>
-        <translation>Hier liest Vantle Ihre Bildschirmfotos. Jeder Ordner geht, den Sie lesen dürfen.</translation>
+        <translation>Jeder Ordner geht, den Sie lesen dürfen.</translation>
     </message>
     <message>
         <source>Grant access</source>
@@ -345,6 +349,13 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     <message>
         <source>Keeps each new screenshot at hand</source>
         <translation>Hält jedes neue Bildschirmfoto griffbereit</translation>
+    </message>
+</context>
+<context>
+    <name>MissingNotice</name>
+    <message>
+        <source>The file is gone</source>
+        <translation>Die Datei ist nicht mehr da</translation>
     </message>
 </context>
 <context>
@@ -710,6 +721,13 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     <message>
         <source>Vantle Settings</source>
         <translation>Vantle-Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>ShareButton</name>
+    <message>
+        <source>Share</source>
+        <translation>Teilen</translation>
     </message>
 </context>
 <context>

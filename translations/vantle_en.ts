@@ -116,7 +116,7 @@
     </message>
     <message>
         <source>Recommended. Captures reach Vantle instantly instead of after Apple&apos;s preview.</source>
-        <translation>Recommended. Captures reach Vantle at once, without a second preview.</translation>
+        <translation>Recommended. Captures are then shown once, by Vantle.</translation>
     </message>
     <message>
         <source>Open Vantle at login</source>
@@ -143,6 +143,10 @@
     </message>
     <message>
         <source>Pinned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is gone</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -279,7 +283,7 @@ that runs; --settings, --show and --sample start one where none does.</source>
     <name>FolderAccessRow</name>
     <message>
         <source>macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.</source>
-        <translation>Vantle reads your screenshots here. Any folder that you may read will do.</translation>
+        <translation>Any folder that you may read will do.</translation>
     </message>
     <message>
         <source>Grant access</source>
@@ -341,6 +345,13 @@ that runs; --settings, --show and --sample start one where none does.</source>
     <name>LoginItem</name>
     <message>
         <source>Keeps each new screenshot at hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MissingNotice</name>
+    <message>
+        <source>The file is gone</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -706,6 +717,13 @@ that runs; --settings, --show and --sample start one where none does.</source>
     <name>SettingsWindow</name>
     <message>
         <source>Vantle Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ShareButton</name>
+    <message>
+        <source>Share</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

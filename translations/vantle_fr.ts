@@ -145,6 +145,10 @@
         <source>Pinned</source>
         <translation>Épinglée</translation>
     </message>
+    <message>
+        <source>The file is gone</source>
+        <translation>Le fichier n’existe plus</translation>
+    </message>
 </context>
 <context>
     <name>ClearAllPill</name>
@@ -282,7 +286,7 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     <name>FolderAccessRow</name>
     <message>
         <source>macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.</source>
-        <translation>Vantle y lit vos captures. Tout dossier que vous pouvez lire convient.</translation>
+        <translation>Tout dossier que vous pouvez lire convient.</translation>
     </message>
     <message>
         <source>Grant access</source>
@@ -345,6 +349,13 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     <message>
         <source>Keeps each new screenshot at hand</source>
         <translation>Garde chaque nouvelle capture d’écran à portée de main</translation>
+    </message>
+</context>
+<context>
+    <name>MissingNotice</name>
+    <message>
+        <source>The file is gone</source>
+        <translation>Le fichier n’existe plus</translation>
     </message>
 </context>
 <context>
@@ -710,6 +721,13 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     <message>
         <source>Vantle Settings</source>
         <translation>Réglages de Vantle</translation>
+    </message>
+</context>
+<context>
+    <name>ShareButton</name>
+    <message>
+        <source>Share</source>
+        <translation>Partager</translation>
     </message>
 </context>
 <context>

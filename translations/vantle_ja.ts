@@ -145,6 +145,10 @@
         <source>Pinned</source>
         <translation>ピン留め</translation>
     </message>
+    <message>
+        <source>The file is gone</source>
+        <translation>ファイルがありません</translation>
+    </message>
 </context>
 <context>
     <name>ClearAllPill</name>
@@ -282,7 +286,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <name>FolderAccessRow</name>
     <message>
         <source>macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.</source>
-        <translation>Vantleはここからスクリーンショットを読み取ります。読み取れるフォルダならどこでも使えます。</translation>
+        <translation>読み取れるフォルダならどこでも使えます。</translation>
     </message>
     <message>
         <source>Grant access</source>
@@ -345,6 +349,13 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <message>
         <source>Keeps each new screenshot at hand</source>
         <translation>新しいスクリーンショットをいつも手元に</translation>
+    </message>
+</context>
+<context>
+    <name>MissingNotice</name>
+    <message>
+        <source>The file is gone</source>
+        <translation>ファイルがありません</translation>
     </message>
 </context>
 <context>
@@ -693,6 +704,13 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <message>
         <source>Vantle Settings</source>
         <translation>Vantleの設定</translation>
+    </message>
+</context>
+<context>
+    <name>ShareButton</name>
+    <message>
+        <source>Share</source>
+        <translation>共有</translation>
     </message>
 </context>
 <context>

@@ -48,6 +48,7 @@ AppDelegate::AppDelegate(Platform& platform, Views views)
                                              .scheduler = *platform.scheduler,
                                              .screens = *platform.screens,
                                              .opener = *platform.opener,
+                                             .files = *platform.files,
                                              .pasteboard = *platform.pasteboard,
                                              .sharing = *platform.sharing,
                                              .trash = *platform.trash,

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "support/DisplayName.h"
 #include "support/Localization.h"
 
 namespace vantle {
@@ -78,7 +79,7 @@ void StatusBarController::addCaptures(Menu& menu, const std::vector<CapturePoint
 }
 
 MenuItem StatusBarController::itemFor(const CapturePointer& capture) {
-    MenuItem item = action(capture->fileName(), [this, capture] { onShow(capture); });
+    MenuItem item = action(displayName(capture->fileName()), [this, capture] { onShow(capture); });
     if (const auto& thumbnail = capture->thumbnail()) item.image = fitted(thumbnail, thumbnailSize);
     return item;
 }

@@ -8,11 +8,17 @@ Item {
     property bool isOffered: false
     // 0 for what is made only when it is offered, and yet is to be seen coming.
     property alias from: presence.from
+    // Comes and goes as a selection does, and not by a spring.
+    property bool isEased: false
+    property real eased: isOffered ? 1 : 0
+    readonly property real shown: isEased ? eased : presence.value
 
-    opacity: presence.value
-    scale: Appearance.reducesMotion ? 1 : 0.6 + 0.4 * presence.value
+    opacity: shown
+    scale: Appearance.reducesMotion ? 1 : 0.6 + 0.4 * shown
     visible: opacity > 0
     enabled: isOffered
+
+    Behavior on eased { NumberAnimation { duration: 180; easing.type: Easing.OutQuad } }
 
     Spring {
         id: presence

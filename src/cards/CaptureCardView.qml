@@ -89,7 +89,6 @@ FocusScope {
         ShadowView {
             anchors.fill: glass
             anchors.margins: -margin
-            visible: !view.panel.rendersPlain
             blur: 18
             drop: 8
             strength: 0.28
@@ -144,7 +143,10 @@ FocusScope {
             x: card.width - width + 6
             y: -8
             isOffered: view.panel.hovering && view.panel.count >= 2 && view.panel.selectedCount === 0
-            onTapped: view.panel.closeAll()
+            onTapped: {
+                view.panel.log("tap Clear all");
+                view.panel.closeAll();
+            }
         }
 
         SelectionBar {

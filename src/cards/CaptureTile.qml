@@ -22,6 +22,7 @@ FocusScope {
     required property bool isSelected
     required property bool isPinned
     required property bool isCopied
+    required property bool isMissing
     required property bool isLeaving
 
     // Whether it is new in the row, and so grows into it.
@@ -34,6 +35,7 @@ FocusScope {
     // Forty captures have no need of forty times six buttons that nobody looks for.
     property bool hasControls
     readonly property bool compact: panel.count >= 2
+    readonly property real nameHeight: Math.ceil(name.implicitHeight)
     readonly property bool hovering: bar.isHovered || closeHover.hovered || (hover.hovered && !isCovered)
     // Whether the pointer is on another tile's actions, which reach over this one.
     property bool isCovered: false
@@ -51,7 +53,7 @@ FocusScope {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: isRecording && durationText !== "" ? qsTr("%1, recording, %2").arg(fileName).arg(durationText) : fileName
-    Accessible.description: isPinned ? qsTr("Pinned") : ""
+    Accessible.description: isMissing ? qsTr("The file is gone") : isPinned ? qsTr("Pinned") : ""
     Accessible.selectable: true
     Accessible.selected: isSelected
     Accessible.focusable: true
@@ -145,6 +147,15 @@ FocusScope {
         sourceComponent: DurationBadge {
             text: tile.durationText
         }
+    }
+
+    Loader {
+        anchors.fill: thumbnail
+        opacity: tile.isMissing ? 1 : 0
+        active: opacity > 0
+        sourceComponent: MissingNotice {}
+
+        Behavior on opacity { NumberAnimation { duration: 180; easing.type: Easing.OutQuad } }
     }
 
     CornerMark {

@@ -10,6 +10,7 @@ Appearing {
     readonly property string symbol: glyph.name
 
     isOffered: isSelected || isPinned
+    isEased: !glyph.isPin
     width: glyph.width + 2 * 6
     height: glyph.height + 2 * 6
 

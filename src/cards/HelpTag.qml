@@ -13,9 +13,9 @@ PlateView {
     property bool isDue: false
     property point place
 
-    width: Math.ceil(Math.min(label.implicitWidth + 2 * 8, 340))
-    height: label.height + 2 * 4
-    cornerRadius: 6
+    width: Math.ceil(Math.min(label.implicitWidth + 2 * 7, 320))
+    height: label.height + 2 * 3
+    cornerRadius: 5
     fill: Appearance.isDark ? Qt.rgba(0.27, 0.27, 0.29, 0.97) : Qt.rgba(0.13, 0.13, 0.15, 0.92)
     x: Math.round(Math.max(4, Math.min(place.x - width / 2, parent.width - width - 4)))
     y: place.y
@@ -23,6 +23,16 @@ PlateView {
     visible: opacity > 0
 
     Behavior on opacity { NumberAnimation { duration: 120 } }
+
+    // What is pressed needs no explanation any more.
+    Connections {
+        target: tag.panel
+
+        function onPressed() {
+            tag.isDue = false;
+            delay.stop();
+        }
+    }
 
     onSubjectChanged: {
         isDue = false;
@@ -42,7 +52,7 @@ PlateView {
     Timer {
         id: delay
 
-        interval: 800
+        interval: 500
         running: tag.subject !== null
         onTriggered: tag.settle()
     }
@@ -51,11 +61,11 @@ PlateView {
         id: label
 
         anchors.centerIn: parent
-        width: tag.width - 2 * 8
+        width: tag.width - 2 * 7
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
         textFormat: Text.PlainText
         color: "white"
-        font.pixelSize: 11
+        font.pixelSize: 10
     }
 }

@@ -7,5 +7,6 @@ TapIcon {
     signal share(anchor: rect)
 
     symbol: "square.and.arrow.up"
+    name: qsTr("Share")
     onAction: share(mapToItem(null, 0, 0, width, height))
 }

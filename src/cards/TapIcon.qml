@@ -8,12 +8,24 @@ Item {
     required property PanelModel panel
     required property string symbol
     required property string help
+    // What assistive programs call it.
+    property string name: help
     property bool isOnDark: false
     readonly property color baseColor: isOnDark ? "white" : Appearance.isDark ? "white" : "black"
     readonly property bool hovering: hover.hovered
     readonly property bool pressed: press.isPressed
+    readonly property real ink: pressed ? 0.5 : 0.9
+    property string formerSymbol: symbol
+    property string shownSymbol: symbol
 
     signal action()
+
+    onSymbolChanged: {
+        formerSymbol = shownSymbol;
+        shownSymbol = symbol;
+        change.jumpTo(0);
+        change.target = 1;
+    }
 
     width: 28
     height: 28
@@ -25,11 +37,32 @@ Item {
         opacity: icon.pressed ? 0.16 : icon.hovering ? 0.08 : 0
     }
 
+    // One symbol becomes another without a jump.
+    Loader {
+        anchors.centerIn: parent
+        active: change.value < 1
+        sourceComponent: Symbol {
+            // A delegate cannot make bound components (Qt 6.4), so the ids around this one are meant.
+            name: icon.formerSymbol // qmllint disable unqualified
+            color: icon.baseColor // qmllint disable unqualified
+            opacity: icon.ink * (1 - change.value) // qmllint disable unqualified
+        }
+    }
+
     Symbol {
         anchors.centerIn: parent
         name: icon.symbol
         color: icon.baseColor
-        opacity: icon.pressed ? 0.5 : 0.9
+        opacity: icon.ink * change.value
+    }
+
+    Spring {
+        id: change
+
+        from: 1
+        target: 1
+        response: 0.55
+        dampingFraction: 1
     }
 
     HelpHover {
@@ -40,7 +73,7 @@ Item {
     Press {
         id: press
 
-        name: icon.help
+        name: icon.name
         onTapped: {
             icon.panel.log("tap icon " + icon.symbol);
             icon.action();

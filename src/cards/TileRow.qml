@@ -11,7 +11,9 @@ FocusScope {
 
     readonly property real innerMargin: 10
     readonly property real nameGap: 6
-    readonly property real nameHeight: panel.count >= 2 ? nameGap + 14 : 0
+    readonly property real nameHeight: panel.count >= 2 ? nameGap + tallestName : 0
+    // Some scripts have tall letters, and so have the fonts of some desktops.
+    property real tallestName: 14
     readonly property real overflowMargin: panel.overflows ? 6 : 0
     // Its size once nothing moves.
     readonly property real naturalWidth: Math.min(640, panel.contentWidth) + 2 * innerMargin
@@ -31,7 +33,10 @@ FocusScope {
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Captures")
 
-    Component.onCompleted: isComplete = true
+    Component.onCompleted: {
+        isComplete = true;
+        measureNames();
+    }
 
     function scrollTo(position) {
         scrolled.target = Math.min(Math.max(position, 0), farthest);
@@ -41,6 +46,15 @@ FocusScope {
     function reveal(tile) {
         const right = tile.tileX + tile.tileWidth + 2 * innerMargin - naturalWidth;
         scrollTo(Math.min(Math.max(scrolled.target, right), tile.tileX));
+    }
+
+    function measureNames() {
+        let tallest = 14;
+        for (let i = 0; i < tiles.count; ++i) {
+            const tile = tiles.itemAt(i) as CaptureTile;
+            if (tile && !tile.isLeaving) tallest = Math.max(tallest, tile.nameHeight);
+        }
+        tallestName = tallest;
     }
 
     function tileAt(position) {
@@ -72,6 +86,7 @@ FocusScope {
 
         function onCountChanged() {
             if (row.panel.count === 0) return;
+            row.measureNames();
             // The newest is to be seen, whatever the user looked at before.
             if (row.panel.isPresented)
                 scrolled.target = row.farthest;
@@ -109,6 +124,7 @@ FocusScope {
                 nameGap: row.nameGap
                 seenFrom: scrolled.value - row.innerMargin + 4
                 seenTo: seenFrom + row.naturalWidth - 8
+                onNameHeightChanged: row.measureNames()
                 onActiveFocusChanged: if (activeFocus) row.focused = position
                 isCovered: row.covering !== null && row.covering !== tile
                 onIsActionsHoveredChanged: {

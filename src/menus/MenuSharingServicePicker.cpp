@@ -24,14 +24,19 @@ MenuSharingServicePicker::~MenuSharingServicePicker() = default;
 
 void MenuSharingServicePicker::show(const std::vector<Url>& items, const Rect& anchor,
                                     std::weak_ptr<SharingServicePickerDelegate> delegate) {
-    // One that is open, or one for which others are still being asked.
-    if (window_) window_->closeMenu();
-    if (request_) end(*request_, std::nullopt);
+    close();
     request_ = std::make_shared<Request>(Request{items, anchor, std::move(delegate), {}, false});
     source_->find([this, weak = std::weak_ptr(request_)](std::vector<SharingOffer> found) {
         // Another menu may have been asked for meanwhile.
         if (const auto request = weak.lock()) open(request, std::move(found));
     });
+}
+
+void MenuSharingServicePicker::close() {
+    // One that is open, or one for which others are still being asked.
+    if (window_) window_->closeMenu();
+    if (request_) end(*request_, std::nullopt);
+    request_.reset();
 }
 
 std::vector<SharingOffer> MenuSharingServicePicker::withOwn(std::vector<SharingOffer> found) const {

@@ -21,6 +21,7 @@ public:
 
     void show(const std::vector<Url>& items, const Rect& anchor,
               std::weak_ptr<SharingServicePickerDelegate> delegate) override;
+    void close() override;
 
     /// Null before the first menu.
     MenuWindow* window() const { return window_.get(); }

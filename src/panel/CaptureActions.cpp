@@ -15,6 +15,7 @@ namespace {
 constexpr Animation defaultAnimation{.response = 0.55, .dampingFraction = 1.0};
 constexpr Animation pinSpring{.response = 0.3, .dampingFraction = 0.7};
 constexpr Seconds copiedConfirmation{1.2};
+constexpr Seconds missingNotice{3};
 // So that it is seen that something was copied before the card goes.
 constexpr Seconds removalAfterCopy{0.7};
 constexpr Seconds removalAfterCopyOfSelection{0.3};
@@ -41,6 +42,17 @@ Trash::Completion logging(std::string introduction) {
 }
 
 }  // namespace
+
+bool CapturePanelController::isThere(const CapturePointer& capture) {
+    if (services_.files.existence(capture->url()) != FileManager::Existence::none) return true;
+    state_.missingID.set(capture->id());
+    services_.scheduler.after(missingNotice,
+                              weakly(shared_from_this(), [id = capture->id()](auto& self) {
+                                  if (self.state_.missingID.value() == id)
+                                      self.state_.missingID.set(std::nullopt);
+                              }));
+    return false;
+}
 
 void CapturePanelController::copy(const CapturePointer& capture) {
     copyToPasteboard({capture});

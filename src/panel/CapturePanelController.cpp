@@ -226,6 +226,8 @@ void CapturePanelController::dismiss() {
         return "dismiss; visible=" + text(state_.visible.value()) +
                " count=" + std::to_string(state_.captures.value().size());
     });
+    // The menu points at a card that is no longer there.
+    if (isSharing_) services_.sharing.close();
     invalidateTimers();
     pausedRemaining_.reset();
     state_.hovering.set(false);

@@ -9,6 +9,7 @@
 #include "panel/CardActions.h"
 #include "panel/PanelState.h"
 #include "panel/ShareCompletion.h"
+#include "platform/FileManager.h"
 #include "platform/FileOpener.h"
 #include "platform/PanelWindow.h"
 #include "platform/Pasteboard.h"
@@ -35,6 +36,7 @@ public:
         Scheduler& scheduler;
         Screens& screens;
         FileOpener& opener;
+        const FileManager& files;
         Pasteboard& pasteboard;
         SharingServicePicker& sharing;
         Trash& trash;
@@ -78,6 +80,8 @@ private:
     void trashSelected();
     void trashAll(const std::vector<CapturePointer>& captures);
     void removeSelected();
+    /// Whether the file is still there; else its tile says that it is gone.
+    bool isThere(const CapturePointer& capture);
     /// Captures that were used leave the panel after `delay`, if the settings say so.
     void afterUse(const std::vector<CapturePointer>& captures, Seconds delay = Seconds(0));
     /// The files of captures that were used go to the Trash a little later, if the settings say so.

@@ -18,17 +18,17 @@ CardActions CapturePanelController::makeActions() {
     actions.close = weak(&Controller::remove);
     actions.closeAll = weak(&Controller::dismiss);
     // The file is opened and shown also when the controller has gone.
-    const auto used = weakly(self, [](Controller& controller, const CapturePointer& capture) {
-        controller.afterUse({capture});
-    });
-    actions.open = [&opener = services_.opener, used](const CapturePointer& capture) {
-        opener.open(capture->url());
-        used(capture);
+    const auto afterLook = [weakSelf = weak_from_this()](auto handOver) {
+        return [weakSelf, handOver](const CapturePointer& capture) {
+            const auto controller = weakSelf.lock();
+            if (controller && !controller->isThere(capture)) return;
+            handOver(capture->url());
+            if (controller) controller->afterUse({capture});
+        };
     };
-    actions.reveal = [&opener = services_.opener, used](const CapturePointer& capture) {
-        opener.reveal({capture->url()});
-        used(capture);
-    };
+    FileOpener& opener = services_.opener;
+    actions.open = afterLook([&opener](const Url& file) { opener.open(file); });
+    actions.reveal = afterLook([&opener](const Url& file) { opener.reveal({file}); });
     actions.copy = weak(&Controller::copy);
     actions.share = weak(&Controller::share);
     actions.trash = weak(&Controller::trash);

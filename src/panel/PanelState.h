@@ -26,6 +26,8 @@ public:
     Published<bool> hovering{false};  ///< Whether the pointer is over the card.
     /// Whose card shows that it was copied.
     Published<std::optional<UUID>> copiedID{std::nullopt};
+    /// Whose file was gone when it was to be used: its tile says so for a while.
+    Published<std::optional<UUID>> missingID{std::nullopt};
     Published<double> progress{1.0};  ///< The part of the countdown that is left, 0 to 1.
 
     /// Copied from the setting at each add; nobody observes it.

@@ -34,6 +34,9 @@ public:
     /// never called inside this.
     virtual void show(const std::vector<Url>& items, const Rect& anchor,
                       std::weak_ptr<SharingServicePickerDelegate> delegate) = 0;
+
+    /// Closes the menu that is open or about to open, without a choice.
+    virtual void close() = 0;
 };
 
 }  // namespace vantle

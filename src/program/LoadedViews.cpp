@@ -35,6 +35,9 @@ public:
                 views_.get().makeSharingServicePicker(std::move(source_), pasteboard_, opener_);
         picker_->show(items, anchor, std::move(delegate));
     }
+    void close() override {
+        if (picker_) picker_->close();
+    }
 
 private:
     LoadedViews& views_;

@@ -142,6 +142,23 @@ protected:
     const Url other = Url::file("/folder/other.mov");
 };
 
+TEST_F(FileMimeDataTest, APictureThatBreaksOffIsNone) {
+    const Url file = desktop.folder / "cut";
+    desktop.media->addImage(file, Size{40, 30}, Size{40, 30});
+    for (const char* format : {"PNG", "JPG"}) {
+        SCOPED_TRACE(format);
+        const QByteArray whole = pictureFile(format);
+        save(file, whole);
+        EXPECT_NE(open(file), nullptr);
+        save(file, whole + "what a tool has added");
+        EXPECT_NE(open(file), nullptr);
+        for (const qsizetype missing : {qsizetype(1), whole.size() / 2}) {
+            save(file, whole.chopped(missing));
+            EXPECT_EQ(open(file), nullptr) << missing << " bytes are missing";
+        }
+    }
+}
+
 TEST_F(FileMimeDataTest, FilesAreOfferedAsEachFileManagerTakesThem) {
     const FileMimeData data({odd, other}, nullptr, FileMimeData::Use::clipboard);
     EXPECT_THAT(data.formats(), ElementsAre("text/uri-list", "x-special/gnome-copied-files",

@@ -10,10 +10,11 @@ namespace vantle::fakes {
 /// Drags that a test ends.
 class FakeDraggingSessions final : public DraggingSessions {
 public:
-    void begin(QWindow&, std::vector<DraggingItem> items, const QPointF& grip,
+    void begin(QWindow&, std::vector<DraggingItem> items, const QPointF& grip, Moved howFar,
                Ended ended) override {
         dragged = std::move(items);
         grippedAt = grip;
+        moved = std::move(howFar);
         ended_ = std::move(ended);
         ++timesBegun;
     }
@@ -22,6 +23,7 @@ public:
 
     std::vector<DraggingItem> dragged;
     QPointF grippedAt;
+    Moved moved;
     int timesBegun = 0;
 
 private:

@@ -23,7 +23,7 @@ public:
         const SharingService service{"Somebody"};
         end(&service);
     }
-    void close() { end(nullptr); }
+    void close() override { end(nullptr); }
 
     bool isOpen = false;
     std::vector<Url> items;

@@ -82,6 +82,7 @@ private:
              .scheduler = scheduler,
              .screens = screens,
              .opener = opener,
+             .files = files,
              .pasteboard = pasteboard,
              .sharing = sharing,
              .trash = trash,

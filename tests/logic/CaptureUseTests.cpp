@@ -68,13 +68,22 @@ TEST_F(CaptureUseTest, RevealShowsTheFileAndCountsAsUseAtOnce) {
     expectNoTrashEver();
 }
 
-TEST_F(CaptureUseTest, AFileThatVanishedIsUsedAllTheSame) {
+TEST_F(CaptureUseTest, AFileThatVanishedIsToldAndNobodyIsAskedForIt) {
     remove();
-    const auto shown = show({"a", "b", "c"});
+    const auto shown = show({"a", "b"});
     for (const auto& capture : shown) files.remove(capture->url());
     actions.open(shown[0]);
+    EXPECT_EQ(state->missingID.value(), shown[0]->id());
+    wait(2);
     actions.reveal(shown[1]);
-    EXPECT_THAT(shownNames(), ElementsAre("c.png"));
+    EXPECT_EQ(state->missingID.value(), shown[1]->id());
+    wait(2.9);
+    EXPECT_EQ(state->missingID.value(), shown[1]->id()) << "the end of the first is not its own";
+    wait(0.2);
+    EXPECT_EQ(state->missingID.value(), std::nullopt);
+    EXPECT_THAT(opener.opened, IsEmpty());
+    EXPECT_THAT(opener.revealed, IsEmpty());
+    EXPECT_THAT(shownNames(), ElementsAre("a.png", "b.png"));
 }
 
 TEST_F(CaptureUseTest, CopyCountsAsUseOnceTheConfirmationWasSeen) {
@@ -185,6 +194,16 @@ TEST_F(CaptureUseTest, AShareMenuClosedWithoutAChoiceRestartsTheCountdownAndRemo
     wait(0.01);
     EXPECT_FALSE(controller().isVisible());
     expectNoTrashEver();
+}
+
+TEST_F(CaptureUseTest, TheShareMenuGoesWithTheCard) {
+    const auto shown = show({"a"});
+    actions.share(shown[0], Rect{});
+    ASSERT_TRUE(sharing.isOpen);
+    controller().dismiss();
+    EXPECT_FALSE(sharing.isOpen);
+    actions.close(shown[0]);
+    EXPECT_FALSE(sharing.isOpen);
 }
 
 TEST_F(CaptureUseTest, TheCountdownWaitsForTheMenuThoughThePointerLeavesTheCardForIt) {

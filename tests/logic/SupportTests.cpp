@@ -3,6 +3,7 @@
 
 #include "fakes/CapturedLog.h"
 #include "support/Debug.h"
+#include "support/DisplayName.h"
 #include "support/Geometry.h"
 #include "support/NotificationCenter.h"
 #include "support/Published.h"
@@ -12,6 +13,26 @@
 
 namespace vantle {
 namespace {
+
+TEST(DisplayName, NamesOfAnyBytesAreShownOnOneLine) {
+    EXPECT_EQ(displayName("Shot.png"), "Shot.png");
+    EXPECT_EQ(displayName("two\nlines.png"), "two␊lines.png");
+    EXPECT_EQ(displayName("\x7f\x01"), "␡␁");
+    EXPECT_EQ(displayName("Ünï.png"), "Ünï.png");
+    EXPECT_EQ(displayName("\xff.png"), "\xff.png") << "whoever shows it replaces that";
+}
+
+TEST(DisplayName, NothingHidesHowANameEnds) {
+    EXPECT_EQ(displayName("\u202Egnp.exe evil.png"), "\uFFFDgnp.exe evil.png");
+    for (const char* hidden : {"\u202A", "\u202B", "\u202C", "\u202D", "\u2066", "\u2067", "\u2068",
+                               "\u2069", "\u2028", "\u2029", "\u0085"})
+        EXPECT_EQ(displayName(std::string("a") + hidden + "b"), "a\uFFFDb");
+}
+
+TEST(DisplayName, WhatIsWrittenFromTheRightStaysAsItIs) {
+    for (const char* name : {"لقطة شاشة.png", "צילום\u200F 7.png", "a\u2027b\u202Fc\u2065d\u206A"})
+        EXPECT_EQ(displayName(name), name);
+}
 
 using fakes::CapturedLog;
 using testing::ElementsAre;

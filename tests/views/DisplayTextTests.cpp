@@ -7,14 +7,6 @@
 namespace vantle {
 namespace {
 
-TEST(DisplayText, NamesOfAnyBytesCanBeShownOnOneLine) {
-    EXPECT_EQ(displayName("Shot.png"), QStringLiteral("Shot.png"));
-    EXPECT_EQ(displayName("two\nlines.png"), QString::fromUtf8("two␊lines.png"));
-    EXPECT_EQ(displayName("\xff.png"), QString::fromUtf8("\uFFFD.png"));
-    EXPECT_EQ(displayName("\x7f\x01"), QString::fromUtf8("␡␁"));
-    EXPECT_EQ(displayName("Ünï.png"), QString::fromUtf8("Ünï.png"));
-}
-
 TEST(DisplayText, PixelSizesAreWholeNumbers) {
     EXPECT_EQ(pixelSizeText({2940, 1912}), QString::fromUtf8("2940 × 1912"));
     EXPECT_EQ(pixelSizeText({0, 0}), QString());

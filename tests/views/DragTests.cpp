@@ -51,6 +51,31 @@ protected:
     fakes::CapturedLog log{fakes::CapturedLog::DebugSwitch::on};
 };
 
+TEST_F(DragTest, WhereItsTileIsByThenIsKnown) {
+    drag(0);
+    rest();
+    ASSERT_EQ(dragging.timesBegun, 1);
+    EXPECT_EQ(dragging.moved(), QPointF());
+    const QPointF before = frame(*thumbnail(0)).topLeft();
+    show({a, b, capture("c")});
+    EXPECT_EQ(dragging.moved(), frame(*thumbnail(0)).topLeft() - before);
+    EXPECT_NE(dragging.moved(), QPointF());
+    show({b});
+    EXPECT_EQ(dragging.moved(), QPointF()) << "its tile has gone";
+}
+
+TEST_F(DragTest, WhatIsSaidAboutATileGoesWhenItIsPressed) {
+    hover(middle());
+    rest();
+    ASSERT_EQ(item("HelpTag")->opacity(), 1);
+    press(middle());
+    frames.advance(200);
+    EXPECT_EQ(item("HelpTag")->opacity(), 0);
+    release(middle());
+    rest();
+    EXPECT_EQ(item("HelpTag")->opacity(), 0) << "nor does it come back";
+}
+
 TEST_F(DragTest, WhatIsSaidAboutATileGoesWhenItIsDragged) {
     hover(middle());
     rest();

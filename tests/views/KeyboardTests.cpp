@@ -5,6 +5,7 @@
 #include <QAccessible>
 
 #include "CardFixture.h"
+#include "fakes/CapturedLog.h"
 
 namespace vantle {
 namespace {
@@ -73,6 +74,17 @@ TEST_F(KeyboardTest, DeleteOnASelectedTileTrashesTheSelection) {
     key(Qt::Key_Left);
     key(Qt::Key_Delete);
     EXPECT_THAT(asked, ElementsAre("trash selected"));
+}
+
+TEST_F(KeyboardTest, EscapeIsNoTap) {
+    fakes::CapturedLog log{fakes::CapturedLog::DebugSwitch::on};
+    show({capture("a"), capture("b")});
+    makeCard();
+    panel->takeKeyboard();
+    rest();
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    EXPECT_THAT(asked, testing::ElementsAre("close all"));
+    EXPECT_THAT(log.lines(), testing::Not(testing::Contains("Vantle[dbg]: tap Clear all")));
 }
 
 TEST_F(KeyboardTest, EscapeClearsTheSelectionAndThenDismisses) {
@@ -155,7 +167,7 @@ TEST_F(AccessibilityTest, EveryControlHasARoleAndAName) {
     EXPECT_THAT(lines, testing::IsSupersetOf(
                            {"list Captures", "item a.png", "item b.mov, recording, 1:05",
                             "button Pin (ignore the timer)", "button Copy to clipboard",
-                            "button Share…", "button Reveal in Finder", "button Move to Trash",
+                            "button Share", "button Reveal in Finder", "button Move to Trash",
                             "button Dismiss", "button Clear all", "button Copy selected",
                             "button Move selected to Trash", "button Dismiss selected"}));
 }

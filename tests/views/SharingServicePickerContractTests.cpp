@@ -95,6 +95,15 @@ TYPED_TEST(SharingServicePickerContract, TellsThatItClosedWithoutAChoice) {
     EXPECT_THAT(this->listener->told, ElementsAre(""));
 }
 
+TYPED_TEST(SharingServicePickerContract, CanBeClosedByWhoOpenedIt) {
+    this->menu.picker.close();
+    this->show(this->listener);
+    this->menu.picker.close();
+    EXPECT_THAT(this->listener->told, ElementsAre(""));
+    this->menu.picker.close();
+    EXPECT_EQ(this->listener->told.size(), 1u);
+}
+
 TYPED_TEST(SharingServicePickerContract, ASecondMenuClosesTheFirst) {
     const auto second = std::make_shared<Listener>();
     this->show(this->listener);

@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <QQmlEngine>
+#include <QQuickImageProvider>
+
 #include "CardFixture.h"
 #include "fakes/CapturedLog.h"
 #include "support/Debug.h"
@@ -78,6 +81,67 @@ TEST_F(TileTest, ASelectedCaptureHasABroadBorderAndATint) {
     EXPECT_NEAR(items("PlateView", tile(0))[1]->property("fill").value<QColor>().alphaF(), 0.18,
                 0.005);
     EXPECT_THAT(plates(1), ElementsAre(1));
+}
+
+TEST_F(TileTest, ThePictureFillsATileOfItsShape) {
+    for (const Size shape :
+         {Size{2880, 1800}, Size{1200, 1600}, Size{1000, 1000}, Size{1366, 768}}) {
+        show({capture("a", shape), b});
+        makeCard();
+        const auto* image = item("QQuickImage", tile(0));
+        auto* engine = qmlEngine(window().contentItem()->childItems().front());
+        auto* provider = static_cast<QQuickImageProvider*>(engine->imageProvider("thumbnail"));
+        const QSize size = image->property("sourceSize").toSize();
+        QSize drawn;
+        const QImage picture =
+            provider->requestImage(image->property("source").toUrl().path().mid(1), &drawn, size);
+        ASSERT_EQ(picture.size(), size);
+        const QPoint middle = picture.rect().center();
+        for (const QPoint edge : {QPoint(0, middle.y()), QPoint(size.width() - 1, middle.y()),
+                                  QPoint(middle.x(), 0), QPoint(middle.x(), size.height() - 1)})
+            EXPECT_GE(qAlpha(picture.pixel(edge)), 250)
+                << shape.width << "x" << shape.height << ": " << edge.x() << ", " << edge.y();
+    }
+}
+
+TEST_F(TileTest, TheCheckMarkComesAsTheBorderDoes) {
+    showTwo();
+    select(a);
+    const auto border = [this] {
+        for (auto* plate : items("PlateView", tile(0)))
+            if (plate->property("borderWidth").toDouble() == 3)
+                return plate->parentItem()->opacity();
+        return 0.0;
+    };
+    for (int frame = 0; frame < 15; ++frame) {
+        frames.advance(ManualFrames::frame);
+        EXPECT_NEAR(mark(0)->opacity(), border(), 0.001);
+    }
+    EXPECT_EQ(mark(0)->opacity(), 1);
+}
+
+TEST_F(TileTest, SaysThatItsFileIsGone) {
+    showTwo();
+    EXPECT_THAT(items("MissingNotice", tile(0)), IsEmpty());
+    state.missingID.set(a->id());
+    rest();
+    const auto* notice = item("MissingNotice", tile(0));
+    EXPECT_TRUE(notice->isVisible());
+    EXPECT_THAT(items("MissingNotice", tile(1)), IsEmpty());
+    state.missingID.set(std::nullopt);
+    rest();
+    EXPECT_THAT(items("MissingNotice", tile(0)), IsEmpty());
+}
+
+TEST_F(TileTest, TallLettersKeepTheRoomBelowThem) {
+    showTwo();
+    const auto room = [this] {
+        return glassFrame().bottom() - frame(*item("TileName", tile(0))).bottom();
+    };
+    EXPECT_GE(room(), 12);
+    // Several marks above each other, in a script that has them.
+    show({capture("ကြွေးကြော်သံ ཧཱུྃ"), capture("ภาพหน้าจอ")});
+    EXPECT_GE(room(), 12);
 }
 
 TEST_F(TileTest, ARecordingHasABadge) {
@@ -216,7 +280,7 @@ TEST_F(TileTest, EachActionAsksForItself) {
     settings.dismissAfter.set(10);
     showTwo();
     hover(*tile(1));
-    for (const char* name : {"Pin (ignore the timer)", "Copy to clipboard", "Share…",
+    for (const char* name : {"Pin (ignore the timer)", "Copy to clipboard", "Share",
                              "Reveal in Finder", "Move to Trash"})
         click(*button(name, tile(1)));
     EXPECT_THAT(asked, ElementsAre("toggle pin b.png", "copy b.png", "share b.png", "reveal b.png",

@@ -4,6 +4,7 @@
 
 #include "panel/CardLayout.h"
 #include "panel/views/DisplayText.h"
+#include "support/DisplayName.h"
 
 namespace vantle {
 namespace {
@@ -28,7 +29,7 @@ QVariant CaptureListModel::data(const QModelIndex& index, int role) const {
         case captureIdRole:
             return QString::fromStdString(capture.id().text());
         case fileNameRole:
-            return displayName(capture.fileName());
+            return QString::fromStdString(displayName(capture.fileName()));
         case positionRole:
             return positionOf(capture.id());
         case tileXRole:
@@ -58,6 +59,8 @@ QVariant CaptureListModel::marks(const UUID& id, int role) const {
             return pinned_.contains(id);
         case isCopiedRole:
             return copied_ == id;
+        case isMissingRole:
+            return missing_ == id;
         default:
             return {};
     }
@@ -70,7 +73,7 @@ QHash<int, QByteArray> CaptureListModel::roleNames() const {
             {hasThumbnailRole, "hasThumbnail"}, {isRecordingRole, "isRecording"},
             {durationTextRole, "durationText"}, {isSelectedRole, "isSelected"},
             {isPinnedRole, "isPinned"},         {isCopiedRole, "isCopied"},
-            {isLeavingRole, "isLeaving"}};
+            {isMissingRole, "isMissing"},       {isLeavingRole, "isLeaving"}};
 }
 
 void CaptureListModel::setCaptures(const std::vector<CapturePointer>& captures) {
@@ -138,6 +141,11 @@ void CaptureListModel::setPinned(const std::set<UUID>& pinned) {
 void CaptureListModel::setCopied(const std::optional<UUID>& copied) {
     copied_ = copied;
     announce({isCopiedRole});
+}
+
+void CaptureListModel::setMissing(const std::optional<UUID>& missing) {
+    missing_ = missing;
+    announce({isMissingRole});
 }
 
 void CaptureListModel::forget(const QString& captureId) {

@@ -34,6 +34,7 @@ public:
         isSelectedRole,
         isPinnedRole,
         isCopiedRole,
+        isMissingRole,  ///< Its file was gone when it was to be used.
         isLeavingRole,
     };
 
@@ -47,6 +48,7 @@ public:
     void setSelected(const std::set<UUID>& selected);
     void setPinned(const std::set<UUID>& pinned);
     void setCopied(const std::optional<UUID>& copied);
+    void setMissing(const std::optional<UUID>& missing);
 
     /// Takes the row of a capture that has been shown leaving; nothing when it is back.
     void forget(const QString& captureId);
@@ -84,6 +86,7 @@ private:
     std::set<UUID> selected_;
     std::set<UUID> pinned_;
     std::optional<UUID> copied_;
+    std::optional<UUID> missing_;
 };
 
 }  // namespace vantle

@@ -10,10 +10,6 @@
 
 namespace vantle {
 
-/// A file's name as people see it: what is not valid UTF-8 becomes the replacement character, and
-/// control characters (a name can hold a line break) become their visible pictures.
-QString displayName(const std::string& name);
-
 /// "2940 × 1912"; empty when the size is not known.
 QString pixelSizeText(Size pixels);
 

@@ -68,6 +68,9 @@ void DragThumbnailView::startDrag() {
     for (const auto& item : items) urls.push_back(item.url);
     panel_->draggingSessions().begin(
         *window(), draggingItems(items), *mouseDownPoint_,
+        [view = QPointer(this), start = mapToScene({})] {
+            return view ? view->mapToScene({}) - start : QPointF();
+        },
         [view = QPointer(this), panel = QPointer(panel_), urls](DragOperation operation) {
             if (view) view->dragEnded(operation);
             if (panel) panel->dragEnded(operation == DragOperation::copy, urls);

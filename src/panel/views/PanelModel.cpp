@@ -34,6 +34,8 @@ void PanelModel::observeCaptures() {
         state.pinned.observe([this](const auto& pinned) { captures_.setPinned(pinned); }));
     subscriptions_.push_back(
         state.copiedID.observe([this](const auto& copied) { captures_.setCopied(copied); }));
+    subscriptions_.push_back(
+        state.missingID.observe([this](const auto& missing) { captures_.setMissing(missing); }));
     subscriptions_.push_back(state.selected.observe([this](const auto& selected) {
         captures_.setSelected(selected);
         emit selectedCountChanged();
@@ -170,7 +172,6 @@ void PanelModel::close(const QString& captureId) {
 }
 
 void PanelModel::closeAll() {
-    Debug::log([] { return "tap Clear all"; });
     context_.actions.closeAll();
 }
 

@@ -144,6 +144,8 @@ signals:
     void cornerChanged();
     void hasTimerChanged();
     void isAssistedChanged();
+    /// The card was pressed somewhere, by mouse or touch.
+    void pressed();
 
 private:
     void accessibilityActiveChanged(bool) override { emit isAssistedChanged(); }

@@ -57,6 +57,7 @@ bool PressFilter::eventFilter(QObject*, QEvent* event) {
             return false;
         case QEvent::MouseButtonPress:
         case QEvent::TouchBegin:
+            emit panel_.pressed();
             isKept_ = !isMeant(static_cast<const QPointerEvent&>(*event));
             return isKept_;
         case QEvent::MouseButtonDblClick:

@@ -13,7 +13,9 @@ constexpr double cornerRadius = 12;
 constexpr float groundOpacity = 0.25F;
 
 void drawFitted(QPainter& painter, const QImage& image, const QSize& target) {
-    const QSize fitted = image.size().scaled(target, Qt::KeepAspectRatio).expandedTo({1, 1});
+    // To the nearest pixel, as the tile's own size is: else a line of the ground would be left.
+    const QSize fitted =
+        QSizeF(image.size()).scaled(target, Qt::KeepAspectRatio).toSize().expandedTo({1, 1});
     const QImage scaled = image.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     painter.drawImage((target.width() - fitted.width()) / 2,
                       (target.height() - fitted.height()) / 2, scaled);

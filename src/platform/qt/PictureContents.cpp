@@ -27,13 +27,13 @@ const QString bmp = QStringLiteral("image/bmp");
 // A vector image has no pixels of its own: enough for a dense screen.
 constexpr double pixelsPerPointOfVectors = 2;
 
-/// All that is in the file, or its first bytes.
-QByteArray read(int file, qsizetype most) {
+/// All that is in the file from there, or so many bytes of it.
+QByteArray read(int file, qsizetype most, qsizetype from = 0) {
     QByteArray bytes(most, Qt::Uninitialized);
     qsizetype length = 0;
     while (length < most) {
-        const auto count =
-            pread(file, bytes.data() + length, static_cast<std::size_t>(most - length), length);
+        const auto count = pread(file, bytes.data() + length,
+                                 static_cast<std::size_t>(most - length), from + length);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return {};
         if (count == 0) break;
@@ -41,6 +41,13 @@ QByteArray read(int file, qsizetype most) {
     }
     bytes.truncate(length);
     return bytes;
+}
+
+/// The last bytes.
+QByteArray readEnd(int file, qsizetype most) {
+    struct stat status {};
+    if (fstat(file, &status) != 0) return {};
+    return read(file, most, std::max<qsizetype>(0, status.st_size - most));
 }
 
 QByteArray readAll(int file) {
@@ -74,6 +81,24 @@ QString typeOf(int file) {
     return {};
 }
 
+/// Whether the file has an end, where its type says how that looks. A picture that breaks off is
+/// none that others could read.
+bool isWhole(int file, const QString& type) {
+    struct End {
+        const char* type;
+        std::string_view text;
+        qsizetype within;  ///< How far before the file's end it may begin: some tools add to it.
+    };
+    constexpr std::array ends = {End{"image/png", "IEND\xAE\x42\x60\x82"sv, 64 * 1024},
+                                 End{"image/jpeg", "\xFF\xD9"sv, 64 * 1024},
+                                 End{"image/gif", ";"sv, 64}};
+    for (const auto& end : ends)
+        if (type == QLatin1String(end.type))
+            return readEnd(file, end.within)
+                .contains(QByteArrayView(end.text.data(), static_cast<qsizetype>(end.text.size())));
+    return true;
+}
+
 /// White where the picture lets through: not every type can.
 QImage opaque(const QImage& picture) {
     QImage paper(picture.size(), QImage::Format_RGB32);
@@ -100,10 +125,11 @@ std::shared_ptr<const PictureContents> PictureContents::open(const Url& url,
                                                              std::shared_ptr<MediaLoader> media) {
     FileDescriptor file(
         ::open(url.path().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | O_NOFOLLOW));
-    auto image = file ? media->openImage(url) : nullptr;
+    const QString type = file ? typeOf(file.get()) : QString();
+    auto image = file && isWhole(file.get(), type) ? media->openImage(url) : nullptr;
     if (!image) return nullptr;
     const std::shared_ptr<PictureContents> contents(new PictureContents);
-    contents->ownType_ = typeOf(file.get());
+    contents->ownType_ = type;
     contents->file_ = std::move(file);
     contents->media_ = std::move(media);
     contents->image_ = std::move(image);

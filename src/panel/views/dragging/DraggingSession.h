@@ -26,15 +26,17 @@ struct DraggingItem {
 class DraggingSessions {
 public:
     using Ended = std::function<void(DragOperation operation)>;
+    /// How far what was dragged has moved in its window since the drag began.
+    using Moved = std::function<QPointF()>;
 
     virtual ~DraggingSessions() = default;
 
     /// Begins while the pointer's button is held on `window` at `grip` (in its points). The items
     /// move as a pile, the first on top; where nobody takes them they go back to where they
-    /// started. `ended` is called once, never inside this: with copy only when the other program
-    /// has said that it took them. There is at least one item.
+    /// started, or to where that is by then. `ended` is called once, never inside this: with copy
+    /// only when the other program has said that it took them. There is at least one item.
     virtual void begin(QWindow& window, std::vector<DraggingItem> items, const QPointF& grip,
-                       Ended ended) = 0;
+                       Moved moved, Ended ended) = 0;
 };
 
 }  // namespace vantle

@@ -42,11 +42,12 @@ void logPromise(Qt::DropAction action) {
 class Session final : public QObject {
 public:
     Session(QWindow& window, std::vector<DraggingItem> items, const QPointF& grip,
-            DraggingSessions::Ended ended)
+            DraggingSessions::Moved moved, DraggingSessions::Ended ended)
         : window_(&window),
           pile_(dragPile(items, window.devicePixelRatio(), possibleEdges())),
           start_(window.position() + pile_.frame.topLeft().toPoint()),
           hotSpot_((grip - pile_.frame.topLeft()).toPoint()),
+          moved_(std::move(moved)),
           ended_(std::move(ended)) {
         for (auto& item : items) urls_.push_back(std::move(item.url));
     }
@@ -103,8 +104,14 @@ private:
 
     void finish(DragOperation operation) {
         if (operation == DragOperation::none && !Appearance().reducesMotion())
-            FlyBack::start(pile_.picture, hotSpot_, start_);
+            FlyBack::start(pile_.picture, hotSpot_, home());
         end(operation);
+    }
+
+    /// Others may have come and gone on the card meanwhile, and the card may stand elsewhere.
+    QPoint home() const {
+        if (!window_) return start_;
+        return window_->position() + (pile_.frame.topLeft() + moved_()).toPoint();
     }
 
     void end(DragOperation operation) {
@@ -117,6 +124,7 @@ private:
     const DragPile pile_;
     const QPoint start_;
     const QPoint hotSpot_;
+    const DraggingSessions::Moved moved_;
     const DraggingSessions::Ended ended_;
     DropAnswer answer_;
     std::optional<DragSelection> selection_;
@@ -128,8 +136,8 @@ private:
 }  // namespace
 
 void QtDraggingSessions::begin(QWindow& window, std::vector<DraggingItem> items,
-                               const QPointF& grip, Ended ended) {
-    auto* session = new Session(window, std::move(items), grip, std::move(ended));
+                               const QPointF& grip, Moved moved, Ended ended) {
+    auto* session = new Session(window, std::move(items), grip, std::move(moved), std::move(ended));
     // Not inside the mouse event: a drag is an event loop of its own.
     QMetaObject::invokeMethod(
         session, [session] { session->run(); }, Qt::QueuedConnection);
