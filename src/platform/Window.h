@@ -12,8 +12,8 @@ class Window {
 public:
     virtual ~Window() = default;
 
-    /// Shows it, centred on its screen when it was hidden, in front of the others and with the
-    /// keyboard.
+    /// Shows it in front of the others and with the keyboard: where it stood when it was hidden,
+    /// and the first time in the middle of its screen.
     virtual void makeKeyAndOrderFront() = 0;
 
     /// Shows it without taking the keyboard from the program that has it; does nothing when it is

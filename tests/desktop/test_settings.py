@@ -29,6 +29,21 @@ def is_in_taskbar(desktop, window):
     return "_NET_WM_STATE_SKIP_TASKBAR" not in desktop.screen.states(window)
 
 
+def test_it_keeps_the_place_to_which_it_was_moved(desktop, vantle, screens):
+    vantle.start_watching()
+    screen = desktop.screen
+    window = screens.open_settings()
+    first = wait_until_still(lambda: screen.area(window), "the window")
+    screen.ask_to_move(window, 30, 60)
+    wait_until(lambda: screen.area(window).x < first.x - 100, "it is moved")
+    moved = wait_until_still(lambda: screen.area(window), "the window")
+    for _ in range(2):
+        screen.ask_to_close(window)
+        wait_until(lambda: screen.dialogs() == [], "it closes")
+        window = screens.open_settings()
+        assert wait_until_still(lambda: screen.area(window), "the window") == moved
+
+
 def test_every_setting_by_mouse(desktop, vantle, folder, screens):
     vantle.start_watching()
     window = screens.open_settings()

@@ -140,7 +140,7 @@ TEST_P(LanguageTest, TheTextsOfTheCardHaveTheirRoom) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, LanguageTest, testing::Values("de", "fr", "ja"),
+INSTANTIATE_TEST_SUITE_P(Languages, LanguageTest, testing::Values("de", "en", "fr", "ja"),
                          [](const auto& language) { return std::string(language.param); });
 
 }  // namespace

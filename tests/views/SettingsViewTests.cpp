@@ -63,10 +63,21 @@ TEST_F(SettingsViewTest, WithDismissAfter0TheToggleIsOnAndTheSliderIsDimmed) {
     openSettings();
     EXPECT_TRUE(isOn(keepToggle));
     const QQuickItem* block = named(slider).parentItem();
-    EXPECT_DOUBLE_EQ(block->opacity(), 0.45);
+    const QQuickItem* words = block->childItems().front();
+    const auto* handle = named(slider).property("handle").value<QQuickItem*>();
+    const auto* background = named(slider).property("background").value<QQuickItem*>();
+    const auto colour = [](const QQuickItem* item) {
+        return item->property("color").value<QColor>();
+    };
+    EXPECT_DOUBLE_EQ(words->opacity(), 0.45);
+    EXPECT_EQ(colour(handle).alpha(), 255) << "the line does not shine through it";
+    EXPECT_NE(colour(handle), QColor(Qt::white)) << "it stands out on a white ground";
+    EXPECT_LT(colour(background->childItems().front()).alphaF(), 0.5);
     EXPECT_FALSE(block->isEnabled());
     click(keepToggle);
-    EXPECT_DOUBLE_EQ(block->opacity(), 1);
+    EXPECT_DOUBLE_EQ(words->opacity(), 1);
+    EXPECT_EQ(colour(handle), QColor(Qt::white));
+    EXPECT_EQ(colour(background->childItems().front()).alphaF(), 1);
     EXPECT_TRUE(block->isEnabled());
 }
 

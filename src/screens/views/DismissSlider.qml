@@ -13,10 +13,10 @@ Column {
     width: parent ? parent.width : 0
     spacing: 4
     enabled: !settings.neverDismiss
-    opacity: settings.neverDismiss ? Style.disabled : 1
 
     Item {
         width: parent.width
+        opacity: block.enabled ? 1 : Style.disabled
         // Below each other where they need more room.
         readonly property bool fits: name.implicitWidth + number.implicitWidth + 12 <= width
 
@@ -92,7 +92,7 @@ Column {
                        + slider.handle.width / 2
                 height: parent.height
                 radius: parent.radius
-                color: Appearance.accent
+                color: block.enabled ? Appearance.accent : Style.faint(0.16)
             }
         }
 
@@ -102,9 +102,9 @@ Column {
             width: Math.round(18 * Style.scale)
             height: width
             radius: width / 2
-            color: slider.pressed ? "#e8e8ea" : "white"
+            color: !block.enabled ? Style.disabledHandle : slider.pressed ? "#e8e8ea" : "white"
             border.width: 1
-            border.color: Qt.rgba(0, 0, 0, 0.18)
+            border.color: Qt.rgba(0, 0, 0, block.enabled ? 0.18 : 0.26)
 
             FocusRing {
                 anchors.margins: -3

@@ -69,6 +69,18 @@ void ScreenWindow::setContentSize(Size size) {
     resize(points);
 }
 
+void ScreenWindow::place() {
+    if (!wasPlaced_ || !QGuiApplication::screenAt(frameGeometry().center())) return centre();
+    // Without its frame: the window manager has put that around it when it was shown before.
+    setPosition(lastPlace_);
+}
+
+void ScreenWindow::hideEvent(QHideEvent* event) {
+    lastPlace_ = position();
+    wasPlaced_ = true;
+    ViewWindow::hideEvent(event);
+}
+
 void ScreenWindow::centre() {
     if (!screen()) return;
     QRect place(QPoint(), size());
@@ -79,7 +91,7 @@ void ScreenWindow::centre() {
 void ScreenWindow::makeKeyAndOrderFront() {
     if (!isVisible()) {
         appear();
-        centre();
+        place();
     }
     show();
     bringToFront(*this);
@@ -88,7 +100,7 @@ void ScreenWindow::makeKeyAndOrderFront() {
 void ScreenWindow::orderFront() {
     if (isVisible()) return;
     appear();
-    centre();
+    place();
     // The toolkit's own name for it: a window has no other way to say so.
     constexpr auto withoutKeyboard = "_q_showWithoutActivating";
     setProperty(withoutKeyboard, true);

@@ -24,10 +24,15 @@ protected:
     /// It was hidden and is about to be seen.
     virtual void appear() = 0;
     bool event(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
+    /// Where it stood when it was hidden, as far as that can still be seen; else in the middle.
+    void place();
     void centre();
 
+    QPoint lastPlace_;  ///< In Qt's screen coordinates, once it was hidden.
+    bool wasPlaced_ = false;
     QVariantMap properties_;  ///< Of the view.
 };
 

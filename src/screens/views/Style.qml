@@ -24,6 +24,8 @@ QtObject {
 
     // Of what cannot be used now.
     readonly property real disabled: 0.45
+    // Through which nothing shines.
+    readonly property color disabledHandle: Appearance.isDark ? "#8e8e93" : "#f2f2f4"
 
     readonly property color ink: Appearance.isDark ? "white" : "black"
     readonly property color groupFill: Appearance.isDark ? Qt.rgba(1, 1, 1, 0.06) : "white"
