@@ -7,7 +7,11 @@ namespace vantle {
 /// Whether the desktop starts this program when the user logs in. Main thread only.
 class LoginItem {
 public:
-    enum class Status { notRegistered, enabled };
+    enum class Status {
+        notRegistered,
+        enabled,
+        refused,  ///< The user has switched it off.
+    };
 
     virtual ~LoginItem() = default;
 

@@ -13,7 +13,8 @@ namespace vantle {
 /// A read gives the stored value, else the registered default, else false, 0 or absent; a value
 /// of another type is converted as far as it means something (a number to bool: not 0). A write
 /// is stored when it returns; a write that fails is logged by the backend once and the value
-/// holds for this run. A damaged store counts as empty, is kept aside and logged with one line.
+/// holds for this run. Of a damaged store counts what can be read; it is kept aside and logged with
+/// one line. One that is there and holds nothing is taken from its last copy.
 class UserDefaults {
 public:
     virtual ~UserDefaults() = default;

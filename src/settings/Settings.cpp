@@ -125,7 +125,8 @@ void Settings::applyRecommendedDefaults() {
     corner.set(PanelCorner::bottomRight);
     showRecordings.set(true);
     setHideSystemThumbnail(true);
-    setLaunchAtLogin(true);
+    // What the user himself has switched off stays so, and the switch shows it.
+    if (loginItem_.status() != LoginItem::Status::refused) setLaunchAtLogin(true);
 }
 
 }  // namespace vantle

@@ -26,8 +26,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 std::optional<PreferenceValue> valueIn(std::string_view text, std::string_view key = "key") {
-    const auto document = IniDocument::parse(text);
-    return document ? document->value(key) : std::nullopt;
+    return IniDocument::parse(text).value(key);
 }
 
 TEST(IniDocumentTest, TypesAreTold) {
@@ -51,13 +50,21 @@ TEST(IniDocumentTest, OtherProgramsWaysOfWritingAreRead) {
     EXPECT_EQ(valueIn("[General]\nkey=a=b\n"), PreferenceValue("a=b"));
 }
 
-TEST(IniDocumentTest, WhatIsNoIniFileIsToldSo) {
-    for (const auto text : {std::string_view("[General\nkey=1"), std::string_view("no value"),
+TEST(IniDocumentTest, ALineThatMakesNoSenseCostsThatLineOnly) {
+    for (const auto line : {std::string_view("[General"), std::string_view("no value"),
+                            std::string_view("<<<<<<< HEAD"), std::string_view("======="),
                             std::string_view("key=\0", 5), std::string_view("key=\x01"),
                             std::string_view("\x7f"
-                                             "ELF")})
-        EXPECT_FALSE(IniDocument::parse(text).has_value()) << text;
-    EXPECT_TRUE(IniDocument::parse("").has_value());
+                                             "ELF")}) {
+        const auto document =
+            IniDocument::parse("[General]\nkey=1\n" + std::string(line) + "\nother=2\n");
+        EXPECT_FALSE(document.isWhole()) << line;
+        EXPECT_EQ(document.value("key"), PreferenceValue(1.0)) << line;
+        EXPECT_EQ(document.value("other"), PreferenceValue(2.0)) << line;
+        EXPECT_EQ(document.text(), "[General]\nkey=1\nother=2\n");
+    }
+    EXPECT_TRUE(IniDocument::parse("").isWhole());
+    EXPECT_TRUE(IniDocument::parse("").isEmpty());
 }
 
 TEST(IniDocumentTest, EverythingThatWasSetIsReadBack) {
@@ -87,11 +94,10 @@ TEST(IniDocumentTest, WhatIsNotAskedForStaysAsItIsWritten) {
     const std::string before =
         "# Mine\n[Other]\na=1\n\n[General]\nkey = old ; not a comment\n; note\nb=2\n\n[Last]\nc=3";
     auto document = IniDocument::parse(before);
-    ASSERT_TRUE(document.has_value());
-    EXPECT_EQ(document->text(), before);
-    document->set("key", 5.0);
-    document->set("fresh", true);
-    EXPECT_EQ(document->text(),
+    EXPECT_EQ(document.text(), before);
+    document.set("key", 5.0);
+    document.set("fresh", true);
+    EXPECT_EQ(document.text(),
               "# Mine\n[Other]\na=1\n\n[General]\nkey=5\n; note\nb=2\nfresh=true\n\n[Last]\nc=3");
 }
 
@@ -119,15 +125,47 @@ TEST_F(IniFileTest, MissingFoldersAreMade) {
     EXPECT_TRUE(isShown(deep));
 }
 
-TEST_F(IniFileTest, ADamagedFileMeansDefaultsOneLineAndACopyAside) {
+TEST_F(IniFileTest, OfADamagedFileCountsWhatCanBeReadAndTheRestIsKeptAside) {
     const std::string damage("[General]\nshown=true\n\0\0\0", 24);
     writeText(file, damage);
-    EXPECT_FALSE(isShown(file));
+    EXPECT_TRUE(isShown(file));
     EXPECT_THAT(log.lines(),
-                ElementsAre("Vantle: a damaged file is kept aside, and the defaults are used: " +
+                ElementsAre("Vantle: a damaged file is kept aside, and what can be read of it is "
+                            "used: " +
                             file.path() + " is now " + aside().path()));
     EXPECT_EQ(readText(aside()), damage);
-    EXPECT_FALSE(std::filesystem::exists(file.path()));
+    EXPECT_EQ(readText(file), "[General]\nshown=true\n");
+    EXPECT_TRUE(isShown(file));
+    EXPECT_EQ(log.lines().size(), 1u) << "nobody meets the same damage twice";
+}
+
+TEST_F(IniFileTest, AFileThatWasEmptiedIsTakenFromItsCopy) {
+    IniUserDefaults(file).set("shown", true);
+    for (const auto* emptied : {"", "\n", "only one odd line", "[General]\n"}) {
+        writeText(file, emptied);
+        EXPECT_TRUE(isShown(file)) << emptied;
+        EXPECT_EQ(readText(file), "[General]\nshown=true\n");
+    }
+    std::filesystem::remove(file.path());
+    EXPECT_FALSE(isShown(file)) << "one that was taken away is to be forgotten";
+}
+
+TEST_F(IniFileTest, AFileThatIsDamagedMeanwhileIsWrittenAgainFromMemory) {
+    IniUserDefaults defaults(file);
+    defaults.set("shown", true);
+    defaults.set("number", 7.0);
+    int value = 0;
+    for (const auto* damage : {"", "[General]\nnumber\n", "odd"}) {
+        writeText(file, damage);
+        defaults.set("other", static_cast<double>(++value));
+        const IniUserDefaults again(file);
+        EXPECT_TRUE(again.boolean("shown")) << damage;
+        EXPECT_EQ(again.number("number"), 7);
+        EXPECT_EQ(again.number("other"), value);
+    }
+    std::filesystem::remove(file.path());
+    defaults.set("other", 0.0);
+    EXPECT_TRUE(isShown(file));
 }
 
 TEST_F(IniFileTest, EarlierDamagedFilesAreNotOverwritten) {

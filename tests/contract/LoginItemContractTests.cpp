@@ -28,7 +28,7 @@ struct RememberedItem {
 
 struct DesktopItem {
     TemporaryFolder folder;
-    AutostartLoginItem item{{folder.url()}, "org.example.Program", "/opt/Program/program"};
+    AutostartLoginItem item{{folder.url()}, "org.example.Program", "/bin/sh"};
 
     std::unique_ptr<Locked> forbid() {
         return std::make_unique<Locked>(
@@ -83,12 +83,12 @@ protected:
 
     TemporaryFolder folder;
     Url entry = folder / "org.example.Program.desktop";
-    AutostartLoginItem item{{folder.url()}, "org.example.Program", "/opt/Program/program"};
+    AutostartLoginItem item{{folder.url()}, "org.example.Program", "/bin/sh"};
 };
 
 TEST_F(AutostartLoginItemTest, TheFolderIsMadeWhenItIsMissing) {
     AutostartLoginItem deep({(folder / "config").appending("autostart")}, "org.example.Program",
-                            "/opt/program");
+                            "/bin/sh");
     EXPECT_EQ(deep.registerItem(), std::nullopt);
     EXPECT_EQ(deep.status(), Status::enabled);
 }
@@ -102,12 +102,11 @@ TEST_F(AutostartLoginItemTest, ThePathOfTheProgramIsQuoted) {
     EXPECT_THAT(entryFor("/opt/a\\b/program"), has("\nExec=\"/opt/a\\\\\\\\b/program\"\n"));
 }
 
-TEST_F(AutostartLoginItemTest, AnEntryThatTheDesktopSwitchedOffIsNotRegistered) {
+TEST_F(AutostartLoginItemTest, AnEntryThatTheUserSwitchedOffIsRefused) {
     for (const auto* off : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n"}) {
         ASSERT_EQ(item.registerItem(), std::nullopt);
-        writeText(entry,
-                  "[Desktop Entry]\nType=Application\nExec=/opt/program\n" + std::string(off));
-        EXPECT_EQ(item.status(), Status::notRegistered);
+        writeText(entry, "[Desktop Entry]\nType=Application\nExec=/bin/sh\n" + std::string(off));
+        EXPECT_EQ(item.status(), Status::refused);
         EXPECT_EQ(item.registerItem(), std::nullopt);
         EXPECT_EQ(item.status(), Status::enabled);
     }
@@ -125,23 +124,46 @@ TEST_F(AutostartLoginItemTest, WhatIsNoDesktopEntryIsNotRegistered) {
 }
 
 TEST_F(AutostartLoginItemTest, AnEntryForOtherDesktopsIsNotRegisteredHere) {
-    const AutostartLoginItem onXfce({folder.url()}, "org.example.Program", "/opt/program",
+    const AutostartLoginItem onXfce({folder.url()}, "org.example.Program", "/bin/sh",
                                     "ubuntu:XFCE");
     for (const auto& [line, expected] : {std::pair{"OnlyShowIn=GNOME;XFCE;", Status::enabled},
                                          std::pair{"OnlyShowIn=GNOME;", Status::notRegistered},
                                          std::pair{"NotShowIn = KDE;XFCE", Status::notRegistered},
                                          std::pair{"NotShowIn=KDE;", Status::enabled}}) {
-        writeText(entry, "[Desktop Entry]\nExec=/opt/program\n" + std::string(line) + "\n");
+        writeText(entry, "[Desktop Entry]\nExec=/bin/sh\n" + std::string(line) + "\n");
         EXPECT_EQ(onXfce.status(), expected) << line;
+    }
+}
+
+TEST_F(AutostartLoginItemTest, AnEntryThatWouldStartNothingIsNotRegistered) {
+    const auto statusOf = [&](const std::string& exec) {
+        writeText(entry, "[Desktop Entry]\nType=Application\nExec=" + exec + "\n");
+        return item.status();
+    };
+    EXPECT_EQ(statusOf("/opt/gone/program"), Status::notRegistered) << "its tree was moved";
+    EXPECT_EQ(statusOf("\"/opt/gone/program\" --start"), Status::notRegistered);
+    EXPECT_EQ(statusOf("no-such-program-anywhere"), Status::notRegistered);
+    EXPECT_EQ(statusOf("sh -c true"), Status::enabled);
+    EXPECT_EQ(statusOf("\"/bin/sh\" -c true"), Status::enabled);
+}
+
+TEST_F(AutostartLoginItemTest, APathWithSignsOfItsOwnIsFoundAgain) {
+    for (const char* name : {"a b", "100%", "$HOME`\"", "a\\b", "%%f"}) {
+        const Url program = folder / name;
+        writeText(program, "#!/bin/sh\n");
+        std::filesystem::permissions(program.path(), std::filesystem::perms::owner_all);
+        AutostartLoginItem odd({folder.url()}, "org.example.Program", program.path());
+        EXPECT_EQ(odd.registerItem(), std::nullopt);
+        EXPECT_EQ(odd.status(), Status::enabled) << name;
     }
 }
 
 TEST_F(AutostartLoginItemTest, OnlyTheKeysOfItsOwnGroupCount) {
     writeText(entry,
-              "# Hidden=true\r\n[Desktop Entry]\r\nExec=/opt/program\r\n"
+              "# Hidden=true\r\n[Desktop Entry]\r\nExec=/bin/sh\r\n"
               "[Desktop Action pause]\r\nHidden=true\r\n");
     EXPECT_EQ(item.status(), Status::enabled);
-    writeText(entry, "Exec=/opt/program\n[Other]\nExec=/opt/program\n");
+    writeText(entry, "Exec=/bin/sh\n[Other]\nExec=/bin/sh\n");
     EXPECT_EQ(item.status(), Status::notRegistered);
 }
 
@@ -149,11 +171,10 @@ class ShadowedLoginItemTest : public testing::Test {
 protected:
     Url entryIn(const TemporaryFolder& of) const { return of / "org.example.Program.desktop"; }
 
-    const std::string entry = "[Desktop Entry]\nType=Application\nExec=/usr/bin/program\n";
+    const std::string entry = "[Desktop Entry]\nType=Application\nExec=/bin/sh\n";
     TemporaryFolder user;
     TemporaryFolder system;
-    AutostartLoginItem item{
-        {user.url(), system.url()}, "org.example.Program", "/opt/Program/program"};
+    AutostartLoginItem item{{user.url(), system.url()}, "org.example.Program", "/bin/sh"};
 };
 
 TEST_F(ShadowedLoginItemTest, TheSystemsEntryCountsWithoutOneOfTheUser) {
@@ -164,7 +185,7 @@ TEST_F(ShadowedLoginItemTest, TheSystemsEntryCountsWithoutOneOfTheUser) {
 TEST_F(ShadowedLoginItemTest, TheUsersEntryShadowsTheSystems) {
     writeText(entryIn(system), entry);
     writeText(entryIn(user), entry + "Hidden=true\n");
-    EXPECT_EQ(item.status(), Status::notRegistered);
+    EXPECT_EQ(item.status(), Status::refused);
     writeText(entryIn(user), "");
     EXPECT_EQ(item.status(), Status::notRegistered);
 }
@@ -172,7 +193,7 @@ TEST_F(ShadowedLoginItemTest, TheUsersEntryShadowsTheSystems) {
 TEST_F(ShadowedLoginItemTest, UnregisteringHidesTheSystemsEntryAndLeavesIt) {
     writeText(entryIn(system), entry);
     ASSERT_EQ(item.unregisterItem(), std::nullopt);
-    EXPECT_EQ(item.status(), Status::notRegistered);
+    EXPECT_EQ(item.status(), Status::refused);
     EXPECT_EQ(readText(entryIn(system)), entry);
     ASSERT_EQ(item.registerItem(), std::nullopt);
     EXPECT_EQ(item.status(), Status::enabled);

@@ -72,8 +72,8 @@ def test_killed_while_running(desktop, vantle, binary):
 
 # It knows no more that there is no screenshot tool; that of MATE saves to the Desktop.
 @pytest.mark.desktop(environment={"XDG_CURRENT_DESKTOP": "MATE"})
-def test_damaged_file_means_defaults(desktop, vantle, folder):
-    damaged = b"\x00\xff[Gen\x00eral\ncorner=topLeft\n\x80\x81=\x00" + bytes(range(256))
+def test_a_file_of_which_nothing_can_be_read_means_defaults(desktop, vantle, folder):
+    damaged = b"\x00\xff[Gen\x00eral\ncorner\x01=topLeft\n\x80\x81=\x00" + bytes(range(256))
     vantle.settings_file.write_bytes(damaged)
     vantle.start()
     # It knows no more that it was introduced.
@@ -91,6 +91,26 @@ def test_damaged_file_means_defaults(desktop, vantle, folder):
     folder.wait_for("shot.png")
     panel = wait_until(desktop.screen.panel, "the panel appears")
     assert panel.frame.right == desktop.screen.work_area().right, "not the default corner"
+
+
+@pytest.mark.parametrize("odd", ["no sense", "[General", "<<<<<<< HEAD", "text=\x00", ""])
+def test_an_odd_line_costs_that_line(desktop, vantle, folder, odd):
+    """Or, where the file was emptied, nothing: the copy of it counts."""
+    vantle.write_settings(corner="topLeft")
+    autostart = desktop.home / ".config/autostart/org.vantle.Vantle.desktop"
+    vantle.start_watching()
+    vantle.stop()
+    whole = vantle.settings_file.read_text()
+    vantle.settings_file.write_text(f"{whole}{odd}\n" if odd else "")
+    vantle.start()
+    vantle.wait_for_log("watching ", times=4)
+    assert desktop.screen.dialogs() == [], "it introduces itself again"
+    assert not autostart.exists()
+    assert "corner=topLeft" in vantle.settings_file.read_text()
+    folder.save("shot.png")
+    folder.wait_for("shot.png")
+    panel = wait_until(desktop.screen.panel, "the panel appears")
+    assert panel.frame.x == desktop.screen.work_area().x
 
 
 def test_unknown_values_are_tolerated(desktop, vantle, folder):

@@ -207,5 +207,15 @@ TEST_F(SettingsTest, RecommendedDefaultsLeaveTheRestAlone) {
     EXPECT_FALSE(domain.values.contains("location"));
 }
 
+TEST_F(SettingsTest, WhatTheUserHasSwitchedOffIsNotRecommendedAway) {
+    Settings settings = make();
+    loginItem.current = LoginItem::Status::refused;
+    settings.applyRecommendedDefaults();
+    EXPECT_FALSE(settings.launchAtLogin.value());
+    EXPECT_EQ(loginItem.current, LoginItem::Status::refused);
+    settings.setLaunchAtLogin(true);
+    EXPECT_TRUE(settings.launchAtLogin.value()) << "the switch decides";
+}
+
 }  // namespace
 }  // namespace vantle

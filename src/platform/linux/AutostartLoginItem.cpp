@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <string_view>
 #include <utility>
 
@@ -32,6 +33,39 @@ std::string execArgument(const std::string& argument) {
     return quoted + '"';
 }
 
+/// Takes away the backslashes that keep what follows them.
+std::string withoutEscapes(std::string_view text) {
+    std::string plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\\' && i + 1 < text.size()) ++i;
+        plain += text[i];
+    }
+    return plain;
+}
+
+/// The first argument of an Exec line: the program.
+std::string programOf(const std::string& exec) {
+    const std::string line = withoutEscapes(exec);
+    if (!line.starts_with('"')) return line.substr(0, line.find(' '));
+    std::size_t end = 1;
+    while (end < line.size() && line[end] != '"') end += line[end] == '\\' ? 2 : 1;
+    std::string program = withoutEscapes(std::string_view(line).substr(1, end - 1));
+    for (auto at = program.find("%%"); at != std::string::npos; at = program.find("%%", at + 1))
+        program.erase(at, 1);
+    return program;
+}
+
+/// A program by its name is looked for where the desktop looks.
+bool canBeStarted(const std::string& program) {
+    const auto isProgram = [](const std::string& path) { return access(path.c_str(), X_OK) == 0; };
+    if (program.find('/') != std::string::npos) return isProgram(program);
+    const char* path = std::getenv("PATH");
+    const auto folders = split(path ? path : "/usr/bin:/bin", ':');
+    return !program.empty() && std::ranges::any_of(folders, [&](const std::string& folder) {
+        return isProgram(folder + '/' + program);
+    });
+}
+
 /// Whether one of the desktops stands in a list such as "GNOME;XFCE;".
 bool names(const std::string& list, const std::string& desktops) {
     const auto listed = split(list, ';');
@@ -44,12 +78,15 @@ bool isEnabled(const KeyFile& entry, const std::string& desktops) {
     const auto value = [&entry](std::string_view key) {
         return entry.value(entryGroup, key).value_or("");
     };
-    if (value("Exec").empty() || value("Hidden") == "true" ||
-        value("X-GNOME-Autostart-enabled") == "false")
-        return false;
+    if (!canBeStarted(programOf(value("Exec")))) return false;
     if (entry.value(entryGroup, "OnlyShowIn") && !names(value("OnlyShowIn"), desktops))
         return false;
     return !names(value("NotShowIn"), desktops);
+}
+
+bool isSwitchedOff(const KeyFile& entry) {
+    return entry.value(entryGroup, "Hidden") == "true" ||
+           entry.value(entryGroup, "X-GNOME-Autostart-enabled") == "false";
 }
 
 bool exists(const Url& file) {
@@ -69,8 +106,10 @@ LoginItem::Status AutostartLoginItem::status() const {
     const auto entry = std::ranges::find_if(entries_, exists);
     if (entry == entries_.end()) return Status::notRegistered;
     const auto text = readWholeFile(*entry, largestEntry);
-    const bool counts = text && isEnabled(KeyFile(text.value()), desktop_);
-    return counts ? Status::enabled : Status::notRegistered;
+    if (!text) return Status::notRegistered;
+    const KeyFile file(text.value());
+    if (isSwitchedOff(file)) return Status::refused;
+    return isEnabled(file, desktop_) ? Status::enabled : Status::notRegistered;
 }
 
 Outcome AutostartLoginItem::registerItem() {

@@ -10,8 +10,8 @@ namespace vantle {
 
 /// A desktop entry in an autostart folder. The first entry of its name counts, the user's own
 /// folder coming before those of the system; an entry there that only hides shadows the one behind
-/// it. Registered means that the entry that counts is neither hidden nor disabled, and meant for
-/// the desktop that runs.
+/// it. Registered means that the entry that counts is neither hidden nor disabled, meant for the
+/// desktop that runs, and starts a program that is there.
 class AutostartLoginItem final : public LoginItem {
 public:
     /// `folders` are the autostart folders, first the user's own, the only one that is written to.

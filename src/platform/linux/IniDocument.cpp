@@ -92,11 +92,18 @@ std::string written(const std::string& value) {
 
 }  // namespace
 
-std::optional<IniDocument> IniDocument::parse(std::string_view text) {
-    if (!KeyFile::isText(text)) return std::nullopt;
+IniDocument IniDocument::parse(std::string_view text) {
     IniDocument document;
-    document.file_ = KeyFile(text);
-    if (!document.file_.isWellFormed()) return std::nullopt;
+    std::string meaningful;
+    while (!text.empty()) {
+        const auto line = text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1);
+        if (KeyFile::isText(line) && KeyFile(line).isWellFormed())
+            meaningful += line;
+        else
+            document.isWhole_ = false;
+        text.remove_prefix(line.size());
+    }
+    document.file_ = KeyFile(meaningful);
     return document;
 }
 

@@ -18,10 +18,14 @@ class IniDocument {
 public:
     IniDocument() = default;
 
-    /// Absent when the text is no INI file: it holds a control character, or a line that is neither
-    /// empty, a comment (# or ;), a [group], nor key=value. Windows line ends and a byte order mark
-    /// are fine.
-    static std::optional<IniDocument> parse(std::string_view text);
+    /// Leaves out each line that is neither empty, a comment (# or ;), a [group], nor key=value, or
+    /// that holds a control character. Windows line ends and a byte order mark are fine.
+    static IniDocument parse(std::string_view text);
+
+    /// Whether no line was left out.
+    bool isWhole() const { return isWhole_; }
+    /// Whether it has no key at all.
+    bool isEmpty() const { return !file_.hasEntries(); }
 
     std::optional<PreferenceValue> value(std::string_view key) const;
     void set(std::string_view key, const PreferenceValue& value);
@@ -30,6 +34,7 @@ public:
 
 private:
     KeyFile file_;
+    bool isWhole_ = true;
 };
 
 }  // namespace vantle

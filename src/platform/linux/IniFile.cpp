@@ -1,9 +1,12 @@
 #include "platform/linux/IniFile.h"
 
+#include <fcntl.h>
+
 #include <cerrno>
 #include <utility>
 
 #include "platform/linux/WholeFile.h"
+#include "support/FileDescriptor.h"
 #include "support/SystemLog.h"
 
 namespace vantle {
@@ -18,37 +21,49 @@ IniDocument IniFile::load() const {
     return document ? std::move(document.value()) : IniDocument();
 }
 
-Outcome IniFile::store(const std::map<std::string, PreferenceValue>& values) {
+Outcome IniFile::store(const std::map<std::string, PreferenceValue>& values,
+                       const IniDocument& memory) {
     auto document = read();
     if (!document) return document.failure();
-    for (const auto& [key, value] : values) document.value().set(key, value);
-    auto failure = replaceWholeFile(file_, document.value().text());
+    const bool isUsable = document.value().isWhole() && !document.value().isEmpty();
+    IniDocument next = isUsable ? std::move(document.value()) : memory;
+    for (const auto& [key, value] : values) next.set(key, value);
+    auto failure = replaceWholeFile(file_, next.text());
     if (failure) complain("cannot write " + file_.path() + ": " + failure->message);
     return failure;
 }
 
-Result<IniDocument> IniFile::read() const {
-    const auto text = readWholeFile(file_, largestFile);
-    if (text) {
-        if (auto document = IniDocument::parse(text.value())) return *std::move(document);
-        return keepDamagedAside();
-    }
-    if (text.failure().code == ENOENT) return IniDocument();
-    if (text.failure().code == EFBIG || text.failure().code == EISDIR) return keepDamagedAside();
-    complain("cannot read " + file_.path() + ": " + text.failure().message);
-    return text.failure();
+bool IniFile::canBeRead() const {
+    return bool(FileDescriptor(open(file_.path().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)));
 }
 
-Result<IniDocument> IniFile::keepDamagedAside() const {
+Result<IniDocument> IniFile::read() const {
+    const auto text = readWholeFile(file_, largestFile);
+    const int failure = text ? 0 : text.failure().code;
+    if (failure == ENOENT) return IniDocument();
+    const bool isNoSuchFile = failure == EFBIG || failure == EISDIR;
+    if (!text && !isNoSuchFile) {
+        complain("cannot read " + file_.path() + ": " + text.failure().message);
+        return text.failure();
+    }
+    IniDocument document = text ? IniDocument::parse(text.value()) : IniDocument();
+    if (!isNoSuchFile && document.isWhole()) return document;
+    if (const Outcome notKept = keepDamagedAside()) return *notKept;
+    // What makes sense stands there again, so that nobody meets the same damage twice.
+    if (!document.isEmpty()) (void)replaceWholeFile(file_, document.text());
+    return document;
+}
+
+Outcome IniFile::keepDamagedAside() const {
     const auto aside = keepAside(file_);
     if (!aside) {
         complain("cannot keep aside what is damaged, " + file_.path() + ": " +
                  aside.failure().message);
         return aside.failure();
     }
-    systemLog("Vantle: a damaged file is kept aside, and the defaults are used: " + file_.path() +
-              " is now " + aside.value().path());
-    return IniDocument();
+    systemLog("Vantle: a damaged file is kept aside, and what can be read of it is used: " +
+              file_.path() + " is now " + aside.value().path());
+    return {};
 }
 
 void IniFile::complain(const std::string& message) const {

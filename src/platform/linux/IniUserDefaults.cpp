@@ -1,8 +1,36 @@
 #include "platform/linux/IniUserDefaults.h"
 
+#include <utility>
+
 #include "platform/PreferenceConversion.h"
+#include "platform/linux/WholeFile.h"
+#include "support/SystemLog.h"
 
 namespace vantle {
+
+IniUserDefaults::IniUserDefaults(const Url& file)
+    : file_(file), copy_(Url::file(file.path() + ".copy")) {
+    // One that was taken away is to be forgotten; one that was emptied is not.
+    const bool wasThere = file_.canBeRead();
+    stored_ = file_.load();
+    if (wasThere && stored_.isEmpty()) restoreFromCopy();
+    keepCopy();
+}
+
+void IniUserDefaults::restoreFromCopy() {
+    IniDocument last = IniFile(copy_).load();
+    if (last.isEmpty()) return;
+    systemLog("Vantle: the settings are taken from their last copy, " + copy_.path());
+    stored_ = std::move(last);
+    (void)file_.store({}, stored_);
+}
+
+void IniUserDefaults::keepCopy() {
+    const std::string text = stored_.text();
+    if (stored_.isEmpty() || IniFile(copy_).load().text() == text) return;
+    // It comes second: a failure costs nothing but itself.
+    (void)replaceWholeFile(copy_, text, Durability::untilRestart);
+}
 
 void IniUserDefaults::registerDefaults(const std::map<std::string, PreferenceValue>& defaults) {
     for (const auto& [key, value] : defaults) registered_.insert_or_assign(key, value);
@@ -24,7 +52,9 @@ void IniUserDefaults::set(const std::string& key, const PreferenceValue& value) 
     stored_.set(key, value);
     unsaved_.insert_or_assign(key, value);
     // A failure is logged by the file; the value holds for this run, and goes with the next write.
-    if (!file_.store(unsaved_)) unsaved_.clear();
+    if (file_.store(unsaved_, stored_)) return;
+    unsaved_.clear();
+    keepCopy();
 }
 
 template <typename T>

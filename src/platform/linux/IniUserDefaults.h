@@ -9,10 +9,11 @@
 
 namespace vantle {
 
-/// The program's settings in an INI file, read once at creation.
+/// The program's settings in an INI file, read once at creation. A copy of it stands beside it, for
+/// the day when the file is there and holds nothing.
 class IniUserDefaults final : public UserDefaults {
 public:
-    explicit IniUserDefaults(const Url& file) : file_(file), stored_(file_.load()) {}
+    explicit IniUserDefaults(const Url& file);
 
     void registerDefaults(const std::map<std::string, PreferenceValue>& defaults) override;
     bool boolean(const std::string& key) const override;
@@ -25,7 +26,11 @@ private:
     std::optional<T> value(const std::string& key,
                            std::optional<T> (*meaning)(const PreferenceValue&)) const;
 
+    void restoreFromCopy();
+    void keepCopy();
+
     IniFile file_;
+    Url copy_;
     IniDocument stored_;
     std::map<std::string, PreferenceValue> unsaved_;
     std::map<std::string, PreferenceValue> registered_;

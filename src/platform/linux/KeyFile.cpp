@@ -122,6 +122,10 @@ bool KeyFile::hasGroup(std::string_view group) const {
     });
 }
 
+bool KeyFile::hasEntries() const {
+    return std::ranges::any_of(lines_, [](const Line& line) { return line.kind == Kind::entry; });
+}
+
 bool KeyFile::isWellFormed() const {
     return std::ranges::none_of(lines_, [](const Line& line) { return line.kind == Kind::other; });
 }

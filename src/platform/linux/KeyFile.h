@@ -34,6 +34,9 @@ public:
 
     bool hasGroup(std::string_view group) const;
 
+    /// Whether it has a key, in any group.
+    bool hasEntries() const;
+
     /// Whether each line is empty, a comment (# or ;), a [group] or a key with its value.
     bool isWellFormed() const;
 

@@ -70,7 +70,7 @@ Column {
         Keys.onPressed: event => {
             const places = {
                 [Qt.Key_Home]: from, [Qt.Key_End]: to,
-                [Qt.Key_PageUp]: value + 10, [Qt.Key_PageDown]: value - 10
+                [Qt.Key_PageUp]: Math.round(value) + 10, [Qt.Key_PageDown]: Math.round(value) - 10
             };
             if (!(event.key in places)) return;
             block.settings.dismissAfter = Math.min(to, Math.max(from, places[event.key]));
