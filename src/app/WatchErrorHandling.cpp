@@ -84,7 +84,8 @@ void AppDelegate::askForAccess(const Url& folder) {
 void AppDelegate::recreate(const Url& folder) {
     // Whether it could be made shows in the next step.
     (void)platform_.files->createDirectory(folder);
-    if (watcher_->start(folder))
+    // What is in one that has just come was saved since then.
+    if (watcher_->start(folder, CaptureWatcher::Existing::isNew))
         offerSettings(missingAlert(folder));
     else
         lastWatchError_.reset();

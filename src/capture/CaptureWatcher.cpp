@@ -31,9 +31,10 @@ CaptureWatcher::~CaptureWatcher() {
 }
 
 std::optional<WatchError> CaptureWatcher::start(const Url& folder, Existing existing) {
+    const bool isSame = isWatching() && folder_ == folder;
     stop();
     folder_ = folder;
-    auto error = watch(folder, existing);
+    auto error = watch(folder, isSame ? Existing::isAsBefore : existing);
     if (error) report(*error);
     return error;
 }
@@ -67,8 +68,8 @@ std::optional<WatchError> CaptureWatcher::watch(const Url& folder, Existing exis
     // What is known belongs to the queue. The scan finds what was saved after the listing and
     // before the source was open.
     const NameList known = existing == Existing::isKnown ? names : NameList();
-    services_.queue.async(weakly(shared_from_this(), [folder, watch, known](auto& self) {
-        self.known_ = KnownNames(folder, known);
+    services_.queue.async(weakly(shared_from_this(), [folder, watch, known, existing](auto& self) {
+        if (existing != Existing::isAsBefore) self.known_ = KnownNames(folder, known);
         self.handleEvent(folder, watch, {.contents = true});
     }));
     source_->resume();
@@ -104,27 +105,37 @@ void CaptureWatcher::scan(const Url& folder) {
     const auto listing = services_.files.contentsOfDirectory(folder);
     if (!listing) return;
     const Date now = services_.clock.now();
-    known_.reconcile(listing.value(), [&](std::string_view name) { consider(folder, name, now); });
+    known_.reconcile(listing.value(), [&](std::string_view name) {
+        if (consider(folder, name, now) == Look::again)
+            services_.queue.after(
+                pollingInterval,
+                weakly(shared_from_this(), [folder, found = std::string(name)](auto& self) {
+                    (void)self.consider(folder, found, self.services_.clock.now());
+                }));
+    });
 }
 
-void CaptureWatcher::consider(const Url& folder, std::string_view name, Date now) {
-    if (name.starts_with('.')) return;
+CaptureWatcher::Look CaptureWatcher::consider(const Url& folder, std::string_view name, Date now) {
+    if (name.starts_with('.')) return Look::done;
     const Url url = folder.appending(name);
-    if (pending_.contains(url.path())) return;
-    if (!Capture::kind(url, services_.moreExtensions)) return;
+    if (pending_.contains(url.path())) return Look::done;
+    if (!Capture::kind(url, services_.moreExtensions)) return Look::done;
     const auto values = services_.files.resourceValues(url);
-    if (!values || values.value().isRegularFile != true) return;
+    // A system that tells of the end of a writing may do so before the writer has let go.
+    if (values && !values.value().isRegularFile) return Look::again;
+    if (!values || values.value().isRegularFile != true) return Look::done;
 
     const Date fileDate =
         values.value().contentModificationDate.value_or(values.value().creationDate.value_or(now));
     if (now - fileDate >= newestAge) {
         known_.insert(name);
-        return;
+        return Look::done;
     }
     pending_.insert(url.path());
     waitUntilStable(url, 0, unknownSize, weakly(shared_from_this(), [url, fileDate](auto& self) {
                         self.deliver(url, fileDate);
                     }));
+    return Look::done;
 }
 
 void CaptureWatcher::waitUntilStable(const Url& url, int attempts, std::int64_t lastSize,

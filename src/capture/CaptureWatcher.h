@@ -51,10 +51,15 @@ public:
     std::function<void(const WatchError&)> onError;
 
     /// What is in the folder when watching begins: never reported, or as if it were saved then.
-    enum class Existing { isKnown, isNew };
+    enum class Existing {
+        isKnown,
+        isNew,
+        isAsBefore,  ///< As the watch of the same folder has it that runs already.
+    };
 
     /// Watches `folder` from now on instead of any other. Absent on success; otherwise the error
-    /// that is also logged and goes to onError. Starting again on the same folder is harmless.
+    /// that is also logged and goes to onError. Starting again on the folder that is watched loses
+    /// nothing that was saved between the two.
     std::optional<WatchError> start(const Url& folder, Existing existing = Existing::isKnown);
 
     /// Files that are settling at that moment may still be reported.
@@ -78,7 +83,9 @@ private:
     // Queue.
     void handleEvent(const Url& folder, WatchNumber watch, DirectoryChange change);
     void scan(const Url& folder);
-    void consider(const Url& folder, std::string_view name, Date now);
+    /// Whether a file that was looked at is to be looked at once more, a little later.
+    enum class Look { done, again };
+    Look consider(const Url& folder, std::string_view name, Date now);
     void waitUntilStable(const Url& url, int attempts, std::int64_t lastSize,
                          const std::function<void()>& done);
     void deliver(const Url& url, Date fileDate);

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "Disks.h"
+#include "support/FileDescriptor.h"
 
 namespace vantle {
 namespace {
@@ -255,6 +256,52 @@ TEST_F(InotifyDirectoryEventsTest, AnUnmountedFolderIsLostOnce) {
     EXPECT_TRUE(disk.waitUntil([this] { return record.seen().lost; }));
     letPass();
     EXPECT_EQ(record.losses(), 1);
+}
+
+TEST_F(InotifyDirectoryEventsTest, AFolderInWhichSomebodyStandsIsLostWhenItIsRemoved) {
+    const auto source = watch(disk.folder, record);
+    ASSERT_NE(source, nullptr);
+    // As a shell does that stands in it, or who reads a file of it.
+    const FileDescriptor inside(::open(disk.folder.path().c_str(), O_RDONLY | O_DIRECTORY));
+    ASSERT_TRUE(inside);
+    std::filesystem::remove_all(disk.folder.path());
+    std::filesystem::create_directory(disk.folder.path());
+    EXPECT_TRUE(disk.waitUntil([this] { return record.seen().lost; }));
+    letPass();
+    EXPECT_EQ(record.losses(), 1);
+}
+
+TEST_F(InotifyDirectoryEventsTest, AFolderIsLostWhenOneAboveItIsRenamed) {
+    const Url deep = file("above").appending("between").appending("deep");
+    std::filesystem::create_directories(deep.path());
+    const auto source = watch(deep, record);
+    ASSERT_NE(source, nullptr);
+    std::filesystem::rename(file("above").path(), file("elsewhere").path());
+    EXPECT_TRUE(disk.waitUntil([this] { return record.seen().lost; }));
+    letPass();
+    EXPECT_EQ(record.losses(), 1);
+}
+
+TEST_F(InotifyDirectoryEventsTest, AFolderIsLostWhenALinkToItLeadsElsewhere) {
+    std::filesystem::create_directory(file("one").path());
+    std::filesystem::create_directory(file("two").path());
+    std::filesystem::create_symlink(file("one").path(), file("link").path());
+    const auto source = watch(file("link"), record);
+    ASSERT_NE(source, nullptr);
+    std::filesystem::remove(file("link").path());
+    std::filesystem::create_symlink(file("two").path(), file("link").path());
+    EXPECT_TRUE(disk.waitUntil([this] { return record.seen().lost; }));
+}
+
+TEST_F(InotifyDirectoryEventsTest, WhatHappensBesideTheFolderIsNotTold) {
+    const auto source = watch(disk.folder, record);
+    ASSERT_NE(source, nullptr);
+    disk.save(disk.place.appending("beside.png"));
+    std::filesystem::rename(disk.place.appending("beside.png").path(),
+                            disk.place.appending("renamed.png").path());
+    std::filesystem::remove(disk.place.appending("renamed.png").path());
+    letPass();
+    EXPECT_EQ(record.calls(), 0);
 }
 
 TEST_F(InotifyDirectoryEventsTest, AnUnreadableFolderFailsWithPermissionDenied) {

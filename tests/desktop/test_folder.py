@@ -112,3 +112,23 @@ def test_unreadable(desktop, binary, folder):
     finally:
         vantle.stop()
         folder.path.chmod(0o700)
+
+
+def test_removed_and_made_again_while_somebody_stands_in_it(desktop, vantle, folder):
+    vantle.start_watching()
+    standing = desktop.start("sleep", "600", cwd=folder.path)
+    folder.save("first.png")
+    folder.wait_for("first.png")
+    shutil.rmtree(folder.path)
+    folder.path.mkdir()
+    folder.save("second.png")
+    folder.wait_for("second.png")
+    assert standing.poll() is None
+
+
+def test_saved_as_soon_as_it_is_watched(vantle, folder):
+    """Starting, the program begins to watch twice."""
+    vantle.start()
+    vantle.wait_for_log("watching ")
+    folder.save("early.png")
+    folder.wait_for("early.png")

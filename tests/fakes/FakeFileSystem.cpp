@@ -81,8 +81,12 @@ void FakeFileSystem::write(const Url& file, std::int64_t size, Date modified) {
     report(file.deletingLastPathComponent(), {.contents = true});
 }
 
-void FakeFileSystem::change(const Url& file, const std::function<void(Entry&)>& edit) {
+void FakeFileSystem::changeSilently(const Url& file, const std::function<void(Entry&)>& edit) {
     edit(entries_.at(file.path()));
+}
+
+void FakeFileSystem::change(const Url& file, const std::function<void(Entry&)>& edit) {
+    changeSilently(file, edit);
     report(file.deletingLastPathComponent(), {.contents = true});
 }
 

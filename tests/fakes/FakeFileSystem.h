@@ -38,6 +38,8 @@ public:
     void write(const Url& file, std::int64_t size, Date modified);
     /// Changes a file's entry in place and reports the change in its folder.
     void change(const Url& file, const std::function<void(Entry&)>& edit);
+    /// The same without a report.
+    void changeSilently(const Url& file, const std::function<void(Entry&)>& edit);
     void remove(const Url& file);
     void rename(const Url& from, const Url& to);
 

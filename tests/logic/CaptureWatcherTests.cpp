@@ -241,6 +241,25 @@ TEST_F(CaptureWatcherTest, WhatIsNotKnownToBeARegularFileIsLookedAtAgain) {
     EXPECT_THAT(captured, ElementsAre("recording.mp4"));
 }
 
+TEST_F(CaptureWatcherTest, AWriterThatLetsGoAfterItWasToldIsNotWaitedForInVain) {
+    start();
+    save("recording.mp4");
+    files.change(url("recording.mp4"), [](auto& entry) { entry.isRegularFile.reset(); });
+    time.settle();
+    // Nothing tells of it.
+    files.changeSilently(url("recording.mp4"), [](auto& entry) { entry.isRegularFile = true; });
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("recording.mp4"));
+}
+
+TEST_F(CaptureWatcherTest, AFileThatIsStillWrittenIsNotLookedAtForEver) {
+    start();
+    save("recording.mp4");
+    files.change(url("recording.mp4"), [](auto& entry) { entry.isRegularFile.reset(); });
+    wait(60);
+    EXPECT_EQ(time.pending(), 0u);
+}
+
 TEST_F(CaptureWatcherTest, FilesWhoseValuesCannotBeReadAreLookedAtAgain) {
     start();
     save("shy.png");
@@ -419,6 +438,18 @@ TEST_F(CaptureWatcherTest, StartingTwiceOnTheSameFolderIsHarmless) {
     save("shot.png");
     wait(1);
     EXPECT_THAT(captured, ElementsAre("shot.png"));
+}
+
+TEST_F(CaptureWatcherTest, WhatIsSavedBetweenTwoStartsIsNotLost) {
+    save("old.png");
+    ASSERT_EQ(watcher->start(folder), std::nullopt);
+    save("between.png");
+    start();
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("between.png"));
+    start();
+    wait(1);
+    EXPECT_EQ(captured.size(), 1u) << "what was reported stays known";
 }
 
 TEST_F(CaptureWatcherTest, AStoppedWatcherReportsOnlyWhatWasSettling) {
