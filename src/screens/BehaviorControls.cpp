@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "screens/WholeSeconds.h"
 #include "support/Localization.h"
@@ -10,17 +11,38 @@ namespace vantle {
 namespace {
 
 constexpr double secondsAtFirst = 10;
+// Longer than from one key to the next, also while one is held down.
+constexpr Seconds restTime{0.5};
 
 }  // namespace
 
-BehaviorControls::BehaviorControls(Settings& settings)
+BehaviorControls::BehaviorControls(Settings& settings, Scheduler& scheduler)
     : settings_(settings),
+      scheduler_(scheduler),
       lastPositive_(secondsAtFirst),
       subscription_(settings.dismissAfter.observe([this](double seconds) { remember(seconds); })) {
     appear();
 }
 
+BehaviorControls::~BehaviorControls() {
+    store();
+}
+
+void BehaviorControls::moveSlider(double seconds) {
+    moved_ = seconds;
+    if (rest_) rest_->cancel();
+    rest_ = scheduler_.after(restTime, [this] { store(); });
+}
+
+void BehaviorControls::store() {
+    if (rest_) rest_->cancel();
+    if (const auto seconds = std::exchange(moved_, std::nullopt))
+        settings_.dismissAfter.set(*seconds);
+}
+
 void BehaviorControls::remember(double seconds) {
+    // Whoever else changes it has the last word.
+    moved_.reset();
     if (seconds > 0) lastPositive_ = seconds;
 }
 
@@ -30,19 +52,18 @@ void BehaviorControls::appear() {
 
 void BehaviorControls::setNeverDismiss(bool never) {
     if (never == neverDismiss_) return;
+    store();
     neverDismiss_ = never;
     settings_.dismissAfter.set(never ? 0 : lastPositive_);
 }
 
 double BehaviorControls::sliderValue() const {
-    const double seconds = settings_.dismissAfter.value();
-    return std::isnan(seconds) ? shortest : std::clamp(seconds, shortest, longest);
+    return std::isnan(seconds()) ? shortest : std::clamp(seconds(), shortest, longest);
 }
 
 std::string BehaviorControls::dismissAfterText() const {
     if (neverDismiss_) return "—";
-    return filled(localized("BehaviorControls", "%1 seconds"),
-                  {wholeSeconds(settings_.dismissAfter.value())});
+    return filled(localized("BehaviorControls", "%1 seconds"), {wholeSeconds(seconds())});
 }
 
 }  // namespace vantle

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "platform/Scheduler.h"
 #include "settings/Settings.h"
 
 namespace vantle {
@@ -15,8 +17,9 @@ public:
     static constexpr double longest = 120;
     static constexpr double step = 1;
 
-    /// `settings` outlives it.
-    explicit BehaviorControls(Settings& settings);
+    /// Both outlive it.
+    BehaviorControls(Settings& settings, Scheduler& scheduler);
+    ~BehaviorControls();
     BehaviorControls(const BehaviorControls&) = delete;
     BehaviorControls& operator=(const BehaviorControls&) = delete;
 
@@ -27,6 +30,9 @@ public:
     /// Off restores the number of seconds that was there before, if there was one.
     void setNeverDismiss(bool never);
 
+    /// The slider was moved there. The settings get it, and write it down, once it rests.
+    void moveSlider(double seconds);
+
     /// Where the slider stands: inside its range, whatever the settings say.
     double sliderValue() const;
     /// What stands beside the slider.
@@ -34,8 +40,13 @@ public:
 
 private:
     void remember(double seconds);
+    void store();
+    double seconds() const { return moved_.value_or(settings_.dismissAfter.value()); }
 
     Settings& settings_;
+    Scheduler& scheduler_;
+    std::optional<double> moved_;  ///< While the slider moves: what the settings do not have yet.
+    TimerPointer rest_;
     bool neverDismiss_ = false;
     double lastPositive_;
     Subscription subscription_;

@@ -11,24 +11,58 @@ namespace {
 class BehaviorControlsTest : public testing::Test, protected fakes::SettingsOnFakes {
 protected:
     double seconds() const { return settings.dismissAfter.value(); }
+
+    fakes::ManualScheduler scheduler{time};
 };
 
 TEST_F(BehaviorControlsTest, WithoutATimerTheToggleIsOn) {
-    const BehaviorControls controls(settings);
+    const BehaviorControls controls(settings, scheduler);
     EXPECT_TRUE(controls.neverDismiss());
     EXPECT_EQ(controls.dismissAfterText(), "—");
 }
 
 TEST_F(BehaviorControlsTest, WithATimerTheToggleIsOffAndTheSecondsAreWhole) {
     settings.dismissAfter.set(12.9);
-    const BehaviorControls controls(settings);
+    const BehaviorControls controls(settings, scheduler);
     EXPECT_FALSE(controls.neverDismiss());
     EXPECT_EQ(controls.dismissAfterText(), "12 seconds");
 }
 
+TEST_F(BehaviorControlsTest, ASliderThatMovesIsStoredOnceItRests) {
+    settings.dismissAfter.set(30);
+    int stored = 0;
+    const auto subscription = settings.dismissAfter.observeChanges([&](double) { ++stored; });
+    BehaviorControls controls(settings, scheduler);
+    for (int second = 31; second <= 90; ++second) {
+        controls.moveSlider(second);
+        EXPECT_EQ(controls.sliderValue(), second);
+        time.advance(Seconds(0.05));
+    }
+    EXPECT_EQ(controls.dismissAfterText(), "90 seconds");
+    EXPECT_EQ(stored, 0);
+    time.advance(Seconds(1));
+    EXPECT_EQ(stored, 1);
+    EXPECT_EQ(seconds(), 90);
+}
+
+TEST_F(BehaviorControlsTest, ASliderThatHasJustMovedIsNotLost) {
+    settings.dismissAfter.set(30);
+    {
+        BehaviorControls controls(settings, scheduler);
+        controls.moveSlider(40);
+        controls.setNeverDismiss(true);
+        controls.setNeverDismiss(false);
+        EXPECT_EQ(seconds(), 40);
+        controls.moveSlider(50);
+    }
+    EXPECT_EQ(seconds(), 50);
+    time.advance(Seconds(1));
+    EXPECT_EQ(seconds(), 50);
+}
+
 TEST_F(BehaviorControlsTest, OnStoresZero) {
     settings.dismissAfter.set(30);
-    BehaviorControls controls(settings);
+    BehaviorControls controls(settings, scheduler);
     controls.setNeverDismiss(true);
     EXPECT_EQ(seconds(), 0);
     EXPECT_EQ(defaults.stored["dismissAfter"], PreferenceValue(0.0));
@@ -36,7 +70,7 @@ TEST_F(BehaviorControlsTest, OnStoresZero) {
 
 TEST_F(BehaviorControlsTest, OffRestoresTheLastPositiveNumberOfSeconds) {
     settings.dismissAfter.set(30);
-    BehaviorControls controls(settings);
+    BehaviorControls controls(settings, scheduler);
     settings.dismissAfter.set(45);
     controls.setNeverDismiss(true);
     controls.setNeverDismiss(false);
@@ -46,21 +80,21 @@ TEST_F(BehaviorControlsTest, OffRestoresTheLastPositiveNumberOfSeconds) {
 TEST_F(BehaviorControlsTest, OffIsTenSecondsWhenThereWereNone) {
     settings.dismissAfter.set(-5);
     settings.dismissAfter.set(0);
-    BehaviorControls controls(settings);
+    BehaviorControls controls(settings, scheduler);
     controls.setNeverDismiss(false);
     EXPECT_EQ(seconds(), 10);
 }
 
 TEST_F(BehaviorControlsTest, SayingTheSameAgainChangesNothing) {
     settings.dismissAfter.set(30);
-    BehaviorControls controls(settings);
+    BehaviorControls controls(settings, scheduler);
     settings.dismissAfter.set(-1);
     controls.setNeverDismiss(false);
     EXPECT_EQ(seconds(), -1);
 }
 
 TEST_F(BehaviorControlsTest, TheToggleFollowsTheSettingsWhenItAppears) {
-    BehaviorControls controls(settings);
+    BehaviorControls controls(settings, scheduler);
     settings.dismissAfter.set(20);
     EXPECT_TRUE(controls.neverDismiss());
     controls.appear();
@@ -68,7 +102,7 @@ TEST_F(BehaviorControlsTest, TheToggleFollowsTheSettingsWhenItAppears) {
 }
 
 TEST_F(BehaviorControlsTest, TheSliderNeverOffersValuesBelow3OrAbove120) {
-    const BehaviorControls controls(settings);
+    const BehaviorControls controls(settings, scheduler);
     EXPECT_EQ(BehaviorControls::shortest, 3);
     EXPECT_EQ(BehaviorControls::longest, 120);
     EXPECT_EQ(controls.sliderValue(), 3);
@@ -82,7 +116,7 @@ TEST_F(BehaviorControlsTest, TheSliderNeverOffersValuesBelow3OrAbove120) {
 
 TEST_F(BehaviorControlsTest, NumbersThatNoSliderGivesAreShownAsTheyAre) {
     settings.dismissAfter.set(500);
-    const BehaviorControls controls(settings);
+    const BehaviorControls controls(settings, scheduler);
     EXPECT_EQ(controls.dismissAfterText(), "500 seconds");
     settings.dismissAfter.set(-2.5);
     EXPECT_EQ(controls.dismissAfterText(), "-2 seconds");

@@ -122,7 +122,8 @@ TEST_F(LocalizedApp, TheSummaryOfTheOnboardingIsTranslated) {
 TEST_F(LocalizedApp, TheLengthOfTheCountdownIsTranslated) {
     launch();
     delegate->settings().dismissAfter.set(25);
-    EXPECT_EQ(BehaviorControls(delegate->settings()).dismissAfterText(), "⟦25 seconds⟧");
+    const BehaviorControls controls(delegate->settings(), *platform.scheduler);
+    EXPECT_EQ(controls.dismissAfterText(), "⟦25 seconds⟧");
 }
 
 }  // namespace

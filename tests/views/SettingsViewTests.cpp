@@ -16,6 +16,11 @@ const QString slider = QStringLiteral("Otherwise dismiss after");
 
 class SettingsViewTest : public testing::Test, protected ScreenStage {
 protected:
+    /// Once the slider has rested.
+    double storedSeconds() {
+        time.advance(Seconds(1));
+        return settings->dismissAfter.value();
+    }
     bool isOn(const QString& toggle) { return named(toggle).property("checked").toBool(); }
     static MenuWindow* openMenu() {
         for (QWindow* window : QGuiApplication::topLevelWindows())
@@ -99,17 +104,17 @@ TEST_F(SettingsViewTest, TheSliderNeverOffersValuesBelow3OrAbove120) {
     QQuickItem& item = named(slider);
     item.forceActiveFocus();
     press(Qt::Key_Home);
-    EXPECT_EQ(settings->dismissAfter.value(), 3);
+    EXPECT_EQ(storedSeconds(), 3);
     press(Qt::Key_Left);
     press(Qt::Key_PageDown);
-    EXPECT_EQ(settings->dismissAfter.value(), 3);
+    EXPECT_EQ(storedSeconds(), 3);
     press(Qt::Key_End);
-    EXPECT_EQ(settings->dismissAfter.value(), 120);
+    EXPECT_EQ(storedSeconds(), 120);
     press(Qt::Key_Right);
     press(Qt::Key_PageUp);
-    EXPECT_EQ(settings->dismissAfter.value(), 120);
+    EXPECT_EQ(storedSeconds(), 120);
     item.setProperty("value", 1000);
-    EXPECT_EQ(settings->dismissAfter.value(), 120);
+    EXPECT_EQ(storedSeconds(), 120);
     settings->dismissAfter.set(40);
     settle();
     EXPECT_EQ(sliderValue(), 40);
@@ -124,11 +129,21 @@ TEST_F(SettingsViewTest, TheSliderGoesInWholeSeconds) {
         const QPoint point(qRound(place.left() + part * place.width()), qRound(place.center().y()));
         QTest::mouseClick(&window(), Qt::LeftButton, {}, point);
         settle();
-        const double seconds = settings->dismissAfter.value();
+        const double seconds = storedSeconds();
         EXPECT_EQ(seconds, std::round(seconds));
         EXPECT_NEAR(seconds, 3 + part * 117, 4);
         EXPECT_EQ(sliderValue(), seconds);
     }
+}
+
+TEST_F(SettingsViewTest, PageKeysKeepWholeSteps) {
+    settings->dismissAfter.set(7.5);
+    openSettings();
+    named(slider).forceActiveFocus();
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(storedSeconds(), 18);
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(storedSeconds(), 8);
 }
 
 TEST_F(SettingsViewTest, NumbersThatTheSliderDoesNotOfferAreLeftAlone) {

@@ -20,7 +20,7 @@ SettingsModel::SettingsModel(Settings& settings, Platform& platform)
     : settings_(settings),
       notifications_(platform.notifications),
       picker_({settings, *platform.files, *platform.folderChooser, *platform.application}),
-      controls_(settings),
+      controls_(settings, *platform.scheduler),
       recordingsFolder_(platform.recordingsFolder) {
     follow();
 }
@@ -80,7 +80,8 @@ void SettingsModel::setNeverDismiss(bool on) {
 }
 
 void SettingsModel::setDismissAfter(double seconds) {
-    settings_.dismissAfter.set(seconds);
+    controls_.moveSlider(seconds);
+    emit changed();
     emit changed();
 }
 
