@@ -1,5 +1,7 @@
 #include "updater/Configuration.h"
 
+#include <string_view>
+
 namespace vantle::updater {
 
 const Configuration& configuration() {
@@ -8,7 +10,8 @@ const Configuration& configuration() {
     static const Configuration built{
         .feed = VANTLE_UPDATE_FEED,
         .publicKey = VANTLE_UPDATE_KEY,
-        .page = VANTLE_DOWNLOAD_PAGE,
+        // Without a key nobody answers for what stands there.
+        .page = std::string_view(VANTLE_UPDATE_KEY).empty() ? "" : VANTLE_DOWNLOAD_PAGE,
         .patience = Seconds(VANTLE_UPDATE_PATIENCE),
         .longestFeed = Seconds(2 * VANTLE_UPDATE_PATIENCE),
         .longestArchive = 1h,

@@ -280,4 +280,11 @@ def test_other_addresses_are_refused(copy, address):
 
 def test_a_copy_without_a_key_cannot_be_updated(copy, publisher):
     shutil.copy(os.environ["VANTLE_UPDATER_WITHOUT_KEY"], copy.tree / "bin/vantle-updater")
-    assert "built without the key" in failure(copy.check(publisher.publish(ARCHIVE, NEW)))
+    reports = copy.check(publisher.publish(ARCHIVE, NEW))
+    assert "built without the key" in failure(reports)
+    assert reports[-1][2] == "", "nobody answers for the page either"
+
+
+def test_a_copy_with_a_key_knows_where_new_versions_are(copy):
+    reports = copy.check("ftp://127.0.0.1/appcast.xml")
+    assert failure(reports) and reports[-1][2].startswith("https://")
