@@ -24,7 +24,8 @@ public:
     std::uint64_t schedule(Seconds delay, Work work);
     void cancel(std::uint64_t key);
 
-    /// Runs all that falls due within the next `duration`, also what that work schedules.
+    /// Runs all that falls due within the next `duration`, also what that work schedules. Throws
+    /// where that has no end.
     void advance(Seconds duration);
 
     /// Runs what is due now, and what that brings due now.

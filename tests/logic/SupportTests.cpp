@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/CapturedLog.h"
+#include "fakes/VirtualTime.h"
 #include "support/Debug.h"
 #include "support/DisplayName.h"
 #include "support/Geometry.h"
@@ -13,6 +14,13 @@
 
 namespace vantle {
 namespace {
+
+TEST(VirtualTime, WorkWithoutEndIsNotRunForEver) {
+    fakes::VirtualTime time;
+    std::function<void()> again = [&] { time.schedule(Seconds(0), again); };
+    again();
+    EXPECT_THROW(time.settle(), std::logic_error);
+}
 
 TEST(DisplayName, NamesOfAnyBytesAreShownOnOneLine) {
     EXPECT_EQ(displayName("Shot.png"), "Shot.png");
