@@ -2,6 +2,7 @@
 
 import os
 import subprocess
+import time
 
 import pytest
 
@@ -98,6 +99,58 @@ def test_the_wheel_scrolls(desktop, vantle, folder, assistant):
     wait_until_still(lambda: look(desktop), "the row")
     pointer.drag((card.x + 4, card.bottom - 5), (card.right - 4, card.y + 20))
     wait_for_selection(assistant, "1.png", "2.png", "3.png", "4.png")
+
+
+def come_from_outside(desktop, x, y):
+    """As a hand does: in steps, the last ones small."""
+    pointer = desktop.screen.pointer
+    start = (x + 400, y - 300)
+    for part in (0, 0.5, 0.8, 0.93, 0.98, 1):
+        pointer.move(*(round(a + (b - a) * part) for a, b in zip(start, (x, y))))
+
+
+def captures_on(vantle):
+    return int(vantle.command("--status")[1].split("captures: ")[1].split()[0])
+
+
+@pytest.mark.parametrize("gap", [0.05, 0.15, 0.3, 0.45])
+def test_a_double_click_on_a_close_button_closes_one(desktop, vantle, folder, gap):
+    vantle.write_settings(corner="bottomLeft")
+    vantle.start_watching()
+    card = show_several(desktop, folder, 4)
+    pointer = desktop.screen.pointer
+    # On the part of the disc that overhangs the first tile. The next tile takes its place.
+    come_from_outside(desktop, card.x + 8, card.y + 13)
+    wait_until_still(lambda: look(desktop), "the card")
+    pointer.press()
+    pointer.release()
+    time.sleep(gap)  # Between the two clicks of a hand.
+    pointer.press()
+    pointer.release()
+    wait_until_still(lambda: look(desktop), "the card")
+    assert captures_on(vantle) == 3
+    time.sleep(0.5)  # That is no double-click any more.
+    pointer.press()
+    pointer.release()
+    wait_until(lambda: captures_on(vantle) == 2, "the next click closes the next")
+
+
+def test_a_double_click_on_the_last_capture_is_one(desktop, vantle, folder):
+    """What lies under the card is not meant by the second click."""
+    vantle.start_watching()
+    other = OtherWindow(desktop, Rectangle(0, 100, *desktop.size))
+    card = wait_for_card(desktop, show_one(desktop, folder))
+    pointer = desktop.screen.pointer
+    come_from_outside(desktop, card.x + 8, card.y + 13)
+    wait_until_still(lambda: look(desktop), "the card")
+    for _ in range(2):
+        pointer.press()
+        pointer.release()
+        time.sleep(0.2)
+    wait_until(lambda: desktop.screen.panel() is None, "the card leaves")
+    pointer.click(60, 300)
+    wait_until(lambda: other.clicks(), "the other window gets a click")
+    assert other.clicks() == [(60, 300)]
 
 
 def test_first_click_works_and_the_focus_stays(desktop, vantle, folder, assistant):
