@@ -31,10 +31,16 @@ TEST(DisplayName, NamesOfAnyBytesAreShownOnOneLine) {
 }
 
 TEST(DisplayName, NothingHidesHowANameEnds) {
-    EXPECT_EQ(displayName("\u202Egnp.exe evil.png"), "\uFFFDgnp.exe evil.png");
-    for (const char* hidden : {"\u202A", "\u202B", "\u202C", "\u202D", "\u2066", "\u2067", "\u2068",
-                               "\u2069", "\u2028", "\u2029", "\u0085"})
-        EXPECT_EQ(displayName(std::string("a") + hidden + "b"), "a\uFFFDb");
+    const auto character = [](unsigned code) {
+        return std::string{static_cast<char>(0xE0 | code >> 12),
+                           static_cast<char>(0x80 | (code >> 6 & 0x3F)),
+                           static_cast<char>(0x80 | (code & 0x3F))};
+    };
+    EXPECT_EQ(displayName(character(0x202E) + "gnp.exe evil.png"), "\uFFFDgnp.exe evil.png");
+    for (const unsigned hidden :
+         {0x2028, 0x2029, 0x202A, 0x202B, 0x202C, 0x202D, 0x202E, 0x2066, 0x2067, 0x2068, 0x2069})
+        EXPECT_EQ(displayName("a" + character(hidden) + "b"), "a\uFFFDb") << hidden;
+    EXPECT_EQ(displayName("a\u0085b"), "a\uFFFDb");
 }
 
 TEST(DisplayName, WhatIsWrittenFromTheRightStaysAsItIs) {
