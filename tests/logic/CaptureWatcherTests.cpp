@@ -363,6 +363,44 @@ TEST_F(CaptureWatcherTest, UnmountingTheFolderEndsInMissingOnce) {
     EXPECT_THAT(errors, ElementsAre("missing"));
 }
 
+TEST_F(CaptureWatcherTest, AnEventInAFolderThatIsNotThereMeansThatItIsMissing) {
+    const Url deep = Url::file("/above/shots");
+    (void)files.createDirectory(deep);
+    ASSERT_EQ(watcher->start(deep), std::nullopt);
+    time.settle();
+    // Only the one above it is told that it moves.
+    files.moveDirectory(Url::file("/above"), Url::file("/elsewhere"));
+    files.touch(deep);
+    wait(1);
+    EXPECT_THAT(errors, ElementsAre("missing"));
+    EXPECT_FALSE(watcher->isWatching());
+}
+
+TEST_F(CaptureWatcherTest, ALossThatIsToldOnceAnotherFolderWasChosenIsNoLoss) {
+    start();
+    const Url other = Url::file("/other");
+    (void)files.createDirectory(other);
+    files.removeDirectory(folder);
+    // Between the queue's word of the loss and its arrival.
+    queue.async([&] { EXPECT_EQ(watcher->start(other), std::nullopt); });
+    wait(1);
+    EXPECT_THAT(errors, IsEmpty());
+    EXPECT_TRUE(watcher->isWatching());
+}
+
+TEST_F(CaptureWatcherTest, AFileOfTheSameNameInAnotherFolderIsAnotherFile) {
+    start();
+    save("same.png");
+    time.settle();
+    const Url other = Url::file("/other");
+    (void)files.createDirectory(other);
+    ASSERT_EQ(watcher->start(other), std::nullopt);
+    time.settle();
+    files.write(other.appending("same.png"), 1000, clock.now());
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("same.png", "same.png"));
+}
+
 TEST_F(CaptureWatcherTest, AFolderLostAfterAnotherWasChosenIsNoLoss) {
     start();
     files.removeDirectory(folder);

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "fakes/FakeMediaLoader.h"
 #include "fakes/PanelFixture.h"
 
 namespace vantle {
@@ -53,6 +54,21 @@ TEST_F(CardActionsTest, ADragOfAnUnselectedCaptureCarriesItAlone) {
     actions.toggleSelect(shown[0]);
     actions.toggleSelect(shown[1]);
     EXPECT_THAT(urls(actions.dragItems(shown[2])), ElementsAre(shown[2]->url()));
+}
+
+TEST_F(CardActionsTest, WhatIsDraggedHasItsPicture) {
+    fakes::FakeMediaLoader media;
+    const auto pictured =
+        Capture::create(Url::file("/shots/pictured.png"), fakes::VirtualClock::epoch);
+    media.addImage(pictured->url(), Size{64, 40}, Size{64, 40});
+    pictured->loadThumbnail(media);
+    ASSERT_NE(pictured->thumbnail(), nullptr);
+    const auto plain = capture("plain");
+    showAll({pictured, plain});
+    EXPECT_EQ(actions.dragItems(pictured).at(0).image, pictured->thumbnail());
+    EXPECT_EQ(actions.dragItems(plain).at(0).image, nullptr);
+    for (const CapturePointer& one : {plain, CapturePointer(pictured)}) actions.toggleSelect(one);
+    EXPECT_EQ(actions.dragItems(plain).at(1).image, pictured->thumbnail());
 }
 
 TEST_F(CardActionsTest, ADragOfASelectedCaptureCarriesItFirstThenTheOthersInOrder) {

@@ -43,6 +43,10 @@ TEST(CardLayout, A4To1PanoramaAloneIs308By120) {
     EXPECT_EQ(CardLayout::tileSize(1, *captureOfAspect(4)), (Size{308, 120}));
 }
 
+TEST(CardLayout, AScreenOf16To9AloneIs308By173) {
+    EXPECT_EQ(CardLayout::tileSize(1, *captureOfSize({1920, 1080})), (Size{308, 173}));
+}
+
 TEST(CardLayout, A1To2PortraitAloneIs200By190) {
     EXPECT_EQ(CardLayout::tileSize(1, *captureOfAspect(0.5)), (Size{200, 190}));
 }

@@ -174,6 +174,32 @@ TEST_F(CountdownTest, ExpiryWithEverythingPinnedRemovesNothing) {
     EXPECT_TRUE(log.contains("Vantle[dbg]: pin toggled; pinned=2"));
 }
 
+TEST_F(CountdownTest, ATimeThatWasResumedIsNotResumedAgain) {
+    settings.dismissAfter.set(10);
+    const auto shown = show({"a", "b"});
+    actions.togglePin(shown[0]);
+    hover(true);
+    hover(false);
+    wait(10);
+    ASSERT_THAT(shownNames(), ElementsAre("a.png"));
+    hover(true);
+    hover(false);
+    EXPECT_EQ(time.pending(), 0u) << "what is pinned has no countdown";
+    wait(5);
+    EXPECT_EQ(progress(), 1.0);
+}
+
+TEST_F(CountdownTest, AShareMenuThatHasClosedHoldsNothingAnyMore) {
+    settings.dismissAfter.set(10);
+    const auto shown = show({"a"});
+    actions.share(shown[0], Rect{});
+    sharing.close();
+    hover(true);
+    hover(false);
+    wait(10);
+    EXPECT_FALSE(controller().isVisible());
+}
+
 TEST_F(CountdownTest, ADismissalForgetsThePausedTime) {
     settings.dismissAfter.set(10);
     show({"a"});

@@ -131,6 +131,48 @@ TEST_F(PanelControllerTest, WithoutScreensThePanelHasAFixedFrame) {
     EXPECT_EQ(panel.frames.back(), (Rect{{640, 0}, {800, 330}}));
 }
 
+TEST_F(PanelControllerTest, WithoutScreensEachCornerHasItsFrame) {
+    screens.screens.clear();
+    screens.mainScreen.reset();
+    for (const auto& [corner, place] : {std::pair{PanelCorner::bottomRight, Point{640, 0}},
+                                        {PanelCorner::bottomLeft, {0, 0}},
+                                        {PanelCorner::topRight, {640, 570}},
+                                        {PanelCorner::topLeft, {0, 570}}}) {
+        settings.corner.set(corner);
+        show({"a"});
+        EXPECT_EQ(panel.frames.back(), (Rect{place, {800, 330}}));
+    }
+}
+
+TEST_F(PanelControllerTest, APointerOnADesktopsPanelIsOnThatDisplay) {
+    screens.screens = {{{{0, 0}, {1920, 1080}}, {{0, 0}, {1920, 1080}}},
+                       {{{1920, 0}, {1280, 800}}, {{1920, 40}, {1280, 760}}}};
+    screens.pointer = {2000, 20};
+    show({"a"});
+    EXPECT_EQ(panel.frames.back(), (Rect{{2400, 40}, {800, 330}}));
+}
+
+TEST_F(PanelControllerTest, OnNoDisplayTheFreePartOfAnotherCounts) {
+    const Screen first{{{0, 0}, {1000, 800}}, {{0, 40}, {960, 700}}};
+    screens.screens = {first};
+    screens.pointer = {-5, -5};
+    screens.mainScreen.reset();
+    show({"a"});
+    EXPECT_EQ(panel.frames.back(), (Rect{{160, 40}, {800, 330}}));
+    screens.mainScreen = Screen{{{1000, 0}, {1000, 800}}, {{1000, 30}, {1000, 770}}};
+    show({"b"});
+    EXPECT_EQ(panel.frames.back(), (Rect{{1200, 30}, {800, 330}}));
+}
+
+TEST_F(PanelControllerTest, ANewCaptureLeavesTheMarksOfTheOthers) {
+    const auto shown = show({"a", "b"});
+    actions.togglePin(shown[0]);
+    actions.toggleSelect(shown[1]);
+    show({"c"});
+    EXPECT_EQ(state->pinned.value(), std::set{shown[0]->id()});
+    EXPECT_EQ(state->selected.value(), std::set{shown[1]->id()});
+}
+
 TEST_F(PanelControllerTest, ADismissalResetsTheStateAtOnceAndTheListHalfASecondLater) {
     const auto shown = show({"a", "b"});
     actions.toggleSelect(shown[0]);

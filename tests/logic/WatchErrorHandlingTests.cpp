@@ -173,6 +173,21 @@ TEST_F(WatchErrorHandlingTest, AMissingFolderThatCannotBeMadeIsNamed) {
     EXPECT_EQ(alerts->shown.size(), 1u);
 }
 
+TEST_F(WatchErrorHandlingTest, TheProgramIsActivatedBeforeEachAlert) {
+    launch();
+    std::vector<int> activationsAtAlert;
+    alerts->answer = [&](const Alert& alert) {
+        activationsAtAlert.push_back(application->activations);
+        return Alerts::firstButton + static_cast<int>(alert.buttons.size()) - 1;
+    };
+    report(WatchError::accessDenied());
+    report(WatchError::other("x"));
+    files->makeReadOnly(Url::file("/home/user"));
+    files->removeDirectory(folder);
+    time.settle();
+    EXPECT_THAT(activationsAtAlert, ElementsAre(1, 2, 3));
+}
+
 TEST_F(WatchErrorHandlingTest, AnAnswerAfterTheDelegateHasGoneIsSkipped) {
     offerWindows();
     launch();
