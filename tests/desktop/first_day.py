@@ -2,6 +2,8 @@
 
 import colorsys
 
+from PIL import ImageChops
+
 from privatedesktop import Rectangle, wait_until, wait_until_still
 from using import BUTTONS, press_with_control
 
@@ -68,16 +70,25 @@ def paste_into_editor(desktop, editor, file, text):
     if hasattr(desktop, "give_to_user"):
         desktop.give_to_user()
 
+    before = desktop.screen.screenshot()
     process = editor(file)
+    # Before its window has the keyboard the desktop itself would take what is pasted.
+    wait_until(lambda: is_large_part(desktop.screen.screenshot(), before), "the editor opens")
 
     def is_saved():
-        # Before its window has the keyboard nobody hears this, and a shell may miss a short press.
+        # A shell may miss a short press.
         press_with_control(desktop, "v")
         press_with_control(desktop, "s")
         return text in file.read_text()
 
     wait_until(is_saved, "it is pasted", interval=0.5)
     process.terminate()
+
+
+def is_large_part(picture, before):
+    """Whether they differ over a large part of the screen, as when a window opens."""
+    change = ImageChops.difference(picture.convert("L"), before.convert("L"))
+    return change.histogram()[0] < 0.9 * picture.width * picture.height
 
 
 def move_to_trash_and_back(desktop, card, file):

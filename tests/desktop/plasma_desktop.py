@@ -13,7 +13,7 @@ for (const desktop of desktops()) {
     desktop.currentConfigGroup = ["Wallpaper", "org.kde.color", "General"];
     desktop.writeConfig("Color", "#708090");
     desktop.currentConfigGroup = ["General"];
-    desktop.writeConfig("url", "file:///var/empty");
+    desktop.writeConfig("url", "file://%s");
 }
 """
 _WATCHER = "org.kde.StatusNotifierWatcher"
@@ -41,7 +41,9 @@ class PlasmaShell:
         self.run_program("kded6" if _IS_6 else "kded5")
         self.run_program("plasmashell", "--no-respawn")
         wait_until(self.panel_height, "Plasma has a panel", limit=60)
-        self._run_script(_PLAIN_DESKTOP)
+        shown = self._desktop.home / "shown"
+        shown.mkdir(exist_ok=True)
+        self._run_script(_PLAIN_DESKTOP % shown)
         wait_until(self._has_tray, "Plasma has a tray", limit=60)
         screen = self._desktop.screen
         wait_until_still(lambda: screen.screenshot().tobytes(), "the shell", readings=20)
