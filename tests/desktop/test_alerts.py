@@ -99,5 +99,7 @@ def test_a_retry_in_vain_asks_again(desktop, denied):
     desktop.screen.keyboard.press("Tab")
     desktop.screen.keyboard.press("space")
     wait_until(lambda: desktop.screen.dialogs() not in ([], first), "another alert opens")
+    [again] = desktop.screen.dialogs()
+    wait_until(lambda: desktop.screen.active_window() == again, "it has the keyboard")
     desktop.screen.keyboard.press("Escape")
     wait_until(lambda: desktop.screen.dialogs() == [], "it closes")

@@ -113,7 +113,7 @@ def captures_on(vantle):
     return int(vantle.command("--status")[1].split("captures: ")[1].split()[0])
 
 
-@pytest.mark.parametrize("gap", [0.05, 0.15, 0.3, 0.45])
+@pytest.mark.parametrize("gap", [0.05, 0.15, 0.3])
 def test_a_double_click_on_a_close_button_closes_one(desktop, vantle, folder, gap):
     vantle.write_settings(corner="bottomLeft")
     vantle.start_watching()

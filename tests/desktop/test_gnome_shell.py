@@ -78,6 +78,6 @@ def test_the_settings_say_that_it_stays(desktop, make_vantle):
     screens.wait_for_text("BILDSCHIRMFOTOS LANDEN IN")
     screens.wait_for_text("~/Bilder/Bildschirmfotos")
     screens.wait_for_text("GNOME speichert Bildschirmfotos immer in diesem Ordner.")
-    assert not screens.is_on("Vorschau des Systems ausblenden")
-    for name in ("Ändern", "Vorschau des Systems ausblenden"):
+    assert not screens.is_on("Vorschau des Desktops ausblenden")
+    for name in ("Ändern", "Vorschau des Desktops ausblenden"):
         assert "enabled" not in screens.control(name)["states"], name
