@@ -135,7 +135,7 @@ def test_a_panel_on_one_of_two_screens(desktop, vantle, folder, edge, corner):
     desktop.run("xrandr", "--setmonitor", "left", "1200/300x900/300+0+0", "screen")
     desktop.run("xrandr", "--setmonitor", "right", "1200/300x700/300+1200+0", "none")
     left, right = Rectangle(0, 0, 1200, 900), Rectangle(1200, 0, 1200, 700)
-    start_xfce_panel(desktop, edge, "monitor-0")
+    start_xfce_panel(desktop, edge)
     bar = wait_until(lambda: xfce_bar(desktop), "the bar comes")
     assert left.x <= bar.x and bar.right <= left.right, bar
     vantle.write_settings(corner=corner)

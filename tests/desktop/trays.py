@@ -24,7 +24,6 @@ _XFCE = """<?xml version="1.0" encoding="UTF-8"?>
     <value type="int" value="1"/>
     <property name="panel-1" type="empty">
       <property name="position" type="string" value="%s"/>
-      <property name="output-name" type="string" value="%s"/>
       <property name="length" type="uint" value="100"/>
       <property name="size" type="uint" value="32"/>
       <property name="position-locked" type="bool" value="true"/>
@@ -65,8 +64,8 @@ def has_room_taken(desktop):
     return desktop.screen.work_area().height < desktop.size[1]
 
 
-def start_xfce_panel(desktop, edge="bottom", monitor="Automatic"):
-    text = _XFCE % (_XFCE_PLACES[edge], monitor)
+def start_xfce_panel(desktop, edge="bottom"):
+    text = _XFCE % _XFCE_PLACES[edge]
     _write(desktop, "xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml", text)
     return desktop.start("xfce4-panel", "--disable-wm-check")
 

@@ -19,6 +19,10 @@ public:
         });
     }
 
+    QWindow* window() const { return window_; }
+    void set(QWindow& window) { window_ = &window; }
+
+private:
     QPointer<QWindow> window_;
 };
 
@@ -76,14 +80,14 @@ void activate(QWindow& window) {
 }  // namespace
 
 void bringToFront(QWindow& window) {
-    lastInFront().window_ = &window;
+    lastInFront().set(window);
     lowerOthers(window);
     if (const auto workspace = workspaceToComeTo(window)) bringToWorkspace(window, *workspace);
     activate(window);
 }
 
 void bringLastToFront() {
-    QWindow* last = lastInFront().window_;
+    QWindow* last = lastInFront().window();
     if (last && last->isVisible() && !workspaceToComeTo(*last)) bringToFront(*last);
 }
 
