@@ -150,6 +150,15 @@ TEST_F(IniFileTest, AFileThatWasEmptiedIsTakenFromItsCopy) {
     EXPECT_FALSE(isShown(file)) << "one that was taken away is to be forgotten";
 }
 
+TEST_F(IniFileTest, WhoHasNoMemoryKeepsWhatCanBeReadOfADamagedFile) {
+    writeText(file, "[General]\nshown=true\nno sense\n");
+    IniPreferencesDomain domain(file);
+    domain.setValue("other", 1.0);
+    domain.synchronize();
+    EXPECT_EQ(domain.value("shown"), PreferenceValue(true));
+    EXPECT_EQ(domain.value("other"), PreferenceValue(1.0));
+}
+
 TEST_F(IniFileTest, AFileThatIsDamagedMeanwhileIsWrittenAgainFromMemory) {
     IniUserDefaults defaults(file);
     defaults.set("shown", true);

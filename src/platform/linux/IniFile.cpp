@@ -25,8 +25,8 @@ Outcome IniFile::store(const std::map<std::string, PreferenceValue>& values,
                        const IniDocument& memory) {
     auto document = read();
     if (!document) return document.failure();
-    const bool isUsable = document.value().isWhole() && !document.value().isEmpty();
-    IniDocument next = isUsable ? std::move(document.value()) : memory;
+    const bool isTrusted = document.value().isWhole() && !document.value().isEmpty();
+    IniDocument next = isTrusted || memory.isEmpty() ? std::move(document.value()) : memory;
     for (const auto& [key, value] : values) next.set(key, value);
     auto failure = replaceWholeFile(file_, next.text());
     if (failure) complain("cannot write " + file_.path() + ": " + failure->message);
@@ -41,13 +41,13 @@ Result<IniDocument> IniFile::read() const {
     const auto text = readWholeFile(file_, largestFile);
     const int failure = text ? 0 : text.failure().code;
     if (failure == ENOENT) return IniDocument();
-    const bool isNoSuchFile = failure == EFBIG || failure == EISDIR;
-    if (!text && !isNoSuchFile) {
+    const bool isNoSettingsFile = failure == EFBIG || failure == EISDIR;
+    if (!text && !isNoSettingsFile) {
         complain("cannot read " + file_.path() + ": " + text.failure().message);
         return text.failure();
     }
     IniDocument document = text ? IniDocument::parse(text.value()) : IniDocument();
-    if (!isNoSuchFile && document.isWhole()) return document;
+    if (text && document.isWhole()) return document;
     if (const Outcome notKept = keepDamagedAside()) return *notKept;
     // What makes sense stands there again, so that nobody meets the same damage twice.
     if (!document.isEmpty()) (void)replaceWholeFile(file_, document.text());

@@ -22,8 +22,8 @@ public:
     IniDocument load() const;
 
     /// Sets these keys and leaves the rest of the file as others may have changed it meanwhile; of
-    /// a file that is damaged, empty or gone, `memory` is the rest. All of them stand on disk when
-    /// it returns, or none; a failure is logged once.
+    /// a file that is damaged, empty or gone, `memory` is the rest, if there is any. All of them
+    /// stand on disk when it returns, or none; a failure is logged once.
     Outcome store(const std::map<std::string, PreferenceValue>& values,
                   const IniDocument& memory = {});
 
