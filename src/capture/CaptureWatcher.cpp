@@ -31,10 +31,10 @@ CaptureWatcher::~CaptureWatcher() {
 }
 
 std::optional<WatchError> CaptureWatcher::start(const Url& folder, Existing existing) {
-    const bool isSame = isWatching() && folder_ == folder;
+    const bool goesOn = isWatching() && folder_ == folder;
     stop();
     folder_ = folder;
-    auto error = watch(folder, isSame ? Existing::isAsBefore : existing);
+    auto error = watch(folder, goesOn ? std::nullopt : std::optional(existing));
     if (error) report(*error);
     return error;
 }
@@ -45,7 +45,8 @@ void CaptureWatcher::stop() {
     source_.reset();
 }
 
-std::optional<WatchError> CaptureWatcher::watch(const Url& folder, Existing existing) {
+std::optional<WatchError> CaptureWatcher::watch(const Url& folder,
+                                                std::optional<Existing> existing) {
     if (services_.files.existence(folder) != FileManager::Existence::directory)
         return WatchError::missing();
     const auto listing = services_.files.contentsOfDirectory(folder);
@@ -69,7 +70,7 @@ std::optional<WatchError> CaptureWatcher::watch(const Url& folder, Existing exis
     // before the source was open.
     const NameList known = existing == Existing::isKnown ? names : NameList();
     services_.queue.async(weakly(shared_from_this(), [folder, watch, known, existing](auto& self) {
-        if (existing != Existing::isAsBefore) self.known_ = KnownNames(folder, known);
+        if (existing) self.known_ = KnownNames(folder, known);
         self.handleEvent(folder, watch, {.contents = true});
     }));
     source_->resume();

@@ -51,15 +51,11 @@ public:
     std::function<void(const WatchError&)> onError;
 
     /// What is in the folder when watching begins: never reported, or as if it were saved then.
-    enum class Existing {
-        isKnown,
-        isNew,
-        isAsBefore,  ///< As the watch of the same folder has it that runs already.
-    };
+    enum class Existing { isKnown, isNew };
 
     /// Watches `folder` from now on instead of any other. Absent on success; otherwise the error
-    /// that is also logged and goes to onError. Starting again on the folder that is watched loses
-    /// nothing that was saved between the two.
+    /// that is also logged and goes to onError. Starting again on the folder that is watched goes
+    /// on with what is known of it, so that nothing is lost that was saved between the two.
     std::optional<WatchError> start(const Url& folder, Existing existing = Existing::isKnown);
 
     /// Files that are settling at that moment may still be reported.
@@ -76,7 +72,8 @@ private:
     explicit CaptureWatcher(const Services& services) : services_(services) {}
 
     // Main thread.
-    std::optional<WatchError> watch(const Url& folder, Existing existing);
+    /// Without `existing` what is known stays.
+    std::optional<WatchError> watch(const Url& folder, std::optional<Existing> existing);
     void report(const WatchError& error);
     void loseFolder(WatchNumber watch);
 
