@@ -15,7 +15,6 @@
 #include "platform/qt/QtGeometry.h"
 #include "platform/qt/UsableArea.h"
 #include "platform/wayland/Connection.h"
-#include "platform/wayland/Outputs.h"
 #include "platform/wayland/OverlaySurface.h"
 
 Q_IMPORT_QML_PLUGIN(Vantle_MenusPlugin)

@@ -12,7 +12,6 @@
 #include "platform/qt/QtGeometry.h"
 #include "platform/qt/UsableArea.h"
 #include "platform/wayland/Connection.h"
-#include "platform/wayland/Outputs.h"
 
 namespace vantle {
 namespace {
