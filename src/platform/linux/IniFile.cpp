@@ -26,7 +26,8 @@ Outcome IniFile::store(const std::map<std::string, PreferenceValue>& values,
     auto document = read();
     if (!document) return document.failure();
     const bool isTrusted = document.value().isWhole() && !document.value().isEmpty();
-    IniDocument next = isTrusted || memory.isEmpty() ? std::move(document.value()) : memory;
+    IniDocument& next = document.value();
+    if (!isTrusted && !memory.isEmpty()) next = memory;
     for (const auto& [key, value] : values) next.set(key, value);
     auto failure = replaceWholeFile(file_, next.text());
     if (failure) complain("cannot write " + file_.path() + ": " + failure->message);
