@@ -1,11 +1,15 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <linux/magic.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
+#include <cstdint>
+#include <optional>
 
 #include "TemporaryFolder.h"
 #include "TextFile.h"
@@ -34,6 +38,14 @@ TEST_F(WriterCheckTest, OnlyWritersCount) {
     }
     const auto reader = open(O_RDONLY);
     EXPECT_FALSE(hasWriter(file));
+}
+
+TEST_F(WriterCheckTest, ALeaseThatAServerRefusesTellsNothing) {
+    EXPECT_EQ(hasWriterByLease(EAGAIN, EXT4_SUPER_MAGIC), true);
+    for (const std::uint32_t server : {0x6969U, 0x517BU, 0xFF534D42U, 0xFE534D42U})
+        EXPECT_EQ(hasWriterByLease(EAGAIN, server), std::nullopt);
+    EXPECT_EQ(hasWriterByLease(EACCES, EXT4_SUPER_MAGIC), std::nullopt);
+    EXPECT_EQ(hasWriterByLease(0, NFS_SUPER_MAGIC), false);
 }
 
 TEST_F(WriterCheckTest, AWriterInAnotherProcessCountsUntilItEnds) {

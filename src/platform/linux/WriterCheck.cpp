@@ -1,13 +1,14 @@
 #include "platform/linux/WriterCheck.h"
 
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <signal.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 
 #include <cerrno>
 #include <cstdlib>
 #include <fstream>
-#include <optional>
 #include <string>
 
 #include "platform/linux/DirectoryStream.h"
@@ -16,18 +17,21 @@
 namespace vantle {
 namespace {
 
-/// Asks the kernel for a read lease, which it refuses while a writer exists. Absent where it gives
-/// this process none at all: for files of others, over a network, in FUSE.
-std::optional<bool> hasWriterByLease(int file) {
+/// The outcome of asking the kernel for a read lease, which it refuses while a writer exists: 0, or
+/// the number of the failure.
+int failureOfLease(int file) {
     // A writer that comes in the moment of the lease would have us signalled: with SIGIO, the
     // default, that would end the program.
-    if (fcntl(file, F_SETSIG, SIGURG) != 0) return std::nullopt;
-    if (fcntl(file, F_SETLEASE, F_RDLCK) == 0) {
-        fcntl(file, F_SETLEASE, F_UNLCK);
-        return false;
-    }
-    if (errno == EAGAIN) return true;
-    return std::nullopt;
+    if (fcntl(file, F_SETSIG, SIGURG) != 0) return errno;
+    if (fcntl(file, F_SETLEASE, F_RDLCK) != 0) return errno;
+    fcntl(file, F_SETLEASE, F_UNLCK);
+    return 0;
+}
+
+/// The kind of the file system, as statfs(2) numbers it; 0 when it cannot be asked.
+std::uint32_t fileSystemOf(int file) {
+    struct statfs system {};
+    return fstatfs(file, &system) == 0 ? static_cast<std::uint32_t>(system.f_type) : 0;
 }
 
 bool isOpenForWriting(const std::string& process, const char* descriptor) {
@@ -63,11 +67,19 @@ bool hasWriterAmongProcesses(int descriptor) {
 
 }  // namespace
 
+std::optional<bool> hasWriterByLease(int failure, std::uint32_t fileSystem) {
+    if (failure == 0) return false;
+    const bool isServer = fileSystem == NFS_SUPER_MAGIC || fileSystem == SMB_SUPER_MAGIC ||
+                          fileSystem == CIFS_SUPER_MAGIC || fileSystem == SMB2_SUPER_MAGIC;
+    if (failure == EAGAIN && !isServer) return true;
+    return std::nullopt;
+}
+
 bool hasWriter(const Url& url) {
     const FileDescriptor file(
         open(url.path().c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
     if (!file) return false;
-    const auto byLease = hasWriterByLease(file.get());
+    const auto byLease = hasWriterByLease(failureOfLease(file.get()), fileSystemOf(file.get()));
     return byLease ? *byLease : hasWriterAmongProcesses(file.get());
 }
 
