@@ -1,5 +1,7 @@
 #include "capture/SystemScreenshotPrefs.h"
 
+#include <algorithm>
+
 #include "platform/PreferenceConversion.h"
 #include "platform/ScreenshotPreferences.h"
 
@@ -82,9 +84,12 @@ void SystemScreenshotPrefs::restartSystemUIServer() {
 }
 
 Url SystemScreenshotPrefs::expandingTilde(const std::string& path) const {
-    if (path == "~") return files_.homeDirectory();
-    if (path.starts_with("~/")) return files_.homeDirectory().appending(path.substr(2));
-    return Url::file(path);
+    if (!path.starts_with('~')) return Url::file(path);
+    const std::size_t end = std::min(path.find('/'), path.size());
+    const std::string user = path.substr(1, end - 1);
+    const auto home =
+        user.empty() ? std::optional(files_.homeDirectory()) : files_.homeDirectory(user);
+    return Url::file((home ? home->path() : path.substr(0, end)) + path.substr(end));
 }
 
 }  // namespace vantle

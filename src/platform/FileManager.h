@@ -54,6 +54,9 @@ public:
 
     virtual Url homeDirectory() const = 0;
 
+    /// That of another user; absent when there is no such user.
+    virtual std::optional<Url> homeDirectory(const std::string& user) const = 0;
+
     /// The user's Desktop folder as the desktop's own settings name it, whether or not it
     /// exists; absent when the user has none.
     virtual std::optional<Url> desktopDirectory() const = 0;

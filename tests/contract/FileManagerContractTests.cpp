@@ -144,6 +144,11 @@ protected:
     }
 };
 
+TEST_F(LinuxFileManagerTest, KnowsTheHomeDirectoriesOfOthers) {
+    EXPECT_EQ(disk.files.homeDirectory("root"), Url::file("/root"));
+    EXPECT_EQ(disk.files.homeDirectory("no such user"), std::nullopt);
+}
+
 TEST_F(LinuxFileManagerTest, ALinkIsDescribedItself) {
     disk.save(file("a.png"), 10);
     std::filesystem::create_symlink(file("a.png").path(), file("link.png").path());

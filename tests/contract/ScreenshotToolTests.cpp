@@ -246,10 +246,35 @@ TEST_F(ScreenshotToolTest, OnlyThatKeyIsChangedAndTheModeStays) {
 }
 
 TEST_F(ScreenshotToolTest, WhatIsSoAlreadyIsNotWritten) {
-    setFolder("ksnip", home);
+    makeFolder("old");
+    writeIn(".config/ksnip/ksnip.conf", "[Application]\nSaveDirectory=\"~/old\"\n");
+    const std::string before = configuration("ksnip/ksnip.conf");
+    setFolder("ksnip", inHome("old"));
     setShows("flameshot", true);
-    EXPECT_FALSE(std::filesystem::exists(inHome(".config").path()));
+    EXPECT_EQ(configuration("ksnip/ksnip.conf"), before);
+    EXPECT_FALSE(std::filesystem::exists(inHome(".config/flameshot").path()));
     EXPECT_FALSE(std::filesystem::exists(inHome("memory.conf").path()));
+}
+
+TEST_F(ScreenshotToolTest, TheDefaultOfTodayIsWrittenWhenItIsChosen) {
+    setFolder("flameshot", home);
+    nameThePictures();
+    EXPECT_EQ(folderOf("flameshot"), ".");
+    writeIn(".config/ksnip/ksnip.conf", "[Application]\nSaveDirectory=/nowhere\n");
+    setFolder("ksnip", home);
+    EXPECT_THAT(configuration("ksnip/ksnip.conf"), HasSubstr(home.path()));
+}
+
+TEST_F(ScreenshotToolTest, NothingIsMadeOrListedWhereAFileSystemIsYetToBeMounted) {
+    nameThePictures();
+    const Url table = inHome("fstab");
+    writeIn("fstab", "server:/y " + inHome("Bilder").path() + " nfs4 noauto 0 0\n");
+    for (const std::string tool : {"spectacle", "gnome-shell", "flameshot"}) {
+        const ToolPreferencesDomain waiting(description(tool), home, inHome("memory.conf"),
+                                            {.expected = table.path()});
+        EXPECT_EQ(waiting.value(location), std::nullopt) << tool;
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(inHome("Bilder").path()));
 }
 
 TEST_F(ScreenshotToolTest, ThePreviousFolderIsRestoredAsItWasWritten) {

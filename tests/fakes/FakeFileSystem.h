@@ -77,6 +77,9 @@ public:
     Outcome write(const std::string& contents, const Url& file) override;
     Result<Url> temporaryDirectory() override { return Url::file("/tmp/user"); }
     Url homeDirectory() const override { return home_; }
+    std::optional<Url> homeDirectory(const std::string& user) const override {
+        return user == "other" ? std::optional(Url::file("/home/other")) : std::nullopt;
+    }
     std::optional<Url> desktopDirectory() const override { return desktop_; }
 
     Result<std::shared_ptr<DirectoryEventSource>> open(const Url& folder, Handler handler) override;

@@ -40,6 +40,20 @@ TEST_F(SystemScreenshotPrefsTest, ALeadingTildeIsTheHomeDirectory) {
     EXPECT_EQ(prefs.location(), screenshots);
 }
 
+TEST_F(SystemScreenshotPrefsTest, ATildeAloneOrWithAUserIsAHomeDirectory) {
+    const Url home = files.homeDirectory();
+    for (const Url& folder : {home, Url::file("/home/other/Shots")})
+        (void)files.createDirectory(folder);
+    domain.values["location"] = std::string("~");
+    EXPECT_EQ(prefs.location(), home);
+    domain.values["location"] = std::string("~/");
+    EXPECT_EQ(prefs.location(), home);
+    domain.values["location"] = std::string("~other/Shots");
+    EXPECT_EQ(prefs.location(), Url::file("/home/other/Shots"));
+    domain.values["location"] = std::string("~nobody/Shots");
+    EXPECT_EQ(prefs.location(), desktop);
+}
+
 TEST_F(SystemScreenshotPrefsTest, ADeletedFolderFallsBackToTheDesktop) {
     domain.values["location"] = std::string("~/Pictures/Screenshots");
     EXPECT_EQ(prefs.location(), desktop);

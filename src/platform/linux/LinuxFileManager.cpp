@@ -1,10 +1,12 @@
 #include "platform/linux/LinuxFileManager.h"
 
 #include <fcntl.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -29,8 +31,10 @@ Date date(const statx_timestamp& stamp) {
 }  // namespace
 
 LinuxFileManager::LinuxFileManager(Environment environment,
-                                   std::function<bool(const Url&)> isRecording)
-    : environment_(std::move(environment)), isRecording_(std::move(isRecording)) {}
+                                   std::function<bool(const Url&)> isRecording, MountFiles mounts)
+    : environment_(std::move(environment)),
+      isRecording_(std::move(isRecording)),
+      mounts_(std::move(mounts)) {}
 
 FileManager::Existence LinuxFileManager::existence(const Url& url) const {
     struct stat status {};
@@ -74,6 +78,7 @@ std::optional<std::int64_t> LinuxFileManager::fileSize(const Url& url) const {
 
 Outcome LinuxFileManager::createDirectory(const Url& folder) {
     if (existence(folder) == Existence::file) return systemFailure(EEXIST, folder.path());
+    if (MountTable(mounts_).isUnmounted(folder)) return systemFailure(ENODEV, folder.path());
     std::error_code error;
     std::filesystem::create_directories(folder.path(), error);
     if (error) return systemFailure(error.value(), folder.path());
@@ -101,6 +106,15 @@ Result<Url> LinuxFileManager::temporaryDirectory() {
 
 Url LinuxFileManager::homeDirectory() const {
     return UserDirectories(environment_).home();
+}
+
+std::optional<Url> LinuxFileManager::homeDirectory(const std::string& user) const {
+    passwd entry{};
+    passwd* found = nullptr;
+    std::array<char, std::size_t{16} * 1024> buffer{};
+    getpwnam_r(user.c_str(), &entry, buffer.data(), buffer.size(), &found);
+    const bool isPath = found && found->pw_dir && found->pw_dir[0] == '/';
+    return isPath ? std::optional(Url::file(found->pw_dir)) : std::nullopt;
 }
 
 std::optional<Url> LinuxFileManager::desktopDirectory() const {

@@ -21,18 +21,20 @@ std::optional<RememberedSetting> remembered(std::unique_ptr<TextSetting> setting
 }  // namespace
 
 ToolPreferencesDomain::ToolPreferencesDomain(ScreenshotTool tool, const Url& home,
-                                             const Url& memory)
+                                             const Url& memory, MountFiles mounts)
     : tool_(std::move(tool)),
       home_(home),
+      mounts_(std::move(mounts)),
       folder_(remembered(std::move(tool_.folder.setting), memory, tool_.name + ".folder",
                          tool_.folder.notation.read)),
       preview_(remembered(std::move(tool_.preview.setting), memory, tool_.name + ".preview",
                           [](const std::string& text) { return text; })) {}
 
 std::optional<PreferenceValue> ToolPreferencesDomain::value(const std::string& key) const {
-    if (key == location) return folder(folder_ ? folder_->text() : std::nullopt).path();
     if (key == showThumbnail) return showsPreview();
-    return std::nullopt;
+    if (key != location) return std::nullopt;
+    const auto found = folder(folder_ ? folder_->text() : std::nullopt);
+    return found ? std::optional<PreferenceValue>(found->path()) : std::nullopt;
 }
 
 void ToolPreferencesDomain::setValue(const std::string& key, const PreferenceValue& value) {
@@ -58,9 +60,9 @@ std::optional<PreferenceValue> ToolPreferencesDomain::previousValue(const std::s
     if (key != location || !folder_) return std::nullopt;
     const auto before = folder_->before();
     if (!before) return std::nullopt;
-    const Url previous = folder(before->text);
-    if (previous == folder(folder_->text())) return std::nullopt;
-    return previous.path();
+    const auto previous = folder(before->text);
+    if (!previous || previous == folder(folder_->text())) return std::nullopt;
+    return previous->path();
 }
 
 void ToolPreferencesDomain::restore(const std::string& key) {
@@ -68,25 +70,33 @@ void ToolPreferencesDomain::restore(const std::string& key) {
     if (previousValue(key)) (void)folder_->restore();
 }
 
-Url ToolPreferencesDomain::folder(const std::optional<std::string>& text) const {
-    const auto isThere = [this](const Url& url) {
-        return isFolder(url) ||
-               (tool_.missingFolder == ScreenshotTool::MissingFolder::isMade && makeFolder(url));
-    };
-    std::string path = text ? tool_.folder.notation.read(*text) : "";
-    if (path == "~" || path.starts_with("~/")) path.replace(0, 1, home_.path());
-    if (path.starts_with('/')) {
-        const Url chosen = Url::file(path);
-        if (isFile(chosen)) return chosen.deletingLastPathComponent();
-        if (isThere(chosen)) return chosen;
-    }
-    const Url byDefault = tool_.defaultFolder();
+std::optional<Url> ToolPreferencesDomain::folder(const std::optional<std::string>& text) const {
+    if (auto named = chosen(text)) return named;
+    Url byDefault = tool_.defaultFolder();
+    // Whatever is kept in the mount point meanwhile is not what the user calls his pictures.
+    if (MountTable(mounts_).isUnmounted(byDefault)) return std::nullopt;
     (void)isThere(byDefault);
     return byDefault;
 }
 
+std::optional<Url> ToolPreferencesDomain::chosen(const std::optional<std::string>& text) const {
+    std::string path = text ? tool_.folder.notation.read(*text) : "";
+    if (path == "~" || path.starts_with("~/")) path.replace(0, 1, home_.path());
+    if (!path.starts_with('/')) return std::nullopt;
+    Url named = Url::file(path);
+    if (isFile(named)) return named.deletingLastPathComponent();
+    return isThere(named) ? std::optional(std::move(named)) : std::nullopt;
+}
+
+bool ToolPreferencesDomain::isThere(const Url& folder) const {
+    if (isFolder(folder)) return true;
+    const bool isMade = tool_.missingFolder == ScreenshotTool::MissingFolder::isMade;
+    return isMade && !MountTable(mounts_).isUnmounted(folder) && makeFolder(folder);
+}
+
 void ToolPreferencesDomain::setFolder(const Url& folder) {
-    if (!folder_ || value(location) == PreferenceValue(folder.path())) return;
+    // Also today's default is written: it may become another one, and this one was chosen.
+    if (!folder_ || chosen(folder_->text()) == folder) return;
     const auto text = tool_.folder.notation.write(folder);
     // A failure to write is logged by the setting.
     if (text) {

@@ -1,0 +1,89 @@
+#include "platform/linux/MountTable.h"
+
+#include <mntent.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string_view>
+#include <system_error>
+
+namespace vantle {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int mostLinks = 40;  // as the kernel's own limit
+
+/// Those that ask a server, and those that ask a program. A disk whose file system is a program's
+/// ("fuseblk") is at hand all the same.
+bool isRemoteType(std::string_view type) {
+    constexpr std::array types{"nfs", "nfs4",  "cifs", "smb3", "smbfs",  "9p",
+                               "afs", "ncpfs", "ceph", "coda", "autofs", "fuse"};
+    for (const std::string_view remote : types)
+        if (type == remote) return true;
+    return type.starts_with("fuse.");
+}
+
+/// Calls `take` with the mount point and the type of each line, in their order.
+template <typename Take>
+void readTable(const std::string& file, Take take) {
+    const std::unique_ptr<FILE, int (*)(FILE*)> table(setmntent(file.c_str(), "re"), endmntent);
+    if (!table) return;
+    mntent entry{};
+    std::array<char, std::size_t{16} * 1024> buffer{};
+    while (getmntent_r(table.get(), &entry, buffer.data(), static_cast<int>(buffer.size())))
+        if (entry.mnt_dir[0] == '/') take(Url::file(entry.mnt_dir).path(), entry.mnt_type);
+}
+
+}  // namespace
+
+MountTable::MountTable(const MountFiles& files) {
+    readTable(files.expected,
+              [this](const std::string& point, const char*) { points_[point] = Kind::expected; });
+    // What is mounted later at the same place hides what was there before.
+    readTable(files.present, [this](const std::string& point, const char* type) {
+        points_[point] = isRemoteType(type) ? Kind::remote : Kind::own;
+    });
+}
+
+bool MountTable::isUnmounted(const Url& url) const {
+    return kindBehindLinks(url) == Kind::expected;
+}
+
+bool MountTable::isRemote(const Url& url) const {
+    return kindBehindLinks(url) == Kind::remote;
+}
+
+MountTable::Kind MountTable::kindOf(const std::string& path) const {
+    for (Url place = Url::file(path);; place = place.deletingLastPathComponent()) {
+        const auto found = points_.find(place.path());
+        if (found != points_.end()) return found->second;
+        if (place.path() == "/") return Kind::own;
+    }
+}
+
+MountTable::Kind MountTable::kindBehindLinks(const Url& url) const {
+    fs::path place = "/";
+    fs::path ahead = fs::path(url.path()).relative_path();
+    int links = 0;
+    while (!ahead.empty() && kindOf(place) == Kind::own) {
+        const fs::path next = place / *ahead.begin();
+        ahead = ahead.lexically_relative(*ahead.begin());
+        if (ahead == ".") ahead.clear();
+        std::error_code noLink;
+        const fs::path target =
+            kindOf(next) == Kind::own ? fs::read_symlink(next, noLink) : fs::path();
+        if (target.empty() || ++links > mostLinks) {
+            place = next;
+            continue;
+        }
+        const fs::path whole = (place / target / ahead).lexically_normal();
+        place = "/";
+        ahead = whole.relative_path();
+    }
+    return kindOf(place);
+}
+
+}  // namespace vantle
