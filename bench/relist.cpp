@@ -88,7 +88,7 @@ int main(int argc, char** argv) {
     LinuxFileManager fileManager(processEnvironment(), [](const Url&) { return false; });
     Trigger trigger;
     const auto watcher =
-        CaptureWatcher::create({scheduler, queue, trigger, fileManager, media, clock});
+        CaptureWatcher::create({scheduler, queue, queue, trigger, fileManager, media, clock});
     watcher->start(Url::file(folder.string()));
     time.settle();
 

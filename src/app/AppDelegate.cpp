@@ -22,6 +22,7 @@ constexpr double onboardingSnapshotScale = 2;
 CaptureWatcher::Services watcherServices(const Platform& platform) {
     return {.main = *platform.scheduler,
             .queue = *platform.watcherQueue,
+            .servers = *platform.serverQueue,
             .events = *platform.directoryEvents,
             .files = *platform.files,
             .media = *platform.media,
@@ -57,14 +58,13 @@ AppDelegate::AppDelegate(Platform& platform, Views views)
       statusBar_(*platform.statusItem, *platform.opener, *platform.application, settings_),
       updaterDelegate_(platform.environment) {}
 
-bool AppDelegate::applicationWillFinishLaunching(const std::optional<ApplicationRequest>& request) {
-    if (!platform_.application->anotherCopyIsRunning()) return true;
-    if (!request)
-        platform_.application->activateOtherCopy();
-    else if (const auto answer = platform_.application->ask(*request); !answer)
-        systemLog("Vantle: " + answer.failure().message);
+std::optional<Result<std::string>> AppDelegate::applicationWillFinishLaunching(
+    const std::optional<ApplicationRequest>& request) {
+    if (!platform_.application->anotherCopyIsRunning()) return std::nullopt;
+    if (!request) platform_.application->activateOtherCopy();
+    auto answer = request ? platform_.application->ask(*request) : Result<std::string>("");
     platform_.application->terminate();
-    return false;
+    return answer;
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -78,6 +78,7 @@ void AppDelegate::applicationDidFinishLaunching() {
                                    }));
     connectWatcher();
     observeScreenshotFolder();
+    observeSystem();
     observeShowRecordings();
     connectNotifications();
     explainMissingTray();
@@ -135,6 +136,13 @@ void AppDelegate::observeScreenshotFolder() {
                 watcher_->start(folder);
             watchRecordingsSoon();
         }));
+}
+
+void AppDelegate::observeSystem() {
+    platform_.screenshotPreferences->onChange = weakly(shared_from_this(), [](auto& self) {
+        self.settings_.readSystem();
+        self.watchRecordings();
+    });
 }
 
 void AppDelegate::observeShowRecordings() {

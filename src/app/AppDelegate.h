@@ -38,8 +38,10 @@ public:
     static std::shared_ptr<AppDelegate> create(Platform& platform, Views views);
 
     /// Hands over to a copy that runs already: has that one do `request`, or brings it forward when
-    /// there is none, and terminates this one. False then: launching must not go on.
-    bool applicationWillFinishLaunching(const std::optional<ApplicationRequest>& request = {});
+    /// there is none, and terminates this one. Gives that one's answer then, as perform() does:
+    /// launching must not go on. Absent when no other copy runs.
+    std::optional<Result<std::string>> applicationWillFinishLaunching(
+        const std::optional<ApplicationRequest>& request = {});
 
     /// Connects the components and starts watching, or the onboarding on the first run.
     void applicationDidFinishLaunching();
@@ -79,6 +81,7 @@ private:
     void connectStatusBar();
     void connectWatcher();
     void observeScreenshotFolder();
+    void observeSystem();
     void observeShowRecordings();
     void connectNotifications();
     void startWatching();
@@ -95,6 +98,8 @@ private:
     // Watch errors: each shows its alert and does what is answered.
     void askForAccess(const Url& folder);
     void recreate(const Url& folder);
+    void recreateOnServer(const Url& folder);
+    void recreatedOnServer(const Url& folder, bool isThere);
     void offerSettings(const Alert& alert);
     /// Comes to the front, and returns the answer.
     int run(const Alert& alert);

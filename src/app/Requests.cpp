@@ -89,6 +89,7 @@ Result<std::string> AppDelegate::status(const std::vector<std::string>& argument
     const Paths paths = !isVerbose || isAsked("with-paths") ? Paths::shown : Paths::hidden;
     const char* state = statusBar_.paused()      ? "paused"
                         : watcher_->isWatching() ? "watching"
+                        : watcher_->isOpening()  ? "waiting for the folder"
                                                  : "not watching";
     std::vector<Fact> facts{
         {"version", std::string(version)},

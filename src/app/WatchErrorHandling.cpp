@@ -82,6 +82,10 @@ void AppDelegate::askForAccess(const Url& folder) {
 }
 
 void AppDelegate::recreate(const Url& folder) {
+    if (platform_.files->isRemote(folder)) {
+        recreateOnServer(folder);
+        return;
+    }
     // Whether it could be made shows in the next step.
     (void)platform_.files->createDirectory(folder);
     // What is in one that has just come was saved since then.
@@ -89,6 +93,24 @@ void AppDelegate::recreate(const Url& folder) {
         offerSettings(missingAlert(folder));
     else
         lastWatchError_.reset();
+}
+
+void AppDelegate::recreateOnServer(const Url& folder) {
+    platform_.serverQueue->async([&platform = platform_, weak = weak_from_this(), folder] {
+        const bool isThere = !platform.files->createDirectory(folder);
+        platform.scheduler->async([weak, folder, isThere] {
+            if (const auto self = weak.lock()) self->recreatedOnServer(folder, isThere);
+        });
+    });
+}
+
+void AppDelegate::recreatedOnServer(const Url& folder, bool isThere) {
+    if (!isThere) {
+        offerSettings(missingAlert(folder));
+        return;
+    }
+    lastWatchError_.reset();
+    watcher_->start(folder, CaptureWatcher::Existing::isNew);
 }
 
 void AppDelegate::offerSettings(const Alert& alert) {

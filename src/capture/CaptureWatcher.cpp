@@ -31,37 +31,61 @@ CaptureWatcher::~CaptureWatcher() {
 }
 
 std::optional<WatchError> CaptureWatcher::start(const Url& folder, Existing existing) {
+    if (isOpening() && folder_ == folder) return std::nullopt;
     const bool goesOn = isWatching() && folder_ == folder;
+    const auto kept = goesOn ? std::nullopt : std::optional(existing);
     stop();
     folder_ = folder;
-    auto error = watch(folder, goesOn ? std::nullopt : std::optional(existing));
-    if (error) report(*error);
-    return error;
+    const WatchNumber watch = ++lastWatch_;
+    if (!services_.files.isRemote(folder)) return begin(open(folder, watch), watch, kept);
+    openInBackground(watch, kept);
+    return std::nullopt;
 }
 
 void CaptureWatcher::stop() {
     currentWatch_ = notWatching;
+    opening_ = notWatching;
     if (source_) source_->cancel();
     source_.reset();
 }
 
-std::optional<WatchError> CaptureWatcher::watch(const Url& folder,
-                                                std::optional<Existing> existing) {
+void CaptureWatcher::openInBackground(WatchNumber watch, std::optional<Existing> existing) {
+    opening_ = watch;
+    const auto self = shared_from_this();
+    services_.servers.async(weakly(self, [folder = *folder_, watch, existing](auto& opener) {
+        const Opening opening = opener.open(folder, watch);
+        opener.services_.main.async(
+            weakly(opener.shared_from_this(), [opening, watch, existing](auto& watcher) {
+                if (watcher.opening_ != watch) return;
+                watcher.opening_ = notWatching;
+                (void)watcher.begin(opening, watch, existing);
+            }));
+    }));
+}
+
+CaptureWatcher::Opening CaptureWatcher::open(const Url& folder, WatchNumber watch) {
     if (services_.files.existence(folder) != FileManager::Existence::directory)
         return WatchError::missing();
-    const auto listing = services_.files.contentsOfDirectory(folder);
+    auto listing = services_.files.contentsOfDirectory(folder);
     if (!listing) return watchError(listing.failure());
-
-    const WatchNumber watch = ++lastWatch_;
     auto source = services_.events.open(
         folder, weakly(shared_from_this(), [folder, watch](auto& self, DirectoryChange change) {
             self.handleEvent(folder, watch, change);
         }));
     if (!source) return watchError(source.failure());
-    source_ = source.value();
-    currentWatch_ = watch;
+    return Opened{std::move(listing.value()), source.value()};
+}
 
-    const NameList& names = listing.value();
+std::optional<WatchError> CaptureWatcher::begin(const Opening& opening, WatchNumber watch,
+                                                std::optional<Existing> existing) {
+    if (const auto* error = std::get_if<WatchError>(&opening)) {
+        report(*error);
+        return *error;
+    }
+    const auto& [names, source] = std::get<Opened>(opening);
+    source_ = source;
+    currentWatch_ = watch;
+    const Url& folder = *folder_;
     Debug::log([&] {
         return "watching " + folder.path() + " (fd " + std::to_string(source_->descriptor()) +
                ", " + std::to_string(names.size()) + " existing files)";

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <variant>
 
 #include "capture/Capture.h"
 #include "capture/KnownNames.h"
@@ -34,6 +35,7 @@ public:
     struct Services {
         Scheduler& main;
         SerialQueue& queue;
+        SerialQueue& servers;     ///< Waits for folders that are remote, and does nothing else.
         DirectoryEvents& events;  ///< Its handlers run on `queue`.
         FileManager& files;
         MediaLoader& media;
@@ -56,6 +58,9 @@ public:
     /// Watches `folder` from now on instead of any other. Absent on success; otherwise the error
     /// that is also logged and goes to onError. Starting again on the folder that is watched goes
     /// on with what is known of it, so that nothing is lost that was saved between the two.
+    ///
+    /// A remote folder is opened in the background, however long it takes to answer: then the
+    /// result is absent, and what fails goes to onError alone.
     std::optional<WatchError> start(const Url& folder, Existing existing = Existing::isKnown);
 
     /// Files that are settling at that moment may still be reported.
@@ -64,6 +69,8 @@ public:
     /// The folder of the latest start(), also of a failed one.
     const std::optional<Url>& folder() const { return folder_; }
     bool isWatching() const { return source_ != nullptr; }
+    /// Whether a remote folder has not answered yet.
+    bool isOpening() const { return opening_ != notWatching; }
 
 private:
     using WatchNumber = std::uint64_t;
@@ -71,9 +78,21 @@ private:
 
     explicit CaptureWatcher(const Services& services) : services_(services) {}
 
+    /// A folder that can be watched, with what was in it before its events are told.
+    struct Opened {
+        NameList names;
+        std::shared_ptr<DirectoryEventSource> source;
+    };
+    using Opening = std::variant<Opened, WatchError>;
+
+    /// Any thread. Waits for the folder.
+    Opening open(const Url& folder, WatchNumber watch);
+
     // Main thread.
+    void openInBackground(WatchNumber watch, std::optional<Existing> existing);
     /// Without `existing` what is known stays.
-    std::optional<WatchError> watch(const Url& folder, std::optional<Existing> existing);
+    std::optional<WatchError> begin(const Opening& opening, WatchNumber watch,
+                                    std::optional<Existing> existing);
     void report(const WatchError& error);
     void loseFolder(WatchNumber watch);
 
@@ -92,6 +111,7 @@ private:
     std::optional<Url> folder_;
     std::shared_ptr<DirectoryEventSource> source_;
     WatchNumber lastWatch_ = notWatching;
+    WatchNumber opening_ = notWatching;  ///< The watch that waits for a remote folder.
     /// Which of the successive watches runs. The queue reads it to let go of work for a watch
     /// that has ended.
     std::atomic<WatchNumber> currentWatch_ = notWatching;

@@ -32,7 +32,11 @@ void RecordingsWatcher::connect() {
 }
 
 void RecordingsWatcher::start(const Url& folder) {
-    if (folder_ == folder && state() != State::failed) return;
+    if (folder_ == folder && state() == State::watching) return;
+    if (folder_ == folder && state() == State::waiting) {
+        look(Existing::isNew);
+        return;
+    }
     stop();
     folder_ = folder;
     look(Existing::isKnown);
@@ -46,52 +50,78 @@ void RecordingsWatcher::stop() {
 
 RecordingsWatcher::State RecordingsWatcher::state() const {
     if (!folder_) return State::stopped;
-    if (watcher_->isWatching()) return State::watching;
-    return source_ ? State::waiting : State::failed;
+    if (watcher_->isWatching() || watcher_->isOpening()) return State::watching;
+    return source_ || isLooking_ ? State::waiting : State::failed;
 }
 
 void RecordingsWatcher::look(Existing existing) {
     stopWaiting();
-    const Url place = nearest();
-    if (place != folder_)
-        wait(place);
-    else
-        (void)watcher_->start(place, existing);  // logs a failure itself
-}
-
-void RecordingsWatcher::wait(const Url& place) {
-    const auto number = ++wait_;
-    const auto changed = [&main = services_.main, weak = weak_from_this(),
-                          number](DirectoryChange change) {
-        main.async([weak, number, isLost = change.lost] {
-            if (const auto self = weak.lock()) self->placeChanged(number, isLost);
-        });
-    };
-    const auto source = services_.events.open(place, changed);
-    if (!source) {
-        systemLog("Vantle: cannot wait for " + folder_->path() + ": " + source.failure().message);
+    const auto look = ++look_;
+    if (!services_.files.isRemote(*folder_)) {
+        found(find(*folder_, look), existing);
         return;
     }
-    Debug::log([&] { return "waiting in " + place.path() + " for " + folder_->path(); });
-    waitingIn_ = place;
-    source_ = source.value();
+    isLooking_ = true;
+    services_.servers.async(
+        weakly(shared_from_this(), [folder = *folder_, look, existing](auto& self) {
+            self.services_.main.async(
+                weakly(self.shared_from_this(),
+                       [look, existing, place = self.find(folder, look)](auto& watcher) {
+                           if (watcher.isLooking_ && look == watcher.look_)
+                               watcher.found(place, existing);
+                       }));
+        }));
+}
+
+RecordingsWatcher::Place RecordingsWatcher::find(const Url& folder, Look look) {
+    const auto changed = [&main = services_.main, weak = weak_from_this(),
+                          look](DirectoryChange change) {
+        main.async([weak, look, isLost = change.lost] {
+            if (const auto self = weak.lock()) self->placeChanged(look, isLost);
+        });
+    };
+    for (;;) {
+        Url place = nearest(folder);
+        if (place == folder) return {std::move(place), std::shared_ptr<DirectoryEventSource>()};
+        auto source = services_.events.open(place, changed);
+        // The folder may have come before the source was open.
+        if (source && nearest(folder) != place) continue;
+        return {std::move(place), std::move(source)};
+    }
+}
+
+void RecordingsWatcher::found(const Place& place, Existing existing) {
+    isLooking_ = false;
+    if (place.folder == folder_) {
+        (void)watcher_->start(place.folder, existing);  // logs a failure itself
+        return;
+    }
+    if (!place.source) {
+        systemLog("Vantle: cannot wait for " + folder_->path() + ": " +
+                  place.source.failure().message);
+        return;
+    }
+    Debug::log([&] { return "waiting in " + place.folder.path() + " for " + folder_->path(); });
+    waitingIn_ = place.folder;
+    source_ = place.source.value();
     source_->resume();
-    // The folder may have come before the source was open.
-    changed({.contents = true});
 }
 
 void RecordingsWatcher::stopWaiting() {
+    isLooking_ = false;
     if (source_) source_->cancel();
     source_.reset();
 }
 
-void RecordingsWatcher::placeChanged(std::uint64_t wait, bool isLost) {
-    if (!source_ || wait != wait_) return;
-    if (isLost || nearest() != waitingIn_) look(Existing::isNew);
+void RecordingsWatcher::placeChanged(Look look, bool isLost) {
+    if (!source_ || look != look_) return;
+    const bool isElsewhere =
+        isLost || services_.files.isRemote(*folder_) || nearest(*folder_) != waitingIn_;
+    if (isElsewhere) this->look(Existing::isNew);
 }
 
-Url RecordingsWatcher::nearest() const {
-    Url place = *folder_;
+Url RecordingsWatcher::nearest(const Url& folder) const {
+    Url place = folder;
     while (place.path() != "/" &&
            services_.files.existence(place) != FileManager::Existence::directory)
         place = place.deletingLastPathComponent();

@@ -29,8 +29,8 @@ public:
 
     /// Watches or awaits `folder` from now on instead of any other. What is in it at that moment is
     /// not reported; in a folder that comes later, all is new that is younger than two minutes.
-    /// Repeated for the same folder it changes nothing, unless it failed before: then it tries
-    /// again.
+    /// Repeated for the same folder it looks whether that has come meanwhile; after a failure it
+    /// tries again.
     void start(const Url& folder);
 
     /// Files that are settling at that moment may still be reported.
@@ -42,17 +42,29 @@ private:
     explicit RecordingsWatcher(const CaptureWatcher::Services& services);
 
     void connect();
+    using Look = std::uint64_t;
+
+    /// Where the folder is, or is waited for.
+    struct Place {
+        Url folder;
+        Result<std::shared_ptr<DirectoryEventSource>> source;  ///< None: it is there itself.
+    };
+
     void look(CaptureWatcher::Existing existing);
-    void wait(const Url& place);
+    void found(const Place& place, CaptureWatcher::Existing existing);
     void stopWaiting();
-    void placeChanged(std::uint64_t wait, bool isLost);
+    void placeChanged(Look look, bool isLost);
+
+    // Any thread. Both wait for the file system.
+    Place find(const Url& folder, Look look);
     /// The folder itself, or the nearest one above it that is there.
-    Url nearest() const;
+    Url nearest(const Url& folder) const;
 
     CaptureWatcher::Services services_;
     std::shared_ptr<CaptureWatcher> watcher_;
     std::optional<Url> folder_;
-    std::uint64_t wait_ = 0;  ///< The number of the present wait, or of the last one.
+    Look look_ = 0;  ///< The number of the last one.
+    bool isLooking_ = false;
     Url waitingIn_;
     std::shared_ptr<DirectoryEventSource> source_;
 };

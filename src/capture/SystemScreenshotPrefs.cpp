@@ -28,7 +28,9 @@ Url SystemScreenshotPrefs::location() const {
     const auto path = valueOfType<std::string>(preferences_, locationKey);
     if (!path || path->empty()) return defaultLocation();
     Url folder = expandingTilde(*path);
-    // A stale setting must never yield a folder that cannot be watched.
+    // A stale setting must never yield a folder that cannot be watched. Whether a server has it
+    // only shows when it is watched: nothing here can wait for the answer.
+    if (files_.isRemote(folder)) return folder;
     if (files_.existence(folder) != FileManager::Existence::directory) return defaultLocation();
     return folder;
 }

@@ -21,7 +21,8 @@ struct ResourceValues {
     std::optional<bool> isRegularFile;
 };
 
-/// Reads folders and files by path. Every operation may be called on any thread.
+/// Reads folders and files by path. Every operation may be called on any thread; each but
+/// isRemote() waits for the file system.
 class FileManager {
 public:
     enum class Existence { none, file, directory };
@@ -30,6 +31,10 @@ public:
 
     /// What stands at the path, links followed. A path that cannot be looked at does not exist.
     virtual Existence existence(const Url& url) const = 0;
+
+    /// Whether what is asked of it goes to another computer or another program, which may answer
+    /// late or never. Answers at once.
+    virtual bool isRemote(const Url& url) const = 0;
 
     /// The names in the folder in the file system's order, hidden ones (that begin with a full
     /// stop) left out. Fails with the system's error number.

@@ -66,7 +66,17 @@ struct Platform {
     std::unique_ptr<Canvas> canvas;
     std::unique_ptr<SoundPlayer> sounds;
     std::unique_ptr<SerialQueue> watcherQueue;
+    std::unique_ptr<SerialQueue> serverQueue;  ///< For what may wait for others for ever.
     std::unique_ptr<DirectoryEvents> directoryEvents;
+    std::shared_ptr<void> systemEvents;  ///< What has `screenshotPreferences` tell of changes.
+
+    /// Calls `launch` on the main thread once all that the settings mirror is known. Not set where
+    /// it is known from the start.
+    std::function<void(std::function<void()> launch)> whenKnown;
+
+    /// Whether something in the background waits for an answer that may never come, so that the
+    /// queues cannot end. Waits a little itself.
+    std::function<bool()> isHeldUp;
 
     /// Empty on a surrounding that has none. Both outlive what is made.
     std::function<std::unique_ptr<Updater>(Platform& platform, UpdaterObserver& observer)>

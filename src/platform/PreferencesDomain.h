@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -11,6 +12,9 @@ namespace vantle {
 class PreferencesDomain {
 public:
     virtual ~PreferencesDomain() = default;
+
+    /// What is stored may have changed, and nobody here did it. Set by who shows it.
+    std::function<void()> onChange;
 
     /// The stored value with the type that it has there; absent when there is none. Reads anew at
     /// each call, so that a change made by others is seen.

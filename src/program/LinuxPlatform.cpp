@@ -10,6 +10,7 @@
 
 #include "capture/Capture.h"
 #include "capture/SystemScreenshotPrefs.h"
+#include "platform/ScreenshotPreferences.h"
 #include "platform/linux/AutostartLoginItem.h"
 #include "platform/linux/CanberraSoundPlayer.h"
 #include "platform/linux/ConfinedMediaLoader.h"
@@ -24,6 +25,7 @@
 #include "platform/linux/PosixProcessLauncher.h"
 #include "platform/linux/SystemFacts.h"
 #include "platform/linux/UserDirectories.h"
+#include "platform/linux/screenshots/BackgroundGSettings.h"
 #include "platform/linux/screenshots/ScreenshotTools.h"
 #include "platform/linux/screenshots/ToolChoice.h"
 #include "platform/linux/screenshots/ToolPreferencesDomain.h"
@@ -33,6 +35,7 @@
 #include "platform/qt/DesktopPrivacySettings.h"
 #include "platform/qt/DialogFolderChooser.h"
 #include "platform/qt/GSettingsCommand.h"
+#include "platform/qt/MountEvents.h"
 #include "platform/qt/PortalAppearance.h"
 #include "platform/qt/PortalFolderChooser.h"
 #include "platform/qt/QtCanvas.h"
@@ -46,6 +49,7 @@
 #include "platform/qt/sharing/MailSharing.h"
 #include "platform/qt/sharing/SharingSources.h"
 #include "platform/qt/tray/TrayStatusItem.h"
+#include "platform/wayland/Connection.h"
 #include "platform/wayland/ServerChoice.h"
 #include "support/SystemLog.h"
 #include "support/Version.h"
@@ -53,6 +57,8 @@
 
 namespace vantle {
 namespace {
+
+constexpr Seconds patienceAtTheEnd{1};
 
 bool isRecording(const Url& url) {
     return Capture::kind(url, linuxCaptureExtensions) == CaptureKind::video;
@@ -94,11 +100,12 @@ void addUses(Platform& platform, LoadedViews& views) {
 }
 
 std::unique_ptr<TrayStatusItem> makeStatusItem(OpenMenu openMenu) {
-    // A window of X cannot hold the pointer there.
-    const bool isWayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    // Without layers it would not stand at the icon, and a window of X cannot hold the pointer
+    // there.
+    const bool isPlaced = !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || wayland::offersLayers();
     return std::make_unique<TrayStatusItem>(
         std::move(openMenu),
-        isWayland ? TrayStatusItem::Click::opensMenuOfTray : TrayStatusItem::Click::opensOurMenu);
+        isPlaced ? TrayStatusItem::Click::opensOurMenu : TrayStatusItem::Click::opensMenuOfTray);
 }
 
 /// What stands around the program, for reports of faults.
@@ -151,26 +158,60 @@ std::string toolOfDesktop(const Environment& environment) {
     return chooseScreenshotTool(environment("XDG_CURRENT_DESKTOP").value_or(""), isInstalled);
 }
 
+/// Has what was not known yet asked for, and goes on once it is heard.
+void whenKnown(const PreferencesDomain& preferences, BackgroundGSettings& settings,
+               std::function<void()> launch) {
+    for (const auto* key : {screenshotPreferences::location, screenshotPreferences::showThumbnail})
+        (void)preferences.value(key);
+    settings.whenHeard(std::move(launch));
+}
+
+/// A folder that is mounted or unmounted is another one, or none.
+void tellOfChanges(Platform& platform, BackgroundGSettings& settings) {
+    const auto changed = [&preferences = *platform.screenshotPreferences] {
+        if (preferences.onChange) preferences.onChange();
+    };
+    settings.onChange = changed;
+    platform.systemEvents = std::make_shared<MountEvents>(changed);
+}
+
 /// The settings of the tool that saves the screenshots of this desktop, else our own, and the
 /// folder of the recorder: that stays the desktop's, whatever takes the screenshots.
 void addScreenshotTool(Platform& platform, const Url& own) {
     const std::string usual = toolOfDesktop(platform.environment);
     std::string name = platform.defaults->text("screenshotTool").value_or("");
     if (name.empty()) name = usual;
-    const auto settings = std::make_shared<GSettingsCommand>();
+    const auto settings = std::make_shared<BackgroundGSettings>(
+        std::make_shared<GSettingsCommand>(), *platform.serverQueue, *platform.scheduler);
     auto tool = makeScreenshotTool(name, platform.environment, settings);
     const auto recorder =
         name == usual ? std::nullopt : makeScreenshotTool(usual, platform.environment, settings);
     if (recorder) platform.recordingsFolder = recorder->recordingsFolder;
     if (tool && tool->recordingsFolder) platform.recordingsFolder = tool->recordingsFolder;
-    if (tool) {
+    if (!tool && name != noScreenshotTool)
+        systemLog("Vantle: there is no screenshotTool named " + name + "; none is used");
+    if (tool)
         platform.screenshotPreferences = std::make_unique<ToolPreferencesDomain>(
             std::move(*tool), UserDirectories(platform.environment).home(), own);
-        return;
-    }
-    if (name != noScreenshotTool)
-        systemLog("Vantle: there is no screenshotTool named " + name + "; none is used");
-    platform.screenshotPreferences = std::make_unique<IniPreferencesDomain>(own);
+    else
+        platform.screenshotPreferences = std::make_unique<IniPreferencesDomain>(own);
+    platform.whenKnown = [&preferences = *platform.screenshotPreferences,
+                          settings](std::function<void()> launch) {
+        whenKnown(preferences, *settings, std::move(launch));
+    };
+    tellOfChanges(platform, *settings);
+}
+
+/// The folder that is watched, and one that is opened, may be those of a server.
+void addQueues(Platform& platform) {
+    auto watcher = std::make_unique<PollQueue>("vantle.watcher");
+    auto servers = std::make_unique<PollQueue>("vantle.servers");
+    platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*watcher);
+    platform.isHeldUp = [&watcher = *watcher, &servers = *servers] {
+        return !watcher.isIdleWithin(patienceAtTheEnd) || !servers.isIdleWithin(patienceAtTheEnd);
+    };
+    platform.watcherQueue = std::move(watcher);
+    platform.serverQueue = std::move(servers);
 }
 
 std::unique_ptr<LoginItem> makeLoginItem(const Environment& environment) {
@@ -192,6 +233,7 @@ Platform makeLinuxPlatform(DBusApplication::Launch launch, LoadedViews& views) {
     const Url configuration = UserDirectories(platform.environment).configuration();
     const Url own = configuration.appending("vantle");
     platform.scheduler = std::make_unique<QtScheduler>();
+    addQueues(platform);
     platform.clock = std::make_unique<SystemWallClock>();
     platform.files = std::make_unique<LinuxFileManager>(platform.environment, isRecording);
     platform.media =
@@ -205,9 +247,6 @@ Platform makeLinuxPlatform(DBusApplication::Launch launch, LoadedViews& views) {
     platform.application = std::make_unique<DBusApplication>(programIdentifier, launch);
     platform.appearance = std::make_unique<PortalAppearance>();
     views.follow(*platform.appearance);
-    auto queue = std::make_unique<PollQueue>("vantle.watcher");
-    platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*queue);
-    platform.watcherQueue = std::move(queue);
     addUses(platform, views);
     addShell(platform, views);
     platform.makeUpdater = [&views](Platform& surroundings, UpdaterObserver& observer) {

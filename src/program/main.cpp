@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <system_error>
 
 #include "app/AppDelegate.h"
@@ -91,6 +92,15 @@ AppDelegate::Views makeViews(Platform& platform, LoadedViews& views) {
             }};
 }
 
+/// The exit status, where this start has found another copy.
+std::optional<int> launch(AppDelegate& delegate, const std::optional<ApplicationRequest>& request) {
+    if (const auto answer = delegate.applicationWillFinishLaunching(request))
+        return conclude(*answer);
+    delegate.applicationDidFinishLaunching();
+    if (request) conclude(delegate.perform(*request));
+    return std::nullopt;
+}
+
 int run(int& argc, char** argv, const CommandLine& line, Translations& translations) {
     const auto& request = line.request;
     qInstallMessageHandler(logOrEnd);
@@ -109,12 +119,18 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
     Platform platform = makeLinuxPlatform(
         line.launchedByBus ? DBusApplication::Launch::byBus : DBusApplication::Launch::byUser,
         views);
-    const auto delegate = AppDelegate::create(platform, makeViews(platform, views));
-    if (!delegate->applicationWillFinishLaunching(request)) return EXIT_SUCCESS;
     const UnixSignals endingSignals([&] { platform.application->terminate(); });
-    delegate->applicationDidFinishLaunching();
-    if (request) conclude(delegate->perform(*request));
-    return QGuiApplication::exec();
+    std::shared_ptr<AppDelegate> delegate;
+    platform.whenKnown([&] {
+        delegate = AppDelegate::create(platform, makeViews(platform, views));
+        if (const auto status = launch(*delegate, request)) QGuiApplication::exit(*status);
+    });
+    const int status = QGuiApplication::exec();
+    delegate.reset();
+    platform.trash.reset();  // waits for what is on its way there
+    // Nothing is written any more, and the queue of a dead server would never end.
+    if (platform.isHeldUp()) _exit(status);
+    return status;
 }
 
 }  // namespace

@@ -20,6 +20,7 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/FileUseTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FolderChooserContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/GSettingsContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MountEventsTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PasteboardContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PrivacySettingsTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/QtContractMain.cpp

@@ -277,6 +277,21 @@ TEST_F(ScreenshotToolTest, NothingIsMadeOrListedWhereAFileSystemIsYetToBeMounted
     EXPECT_TRUE(std::filesystem::is_empty(inHome("Bilder").path()));
 }
 
+TEST_F(ScreenshotToolTest, AServerIsNotAskedWhetherItHasTheFolder) {
+    nameThePictures();
+    writeIn("mounts", "server:/y " + inHome("far").path() + " nfs4 rw 0 0\nserver:/x " +
+                          inHome("Bilder").path() + " nfs4 rw 0 0\n");
+    const MountFiles tables{.present = inHome("mounts").path(), .expected = {}};
+    const ToolPreferencesDomain byDefault(description("spectacle"), home, inHome("memory.conf"),
+                                          tables);
+    EXPECT_EQ(byDefault.value(location), PreferenceValue(inHome("Bilder/Screenshots").path()));
+    EXPECT_TRUE(std::filesystem::is_empty(inHome("Bilder").path()));
+    writeIn(".config/flameshot/flameshot.ini", "[General]\nsavePath=~/far/shots\n");
+    const ToolPreferencesDomain chosen(description("flameshot"), home, inHome("memory.conf"),
+                                       tables);
+    EXPECT_EQ(chosen.value(location), PreferenceValue(inHome("far/shots").path()));
+}
+
 TEST_F(ScreenshotToolTest, ThePreviousFolderIsRestoredAsItWasWritten) {
     const Url fresh = makeFolder("fresh");
     makeFolder("old");

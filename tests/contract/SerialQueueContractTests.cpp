@@ -162,6 +162,15 @@ TEST(PollQueueTest, ItsEndWaitsForThePieceThatRuns) {
     EXPECT_THAT(record.ran(), ElementsAre("ran"));
 }
 
+TEST(PollQueueTest, TellsWhetherItIsHeldUp) {
+    PollQueue queue("contract");
+    std::promise<void> goOn;
+    queue.async([goOn = goOn.get_future().share()] { goOn.wait(); });
+    EXPECT_FALSE(queue.isIdleWithin(Seconds(0.05)));
+    goOn.set_value();
+    EXPECT_TRUE(queue.isIdleWithin(Seconds(30)));
+}
+
 TEST(PollQueueTest, ItsEndDropsWhatWaits) {
     QueueRecord record;
     auto held = std::make_shared<int>(1);

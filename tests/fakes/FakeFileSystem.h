@@ -55,6 +55,7 @@ public:
     /// From now on listing the folder fails with `error`; 0 makes it work again.
     void failListing(const Url& folder, int error);
     void failOpening(const Url& folder, int error);
+    void makeRemote(const Url& folder) { remote_.insert(folder.path()); }
     /// From now on nothing can be created below `folder`.
     void makeReadOnly(const Url& folder);
 
@@ -70,6 +71,7 @@ public:
     int inspections() const { return inspections_; }
 
     Existence existence(const Url& url) const override;
+    bool isRemote(const Url& url) const override { return remote_.contains(url.path()); }
     Result<NameList> contentsOfDirectory(const Url& folder) const override;
     Result<ResourceValues> resourceValues(const Url& url) const override;
     std::optional<std::int64_t> fileSize(const Url& url) const override;
@@ -96,6 +98,7 @@ private:
     std::map<std::string, int> listingErrors_;
     std::map<std::string, int> openingErrors_;
     std::set<std::string> readOnly_;
+    std::set<std::string> remote_;
     std::vector<std::weak_ptr<Source>> sources_;
     std::uint64_t nextOrder_ = 1;
     int nextDescriptor_ = 3;

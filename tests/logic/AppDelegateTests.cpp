@@ -9,6 +9,17 @@ using Policy = Application::ActivationPolicy;
 
 using AppDelegateTest = AppFixture;
 
+TEST_F(AppDelegateTest, AFolderThatChangesByItselfIsWatchedFromThenOn) {
+    launch();
+    const Url other = Url::file("/home/user/Other");
+    (void)files->createDirectory(other);
+    domain->values["location"] = other.path();
+    EXPECT_EQ(delegate->watcher().folder(), folder);
+    domain->onChange();
+    EXPECT_EQ(delegate->watcher().folder(), other);
+    EXPECT_TRUE(delegate->watcher().isWatching());
+}
+
 TEST_F(AppDelegateTest, ASavedScreenshotComesToThePanelAndTheRecentList) {
     launch();
     save("shot.png");
@@ -102,7 +113,7 @@ TEST_F(AppDelegateTest, WithoutAnUpdaterAnUpdateCheckDoesNothing) {
 
 TEST_F(AppDelegateTest, ASecondCopyBringsTheFirstForwardAndQuits) {
     application->otherCopyRuns = true;
-    EXPECT_FALSE(make().applicationWillFinishLaunching());
+    EXPECT_TRUE(make().applicationWillFinishLaunching().has_value());
     EXPECT_EQ(application->otherCopyActivations, 1);
     EXPECT_EQ(application->terminations, 1);
     EXPECT_FALSE(delegate->watcher().isWatching());

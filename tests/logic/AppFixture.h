@@ -68,6 +68,7 @@ protected:
         auto* scheduler = add(platform.scheduler, std::make_unique<fakes::ManualScheduler>(time));
         clock = add(platform.clock, std::make_unique<fakes::VirtualClock>(time));
         auto* queue = add(platform.watcherQueue, std::make_unique<fakes::ManualQueue>(time));
+        platform.serverQueue = std::make_unique<fakes::ManualQueue>(time);
         auto fileSystem = std::make_unique<fakes::FakeFileSystem>(*queue);
         files = fileSystem.get();
         (void)files->createDirectory(folder);
@@ -122,7 +123,7 @@ protected:
 
     AppDelegate& launch() {
         AppDelegate& launched = make();
-        EXPECT_TRUE(launched.applicationWillFinishLaunching());
+        EXPECT_FALSE(launched.applicationWillFinishLaunching().has_value());
         launched.applicationDidFinishLaunching();
         time.settle();
         return launched;

@@ -23,8 +23,8 @@ class CaptureWatcherTest : public testing::Test {
 protected:
     CaptureWatcherTest() {
         (void)files.createDirectory(folder);
-        watcher =
-            CaptureWatcher::create({scheduler, queue, files, files, media, clock, moreExtensions});
+        watcher = CaptureWatcher::create(
+            {scheduler, queue, servers, files, files, media, clock, moreExtensions});
         watcher->onCapture = [this](const CapturePointer& capture) {
             captured.push_back(capture->fileName());
         };
@@ -47,6 +47,7 @@ protected:
     fakes::VirtualTime time;
     fakes::ManualScheduler scheduler{time};
     fakes::ManualQueue queue{time};
+    fakes::ManualQueue servers{time};
     fakes::VirtualClock clock{time};
     fakes::FakeFileSystem files{queue};
     fakes::FakeMediaLoader media;
@@ -410,6 +411,51 @@ TEST_F(CaptureWatcherTest, AFolderLostAfterAnotherWasChosenIsNoLoss) {
     wait(1);
     EXPECT_THAT(errors, IsEmpty());
     EXPECT_TRUE(watcher->isWatching());
+}
+
+TEST_F(CaptureWatcherTest, ARemoteFolderIsOpenedInTheBackground) {
+    files.makeRemote(folder);
+    save("old.png");
+    const int listings = files.listings();
+    EXPECT_EQ(watcher->start(folder), std::nullopt);
+    EXPECT_EQ(files.listings(), listings);
+    EXPECT_TRUE(watcher->isOpening());
+    EXPECT_FALSE(watcher->isWatching());
+    EXPECT_EQ(watcher->start(folder), std::nullopt) << "asked already";
+    time.settle();
+    EXPECT_FALSE(watcher->isOpening());
+    EXPECT_TRUE(watcher->isWatching());
+    EXPECT_EQ(files.openSources(), 1u);
+    save("shot.png");
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("shot.png"));
+}
+
+TEST_F(CaptureWatcherTest, ARemoteFolderThatAnswersTooLateIsNotWatched) {
+    files.makeRemote(folder);
+    const Url other = Url::file("/other");
+    (void)files.createDirectory(other);
+    EXPECT_EQ(watcher->start(folder), std::nullopt);
+    EXPECT_EQ(watcher->start(other), std::nullopt);
+    time.settle();
+    EXPECT_EQ(files.openSources(), 1u);
+    save("shot.png");
+    wait(1);
+    EXPECT_THAT(captured, IsEmpty());
+    EXPECT_EQ(watcher->start(folder), std::nullopt);
+    watcher->stop();
+    time.settle();
+    EXPECT_FALSE(watcher->isWatching());
+    EXPECT_EQ(files.openSources(), 0u);
+}
+
+TEST_F(CaptureWatcherTest, WhatARemoteFolderFailsWithIsReportedLater) {
+    const Url none = Url::file("/none");
+    files.makeRemote(none);
+    EXPECT_EQ(watcher->start(none), std::nullopt);
+    time.settle();
+    EXPECT_THAT(errors, ElementsAre("missing"));
+    EXPECT_FALSE(watcher->isOpening());
 }
 
 TEST_F(CaptureWatcherTest, AMissingFolderIsReturnedLoggedAndReportedLater) {

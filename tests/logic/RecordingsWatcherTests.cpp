@@ -47,11 +47,12 @@ protected:
     fakes::VirtualTime time;
     fakes::ManualScheduler scheduler{time};
     fakes::ManualQueue queue{time};
+    fakes::ManualQueue servers{time};
     fakes::VirtualClock clock{time};
     fakes::FakeFileSystem files{queue};
     fakes::FakeMediaLoader media;
     std::shared_ptr<RecordingsWatcher> watcher =
-        RecordingsWatcher::create({scheduler, queue, files, files, media, clock});
+        RecordingsWatcher::create({scheduler, queue, servers, files, files, media, clock});
     std::vector<std::string> captured;
     CapturedLog log;
 };
@@ -181,6 +182,25 @@ TEST_F(RecordingsWatcherTest, AnotherFolderTakesThePlaceOfTheOneThatIsWaitedFor)
     save("a.mp4");
     save("b.mp4", other);
     EXPECT_THAT(captured, ElementsAre("b.mp4"));
+}
+
+TEST_F(RecordingsWatcherTest, ARemoteFolderIsLookedForInTheBackground) {
+    files.makeRemote(folder);
+    watcher->start(folder);
+    EXPECT_EQ(files.openSources(), 0u);
+    EXPECT_EQ(watcher->state(), State::waiting);
+    time.settle();
+    EXPECT_EQ(files.openSources(), 1u);
+    make(folder);
+    EXPECT_EQ(watcher->state(), State::watching);
+    save("cast.mp4");
+    EXPECT_THAT(captured, ElementsAre("cast.mp4"));
+    watcher->start(Url::file("/far"));
+    files.makeRemote(Url::file("/far"));
+    watcher->stop();
+    time.settle();
+    EXPECT_EQ(watcher->state(), State::stopped);
+    EXPECT_EQ(files.openSources(), 0u);
 }
 
 TEST_F(RecordingsWatcherTest, StartingAgainChangesNothing) {

@@ -141,10 +141,21 @@ TEST_F(RequestTest, WhatIsNotKnownIsRefused) {
 TEST_F(RequestTest, ASecondCopyHandsItsRequestToTheFirst) {
     application->otherCopyRuns = true;
     const ApplicationRequest request{"show", {"/pictures/a.png"}};
-    EXPECT_FALSE(make().applicationWillFinishLaunching(request));
+    application->answer = std::string("done");
+    const auto answer = make().applicationWillFinishLaunching(request);
+    ASSERT_TRUE(answer.has_value());
+    EXPECT_EQ(answer->value(), "done");
     EXPECT_THAT(application->asked, ElementsAre(request));
     EXPECT_EQ(application->otherCopyActivations, 0);
     EXPECT_EQ(application->terminations, 1);
+}
+
+TEST_F(RequestTest, WhatTheFirstCopyCannotDoTheSecondOneFailsWith) {
+    application->otherCopyRuns = true;
+    application->answer = Failure{EIO, "it is ending", {}};
+    const auto answer = make().applicationWillFinishLaunching(ApplicationRequest{"status", {}});
+    ASSERT_TRUE(answer.has_value());
+    EXPECT_EQ(answer->failure().message, "it is ending");
 }
 
 class MissingTrayTest : public AppFixture {};

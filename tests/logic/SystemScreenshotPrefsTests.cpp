@@ -59,6 +59,12 @@ TEST_F(SystemScreenshotPrefsTest, ADeletedFolderFallsBackToTheDesktop) {
     EXPECT_EQ(prefs.location(), desktop);
 }
 
+TEST_F(SystemScreenshotPrefsTest, AServerIsNotAskedWhetherItHasTheFolder) {
+    files.makeRemote(Url::file("/server/shots"));
+    domain.values["location"] = std::string("/server/shots");
+    EXPECT_EQ(prefs.location(), Url::file("/server/shots"));
+}
+
 TEST_F(SystemScreenshotPrefsTest, AFileInTheFoldersPlaceFallsBackToTheDesktop) {
     files.write(screenshots, 1, Date{});
     domain.values["location"] = screenshots.path();

@@ -156,6 +156,24 @@ TEST_F(WatchErrorHandlingTest, AMissingFolderIsMadeAgainSilently) {
     EXPECT_THAT(alerts->shown, IsEmpty());
 }
 
+TEST_F(WatchErrorHandlingTest, AMissingFolderOfAServerIsMadeInTheBackground) {
+    files->makeRemote(folder);
+    launch();
+    time.settle();
+    for (int round = 0; round < 2; ++round) {
+        files->removeDirectory(folder);
+        time.settle();
+        EXPECT_TRUE(delegate->watcher().isWatching());
+    }
+    save("shot.png");
+    EXPECT_TRUE(panel.isOnScreen);
+    EXPECT_THAT(alerts->shown, IsEmpty());
+    files->makeReadOnly(folder.deletingLastPathComponent());
+    files->removeDirectory(folder);
+    time.settle();
+    EXPECT_EQ(alerts->shown.size(), 1u);
+}
+
 TEST_F(WatchErrorHandlingTest, AMissingFolderThatCannotBeMadeIsNamed) {
     launch();
     files->makeReadOnly(Url::file("/home/user"));

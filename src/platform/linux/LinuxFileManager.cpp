@@ -42,6 +42,10 @@ FileManager::Existence LinuxFileManager::existence(const Url& url) const {
     return S_ISDIR(status.st_mode) ? Existence::directory : Existence::file;
 }
 
+bool LinuxFileManager::isRemote(const Url& url) const {
+    return MountTable(mounts_).isRemote(url);
+}
+
 Result<NameList> LinuxFileManager::contentsOfDirectory(const Url& folder) const {
     const DirectoryStream directory(opendir(folder.path().c_str()));
     if (!directory) return systemFailure(errno, folder.path());

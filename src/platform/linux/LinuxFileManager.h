@@ -18,6 +18,7 @@ public:
                      MountFiles mounts = {});
 
     Existence existence(const Url& url) const override;
+    bool isRemote(const Url& url) const override;
     Result<NameList> contentsOfDirectory(const Url& folder) const override;
     Result<ResourceValues> resourceValues(const Url& url) const override;
     std::optional<std::int64_t> fileSize(const Url& url) const override;

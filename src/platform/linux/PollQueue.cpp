@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <future>
 #include <limits>
 #include <map>
 #include <mutex>
@@ -155,6 +156,13 @@ void PollQueue::async(Work work) {
 
 void PollQueue::after(Seconds delay, Work work) {
     loop_->add(delay, std::move(work));
+}
+
+bool PollQueue::isIdleWithin(Seconds patience) const {
+    const auto done = std::make_shared<std::promise<void>>();
+    const auto isDone = done->get_future();
+    loop_->add(Seconds(0), [done] { done->set_value(); });
+    return isDone.wait_for(patience) == std::future_status::ready;
 }
 
 std::shared_ptr<PollQueue::Descriptors> PollQueue::descriptors() const {

@@ -6,8 +6,8 @@
 
 namespace vantle {
 
-/// The settings of GNOME and its relatives: text under a key of a schema. Main thread only; each
-/// call waits for the answer, three seconds at most.
+/// The settings of GNOME and its relatives: text under a key of a schema. Calls are made by one
+/// thread at a time.
 class GSettings {
 public:
     virtual ~GSettings() = default;

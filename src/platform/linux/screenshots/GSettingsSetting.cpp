@@ -1,5 +1,8 @@
 #include "platform/linux/screenshots/GSettingsSetting.h"
 
+#include <cerrno>
+#include <utility>
+
 #include "support/Localization.h"
 #include "support/SystemLog.h"
 
@@ -27,7 +30,7 @@ std::string GSettingsSetting::obstacle() const {
 }
 
 Failure GSettingsSetting::complain(const Failure& failure) const {
-    if (!std::exchange(complained_, true))
+    if (failure.code != EAGAIN && !std::exchange(complained_, true))
         systemLog("Vantle: cannot use the setting " + key_ + " of " + schema_ + ": " +
                   failure.message);
     return failure;

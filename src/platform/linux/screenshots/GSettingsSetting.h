@@ -9,7 +9,8 @@
 
 namespace vantle {
 
-/// A text among the settings of GNOME and its relatives. Empty text counts as not set.
+/// A text among the settings of GNOME and its relatives. Empty text counts as not set. What is not
+/// known yet is a failure that is not logged.
 class GSettingsSetting final : public TextSetting {
 public:
     GSettingsSetting(std::shared_ptr<GSettings> settings, std::string schema, std::string key)

@@ -74,8 +74,9 @@ std::optional<Url> ToolPreferencesDomain::folder(const std::optional<std::string
     if (auto named = chosen(text)) return named;
     Url byDefault = tool_.defaultFolder();
     // Whatever is kept in the mount point meanwhile is not what the user calls his pictures.
-    if (MountTable(mounts_).isUnmounted(byDefault)) return std::nullopt;
-    (void)isThere(byDefault);
+    const MountTable mounts(mounts_);
+    if (mounts.isUnmounted(byDefault)) return std::nullopt;
+    if (!mounts.isRemote(byDefault)) (void)isThere(byDefault);
     return byDefault;
 }
 
@@ -84,6 +85,8 @@ std::optional<Url> ToolPreferencesDomain::chosen(const std::optional<std::string
     if (path == "~" || path.starts_with("~/")) path.replace(0, 1, home_.path());
     if (!path.starts_with('/')) return std::nullopt;
     Url named = Url::file(path);
+    // Nothing here may wait for a server: whether it has the folder shows when that is watched.
+    if (MountTable(mounts_).isRemote(named)) return named;
     if (isFile(named)) return named.deletingLastPathComponent();
     return isThere(named) ? std::optional(std::move(named)) : std::nullopt;
 }
