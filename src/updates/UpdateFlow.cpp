@@ -63,14 +63,18 @@ std::int64_t UpdateFlow::newestDate() const {
     return seconds > 0 && seconds < latest ? static_cast<std::int64_t>(seconds) : 0;
 }
 
+void UpdateFlow::noteFeed(std::int64_t date) {
+    // An older one from now on is one that somebody kept. One from the future was made with a wrong
+    // clock, and must not lock out those that come after it; a wrong clock here forgets nothing.
+    const Date now = context_.clock.now();
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(now.time_since_epoch());
+    const auto known = std::min<std::int64_t>(date, seconds.count());
+    context_.defaults.set(newestFeed, static_cast<double>(std::max(known, newestDate())));
+}
+
 void UpdateFlow::checkReported(const UpdateReport& report) {
     if (const auto* loaded = std::get_if<report::FeedLoaded>(&report)) {
-        // An older one from now on is one that somebody kept. One from the future was made with a
-        // wrong clock, and must not lock out those that come after it.
-        const Date now = context_.clock.now();
-        const auto seconds = std::chrono::floor<std::chrono::seconds>(now.time_since_epoch());
-        context_.defaults.set(
-            newestFeed, static_cast<double>(std::min<std::int64_t>(loaded->date, seconds.count())));
+        noteFeed(loaded->date);
         context_.observer.didFinishLoading(loaded->items);
     } else if (const auto* update = std::get_if<report::UpdateFound>(&report)) {
         found(update->item);

@@ -89,6 +89,7 @@ private:
     OfferedVersion offered() const;
     /// Of the feeds that were ever seen; 0 for none.
     std::int64_t newestDate() const;
+    void noteFeed(std::int64_t date);
 
     Context context_;
     UpdateSchedule schedule_;

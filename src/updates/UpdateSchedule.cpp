@@ -37,8 +37,10 @@ void UpdateSchedule::noteCheck() {
 void UpdateSchedule::wake() {
     const bool isFirstLaunch = defaults_.number(lastCheck) <= 0;
     if (isFirstLaunch) return noteCheck();
-    if (untilNextCheck() <= Seconds(0)) check_();
-    wakeAfter(std::clamp(untilNextCheck(), settled, longestWait));
+    const bool isDue = untilNextCheck() <= Seconds(0);
+    if (isDue) check_();
+    // Nothing is checked while the last find is still on the screen, which may be for days.
+    wakeAfter(isDue ? longestWait : std::clamp(untilNextCheck(), settled, longestWait));
 }
 
 void UpdateSchedule::wakeAfter(Seconds delay) {

@@ -364,6 +364,15 @@ TEST_F(UpdateFlowTest, TheDateOfTheNewestFeedIsKept) {
     EXPECT_EQ(engine.checks.back().newestFeed, 1'700'000'123);
 }
 
+TEST_F(UpdateFlowTest, TheDateOfTheNewestFeedNeverGoesBack) {
+    defaults.stored["newestUpdateFeed"] = 1'800'000'500.0;
+    make().checkForUpdates();
+    // The clock of this machine is behind both.
+    report(report::FeedLoaded{1, 1'800'000'900});
+    make().checkForUpdates();
+    EXPECT_EQ(engine.checks.back().newestFeed, 1'800'000'500);
+}
+
 TEST_F(UpdateFlowTest, NonsenseInsteadOfADateIsNone) {
     for (const PreferenceValue& nonsense :
          {PreferenceValue(-7.0), PreferenceValue(1e300), PreferenceValue(std::string("nan"))}) {

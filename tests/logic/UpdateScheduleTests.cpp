@@ -18,7 +18,7 @@ protected:
         schedule.reset();
         schedule = std::make_unique<UpdateSchedule>(scheduler, clock, defaults, [this] {
             ++checks;
-            schedule->noteCheck();
+            if (!isWindowOpen) schedule->noteCheck();
         });
     }
     /// A first launch that was long enough, some time ago.
@@ -34,6 +34,7 @@ protected:
     fakes::VirtualClock clock{time};
     fakes::FakeUserDefaults defaults;
     int checks = 0;
+    bool isWindowOpen = false;  ///< Then nothing is checked.
     std::unique_ptr<UpdateSchedule> schedule;
 };
 
@@ -75,6 +76,19 @@ TEST_F(UpdateScheduleTest, ChecksOnceADay) {
     launch();
     time.advance(hours(24 * 7 + 1));
     EXPECT_EQ(checks, 8);
+}
+
+TEST_F(UpdateScheduleTest, AWindowThatStaysOpenWakesNobodyEachMinute) {
+    haveLaunchedBefore();
+    isWindowOpen = true;
+    launch();
+    time.advance(hours(24));
+    EXPECT_EQ(checks, 24);
+    isWindowOpen = false;
+    time.advance(hours(1));
+    EXPECT_EQ(checks, 25);
+    time.advance(hours(23));
+    EXPECT_EQ(checks, 25);
 }
 
 TEST_F(UpdateScheduleTest, ACheckOfTheUsersCountsToo) {
