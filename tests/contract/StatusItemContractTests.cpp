@@ -247,6 +247,29 @@ TEST_F(TrayOnBusTest, AnOpenMenuStaysAsItIs) {
     EXPECT_TRUE(tray.tray.layout().children.isEmpty());
 }
 
+TEST_F(TrayOnBusTest, WhatChangedWhileTheMenuWasOpenIsToldWhenItCloses) {
+    EXPECT_EQ(ids().size(), 3u);
+    tray.tray.send(0, QStringLiteral("opened"));
+    lines.clear();
+    tray.item.menuChanged();
+    const int before = tray.tray.layoutUpdates();
+    tray.tray.send(0, QStringLiteral("closed"));
+    EXPECT_TRUE(runUntil([&] { return tray.tray.layoutUpdates() > before; }));
+    EXPECT_TRUE(tray.tray.layout().children.isEmpty());
+}
+
+TEST_F(TrayOnBusTest, ATrayThatDiesWithTheMenuOpenDoesNotKeepIt) {
+    EXPECT_EQ(ids().size(), 3u);
+    TrayService other(tray.bus.connect());
+    other.share(tray.tray);
+    other.send(0, QStringLiteral("opened"));
+    lines.clear();
+    tray.item.menuChanged();
+    EXPECT_EQ(tray.tray.layout().children.size(), 3);
+    other.die();
+    EXPECT_TRUE(runUntil([&] { return tray.tray.layout().children.isEmpty(); }));
+}
+
 TEST_F(TrayOnBusTest, ATrayThatDoesNotSayWhenItOpensTheMenuHasTheLatest) {
     EXPECT_EQ(tray.tray.layout().children.size(), 3);
     lines.clear();

@@ -21,7 +21,9 @@ class TrayService final : public QObject {
 
 public:
     explicit TrayService(const QDBusConnection& bus) : bus_(bus) { registerBusMenuTypes(); }
-    ~TrayService() override { stop(); }
+    ~TrayService() override {
+        if (bus_.isConnected()) stop();
+    }
 
     void start() {
         bus_.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
@@ -33,6 +35,15 @@ public:
         bus_.unregisterObject(QStringLiteral("/StatusNotifierWatcher"));
         item_.clear();
     }
+
+    /// Shows the item of another tray, too.
+    void share(const TrayService& other) { item_ = other.item_; }
+    /// Is gone from the bus without a word, as a program that crashes.
+    void die() {
+        QDBusConnection::disconnectFromBus(bus_.name());
+        bus_ = QDBusConnection(QStringLiteral("none"));  // the last that holds it
+    }
+    int layoutUpdates() const { return layoutUpdates_; }
 
     bool hasItem() const { return !item_.isEmpty(); }
     static bool hasHost() { return true; }
@@ -75,11 +86,15 @@ public:
 public slots:
     void RegisterStatusNotifierItem(const QString&, const QDBusMessage& message) {
         item_ = message.service();
+        bus_.connect(item_, QStringLiteral("/MenuBar"), QStringLiteral("com.canonical.dbusmenu"),
+                     QStringLiteral("LayoutUpdated"), this, SLOT(noteLayoutUpdate()));
     }
+    void noteLayoutUpdate() { ++layoutUpdates_; }
 
 private:
     QDBusConnection bus_;
     QString item_;
+    int layoutUpdates_ = 0;
 };
 
 }  // namespace vantle

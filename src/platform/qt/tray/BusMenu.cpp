@@ -1,6 +1,8 @@
 #include "platform/qt/tray/BusMenu.h"
 
 #include <QBuffer>
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QGuiApplication>
 #include <algorithm>
 #include <iterator>
@@ -59,7 +61,23 @@ QString BusMenu::textDirection() {
 }
 
 void BusMenu::menuChanged() {
+    isHeldBack_ = isOpen_;
     if (!isOpen_ && rebuild()) emit LayoutUpdated(revision_, root);
+}
+
+void BusMenu::opened() {
+    isOpen_ = true;
+    if (!calledFromDBus()) return;
+    trayWithIt_ = std::make_unique<QDBusServiceWatcher>(
+        message().service(), connection(), QDBusServiceWatcher::WatchForUnregistration);
+    connect(trayWithIt_.get(), &QDBusServiceWatcher::serviceUnregistered, this, &BusMenu::closed);
+}
+
+void BusMenu::closed() {
+    isOpen_ = false;
+    // It may be the one that tells of it.
+    if (trayWithIt_) trayWithIt_.release()->deleteLater();
+    if (isHeldBack_) menuChanged();
 }
 
 bool BusMenu::rebuild() {
@@ -144,13 +162,13 @@ QDBusVariant BusMenu::GetProperty(int id, const QString& name) {
 }
 
 void BusMenu::Event(int id, const QString& name, const QDBusVariant&, uint) {
-    if (id == root && name == QStringLiteral("opened")) isOpen_ = true;
-    if (id == root && name == QStringLiteral("closed")) isOpen_ = false;
+    if (id == root && name == QStringLiteral("opened")) opened();
+    if (id == root && name == QStringLiteral("closed")) closed();
     if (name != QStringLiteral("clicked")) return;
-    isOpen_ = false;
     // The tray waits for the answer, and what is done may take the user's time.
     if (const MenuItem* chosen = item(id); chosen && chosen->isEnabled && chosen->action)
         QMetaObject::invokeMethod(this, chosen->action, Qt::QueuedConnection);
+    closed();
 }
 
 QList<int> BusMenu::EventGroup(const BusMenuEvents& events) {

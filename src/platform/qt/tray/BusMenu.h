@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QDBusContext>
+#include <QDBusServiceWatcher>
 #include <QObject>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "platform/Menu.h"
@@ -11,8 +14,9 @@ namespace vantle {
 
 /// A menu that a tray draws: offers it as com.canonical.dbusmenu. A line that looks the same in the
 /// next menu keeps its number, any other one gets a number that was never used: trays do not forget
-/// all that a number once stood for. While the menu is open it stays as it is.
-class BusMenu final : public QObject {
+/// all that a number once stood for. While the menu is open it stays as it is; what changed
+/// meanwhile is told when it closes, or when the tray that has it open is gone.
+class BusMenu final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
 
@@ -49,6 +53,8 @@ signals:
                                 const vantle::BusMenuRemovedPropertiesList& removed);
 
 private:
+    void opened();
+    void closed();
     /// Whether it became another one.
     bool rebuild();
     void ensureBuilt();
@@ -68,6 +74,8 @@ private:
     int lastId_ = 0;
     uint revision_ = 0;  ///< 0 before the first menu.
     bool isOpen_ = false;
+    bool isHeldBack_ = false;                          ///< It changed while it was open.
+    std::unique_ptr<QDBusServiceWatcher> trayWithIt_;  ///< While a tray has it open.
 };
 
 }  // namespace vantle
