@@ -22,11 +22,11 @@ Drawing secondSample() {
 }
 
 /// Absent when it could not be drawn or written.
-std::optional<Url> writeSample(const Platform& platform, const Drawing& drawing,
+std::optional<Url> writeSample(const Platform& platform, const Canvas::Drawer& draw,
                                const std::string& name) {
     const auto folder = platform.files->temporaryDirectory();
     if (!folder) return std::nullopt;
-    const auto png = platform.canvas->png(drawing);
+    const auto png = draw();
     const Url url = folder.value().appending(name);
     if (!png || platform.files->write(png.value(), url)) return std::nullopt;
     return url;
@@ -37,12 +37,14 @@ std::optional<Url> writeSample(const Platform& platform, const Drawing& drawing,
 void AppDelegate::showDemo() {
     // Drawn on the queue: the main thread would stand still for as long.
     const auto loadAndShow = loader();
-    platform_.watcherQueue->async([&platform = platform_, loadAndShow] {
-        if (const auto url = writeSample(platform, firstSample(), firstName)) loadAndShow(*url);
+    const auto drawFirst = platform_.canvas->drawer(firstSample());
+    const auto drawSecond = platform_.canvas->drawer(secondSample());
+    platform_.watcherQueue->async([&platform = platform_, loadAndShow, drawFirst] {
+        if (const auto url = writeSample(platform, drawFirst, firstName)) loadAndShow(*url);
     });
     const auto second = std::make_shared<std::optional<Url>>();
-    platform_.watcherQueue->async([&platform = platform_, second] {
-        *second = writeSample(platform, secondSample(), secondName);
+    platform_.watcherQueue->async([&platform = platform_, second, drawSecond] {
+        *second = writeSample(platform, drawSecond, secondName);
     });
     platform_.scheduler->after(secondSampleDelay, [&platform = platform_, loadAndShow, second] {
         platform.watcherQueue->async([loadAndShow, second] {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -22,14 +23,17 @@ struct Drawing {
     std::optional<CenteredText> text;
 };
 
-/// Draws pictures. Any thread.
+/// Draws pictures.
 class Canvas {
 public:
+    /// Draws, and gives the contents of a PNG file. Any thread; the canvas need not be there.
+    using Drawer = std::function<Result<std::string>()>;
+
     virtual ~Canvas() = default;
 
-    /// The drawing as the contents of a PNG file, in as many pixels as the densest screen has for
-    /// its points.
-    virtual Result<std::string> png(const Drawing& drawing) = 0;
+    /// What makes the drawing, in as many pixels as the densest screen has for its points. Main
+    /// thread only: what it takes from the desktop, such as a font, is asked for here.
+    virtual Drawer drawer(const Drawing& drawing) = 0;
 };
 
 }  // namespace vantle

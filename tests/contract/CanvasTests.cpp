@@ -12,7 +12,7 @@ namespace {
 const Drawing gradient{{400, 200}, {{1, 0, 0, 1}, {0, 0, 1, 1}, -30}, std::nullopt};
 
 QImage drawn(const Drawing& drawing, double scale = 1) {
-    const auto png = QtCanvas([scale] { return scale; }).png(drawing);
+    const auto png = QtCanvas([scale] { return scale; }).drawer(drawing)();
     EXPECT_TRUE(png);
     return QImage::fromData(QByteArray::fromStdString(png.value()), "png");
 }

@@ -10,10 +10,12 @@ namespace vantle::fakes {
 /// Records the drawings; what it gives are no pictures.
 class FakeCanvas final : public Canvas {
 public:
-    Result<std::string> png(const Drawing& drawing) override {
-        drawn.push_back(drawing);
-        if (failure) return *failure;
-        return "drawing " + std::to_string(drawn.size());
+    Drawer drawer(const Drawing& drawing) override {
+        return [this, drawing]() -> Result<std::string> {
+            drawn.push_back(drawing);
+            if (failure) return *failure;
+            return "drawing " + std::to_string(drawn.size());
+        };
     }
 
     std::vector<Drawing> drawn;

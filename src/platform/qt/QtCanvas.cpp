@@ -31,23 +31,21 @@ void drawBackground(QPainter& painter, const Drawing& drawing) {
     painter.fillRect(QRectF(0, 0, drawing.size.width, drawing.size.height), gradient);
 }
 
-void drawText(QPainter& painter, const Size& size, const CenteredText& text) {
+QFont letters(const CenteredText& text) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     font.setPixelSize(qRound(text.fontSize));
     font.setWeight(QFont::Bold);
+    return font;
+}
+
+void drawText(QPainter& painter, const Size& size, const CenteredText& text, const QFont& font) {
     painter.setFont(font);
     painter.setPen(Qt::white);
     painter.drawText(QRectF(0, 0, size.width, size.height), Qt::AlignCenter,
                      QString::fromStdString(text.text));
 }
 
-}  // namespace
-
-QtCanvas::QtCanvas(std::function<double()> pixelsPerPoint)
-    : pixelsPerPoint_(std::move(pixelsPerPoint)) {}
-
-Result<std::string> QtCanvas::png(const Drawing& drawing) {
-    const double scale = pixelsPerPoint_();
+Result<std::string> png(const Drawing& drawing, const QFont& font, double scale) {
     QImage image(qRound(drawing.size.width * scale), qRound(drawing.size.height * scale),
                  QImage::Format_RGB32);
     if (image.isNull()) return Failure{ENOMEM, "there is no memory for the picture", ""};
@@ -57,7 +55,7 @@ Result<std::string> QtCanvas::png(const Drawing& drawing) {
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.scale(scale, scale);
     drawBackground(painter, drawing);
-    if (drawing.text) drawText(painter, drawing.size, *drawing.text);
+    if (drawing.text) drawText(painter, drawing.size, *drawing.text, font);
     painter.end();
 
     QBuffer buffer;
@@ -65,6 +63,16 @@ Result<std::string> QtCanvas::png(const Drawing& drawing) {
     writer.setCompression(quickCompression);
     if (!writer.write(image)) return Failure{0, writer.errorString().toStdString(), ""};
     return buffer.data().toStdString();
+}
+
+}  // namespace
+
+QtCanvas::QtCanvas(std::function<double()> pixelsPerPoint)
+    : pixelsPerPoint_(std::move(pixelsPerPoint)) {}
+
+Canvas::Drawer QtCanvas::drawer(const Drawing& drawing) {
+    const QFont font = drawing.text ? letters(*drawing.text) : QFont();
+    return [drawing, font, scale = pixelsPerPoint_] { return png(drawing, font, scale()); };
 }
 
 }  // namespace vantle

@@ -12,7 +12,7 @@ public:
     /// `pixelsPerPoint` is called on the thread that draws.
     explicit QtCanvas(std::function<double()> pixelsPerPoint);
 
-    Result<std::string> png(const Drawing& drawing) override;
+    Drawer drawer(const Drawing& drawing) override;
 
 private:
     const std::function<double()> pixelsPerPoint_;
