@@ -258,6 +258,13 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     </message>
 </context>
 <context>
+    <name>DBusApplication</name>
+    <message>
+        <source>On Wayland your desktop decides what stands in the taskbar.</source>
+        <translation>Unter Wayland entscheidet Ihr Desktop, was in der Taskleiste steht.</translation>
+    </message>
+</context>
+<context>
     <name>DismissSlider</name>
     <message>
         <source>Otherwise dismiss after</source>

@@ -255,6 +255,13 @@ that runs; --settings, --show and --sample start one where none does.</source>
     </message>
 </context>
 <context>
+    <name>DBusApplication</name>
+    <message>
+        <source>On Wayland your desktop decides what stands in the taskbar.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DismissSlider</name>
     <message>
         <source>Otherwise dismiss after</source>

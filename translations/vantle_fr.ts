@@ -258,6 +258,13 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     </message>
 </context>
 <context>
+    <name>DBusApplication</name>
+    <message>
+        <source>On Wayland your desktop decides what stands in the taskbar.</source>
+        <translation>Sous Wayland, votre bureau décide de ce qui figure dans la barre des tâches.</translation>
+    </message>
+</context>
+<context>
     <name>DismissSlider</name>
     <message>
         <source>Otherwise dismiss after</source>

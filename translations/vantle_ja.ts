@@ -258,6 +258,13 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
 </context>
 <context>
+    <name>DBusApplication</name>
+    <message>
+        <source>On Wayland your desktop decides what stands in the taskbar.</source>
+        <translation>Wayland では、タスクバーに何を表示するかはデスクトップが決めます。</translation>
+    </message>
+</context>
+<context>
     <name>DismissSlider</name>
     <message>
         <source>Otherwise dismiss after</source>

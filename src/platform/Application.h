@@ -28,6 +28,9 @@ public:
     /// Holds for the windows that are open and for those to come.
     virtual void setActivationPolicy(ActivationPolicy policy) = 0;
 
+    /// Why a policy changes nothing here, as a sentence; empty when it does.
+    virtual std::string activationPolicyObstacle() const = 0;
+
     /// Whether a copy of this program was running in the same desktop session before this one. The
     /// copy that asks first becomes the one that others find.
     virtual bool anotherCopyIsRunning() = 0;

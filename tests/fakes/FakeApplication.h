@@ -11,6 +11,7 @@ namespace vantle::fakes {
 class FakeApplication final : public Application {
 public:
     void setActivationPolicy(ActivationPolicy policy) override { policies.push_back(policy); }
+    std::string activationPolicyObstacle() const override { return policyObstacle; }
     bool anotherCopyIsRunning() override { return otherCopyRuns; }
     void activateOtherCopy() override { ++otherCopyActivations; }
     Result<std::string> ask(const ApplicationRequest& request) override {
@@ -22,6 +23,7 @@ public:
     void terminate() override { ++terminations; }
 
     std::vector<ActivationPolicy> policies;
+    std::string policyObstacle;
     bool otherCopyRuns = false;
     int otherCopyActivations = 0;
     std::vector<ApplicationRequest> asked;

@@ -291,6 +291,16 @@ TEST_F(SettingsViewTest, AThumbnailThatCannotBeSwitchedIsShownAsItIsWithTheReaso
     EXPECT_TRUE(named(hide).isEnabled());
 }
 
+TEST_F(SettingsViewTest, ADockThatCannotBeChosenSaysWhy) {
+    const QString dock = QStringLiteral("Also show Vantle in the Dock");
+    application->policyObstacle = "The desktop decides that.";
+    openSettings();
+    EXPECT_TRUE(texts().contains(QStringLiteral("The desktop decides that.")));
+    EXPECT_FALSE(named(dock).isEnabled());
+    click(dock);
+    EXPECT_FALSE(settings->showInDock.value());
+}
+
 TEST_F(SettingsViewTest, AThumbnailThatComesBackTakesItsSwitchBack) {
     openSettings();
     const QString hide = QStringLiteral("Hide the built-in macOS thumbnail");

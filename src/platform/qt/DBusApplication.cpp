@@ -181,6 +181,12 @@ void DBusApplication::setActivationPolicy(ActivationPolicy policy) {
     if (taskbar_) taskbar_->setPresent(policy == ActivationPolicy::regular);
 }
 
+std::string DBusApplication::activationPolicyObstacle() const {
+    if (TaskbarPresence::canBeSet()) return {};
+    return localized("DBusApplication",
+                     "On Wayland your desktop decides what stands in the taskbar.");
+}
+
 bool DBusApplication::anotherCopyIsRunning() {
     if (object_) return false;
     return QDBusConnection::sessionBus().isConnected() ? anotherHoldsTheName()

@@ -27,6 +27,7 @@ public:
     ~DBusApplication() override;
 
     void setActivationPolicy(ActivationPolicy policy) override;
+    std::string activationPolicyObstacle() const override;
     bool anotherCopyIsRunning() override;
     void activateOtherCopy() override;
     Result<std::string> ask(const ApplicationRequest& request) override;

@@ -10,6 +10,8 @@ namespace vantle {
 /// Needs X; elsewhere the compositor decides. Main thread only.
 class TaskbarPresence final : public QObject {
 public:
+    static bool canBeSet();
+
     /// Windows are absent at first.
     TaskbarPresence();
 

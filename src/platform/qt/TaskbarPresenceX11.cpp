@@ -34,6 +34,10 @@ bool isOrdinaryWindow(const QWindow& window) {
     return window.type() == Qt::Window || window.type() == Qt::Dialog;
 }
 
+bool TaskbarPresence::canBeSet() {
+    return x11::connection() != nullptr;
+}
+
 TaskbarPresence::TaskbarPresence() {
     qGuiApp->installEventFilter(this);
 }

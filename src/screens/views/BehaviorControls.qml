@@ -127,7 +127,9 @@ Column {
 
         ToggleRow {
             text: qsTr("Also show Vantle in the Dock")
-            caption: qsTr("Useful if the menu bar icon is hidden under the notch.")
+            caption: enabled ? qsTr("Useful if the menu bar icon is hidden under the notch.")
+                             : controls.settings.dockObstacle
+            enabled: controls.settings.dockObstacle === ""
             isOn: controls.settings.showInDock
             onWanted: on => controls.settings.showInDock = on
         }

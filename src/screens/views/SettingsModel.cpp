@@ -21,6 +21,7 @@ SettingsModel::SettingsModel(Settings& settings, Platform& platform)
       notifications_(platform.notifications),
       picker_({settings, *platform.files, *platform.folderChooser, *platform.application}),
       controls_(settings, *platform.scheduler),
+      dockObstacle_(text(platform.application->activationPolicyObstacle())),
       recordingsFolder_(platform.recordingsFolder) {
     follow();
 }

@@ -40,9 +40,10 @@ class SettingsModel : public QObject {
     Q_PROPERTY(QString corner READ corner NOTIFY changed)
     Q_PROPERTY(bool hideSystemThumbnail READ hideSystemThumbnail WRITE setHideSystemThumbnail NOTIFY
                    changed)
-    /// Why the folder and that thumbnail cannot be changed; empty when they can.
+    /// Why the folder, that thumbnail and the Dock cannot be changed; empty when they can.
     Q_PROPERTY(QString folderObstacle READ folderObstacle NOTIFY changed)
     Q_PROPERTY(QString thumbnailObstacle READ thumbnailObstacle NOTIFY changed)
+    Q_PROPERTY(QString dockObstacle READ dockObstacle NOTIFY changed)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY changed)
     Q_PROPERTY(bool showInDock READ showInDock WRITE setShowInDock NOTIFY changed)
 
@@ -67,6 +68,7 @@ public:
     bool hideSystemThumbnail() const { return settings_.hideSystemThumbnail.value(); }
     QString folderObstacle() const { return folderObstacle_; }
     QString thumbnailObstacle() const { return thumbnailObstacle_; }
+    QString dockObstacle() const { return dockObstacle_; }
     bool launchAtLogin() const { return settings_.launchAtLogin.value(); }
     bool showInDock() const { return settings_.showInDock.value(); }
 
@@ -106,6 +108,7 @@ private:
     BehaviorControls controls_;
     QString folderObstacle_;
     QString thumbnailObstacle_;
+    const QString dockObstacle_;
     std::function<Url()> recordingsFolder_;
     QString recordingsPlace_;
     std::unique_ptr<MenuWindow> menu_;  ///< Made when one is opened for the first time.
