@@ -1,12 +1,15 @@
 """The watched folder disappears, and the program goes on."""
 
 import shutil
+import signal
 import subprocess
 
 import pytest
 
+from dead_server import mounted_on
 from privatedesktop import Program, wait_until
 from unprivileged import unprivileged
+from using import window_titled
 from watched_folder import png
 
 WATCHING = r"^Vantle\[dbg\]: watching "
@@ -132,3 +135,20 @@ def test_saved_as_soon_as_it_is_watched(vantle, folder):
     vantle.wait_for_log("watching ")
     folder.save("early.png")
     folder.wait_for("early.png")
+
+
+def test_on_a_server_that_never_answers(desktop, vantle, folder):
+    """Windows, commands and the end wait for nobody; another folder can be chosen."""
+    with mounted_on(folder.path) as is_mounted:
+        if not is_mounted:
+            pytest.skip("mounting is not permitted here")
+        vantle.start()
+        wait_until(lambda: "waiting for the folder" in vantle.command("--status")[1],
+                   "the program runs")
+        assert vantle.command("--settings")[0] == 0
+        window_titled(desktop, "Vantle Settings")
+        vantle.signal(signal.SIGTERM)
+        assert vantle.wait_for_end() == 0
+    vantle.start_watching()
+    folder.save("shot.png")
+    folder.wait_for("shot.png")
