@@ -79,7 +79,9 @@ void CapturePanelController::copyToPasteboard(const std::vector<CapturePointer>&
     Pasteboard& pasteboard = services_.pasteboard;
     pasteboard.clearContents();
     std::vector<PasteboardObject> objects;
-    if (captures.size() == 1 && captures.front()->kind() == CaptureKind::image)
+    const bool isPicture = captures.size() == 1 && captures.front()->kind() == CaptureKind::image &&
+                           captures.front()->thumbnail();
+    if (isPicture)
         if (auto image = pasteboard.loadImage(captures.front()->url()))
             objects.emplace_back(std::move(image));
     for (const auto& capture : captures) objects.emplace_back(capture->url());

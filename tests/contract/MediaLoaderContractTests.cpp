@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
+#include "TemporaryFolder.h"
+#include "TextFile.h"
 #include "fakes/FakeMediaLoader.h"
 #include "samples/Samples.h"
 
@@ -108,6 +112,33 @@ TYPED_TEST(MediaLoaderContract, ADamagedImageIsNotDrawn) {
     const auto image = this->loader.openImage(file("flipped.png"));
     ASSERT_NE(image, nullptr);
     EXPECT_EQ(image->draw(usual), nullptr);
+}
+
+TYPED_TEST(MediaLoaderContract, AHeldImageIsTheSameWhenItIsAskedFor) {
+    EXPECT_EQ(this->loader.holdImage(file("nothing.png")), nullptr);
+    const auto image = this->loader.holdImage(file("dense.png"));
+    ASSERT_NE(image, nullptr);
+    EXPECT_EQ(image->pointSize(), denseInPoints);
+    EXPECT_EQ(image->pixelSize(), denseInPixels);
+    EXPECT_NE(image->draw({32, 24}), nullptr);
+}
+
+TEST(ConfinedMediaLoaderTest, AFileThatIsHeldStaysWhatItWasAndIsOpenedLate) {
+    const TemporaryFolder folder;
+    const Url copy = folder / "a.png";
+    std::filesystem::copy_file(file("rgb.png").path(), copy.path());
+    samples::Loader loader;
+    const auto image = loader.holdImage(copy);
+    const auto text = folder / "text.png";
+    writeText(text, "no image");
+    const auto none = loader.holdImage(text);
+    std::filesystem::remove(copy.path());
+    ASSERT_NE(image, nullptr);
+    EXPECT_EQ(image->pixelSize(), usual);
+    EXPECT_NE(image->draw(usual), nullptr);
+    ASSERT_NE(none, nullptr) << "nobody has looked into it";
+    EXPECT_EQ(none->pixelSize(), std::nullopt);
+    EXPECT_EQ(none->draw(usual), nullptr);
 }
 
 TYPED_TEST(MediaLoaderContract, ARecordingTellsItsDurationAndItsTracksSize) {

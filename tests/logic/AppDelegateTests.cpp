@@ -73,6 +73,7 @@ TEST_F(AppDelegateTest, ACaptureThatIsCopiedAtOnceLeavesAndGoesToTheTrashFromWhe
     defaults->stored["removeAfterUse"] = true;
     defaults->stored["deleteAfterUse"] = true;
     launch();
+    media->addImage(folder.appending("shot.png"), Size{100, 50}, {100, 50});
     files->write(folder.appending("shot.png"), 1000, clock->now());
     while (!panel.isOnScreen) time.advance(Seconds(0.01));
     EXPECT_THAT(pasteboard->contents(), ElementsAre("image /home/user/Desktop/shot.png",

@@ -74,7 +74,7 @@ protected:
         (void)files->createDirectory(folder);
         platform.directoryEvents = std::make_unique<EventsOf>(*fileSystem);
         platform.files = std::move(fileSystem);
-        add(platform.media, std::make_unique<fakes::FakeMediaLoader>());
+        media = add(platform.media, std::make_unique<fakes::FakeMediaLoader>());
         defaults = add(platform.defaults, std::make_unique<fakes::FakeUserDefaults>());
         domain =
             add(platform.screenshotPreferences, std::make_unique<fakes::FakePreferencesDomain>());
@@ -170,6 +170,7 @@ protected:
     fakes::FakeStatusItem* statusItem = nullptr;
     fakes::FakeAlerts* alerts = nullptr;
     fakes::FakePrivacySettings* privacySettings = nullptr;
+    fakes::FakeMediaLoader* media = nullptr;
     fakes::FakeCanvas* canvas = nullptr;
     std::vector<Size> windowSizes;
     std::function<void()> finishOnboarding;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/CapturedLog.h"
+#include "fakes/FakeMediaLoader.h"
 #include "fakes/PanelFixture.h"
 
 namespace vantle {
@@ -17,6 +18,15 @@ protected:
         settings.dismissAfter.set(0);
         settings.removeAfterUse.set(false);
         settings.deleteAfterUse.set(false);
+    }
+
+    static CapturePointer drawn(const std::string& name) {
+        const Url url = Url::file("/shots/" + name + ".png");
+        const auto made = Capture::create(url, fakes::VirtualClock::epoch);
+        fakes::FakeMediaLoader media;
+        media.addImage(url, Size{100, 50}, {100, 50});
+        made->loadThumbnail(media);
+        return made;
     }
 
     void remove() { settings.removeAfterUse.set(true); }
@@ -309,15 +319,24 @@ TEST_F(CaptureUseTest, ACopiedFileGoesToTheTrashThoughThePanelWasDismissed) {
 }
 
 TEST_F(CaptureUseTest, ASingleScreenshotIsCopiedAsPictureAndFile) {
-    actions.copy(show({"a"})[0]);
+    const auto taken = drawn("a");
+    showAll({taken});
+    actions.copy(taken);
     EXPECT_THAT(pasteboard.contents(), ElementsAre("image /shots/a.png", "file /shots/a.png"));
 }
 
 TEST_F(CaptureUseTest, ASelectionOfOneScreenshotIsCopiedAsPictureAndFile) {
-    select({show({"a"})[0]});
+    const auto taken = drawn("a");
+    showAll({taken});
+    select({taken});
     actions.copySelected();
     EXPECT_THAT(pasteboard.contents(), ElementsAre("image /shots/a.png", "file /shots/a.png"));
     EXPECT_EQ(state->copiedID.value(), std::nullopt);
+}
+
+TEST_F(CaptureUseTest, AScreenshotThatCouldNotBeDrawnIsCopiedAsFileOnly) {
+    actions.copy(show({"a"})[0]);
+    EXPECT_THAT(pasteboard.contents(), ElementsAre("file /shots/a.png"));
 }
 
 TEST_F(CaptureUseTest, ARecordingIsCopiedAsFileOnly) {

@@ -25,6 +25,7 @@ public:
               VANTLE_DECODER, [pixelsPerPoint] { return pixelsPerPoint; }, patience) {}
 
     std::unique_ptr<ImageFile> openImage(const Url& url) override { return loader_.openImage(url); }
+    std::unique_ptr<ImageFile> holdImage(const Url& url) override { return loader_.holdImage(url); }
     std::unique_ptr<RecordingFile> openRecording(const Url& url) override {
         return loader_.openRecording(url);
     }

@@ -129,6 +129,39 @@ private:
     const std::function<double()>& pixelsPerPoint_;
 };
 
+/// Null when the decoder says that it is no image.
+std::unique_ptr<DecodedImage> decodedImage(std::unique_ptr<DecodedFile> file,
+                                           const std::function<double()>& pixelsPerPoint) {
+    const auto reply = file->open();
+    const bool isUsable = reply && reply->pixelSize.wide >= 0 && reply->pixelSize.high >= 0 &&
+                          isSensible(reply->size);
+    if (!isUsable) return nullptr;
+    return std::make_unique<DecodedImage>(std::move(file), *reply, pixelsPerPoint);
+}
+
+/// Opened when it is asked for something.
+class HeldImage final : public ImageFile {
+public:
+    HeldImage(std::unique_ptr<DecodedFile> file, const std::function<double()>& pixelsPerPoint)
+        : file_(std::move(file)), pixelsPerPoint_(pixelsPerPoint) {}
+
+    std::optional<Size> pixelSize() const override {
+        return opened() ? image_->pixelSize() : std::nullopt;
+    }
+    Size pointSize() const override { return opened() ? image_->pointSize() : Size{}; }
+    ImagePointer draw(Size size) override { return opened() ? image_->draw(size) : nullptr; }
+
+private:
+    bool opened() const {
+        if (file_) image_ = decodedImage(std::move(file_), pixelsPerPoint_);
+        return image_ != nullptr;
+    }
+
+    mutable std::unique_ptr<DecodedFile> file_;  ///< Until it is opened.
+    mutable std::unique_ptr<DecodedImage> image_;
+    const std::function<double()>& pixelsPerPoint_;
+};
+
 class DecodedRecording final : public RecordingFile {
 public:
     DecodedRecording(std::unique_ptr<DecodedFile> file, const Reply& reply)
@@ -155,6 +188,16 @@ private:
     std::optional<Size> trackSize_;
 };
 
+/// Null when there is no regular file.
+std::unique_ptr<DecodedFile> imageFile(DecoderSession& session, const Url& url,
+                                       const DecodingPatience& patience) {
+    FileDescriptor descriptor = openRegular(url);
+    if (!descriptor) return nullptr;
+    return std::make_unique<DecodedFile>(
+        session, OpenedFile{std::move(descriptor), formatNamedBy(url), Operation::openImage,
+                            patience.image});
+}
+
 }  // namespace
 
 ConfinedMediaLoader::ConfinedMediaLoader(std::string program,
@@ -165,16 +208,14 @@ ConfinedMediaLoader::ConfinedMediaLoader(std::string program,
       patience_(patience) {}
 
 std::unique_ptr<ImageFile> ConfinedMediaLoader::openImage(const Url& url) {
-    FileDescriptor descriptor = openRegular(url);
-    if (!descriptor) return nullptr;
-    auto file = std::make_unique<DecodedFile>(
-        session_, OpenedFile{std::move(descriptor), formatNamedBy(url), Operation::openImage,
-                             patience_.image});
-    const auto reply = file->open();
-    const bool isUsable = reply && reply->pixelSize.wide >= 0 && reply->pixelSize.high >= 0 &&
-                          isSensible(reply->size);
-    if (!isUsable) return nullptr;
-    return std::make_unique<DecodedImage>(std::move(file), *reply, pixelsPerPoint_);
+    auto file = imageFile(session_, url, patience_);
+    return file ? decodedImage(std::move(file), pixelsPerPoint_) : nullptr;
+}
+
+std::unique_ptr<ImageFile> ConfinedMediaLoader::holdImage(const Url& url) {
+    auto file = imageFile(session_, url, patience_);
+    if (!file) return nullptr;
+    return std::make_unique<HeldImage>(std::move(file), pixelsPerPoint_);
 }
 
 std::unique_ptr<RecordingFile> ConfinedMediaLoader::openRecording(const Url& url) {

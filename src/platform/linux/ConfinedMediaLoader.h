@@ -31,6 +31,7 @@ public:
                         DecodingPatience patience = {});
 
     std::unique_ptr<ImageFile> openImage(const Url& url) override;
+    std::unique_ptr<ImageFile> holdImage(const Url& url) override;
     std::unique_ptr<RecordingFile> openRecording(const Url& url) override;
 
 private:

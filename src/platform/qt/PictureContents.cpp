@@ -126,7 +126,7 @@ std::shared_ptr<const PictureContents> PictureContents::open(const Url& url,
     FileDescriptor file(
         ::open(url.path().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | O_NOFOLLOW));
     const QString type = file ? typeOf(file.get()) : QString();
-    auto image = file && isWhole(file.get(), type) ? media->openImage(url) : nullptr;
+    auto image = file && isWhole(file.get(), type) ? media->holdImage(url) : nullptr;
     if (!image) return nullptr;
     const std::shared_ptr<PictureContents> contents(new PictureContents);
     contents->ownType_ = type;
@@ -147,10 +147,10 @@ QStringList PictureContents::types() const {
 QByteArray PictureContents::as(const QString& type) const {
     if (type == ownType_) return readAll(file_.get());
     Size size = image_->pixelSize().value_or(Size{});
-    if (size.width < 1 || size.height < 1) {
-        const Size points = image_->pointSize();
+    const Size points = image_->pointSize();
+    if (size.width < 1 || size.height < 1)
         size = {points.width * pixelsPerPointOfVectors, points.height * pixelsPerPointOfVectors};
-    }
+    if (size.width < 1 || size.height < 1) return {};
     const ImagePointer drawn = image_->draw(size);
     if (!drawn) return {};
     return encoded(pixels(*drawn), type);
