@@ -14,7 +14,7 @@
 ///   decoder → program   Hello, with a descriptor of the process
 ///   decoder → program   Ready, when the decoder has given up its rights
 ///   program → decoder   Request
-///   decoder → program   Reply, and so on; nothing else is said
+///   decoder → program   Reply, but for close; and so on, nothing else is said
 namespace vantle::decoder {
 
 /// Before anything else. Carries a pidfd, by which the decoder can be ended.
@@ -27,10 +27,11 @@ struct Ready {
     std::uint32_t missingGuards = 0;  ///< Of Guard, added up.
 };
 
-enum class Operation : std::uint32_t { openImage, openRecording, draw, frame };
+enum class Operation : std::uint32_t { openImage, openRecording, draw, frame, close };
 
-/// openImage and openRecording carry the descriptor of the file, which the decoder then keeps
-/// until another one is opened; draw and frame are about that file.
+/// openImage and openRecording carry the descriptor of the file. If they are done the decoder keeps
+/// it until close, or until another one is opened; draw and frame are about that file. Nothing
+/// answers close.
 struct Request {
     Operation operation = Operation::openImage;
     PixelSize target;             ///< Of draw.

@@ -43,6 +43,10 @@ public:
     void run() {
         constexpr std::chrono::seconds patience(decoderPatience);
         while (auto received = receive<Request>(socket_, patience)) {
+            if (received->message.operation == Operation::close) {
+                forget();
+                continue;
+            }
             Answer answer;
             // The limits stop what a file asks for: memory, or threads. The next file has all
             // again.
@@ -72,6 +76,8 @@ private:
             case Operation::frame:
                 if (!recording_) return {};
                 return answerWith(recording_->frame(request.time, request.maximumDimension));
+            case Operation::close:
+                break;
         }
         return {};
     }
@@ -88,6 +94,12 @@ private:
         if (!descriptor) return {};
         descriptor_ = std::move(descriptor);
         file_.emplace(descriptor_.get());
+        Answer answer = openAs(operation);
+        if (answer.reply.status != Status::done) forget();
+        return answer;
+    }
+
+    Answer openAs(Operation operation) {
         const auto format = formatOf(*file_);
         if (format && *format != format_)
             return {{.status = Status::otherFormat, .format = *format}, {}};

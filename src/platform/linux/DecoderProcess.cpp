@@ -108,6 +108,10 @@ std::optional<DecoderProcess::Answer> DecoderProcess::ask(const Request& request
     return std::nullopt;
 }
 
+void DecoderProcess::closeFile() {
+    send(socket_.get(), Request{.operation = Operation::close});
+}
+
 void DecoderProcess::kill() {
     // Its number may be another process's by now; the descriptor is not.
     syscall(SYS_pidfd_send_signal, process_.get(), SIGKILL, nullptr, 0);

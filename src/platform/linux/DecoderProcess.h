@@ -40,6 +40,9 @@ public:
     std::optional<Answer> ask(const decoder::Request& request, int descriptor,
                               std::chrono::milliseconds patience);
 
+    /// Has it let go of the file that it opened. Waits for nothing; one that has ended holds none.
+    void closeFile();
+
     /// Why ask() gave nothing.
     Silence silence() const { return silence_; }
 

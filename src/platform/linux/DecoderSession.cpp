@@ -42,7 +42,10 @@ std::optional<DecoderProcess::Answer> DecoderSession::ask(const OpenedFile& file
 }
 
 void DecoderSession::forget(const OpenedFile& file) {
-    if (current_ == &file) current_ = nullptr;
+    if (current_ != &file) return;
+    current_ = nullptr;
+    // While anybody holds a file, the folder that it was in is not quite gone.
+    if (process_) process_->closeFile();
 }
 
 /// A decoder may have ended since the last request, in peace or for what another file did to it:

@@ -31,7 +31,7 @@ public:
     std::optional<DecoderProcess::Answer> ask(const OpenedFile& file,
                                               const decoder::Request& request);
 
-    /// To be called before an opened file goes.
+    /// To be called before an opened file goes: the decoder lets go of it.
     void forget(const OpenedFile& file);
 
 private:
