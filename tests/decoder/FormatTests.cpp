@@ -37,6 +37,17 @@ INSTANTIATE_TEST_SUITE_P(Tiff, HonestImage,
                                          "tiled.tif", "tiled_deflate.tif", "strips.tif", "deep.tif",
                                          "deep_big_endian.tif", "planar.tif", "cmyk.tif",
                                          "directory_in_itself.tif"));
+INSTANTIATE_TEST_SUITE_P(TiffOfNumbersWithAPoint, HonestImage,
+                         testing::Values("half.tif", "float.tif", "float_big_endian.tif",
+                                         "float_strips.tif", "float_predicted.tif",
+                                         "float_tiled.tif", "float_planes.tif",
+                                         "float_planes_packed.tif", "float_planes_tiled.tif",
+                                         "double.tif", "wild_half.tif", "wild_float.tif",
+                                         "wild_double.tif", "deepest.tif"));
+INSTANTIATE_TEST_SUITE_P(TiffOfInk, HonestImage,
+                         testing::Values("deep_cmyk.tif", "deep_cmyk_strips.tif",
+                                         "deep_cmyk_tiled.tif", "deep_cmyk_planes.tif",
+                                         "float_cmyk.tif", "five_inks.tif"));
 INSTANTIATE_TEST_SUITE_P(Heic, HonestImage,
                          testing::Values("quarters.heic", "large.heic", "quarters.avif",
                                          "large.avif"));
@@ -66,6 +77,8 @@ TEST_P(TranslucentImage, IsPremultiplied) {
 INSTANTIATE_TEST_SUITE_P(Formats, TranslucentImage,
                          testing::Values("translucent.png", "deep_translucent.png",
                                          "interlaced_translucent.png", "straight_alpha.tif",
+                                         "float_alpha.tif", "cmyk_alpha.tif",
+                                         "multiplied_cmyk_alpha.tif", "five_samples.tif",
                                          "translucent.heic", "translucent.avif", "translucent.webp",
                                          "translucent_lossy.webp"));
 
@@ -106,12 +119,27 @@ TEST_P(GrayImage, IsBlackAtTheLeftAndWhiteAtTheRight) {
 
 INSTANTIATE_TEST_SUITE_P(Formats, GrayImage,
                          testing::Values("gray1.png", "gray2.png", "gray4.png", "gray8.png",
-                                         "gray16.png"));
+                                         "gray16.png", "gray_float.tif"));
 
 TEST(GrayImageTest, MayStoreWhiteAsZero) {
     const auto image = drawn("bilevel.tif");
     ASSERT_NE(image, nullptr);
     EXPECT_THAT(quarters(*image), IsAbout(std::array{white, black, white, black}, 0));
+}
+
+TEST(GrayImageTest, MayBeNumbersBetweenBlackAndWhite) {
+    const auto image = drawn("gray_steps.tif");
+    ASSERT_NE(image, nullptr);
+    constexpr std::array steps{black, Color{64, 64, 64, 255}, Color{128, 128, 128, 255}, white};
+    EXPECT_THAT(quarters(*image), IsAbout(steps, 0));
+}
+
+TEST(GrayImageTest, MayBeTranslucentInSixteenBits) {
+    const auto image = drawn("deep_gray_alpha.tif");
+    ASSERT_NE(image, nullptr);
+    constexpr Color half{128, 128, 128, 128};
+    constexpr Color shade{0, 0, 0, 128};
+    EXPECT_THAT(quarters(*image), IsAbout(std::array{half, shade, shade, half}, 0));
 }
 
 TEST(GrayImageTest, HasEqualParts) {
@@ -136,7 +164,8 @@ TEST_P(ProfiledImage, IsShownInTheColorsOfAScreen) {
 
 INSTANTIATE_TEST_SUITE_P(Formats, ProfiledImage,
                          testing::Values("profile.png", "profile.jpg", "profile.tif",
-                                         "profile.webp", "profile.heic", "profile.avif"));
+                                         "profile.webp", "profile.heic", "profile.avif",
+                                         "profile_cmyk.tif", "profile_float.tif"));
 
 TEST(ProfiledImageTest, MayBeTranslucent) {
     const auto image = drawn("profile_translucent.png");
@@ -171,15 +200,14 @@ TEST_P(DamagedImage, GivesNoPicture) {
     EXPECT_EQ(drawn(GetParam()), nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(Formats, DamagedImage,
-                         testing::Values("cut.png", "cut_before_end.png", "cut_in_header.png",
-                                         "flipped.png", "too_few_rows.png", "cut.jpg",
-                                         "cut_before_end.jpg", "cut_in_header.jpg",
-                                         "zeros_at_end.jpg", "cut.gif", "cut.tif",
-                                         "too_few_rows.tif", "missing_strip.tif", "cut.heic",
-                                         "cut.avif", "cut.webp", "cut_before_end.webp",
-                                         "cut_in_header.webp", "no_frame.webp", "cut.pdf",
-                                         "no_pages.pdf", "empty.png", "text.png"));
+INSTANTIATE_TEST_SUITE_P(
+    Formats, DamagedImage,
+    testing::Values("cut.png", "cut_before_end.png", "cut_in_header.png", "flipped.png",
+                    "too_few_rows.png", "cut.jpg", "cut_before_end.jpg", "cut_in_header.jpg",
+                    "zeros_at_end.jpg", "cut.gif", "cut.tif", "too_few_rows.tif",
+                    "missing_strip.tif", "cut_float.tif", "missing_plane.tif", "cut.heic",
+                    "cut.avif", "cut.webp", "cut_before_end.webp", "cut_in_header.webp",
+                    "no_frame.webp", "cut.pdf", "no_pages.pdf", "empty.png", "text.png"));
 
 TEST(DecoderTest, WritesNothingAboutAnyFile) {
     if (!hasLandlock()) GTEST_SKIP() << "the program says once that this kernel lacks Landlock";

@@ -96,13 +96,32 @@ INSTANTIATE_TEST_SUITE_P(Samples, CutOff,
                                          ".webp", ".pdf", ".mp4", ".mov", ".m4v", ".webm", ".mkv"));
 
 /// One sample for each path through the decoder.
-constexpr std::array ofEachKind = {"filters_rgba.png", "interlaced.png",  "palette.png",
-                                   "baseline.jpg",     "progressive.jpg", "interlaced.gif",
-                                   "strips.tif",       "tiled.tif",       "jpeg.tif",
-                                   "quarters.heic",    "quarters.avif",   "lossy.webp",
-                                   "lossless.webp",    "animated.webp",   "translucent_lossy.webp",
-                                   "letters.pdf",      "ten_seconds.mp4", "fragments.mp4",
-                                   "live.webm",        "vp9.webm",        "av1.webm",
+constexpr std::array ofEachKind = {"filters_rgba.png",
+                                   "interlaced.png",
+                                   "palette.png",
+                                   "baseline.jpg",
+                                   "progressive.jpg",
+                                   "interlaced.gif",
+                                   "strips.tif",
+                                   "tiled.tif",
+                                   "jpeg.tif",
+                                   "float_predicted.tif",
+                                   "float_planes_packed.tif",
+                                   "float_planes_tiled.tif",
+                                   "deep_cmyk_tiled.tif",
+                                   "cmyk_alpha.tif",
+                                   "quarters.heic",
+                                   "quarters.avif",
+                                   "lossy.webp",
+                                   "lossless.webp",
+                                   "animated.webp",
+                                   "translucent_lossy.webp",
+                                   "letters.pdf",
+                                   "ten_seconds.mp4",
+                                   "fragments.mp4",
+                                   "live.webm",
+                                   "vp9.webm",
+                                   "av1.webm",
                                    "h264.mkv"};
 
 class Flipped : public HostileFile, public testing::WithParamInterface<const char*> {};
@@ -153,10 +172,12 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values("huge.png", "huge.jpg", "huge_progressive.jpg", "large_progressive.jpg",
                     "many_scans.jpg", "texts.png", "huge.gif", "many_frames.gif", "huge.tif",
                     "huge_tile.tif", "four_gigabytes.tif", "directory_in_itself.tif",
-                    "far_away.tif", "recursive_pages.pdf", "recursive_form.pdf", "huge_page.pdf",
-                    "endless.pdf", "huge.webp", "huge_lossy.webp", "huge_canvas.webp",
-                    "large_canvas.webp", "many_frames.webp", "huge.avif", "huge.heic",
-                    "lying_index.mp4", "long_index.mp4", "huge_frames.webm", "large_frames.webm"));
+                    "far_away.tif", "huge_float.tif", "huge_planes.tif", "many_samples.tif",
+                    "sixteen_planes.tif", "recursive_pages.pdf", "recursive_form.pdf",
+                    "huge_page.pdf", "endless.pdf", "huge.webp", "huge_lossy.webp",
+                    "huge_canvas.webp", "large_canvas.webp", "many_frames.webp", "huge.avif",
+                    "huge.heic", "lying_index.mp4", "long_index.mp4", "huge_frames.webm",
+                    "large_frames.webm"));
 
 class LyingFile : public testing::TestWithParam<const char*> {};
 
@@ -166,7 +187,9 @@ TEST_P(LyingFile, GivesNoPicture) {
 
 INSTANTIATE_TEST_SUITE_P(Samples, LyingFile,
                          testing::Values("huge.png", "huge.jpg", "huge_progressive.jpg", "huge.gif",
-                                         "huge.tif", "four_gigabytes.tif", "many_scans.jpg",
+                                         "huge.tif", "four_gigabytes.tif", "huge_float.tif",
+                                         "huge_planes.tif", "many_samples.tif",
+                                         "sixteen_planes.tif", "three_inks.tif", "many_scans.jpg",
                                          "recursive_pages.pdf", "huge_page.pdf", "huge.webp",
                                          "huge_lossy.webp", "huge_canvas.webp",
                                          "frame_outside.webp", "huge.avif", "huge.heic"));

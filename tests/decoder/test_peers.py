@@ -21,6 +21,15 @@ SIZES = {"small": (1280, 800), "retina": (2940, 1912), "wide": (3840, 1080)}
 IMAGES = ["png", "rgba.png", "jpg", "lzw.tif", "deflate.tif", "raw.tiff", "gif", "heic",
           "avif", "webp", "lossless.webp"]
 
+POINT = ("-define", "quantum:format=floating-point", "-depth")
+INK = ("-colorspace", "CMYK", "-depth")
+DEEP = {
+    "half": (*POINT, 16), "float": (*POINT, 32), "double": (*POINT, 64),
+    "float-tiles": (*POINT, 32, "-define", "tiff:tile-geometry=256x256"),
+    "float-planes": (*POINT, 32, "-interlace", "plane"),
+    "cmyk": (*INK, 8), "deep-cmyk": (*INK, 16),
+}  # fmt: skip
+
 
 def output_of(*command):
     result = subprocess.run([str(part) for part in command], check=True, capture_output=True,
@@ -81,6 +90,16 @@ def test_images_are_better_than_those_of_others(folder, name, kind):
     assert max(ours.size) == MOST
     assert mine > 40
     assert mine > others
+
+
+@pytest.mark.parametrize("kind", DEEP)
+def test_deep_images_are_like_what_they_were_made_of(folder, kind):
+    source, file = folder / "retina.png", folder / f"retina-{kind}.tif"
+    output_of("convert", source, *DEEP[kind], "-compress", "zip", file)
+    ours, _, _ = thumbnail(file)
+    reference = Image.open(source).convert("RGB").resize(ours.size, Image.LANCZOS)
+    print(f"{file.name}: {likeness(ours, reference):.1f} dB")
+    assert likeness(ours, reference) > 40
 
 
 @pytest.mark.parametrize("kind", IMAGES)

@@ -7,6 +7,7 @@ The honest ones show four quarters: red, green (above), blue, yellow (below).
 import sys
 from pathlib import Path
 
+from deep_tiffs import deep_tiffs
 from gifs import gifs
 from heifs import write_heifs
 from jpegs import jpeg, jpegs
@@ -38,7 +39,8 @@ def write_profiled(folder):
 def main():
     folder = Path(sys.argv[1])
     folder.mkdir(parents=True, exist_ok=True)
-    for group in (pngs(), jpegs(), gifs(), tiffs(), pdfs(), webps(), others()):
+    for group in (pngs(), jpegs(), gifs(), tiffs(), deep_tiffs(), pdfs(), webps(),
+                  others()):
         for name, data in group.items():
             (folder / name).write_bytes(data)
     write_profiled(folder)

@@ -29,13 +29,15 @@ def tiff(parts, tags, order="<"):
     entries, extra = b"", b""
     extra_start = directory + 2 + 12 * len(tags) + 4
     for number, value in sorted(tags.items()):
-        values = value if isinstance(value, list) else [value]
-        packed = b"".join(struct.pack(order + "I", one) for one in values)
+        values = value if isinstance(value, (list, bytes)) else [value]
+        kind, packed = 4, b"".join(struct.pack(order + "I", one) for one in values)
+        if isinstance(value, bytes):
+            kind, packed = 7, value
         field = packed
         if len(packed) > 4:
             field = struct.pack(order + "I", extra_start + len(extra))
             extra += packed
-        entries += struct.pack(order + "HHI", number, 4, len(values)) + field
+        entries += struct.pack(order + "HHI", number, kind, len(values)) + field
     start = (b"II*\0" if order == "<" else b"MM\0*") + struct.pack(order + "I", directory)
     return start + data + b"\0" * (len(data) % 2) + struct.pack(order + "H", len(tags)) + \
         entries + b"\0\0\0\0" + extra

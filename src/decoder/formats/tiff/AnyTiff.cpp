@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "decoder/color/ColorProfile.h"
 #include "decoder/formats/Limits.h"
 #include "decoder/formats/ThreadedReduction.h"
 #include "decoder/formats/tiff/TiffFile.h"
@@ -55,7 +56,9 @@ std::optional<Picture> drawAnyTiff(TiffFile& file, PixelSize target) {
         for (int row = 0; row < count; ++row)
             reduction.addRow(pixels.data() + wide * static_cast<std::size_t>(row));
     }
-    return reduction.take();
+    auto picture = reduction.take();
+    if (picture) convertToScreen(*picture, file.header().colorProfile);
+    return picture;
 }
 
 }  // namespace vantle::decoder

@@ -1,73 +1,26 @@
 #include <algorithm>
 #include <cstring>
 
+#include "decoder/color/ColorProfile.h"
 #include "decoder/formats/Limits.h"
 #include "decoder/formats/ThreadedReduction.h"
-#include "decoder/formats/tiff/TiffFile.h"
+#include "decoder/formats/tiff/TiffSamples.h"
+#include "decoder/reduction/Alpha.h"
 
 namespace vantle::decoder {
 namespace {
 
-std::optional<PixelLayout> layoutOf(const TiffHeader& header) {
-    const bool isGray = header.photometric == PHOTOMETRIC_MINISBLACK ||
-                        header.photometric == PHOTOMETRIC_MINISWHITE;
-    if (isGray && header.samplesPerPixel == 1) return PixelLayout::gray;
-    if (header.photometric == PHOTOMETRIC_RGB && header.samplesPerPixel == 3)
-        return PixelLayout::rgb;
-    if (header.photometric == PHOTOMETRIC_RGB && header.samplesPerPixel == 4)
-        return header.extraSample == EXTRASAMPLE_UNASSALPHA ? PixelLayout::rgba
-                                                            : PixelLayout::premultipliedRgba;
-    if (header.photometric == PHOTOMETRIC_SEPARATED && header.samplesPerPixel == 4 &&
-        header.bitsPerSample == 8)
-        return PixelLayout::cmyk;
-    return std::nullopt;
-}
-
-/// Makes eight bits of each sample of a row as it is stored.
-class Samples {
-public:
-    explicit Samples(const TiffHeader& header)
-        : bits_(header.bitsPerSample),
-          isInverted_(header.photometric == PHOTOMETRIC_MINISWHITE),
-          count_(static_cast<std::size_t>(header.size.wide) * header.samplesPerPixel) {}
-
-    std::size_t storedRowSize() const { return (count_ * bits_ + 7) / 8; }
-
-    void convert(const std::uint8_t* stored, std::uint8_t* row) const {
-        if (bits_ == 8) std::memcpy(row, stored, count_);
-        if (bits_ == 16) narrow(stored, row);
-        if (bits_ == 1) unpack(stored, row);
-        if (isInverted_)
-            for (std::size_t i = 0; i < count_; ++i) row[i] = static_cast<std::uint8_t>(~row[i]);
-    }
-
-private:
-    void narrow(const std::uint8_t* stored, std::uint8_t* row) const {
-        for (std::size_t i = 0; i < count_; ++i) {
-            std::uint16_t sample = 0;
-            std::memcpy(&sample, stored + 2 * i, sizeof sample);
-            row[i] = static_cast<std::uint8_t>((sample * 255U + 32'895U) >> 16);
-        }
-    }
-
-    void unpack(const std::uint8_t* stored, std::uint8_t* row) const {
-        for (std::size_t i = 0; i < count_; ++i)
-            row[i] = (stored[i / 8] >> (7 - i % 8)) & 1 ? 255 : 0;
-    }
-
-    const std::size_t bits_;
-    const bool isInverted_;
-    const std::size_t count_;
-};
-
 /// Takes rows as they are stored, in their order.
 class RowSink {
 public:
-    RowSink(const TiffHeader& header, PixelSize target)
-        : samples_(header),
-          reduction_(header.size, target, *layoutOf(header)),
-          left_(header.size.high) {}
+    RowSink(const TiffHeader& header, TiffSamples samples, PixelSize target)
+        : samples_(std::move(samples)),
+          reduction_(header.size, target, samples_.layout()),
+          left_(header.size.high) {
+        if (samples_.hasAlphaOfInk()) alphaOfInk_.emplace(header.size, target, PixelLayout::gray);
+    }
 
+    const TiffSamples& samples() const { return samples_; }
     std::size_t storedRowSize() const { return samples_.storedRowSize(); }
     int left() const { return left_; }
 
@@ -75,16 +28,54 @@ public:
         if (left_ == 0) return;
         samples_.convert(stored, reduction_.row());
         reduction_.rowIsWritten();
+        if (alphaOfInk_) {
+            samples_.writeAlphaOfInk(alphaOfInk_->row());
+            alphaOfInk_->rowIsWritten();
+        }
         --left_;
     }
 
-    std::optional<Picture> take() { return reduction_.take(); }
+    /// In the colours of a screen.
+    std::optional<Picture> take(std::span<const std::uint8_t> profile) {
+        auto picture = reduction_.take();
+        if (!picture) return std::nullopt;
+        if (alphaOfInk_) return takeTranslucentInk(std::move(*picture), profile);
+        if (samples_.layout() == PixelLayout::cmyk)
+            convertInkToScreen(*picture, InkSense::moreIsDarker, profile);
+        else
+            convertToScreen(*picture, profile);
+        return picture;
+    }
 
 private:
-    const Samples samples_;
+    std::optional<Picture> takeTranslucentInk(Picture ink, std::span<const std::uint8_t> profile) {
+        const auto alpha = alphaOfInk_->take();
+        if (!alpha) return std::nullopt;
+        for (std::size_t i = 0; i < ink.rgba.size(); ++i) {
+            const std::uint8_t most = alpha->rgba[i / 4 * 4];
+            ink.rgba[i] = dividedByAlpha(std::min(ink.rgba[i], most), most);
+        }
+        convertInkToScreen(ink, InkSense::moreIsDarker, profile);
+        for (std::size_t i = 3; i < ink.rgba.size(); i += 4) ink.rgba[i] = alpha->rgba[i - 1];
+        changeColors(ink.rgba, multipliedByAlpha);
+        return ink;
+    }
+
+    TiffSamples samples_;
     ThreadedReduction reduction_;
+    std::optional<ThreadedReduction> alphaOfInk_;
     int left_;
 };
+
+/// Brings samples into this machine's order of bytes.
+void putInOrder(TIFF* tiff, std::vector<std::uint8_t>& row, std::size_t sampleSize) {
+    if (!TIFFIsByteSwapped(tiff)) return;
+    const auto count = static_cast<tmsize_t>(row.size() / sampleSize);
+    void* samples = row.data();
+    if (sampleSize == 2) TIFFSwabArrayOfShort(static_cast<std::uint16_t*>(samples), count);
+    if (sampleSize == 4) TIFFSwabArrayOfLong(static_cast<std::uint32_t*>(samples), count);
+    if (sampleSize == 8) TIFFSwabArrayOfLong8(static_cast<std::uint64_t*>(samples), count);
+}
 
 /// Each row on its own, without libtiff, which would read a strip as a whole.
 bool readUncompressed(TiffFile& file, RowSink& sink) {
@@ -98,6 +89,7 @@ bool readUncompressed(TiffFile& file, RowSink& sink) {
         stream.seek(offset);
         for (int i = 0; i < rowsInStrip && sink.left() > 0; ++i) {
             if (!stream.read(row)) return false;
+            putInOrder(file.tiff(), row, sink.samples().sampleSize());
             sink.add(row.data());
         }
     }
@@ -126,40 +118,120 @@ bool readStrips(TiffFile& file, RowSink& sink) {
     return true;
 }
 
-/// A row of tiles at a time.
-bool readTiles(TiffFile& file, RowSink& sink) {
-    std::uint32_t tileWide = 0;
-    std::uint32_t tileHigh = 0;
-    if (!TIFFGetField(file.tiff(), TIFFTAG_TILEWIDTH, &tileWide) ||
-        !TIFFGetField(file.tiff(), TIFFTAG_TILELENGTH, &tileHigh) || tileWide == 0 || tileHigh == 0)
-        return false;
-    const auto wide = static_cast<std::uint32_t>(file.header().size.wide);
-    const std::uint32_t tileCount = (wide + tileWide - 1) / tileWide;
-    const auto tileSize = static_cast<std::size_t>(TIFFTileSize(file.tiff()));
-    const auto tileRowSize = static_cast<std::size_t>(TIFFTileRowSize(file.tiff()));
-    // A tile may be many times the picture.
-    if (!isReasonableInMemory(std::int64_t{tileWide} * tileCount, tileHigh)) return false;
-    std::vector<std::uint8_t> tiles(tileSize * tileCount);
-    std::vector<std::uint8_t> row(tileRowSize * tileCount);
-    for (std::uint32_t y = 0; sink.left() > 0; y += tileHigh) {
-        for (std::uint32_t i = 0; i < tileCount; ++i)
-            if (TIFFReadTile(file.tiff(), tiles.data() + tileSize * i, i * tileWide, y, 0, 0) < 0)
+bool isInPlanes(const TiffHeader& header) {
+    return header.planes == PLANARCONFIG_SEPARATE && header.samplesPerPixel > 1;
+}
+
+/// Puts one sample of each pixel of a row into its place.
+void interleave(const std::uint8_t* plane, std::uint8_t* row, std::size_t pixels,
+                std::size_t sampleSize, std::size_t pixelSize) {
+    for (std::size_t i = 0; i < pixels; ++i)
+        std::memcpy(row + i * pixelSize, plane + i * sampleSize, sampleSize);
+}
+
+/// Samples that are stored in planes, each read by a reader of its own, because libtiff would begin
+/// a compressed strip anew whenever it is asked about another one.
+bool readPlanes(TiffFile& file, RowSink& sink) {
+    const std::size_t sampleSize = sink.samples().sampleSize();
+    const auto wide = static_cast<std::size_t>(file.header().size.wide);
+    std::vector<std::unique_ptr<TiffFile>> planes(file.header().samplesPerPixel);
+    for (auto& plane : planes)
+        if (plane = TiffFile::open(file.file()); !plane) return false;
+    std::vector<std::uint8_t> part(static_cast<std::size_t>(TIFFScanlineSize(file.tiff())));
+    if (part.size() < wide * sampleSize) return false;
+    std::vector<std::uint8_t> row(sink.storedRowSize());
+    for (std::uint32_t y = 0; sink.left() > 0; ++y) {
+        for (std::size_t i = 0; i < planes.size(); ++i) {
+            if (TIFFReadScanline(planes[i]->tiff(), part.data(), y,
+                                 static_cast<std::uint16_t>(i)) != 1)
                 return false;
-        for (std::uint32_t inTile = 0; inTile < tileHigh && sink.left() > 0; ++inTile) {
-            for (std::uint32_t i = 0; i < tileCount; ++i)
-                std::memcpy(row.data() + tileRowSize * i,
-                            tiles.data() + tileSize * i + tileRowSize * inTile, tileRowSize);
-            sink.add(row.data());
+            interleave(part.data(), row.data() + i * sampleSize, wide, sampleSize,
+                       sampleSize * planes.size());
         }
+        sink.add(row.data());
     }
     return true;
 }
 
+/// The tiles of a picture, of which a row is read at a time.
+class TileReader {
+public:
+    TileReader(TiffFile& file, RowSink& sink) : file_(file), sink_(sink) {}
+
+    bool read() {
+        if (!measure()) return false;
+        tiles_.resize(tileSize_ * across_ * planes_);
+        plane_.resize(tileRowSize_ * across_);
+        row_.resize(sink_.storedRowSize());
+        for (std::uint32_t y = 0; sink_.left() > 0; y += tileHigh_) {
+            if (!readRowOfTiles(y)) return false;
+            for (std::uint32_t i = 0; i < tileHigh_ && sink_.left() > 0; ++i) addRow(i);
+        }
+        return true;
+    }
+
+private:
+    bool measure() {
+        TIFF* tiff = file_.tiff();
+        if (!TIFFGetField(tiff, TIFFTAG_TILEWIDTH, &tileWide_) ||
+            !TIFFGetField(tiff, TIFFTAG_TILELENGTH, &tileHigh_) || tileWide_ == 0 || tileHigh_ == 0)
+            return false;
+        wide_ = static_cast<std::uint32_t>(file_.header().size.wide);
+        across_ = (wide_ + tileWide_ - 1) / tileWide_;
+        tileSize_ = static_cast<std::size_t>(TIFFTileSize(tiff));
+        tileRowSize_ = static_cast<std::size_t>(TIFFTileRowSize(tiff));
+        if (isInPlanes(file_.header())) planes_ = file_.header().samplesPerPixel;
+        // A tile may be many times the picture.
+        constexpr std::size_t most = std::size_t{768} * 1024 * 1024;
+        return isReasonableInMemory(std::int64_t{tileWide_} * across_, tileHigh_) &&
+               tileSize_ > 0 && tileSize_ <= most / across_ / planes_ &&
+               tileRowSize_ * across_ * planes_ >= sink_.storedRowSize();
+    }
+
+    bool readRowOfTiles(std::uint32_t y) {
+        std::uint8_t* to = tiles_.data();
+        for (std::size_t plane = 0; plane < planes_; ++plane)
+            for (std::uint32_t i = 0; i < across_; ++i, to += tileSize_)
+                if (TIFFReadTile(file_.tiff(), to, i * tileWide_, y, 0,
+                                 static_cast<std::uint16_t>(plane)) < 0)
+                    return false;
+        return true;
+    }
+
+    void addRow(std::uint32_t inTile) {
+        const std::uint8_t* from = tiles_.data() + tileRowSize_ * inTile;
+        const std::size_t sampleSize = sink_.samples().sampleSize();
+        for (std::size_t plane = 0; plane < planes_; ++plane) {
+            for (std::uint32_t i = 0; i < across_; ++i, from += tileSize_)
+                std::memcpy(plane_.data() + tileRowSize_ * i, from, tileRowSize_);
+            if (planes_ == 1) return sink_.add(plane_.data());
+            interleave(plane_.data(), row_.data() + plane * sampleSize, wide_, sampleSize,
+                       sampleSize * planes_);
+        }
+        sink_.add(row_.data());
+    }
+
+    TiffFile& file_;
+    RowSink& sink_;
+    std::uint32_t wide_ = 0;
+    std::uint32_t tileWide_ = 0;
+    std::uint32_t tileHigh_ = 0;
+    std::uint32_t across_ = 0;
+    std::size_t planes_ = 1;
+    std::size_t tileSize_ = 0;
+    std::size_t tileRowSize_ = 0;
+    std::vector<std::uint8_t> tiles_;
+    std::vector<std::uint8_t> plane_;  ///< A row of one plane, or of the only one.
+    std::vector<std::uint8_t> row_;
+};
+
 bool read(TiffFile& file, RowSink& sink) {
     constexpr tmsize_t largestStrip = tmsize_t{4} * 1024 * 1024;
     const TiffHeader& header = file.header();
-    if (TIFFIsTiled(file.tiff())) return readTiles(file, sink);
-    const bool isAsStored = header.compression == COMPRESSION_NONE && header.bitsPerSample == 8;
+    if (TIFFIsTiled(file.tiff())) return TileReader(file, sink).read();
+    if (isInPlanes(header)) return readPlanes(file, sink);
+    const bool isAsStored = header.compression == COMPRESSION_NONE && header.bitsPerSample >= 8 &&
+                            header.fillOrder == FILLORDER_MSB2LSB;
     if (isAsStored) return readUncompressed(file, sink);
     return TIFFStripSize(file.tiff()) <= largestStrip ? readStrips(file, sink)
                                                       : readRows(file, sink);
@@ -168,16 +240,14 @@ bool read(TiffFile& file, RowSink& sink) {
 }  // namespace
 
 bool isPlain(const TiffHeader& header) {
-    const bool isUsualDepth = header.bitsPerSample == 8 || header.bitsPerSample == 16 ||
-                              (header.bitsPerSample == 1 && header.samplesPerPixel == 1);
-    const bool isOfNumbers = header.sampleFormat == SAMPLEFORMAT_UINT;
-    return isUsualDepth && isOfNumbers && header.planes == PLANARCONFIG_CONTIG &&
-           layoutOf(header).has_value();
+    return TiffSamples::of(header).has_value();
 }
 
 std::optional<Picture> drawPlainTiff(TiffFile& file, PixelSize target) {
-    RowSink sink(file.header(), target);
-    return read(file, sink) ? sink.take() : std::nullopt;
+    auto samples = TiffSamples::of(file.header());
+    if (!samples) return std::nullopt;
+    RowSink sink(file.header(), std::move(*samples), target);
+    return read(file, sink) ? sink.take(file.header().colorProfile) : std::nullopt;
 }
 
 }  // namespace vantle::decoder

@@ -85,6 +85,8 @@ void TiffFile::readHeader() {
     header_.compression = tag<std::uint16_t>(tiff, TIFFTAG_COMPRESSION, COMPRESSION_NONE);
     header_.planes = tag<std::uint16_t>(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
     header_.sampleFormat = tag<std::uint16_t>(tiff, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_UINT);
+    header_.fillOrder = tag<std::uint16_t>(tiff, TIFFTAG_FILLORDER, FILLORDER_MSB2LSB);
+    header_.inkSet = tag<std::uint16_t>(tiff, TIFFTAG_INKSET, INKSET_CMYK);
     header_.orientation =
         orientationNumbered(tag<std::uint16_t>(tiff, TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT));
 

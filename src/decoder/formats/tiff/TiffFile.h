@@ -21,6 +21,8 @@ struct TiffHeader {
     std::uint16_t compression = 0;
     std::uint16_t planes = 0;
     std::uint16_t sampleFormat = SAMPLEFORMAT_UINT;
+    std::uint16_t fillOrder = FILLORDER_MSB2LSB;
+    std::uint16_t inkSet = INKSET_CMYK;
     std::optional<std::uint16_t> extraSample;  ///< What the first one beyond the colours means.
     Orientation orientation = Orientation::upright;
     Resolution resolution;
@@ -60,12 +62,12 @@ private:
     TiffHeader header_;
 };
 
-/// Gray, RGB and CMYK of 1, 8 or 16 bits, the samples of a pixel side by side: by strip, row or
-/// row of tiles. Absent when the page is none of these.
+/// Gray, RGB and CMYK of whole numbers or of numbers with a point: by strip, row or row of tiles.
 bool isPlain(const TiffHeader& header);
+/// Of a page that is plain, in the colours of a screen.
 std::optional<Picture> drawPlainTiff(TiffFile& file, PixelSize target);
 
-/// Everything else that libtiff can turn into RGBA.
+/// Everything else that libtiff can turn into RGBA, in the colours of a screen.
 std::optional<Picture> drawAnyTiff(TiffFile& file, PixelSize target);
 
 }  // namespace vantle::decoder

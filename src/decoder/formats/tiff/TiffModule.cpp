@@ -1,4 +1,3 @@
-#include "decoder/color/ColorProfile.h"
 #include "decoder/formats/Limits.h"
 #include "decoder/formats/MediaFile.h"
 #include "decoder/formats/tiff/TiffFile.h"
@@ -22,10 +21,6 @@ public:
         const PixelSize stored = turned(target, header_.orientation);
         auto picture = isPlain(header_) ? drawPlainTiff(*file, stored) : drawAnyTiff(*file, stored);
         if (!picture) return std::nullopt;
-        if (isPlain(header_) && header_.photometric == PHOTOMETRIC_SEPARATED)
-            convertInkToScreen(*picture, InkSense::moreIsDarker, header_.colorProfile);
-        else
-            convertToScreen(*picture, header_.colorProfile);
         return turned(std::move(*picture), header_.orientation);
     }
 
