@@ -117,7 +117,7 @@ private:
 std::optional<Picture> drawPlainPng(const InputFile& file, const PngHeader& header,
                                     PixelSize target) {
     const std::size_t storedRowSize = FilteredRows::rowSize(header) + 1;
-    const std::size_t rowCount = rowsInBlock(storedRowSize);
+    const std::size_t rowCount = std::max(rowsInBlock(storedRowSize), rowsUnfilteredTogether);
     FilteredRows rows(header, target, rowCount);
     RowPipeline pipeline(rowCount * storedRowSize,
                          [&](std::span<const std::uint8_t> block) { rows.add(block); });
