@@ -13,6 +13,7 @@ namespace {
 
 using Float4 = float __attribute__((vector_size(16)));
 using Int4 = std::int32_t __attribute__((vector_size(16)));
+using Samples4 = std::uint16_t __attribute__((vector_size(8)));
 using Float8 = float __attribute__((vector_size(32)));
 using Int8 = std::int32_t __attribute__((vector_size(32)));
 
@@ -46,29 +47,45 @@ VANTLE_LOOP void widenRow(const std::uint8_t* __restrict row, std::uint16_t* __r
 
 /// Four neighbouring samples, of which the first `channels` are a pixel's.
 VANTLE_LOOP Int4 loadPixel(const std::uint16_t* from) {
-    return Int4{from[0], from[1], from[2], from[3]};
+    Samples4 samples;
+    std::memcpy(&samples, from, sizeof samples);
+    return __builtin_convertvector(samples, Int4);
 }
 
-template <int channels>
+/// `known` is what `across` is known to be, or 0.
+template <int channels, int known>
 VANTLE_LOOP void averageColumns(const std::uint16_t* sums, std::uint16_t* averages, int pixels,
                                 int across, int rows) {
-    for (int left = pixels; left > 0; left -= across) {
-        const int count = std::min(across, left);
+    const auto averageNext = [&](int count, float scale) {
         Int4 sum{};
         for (int i = 0; i < count; ++i, sums += channels) sum += loadPixel(sums);
-        const float scale = 256.0F / static_cast<float>(count * rows);
         const Int4 average = rounded(__builtin_convertvector(sum, Float4) * all(scale), 65280);
         // The samples after a pixel's own are overwritten by the next pixel.
-        for (int i = 0; i < 4; ++i) averages[i] = static_cast<std::uint16_t>(average[i]);
+        const Samples4 samples = __builtin_convertvector(average, Samples4);
+        std::memcpy(averages, &samples, sizeof samples);
         averages += channels;
-    }
+    };
+    const auto scaleOf = [&](int count) { return 256.0F / static_cast<float>(count * rows); };
+    const float scale = scaleOf(across);
+    for (; pixels >= across; pixels -= across) averageNext(known > 0 ? known : across, scale);
+    if (pixels > 0) averageNext(pixels, scaleOf(pixels));
+}
+
+/// Those of a large screen are worth a loop of their own.
+template <int channels>
+VANTLE_LOOP void averageColumnsOf(const std::uint16_t* sums, std::uint16_t* averages, int pixels,
+                                  int across, int rows) {
+    if (across == 2) return averageColumns<channels, 2>(sums, averages, pixels, across, rows);
+    if (across == 3) return averageColumns<channels, 3>(sums, averages, pixels, across, rows);
+    if (across == 4) return averageColumns<channels, 4>(sums, averages, pixels, across, rows);
+    averageColumns<channels, 0>(sums, averages, pixels, across, rows);
 }
 
 VANTLE_LOOP void averageColumnsOf(const std::uint16_t* sums, std::uint16_t* averages, int channels,
                                   int pixels, int across, int rows) {
-    if (channels == 4) return averageColumns<4>(sums, averages, pixels, across, rows);
-    if (channels == 3) return averageColumns<3>(sums, averages, pixels, across, rows);
-    averageColumns<1>(sums, averages, pixels, across, rows);
+    if (channels == 4) return averageColumnsOf<4>(sums, averages, pixels, across, rows);
+    if (channels == 3) return averageColumnsOf<3>(sums, averages, pixels, across, rows);
+    averageColumns<1, 0>(sums, averages, pixels, across, rows);
 }
 
 /// Adds sixteen samples, as far as they weigh. Two neighbours lie in one 32-bit number, and are
