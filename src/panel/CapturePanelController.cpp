@@ -15,6 +15,7 @@ namespace {
 constexpr Seconds hideDelay{0.5};
 constexpr Seconds debugDumpDelay{1.2};
 constexpr Seconds snapshotDelay{1.2};
+constexpr Seconds betweenSnapshots{1};
 constexpr Animation removalSpring{.response = 0.45, .dampingFraction = 0.82};
 constexpr Rect frameWithoutScreens{{0, 0}, {1440, 900}};
 
@@ -140,10 +141,7 @@ void CapturePanelController::restartCountdown() {
 }
 
 void CapturePanelController::scheduleDebugHooks() {
-    if (const auto path = services_.environment("VANTLE_SNAPSHOT"))
-        services_.scheduler.after(snapshotDelay, weakly(shared_from_this(), [path](auto& self) {
-                                      self.writeSnapshot(*path);
-                                  }));
+    if (const auto path = services_.environment("VANTLE_SNAPSHOT")) scheduleSnapshot(*path);
     if (Debug::on())
         services_.scheduler.after(
             debugDumpDelay, weakly(shared_from_this(), [](auto& self) {
@@ -151,9 +149,22 @@ void CapturePanelController::scheduleDebugHooks() {
             }));
 }
 
-void CapturePanelController::writeSnapshot(const std::string& path) {
+void CapturePanelController::scheduleSnapshot(const std::string& path) {
+    ++snapshotsDue_;
+    services_.scheduler.after(
+        snapshotDelay,
+        weakly(shared_from_this(), [path](auto& self) { self.snapshotIsDue(path); }));
+}
+
+void CapturePanelController::snapshotIsDue(const std::string& path) {
+    const bool isLast = --snapshotsDue_ == 0;
+    const auto& scheduler = services_.scheduler;
+    // Each is a whole card. Of captures that come in a crowd there is nothing to see but the last
+    // one, and a program that draws them all answers nobody meanwhile.
+    if (!isLast && lastSnapshot_ && scheduler.now() - *lastSnapshot_ < betweenSnapshots) return;
     if (const Outcome failure = panel_->writeSnapshot(path))
         systemLog("Vantle: snapshot failed " + failure->message);
+    lastSnapshot_ = scheduler.now();
 }
 
 void CapturePanelController::remove(const CapturePointer& capture) {

@@ -108,7 +108,8 @@ private:
     void present();
     void restartCountdown();
     void scheduleDebugHooks();
-    void writeSnapshot(const std::string& path);
+    void scheduleSnapshot(const std::string& path);
+    void snapshotIsDue(const std::string& path);
     void hide();
 
     void startTimers(Seconds remaining);
@@ -129,6 +130,8 @@ private:
     bool isSharing_ = false;
     std::shared_ptr<ShareCompletion> shareDelegate_;  ///< Lives as long as the menu.
     std::vector<Subscription> cancellables_;
+    int snapshotsDue_ = 0;
+    std::optional<Instant> lastSnapshot_;
     TimerPointer hideWork_;  ///< Of the latest dismissal, until it has run or was taken back.
 };
 
