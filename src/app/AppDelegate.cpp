@@ -106,7 +106,7 @@ void AppDelegate::connectStatusBar() {
         return delegate ? delegate->recent_ : std::vector<CapturePointer>{};
     };
     statusBar_.onShow =
-        weakly(self, [](auto& delegate, const auto& capture) { delegate.panel_->show(capture); });
+        weakly(self, [](auto& delegate, const auto& capture) { delegate.showAgain(capture); });
     statusBar_.onSettings = weakly(self, [](auto& delegate) { delegate.showSettings(); });
     statusBar_.onCheckForUpdates = weakly(self, [](auto& delegate) { delegate.checkForUpdates(); });
     statusBar_.onPause = weakly(self, [](auto& delegate, bool paused) {
@@ -187,10 +187,7 @@ void AppDelegate::watchRecordingsSoon() {
 void AppDelegate::captured(const CapturePointer& capture) {
     if (capture->kind() == CaptureKind::video && !settings_.showRecordings.value()) return;
     Debug::log([&] { return "captured " + capture->fileName(); });
-    std::erase_if(recent_, [&](const auto& earlier) { return *earlier == *capture; });
-    recent_.insert(recent_.begin(), capture);
-    if (recent_.size() > maximumRecent) recent_.pop_back();
-    statusBar_.recentChanged();
+    remember(capture);
     if (settings_.copyOnCapture.value()) panel_->copy(capture);
     if (settings_.playSound.value()) platform_.sounds->play("Pop");
     panel_->show(capture);

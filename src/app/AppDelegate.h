@@ -71,7 +71,7 @@ public:
     const CaptureWatcher& watcher() const { return *watcher_; }
     const RecordingsWatcher& recordings() const { return *recordings_; }
 
-    /// Newest first; of this run only.
+    /// Newest first; of this run only. Their thumbnails are as small as a menu shows them.
     const std::vector<CapturePointer>& recent() const { return recent_; }
 
 private:
@@ -93,6 +93,9 @@ private:
     void present(Window& window, Size contentSize);
     void writeOnboardingSnapshot(const std::string& path);
     void captured(const CapturePointer& capture);
+    void remember(const CapturePointer& capture);
+    /// Shows a recent capture in the panel, with the whole of its thumbnail.
+    void showAgain(const CapturePointer& recent);
     void checkForUpdates();
 
     // Watch errors: each shows its alert and does what is answered.

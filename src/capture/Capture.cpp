@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "capture/SmallPicture.h"
 #include "support/Lowercase.h"
 
 namespace vantle {
@@ -49,6 +50,12 @@ void Capture::loadThumbnail(MediaLoader& media, double maximumDimension) {
             loadRecording(media, maximumDimension);
             break;
     }
+}
+
+std::shared_ptr<const Capture> Capture::withSmallThumbnail(int pixelsWide, int pixelsHigh) const {
+    const std::shared_ptr<Capture> copy(new Capture(*this));
+    if (thumbnail_) copy->thumbnail_ = smallPicture(thumbnail_, pixelsWide, pixelsHigh);
+    return copy;
 }
 
 void Capture::loadImage(MediaLoader& media, double maximumDimension) {

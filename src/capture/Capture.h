@@ -50,8 +50,13 @@ public:
     /// fields that were not reached keep their values.
     void loadThumbnail(MediaLoader& media, double maximumDimension = defaultMaximumDimension);
 
+    /// The same capture, for a list of many: its thumbnail has only as many pixels as fit into that
+    /// room.
+    std::shared_ptr<const Capture> withSmallThumbnail(int pixelsWide, int pixelsHigh) const;
+
 private:
     Capture(Url url, Date date, CaptureKind kind);
+    Capture(const Capture&) = default;
 
     void loadImage(MediaLoader& media, double maximumDimension);
     void loadRecording(MediaLoader& media, double maximumDimension);

@@ -160,6 +160,7 @@ protected:
     AppDelegate::Views views;
     fakes::VirtualClock* clock = nullptr;
     fakes::FakeFileSystem* files = nullptr;
+    fakes::FakeMediaLoader* media = nullptr;
     fakes::FakeUserDefaults* defaults = nullptr;
     fakes::FakePreferencesDomain* domain = nullptr;
     fakes::FakeLoginItem* loginItem = nullptr;

@@ -4,8 +4,10 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 #include "capture/Capture.h"
+#include "capture/SmallPicture.h"
 #include "fakes/FakeMediaLoader.h"
 
 namespace vantle {
@@ -103,6 +105,55 @@ TEST_F(CaptureTest, TheThumbnailIsMeasuredInPointsThePixelSizeInPixels) {
     EXPECT_EQ(capture->pixelSize(), (Size{2940, 1912}));
     EXPECT_DOUBLE_EQ(capture->thumbnail()->size.width, 800);
     EXPECT_DOUBLE_EQ(capture->thumbnail()->size.height, 956 * 800.0 / 1470);
+}
+
+TEST_F(CaptureTest, ACopyWithASmallThumbnailIsTheSameCaptureOtherwise) {
+    media.addImage(shot, Size{4000, 2000}, {4000, 2000});
+    const auto capture = loaded(shot);
+    const auto small = capture->withSmallThumbnail(108, 72);
+    EXPECT_EQ(small->thumbnail()->pixelsWide, 108);
+    EXPECT_EQ(small->thumbnail()->pixelsHigh, 54);
+    EXPECT_EQ(small->thumbnail()->size, capture->thumbnail()->size);
+    EXPECT_EQ(small->id(), capture->id());
+    EXPECT_EQ(small->url(), capture->url());
+    EXPECT_EQ(small->pixelSize(), capture->pixelSize());
+    EXPECT_EQ(capture->thumbnail()->pixelsWide, 800);
+}
+
+TEST_F(CaptureTest, WithoutAThumbnailThereIsNoSmallOne) {
+    EXPECT_EQ(loaded(shot)->withSmallThumbnail(108, 72)->thumbnail(), nullptr);
+}
+
+ImagePointer grey(int width, int height, std::vector<std::uint8_t> values) {
+    auto image = std::make_shared<Image>();
+    image->pixelsWide = width;
+    image->pixelsHigh = height;
+    image->size = {double(width), double(height)};
+    for (const auto value : values) image->rgba.insert(image->rgba.end(), {value, 1, 2, 255});
+    return image;
+}
+
+TEST(SmallPicture, HasTheMeanOfWhatEachPixelStandsFor) {
+    const auto small = smallPicture(grey(4, 2, {10, 20, 0, 0, 30, 41, 0, 255}), 2, 2);
+    EXPECT_EQ(small->pixelsWide, 2);
+    EXPECT_EQ(small->pixelsHigh, 1);
+    EXPECT_THAT(small->rgba, ElementsAre(25, 1, 2, 255, 64, 1, 2, 255));
+}
+
+TEST(SmallPicture, TakesInEveryPixelWhereTheSizesDoNotDivide) {
+    const auto small = smallPicture(grey(5, 1, {0, 100, 50, 60, 70}), 2, 9);
+    EXPECT_THAT(small->rgba, ElementsAre(50, 1, 2, 255, 60, 1, 2, 255));
+}
+
+TEST(SmallPicture, OfALineThereIsALine) {
+    const auto small = smallPicture(grey(6, 1, {1, 1, 1, 4, 4, 4}), 2, 2);
+    EXPECT_EQ(small->pixelsHigh, 1);
+    EXPECT_THAT(small->rgba, ElementsAre(1, 1, 2, 255, 4, 1, 2, 255));
+}
+
+TEST(SmallPicture, IsTheImageItselfWhereThatFits) {
+    const auto image = grey(2, 1, {1, 2});
+    EXPECT_EQ(smallPicture(image, 2, 1), image);
 }
 
 TEST_F(CaptureTest, AVectorImageWithoutPixelsGetsItsPointSize) {
