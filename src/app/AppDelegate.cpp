@@ -53,6 +53,7 @@ AppDelegate::AppDelegate(Platform& platform, Views views)
                                              .pasteboard = *platform.pasteboard,
                                              .sharing = *platform.sharing,
                                              .trash = *platform.trash,
+                                             .spareMemory = *platform.spareMemory,
                                              .environment = platform.environment,
                                              .makePanel = views_.makePanel})),
       statusBar_(*platform.statusItem, *platform.opener, *platform.application, settings_),

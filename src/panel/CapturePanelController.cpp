@@ -13,6 +13,7 @@ namespace vantle {
 namespace {
 
 constexpr Seconds hideDelay{0.5};
+constexpr Seconds releaseDelay{2};  // so that who takes a screenshot a second waits for nothing
 constexpr Seconds debugDumpDelay{1.2};
 constexpr Seconds snapshotDelay{1.2};
 constexpr Seconds betweenSnapshots{1};
@@ -64,6 +65,7 @@ void CapturePanelController::show(const CapturePointer& capture) {
         createPanel();
     if (hideWork_) hideWork_->cancel();
     hideWork_.reset();
+    if (releaseWork_) releaseWork_->cancel();
     state_.corner = services_.settings.corner.value();
     add(capture);
     state_.copiedID.set(std::nullopt);
@@ -151,9 +153,9 @@ void CapturePanelController::scheduleDebugHooks() {
 
 void CapturePanelController::scheduleSnapshot(const std::string& path) {
     ++snapshotsDue_;
-    services_.scheduler.after(
-        snapshotDelay,
-        weakly(shared_from_this(), [path](auto& self) { self.snapshotIsDue(path); }));
+    services_.scheduler.after(snapshotDelay, weakly(shared_from_this(), [path](auto& self) {
+                                  self.snapshotIsDue(path);
+                              }));
 }
 
 void CapturePanelController::snapshotIsDue(const std::string& path) {
@@ -256,7 +258,16 @@ void CapturePanelController::hide() {
     if (!hideWork_) return;
     if (!hideWork_->isValid()) hideWork_.reset();
     state_.captures.set({});
-    if (panel_) panel_->orderOut();
+    if (!panel_) return;
+    panel_->orderOut();
+    if (releaseWork_) releaseWork_->cancel();
+    releaseWork_ = services_.scheduler.after(
+        releaseDelay, weakly(shared_from_this(), [](auto& self) { self.release(); }));
+}
+
+void CapturePanelController::release() {
+    panel_->releaseResources();
+    services_.spareMemory.giveBack();
 }
 
 }  // namespace vantle

@@ -16,6 +16,7 @@
 #include "platform/Scheduler.h"
 #include "platform/Screens.h"
 #include "platform/SharingServicePicker.h"
+#include "platform/SpareMemory.h"
 #include "platform/Trash.h"
 #include "settings/Settings.h"
 #include "support/Environment.h"
@@ -40,6 +41,7 @@ public:
         Pasteboard& pasteboard;
         SharingServicePicker& sharing;
         Trash& trash;
+        SpareMemory& spareMemory;
         Environment environment;
         PanelFactory makePanel;
     };
@@ -111,6 +113,8 @@ private:
     void scheduleSnapshot(const std::string& path);
     void snapshotIsDue(const std::string& path);
     void hide();
+    /// The card has been gone for a while: what it took is given back.
+    void release();
 
     void startTimers(Seconds remaining);
     void invalidateTimers();
@@ -132,7 +136,8 @@ private:
     std::vector<Subscription> cancellables_;
     int snapshotsDue_ = 0;
     std::optional<Instant> lastSnapshot_;
-    TimerPointer hideWork_;  ///< Of the latest dismissal, until it has run or was taken back.
+    TimerPointer hideWork_;     ///< Of the latest dismissal, until it has run or was taken back.
+    TimerPointer releaseWork_;  ///< Of the latest time that the card has gone.
 };
 
 }  // namespace vantle

@@ -33,6 +33,10 @@ public:
 
     virtual void orderOut() = 0;
 
+    /// Lets go of what it keeps only to draw the same again. To be called while it is not on the
+    /// screen.
+    virtual void releaseResources() = 0;
+
     /// Where the glass stands inside the window, "{{x, y}, {w, h}}" in whole points from the top
     /// left; absent while there is no glass.
     virtual std::optional<std::string> glassFrameDescription() const = 0;

@@ -26,6 +26,7 @@
 #include "platform/SerialQueue.h"
 #include "platform/SharingServicePicker.h"
 #include "platform/SoundPlayer.h"
+#include "platform/SpareMemory.h"
 #include "platform/StatusItem.h"
 #include "platform/Trash.h"
 #include "platform/TrayExtension.h"
@@ -65,6 +66,7 @@ struct Platform {
     std::unique_ptr<FolderChooser> folderChooser;
     std::unique_ptr<Canvas> canvas;
     std::unique_ptr<SoundPlayer> sounds;
+    std::unique_ptr<SpareMemory> spareMemory;
     std::unique_ptr<SerialQueue> watcherQueue;
     std::unique_ptr<SerialQueue> serverQueue;  ///< For what may wait for others for ever.
     std::unique_ptr<DirectoryEvents> directoryEvents;

@@ -15,6 +15,7 @@
 #include "platform/linux/CanberraSoundPlayer.h"
 #include "platform/linux/ConfinedMediaLoader.h"
 #include "platform/linux/FreedesktopTrash.h"
+#include "platform/linux/GlibcSpareMemory.h"
 #include "platform/linux/GnomeTrayExtension.h"
 #include "platform/linux/IniPreferencesDomain.h"
 #include "platform/linux/IniUserDefaults.h"
@@ -235,6 +236,7 @@ Platform makeLinuxPlatform(DBusApplication::Launch launch, LoadedViews& views) {
     platform.scheduler = std::make_unique<QtScheduler>();
     addQueues(platform);
     platform.clock = std::make_unique<SystemWallClock>();
+    platform.spareMemory = std::make_unique<GlibcSpareMemory>();
     platform.files = std::make_unique<LinuxFileManager>(platform.environment, isRecording);
     platform.media =
         std::make_unique<ConfinedMediaLoader>(beside("vantle-decoder"), densestScreen());

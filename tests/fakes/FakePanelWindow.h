@@ -15,6 +15,7 @@ public:
         std::vector<Rect> frames;
         bool isOnScreen = false;
         int timesOrderedFront = 0;
+        int timesReleased = 0;
         std::vector<std::string> snapshots;
         std::optional<std::string> glassFrame;
         Outcome snapshotOutcome;
@@ -31,6 +32,7 @@ public:
         ++record_.timesOrderedFront;
     }
     void orderOut() override { record_.isOnScreen = false; }
+    void releaseResources() override { ++record_.timesReleased; }
     std::optional<std::string> glassFrameDescription() const override { return record_.glassFrame; }
     std::string thumbnailFramesDescription() const override { return "no thumbnails"; }
     std::vector<VisibleThumbnail> visibleThumbnails() const override { return record_.thumbnails; }

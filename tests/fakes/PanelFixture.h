@@ -12,6 +12,7 @@
 #include "fakes/FakePasteboard.h"
 #include "fakes/FakeScreens.h"
 #include "fakes/FakeSharingServicePicker.h"
+#include "fakes/FakeSpareMemory.h"
 #include "fakes/FakeTrash.h"
 #include "fakes/SettingsOnFakes.h"
 #include "panel/CapturePanelController.h"
@@ -69,6 +70,7 @@ protected:
     FakePasteboard pasteboard{files};
     FakeSharingServicePicker sharing;
     FakeTrash trash{scheduler, files};
+    FakeSpareMemory spareMemory;
 
     FakePanelWindow::Record panel;
     int panelsMade = 0;
@@ -86,6 +88,7 @@ private:
              .pasteboard = pasteboard,
              .sharing = sharing,
              .trash = trash,
+             .spareMemory = spareMemory,
              .environment = [this](const std::string& name) -> std::optional<std::string> {
                  const auto found = environment.find(name);
                  if (found == environment.end()) return std::nullopt;

@@ -18,6 +18,7 @@
 #include "fakes/FakeProcessLauncher.h"
 #include "fakes/FakeScreens.h"
 #include "fakes/FakeSharingServicePicker.h"
+#include "fakes/FakeSpareMemory.h"
 #include "fakes/FakeStatusItem.h"
 #include "fakes/FakeTrash.h"
 #include "fakes/FakeUserDefaults.h"
@@ -91,6 +92,7 @@ protected:
         privacySettings =
             add(platform.privacySettings, std::make_unique<fakes::FakePrivacySettings>());
         canvas = add(platform.canvas, std::make_unique<fakes::FakeCanvas>());
+        platform.spareMemory = std::make_unique<fakes::FakeSpareMemory>();
         platform.sounds = std::make_unique<RecordingSounds>(events);
         platform.makeUpdater = [this](Platform&, UpdaterObserver&) {
             return std::make_unique<RecordingUpdater>(events);

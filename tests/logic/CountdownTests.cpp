@@ -36,6 +36,7 @@ TEST_F(CountdownTest, RunsOutAndDismisses) {
     EXPECT_FALSE(controller().isVisible());
     wait(0.5);
     EXPECT_FALSE(panel.isOnScreen);
+    wait(2);
     EXPECT_EQ(time.pending(), 0u);
 }
 
@@ -206,7 +207,7 @@ TEST_F(CountdownTest, ADismissalForgetsThePausedTime) {
     hover(true);
     controller().dismiss();
     hover(false);
-    wait(1);
+    wait(3);
     EXPECT_EQ(time.pending(), 0u);
 }
 

@@ -94,6 +94,14 @@ void CapturePanel::orderOut() {
     model_.cardHasLeft();
 }
 
+void CapturePanel::releaseResources() {
+    // What draws the tiles goes with the next frame, and a window that is hidden has none.
+    if (view_->rendererInterface()->graphicsApi() == QSGRendererInterface::Software)
+        view_->grabWindow();
+    view_->releaseResources();
+    view_->engine()->collectGarbage();
+}
+
 Rect CapturePanel::onScreen(const Rect& inContent) const {
     const QRectF content(inContent.origin.x, inContent.origin.y, inContent.size.width,
                          inContent.size.height);

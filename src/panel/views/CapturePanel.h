@@ -21,6 +21,7 @@ public:
     void setFrame(const Rect& frame) override;
     void orderFrontRegardless() override;
     void orderOut() override;
+    void releaseResources() override;
     std::optional<std::string> glassFrameDescription() const override;
     std::string thumbnailFramesDescription() const override;
     std::vector<VisibleThumbnail> visibleThumbnails() const override;

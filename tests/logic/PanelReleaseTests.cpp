@@ -1,0 +1,79 @@
+#include "fakes/PanelFixture.h"
+
+namespace vantle {
+namespace {
+
+/// When the panel gives back what the card took.
+class PanelReleaseTest : public fakes::PanelFixture {
+protected:
+    PanelReleaseTest() { settings.dismissAfter.set(0); }
+
+    void expectReleased(int times) {
+        EXPECT_EQ(panel.timesReleased, times);
+        EXPECT_EQ(spareMemory.timesGivenBack, times);
+    }
+};
+
+TEST_F(PanelReleaseTest, ComesTwoSecondsAfterTheCardHasLeft) {
+    show({"a", "b"});
+    controller().dismiss();
+    wait(0.5);
+    EXPECT_FALSE(panel.isOnScreen);
+    wait(1.9);
+    expectReleased(0);
+    wait(0.1);
+    expectReleased(1);
+}
+
+TEST_F(PanelReleaseTest, DoesNotComeWhileTheCardStands) {
+    show({"a"});
+    wait(3600);
+    expectReleased(0);
+}
+
+TEST_F(PanelReleaseTest, DoesNotComeAgain) {
+    show({"a"});
+    controller().dismiss();
+    wait(3600);
+    expectReleased(1);
+    EXPECT_EQ(time.pending(), 0u);
+}
+
+TEST_F(PanelReleaseTest, WaitsForTheNextCardToLeave) {
+    show({"a"});
+    controller().dismiss();
+    wait(2.4);
+    show({"b"});
+    wait(3600);
+    expectReleased(0);
+    controller().dismiss();
+    wait(2.5);
+    expectReleased(1);
+}
+
+TEST_F(PanelReleaseTest, ComesOnceForADismissalThatIsRepeated) {
+    show({"a"});
+    controller().dismiss();
+    wait(1);
+    controller().dismiss();
+    wait(3600);
+    expectReleased(1);
+}
+
+TEST_F(PanelReleaseTest, DoesNotComeWhereNoCardHasBeen) {
+    controller().dismiss();
+    wait(3600);
+    expectReleased(0);
+}
+
+TEST_F(PanelReleaseTest, DoesNotComeOnceTheControllerHasGone) {
+    show({"a"});
+    controller().dismiss();
+    wait(1);
+    releaseController();
+    wait(3600);
+    expectReleased(0);
+}
+
+}  // namespace
+}  // namespace vantle
