@@ -188,7 +188,7 @@ void CaptureWatcher::deliver(const Url& url, Date fileDate) {
     const auto capture = Capture::create(url, fileDate, services_.moreExtensions);
     if (!capture) return;
     capture->loadThumbnail(services_.media);
-    services_.main.async([self = shared_from_this(), capture] {
+    finished_.add([self = shared_from_this(), capture] {
         if (self->onCapture) self->onCapture(capture);
     });
 }

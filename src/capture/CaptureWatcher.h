@@ -12,6 +12,7 @@
 
 #include "capture/Capture.h"
 #include "capture/KnownNames.h"
+#include "capture/Turns.h"
 #include "capture/WatchError.h"
 #include "platform/DirectoryEvents.h"
 #include "platform/FileManager.h"
@@ -46,7 +47,8 @@ public:
     static std::shared_ptr<CaptureWatcher> create(const Services& services);
     ~CaptureWatcher();
 
-    /// A new, finished capture, with its thumbnail. In the order in which the files settled.
+    /// A new, finished capture, with its thumbnail. In the order in which the files settled, one a
+    /// turn of the run loop.
     std::function<void(const CapturePointer&)> onCapture;
 
     /// Watching failed or ended. Called after the start() that it is about has returned.
@@ -76,7 +78,8 @@ private:
     using WatchNumber = std::uint64_t;
     static constexpr WatchNumber notWatching = 0;
 
-    explicit CaptureWatcher(const Services& services) : services_(services) {}
+    explicit CaptureWatcher(const Services& services)
+        : services_(services), finished_(services.main) {}
 
     /// A folder that can be watched, with what was in it before its events are told.
     struct Opened {
@@ -107,6 +110,7 @@ private:
     void deliver(const Url& url, Date fileDate);
 
     Services services_;
+    Turns finished_;  ///< Captures on their way to the main thread.
 
     std::optional<Url> folder_;
     std::shared_ptr<DirectoryEventSource> source_;

@@ -279,6 +279,17 @@ TEST_F(CaptureWatcherTest, FilesThatSettleTogetherArriveInListingOrder) {
     EXPECT_THAT(captured, ElementsAre("c.png", "a.png", "b.png"));
 }
 
+TEST_F(CaptureWatcherTest, BetweenFilesThatSettleTogetherOthersHaveTheirTurn) {
+    start();
+    watcher->onCapture = [this](const CapturePointer& capture) {
+        captured.push_back(capture->fileName());
+        scheduler.async([this] { captured.push_back("another"); });
+    };
+    for (const char* name : {"a.png", "b.png", "c.png"}) save(name);
+    wait(0.3);
+    EXPECT_THAT(captured, ElementsAre("a.png", "another", "b.png", "another", "c.png", "another"));
+}
+
 TEST_F(CaptureWatcherTest, FilesThatSettleApartArriveAsTheySettle) {
     start();
     save("slow.png", 1);
