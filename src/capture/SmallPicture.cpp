@@ -10,6 +10,8 @@ namespace vantle {
 namespace {
 
 constexpr std::size_t channels = 4;
+/// Of larger parts not every pixel is looked at: who waits for this has others to serve.
+constexpr std::size_t mostSamples = 4;  // in each direction
 using Sum = std::array<std::uint32_t, channels>;
 
 /// Where the part of `length` begins that becomes the pixel at `index` of `count`.
@@ -18,17 +20,23 @@ std::size_t begin(int index, int count, int length) {
            static_cast<std::size_t>(count);
 }
 
+std::size_t stepOver(std::size_t length) {
+    return (length + mostSamples - 1) / mostSamples;
+}
+
 /// The mean of a part of the image, which is not empty.
 void writeMean(const Image& image, std::size_t left, std::size_t right, std::size_t top,
                std::size_t bottom, std::uint8_t* pixel) {
+    const std::size_t across = stepOver(right - left);
+    const std::size_t down = stepOver(bottom - top);
     Sum sum{};
-    for (std::size_t y = top; y < bottom; ++y) {
-        const std::uint8_t* from =
-            &image.rgba[(y * static_cast<std::size_t>(image.pixelsWide) + left) * channels];
-        for (std::size_t x = left; x < right; ++x, from += channels)
-            for (std::size_t i = 0; i < channels; ++i) sum[i] += from[i];
+    std::uint32_t count = 0;
+    for (std::size_t y = top; y < bottom; y += down) {
+        const std::size_t row = y * static_cast<std::size_t>(image.pixelsWide);
+        for (std::size_t x = left; x < right; x += across, ++count)
+            for (std::size_t i = 0; i < channels; ++i)
+                sum[i] += image.rgba[(row + x) * channels + i];
     }
-    const auto count = static_cast<std::uint32_t>((right - left) * (bottom - top));
     for (std::size_t i = 0; i < channels; ++i)
         pixel[i] = static_cast<std::uint8_t>((sum[i] + count / 2) / count);
 }
