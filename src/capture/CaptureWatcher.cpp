@@ -14,6 +14,7 @@ constexpr Seconds newestAge{120};  // an older file was moved in from elsewhere
 constexpr Seconds pollingInterval{0.25};
 constexpr int lastAttempt = 41;
 constexpr std::int64_t unknownSize = -1;
+constexpr int mostOnTheirWay = 4;
 
 WatchError watchError(const Failure& failure) {
     if (failure.code == EPERM || failure.code == EACCES) return WatchError::accessDenied();
@@ -158,7 +159,7 @@ CaptureWatcher::Look CaptureWatcher::consider(const Url& folder, std::string_vie
     }
     pending_.insert(url.path());
     waitUntilStable(url, 0, unknownSize, weakly(shared_from_this(), [url, fileDate](auto& self) {
-                        self.deliver(url, fileDate);
+                        self.settle(url, fileDate);
                     }));
     return Look::done;
 }
@@ -181,15 +182,31 @@ void CaptureWatcher::waitUntilStable(const Url& url, int attempts, std::int64_t 
                }));
 }
 
-void CaptureWatcher::deliver(const Url& url, Date fileDate) {
+void CaptureWatcher::settle(const Url& url, Date fileDate) {
     pending_.erase(url.path());
     // Of another folder than the one watched by now, no listing would ever ask for it.
     if (url.deletingLastPathComponent() == known_.folder()) known_.insert(url.lastPathComponent());
+    settled_.push_back({url, fileDate});
+    deliverNext();
+}
+
+void CaptureWatcher::deliverNext() {
+    // Each one that waits for the main thread holds a picture.
+    if (settled_.empty() || onTheirWay_ >= mostOnTheirWay) return;
+    const Settled next = std::move(settled_.front());
+    settled_.pop_front();
+    deliver(next.url, next.date);
+}
+
+void CaptureWatcher::deliver(const Url& url, Date fileDate) {
     const auto capture = Capture::create(url, fileDate, services_.moreExtensions);
     if (!capture) return;
     capture->loadThumbnail(services_.media);
+    ++onTheirWay_;
     finished_.add([self = shared_from_this(), capture] {
         if (self->onCapture) self->onCapture(capture);
+        --self->onTheirWay_;
+        self->services_.queue.async(weakly(self, [](auto& watcher) { watcher.deliverNext(); }));
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -107,10 +108,14 @@ private:
     Look consider(const Url& folder, std::string_view name, Date now);
     void waitUntilStable(const Url& url, int attempts, std::int64_t lastSize,
                          const std::function<void()>& done);
+    void settle(const Url& url, Date fileDate);
+    /// Loads the next file that has settled, unless the main thread has enough to do.
+    void deliverNext();
     void deliver(const Url& url, Date fileDate);
 
     Services services_;
-    Turns finished_;  ///< Captures on their way to the main thread.
+    Turns finished_;                   ///< Captures on their way to the main thread,
+    std::atomic<int> onTheirWay_ = 0;  ///< and how many these are.
 
     std::optional<Url> folder_;
     std::shared_ptr<DirectoryEventSource> source_;
@@ -123,6 +128,11 @@ private:
     // Queue only.
     KnownNames known_;
     std::unordered_set<std::string> pending_;
+    struct Settled {
+        Url url;
+        Date date;
+    };
+    std::deque<Settled> settled_;  ///< Files whose turn to be loaded has not come.
 };
 
 }  // namespace vantle

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 
@@ -288,6 +289,24 @@ TEST_F(CaptureWatcherTest, BetweenFilesThatSettleTogetherOthersHaveTheirTurn) {
     for (const char* name : {"a.png", "b.png", "c.png"}) save(name);
     wait(0.3);
     EXPECT_THAT(captured, ElementsAre("a.png", "another", "b.png", "another", "c.png", "another"));
+}
+
+TEST_F(CaptureWatcherTest, PicturesAreNotLoadedLongBeforeTheMainThreadTakesThem) {
+    start();
+    std::size_t farthestAhead = 0;
+    watcher->onCapture = [&](const CapturePointer& capture) {
+        captured.push_back(capture->fileName());
+        farthestAhead = std::max(farthestAhead, media.drawnSizes.size() - captured.size());
+    };
+    for (int i = 10; i < 60; ++i) {
+        const std::string name = std::to_string(i) + ".png";
+        media.addImage(url(name), Size{640, 400}, {640, 400});
+        save(name);
+    }
+    wait(0.3);
+    EXPECT_EQ(captured.size(), 50u);
+    EXPECT_TRUE(std::ranges::is_sorted(captured));
+    EXPECT_LE(farthestAhead, 3u);
 }
 
 TEST_F(CaptureWatcherTest, FilesThatSettleApartArriveAsTheySettle) {
