@@ -73,7 +73,10 @@ class Measurement:
     def _save(self):
         picture = self._pictures[self._saved % len(self._pictures)]
         self._saved += 1
-        (self._desktop.home / "Desktop" / f"shot {self._saved}.png").write_bytes(picture)
+        # Complete at once: how soon it is seen to be so is none of what is measured here.
+        complete = self._desktop.home / "complete.png"
+        complete.write_bytes(picture)
+        complete.rename(self._desktop.home / "Desktop" / f"shot {self._saved}.png")
 
     def _time_first_frame(self):
         screen = self._desktop.screen
