@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Saves hundreds of screenshots at once, and measures how long the program takes to answer a pointer
-and a command meanwhile, on a private desktop.
+"""Saves hundreds of screenshots at once, and measures how long the program takes to answer
+meanwhile, on a private desktop.
 
   bench/burst.py [--binary build/release/bin/vantle] [--files 500] [--size 2560x1440]
                  [--seconds 20] [--json FILE] [--plot FILE.svg]
@@ -79,7 +79,8 @@ class Burst:
     def _worked(self):
         """Seconds for which its main thread has had a processor."""
         pid = str(self._vantle.pid)
-        return int(pathlib.Path("/proc", pid, "task", pid, "schedstat").read_text().split()[0]) / 1e9
+        statistics_of_thread = pathlib.Path("/proc", pid, "task", pid, "schedstat").read_text()
+        return int(statistics_of_thread.split()[0]) / 1e9
 
     def _ask(self):
         while time.monotonic() - self._begin < self._arguments.seconds:
@@ -111,8 +112,9 @@ def summary(points):
     if not times:
         return "never asked"
     late = sum(value > WANTED * 1000 for value in times)
-    return (f"median {statistics.median(times):.0f} ms, 95 % {times[int(0.95 * (len(times) - 1))]:.0f}"
-            f" ms, worst {times[-1]:.0f} ms; {late} of {len(times)} later than {WANTED * 1000:.0f} ms")
+    nearly_all = times[int(0.95 * (len(times) - 1))]
+    return (f"median {statistics.median(times):.0f} ms, 95 % {nearly_all:.0f} ms, "
+            f"worst {times[-1]:.0f} ms; {late} of {len(times)} later than {WANTED * 1000:.0f} ms")
 
 
 def main():

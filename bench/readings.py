@@ -4,7 +4,9 @@ import os
 import pathlib
 import re
 
-MEMORY_KINDS = {"Pss": "all", "Pss_Anon": "anonymous", "Pss_File": "of files", "Pss_Shmem": "shared"}
+MEMORY_KINDS = {
+    "Pss": "all", "Pss_Anon": "anonymous", "Pss_File": "of files", "Pss_Shmem": "shared",
+}  # fmt: skip
 
 
 def memory(pid):
