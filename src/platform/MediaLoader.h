@@ -52,8 +52,8 @@ public:
     /// Null when the file cannot be opened as an image.
     virtual std::unique_ptr<ImageFile> openImage(const Url& url) = 0;
 
-    /// The same without waiting: the file is held, and opened as an image when something is asked of
-    /// it for the first time. Null only when the file cannot be had; when it turns out to be no
+    /// The same without waiting: the file is held, and opened as an image when something is asked
+    /// of it for the first time. Null only when the file cannot be had; when it turns out to be no
     /// image, it has no size and draws nothing. Where opening does not wait, that is all it does.
     virtual std::unique_ptr<ImageFile> holdImage(const Url& url) { return openImage(url); }
 

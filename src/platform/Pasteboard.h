@@ -31,8 +31,8 @@ public:
     /// There is at most one picture.
     virtual void writeObjects(const std::vector<PasteboardObject>& objects) = 0;
 
-    /// The picture that an image file holds, for a file that was one when it was last drawn; null when
-    /// it cannot be had any more, or breaks off. Does not wait until it is read.
+    /// The picture that an image file holds, for a file that was one when it was last drawn; null
+    /// when it cannot be had any more, or breaks off. Does not wait until it is read.
     virtual PasteboardImagePointer loadImage(const Url& url) = 0;
 };
 

@@ -97,8 +97,8 @@ def test_the_menu_of_its_icon_opens_above_the_card(plasma, vantle, icon, button)
     show_one(plasma, vantle)
     menu, picture = opened_menu(plasma, icon, button)
     assert menu.height > 200
-    # Of the tile behind it nothing is seen, but the thumbnail is: a larger one in our own menu, which
-    # the left button opens.
+    # Of the tile behind it nothing is seen, but the thumbnail is: a larger one in our own menu,
+    # which the left button opens.
     assert (150 if button == 1 else 20) < area_of(picture, GREEN) < 2500
     # Its last line, which lies over the card.
     last = menu.centre[0], menu.bottom - 20

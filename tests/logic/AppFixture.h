@@ -173,7 +173,6 @@ protected:
     fakes::FakeStatusItem* statusItem = nullptr;
     fakes::FakeAlerts* alerts = nullptr;
     fakes::FakePrivacySettings* privacySettings = nullptr;
-    fakes::FakeMediaLoader* media = nullptr;
     fakes::FakeCanvas* canvas = nullptr;
     std::vector<Size> windowSizes;
     std::function<void()> finishOnboarding;

@@ -15,8 +15,8 @@ namespace vantle {
 /// moved or deleted. Main thread only.
 class PictureContents final : public PasteboardImage {
 public:
-    /// Null when the file cannot be had or breaks off. Does not look whether an image is in it: that
-    /// shows when it is asked for. `media` draws a pixel for a point.
+    /// Null when the file cannot be had or breaks off. Does not look whether an image is in it:
+    /// that shows when it is asked for. `media` draws a pixel for a point.
     static std::shared_ptr<const PictureContents> open(const Url& url,
                                                        std::shared_ptr<MediaLoader> media);
 
