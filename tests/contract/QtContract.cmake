@@ -47,4 +47,4 @@ target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt_sharing
 vantle_precompile_tests(qt_contract_tests <gmock/gmock.h> <map> <string> <vector> <QDBusConnection>
                         <QDBusMessage> <QGuiApplication>)
 add_dependencies(qt_contract_tests application_copy translations)
-gtest_discover_tests(qt_contract_tests PROPERTIES LABELS contract TIMEOUT 120 DISCOVERY_TIMEOUT 60)
+vantle_discover_tests(qt_contract_tests LABELS contract TIMEOUT 120)
