@@ -60,12 +60,13 @@ public:
     std::optional<Url> previousScreenshotFolder() const;
     void restoreScreenshotFolder();
 
+    /// What is asked for counts until the system is read once more: see readSystem().
     void setHideSystemThumbnail(bool hide);
 
-    /// Why the system does not let these two be changed, as a sentence; empty when it does. Asks
-    /// the system anew at each call.
     /// How the folder came about, in English, for reports of faults.
     std::string screenshotFolderOrigin() const { return screenshotPrefs_.locationOrigin(); }
+    /// Why the system does not let these two be changed, as a sentence; empty when it does. Asks
+    /// the system anew at each call.
     std::string screenshotFolderObstacle() const { return screenshotPrefs_.locationObstacle(); }
     std::string systemThumbnailObstacle() const { return screenshotPrefs_.thumbnailObstacle(); }
 

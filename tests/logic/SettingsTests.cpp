@@ -166,6 +166,15 @@ TEST_F(SettingsTest, HidingTheSystemThumbnailChangesTheSystem) {
     EXPECT_TRUE(settings.hideSystemThumbnail.value());
 }
 
+TEST_F(SettingsTest, AThumbnailThatCannotBeHiddenIsSeenOnceTheSystemIsRead) {
+    Settings settings = make();
+    domain.obstacles["show-thumbnail"] = "It shows.";
+    settings.setHideSystemThumbnail(true);
+    EXPECT_TRUE(settings.hideSystemThumbnail.value()) << "as it was asked for";
+    settings.readSystem();
+    EXPECT_FALSE(settings.hideSystemThumbnail.value());
+}
+
 TEST_F(SettingsTest, AFailedRegistrationIsLoggedAndShowsTheRealState) {
     fakes::CapturedLog log;
     loginItem.failure = Failure{.code = 30, .message = "Read-only file system"};

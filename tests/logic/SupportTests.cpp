@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "fakes/CapturedLog.h"
 #include "fakes/VirtualTime.h"
 #include "support/Debug.h"
@@ -155,6 +157,23 @@ TEST(Debug, BuildsItsMessageOnlyWhenItIsOn) {
     Debug::log(message);
     EXPECT_EQ(built, 1);
     EXPECT_THAT(log.lines(), ElementsAre("Vantle[dbg]: ready"));
+}
+
+/// What a process of this program says that begins in these surroundings.
+int debugOf(const char* value) {
+    if (value)
+        setenv("VANTLE_DEBUG", value, 1);
+    else
+        unsetenv("VANTLE_DEBUG");
+    return Debug::on() ? 1 : 0;
+}
+
+TEST(Debug, IsOnWhereItsVariableIsThereAlsoAnEmptyOne) {
+    // In a process of its own each: it is looked for once.
+    testing::GTEST_FLAG(death_test_style) = "threadsafe";
+    EXPECT_EXIT(std::exit(debugOf("1")), testing::ExitedWithCode(1), "");
+    EXPECT_EXIT(std::exit(debugOf("")), testing::ExitedWithCode(1), "");
+    EXPECT_EXIT(std::exit(debugOf(nullptr)), testing::ExitedWithCode(0), "");
 }
 
 TEST(SystemLog, KeepsAMessageOnOneLineWhateverItHolds) {

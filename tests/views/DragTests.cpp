@@ -2,7 +2,11 @@
 
 #include <gmock/gmock.h>
 
+#include <QDir>
+#include <QFile>
+#include <QIcon>
 #include <QMouseEvent>
+#include <QTemporaryDir>
 
 #include "CardFixture.h"
 #include "fakes/CapturedLog.h"
@@ -215,6 +219,46 @@ TEST_F(DragTest, WithoutAPictureTheFilesIconIsDragged) {
     // Icons are square.
     EXPECT_EQ(dragging.dragged[0].frame.size(), QSizeF(bounds.height(), bounds.height()));
     EXPECT_EQ(dragging.dragged[0].frame.center(), bounds.center());
+}
+
+/// A desktop that has red icons for pictures.
+class RedIcons {
+public:
+    RedIcons() : paths_(QIcon::themeSearchPaths()), name_(QIcon::themeName()) {
+        const QDir folder(folder_.path());
+        folder.mkpath(QStringLiteral("red/256x256/mimetypes"));
+        QFile index(folder.filePath(QStringLiteral("red/index.theme")));
+        EXPECT_TRUE(index.open(QIODevice::WriteOnly));
+        index.write(
+            "[Icon Theme]\nName=red\nDirectories=256x256/mimetypes\n"
+            "[256x256/mimetypes]\nSize=256\nType=Fixed\n");
+        QImage icon(256, 256, QImage::Format_RGB32);
+        icon.fill(Qt::red);
+        EXPECT_TRUE(
+            icon.save(folder.filePath(QStringLiteral("red/256x256/mimetypes/image-png.png"))));
+        index.close();
+        QIcon::setThemeSearchPaths({folder_.path()});
+        QIcon::setThemeName(QStringLiteral("red"));
+    }
+    ~RedIcons() {
+        QIcon::setThemeSearchPaths(paths_);
+        QIcon::setThemeName(name_);
+    }
+
+private:
+    const QTemporaryDir folder_;
+    const QStringList paths_;
+    const QString name_;
+};
+
+TEST_F(DragTest, TheIconIsTheDesktopsOwnForSuchFiles) {
+    const RedIcons icons;
+    dragItems = {{Url::file("/folder/a.png"), nullptr}, {Url::file("/folder/a.unknown"), nullptr}};
+    drag();
+    ASSERT_THAT(dragging.dragged, SizeIs(2));
+    EXPECT_EQ(dragging.dragged[0].image.size(), QSize(256, 256));
+    EXPECT_EQ(dragging.dragged[0].image.pixelColor(128, 128), QColor(Qt::red));
+    EXPECT_EQ(dragging.dragged[1].image.pixelColor(128, 128), QColor(128, 128, 132));
 }
 
 TEST(FittedRectTest, KeepsProportionsInTheMiddle) {

@@ -108,6 +108,15 @@ TEST_F(HostingViewTest, FurtherThanSixPointsItDrawsAMarquee) {
     EXPECT_EQ(backgroundClicks, 0);
 }
 
+TEST_F(HostingViewTest, ALittleFurtherThanSixPointsIsEnoughForAMarquee) {
+    showTwo();
+    press(background());
+    move(background() + QPointF(6, -2));
+    EXPECT_EQ(marquees.size(), 1u);
+    release(background());
+    EXPECT_EQ(backgroundClicks, 0);
+}
+
 TEST_F(HostingViewTest, AMarqueeEndsWithTheCard) {
     showTwo();
     press(background());
