@@ -36,7 +36,8 @@ public:
 
     Outcome take(archive_entry& entry) {
         const char* name = archive_entry_pathname(&entry);
-        if (!name) return refused(localized("Updater", "it holds a file without a name."));
+        if (!name || !*name)
+            return refused(localized("Updater", "it holds a file without a name."));
         if (left_.entries-- == 0) return refused(localized("Updater", "it holds too many files."));
         if (!isInside(name))
             return refused(filled(localized("Updater", "it holds \"%1\"."), {name}));

@@ -1,7 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QFontDatabase>
 #include <QImage>
+#include <QPainter>
 
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/QtColor.h"
@@ -25,6 +27,14 @@ QRectF whitePart(const QImage& image) {
             if (image.pixelColor(x, y) == QColor(Qt::white)) found |= QRect(x, y, 1, 1);
     return {found.x() / double(image.width()), found.y() / double(image.height()),
             found.width() / double(image.width()), found.height() / double(image.height())};
+}
+
+int whitePixels(const QImage& image) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == QColor(Qt::white) ? 1 : 0;
+    return count;
 }
 
 TEST(CanvasTest, APictureHasAPixelForAPointTimesTheScale) {
@@ -58,6 +68,29 @@ TEST(CanvasTest, ATextStandsInTheMiddle) {
     EXPECT_NEAR(letters.center().y(), 0.5, 0.06);
     const QRectF dense = whitePart(drawn(drawing, 2));
     EXPECT_NEAR(dense.width(), letters.width(), 0.02);
+}
+
+/// How many pixels are white of the letters "HHH" in that weight, as many pixels high.
+int whitePixels(QFont::Weight weight, int pixels) {
+    QImage image(400, 200, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setPixelSize(pixels);
+    font.setWeight(weight);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(image.rect(), Qt::AlignCenter, QStringLiteral("HHH"));
+    painter.end();
+    return whitePixels(image);
+}
+
+TEST(CanvasTest, ATextIsBold) {
+    const Drawing drawing{{400, 200}, {{0, 0, 0, 1}, {0, 0, 0, 1}, 0}, CenteredText{"HHH", 60}};
+    const int bold = whitePixels(QFont::Bold, 60);
+    ASSERT_GT(bold, whitePixels(QFont::Normal, 60)) << "the font has one weight";
+    EXPECT_EQ(whitePixels(drawn(drawing)), bold);
 }
 
 }  // namespace

@@ -295,6 +295,13 @@ TEST_F(TrayOnBusTest, LinesCarryKeysAndPictures) {
     EXPECT_EQ(icon.pixelColor(6, 24).alpha(), 0);
 }
 
+TEST_F(TrayOnBusTest, TheKeyOfTheSettingsHasTheNameThatTraysKnow) {
+    lines = {{.title = "Settings…", .keyEquivalent = ","}};
+    const auto line = tray.tray.open().children.at(0).properties;
+    EXPECT_EQ(qdbus_cast<BusShortcut>(line[QStringLiteral("shortcut")]),
+              (BusShortcut{{QStringLiteral("Control"), QStringLiteral("comma")}}));
+}
+
 TEST_F(TrayOnBusTest, WhatDoesNotExistIsNoAccident) {
     tray.tray.send(4711, QStringLiteral("clicked"));
     const auto one =
@@ -308,6 +315,27 @@ TEST_F(TrayOnBusTest, WhatDoesNotExistIsNoAccident) {
                                           {QVariant::fromValue(QList<int>{4711})});
     EXPECT_EQ(qdbus_cast<QList<int>>(shown.arguments().value(1)), QList<int>{4711});
     EXPECT_EQ(tray.tray.layout().children.size(), 3);
+}
+
+TEST_F(TrayOnBusTest, WhereNobodyDrawsWhatIsRegisteredThereIsNoIcon) {
+    tray.tray.setHost(false);
+    EXPECT_TRUE(runUntil([&] { return !tray.item.isShown(); }));
+    EXPECT_EQ(tray.item.tray(), "none");
+    tray.tray.setHost(true);
+    EXPECT_TRUE(runUntil([&] { return tray.item.isShown(); }));
+    EXPECT_EQ(tray.item.tray(), "on D-Bus");
+}
+
+TEST(TrayWithoutHostTest, RegisteringIsNotBeingShown) {
+    BusTray tray;
+    EXPECT_TRUE(tray.item.setImage(picture, "Program"));
+    tray.tray.setHost(false);
+    tray.start();
+    tray.item.show();
+    ASSERT_TRUE(runUntil([&] { return tray.tray.hasItem(); }));
+    // What was asked first is answered first: then it knows that there is no host.
+    EXPECT_EQ(tray.tray.property(QStringLiteral("Status")), QStringLiteral("Active"));
+    EXPECT_FALSE(tray.item.isShown());
 }
 
 TEST(TrayStatusItemTest, WithoutABusThereIsNoItem) {

@@ -46,7 +46,15 @@ public:
     int layoutUpdates() const { return layoutUpdates_; }
 
     bool hasItem() const { return !item_.isEmpty(); }
-    static bool hasHost() { return true; }
+    bool hasHost() const { return hasHost_; }
+    /// Whether anybody shows what is registered.
+    void setHost(bool hasHost) {
+        hasHost_ = hasHost;
+        if (hasHost)
+            emit StatusNotifierHostRegistered();
+        else
+            emit StatusNotifierHostUnregistered();
+    }
 
     /// The reply to a call to the item, or to its menu.
     QDBusMessage call(const QString& object, const QString& interface, const QString& method,
@@ -83,6 +91,10 @@ public:
                  {id, event, QVariant::fromValue(QDBusVariant(0)), QVariant::fromValue(0U)});
     }
 
+signals:
+    void StatusNotifierHostRegistered();
+    void StatusNotifierHostUnregistered();
+
 public slots:
     void RegisterStatusNotifierItem(const QString&, const QDBusMessage& message) {
         item_ = message.service();
@@ -95,6 +107,7 @@ private:
     QDBusConnection bus_;
     QString item_;
     int layoutUpdates_ = 0;
+    bool hasHost_ = true;
 };
 
 }  // namespace vantle

@@ -112,6 +112,13 @@ def test_a_name_that_leads_elsewhere_is_refused(copy, publisher, name):
     )
 
 
+def test_a_file_without_a_name_is_refused(copy, publisher):
+    contents = hand_made_archive(entry("vantle/bin/vantle", b"good"), entry("", b"bad"))
+    assert refuse(copy, publisher, contents) == (
+        "The update was refused: it holds a file without a name."
+    )
+
+
 def test_an_absolute_name_is_refused(copy, publisher, tmp_path):
     name = str(tmp_path / "outside")
     contents = hand_made_archive(entry(name, b"bad"))

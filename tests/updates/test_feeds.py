@@ -2,11 +2,12 @@
 
 import datetime
 import os
+import re
 import shutil
 
 import pytest
 
-from releases import NEW, NOW, OLD, SYSTEM, Publisher, releasing
+from releases import NEW, NOW, OLD, ROOT, SYSTEM, Publisher, releasing
 
 ARCHIVE = b"what is not looked at yet"
 
@@ -270,12 +271,37 @@ def test_this_machine_itself_may_do_without_https(copy, server, publisher):
 @pytest.mark.parametrize("address", [
     "", "appcast.xml", "ftp://127.0.0.1/appcast.xml", "file:///etc/passwd",
     "http://vantle.example/appcast.xml", "http://127.0.0.1.vantle.example/",
-    "http://127.0.0.1@vantle.example/",
+    "http://127.0.0.1@vantle.example/", "http://126.255.255.255/", "http://128.0.0.1/",
+    "http://192.0.2.1/appcast.xml", "http://0.0.0.0/", "http://[::2]/", "http://[2001:db8::1]/",
+    "http://[::ffff:192.0.2.1]/", "http://localhost.example/",
 ])
 def test_other_addresses_are_refused(copy, address):
     assert failure(copy.check(address)) == (
         f'Updates are fetched only by HTTPS, not from "{address}".'
     )
+
+
+@pytest.mark.parametrize("host", [
+    "127.0.0.1", "127.255.255.254", "[::1]", "localhost",
+])
+def test_each_name_of_this_machine_may_do_without_https(copy, host):
+    # Nobody listens there.
+    message = failure(copy.check(f"http://{host}:1/appcast.xml"))
+    assert message.startswith("The server could not be asked: ")
+
+
+def test_without_another_feed_it_is_the_one_that_was_built_in(copy):
+    reports = copy.run("check", f"--version={OLD}")
+    assert failure(reports) == (
+        f'Updates are fetched only by HTTPS, not from "{os.environ["VANTLE_BUILT_IN_FEED"]}".'
+    )
+
+
+def test_a_release_has_the_feed_of_the_project_built_in():
+    """Unless whoever builds it names another one."""
+    configuration = (ROOT / "src/updater/CMakeLists.txt").read_text()
+    default = re.search(r'set\(VANTLE_UPDATE_FEED "(.*?)" CACHE', configuration)[1]
+    assert default == "https://vantle.org/updates/appcast.xml"
 
 
 def test_a_copy_without_a_key_cannot_be_updated(copy, publisher):
