@@ -145,7 +145,7 @@ TEST_F(AppDelegateTest, FinishingOnboardingStartsWatching) {
     EXPECT_THAT(Events(events.end() - 2, events.end()),
                 ElementsAre("onboarding closed", "onboarding gone"));
     EXPECT_TRUE(delegate->watcher().isWatching());
-    EXPECT_EQ(defaults->stored["hasCompletedOnboarding"], PreferenceValue(true));
+    EXPECT_EQ(defaults->stored.at("hasCompletedOnboarding"), PreferenceValue(true));
 }
 
 TEST_F(AppDelegateTest, WithoutAnOnboardingWindowItIsFinishedAtOnce) {

@@ -65,7 +65,7 @@ TEST_F(BehaviorControlsTest, OnStoresZero) {
     BehaviorControls controls(settings, scheduler);
     controls.setNeverDismiss(true);
     EXPECT_EQ(seconds(), 0);
-    EXPECT_EQ(defaults.stored["dismissAfter"], PreferenceValue(0.0));
+    EXPECT_EQ(defaults.stored.at("dismissAfter"), PreferenceValue(0.0));
 }
 
 TEST_F(BehaviorControlsTest, OffRestoresTheLastPositiveNumberOfSeconds) {

@@ -90,8 +90,10 @@ TEST_F(CaptureTest, ALargeImageGetsAThumbnailWhoseLongerSideIsTheMaximum) {
 }
 
 TEST_F(CaptureTest, AnImageThatFitsKeepsItselfAsThumbnail) {
-    media.addImage(shot, Size{640, 480}, {640, 480});
-    EXPECT_EQ(loaded(shot)->thumbnail()->size, (Size{640, 480}));
+    for (const Size size : {Size{640, 480}, Size{799, 600}}) {
+        media.addImage(shot, size, size);
+        EXPECT_EQ(loaded(shot)->thumbnail()->size, size);
+    }
 }
 
 TEST_F(CaptureTest, AnImageOfExactlyTheMaximumKeepsItself) {

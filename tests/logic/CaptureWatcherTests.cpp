@@ -173,6 +173,13 @@ TEST_F(CaptureWatcherTest, AnEmptiedFolderForgetsEverything) {
     EXPECT_THAT(captured, ElementsAre("old.png"));
 }
 
+TEST_F(CaptureWatcherTest, OneByteIsEnough) {
+    start();
+    save("small.png", 1);
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("small.png"));
+}
+
 TEST_F(CaptureWatcherTest, AZeroByteFileIsDroppedForGood) {
     start();
     save("empty.png", 0);

@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <sstream>
+
 #include "app/CommandLine.h"
 #include "support/Gradient.h"
 #include "support/Version.h"
@@ -22,6 +25,24 @@ TEST(CommandLineTest, WithoutArgumentsTheProgramStarts) {
     const auto line = parse({});
     EXPECT_EQ(line.kind, Kind::start);
     EXPECT_FALSE(line.request);
+}
+
+/// Of UTF-8.
+long lettersIn(const std::string& text) {
+    return std::ranges::count_if(text, [](char byte) { return (byte & 0xc0) != 0x80; });
+}
+
+TEST(CommandLineTest, TheHelpStandsInOneColumnWhateverStandsBefore) {
+    std::istringstream help(helpText());
+    int options = 0;
+    for (std::string line; std::getline(help, line);) {
+        const auto gap = line.rfind("  ");
+        if (!line.starts_with("  ") || gap < 4 || gap == std::string::npos) continue;
+        EXPECT_EQ(lettersIn(line.substr(0, gap + 2)), 18) << line;
+        ++options;
+    }
+    EXPECT_GT(options, 8);
+    EXPECT_THAT(helpText(), HasSubstr("  --show FILE…    "));
 }
 
 TEST(CommandLineTest, TheBusStartsItForACall) {

@@ -70,6 +70,13 @@ TEST_F(MarqueeTest, AThumbnailScrolledOutOfSightIsNotSelected) {
     EXPECT_THAT(selected(), UnorderedElementsAre(shown[1]->id(), shown[2]->id()));
 }
 
+TEST_F(MarqueeTest, OfOneThatIsAlmostOutOfSightTheRestIsEnough) {
+    panel.thumbnails[0].frame.size = {0.5, 80};
+    panel.thumbnails[1].frame.size = {100, 0.5};
+    drag({{0, 0}, {400, 400}});
+    EXPECT_EQ(selected().size(), 3u);
+}
+
 TEST_F(MarqueeTest, AnEqualSelectionIsNotAnnounced) {
     drag({{5, 5}, {50, 50}});
     int announcements = 0;

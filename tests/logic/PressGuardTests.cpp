@@ -111,6 +111,17 @@ TEST_F(PressGuardTest, ACardThatComesUnderAPointerWhosePlaceIsKnownTakesNoPressA
     EXPECT_FALSE(press("first", {300, 300}));
 }
 
+TEST_F(PressGuardTest, ACardStandsASecondAfterItCame) {
+    guard.contentChanges(now);
+    wait(0.99);
+    guard.pointerEnters({300, 300}, "first", now);
+    EXPECT_FALSE(press("first", {300, 300}));
+    guard.contentChanges(now);
+    wait(1);
+    guard.pointerEnters({200, 300}, "second", now);
+    EXPECT_TRUE(press("second", {200, 300}));
+}
+
 TEST_F(PressGuardTest, ACardThatStandsTakesThePressOfAPointerThatComes) {
     guard.contentChanges(now);
     wait(2);

@@ -78,13 +78,13 @@ TEST_F(SettingsTest, ACornerInOtherLetterCaseReadsAsBottomRight) {
 TEST_F(SettingsTest, SettingTheCornerStoresItsText) {
     Settings settings = make();
     settings.corner.set(PanelCorner::topLeft);
-    EXPECT_EQ(defaults.stored["corner"], PreferenceValue(std::string("topLeft")));
+    EXPECT_EQ(defaults.stored.at("corner"), PreferenceValue(std::string("topLeft")));
 }
 
 TEST_F(SettingsTest, ANegativeDismissAfterIsStoredUnchanged) {
     Settings settings = make();
     settings.dismissAfter.set(-3);
-    EXPECT_EQ(defaults.stored["dismissAfter"], PreferenceValue(-3.0));
+    EXPECT_EQ(defaults.stored.at("dismissAfter"), PreferenceValue(-3.0));
     EXPECT_EQ(make().dismissAfter.value(), -3);
 }
 
@@ -98,9 +98,9 @@ TEST_F(SettingsTest, EachSettingIsStoredUnderItsKey) {
     settings.deleteAfterUse.set(true);
     for (const char* key :
          {"hasCompletedOnboarding", "copyOnCapture", "playSound", "deleteAfterUse"})
-        EXPECT_EQ(defaults.stored[key], PreferenceValue(true)) << key;
+        EXPECT_EQ(defaults.stored.at(key), PreferenceValue(true)) << key;
     for (const char* key : {"showRecordings", "removeAfterUse"})
-        EXPECT_EQ(defaults.stored[key], PreferenceValue(false)) << key;
+        EXPECT_EQ(defaults.stored.at(key), PreferenceValue(false)) << key;
 }
 
 TEST_F(SettingsTest, ObserversAreToldBeforeTheStoreIsWritten) {
@@ -116,7 +116,7 @@ TEST_F(SettingsTest, ShowInDockIsStoredAndAppliedAtOnce) {
     Settings settings = make();
     EXPECT_TRUE(application.policies.empty());
     settings.showInDock.set(true);
-    EXPECT_EQ(defaults.stored["showInDock"], PreferenceValue(true));
+    EXPECT_EQ(defaults.stored.at("showInDock"), PreferenceValue(true));
     EXPECT_THAT(application.policies, ElementsAre(Policy::regular));
     settings.showInDock.set(false);
     EXPECT_THAT(application.policies, ElementsAre(Policy::regular, Policy::accessory));
@@ -162,7 +162,7 @@ TEST_F(SettingsTest, TheScreenshotFolderIsReadBackFromTheSystem) {
 TEST_F(SettingsTest, HidingTheSystemThumbnailChangesTheSystem) {
     Settings settings = make();
     settings.setHideSystemThumbnail(true);
-    EXPECT_EQ(domain.values["show-thumbnail"], PreferenceValue(false));
+    EXPECT_EQ(domain.values.at("show-thumbnail"), PreferenceValue(false));
     EXPECT_TRUE(settings.hideSystemThumbnail.value());
 }
 
@@ -207,8 +207,8 @@ TEST_F(SettingsTest, RecommendedDefaultsLeaveTheRestAlone) {
     EXPECT_TRUE(settings.showRecordings.value());
     EXPECT_TRUE(settings.hideSystemThumbnail.value());
     EXPECT_TRUE(settings.launchAtLogin.value());
-    EXPECT_EQ(domain.values["show-thumbnail"], PreferenceValue(false));
-    EXPECT_EQ(defaults.stored["dismissAfter"], PreferenceValue(0.0));
+    EXPECT_EQ(domain.values.at("show-thumbnail"), PreferenceValue(false));
+    EXPECT_EQ(defaults.stored.at("dismissAfter"), PreferenceValue(0.0));
 
     EXPECT_TRUE(settings.copyOnCapture.value());
     EXPECT_TRUE(settings.playSound.value());

@@ -97,7 +97,7 @@ TEST_F(SystemScreenshotPrefsTest, TellsHowTheLocationCameAbout) {
 TEST_F(SystemScreenshotPrefsTest, SettingALocationCreatesItStoresItAndRestartsTheServiceOnce) {
     prefs.setLocation(screenshots);
     EXPECT_EQ(files.existence(screenshots), FileManager::Existence::directory);
-    EXPECT_EQ(domain.values["location"], PreferenceValue(screenshots.path()));
+    EXPECT_EQ(domain.values.at("location"), PreferenceValue(screenshots.path()));
     EXPECT_EQ(domain.synchronizations, 1);
     ASSERT_EQ(launcher.launched.size(), 1u);
     EXPECT_EQ(launcher.launched[0].executable, "/usr/bin/killall");
@@ -107,13 +107,13 @@ TEST_F(SystemScreenshotPrefsTest, SettingALocationCreatesItStoresItAndRestartsTh
 TEST_F(SystemScreenshotPrefsTest, AFolderThatCannotBeMadeIsStoredAllTheSame) {
     files.makeReadOnly(Url::file("/"));
     prefs.setLocation(screenshots);
-    EXPECT_EQ(domain.values["location"], PreferenceValue(screenshots.path()));
+    EXPECT_EQ(domain.values.at("location"), PreferenceValue(screenshots.path()));
     EXPECT_EQ(prefs.location(), desktop);
 }
 
 TEST_F(SystemScreenshotPrefsTest, SettingTheThumbnailStoresItAndRestartsTheServiceOnce) {
     prefs.setShowsThumbnail(false);
-    EXPECT_EQ(domain.values["show-thumbnail"], PreferenceValue(false));
+    EXPECT_EQ(domain.values.at("show-thumbnail"), PreferenceValue(false));
     EXPECT_EQ(domain.synchronizations, 1);
     EXPECT_EQ(launcher.launched.size(), 1u);
 }

@@ -397,6 +397,8 @@ TEST_F(SnapshotTest, SaysWhyItCannotBeWritten) {
     const auto failure = panel->writeSnapshot("/none/card.png");
     ASSERT_TRUE(failure.has_value());
     EXPECT_FALSE(failure->message.empty());
+    // A disk that is full.
+    EXPECT_TRUE(panel->writeSnapshot("/dev/full").has_value());
 }
 
 }  // namespace

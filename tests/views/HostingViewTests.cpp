@@ -59,13 +59,25 @@ TEST_F(HostingViewTest, BesideTheGlassAClickPassesThroughAndInsideItDoesNot) {
     EXPECT_EQ(backgroundClicks, 0);
 }
 
+TEST_F(HostingViewTest, BesideTheCardTheWindowIsClear) {
+    showTwo();
+    EXPECT_TRUE(QQuickWindow::hasDefaultAlphaBuffer());
+    EXPECT_EQ(window().color(), QColor(Qt::transparent));
+    EXPECT_EQ(QQuickWindow::textRenderType(), QQuickWindow::NativeTextRendering);
+}
+
 TEST_F(HostingViewTest, HitsAreLoggedWhileDebugging) {
     showTwo();
     fakes::CapturedLog log;
     Debug::set(true);
     click(QPointF(5, 6));
     click(frame(*tile(0)).center());
+    hover(*tile(0));
+    click(*item("CloseButton", tile(0)));
     Debug::set(false);
+    EXPECT_THAT(
+        log.lines(),
+        Contains(testing::MatchesRegex("Vantle\\[hit\\]: \\{[0-9.]+, [0-9.]+\\} -> Press")));
     EXPECT_THAT(log.lines(),
                 Contains("Vantle[hit]: pass-through at {5, 6} (card {{348, 146}, {438, 170}})"));
     EXPECT_THAT(log.lines(),

@@ -35,6 +35,13 @@ TEST_F(SpringValueTest, OrElsewhereAndThenMovesThere) {
     EXPECT_FALSE(spring.isRunning());
 }
 
+TEST_F(SpringValueTest, WhereItBeginsIsToldToWhoeverAsks) {
+    const QSignalSpy spy(&spring, &SpringValue::fromChanged);
+    spring.setFrom(10);
+    EXPECT_EQ(spy.count(), 1);
+    EXPECT_EQ(spring.from(), 10);
+}
+
 TEST_F(SpringValueTest, FollowsTheClosedForm) {
     begin(0);
     spring.setTarget(100);
