@@ -187,13 +187,12 @@ def in_turn(lists):
 
 def sample(faults, count, seed):
     """So many of them: in turn from each part of the sources, and there from each kind in each
-    file. All headers of a part count as one file: each of their faults has half of it compiled."""
+    file."""
     chance = random.Random(seed)
     groups = {}
     for fault in faults:
         columns = groups.setdefault(place_of(fault.path), {})
-        file = "headers" if fault.path.endswith(".h") else fault.path
-        columns.setdefault((file, fault.kind), []).append(fault)
+        columns.setdefault((fault.path, fault.kind), []).append(fault)
     parts = []
     for columns in groups.values():
         lists = list(columns.values())

@@ -39,6 +39,10 @@ TEST(CardLayout, UnknownPixelSizeIsDrawnAs16To10) {
     EXPECT_EQ(CardLayout::tileSize(3, *capture), (Size{160, 100}));
 }
 
+TEST(CardLayout, ASinglePixelOfWidthIsASizeThatIsKnown) {
+    EXPECT_EQ(CardLayout::tileSize(1, *captureOfSize({1, 2})), (Size{200, 190}));
+}
+
 TEST(CardLayout, A4To1PanoramaAloneIs308By120) {
     EXPECT_EQ(CardLayout::tileSize(1, *captureOfAspect(4)), (Size{308, 120}));
 }

@@ -256,6 +256,15 @@ TEST_F(PanelControllerTest, RemovalDoesNotMoveThePanel) {
     EXPECT_EQ(panel.frames.size(), frames);
 }
 
+TEST_F(PanelControllerTest, WhereTheThumbnailsStandIsLoggedOnceTheyDo) {
+    CapturedLog log(CapturedLog::DebugSwitch::on);
+    show({"a"});
+    time.advance(Seconds(1.19));
+    EXPECT_FALSE(log.contains("Vantle[dbg]: no thumbnails"));
+    time.advance(Seconds(0.02));
+    EXPECT_TRUE(log.contains("Vantle[dbg]: no thumbnails"));
+}
+
 TEST_F(PanelControllerTest, SaysWhatItDoesWhenDebugging) {
     CapturedLog log(CapturedLog::DebugSwitch::on);
     panel.glassFrame = "{{1, 2}, {3, 4}}";

@@ -111,6 +111,16 @@ TEST_F(PressGuardTest, ACardThatComesUnderAPointerWhosePlaceIsKnownTakesNoPressA
     EXPECT_FALSE(press("first", {300, 300}));
 }
 
+TEST_F(PressGuardTest, APressElsewhereIsOneOfAPointerThatHasMoved) {
+    slideSecondUnder();
+    EXPECT_TRUE(press("second", {300, 100}));
+    // And from now on it rests there.
+    guard.contentChanges(now);
+    wait(0.1);
+    guard.targetBecomes("third", now);
+    EXPECT_FALSE(press("third", {301, 100}));
+}
+
 TEST_F(PressGuardTest, ACardStandsASecondAfterItCame) {
     guard.contentChanges(now);
     wait(0.99);

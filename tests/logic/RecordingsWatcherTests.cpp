@@ -173,6 +173,16 @@ TEST_F(RecordingsWatcherTest, OnceStoppedNothingIsOpen) {
     EXPECT_THAT(captured, IsEmpty());
 }
 
+TEST_F(RecordingsWatcherTest, AFolderThatCameJustBeforeItWasStoppedIsNotWatched) {
+    start();
+    // What the queue has heard is still on its way to the main thread.
+    (void)files.createDirectory(folder);
+    scheduler.async([this] { watcher->stop(); });
+    time.settle();
+    EXPECT_EQ(watcher->state(), State::stopped);
+    EXPECT_EQ(files.openSources(), 0u);
+}
+
 TEST_F(RecordingsWatcherTest, AnotherFolderTakesThePlaceOfTheOneThatIsWaitedFor) {
     start();
     const Url other = home.appending("Clips");

@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <ctime>
+
 #include "app/StatusReport.h"
 #include "fakes/FakeFileSystem.h"
 #include "fakes/SettingsOnFakes.h"
@@ -50,9 +53,26 @@ TEST(StatusReport, TellsTheMessagesOfTheLogWithTheirTimes) {
                 EndsWith(" Vantle: cannot watch (path): missing"));
 }
 
+TEST(StatusReport, TellsTheTimeAsTheClockOnTheWallShowsIt) {
+    const char* former = std::getenv("TZ");
+    const std::string zone = former ? former : "";
+    setenv("TZ", "East-2:30", 1);
+    tzset();
+    const std::vector<LoggedMessage> messages{
+        {std::chrono::system_clock::from_time_t(1'700'000'000), "a message"}};
+    EXPECT_EQ(logFacts(messages, Paths::shown)[0].value, "2023-11-15 00:43:20 a message");
+    if (former)
+        setenv("TZ", zone.c_str(), 1);
+    else
+        unsetenv("TZ");
+    tzset();
+}
+
 TEST(StatusReport, HidesPathsWhateverTheyHold) {
     const std::vector<std::pair<const char*, const char*>> lines{
         {"nothing to hide: 1/2 and a/b", "nothing to hide: 1/2 and a/b"},
+        {"a/b", "a/b"},
+        {"0/1, 9/1, a/1, z/1, A/1, Z/1", "0/1, 9/1, a/1, z/1, A/1, Z/1"},
         {"/home/anna/a.png", "(path)"},
         {"cannot open /home/anna/My tax.pdf: Permission denied",
          "cannot open (path): Permission denied"},

@@ -295,6 +295,13 @@ TEST_F(DragPileTest, OneItemIsItsOwnPictureWithRoundCorners) {
     EXPECT_EQ(colorAt(pile, 100, 100).alpha(), 0);
 }
 
+TEST_F(DragPileTest, AnEdgeOfLightStandsOutFromWhatIsBehindIt) {
+    const DragPile pile = dragPile({item(Qt::red, 0)}, 1);
+    for (const QPointF edge : {QPointF(180, 100), QPointF(180, 199), QPointF(100, 150)})
+        EXPECT_NEAR(colorAt(pile, edge.x(), edge.y()).green(), 90, 10) << edge.x();
+    EXPECT_LT(colorAt(pile, 180, 103).green(), 10);
+}
+
 TEST_F(DragPileTest, TheFirstOfSeveralIsOnTopAndTheOthersShowBehindIt) {
     const DragPile pile = dragPile({item(Qt::red, 0), item(Qt::green, 6)}, 1);
     EXPECT_GT(colorAt(pile, 180, 150).red(), 230);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QPainter>
 #include <QQuickItem>
 #include <QQuickView>
 #include <algorithm>
@@ -37,24 +38,33 @@ protected:
             .convertToFormat(QImage::Format_Grayscale8);
     }
 
+    /// How much of each pixel the plate covers.
+    static QImage covered(QSize size, QSize plate) {
+        QImage mask(size, QImage::Format_Alpha8);
+        mask.fill(0);
+        QPainter painter(&mask);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillPath(
+            continuousRoundedRect(QRectF(QPointF(margin, margin), QSizeF(plate)), radius),
+            Qt::black);
+        return mask;
+    }
+
     /// The greatest difference from a shadow made in one piece.
     int difference(QSize size) {
         const QImage found = drawn(size);
         const QSize plate = size - 2 * QSize(margin, margin);
         const QImage whole = softShadow(plate, radius, blur);
-        const QPainterPath inside =
-            continuousRoundedRect(QRectF(QPointF(margin, margin), QSizeF(plate)), radius);
+        const QImage plateItself = covered(size, plate);
         int greatest = 0;
         for (int y = 0; y < size.height(); ++y)
             for (int x = 0; x < size.width(); ++x) {
-                const QRectF pixel(x, y, 1, 1);
-                // What the edge of the plate cuts is drawn in part.
-                if (inside.intersects(pixel) && !inside.contains(pixel)) continue;
                 // It falls `drop` lower, and the picture of it begins `blur` above and beside.
                 const QPoint at(x - drop, y - 2 * drop);
-                const bool isShaded = whole.rect().contains(at) && !inside.contains(pixel);
-                const double shade = isShaded ? whole.constScanLine(at.y())[at.x()] : 0;
-                const double expected = 255 - strength * shade;
+                const double shade =
+                    whole.rect().contains(at) ? whole.constScanLine(at.y())[at.x()] : 0;
+                const double uncovered = 1 - plateItself.constScanLine(y)[x] / 255.0;
+                const double expected = 255 - strength * shade * uncovered;
                 greatest = std::max(
                     greatest, std::abs(found.constScanLine(y)[x] - static_cast<int>(expected)));
             }
