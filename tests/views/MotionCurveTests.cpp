@@ -148,10 +148,11 @@ TEST(ScreenMotionTest, TheStepsOfTheOnboardingComeFromTheirSide) {
     const auto* content = stage.view().findChild<QQuickItem*>(QStringLiteral("content"));
     const Course course{{.response = 0.45, .dampingFraction = 0.85}, 0, 1};
     for (const auto& [button, side] : {std::pair{"Get Started", 1}, std::pair{"Back", -1}}) {
+        const double way = 60 * side;
         stage.click(QString::fromLatin1(button));
         eachLook(stage.frames, [&](double seconds) {
             EXPECT_NEAR(content->opacity(), course.clampedAt(seconds), 1e-3) << seconds;
-            EXPECT_NEAR(content->x(), (1 - course.at(seconds)) * 60 * side, 0.1) << seconds;
+            EXPECT_NEAR(content->x(), (1 - course.at(seconds)) * way, 0.1) << seconds;
         });
         stage.rest();
     }
