@@ -171,9 +171,9 @@ int debugOf(const char* value) {
 TEST(Debug, IsOnWhereItsVariableIsThereAlsoAnEmptyOne) {
     // In a process of its own each: it is looked for once.
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
-    EXPECT_EXIT(std::exit(debugOf("1")), testing::ExitedWithCode(1), "");
-    EXPECT_EXIT(std::exit(debugOf("")), testing::ExitedWithCode(1), "");
-    EXPECT_EXIT(std::exit(debugOf(nullptr)), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(std::_Exit(debugOf("1")), testing::ExitedWithCode(1), "");
+    EXPECT_EXIT(std::_Exit(debugOf("")), testing::ExitedWithCode(1), "");
+    EXPECT_EXIT(std::_Exit(debugOf(nullptr)), testing::ExitedWithCode(0), "");
 }
 
 TEST(SystemLog, KeepsAMessageOnOneLineWhateverItHolds) {
