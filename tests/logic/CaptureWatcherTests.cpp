@@ -173,6 +173,16 @@ TEST_F(CaptureWatcherTest, AnEmptiedFolderForgetsEverything) {
     EXPECT_THAT(captured, ElementsAre("old.png"));
 }
 
+TEST_F(CaptureWatcherTest, AFolderThatIsMissingTakesThePlaceOfTheFormerOne) {
+    start();
+    EXPECT_EQ(watcher->start(Url::file("/none")), WatchError::missing());
+    EXPECT_FALSE(watcher->isWatching());
+    EXPECT_EQ(files.openSources(), 0u);
+    save("new.png");
+    wait(1);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
 TEST_F(CaptureWatcherTest, OneByteIsEnough) {
     start();
     save("small.png", 1);

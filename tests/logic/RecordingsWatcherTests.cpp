@@ -183,6 +183,16 @@ TEST_F(RecordingsWatcherTest, AFolderThatCameJustBeforeItWasStoppedIsNotWatched)
     EXPECT_EQ(files.openSources(), 0u);
 }
 
+TEST_F(RecordingsWatcherTest, AFolderThatIsWaitedForTakesThePlaceOfTheOneThatIsWatched) {
+    make(folder);
+    start();
+    start(home.appending("Later"));
+    EXPECT_EQ(watcher->state(), State::waiting);
+    save("new.mp4");
+    EXPECT_THAT(captured, IsEmpty());
+    EXPECT_EQ(files.openSources(), 1u);
+}
+
 TEST_F(RecordingsWatcherTest, AnotherFolderTakesThePlaceOfTheOneThatIsWaitedFor) {
     start();
     const Url other = home.appending("Clips");
