@@ -42,6 +42,18 @@ TEST_F(AppearanceTest, TheDesktopsWishDecides) {
     EXPECT_LT(appearance.primary().lightness(), 50);
 }
 
+TEST_F(AppearanceTest, AWindowIsOfTheKindThatIsWishedForWhateverThePaletteIs) {
+    const Appearance appearance;
+    setPalette(Qt::white, Qt::black);
+    desktop.look.set({.scheme = ColorScheme::dark});
+    EXPECT_EQ(appearance.windowBackground(), QColor(40, 40, 43));
+    setPalette(Qt::black, Qt::white);
+    desktop.look.set({.scheme = ColorScheme::light});
+    EXPECT_EQ(appearance.windowBackground(), QColor(239, 239, 241));
+    setPalette(QColor(230, 231, 232), Qt::black);
+    EXPECT_EQ(appearance.windowBackground(), QColor(230, 231, 232));
+}
+
 TEST_F(AppearanceTest, WithoutAWishThePaletteDecides) {
     const Appearance appearance;
     setPalette(Qt::black, Qt::white);
