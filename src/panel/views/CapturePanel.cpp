@@ -11,6 +11,7 @@
 #include "panel/views/DragThumbnailView.h"
 #include "panel/views/ThumbnailProvider.h"
 #include "platform/qt/QtGeometry.h"
+#include "platform/wayland/Connection.h"
 
 namespace vantle {
 namespace {
@@ -95,8 +96,10 @@ void CapturePanel::orderOut() {
 }
 
 void CapturePanel::releaseResources() {
-    // What draws the tiles goes with the next frame, and a window that is hidden has none.
-    if (view_->rendererInterface()->graphicsApi() == QSGRendererInterface::Software)
+    // What draws the tiles goes with the next frame, and a window that is hidden has none. One of
+    // Wayland has nothing left to draw on.
+    const bool isDrawn = view_->handle() && !wayland::display();
+    if (isDrawn && view_->rendererInterface()->graphicsApi() == QSGRendererInterface::Software)
         view_->grabWindow();
     view_->releaseResources();
     view_->engine()->collectGarbage();
