@@ -175,7 +175,8 @@ def test_a_tray_on_x_that_starts_anew(desktop, vantle):
 @without_tray
 def test_without_a_tray_the_user_is_told_once(desktop, vantle):
     vantle.start_watching()
-    wait_until(desktop.screen.dialogs, "it is explained", limit=60.0)
+    alert = wait_until(desktop.screen.dialogs, "it is explained", limit=60.0)[0]
+    wait_until(lambda: desktop.screen.active_window() == alert, "it has the keyboard")
     desktop.screen.keyboard.press("Return")
     wait_until(lambda: not desktop.screen.dialogs(), "the explanation is gone")
     assert "hasExplainedMissingTray=true" in vantle.settings_file.read_text()
