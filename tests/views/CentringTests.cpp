@@ -160,7 +160,10 @@ TEST_F(CentredCardTest, WhatMarksATileStandsInTheMiddleOfItsPlate) {
     expectWhollyInTheMiddleOf(*item("Symbol", mark), *mark);
     expectWhollyInTheMiddleOf(*item("QQuickRectangle", mark), *mark);
     auto* badge = item("DurationBadge", tile(0));
-    expectWhollyInTheMiddleOf(*item("QQuickRow", badge), *badge);
+    // The plate has a whole width, and its row begins at a whole place; letters have neither.
+    const QPointF middle = frame(*item("QQuickRow", badge)).center();
+    EXPECT_NEAR(middle.x(), frame(*badge).center().x(), 1);
+    EXPECT_NEAR(middle.y(), frame(*badge).center().y(), 1);
 }
 
 }  // namespace
