@@ -22,6 +22,7 @@ sys.dont_write_bytecode = True
 
 import curves  # noqa: E402
 import readings  # noqa: E402
+from desktop_figures import size  # noqa: E402
 from panel_checks import card_of, encoded  # noqa: E402
 from pictures import pattern  # noqa: E402
 from privatedesktop import PrivateDesktop, Program, WaitTimeout, wait_until  # noqa: E402
@@ -196,11 +197,6 @@ def verdict(samples, kind):
 def bands(samples):
     return [(label, [(one["captures"], one[kind]) for one in samples], None)
             for kind, label in KINDS.items()]
-
-
-def size(text):
-    width, height = text.split("x")
-    return int(width), int(height)
 
 
 def main():
