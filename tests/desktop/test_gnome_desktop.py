@@ -84,7 +84,8 @@ class Menu:
     def __init__(self, gnome, place, button=1):
         self._gnome = gnome
         x, y = place
-        before = gnome.screen.screenshot()
+        # The menu before may still fade.
+        before = wait_until_still(gnome.screen.screenshot, "the screen")
         gnome.screen.pointer.move(x - 3, y)
         gnome.screen.pointer.click(x, y, button)
         wait_until(lambda: self._is_below_bar(before), "the menu opens")

@@ -15,6 +15,7 @@ from wayland_checks import (
     check_clicks_pass,
     check_copied_by_itself,
     check_corner,
+    check_drag_onto_a_window_that_hangs,
     check_dragged_into_a_native_window,
     check_ends_with_compositor,
     check_escape_ends_a_drag,
@@ -94,8 +95,12 @@ def test_dragged_into_a_native_window(kwin, vantle):
 
 def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(kwin, vantle):
     window = NativeWindow(kwin, "--takes-no-files")
-    check_flies_back(kwin, vantle, (300, 300), (300, 300))
+    check_flies_back(kwin, vantle, (300, 300), (300, 300), window=window)
     click_through(kwin, window, [(320, 320)])
+
+
+def test_a_drag_onto_a_window_that_hangs_ends_when_the_pointer_comes_back(kwin, vantle):
+    check_drag_onto_a_window_that_hangs(kwin, vantle)
 
 
 def test_escape_ends_a_drag(kwin, vantle):

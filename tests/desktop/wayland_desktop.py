@@ -7,6 +7,7 @@ its screen shows is what the compositor shows.
 import os
 import pathlib
 import shutil
+import signal
 
 from build_tree import copy_program
 from privatedesktop import DesktopFailure, Rectangle, WaitTimeout, wait_until
@@ -155,8 +156,10 @@ class NativeWindow:
 
     def __init__(self, desktop, *options):
         program = desktop.lend(pathlib.Path(__file__).with_name("native_window.py"))
-        desktop.start("env", f"GDK_BACKEND={desktop.toolkit_backend}",
-                      "sh", "-c", 'exec "$@" >> "$TMPDIR/native.log"', "sh", program, *options)
+        self._process = desktop.start(
+            "env", f"GDK_BACKEND={desktop.toolkit_backend}",
+            "sh", "-c", 'exec "$@" >> "$TMPDIR/native.log"', "sh", program, *options,
+        )  # fmt: skip
         self._log = desktop.folder / "native.log"
         self._wait_for_keyboard()
 
@@ -180,9 +183,17 @@ class NativeWindow:
     def typed(self):
         return "".join(self._all("key"))
 
+    def times_asked(self):
+        """How often it was asked what it does with what is dragged over it."""
+        return len(self._all("drag"))
+
     def is_asked(self):
         """Whether something is dragged over it."""
-        return bool(self._all("drag"))
+        return self.times_asked() > 0
+
+    def hang(self):
+        """It answers nobody from now on."""
+        self._process.send_signal(signal.SIGSTOP)
 
     def dropped(self):
         return self._all("drop")

@@ -17,6 +17,7 @@
 #include "platform/qt/FileUse.h"
 #include "platform/qt/InputRegion.h"
 #include "platform/wayland/Connection.h"
+#include "platform/wayland/DragEnd.h"
 #include "platform/wayland/PointerRelease.h"
 #include "support/Debug.h"
 
@@ -82,6 +83,8 @@ public:
 private:
     static Qt::DropAction exec(QDrag& drag) {
         const DropGround ground;
+        wayland::DragEnd untoldEnd;
+        QObject::connect(&drag, &QDrag::actionChanged, &untoldEnd, &wayland::DragEnd::setPromise);
         return drag.exec(Qt::CopyAction);
     }
 
