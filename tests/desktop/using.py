@@ -56,7 +56,7 @@ class Drag:
         return self.move_until(is_promised, "the drop target promises to take it", x, y)
 
     def move_until(self, condition, what, x, y):
-        """Moves there and a little to and fro: nobody is asked while the pointer rests."""
+        """Moves there and a little back and forth: nobody is asked while the pointer rests."""
         self.move(x, y)
         turn = 0
 

@@ -342,7 +342,8 @@ def check_drag_onto_a_window_that_hangs(desktop, vantle):
     desktop.screen.pointer.release()
     desktop.screen.pointer.move(*tile.centre)
     assert not drag.was_taken()
-    wait_until(lambda: is_one_pattern(desktop.screen.screenshot(corner(desktop))), "the tile is back")
+    card = corner(desktop)
+    wait_until(lambda: is_one_pattern(desktop.screen.screenshot(card)), "the tile is back")
     press(desktop, tile, "copy")
     vantle.wait_for_log("tap icon doc.on.doc")
 
