@@ -26,11 +26,6 @@ def on_event(_, event):
     return False
 
 
-def promise_nothing(_, context, x, y, time):
-    Gdk.drag_status(context, 0, time)
-    return True
-
-
 def refuse(_, context, x, y, time):
     """What it has promised to take."""
     tell("refused", x, y)
@@ -41,11 +36,7 @@ def refuse(_, context, x, y, time):
 def main():
     window = Gtk.Window(title="Native window")
     window.add_events(Gdk.EventMask.BUTTON_PRESS_MASK)
-    window.connect("drag-motion", lambda _, context, x, y, time: tell("drag", x, y))
-    if "--takes-no-files" in sys.argv:
-        window.drag_dest_set(0, [], 0)
-        window.connect("drag-motion", promise_nothing)
-    else:
+    if "--takes-no-files" not in sys.argv:
         window.drag_dest_set(Gtk.DestDefaults.ALL, [], Gdk.DragAction.COPY)
         window.drag_dest_add_uri_targets()
     if "--breaks-promises" in sys.argv:
@@ -55,6 +46,7 @@ def main():
     window.connect("focus-in-event", lambda *_: tell("focus"))
     window.connect("focus-out-event", lambda *_: tell("blur"))
     window.connect("event", on_event)
+    window.connect("drag-motion", lambda _, context, x, y, time: tell("drag", x, y))
     window.connect(
         "drag-data-received",
         lambda _, context, x, y, data, *rest: [tell("drop", uri) for uri in data.get_uris()],

@@ -95,7 +95,7 @@ def test_dragged_into_a_native_window(kwin, vantle):
 
 def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(kwin, vantle):
     window = NativeWindow(kwin, "--takes-no-files")
-    check_flies_back(kwin, vantle, (300, 300), (300, 300), window=window)
+    check_flies_back(kwin, vantle, (300, 300), (300, 300), comes_back=True)
     click_through(kwin, window, [(320, 320)])
 
 

@@ -49,24 +49,17 @@ class Drag:
 
     def hold_over(self, x, y):
         """Waits there until the program under the pointer promises to take what is dragged."""
-
-        def is_promised():
-            return re.findall(r"drop target promised=(\w+)", self._log())[-1:] == ["true"]
-
-        return self.move_until(is_promised, "the drop target promises to take it", x, y)
-
-    def move_until(self, condition, what, x, y):
-        """Moves there and a little back and forth: nobody is asked while the pointer rests."""
         self.move(x, y)
         turn = 0
 
-        def is_true():
+        def is_promised():
+            # Nobody is asked while the pointer rests.
             nonlocal turn
             turn += 1
             self._pointer.move(x + turn % 3, y)
-            return condition()
+            return re.findall(r"drop target promised=(\w+)", self._log())[-1:] == ["true"]
 
-        wait_until(is_true, what, interval=0.1)
+        wait_until(is_promised, "the drop target promises to take it", interval=0.1)
         return self
 
     def drop(self):

@@ -183,13 +183,9 @@ class NativeWindow:
     def typed(self):
         return "".join(self._all("key"))
 
-    def times_asked(self):
-        """How often it was asked what it does with what is dragged over it."""
-        return len(self._all("drag"))
-
     def is_asked(self):
         """Whether something is dragged over it."""
-        return self.times_asked() > 0
+        return bool(self._all("drag"))
 
     def hang(self):
         """It answers nobody from now on."""
