@@ -199,7 +199,16 @@ class Screen:
         )
 
     def switch_workspace(self, number):
-        self._send_to_root("_NET_CURRENT_DESKTOP", self._root, [number, X.CurrentTime, 0, 0, 0])
+        """Asks until the window manager is there: one that has just activated a window may come
+        back to that."""
+
+        def is_there():
+            if self.current_workspace() == number:
+                return True
+            self._send_to_root("_NET_CURRENT_DESKTOP", self._root, [number, X.CurrentTime, 0, 0, 0])
+            return False
+
+        wait_until(is_there, f"the workspace {number} is shown", interval=0.5)
 
     def change_state(self, window_number, action, state):
         """Asks the window manager to add (1) or remove (0) a _NET_WM_STATE."""
