@@ -4,6 +4,7 @@ So the pointer and the keyboard of the private desktop are real ones for the com
 its screen shows is what the compositor shows.
 """
 
+import contextlib
 import os
 import pathlib
 import shutil
@@ -101,7 +102,9 @@ class WaylandDesktop:
         if os.geteuid() != 0:
             return
         for path in (self.folder, *self.folder.iterdir(), *self.home.rglob("*")):
-            shutil.chown(path, _NOBODY, _NOBODY)
+            # What its programs write for a moment may have gone meanwhile.
+            with contextlib.suppress(FileNotFoundError):
+                shutil.chown(path, _NOBODY, _NOBODY)
 
     def _command(self, command):
         variables = [f"{name}={text}" for name, text in self.environment.items()]
