@@ -4,6 +4,7 @@ Each test runs in its Wayland session and in the one on X11.
 """
 
 import pathlib
+import subprocess
 
 import pytest
 
@@ -49,6 +50,12 @@ def gnome(request, desktop):
 def vantle(gnome, binary):
     with program_on(gnome, binary) as program:
         yield program
+
+
+def shell_version():
+    told = subprocess.run(["gnome-shell", "--version"], stdout=subprocess.PIPE, text=True,
+                          check=True)
+    return told.stdout.removeprefix("GNOME Shell ")
 
 
 def place_of_icon(gnome):
@@ -110,7 +117,9 @@ def test_clicks_beside_the_card_reach_the_window_underneath(gnome, vantle):
 
 
 def test_clicks_beside_the_card_pass_while_its_time_runs(gnome, binary):
-    check_clicks_pass_while_time_runs(gnome, binary)
+    # The shell of GNOME 43 is told by timing which clicks pass, and may miss it while it is busy.
+    is_told_by_timing = type(gnome) is GnomeShellDesktop and shell_version().startswith("43.")
+    check_clicks_pass_while_time_runs(gnome, binary, tries=2 if is_told_by_timing else 1)
 
 
 def test_clicks_count_when_the_card_comes_under_a_pointer_at_rest(gnome, vantle):
