@@ -1,10 +1,10 @@
-// What can be done with captures, and what becomes of those that were used.
+#include "panel/CaptureActions.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
 
-#include "panel/CapturePanelController.h"
 #include "support/Debug.h"
 #include "support/SystemLog.h"
 #include "support/Weakly.h"
@@ -22,11 +22,6 @@ constexpr Seconds removalAfterCopyOfSelection{0.3};
 // By then whoever took the file has its contents.
 constexpr Seconds trashDelay{5};
 
-std::set<UUID> toggled(std::set<UUID> ids, const UUID& id) {
-    if (ids.erase(id) == 0) ids.insert(id);
-    return ids;
-}
-
 std::vector<Url> urls(const std::vector<CapturePointer>& captures) {
     std::vector<Url> urls;
     urls.reserve(captures.size());
@@ -43,39 +38,55 @@ Trash::Completion logging(std::string introduction) {
 
 }  // namespace
 
-bool CapturePanelController::isThere(const CapturePointer& capture) {
+std::shared_ptr<CaptureActions> CaptureActions::create(const Services& services) {
+    return std::shared_ptr<CaptureActions>(new CaptureActions(services));
+}
+
+void CaptureActions::open(const CapturePointer& capture) {
+    if (!isThere(capture)) return;
+    services_.opener.open(capture->url());
+    afterUse({capture});
+}
+
+void CaptureActions::reveal(const CapturePointer& capture) {
+    if (!isThere(capture)) return;
+    services_.opener.reveal({capture->url()});
+    afterUse({capture});
+}
+
+bool CaptureActions::isThere(const CapturePointer& capture) {
     if (services_.files.existence(capture->url()) != FileManager::Existence::none) return true;
-    state_.missingID.set(capture->id());
+    services_.state.missingID.set(capture->id());
     services_.scheduler.after(missingNotice,
                               weakly(shared_from_this(), [id = capture->id()](auto& self) {
-                                  if (self.state_.missingID.value() == id)
-                                      self.state_.missingID.set(std::nullopt);
+                                  auto& missing = self.services_.state.missingID;
+                                  if (missing.value() == id) missing.set(std::nullopt);
                               }));
     return false;
 }
 
-void CapturePanelController::copy(const CapturePointer& capture) {
+void CaptureActions::copy(const CapturePointer& capture) {
     copyToPasteboard({capture});
-    state_.animate(defaultAnimation, [&] { state_.copiedID.set(capture->id()); });
+    services_.state.animate(defaultAnimation, [&] { services_.state.copiedID.set(capture->id()); });
     services_.scheduler.after(
         copiedConfirmation, weakly(shared_from_this(), [id = capture->id()](auto& self) {
-            if (self.state_.copiedID.value() != id) return;
-            self.state_.animate(defaultAnimation,
-                                [&self] { self.state_.copiedID.set(std::nullopt); });
+            PanelState& state = self.services_.state;
+            if (state.copiedID.value() != id) return;
+            state.animate(defaultAnimation, [&state] { state.copiedID.set(std::nullopt); });
         }));
     afterUse({capture}, removalAfterCopy);
     trashLater({capture});
 }
 
-void CapturePanelController::copySelected() {
-    const auto captures = selectedCaptures();
+void CaptureActions::copySelected() {
+    const auto captures = services_.selection.captures();
     if (captures.empty()) return;
     copyToPasteboard(captures);
     afterUse(captures, removalAfterCopyOfSelection);
     trashLater(captures);
 }
 
-void CapturePanelController::copyToPasteboard(const std::vector<CapturePointer>& captures) {
+void CaptureActions::copyToPasteboard(const std::vector<CapturePointer>& captures) {
     Pasteboard& pasteboard = services_.pasteboard;
     pasteboard.clearContents();
     std::vector<PasteboardObject> objects;
@@ -88,47 +99,49 @@ void CapturePanelController::copyToPasteboard(const std::vector<CapturePointer>&
     pasteboard.writeObjects(objects);
 }
 
-void CapturePanelController::share(const CapturePointer& capture, const Rect& anchor) {
-    pauseCountdown();
-    isSharing_ = true;
+void CaptureActions::share(const CapturePointer& capture, const Rect& anchor) {
+    services_.countdown.shareMenuOpened();
     shareDelegate_ = std::make_shared<ShareCompletion>(
         weakly(shared_from_this(), [capture](auto& self, bool wasChosen) {
-            self.isSharing_ = false;
-            self.resumeCountdown();
+            self.services_.countdown.shareMenuClosed();
             if (wasChosen) self.afterUse({capture});
         }));
-    services_.sharing.show({capture->url()}, panel_->onScreen(anchor), shareDelegate_);
+    services_.sharing.show({capture->url()}, anchor, shareDelegate_);
 }
 
-void CapturePanelController::trash(const CapturePointer& capture) {
+void CaptureActions::closeShareMenu() {
+    if (services_.countdown.isShareMenuOpen()) services_.sharing.close();
+}
+
+void CaptureActions::trash(const CapturePointer& capture) {
     trashAll({capture});
 }
 
-void CapturePanelController::trashSelected() {
-    trashAll(selectedCaptures());
+void CaptureActions::trashSelected() {
+    trashAll(services_.selection.captures());
 }
 
-void CapturePanelController::trashAll(const std::vector<CapturePointer>& captures) {
+void CaptureActions::trashAll(const std::vector<CapturePointer>& captures) {
     if (captures.empty()) return;
     services_.trash.recycle(urls(captures), logging("Trash failed: "));
-    removeMany(captures);
+    onRemove(captures);
 }
 
-void CapturePanelController::removeSelected() {
-    removeMany(selectedCaptures());
+void CaptureActions::removeSelected() {
+    onRemove(services_.selection.captures());
 }
 
-void CapturePanelController::afterUse(const std::vector<CapturePointer>& captures, Seconds delay) {
+void CaptureActions::afterUse(const std::vector<CapturePointer>& captures, Seconds delay) {
     if (!services_.settings.removeAfterUse.value() || captures.empty()) return;
     if (delay <= Seconds(0)) {
-        removeMany(captures);
+        onRemove(captures);
         return;
     }
     services_.scheduler.after(
-        delay, weakly(shared_from_this(), [captures](auto& self) { self.removeMany(captures); }));
+        delay, weakly(shared_from_this(), [captures](auto& self) { self.onRemove(captures); }));
 }
 
-void CapturePanelController::trashLater(const std::vector<CapturePointer>& captures) {
+void CaptureActions::trashLater(const std::vector<CapturePointer>& captures) {
     if (!services_.settings.deleteAfterUse.value() || captures.empty()) return;
     services_.scheduler.after(
         trashDelay, weakly(shared_from_this(), [files = urls(captures)](auto& self) {
@@ -136,55 +149,39 @@ void CapturePanelController::trashLater(const std::vector<CapturePointer>& captu
         }));
 }
 
-void CapturePanelController::toggleSelect(const CapturePointer& capture) {
-    state_.selected.set(toggled(state_.selected.value(), capture->id()));
-}
-
-void CapturePanelController::togglePin(const CapturePointer& capture) {
-    state_.animate(pinSpring,
-                   [&] { state_.pinned.set(toggled(state_.pinned.value(), capture->id())); });
+void CaptureActions::togglePin(const CapturePointer& capture) {
+    PanelState& state = services_.state;
+    auto pinned = state.pinned.value();
+    if (pinned.erase(capture->id()) == 0) pinned.insert(capture->id());
+    state.animate(pinSpring, [&] { state.pinned.set(std::move(pinned)); });
     Debug::log(
-        [this] { return "pin toggled; pinned=" + std::to_string(state_.pinned.value().size()); });
+        [&] { return "pin toggled; pinned=" + std::to_string(state.pinned.value().size()); });
 }
 
-void CapturePanelController::clearSelection() {
-    if (!state_.selected.value().empty()) state_.selected.set({});
-}
-
-std::vector<DragItem> CapturePanelController::dragItems(const CapturePointer& startingFrom) const {
+std::vector<DragItem> CaptureActions::dragItems(const CapturePointer& startingFrom) const {
     const auto item = [](const CapturePointer& capture) {
         return DragItem{capture->url(), capture->thumbnail()};
     };
     std::vector<DragItem> items{item(startingFrom)};
-    if (!state_.selected.value().contains(startingFrom->id())) return items;
-    for (const auto& capture : selectedCaptures())
+    if (!services_.selection.contains(startingFrom)) return items;
+    for (const auto& capture : services_.selection.captures())
         if (capture->id() != startingFrom->id()) items.push_back(item(capture));
     return items;
 }
 
-void CapturePanelController::dragBegan() {
-    ++drags_;
-    pauseCountdown();
+void CaptureActions::dragBegan() {
+    services_.countdown.dragBegan();
 }
 
-void CapturePanelController::dragEnded(bool completed, const std::vector<Url>& urls) {
-    drags_ = std::max(drags_ - 1, 0);
-    if (!isInUse()) resumeCountdown();
+void CaptureActions::dragEnded(bool completed, const std::vector<Url>& urls) {
+    services_.countdown.dragEnded();
     if (!completed) return;
     std::vector<CapturePointer> dragged;
     std::ranges::copy_if(
-        state_.captures.value(), std::back_inserter(dragged),
+        services_.state.captures.value(), std::back_inserter(dragged),
         [&](const auto& capture) { return std::ranges::find(urls, capture->url()) != urls.end(); });
     afterUse(dragged);
     trashLater(dragged);
-}
-
-std::vector<CapturePointer> CapturePanelController::selectedCaptures() const {
-    std::vector<CapturePointer> selected;
-    std::ranges::copy_if(
-        state_.captures.value(), std::back_inserter(selected),
-        [this](const auto& capture) { return state_.selected.value().contains(capture->id()); });
-    return selected;
 }
 
 }  // namespace vantle

@@ -1,9 +1,12 @@
 #include "panel/CapturePanelController.h"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 #include <string>
 #include <utility>
 
+#include "panel/CardActionsFactory.h"
 #include "panel/CardLayout.h"
 #include "support/Debug.h"
 #include "support/SystemLog.h"
@@ -15,8 +18,6 @@ namespace {
 constexpr Seconds hideDelay{0.5};
 constexpr Seconds releaseDelay{2};  // so that who takes a screenshot a second waits for nothing
 constexpr Seconds debugDumpDelay{1.2};
-constexpr Seconds snapshotDelay{1.2};
-constexpr Seconds betweenSnapshots{1};
 constexpr Animation removalSpring{.response = 0.45, .dampingFraction = 0.82};
 constexpr Rect frameWithoutScreens{{0, 0}, {1440, 900}};
 
@@ -37,25 +38,40 @@ Rect visibleFrame(const Screens& screens) {
 }  // namespace
 
 std::shared_ptr<CapturePanelController> CapturePanelController::create(Services services) {
-    return std::shared_ptr<CapturePanelController>(new CapturePanelController(std::move(services)));
+    const std::shared_ptr<CapturePanelController> controller(
+        new CapturePanelController(std::move(services)));
+    controller->connect();
+    return controller;
 }
 
-CapturePanelController::CapturePanelController(Services services) : services_(std::move(services)) {
-    cancellables_.push_back(state_.hovering.observeChanges([this](bool hovering) {
-        if (hovering)
-            pauseCountdown();
-        else if (!isInUse())
-            resumeCountdown();
-    }));
-    cancellables_.push_back(services_.settings.corner.observeChanges([this](PanelCorner) {
+CapturePanelController::CapturePanelController(Services services)
+    : services_(std::move(services)),
+      countdown_(Countdown::create(
+          {.settings = services_.settings, .scheduler = services_.scheduler, .state = state_})),
+      captureActions_(CaptureActions::create({.settings = services_.settings,
+                                              .scheduler = services_.scheduler,
+                                              .opener = services_.opener,
+                                              .files = services_.files,
+                                              .pasteboard = services_.pasteboard,
+                                              .sharing = services_.sharing,
+                                              .trash = services_.trash,
+                                              .state = state_,
+                                              .selection = selection_,
+                                              .countdown = *countdown_})),
+      snapshots_(DebugSnapshots::create(services_.scheduler)) {}
+
+void CapturePanelController::connect() {
+    const auto self = shared_from_this();
+    countdown_->onExpiry = weakly(self, [](auto& controller) { controller.expire(); });
+    captureActions_->onRemove = weakly(
+        self, [](auto& controller, const auto& captures) { controller.removeMany(captures); });
+    snapshots_->onDue =
+        weakly(self, [](auto& controller, const auto& path) { controller.writeSnapshot(path); });
+    corner_ = services_.settings.corner.observeChanges([this](PanelCorner) {
         // A change is announced before it is stored.
         services_.scheduler.async(
-            weakly(shared_from_this(), [](auto& self) { self.moveToCorner(); }));
-    }));
-}
-
-CapturePanelController::~CapturePanelController() {
-    invalidateTimers();
+            weakly(shared_from_this(), [](auto& controller) { controller.moveToCorner(); }));
+    });
 }
 
 void CapturePanelController::show(const CapturePointer& capture) {
@@ -70,7 +86,7 @@ void CapturePanelController::show(const CapturePointer& capture) {
     add(capture);
     state_.copiedID.set(std::nullopt);
     present();
-    restartCountdown();
+    countdown_->restart();
     scheduleDebugHooks();
     Debug::log([this] {
         return "panel shows " + std::to_string(state_.captures.value().size()) + " capture(s)";
@@ -78,11 +94,13 @@ void CapturePanelController::show(const CapturePointer& capture) {
 }
 
 void CapturePanelController::createPanel() {
-    panel_ = services_.makePanel(state_, services_.settings, makeActions());
+    panel_ = services_.makePanel(
+        state_, services_.settings,
+        makeCardActions(shared_from_this(), *captureActions_, selection_, services_.opener));
     panel_->onMarquee =
         weakly(shared_from_this(), [](auto& self, const auto& rect) { self.marqueeChanged(rect); });
     panel_->onBackgroundClick =
-        weakly(shared_from_this(), [](auto& self) { self.clearSelection(); });
+        weakly(shared_from_this(), [](auto& self) { self.selection_.clear(); });
     position(*panel_);
 }
 
@@ -130,20 +148,8 @@ void CapturePanelController::present() {
         weakly(shared_from_this(), [](auto& self) { self.state_.visible.set(true); }));
 }
 
-void CapturePanelController::restartCountdown() {
-    invalidateTimers();
-    pausedRemaining_.reset();
-    state_.progress.set(1.0);
-    const Seconds dismissAfter(services_.settings.dismissAfter.value());
-    if (!(dismissAfter > Seconds(0))) return;
-    if (state_.hovering.value() || isInUse())
-        pausedRemaining_ = dismissAfter;
-    else
-        startTimers(dismissAfter);
-}
-
 void CapturePanelController::scheduleDebugHooks() {
-    if (const auto path = services_.environment("VANTLE_SNAPSHOT")) scheduleSnapshot(*path);
+    if (const auto path = services_.environment("VANTLE_SNAPSHOT")) snapshots_->schedule(*path);
     if (Debug::on())
         services_.scheduler.after(
             debugDumpDelay, weakly(shared_from_this(), [](auto& self) {
@@ -151,22 +157,17 @@ void CapturePanelController::scheduleDebugHooks() {
             }));
 }
 
-void CapturePanelController::scheduleSnapshot(const std::string& path) {
-    ++snapshotsDue_;
-    services_.scheduler.after(snapshotDelay, weakly(shared_from_this(), [path](auto& self) {
-                                  self.snapshotIsDue(path);
-                              }));
-}
-
-void CapturePanelController::snapshotIsDue(const std::string& path) {
-    const bool isLast = --snapshotsDue_ == 0;
-    const auto& scheduler = services_.scheduler;
-    // Each is a whole card. Of captures that come in a crowd there is nothing to see but the last
-    // one, and a program that draws them all answers nobody meanwhile.
-    if (!isLast && lastSnapshot_ && scheduler.now() - *lastSnapshot_ < betweenSnapshots) return;
+void CapturePanelController::writeSnapshot(const std::string& path) {
     if (const Outcome failure = panel_->writeSnapshot(path))
         systemLog("Vantle: snapshot failed " + failure->message);
-    lastSnapshot_ = scheduler.now();
+}
+
+void CapturePanelController::copy(const CapturePointer& capture) {
+    captureActions_->copy(capture);
+}
+
+void CapturePanelController::share(const CapturePointer& capture, const Rect& anchor) {
+    captureActions_->share(capture, panel_->onScreen(anchor));
 }
 
 void CapturePanelController::remove(const CapturePointer& capture) {
@@ -212,26 +213,27 @@ void CapturePanelController::marqueeChanged(const std::optional<Rect>& rect) {
     if (!state_.visible.value()) return;
     const bool begins = rect && !state_.marquee.value();
     state_.marquee.set(rect);
-    if (begins) pauseCountdown();
-    if (rect) {
-        auto hits = touched(*rect);
-        if (hits != state_.selected.value()) state_.selected.set(std::move(hits));
-    } else if (!isInUse() && !state_.hovering.value()) {
-        resumeCountdown();
-    }
+    if (begins) countdown_->pause();
+    if (rect)
+        selection_.selectTouched(*rect, panel_->visibleThumbnails());
+    else
+        countdown_->marqueeEnded();
 }
 
-std::set<UUID> CapturePanelController::touched(const Rect& rect) const {
+void CapturePanelController::expire() {
     const auto& captures = state_.captures.value();
-    std::set<UUID> hits;
-    for (const auto& [id, frame] : panel_->visibleThumbnails()) {
-        const bool isSeen = frame.size.width > 0 && frame.size.height > 0;
-        const auto isThat = [&id = id](const auto& capture) { return capture->id() == id; };
-        // A tile that is on its way out stands for no capture of the card.
-        if (isSeen && intersects(frame, rect) && std::ranges::any_of(captures, isThat))
-            hits.insert(id);
+    const auto& pinned = state_.pinned.value();
+    std::vector<CapturePointer> expiring;
+    std::ranges::copy_if(captures, std::back_inserter(expiring),
+                         [&](const auto& capture) { return !pinned.contains(capture->id()); });
+    if (expiring.size() == captures.size()) {
+        dismiss();
+        return;
     }
-    return hits;
+    Debug::log(
+        [&] { return "timer expired; keeping " + std::to_string(pinned.size()) + " pinned"; });
+    countdown_->reset();
+    removeMany(expiring);
 }
 
 void CapturePanelController::dismiss() {
@@ -240,9 +242,8 @@ void CapturePanelController::dismiss() {
                " count=" + std::to_string(state_.captures.value().size());
     });
     // The menu points at a card that is no longer there.
-    if (isSharing_) services_.sharing.close();
-    invalidateTimers();
-    pausedRemaining_.reset();
+    captureActions_->closeShareMenu();
+    countdown_->stop();
     state_.hovering.set(false);
     state_.selected.set({});
     state_.pinned.set({});

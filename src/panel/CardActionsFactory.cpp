@@ -1,49 +1,49 @@
-// The callbacks through which the card reaches the controller.
+#include "panel/CardActionsFactory.h"
 
-#include "panel/CapturePanelController.h"
 #include "support/Weakly.h"
 
 namespace vantle {
 
-CardActions CapturePanelController::makeActions() {
-    const auto self = shared_from_this();
-    using Controller = CapturePanelController;
-    const auto weak = [&self](auto operation) {
-        return weakly(self, [operation](Controller& controller, const auto&... arguments) {
-            (controller.*operation)(arguments...);
+CardActions makeCardActions(const std::shared_ptr<CapturePanelController>& controller,
+                            CaptureActions& captures, Selection& selection, FileOpener& opener) {
+    // The parts live while the controller does.
+    const auto weak = [&controller](auto& part, auto operation) {
+        return weakly(controller, [&part, operation](auto&, const auto&... arguments) {
+            (part.*operation)(arguments...);
         });
+    };
+    const std::weak_ptr<CapturePanelController> held = controller;
+    // The file is opened and shown also when the controller has gone.
+    const auto look = [&held, &captures](auto operation, auto otherwise) {
+        return [held, &captures, operation, otherwise](const CapturePointer& capture) {
+            if (const auto owner = held.lock())
+                (captures.*operation)(capture);
+            else
+                otherwise(capture->url());
+        };
     };
 
     CardActions actions;
-    actions.close = weak(&Controller::remove);
-    actions.closeAll = weak(&Controller::dismiss);
-    // The file is opened and shown also when the controller has gone.
-    const auto afterLook = [weakSelf = weak_from_this()](auto handOver) {
-        return [weakSelf, handOver](const CapturePointer& capture) {
-            const auto controller = weakSelf.lock();
-            if (controller && !controller->isThere(capture)) return;
-            handOver(capture->url());
-            if (controller) controller->afterUse({capture});
-        };
+    actions.close = weak(*controller, &CapturePanelController::remove);
+    actions.closeAll = weak(*controller, &CapturePanelController::dismiss);
+    actions.open = look(&CaptureActions::open, [&opener](const Url& file) { opener.open(file); });
+    actions.reveal =
+        look(&CaptureActions::reveal, [&opener](const Url& file) { opener.reveal({file}); });
+    actions.copy = weak(captures, &CaptureActions::copy);
+    actions.share = weak(*controller, &CapturePanelController::share);
+    actions.trash = weak(captures, &CaptureActions::trash);
+    actions.toggleSelect = weak(selection, &Selection::toggle);
+    actions.togglePin = weak(captures, &CaptureActions::togglePin);
+    actions.clearSelection = weak(selection, &Selection::clear);
+    actions.dragItems = [held, &captures](const CapturePointer& startingFrom) {
+        const auto owner = held.lock();
+        return owner ? captures.dragItems(startingFrom) : std::vector<DragItem>{};
     };
-    FileOpener& opener = services_.opener;
-    actions.open = afterLook([&opener](const Url& file) { opener.open(file); });
-    actions.reveal = afterLook([&opener](const Url& file) { opener.reveal({file}); });
-    actions.copy = weak(&Controller::copy);
-    actions.share = weak(&Controller::share);
-    actions.trash = weak(&Controller::trash);
-    actions.toggleSelect = weak(&Controller::toggleSelect);
-    actions.togglePin = weak(&Controller::togglePin);
-    actions.clearSelection = weak(&Controller::clearSelection);
-    actions.dragItems = [weakSelf = weak_from_this()](const CapturePointer& startingFrom) {
-        const auto controller = weakSelf.lock();
-        return controller ? controller->dragItems(startingFrom) : std::vector<DragItem>{};
-    };
-    actions.dragBegan = weak(&Controller::dragBegan);
-    actions.dragEnded = weak(&Controller::dragEnded);
-    actions.copySelected = weak(&Controller::copySelected);
-    actions.trashSelected = weak(&Controller::trashSelected);
-    actions.removeSelected = weak(&Controller::removeSelected);
+    actions.dragBegan = weak(captures, &CaptureActions::dragBegan);
+    actions.dragEnded = weak(captures, &CaptureActions::dragEnded);
+    actions.copySelected = weak(captures, &CaptureActions::copySelected);
+    actions.trashSelected = weak(captures, &CaptureActions::trashSelected);
+    actions.removeSelected = weak(captures, &CaptureActions::removeSelected);
     return actions;
 }
 

@@ -1,10 +1,7 @@
-// The panel's countdown: a one-shot dismiss timer, and a fast one that moves the indicator.
+#include "panel/Countdown.h"
 
 #include <algorithm>
-#include <string>
 
-#include "panel/CapturePanelController.h"
-#include "support/Debug.h"
 #include "support/Weakly.h"
 
 namespace vantle {
@@ -17,55 +14,99 @@ constexpr Seconds minimumOnResume{2.5};
 
 }  // namespace
 
-void CapturePanelController::startTimers(Seconds remaining) {
-    dismissTimer_ = services_.scheduler.after(
-        remaining, weakly(shared_from_this(), [](auto& self) { self.expire(); }));
-    const Seconds whole(services_.settings.dismissAfter.value());
-    const Instant start = services_.scheduler.now();
-    progressTimer_ = services_.scheduler.every(
-        progressTick, weakly(shared_from_this(), [remaining, whole, start](auto& self) {
-            const Seconds elapsed = self.services_.scheduler.now() - start;
-            self.state_.progress.set(std::max(remaining / whole - elapsed / whole, 0.0));
-        }));
+std::shared_ptr<Countdown> Countdown::create(const Services& services) {
+    return std::shared_ptr<Countdown>(new Countdown(services));
 }
 
-void CapturePanelController::invalidateTimers() {
-    if (dismissTimer_) dismissTimer_->cancel();
-    if (progressTimer_) progressTimer_->cancel();
-    dismissTimer_.reset();
-    progressTimer_.reset();
-}
+Countdown::Countdown(const Services& services)
+    : services_(services), hovering_(services.state.hovering.observeChanges([this](bool hovering) {
+          if (hovering)
+              pause();
+          else if (!isInUse())
+              resume();
+      })) {}
 
-void CapturePanelController::expire() {
-    const auto& captures = state_.captures.value();
-    const auto& pinned = state_.pinned.value();
-    std::vector<CapturePointer> expiring;
-    std::ranges::copy_if(captures, std::back_inserter(expiring),
-                         [&](const auto& capture) { return !pinned.contains(capture->id()); });
-    if (expiring.size() == captures.size()) {
-        dismiss();
-        return;
-    }
-    Debug::log(
-        [&] { return "timer expired; keeping " + std::to_string(pinned.size()) + " pinned"; });
+Countdown::~Countdown() {
     invalidateTimers();
-    state_.progress.set(1.0);
-    removeMany(expiring);
 }
 
-void CapturePanelController::pauseCountdown() {
+void Countdown::restart() {
+    reset();
+    const Seconds dismissAfter(services_.settings.dismissAfter.value());
+    if (!(dismissAfter > Seconds(0))) return;
+    if (services_.state.hovering.value() || isInUse())
+        pausedRemaining_ = dismissAfter;
+    else
+        startTimers(dismissAfter);
+}
+
+void Countdown::stop() {
+    invalidateTimers();
+    pausedRemaining_.reset();
+}
+
+void Countdown::reset() {
+    stop();
+    services_.state.progress.set(1.0);
+}
+
+void Countdown::pause() {
     if (!dismissTimer_ || !dismissTimer_->isValid()) return;
     const Seconds left = dismissTimer_->fireDate() - services_.scheduler.now();
     pausedRemaining_ = std::max(left, minimumSavedOnPause);
     invalidateTimers();
 }
 
-void CapturePanelController::resumeCountdown() {
-    const bool counts = services_.settings.dismissAfter.value() > 0 && state_.visible.value();
+void Countdown::resume() {
+    const bool counts =
+        services_.settings.dismissAfter.value() > 0 && services_.state.visible.value();
     if (!pausedRemaining_ || !counts) return;
     const Seconds remaining = std::max(*pausedRemaining_, minimumOnResume);
     pausedRemaining_.reset();
     startTimers(remaining);
+}
+
+void Countdown::dragBegan() {
+    ++drags_;
+    pause();
+}
+
+void Countdown::dragEnded() {
+    drags_ = std::max(drags_ - 1, 0);
+    if (!isInUse()) resume();
+}
+
+void Countdown::shareMenuOpened() {
+    pause();
+    isShareMenuOpen_ = true;
+}
+
+void Countdown::shareMenuClosed() {
+    isShareMenuOpen_ = false;
+    resume();
+}
+
+void Countdown::marqueeEnded() {
+    if (!isInUse() && !services_.state.hovering.value()) resume();
+}
+
+void Countdown::startTimers(Seconds remaining) {
+    dismissTimer_ = services_.scheduler.after(
+        remaining, weakly(shared_from_this(), [](auto& self) { self.onExpiry(); }));
+    const Seconds whole(services_.settings.dismissAfter.value());
+    const Instant start = services_.scheduler.now();
+    progressTimer_ = services_.scheduler.every(
+        progressTick, weakly(shared_from_this(), [remaining, whole, start](auto& self) {
+            const Seconds elapsed = self.services_.scheduler.now() - start;
+            self.services_.state.progress.set(std::max(remaining / whole - elapsed / whole, 0.0));
+        }));
+}
+
+void Countdown::invalidateTimers() {
+    if (dismissTimer_) dismissTimer_->cancel();
+    if (progressTimer_) progressTimer_->cancel();
+    dismissTimer_.reset();
+    progressTimer_.reset();
 }
 
 }  // namespace vantle

@@ -13,8 +13,8 @@
 
 namespace vantle {
 
-/// What the panel shows: a plain holder. Only the controller writes it, but for `hovering`, which
-/// the card sets. Main thread only.
+/// What the panel shows: a plain holder. Only the controller and what it owns write it, but for
+/// `hovering`, which the card sets. Main thread only.
 class PanelState {
 public:
     Published<std::vector<CapturePointer>> captures{{}};  ///< Oldest first.

@@ -32,25 +32,6 @@ TEST_F(MarqueeTest, SelectsTheThumbnailsThatItTouches) {
     EXPECT_EQ(state->marquee.value(), (Rect{{100, 20}, {30, 10}}));
 }
 
-TEST_F(MarqueeTest, BesideOrAgainstAThumbnailItSelectsNothing) {
-    drag({{110, 20}, {10, 10}});
-    EXPECT_THAT(selected(), IsEmpty());
-    drag({{10, 90}, {300, 10}});
-    EXPECT_THAT(selected(), IsEmpty());
-}
-
-TEST_F(MarqueeTest, AStraightLineAcrossThumbnailsSelectsThem) {
-    drag({{5, 50}, {300, 0}});
-    EXPECT_EQ(selected().size(), 3u);
-}
-
-TEST_F(MarqueeTest, ShrinkingBackDeselectsWhatItNoLongerTouches) {
-    drag({{5, 5}, {200, 50}});
-    EXPECT_EQ(selected().size(), 2u);
-    drag({{5, 5}, {50, 50}});
-    EXPECT_THAT(selected(), UnorderedElementsAre(shown[0]->id()));
-}
-
 TEST_F(MarqueeTest, EndingItKeepsTheSelectionAndClearsTheRectangle) {
     drag({{5, 5}, {50, 50}});
     release();
@@ -58,43 +39,10 @@ TEST_F(MarqueeTest, EndingItKeepsTheSelectionAndClearsTheRectangle) {
     EXPECT_THAT(selected(), UnorderedElementsAre(shown[0]->id()));
 }
 
-TEST_F(MarqueeTest, ReplacesTheSelection) {
-    actions.toggleSelect(shown[2]);
-    drag({{5, 5}, {50, 50}});
-    EXPECT_THAT(selected(), UnorderedElementsAre(shown[0]->id()));
-}
-
-TEST_F(MarqueeTest, AThumbnailScrolledOutOfSightIsNotSelected) {
-    panel.thumbnails[0].frame.size = {0, 80};
-    drag({{0, 0}, {400, 400}});
-    EXPECT_THAT(selected(), UnorderedElementsAre(shown[1]->id(), shown[2]->id()));
-}
-
-TEST_F(MarqueeTest, OfOneThatIsAlmostOutOfSightTheRestIsEnough) {
-    panel.thumbnails[0].frame.size = {0.5, 80};
-    panel.thumbnails[1].frame.size = {100, 0.5};
-    drag({{0, 0}, {400, 400}});
-    EXPECT_EQ(selected().size(), 3u);
-}
-
-TEST_F(MarqueeTest, AnEqualSelectionIsNotAnnounced) {
-    drag({{5, 5}, {50, 50}});
-    int announcements = 0;
-    const auto subscription = state->selected.observeChanges([&](const auto&) { ++announcements; });
-    drag({{5, 5}, {60, 60}});
-    EXPECT_EQ(announcements, 0);
-}
-
 TEST_F(MarqueeTest, AClickOnTheBackgroundClearsTheSelection) {
     actions.toggleSelect(shown[1]);
     panel.window->onBackgroundClick();
     EXPECT_THAT(selected(), IsEmpty());
-}
-
-TEST_F(MarqueeTest, ATileThatLeavesIsNotSelected) {
-    actions.close(shown[0]);
-    drag({{0, 0}, {400, 400}});
-    EXPECT_THAT(selected(), UnorderedElementsAre(shown[1]->id(), shown[2]->id()));
 }
 
 TEST_F(MarqueeTest, ACardThatLeavesHasNone) {

@@ -292,19 +292,6 @@ TEST_F(PanelControllerTest, ASnapshotIsWrittenAfterEachAddWhenAskedFor) {
     EXPECT_EQ(panel.snapshots.size(), 2u);
 }
 
-TEST_F(PanelControllerTest, OfACrowdOfCapturesFewSnapshotsAreDrawnAndTheLastOneAlways) {
-    environment["VANTLE_SNAPSHOT"] = "/tmp/card.png";
-    const int crowd = 300;
-    for (int i = 1; i <= crowd; ++i) {
-        show({std::to_string(i)});
-        wait(0.01);
-    }
-    wait(1.19);
-    EXPECT_EQ(panel.snapshots.size(), 4u);  // one a second, and that of the last one
-    wait(10);
-    EXPECT_EQ(panel.snapshots.size(), 4u);
-}
-
 TEST_F(PanelControllerTest, AFailedSnapshotIsLogged) {
     CapturedLog log;
     environment["VANTLE_SNAPSHOT"] = "/none/card.png";

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <memory>
+
+#include "panel/CaptureActions.h"
+#include "panel/CapturePanelController.h"
+#include "panel/CardActions.h"
+#include "panel/Selection.h"
+#include "platform/FileOpener.h"
+
+namespace vantle {
+
+/// The callbacks through which the card reaches the controller and these of its parts. Each holds
+/// the controller weakly. `opener` outlives them.
+CardActions makeCardActions(const std::shared_ptr<CapturePanelController>& controller,
+                            CaptureActions& captures, Selection& selection, FileOpener& opener);
+
+}  // namespace vantle

@@ -1,0 +1,31 @@
+#include "panel/DebugSnapshots.h"
+
+#include "support/Weakly.h"
+
+namespace vantle {
+namespace {
+
+constexpr Seconds delay{1.2};
+constexpr Seconds interval{1};
+
+}  // namespace
+
+std::shared_ptr<DebugSnapshots> DebugSnapshots::create(Scheduler& scheduler) {
+    return std::shared_ptr<DebugSnapshots>(new DebugSnapshots(scheduler));
+}
+
+void DebugSnapshots::schedule(const std::string& path) {
+    ++pending_;
+    scheduler_.after(delay, weakly(shared_from_this(), [path](auto& self) { self.isDue(path); }));
+}
+
+void DebugSnapshots::isDue(const std::string& path) {
+    const bool isLast = --pending_ == 0;
+    // Each is a whole card. Of captures that come in a crowd there is nothing to see but the last
+    // one, and a program that draws them all answers nobody meanwhile.
+    if (!isLast && last_ && scheduler_.now() - *last_ < interval) return;
+    onDue(path);
+    last_ = scheduler_.now();
+}
+
+}  // namespace vantle
