@@ -30,6 +30,31 @@ CaptureWatcher::Services watcherServices(const Platform& platform) {
             .moreExtensions = platform.moreExtensions};
 }
 
+CapturePanelController::Services panelServices(
+    const Platform& platform, Settings& settings,
+    const CapturePanelController::PanelFactory& makePanel) {
+    return {.settings = settings,
+            .scheduler = *platform.scheduler,
+            .screens = *platform.screens,
+            .opener = *platform.opener,
+            .files = *platform.files,
+            .pasteboard = *platform.pasteboard,
+            .sharing = *platform.sharing,
+            .trash = *platform.trash,
+            .spareMemory = *platform.spareMemory,
+            .environment = platform.environment,
+            .makePanel = makePanel};
+}
+
+CaptureLoader makeLoader(const Platform& platform,
+                         const std::shared_ptr<CapturePanelController>& panel) {
+    return {{.scheduler = *platform.scheduler,
+             .clock = *platform.clock,
+             .media = *platform.media,
+             .moreExtensions = platform.moreExtensions},
+            panel};
+}
+
 }  // namespace
 
 std::shared_ptr<AppDelegate> AppDelegate::create(Platform& platform, Views views) {
@@ -45,18 +70,44 @@ AppDelegate::AppDelegate(Platform& platform, Views views)
                 *platform.loginItem, *platform.application),
       watcher_(CaptureWatcher::create(watcherServices(platform))),
       recordings_(RecordingsWatcher::create(watcherServices(platform))),
-      panel_(CapturePanelController::create({.settings = settings_,
-                                             .scheduler = *platform.scheduler,
-                                             .screens = *platform.screens,
-                                             .opener = *platform.opener,
-                                             .files = *platform.files,
-                                             .pasteboard = *platform.pasteboard,
-                                             .sharing = *platform.sharing,
-                                             .trash = *platform.trash,
-                                             .spareMemory = *platform.spareMemory,
-                                             .environment = platform.environment,
-                                             .makePanel = views_.makePanel})),
+      panel_(CapturePanelController::create(panelServices(platform, settings_, views_.makePanel))),
       statusBar_(*platform.statusItem, *platform.opener, *platform.application, settings_),
+      recent_({.panel = *panel_, .queue = *platform.watcherQueue}, makeLoader(platform, panel_)),
+      samples_({.canvas = *platform.canvas,
+                .files = *platform.files,
+                .scheduler = *platform.scheduler,
+                .queue = *platform.watcherQueue},
+               makeLoader(platform, panel_)),
+      requests_({.application = *platform.application,
+                 .files = *platform.files,
+                 .queue = *platform.watcherQueue,
+                 .moreExtensions = platform.moreExtensions,
+                 .panel = *panel_,
+                 .statusBar = statusBar_},
+                makeLoader(platform, panel_),
+                StatusReport({.settings = settings_,
+                              .files = *platform.files,
+                              .panel = *panel_,
+                              .watcher = *watcher_,
+                              .recordings = *recordings_,
+                              .statusBar = statusBar_,
+                              .recordingsFolder = platform.recordingsFolder,
+                              .displayServer = platform.displayServer,
+                              .surroundings = platform.surroundings})),
+      watchErrors_(WatchErrorHandler::create({.settings = settings_,
+                                              .watcher = *watcher_,
+                                              .scheduler = *platform.scheduler,
+                                              .servers = *platform.serverQueue,
+                                              .files = *platform.files,
+                                              .application = *platform.application,
+                                              .alerts = *platform.alerts,
+                                              .privacySettings = *platform.privacySettings})),
+      missingTray_(MissingTray::create({.defaults = *platform.defaults,
+                                        .scheduler = *platform.scheduler,
+                                        .application = *platform.application,
+                                        .alerts = *platform.alerts,
+                                        .statusItem = *platform.statusItem,
+                                        .trayExtension = platform.trayExtension})),
       updaterDelegate_(platform.environment) {}
 
 std::optional<Result<std::string>> AppDelegate::applicationWillFinishLaunching(
@@ -71,6 +122,7 @@ std::optional<Result<std::string>> AppDelegate::applicationWillFinishLaunching(
 void AppDelegate::applicationDidFinishLaunching() {
     Settings::applyActivationPolicy(*platform_.application, settings_.showInDock.value());
     connectApplication();
+    connectRequests();
     connectStatusBar();
     updater();  // its schedule runs from here on
     if (platform_.environment("VANTLE_CHECK_UPDATES_NOW"))
@@ -82,7 +134,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     observeSystem();
     observeShowRecordings();
     connectNotifications();
-    explainMissingTray();
+    missingTray_->explain();
     if (settings_.hasCompletedOnboarding.value())
         startWatching();
     else
@@ -100,14 +152,20 @@ void AppDelegate::connectApplication() {
     };
 }
 
+void AppDelegate::connectRequests() {
+    const auto self = shared_from_this();
+    requests_.onSettings = weakly(self, [](auto& delegate) { delegate.showSettings(); });
+    requests_.onSample = weakly(self, [](auto& delegate) { delegate.showDemo(); });
+}
+
 void AppDelegate::connectStatusBar() {
     const auto self = shared_from_this();
     statusBar_.recent = [weak = weak_from_this()] {
         const auto delegate = weak.lock();
-        return delegate ? delegate->recent_ : std::vector<CapturePointer>{};
+        return delegate ? delegate->recent() : std::vector<CapturePointer>{};
     };
     statusBar_.onShow =
-        weakly(self, [](auto& delegate, const auto& capture) { delegate.showAgain(capture); });
+        weakly(self, [](auto& delegate, const auto& capture) { delegate.recent_.show(capture); });
     statusBar_.onSettings = weakly(self, [](auto& delegate) { delegate.showSettings(); });
     statusBar_.onCheckForUpdates = weakly(self, [](auto& delegate) { delegate.checkForUpdates(); });
     statusBar_.onPause = weakly(self, [](auto& delegate, bool paused) {
@@ -126,6 +184,7 @@ void AppDelegate::connectWatcher() {
         weakly(self, [](auto& delegate, const auto& error) { delegate.handleWatchError(error); });
     recordings_->onRecording =
         weakly(self, [](auto& delegate, const auto& capture) { delegate.captured(capture); });
+    watchErrors_->onSettings = weakly(self, [](auto& delegate) { delegate.showSettings(); });
 }
 
 void AppDelegate::observeScreenshotFolder() {
@@ -188,10 +247,23 @@ void AppDelegate::watchRecordingsSoon() {
 void AppDelegate::captured(const CapturePointer& capture) {
     if (capture->kind() == CaptureKind::video && !settings_.showRecordings.value()) return;
     Debug::log([&] { return "captured " + capture->fileName(); });
-    remember(capture);
+    recent_.add(capture);
+    statusBar_.recentChanged();
     if (settings_.copyOnCapture.value()) panel_->copy(capture);
     if (settings_.playSound.value()) platform_.sounds->play("Pop");
     panel_->show(capture);
+}
+
+void AppDelegate::handleWatchError(const WatchError& error) {
+    watchErrors_->handle(error);
+}
+
+void AppDelegate::showDemo() {
+    samples_.show();
+}
+
+Result<std::string> AppDelegate::perform(const ApplicationRequest& request) {
+    return requests_.perform(request);
 }
 
 bool AppDelegate::applicationShouldHandleReopen(bool) {

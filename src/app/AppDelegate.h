@@ -6,9 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "app/MissingTray.h"
+#include "app/RecentCaptures.h"
+#include "app/RequestHandler.h"
+#include "app/SampleCaptures.h"
 #include "app/StatusBarController.h"
-#include "app/StatusReport.h"
 #include "app/UpdaterDelegate.h"
+#include "app/WatchErrorHandler.h"
 #include "capture/CaptureWatcher.h"
 #include "capture/RecordingsWatcher.h"
 #include "panel/CapturePanelController.h"
@@ -23,8 +27,6 @@ namespace vantle {
 /// components are made with it and connected when launching has finished. Main thread only.
 class AppDelegate : public std::enable_shared_from_this<AppDelegate> {
 public:
-    static constexpr std::size_t maximumRecent = 20;
-
     /// Makes what is seen.
     struct Views {
         CapturePanelController::PanelFactory makePanel;
@@ -53,13 +55,10 @@ public:
     void showOnboarding();
     void handleWatchError(const WatchError& error);
 
-    /// Shows two sample captures, the second one a little later. They go straight to the panel: not
-    /// to recent(), the clipboard or the ears.
+    /// Shows two sample captures.
     void showDemo();
 
-    /// Does what the launcher, a script or a second start asks for, and gives the answer for a
-    /// person: lines for "status", else nothing. The actions and their arguments are those of the
-    /// command line.
+    /// Does what the launcher, a script or a second start asks for, and gives the answer.
     Result<std::string> perform(const ApplicationRequest& request);
 
     /// `size` made to fit on the screen with a margin.
@@ -72,12 +71,13 @@ public:
     const RecordingsWatcher& recordings() const { return *recordings_; }
 
     /// Newest first; of this run only. Their thumbnails are as small as a menu shows them.
-    const std::vector<CapturePointer>& recent() const { return recent_; }
+    const std::vector<CapturePointer>& recent() const { return recent_.captures(); }
 
 private:
     AppDelegate(Platform& platform, Views views);
 
     void connectApplication();
+    void connectRequests();
     void connectStatusBar();
     void connectWatcher();
     void observeScreenshotFolder();
@@ -93,32 +93,7 @@ private:
     void present(Window& window, Size contentSize);
     void writeOnboardingSnapshot(const std::string& path);
     void captured(const CapturePointer& capture);
-    void remember(const CapturePointer& capture);
-    /// Shows a recent capture in the panel, with the whole of its thumbnail.
-    void showAgain(const CapturePointer& recent);
     void checkForUpdates();
-
-    // Watch errors: each shows its alert and does what is answered.
-    void askForAccess(const Url& folder);
-    void recreate(const Url& folder);
-    void recreateOnServer(const Url& folder);
-    void recreatedOnServer(const Url& folder, bool isThere);
-    void offerSettings(const Alert& alert);
-    /// Comes to the front, and returns the answer.
-    int run(const Alert& alert);
-
-    void setPaused(bool paused);
-    Result<std::string> focusPanel();
-    Result<std::string> show(const std::vector<std::string>& paths);
-    Result<std::string> status(const std::vector<std::string>& arguments) const;
-    std::vector<Fact> recordingsFacts(Paths paths) const;
-
-    /// To be called on the watcher's queue with a file: loads it, then shows it in the panel.
-    std::function<void(const Url&)> loader();
-
-    /// Where no tray shows the icon, tells the user once and for all how to reach the program.
-    void explainMissingTray();
-    std::string trayAdvice() const;
 
     /// Made on the first call; null where there is none.
     Updater* updater();
@@ -130,13 +105,16 @@ private:
     std::shared_ptr<RecordingsWatcher> recordings_;  ///< Of the desktop's recorder.
     std::shared_ptr<CapturePanelController> panel_;
     StatusBarController statusBar_;
-    std::vector<CapturePointer> recent_;
+    RecentCaptures recent_;
+    SampleCaptures samples_;
+    RequestHandler requests_;
+    std::shared_ptr<WatchErrorHandler> watchErrors_;
+    std::shared_ptr<MissingTray> missingTray_;
     std::unique_ptr<Window> onboardingWindow_;
     std::unique_ptr<Window> settingsWindow_;
     std::vector<Subscription> cancellables_;
     UpdaterDelegate updaterDelegate_;
     std::unique_ptr<Updater> updater_;
-    std::optional<WatchError> lastWatchError_;
 };
 
 }  // namespace vantle

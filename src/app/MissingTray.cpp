@@ -1,6 +1,6 @@
-// A desktop without a tray has no icon to click.
+#include "app/MissingTray.h"
 
-#include "app/AppDelegate.h"
+#include "app/FrontAlert.h"
 #include "screens/MissingTrayAdvice.h"
 #include "support/Localization.h"
 #include "support/Weakly.h"
@@ -28,17 +28,24 @@ Alert explanation(const std::string& advice) {
 
 }  // namespace
 
-std::string AppDelegate::trayAdvice() const {
-    return platform_.trayExtension ? missingTrayAdvice(platform_.trayExtension()) : std::string();
+std::shared_ptr<MissingTray> MissingTray::create(const Services& services) {
+    return std::shared_ptr<MissingTray>(new MissingTray(services));
 }
 
-void AppDelegate::explainMissingTray() {
-    if (platform_.defaults->boolean(explainedKey)) return;
-    platform_.scheduler->after(patience, weakly(shared_from_this(), [](auto& self) {
-                                   if (self.platform_.statusItem->isShown()) return;
-                                   self.platform_.defaults->set(explainedKey, true);
-                                   self.run(explanation(self.trayAdvice()));
-                               }));
+void MissingTray::explain() {
+    if (services_.defaults.boolean(explainedKey)) return;
+    services_.scheduler.after(patience,
+                              weakly(shared_from_this(), [](auto& self) { self.explainNow(); }));
+}
+
+void MissingTray::explainNow() {
+    if (services_.statusItem.isShown()) return;
+    services_.defaults.set(explainedKey, true);
+    (void)runInFront(explanation(advice()), services_.application, services_.alerts);
+}
+
+std::string MissingTray::advice() const {
+    return services_.trayExtension ? missingTrayAdvice(services_.trayExtension()) : std::string();
 }
 
 }  // namespace vantle

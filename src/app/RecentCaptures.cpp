@@ -1,8 +1,9 @@
-// The list of recent captures, and bringing one of them back.
+#include "app/RecentCaptures.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "app/AppDelegate.h"
+#include "app/StatusBarController.h"
 
 namespace vantle {
 namespace {
@@ -16,29 +17,22 @@ constexpr int pixelsHigh =
 
 }  // namespace
 
-void AppDelegate::remember(const CapturePointer& capture) {
-    std::erase_if(recent_, [&](const auto& earlier) { return *earlier == *capture; });
-    recent_.insert(recent_.begin(), capture->withSmallThumbnail(pixelsWide, pixelsHigh));
-    if (recent_.size() > maximumRecent) recent_.pop_back();
-    statusBar_.recentChanged();
+RecentCaptures::RecentCaptures(const Services& services, CaptureLoader loader)
+    : services_(services), loader_(std::move(loader)) {}
+
+void RecentCaptures::add(const CapturePointer& capture) {
+    std::erase_if(captures_, [&](const auto& earlier) { return *earlier == *capture; });
+    captures_.insert(captures_.begin(), capture->withSmallThumbnail(pixelsWide, pixelsHigh));
+    if (captures_.size() > maximum) captures_.pop_back();
 }
 
-void AppDelegate::showAgain(const CapturePointer& recent) {
-    const auto& shown = panel_->state().captures.value();
+void RecentCaptures::show(const CapturePointer& recent) const {
+    const auto& shown = services_.panel.state().captures.value();
     const auto isThat = [&recent](const auto& capture) { return *capture == *recent; };
-    if (const auto found = std::ranges::find_if(shown, isThat); found != shown.end()) {
-        panel_->show(CapturePointer(*found));
-        return;
-    }
-    platform_.watcherQueue->async([&platform = platform_, weak = weak_from_this(), recent] {
-        const auto again = Capture::create(recent->url(), recent->date(), platform.moreExtensions);
-        again->loadThumbnail(*platform.media);
-        // Of a file that is gone the small picture is what is left.
-        const CapturePointer best = again->thumbnail() ? again : recent;
-        platform.scheduler->async([weak, best] {
-            if (const auto delegate = weak.lock()) delegate->panel_->show(best);
-        });
-    });
+    if (const auto found = std::ranges::find_if(shown, isThat); found != shown.end())
+        services_.panel.show(CapturePointer(*found));
+    else
+        services_.queue.async([loader = loader_, recent] { loader.loadAgain(recent); });
 }
 
 }  // namespace vantle

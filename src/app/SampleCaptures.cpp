@@ -1,6 +1,10 @@
-// Two pictures that show what the panel does without a screenshot having been taken.
+#include "app/SampleCaptures.h"
 
-#include "app/AppDelegate.h"
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
 #include "support/Localization.h"
 
 namespace vantle {
@@ -22,46 +26,38 @@ Drawing secondSample() {
 }
 
 /// Absent when it could not be drawn or written.
-std::optional<Url> writeSample(const Platform& platform, const Canvas::Drawer& draw,
+std::optional<Url> writeSample(FileManager& files, const Canvas::Drawer& draw,
                                const std::string& name) {
-    const auto folder = platform.files->temporaryDirectory();
+    const auto folder = files.temporaryDirectory();
     if (!folder) return std::nullopt;
     const auto png = draw();
     const Url url = folder.value().appending(name);
-    if (!png || platform.files->write(png.value(), url)) return std::nullopt;
+    if (!png || files.write(png.value(), url)) return std::nullopt;
     return url;
 }
 
 }  // namespace
 
-void AppDelegate::showDemo() {
+SampleCaptures::SampleCaptures(const Services& services, CaptureLoader loader)
+    : services_(services), loader_(std::move(loader)) {}
+
+void SampleCaptures::show() const {
     // Drawn on the queue: the main thread would stand still for as long.
-    const auto loadAndShow = loader();
-    const auto drawFirst = platform_.canvas->drawer(firstSample());
-    const auto drawSecond = platform_.canvas->drawer(secondSample());
-    platform_.watcherQueue->async([&platform = platform_, loadAndShow, drawFirst] {
-        if (const auto url = writeSample(platform, drawFirst, firstName)) loadAndShow(*url);
+    const auto drawFirst = services_.canvas.drawer(firstSample());
+    const auto drawSecond = services_.canvas.drawer(secondSample());
+    services_.queue.async([&files = services_.files, loader = loader_, drawFirst] {
+        if (const auto url = writeSample(files, drawFirst, firstName)) loader.load(*url);
     });
     const auto second = std::make_shared<std::optional<Url>>();
-    platform_.watcherQueue->async([&platform = platform_, second, drawSecond] {
-        *second = writeSample(platform, drawSecond, secondName);
+    services_.queue.async([&files = services_.files, second, drawSecond] {
+        *second = writeSample(files, drawSecond, secondName);
     });
-    platform_.scheduler->after(secondSampleDelay, [&platform = platform_, loadAndShow, second] {
-        platform.watcherQueue->async([loadAndShow, second] {
-            if (*second) loadAndShow(**second);
-        });
-    });
-}
-
-std::function<void(const Url&)> AppDelegate::loader() {
-    return [&platform = platform_, weak = weak_from_this()](const Url& url) {
-        const auto capture = Capture::create(url, platform.clock->now(), platform.moreExtensions);
-        if (!capture) return;
-        capture->loadThumbnail(*platform.media);
-        platform.scheduler->async([weak, capture] {
-            if (const auto delegate = weak.lock()) delegate->panel_->show(capture);
-        });
-    };
+    services_.scheduler.after(secondSampleDelay,
+                              [&queue = services_.queue, loader = loader_, second] {
+                                  queue.async([loader, second] {
+                                      if (*second) loader.load(**second);
+                                  });
+                              });
 }
 
 }  // namespace vantle

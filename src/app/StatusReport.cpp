@@ -1,11 +1,12 @@
 #include "app/StatusReport.h"
 
+#include <algorithm>
 #include <array>
 #include <ctime>
+#include <iterator>
 #include <sstream>
-#include <system_error>
 
-#include "capture/WatchError.h"
+#include "support/Version.h"
 
 namespace vantle {
 namespace {
@@ -51,6 +52,56 @@ std::string text(double value) {
 }
 
 }  // namespace
+
+std::vector<Fact> StatusReport::recordingsFacts(Paths paths) const {
+    if (!sources_.recordingsFolder) return {};
+    const Url folder = sources_.recordingsFolder();
+    if (folder == sources_.settings.screenshotFolder.value()) return {};
+    const auto state = [this] {
+        switch (sources_.recordings.state()) {
+            case RecordingsWatcher::State::watching:
+                return "watched";
+            case RecordingsWatcher::State::waiting:
+                return "waited for";
+            default:
+                return "not watched";
+        }
+    };
+    return {{"recordings", state()}, {"recordings folder", placeOf(folder, sources_.files, paths)}};
+}
+
+const char* StatusReport::state() const {
+    if (sources_.statusBar.paused()) return "paused";
+    if (sources_.watcher.isWatching()) return "watching";
+    return sources_.watcher.isOpening() ? "waiting for the folder" : "not watching";
+}
+
+std::vector<Fact> StatusReport::facts(Paths paths) const {
+    const Url& folder = sources_.settings.screenshotFolder.value();
+    std::vector<Fact> facts{
+        {"version", std::string(version)},
+        {"state", state()},
+        {"folder", placeOf(folder, sources_.files, paths)},
+        {"captures", std::to_string(sources_.panel.state().captures.value().size())}};
+    std::ranges::copy(recordingsFacts(paths), std::back_inserter(facts));
+    return facts;
+}
+
+std::string StatusReport::text(const std::vector<std::string>& arguments) const {
+    const auto isAsked = [&](const char* name) { return std::ranges::count(arguments, name) > 0; };
+    const bool isVerbose = isAsked("verbose");
+    const Paths paths = !isVerbose || isAsked("with-paths") ? Paths::shown : Paths::hidden;
+    std::vector<Fact> told = facts(paths);
+    if (!isVerbose) {
+        if (sources_.displayServer) told.push_back({"display server", sources_.displayServer()});
+        return reportLines(told);
+    }
+    told.push_back({"folder from", sources_.settings.screenshotFolderOrigin()});
+    told.push_back(settingsFact(sources_.settings));
+    if (sources_.surroundings) std::ranges::copy(sources_.surroundings(), std::back_inserter(told));
+    std::ranges::copy(logFacts(recentSystemLog(), paths), std::back_inserter(told));
+    return reportLines(told);
+}
 
 std::string reportLines(const std::vector<Fact>& facts) {
     std::string lines;

@@ -1,9 +1,14 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "app/StatusBarController.h"
+#include "capture/CaptureWatcher.h"
+#include "capture/RecordingsWatcher.h"
+#include "panel/CapturePanelController.h"
 #include "platform/Fact.h"
 #include "platform/FileManager.h"
 #include "settings/Settings.h"
@@ -13,6 +18,36 @@ namespace vantle {
 
 /// Whether a report may name the user's folders and files.
 enum class Paths { hidden, shown };
+
+/// What the program is doing, for a person. Main thread only.
+class StatusReport {
+public:
+    /// All outlive it; the functions may be empty.
+    struct Sources {
+        const Settings& settings;
+        const FileManager& files;
+        const CapturePanelController& panel;
+        const CaptureWatcher& watcher;
+        const RecordingsWatcher& recordings;
+        const StatusBarController& statusBar;
+        const std::function<Url()>& recordingsFolder;
+        const std::function<std::string()>& displayServer;
+        const std::function<std::vector<Fact>()>& surroundings;
+    };
+
+    explicit StatusReport(const Sources& sources) : sources_(sources) {}
+
+    /// In short; or "verbose", all that a report of a fault needs, without paths unless
+    /// "with-paths" is asked for as well.
+    std::string text(const std::vector<std::string>& arguments) const;
+
+private:
+    const char* state() const;
+    std::vector<Fact> facts(Paths paths) const;
+    std::vector<Fact> recordingsFacts(Paths paths) const;
+
+    Sources sources_;
+};
 
 /// Lines of "name: value".
 std::string reportLines(const std::vector<Fact>& facts);

@@ -28,24 +28,6 @@ TEST_F(AppDelegateTest, ASavedScreenshotComesToThePanelAndTheRecentList) {
     EXPECT_EQ(delegate->panel().state().captures.value().size(), 1u);
 }
 
-TEST_F(AppDelegateTest, The21stCapturePushesTheOldestOutOfRecent) {
-    launch();
-    for (int i = 1; i <= 21; ++i) save(std::to_string(i) + ".png");
-    EXPECT_EQ(recentNames().size(), 20u);
-    EXPECT_EQ(recentNames().front(), "21.png");
-    EXPECT_EQ(recentNames().back(), "2.png");
-}
-
-TEST_F(AppDelegateTest, AnEqualCaptureMovesToTheFrontOfRecent) {
-    launch();
-    save("a.png");
-    save("b.png");
-    files->remove(folder.appending("a.png"));
-    time.settle();
-    save("a.png");
-    EXPECT_THAT(recentNames(), ElementsAre("a.png", "b.png"));
-}
-
 TEST_F(AppDelegateTest, WithRecordingsOffANewRecordingChangesNothing) {
     defaults->stored["showRecordings"] = false;
     defaults->stored["copyOnCapture"] = true;

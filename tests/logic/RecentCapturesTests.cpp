@@ -3,6 +3,7 @@
 namespace vantle {
 namespace {
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -28,6 +29,24 @@ protected:
 
     const Url url = folder.appending("shot.png");
 };
+
+TEST_F(RecentCapturesTest, The21stPushesTheOldestOut) {
+    launch();
+    for (int i = 1; i <= 21; ++i) save(std::to_string(i) + ".png");
+    EXPECT_EQ(recentNames().size(), 20u);
+    EXPECT_EQ(recentNames().front(), "21.png");
+    EXPECT_EQ(recentNames().back(), "2.png");
+}
+
+TEST_F(RecentCapturesTest, AnEqualOneMovesToTheFront) {
+    launch();
+    save("a.png");
+    save("b.png");
+    files->remove(folder.appending("a.png"));
+    time.settle();
+    save("a.png");
+    EXPECT_THAT(recentNames(), ElementsAre("a.png", "b.png"));
+}
 
 TEST_F(RecentCapturesTest, KeepPicturesAsSmallAsTheMenuNeedsThem) {
     launch();

@@ -7,7 +7,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class WatchErrorHandlingTest : public AppFixture {
+class WatchErrorHandlerTest : public AppFixture {
 protected:
     void report(const WatchError& error) { delegate->handleWatchError(error); }
 
@@ -32,7 +32,7 @@ protected:
 
 constexpr auto cannotWatch = "Vantle can't watch your screenshot folder";
 
-TEST_F(WatchErrorHandlingTest, DeniedAccessIsExplained) {
+TEST_F(WatchErrorHandlerTest, DeniedAccessIsExplained) {
     launch();
     report(WatchError::accessDenied());
     ASSERT_EQ(alerts->shown.size(), 1u);
@@ -43,7 +43,7 @@ TEST_F(WatchErrorHandlingTest, DeniedAccessIsExplained) {
     EXPECT_EQ(application->activations, 1);
 }
 
-TEST_F(WatchErrorHandlingTest, ThePrivacyAlertNamesTheFolderBetweenItsTexts) {
+TEST_F(WatchErrorHandlerTest, ThePrivacyAlertNamesTheFolderBetweenItsTexts) {
     launch();
     delegate->settings().screenshotFolder.set(Url::file("/home/user/Pictures/Screenshots"));
     report(WatchError::accessDenied());
@@ -52,7 +52,7 @@ TEST_F(WatchErrorHandlingTest, ThePrivacyAlertNamesTheFolderBetweenItsTexts) {
               "Settings → Privacy & Security → Files and Folders, then click Retry.");
 }
 
-TEST_F(WatchErrorHandlingTest, DeniedTwiceAlertsOnceAndAfterRetryAgain) {
+TEST_F(WatchErrorHandlerTest, DeniedTwiceAlertsOnceAndAfterRetryAgain) {
     launch();
     report(WatchError::accessDenied());
     report(WatchError::accessDenied());
@@ -65,7 +65,7 @@ TEST_F(WatchErrorHandlingTest, DeniedTwiceAlertsOnceAndAfterRetryAgain) {
     EXPECT_EQ(alerts->shown.size(), 4u);
 }
 
-TEST_F(WatchErrorHandlingTest, RetryWatchesTheFolderAgain) {
+TEST_F(WatchErrorHandlerTest, RetryWatchesTheFolderAgain) {
     launch();
     delegate->statusBar().onPause(true);
     ASSERT_FALSE(delegate->watcher().isWatching());
@@ -75,7 +75,7 @@ TEST_F(WatchErrorHandlingTest, RetryWatchesTheFolderAgain) {
     EXPECT_EQ(delegate->watcher().folder(), folder);
 }
 
-TEST_F(WatchErrorHandlingTest, ARetryThatFailsAlertsAgain) {
+TEST_F(WatchErrorHandlerTest, ARetryThatFailsAlertsAgain) {
     launch();
     files->failOpening(folder, EACCES);
     int alertsLeft = 2;
@@ -89,7 +89,7 @@ TEST_F(WatchErrorHandlingTest, ARetryThatFailsAlertsAgain) {
     EXPECT_EQ(alerts->shown.size(), 3u);
 }
 
-TEST_F(WatchErrorHandlingTest, OpenPrivacySettingsOpensThemAndRemembersTheError) {
+TEST_F(WatchErrorHandlerTest, OpenPrivacySettingsOpensThemAndRemembersTheError) {
     launch();
     answer("Open Privacy Settings");
     report(WatchError::accessDenied());
@@ -98,7 +98,7 @@ TEST_F(WatchErrorHandlingTest, OpenPrivacySettingsOpensThemAndRemembersTheError)
     EXPECT_EQ(alerts->shown.size(), 1u);
 }
 
-TEST_F(WatchErrorHandlingTest, LaterDoesNothingAndRemembersTheError) {
+TEST_F(WatchErrorHandlerTest, LaterDoesNothingAndRemembersTheError) {
     offerWindows();
     launch();
     delegate->statusBar().onPause(true);
@@ -111,7 +111,7 @@ TEST_F(WatchErrorHandlingTest, LaterDoesNothingAndRemembersTheError) {
     EXPECT_THAT(events, IsEmpty());
 }
 
-TEST_F(WatchErrorHandlingTest, OtherErrorsAlertOncePerMessage) {
+TEST_F(WatchErrorHandlerTest, OtherErrorsAlertOncePerMessage) {
     launch();
     report(WatchError::other("too many watches"));
     report(WatchError::other("too many watches"));
@@ -125,7 +125,7 @@ TEST_F(WatchErrorHandlingTest, OtherErrorsAlertOncePerMessage) {
     EXPECT_EQ(alerts->shown[1].style, Alert::Style::warning);
 }
 
-TEST_F(WatchErrorHandlingTest, OpenSettingsShowsThem) {
+TEST_F(WatchErrorHandlerTest, OpenSettingsShowsThem) {
     offerWindows();
     launch();
     events.clear();
@@ -134,7 +134,7 @@ TEST_F(WatchErrorHandlingTest, OpenSettingsShowsThem) {
     EXPECT_THAT(events, ElementsAre("alert", "settings made", "settings to front"));
 }
 
-TEST_F(WatchErrorHandlingTest, AnErrorInBetweenArmsTheFirstOneAgain) {
+TEST_F(WatchErrorHandlerTest, AnErrorInBetweenArmsTheFirstOneAgain) {
     launch();
     report(WatchError::other("a"));
     report(WatchError::other("b"));
@@ -142,7 +142,7 @@ TEST_F(WatchErrorHandlingTest, AnErrorInBetweenArmsTheFirstOneAgain) {
     EXPECT_EQ(alerts->shown.size(), 3u);
 }
 
-TEST_F(WatchErrorHandlingTest, AMissingFolderIsMadeAgainSilently) {
+TEST_F(WatchErrorHandlerTest, AMissingFolderIsMadeAgainSilently) {
     launch();
     for (int round = 0; round < 2; ++round) {  // the first loss is not remembered
         files->removeDirectory(folder);
@@ -156,7 +156,7 @@ TEST_F(WatchErrorHandlingTest, AMissingFolderIsMadeAgainSilently) {
     EXPECT_THAT(alerts->shown, IsEmpty());
 }
 
-TEST_F(WatchErrorHandlingTest, AMissingFolderOfAServerIsMadeInTheBackground) {
+TEST_F(WatchErrorHandlerTest, AMissingFolderOfAServerIsMadeInTheBackground) {
     files->makeRemote(folder);
     launch();
     time.settle();
@@ -174,7 +174,7 @@ TEST_F(WatchErrorHandlingTest, AMissingFolderOfAServerIsMadeInTheBackground) {
     EXPECT_EQ(alerts->shown.size(), 1u);
 }
 
-TEST_F(WatchErrorHandlingTest, AMissingFolderThatCannotBeMadeIsNamed) {
+TEST_F(WatchErrorHandlerTest, AMissingFolderThatCannotBeMadeIsNamed) {
     launch();
     files->makeReadOnly(Url::file("/home/user"));
     files->removeDirectory(folder);
@@ -191,7 +191,7 @@ TEST_F(WatchErrorHandlingTest, AMissingFolderThatCannotBeMadeIsNamed) {
     EXPECT_EQ(alerts->shown.size(), 1u);
 }
 
-TEST_F(WatchErrorHandlingTest, TheProgramIsActivatedBeforeEachAlert) {
+TEST_F(WatchErrorHandlerTest, TheProgramIsActivatedBeforeEachAlert) {
     launch();
     std::vector<int> activationsAtAlert;
     alerts->answer = [&](const Alert& alert) {
@@ -206,7 +206,7 @@ TEST_F(WatchErrorHandlingTest, TheProgramIsActivatedBeforeEachAlert) {
     EXPECT_THAT(activationsAtAlert, ElementsAre(1, 2, 3));
 }
 
-TEST_F(WatchErrorHandlingTest, AnAnswerAfterTheDelegateHasGoneIsSkipped) {
+TEST_F(WatchErrorHandlerTest, AnAnswerAfterTheDelegateHasGoneIsSkipped) {
     offerWindows();
     launch();
     for (const auto& error :

@@ -1,6 +1,6 @@
-// What becomes of a watch error.
+#include "app/WatchErrorHandler.h"
 
-#include "app/AppDelegate.h"
+#include "app/FrontAlert.h"
 #include "support/Localization.h"
 
 namespace vantle {
@@ -48,11 +48,15 @@ Alert otherAlert(const std::string& message) {
 
 }  // namespace
 
-void AppDelegate::handleWatchError(const WatchError& error) {
+std::shared_ptr<WatchErrorHandler> WatchErrorHandler::create(const Services& services) {
+    return std::shared_ptr<WatchErrorHandler>(new WatchErrorHandler(services));
+}
+
+void WatchErrorHandler::handle(const WatchError& error) {
     // The same failure is acted on once, even hours apart; a different one re-arms it.
     if (lastWatchError_ == error) return;
     lastWatchError_ = error;
-    const Url folder = settings_.screenshotFolder.value();
+    const Url folder = services_.settings.screenshotFolder.value();
     switch (error.kind()) {
         case WatchError::Kind::accessDenied:
             askForAccess(folder);
@@ -66,57 +70,57 @@ void AppDelegate::handleWatchError(const WatchError& error) {
     }
 }
 
-int AppDelegate::run(const Alert& alert) {
-    platform_.application->activate();
-    return platform_.alerts->runModal(alert);
+int WatchErrorHandler::run(const Alert& alert) {
+    return runInFront(alert, services_.application, services_.alerts);
 }
 
-void AppDelegate::askForAccess(const Url& folder) {
+void WatchErrorHandler::askForAccess(const Url& folder) {
     const auto weak = weak_from_this();
     const int answer = run(accessDeniedAlert(folder));
     if (weak.expired()) return;
-    if (answer == firstButton) platform_.privacySettings->open(folder);
+    if (answer == firstButton) services_.privacySettings.open(folder);
     if (answer != secondButton) return;
     lastWatchError_.reset();
-    watcher_->start(folder);
+    services_.watcher.start(folder);
 }
 
-void AppDelegate::recreate(const Url& folder) {
-    if (platform_.files->isRemote(folder)) {
+void WatchErrorHandler::recreate(const Url& folder) {
+    if (services_.files.isRemote(folder)) {
         recreateOnServer(folder);
         return;
     }
     // Whether it could be made shows in the next step.
-    (void)platform_.files->createDirectory(folder);
+    (void)services_.files.createDirectory(folder);
     // What is in one that has just come was saved since then.
-    if (watcher_->start(folder, CaptureWatcher::Existing::isNew))
+    if (services_.watcher.start(folder, CaptureWatcher::Existing::isNew))
         offerSettings(missingAlert(folder));
     else
         lastWatchError_.reset();
 }
 
-void AppDelegate::recreateOnServer(const Url& folder) {
-    platform_.serverQueue->async([&platform = platform_, weak = weak_from_this(), folder] {
-        const bool isThere = !platform.files->createDirectory(folder);
-        platform.scheduler->async([weak, folder, isThere] {
+void WatchErrorHandler::recreateOnServer(const Url& folder) {
+    services_.servers.async([&files = services_.files, &scheduler = services_.scheduler,
+                             weak = weak_from_this(), folder] {
+        const bool isThere = !files.createDirectory(folder);
+        scheduler.async([weak, folder, isThere] {
             if (const auto self = weak.lock()) self->recreatedOnServer(folder, isThere);
         });
     });
 }
 
-void AppDelegate::recreatedOnServer(const Url& folder, bool isThere) {
+void WatchErrorHandler::recreatedOnServer(const Url& folder, bool isThere) {
     if (!isThere) {
         offerSettings(missingAlert(folder));
         return;
     }
     lastWatchError_.reset();
-    watcher_->start(folder, CaptureWatcher::Existing::isNew);
+    services_.watcher.start(folder, CaptureWatcher::Existing::isNew);
 }
 
-void AppDelegate::offerSettings(const Alert& alert) {
+void WatchErrorHandler::offerSettings(const Alert& alert) {
     const auto weak = weak_from_this();
     const int answer = run(alert);
-    if (!weak.expired() && answer == firstButton) showSettings();
+    if (!weak.expired() && answer == firstButton) onSettings();
 }
 
 }  // namespace vantle

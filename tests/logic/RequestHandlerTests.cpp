@@ -11,7 +11,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-class RequestTest : public AppFixture {
+class RequestHandlerTest : public AppFixture {
 protected:
     /// The answer, or "failed: " and why.
     std::string ask(const std::string& action, std::vector<std::string> arguments = {}) {
@@ -23,7 +23,7 @@ protected:
     const fakes::CapturedLog log;
 };
 
-TEST_F(RequestTest, PausesAndResumesHoweverOften) {
+TEST_F(RequestHandlerTest, PausesAndResumesHoweverOften) {
     launch();
     for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(ask("pause"), "");
@@ -37,7 +37,7 @@ TEST_F(RequestTest, PausesAndResumesHoweverOften) {
     }
 }
 
-TEST_F(RequestTest, ShowsFilesWithoutMakingThemRecent) {
+TEST_F(RequestHandlerTest, ShowsFilesWithoutMakingThemRecent) {
     launch();
     files->write(Url::file("/pictures/a.png"), 1, Date{});
     files->write(Url::file("/pictures/b.mov"), 1, Date{});
@@ -46,7 +46,7 @@ TEST_F(RequestTest, ShowsFilesWithoutMakingThemRecent) {
     EXPECT_THAT(recentNames(), IsEmpty());
 }
 
-TEST_F(RequestTest, ShowsFilesWithAnExtensionThatTheSystemAdds) {
+TEST_F(RequestHandlerTest, ShowsFilesWithAnExtensionThatTheSystemAdds) {
     static constexpr std::array<std::string_view, 1> images{"webp"};
     platform.moreExtensions.image = images;
     launch();
@@ -55,7 +55,7 @@ TEST_F(RequestTest, ShowsFilesWithAnExtensionThatTheSystemAdds) {
     EXPECT_EQ(delegate->panel().state().captures.value().size(), 1u);
 }
 
-TEST_F(RequestTest, ShowsWhatItCanAndNamesTheRest) {
+TEST_F(RequestHandlerTest, ShowsWhatItCanAndNamesTheRest) {
     launch();
     files->write(Url::file("/pictures/a.png"), 1, Date{});
     files->write(Url::file("/pictures/letter.txt"), 1, Date{});
@@ -65,7 +65,7 @@ TEST_F(RequestTest, ShowsWhatItCanAndNamesTheRest) {
     EXPECT_EQ(delegate->panel().state().captures.value().size(), 1u);
 }
 
-TEST_F(RequestTest, DismissesTheCard) {
+TEST_F(RequestHandlerTest, DismissesTheCard) {
     launch();
     save("shot.png");
     EXPECT_EQ(ask("dismiss"), "");
@@ -73,7 +73,7 @@ TEST_F(RequestTest, DismissesTheCard) {
     EXPECT_EQ(ask("dismiss"), "");
 }
 
-TEST_F(RequestTest, GivesThePanelTheKeyboardWhereThereIsOne) {
+TEST_F(RequestHandlerTest, GivesThePanelTheKeyboardWhereThereIsOne) {
     launch();
     EXPECT_EQ(ask("focus-panel"), "failed: no card is shown");
     EXPECT_EQ(panel.timesKeyboardTaken, 0);
@@ -82,7 +82,7 @@ TEST_F(RequestTest, GivesThePanelTheKeyboardWhereThereIsOne) {
     EXPECT_EQ(panel.timesKeyboardTaken, 1);
 }
 
-TEST_F(RequestTest, OpensSettingsAndFolderAndShowsSamplesAndQuits) {
+TEST_F(RequestHandlerTest, OpensSettingsAndFolderAndShowsSamplesAndQuits) {
     offerWindows();
     launch();
     EXPECT_EQ(ask("settings"), "");
@@ -95,7 +95,7 @@ TEST_F(RequestTest, OpensSettingsAndFolderAndShowsSamplesAndQuits) {
     EXPECT_EQ(application->terminations, 1);
 }
 
-TEST_F(RequestTest, TellsWhatItIsDoing) {
+TEST_F(RequestHandlerTest, TellsWhatItIsDoing) {
     launch();
     save("shot.png");
     EXPECT_EQ(ask("status"), "version: " + std::string(version) +
@@ -113,7 +113,7 @@ TEST_F(RequestTest, TellsWhatItIsDoing) {
     EXPECT_THAT(ask("status"), HasSubstr("state: not watching"));
 }
 
-TEST_F(RequestTest, TheVerboseStatusTellsWhatAReportOfAFaultNeedsButNoPath) {
+TEST_F(RequestHandlerTest, TheVerboseStatusTellsWhatAReportOfAFaultNeedsButNoPath) {
     platform.surroundings = [] { return std::vector<Fact>{{"tray", "on D-Bus"}}; };
     domain->values["location"] = std::string("/home/user/Clients");
     (void)files->createDirectory(Url::file("/home/user/Clients"));
@@ -133,12 +133,12 @@ TEST_F(RequestTest, TheVerboseStatusTellsWhatAReportOfAFaultNeedsButNoPath) {
               HasSubstr(" Vantle: cannot open /home/user/Clients/Acme.png: Permission denied")));
 }
 
-TEST_F(RequestTest, WhatIsNotKnownIsRefused) {
+TEST_F(RequestHandlerTest, WhatIsNotKnownIsRefused) {
     launch();
     EXPECT_EQ(ask("dance"), "failed: there is no action \"dance\"");
 }
 
-TEST_F(RequestTest, ASecondCopyHandsItsRequestToTheFirst) {
+TEST_F(RequestHandlerTest, ASecondCopyHandsItsRequestToTheFirst) {
     application->otherCopyRuns = true;
     const ApplicationRequest request{"show", {"/pictures/a.png"}};
     application->answer = std::string("done");
@@ -150,46 +150,12 @@ TEST_F(RequestTest, ASecondCopyHandsItsRequestToTheFirst) {
     EXPECT_EQ(application->terminations, 1);
 }
 
-TEST_F(RequestTest, WhatTheFirstCopyCannotDoTheSecondOneFailsWith) {
+TEST_F(RequestHandlerTest, WhatTheFirstCopyCannotDoTheSecondOneFailsWith) {
     application->otherCopyRuns = true;
     application->answer = Failure{EIO, "it is ending", {}};
     const auto answer = make().applicationWillFinishLaunching(ApplicationRequest{"status", {}});
     ASSERT_TRUE(answer.has_value());
     EXPECT_EQ(answer->failure().message, "it is ending");
-}
-
-class MissingTrayTest : public AppFixture {};
-
-TEST_F(MissingTrayTest, IsExplainedOnceAndForAll) {
-    statusItem->hasTray = false;
-    launch();
-    time.advance(Seconds(29));
-    EXPECT_THAT(alerts->shown, IsEmpty());
-    time.advance(Seconds(2));
-    ASSERT_EQ(alerts->shown.size(), 1u);
-    EXPECT_EQ(alerts->shown[0].style, Alert::Style::informational);
-    EXPECT_THAT(alerts->shown[0].informativeText, HasSubstr("start Vantle again"));
-    launch();
-    time.advance(Seconds(60));
-    EXPECT_EQ(alerts->shown.size(), 1u);
-}
-
-TEST_F(MissingTrayTest, TheExplanationSaysWhatWouldBringOne) {
-    statusItem->hasTray = false;
-    platform.trayExtension = [] { return TrayExtension{"Tray", "shell-tray", false}; };
-    launch();
-    time.advance(Seconds(31));
-    ASSERT_EQ(alerts->shown.size(), 1u);
-    EXPECT_THAT(alerts->shown[0].informativeText, HasSubstr("the package shell-tray"));
-}
-
-TEST_F(MissingTrayTest, ATrayThatComesLaterNeedsNoExplanation) {
-    statusItem->hasTray = false;
-    launch();
-    time.advance(Seconds(20));
-    statusItem->hasTray = true;
-    time.advance(Seconds(60));
-    EXPECT_THAT(alerts->shown, IsEmpty());
 }
 
 }  // namespace

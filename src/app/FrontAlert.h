@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/Alerts.h"
+#include "platform/Application.h"
+
+namespace vantle {
+
+/// Brings the program to the front to ask, and returns the answer.
+inline int runInFront(const Alert& alert, Application& application, Alerts& alerts) {
+    application.activate();
+    return alerts.runModal(alert);
+}
+
+}  // namespace vantle
