@@ -211,8 +211,8 @@ void AppDelegate::observeShowRecordings() {
 }
 
 void AppDelegate::connectNotifications() {
-    cancellables_.push_back(platform_.notifications.observe(
-        vantleShowDemo, weakly(shared_from_this(), [](auto& self) { self.showDemo(); })));
+    cancellables_.push_back(platform_.vantleShowDemo.add(
+        weakly(shared_from_this(), [](auto& self) { self.showDemo(); })));
 }
 
 void AppDelegate::startWatching() {

@@ -34,7 +34,7 @@
 #include "platform/UserDefaults.h"
 #include "platform/WallClock.h"
 #include "support/Environment.h"
-#include "support/NotificationCenter.h"
+#include "support/Observers.h"
 
 namespace vantle {
 
@@ -42,7 +42,8 @@ namespace vantle {
 /// Members are destroyed in reverse order: the queue ends before what its work uses.
 struct Platform {
     Environment environment;
-    NotificationCenter notifications;
+    /// The notice of the settings and the onboarding that the sample captures are to be shown.
+    Observers<> vantleShowDemo;
     /// What the tools of this system write, besides what those of every system do.
     CaptureExtensions moreExtensions;
     std::unique_ptr<Scheduler> scheduler;

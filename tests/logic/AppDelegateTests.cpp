@@ -276,7 +276,7 @@ TEST_F(AppDelegateTest, CallbacksDoNothingOnceTheDelegateHasGone) {
     onSettings();
     onPause(true);
     reopen(true);
-    platform.notifications.post(vantleShowDemo);
+    platform.vantleShowDemo.notify();
     EXPECT_FALSE(request({"settings", {}}));
     EXPECT_FALSE(panel.isOnScreen);
 }

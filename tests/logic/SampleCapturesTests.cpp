@@ -24,7 +24,7 @@ protected:
 
 TEST_F(SampleCapturesTest, OneIsShownAtOnceAndTheOther16TenthsOfASecondLater) {
     launch();
-    platform.notifications.post(vantleShowDemo);
+    platform.vantleShowDemo.notify();
     time.settle();
     EXPECT_THAT(shownNames(), ElementsAre("Vantle Sample.png"));
     time.advance(Seconds(1.59));

@@ -8,7 +8,6 @@
 #include "support/Debug.h"
 #include "support/DisplayName.h"
 #include "support/Geometry.h"
-#include "support/NotificationCenter.h"
 #include "support/Published.h"
 #include "support/UUID.h"
 #include "support/Url.h"
@@ -191,15 +190,6 @@ TEST(SystemLog, RemembersTheLatestMessagesButNotTheDiagnosticOnes) {
     ASSERT_EQ(recent.size(), recentMessages);
     EXPECT_EQ(recent.front().line, "2");
     EXPECT_EQ(recent.back().line, std::to_string(recentMessages + 1));
-}
-
-TEST(NotificationCenter, CallsTheObserversOfThatNameOnly) {
-    NotificationCenter center;
-    int calls = 0;
-    const auto subscription = center.observe(vantleShowDemo, [&] { ++calls; });
-    center.post("other");
-    center.post(vantleShowDemo);
-    EXPECT_EQ(calls, 1);
 }
 
 TEST(UUID, IsFreshEachTimeAndWrittenTheUsualWay) {

@@ -53,7 +53,7 @@ ScreenStage::ScreenStage() {
         *defaults,
         SystemScreenshotPrefs(*files, *platform.screenshotPreferences, *platform.launcher),
         *loginItem, *application);
-    sampleSubscription_ = platform.notifications.observe(vantleShowDemo, [this] { ++samples; });
+    sampleSubscription_ = platform.vantleShowDemo.add([this] { ++samples; });
 }
 
 void ScreenStage::open(std::unique_ptr<ScreenWindow> window, Size size) {

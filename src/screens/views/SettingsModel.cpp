@@ -18,7 +18,7 @@ QRect onScreen(const QQuickItem& item) {
 
 SettingsModel::SettingsModel(Settings& settings, Platform& platform)
     : settings_(settings),
-      notifications_(platform.notifications),
+      vantleShowDemo_(platform.vantleShowDemo),
       picker_({settings, *platform.files, *platform.folderChooser, *platform.application}),
       controls_(settings, *platform.scheduler),
       dockObstacle_(text(platform.application->activationPolicyObstacle())),
@@ -151,7 +151,7 @@ void SettingsModel::open(const Menu& menu, const QQuickItem& button) {
 }
 
 void SettingsModel::showSample() {
-    notifications_.post(vantleShowDemo);
+    vantleShowDemo_.notify();
 }
 
 }  // namespace vantle

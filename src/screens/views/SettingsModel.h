@@ -103,7 +103,7 @@ private:
     const double step_ = BehaviorControls::step;
 
     Settings& settings_;
-    NotificationCenter& notifications_;
+    const Observers<>& vantleShowDemo_;
     FolderPicker picker_;
     BehaviorControls controls_;
     QString folderObstacle_;
