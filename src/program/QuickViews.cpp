@@ -19,6 +19,25 @@ PanelModel::Rendering rendering(const Platform& platform) {
                                                        : PanelModel::Rendering::glass;
 }
 
+SettingsModel::Context settingsContext(const Platform& platform, Settings& settings) {
+    return {.settings = settings,
+            .files = *platform.files,
+            .folderChooser = *platform.folderChooser,
+            .application = *platform.application,
+            .scheduler = *platform.scheduler,
+            .recordingsFolder = platform.recordingsFolder,
+            .vantleShowDemo = platform.vantleShowDemo};
+}
+
+OnboardingModel::Context onboardingContext(const Platform& platform, Settings& settings) {
+    return {.settings = settingsContext(platform, settings),
+            .queue = *platform.watcherQueue,
+            .privacySettings = *platform.privacySettings,
+            .statusItem = *platform.statusItem,
+            .trayExtension = platform.trayExtension,
+            .environment = platform.environment};
+}
+
 /// The views as Qt Quick draws them.
 class QuickViews final : public Views {
 public:
@@ -30,12 +49,13 @@ public:
     }
 
     std::unique_ptr<Window> makeSettingsWindow(Platform& platform, Settings& settings) override {
-        return std::make_unique<SettingsWindow>(settings, platform);
+        return std::make_unique<SettingsWindow>(settingsContext(platform, settings));
     }
 
     std::unique_ptr<Window> makeOnboardingWindow(Platform& platform, Settings& settings,
                                                  std::function<void()> finish) override {
-        return std::make_unique<OnboardingWindow>(settings, platform, std::move(finish));
+        return std::make_unique<OnboardingWindow>(onboardingContext(platform, settings),
+                                                  std::move(finish));
     }
 
     std::unique_ptr<Window> makeUpdateWindow(UpdateFlow& flow) override {

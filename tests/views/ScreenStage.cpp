@@ -64,13 +64,29 @@ void ScreenStage::open(std::unique_ptr<ScreenWindow> window, Size size) {
     settle();
 }
 
+SettingsModel::Context ScreenStage::settingsContext() {
+    return {.settings = *settings,
+            .files = *files,
+            .folderChooser = *chooser,
+            .application = *application,
+            .scheduler = *platform.scheduler,
+            .recordingsFolder = platform.recordingsFolder,
+            .vantleShowDemo = platform.vantleShowDemo};
+}
+
 void ScreenStage::openSettings(Size size) {
-    open(std::make_unique<SettingsWindow>(*settings, platform), size);
+    open(std::make_unique<SettingsWindow>(settingsContext()), size);
 }
 
 void ScreenStage::openOnboarding(int step, Size size) {
     environment["VANTLE_ONBOARDING_STEP"] = std::to_string(step);
-    open(std::make_unique<OnboardingWindow>(*settings, platform, [this] { ++finished; }), size);
+    const OnboardingModel::Context context{.settings = settingsContext(),
+                                           .queue = *platform.watcherQueue,
+                                           .privacySettings = *privacySettings,
+                                           .statusItem = *statusItem,
+                                           .trayExtension = platform.trayExtension,
+                                           .environment = platform.environment};
+    open(std::make_unique<OnboardingWindow>(context, [this] { ++finished; }), size);
 }
 
 void ScreenStage::openUpdate(const UpdateState& state) {

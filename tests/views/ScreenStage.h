@@ -21,6 +21,7 @@
 #include "fakes/FakeUserDefaults.h"
 #include "fakes/FakeWindow.h"
 #include "fakes/VirtualTime.h"
+#include "platform/Platform.h"
 #include "screens/views/OnboardingWindow.h"
 #include "screens/views/SettingsWindow.h"
 #include "screens/views/UpdateWindow.h"
@@ -83,6 +84,7 @@ public:
     int samples = 0;
 
 private:
+    SettingsModel::Context settingsContext();
     void open(std::unique_ptr<ScreenWindow> window, Size size);
 
     UpdaterDelegate updaterDelegate_{platform.environment};

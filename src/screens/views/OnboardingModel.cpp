@@ -17,15 +17,15 @@ std::function<void()> onTheEventLoop(Scheduler& scheduler, std::function<void()>
 
 }  // namespace
 
-OnboardingModel::OnboardingModel(Settings& settings, Platform& platform,
-                                 std::function<void()> finish)
-    : settings_(settings),
-      platform_(platform),
-      model_(settings, platform),
-      access_({settings, *platform.files, *platform.watcherQueue, *platform.scheduler,
-               *platform.privacySettings}),
-      steps_(settings, onTheEventLoop(*platform.scheduler, std::move(finish)),
-             OnboardingSteps::initialStep(platform.environment)) {
+OnboardingModel::OnboardingModel(const Context& context, std::function<void()> finish)
+    : settings_(context.settings.settings),
+      statusItem_(context.statusItem),
+      trayExtension_(context.trayExtension),
+      model_(context.settings),
+      access_({settings_, context.settings.files, context.queue, context.settings.scheduler,
+               context.privacySettings}),
+      steps_(settings_, onTheEventLoop(context.settings.scheduler, std::move(finish)),
+             OnboardingSteps::initialStep(context.environment)) {
     connect(&model_, &SettingsModel::changed, this, &OnboardingModel::summaryChanged);
 }
 
@@ -37,13 +37,13 @@ void OnboardingModel::appear() {
 }
 
 QString OnboardingModel::outlook() const {
-    const Tray tray = platform_.statusItem->isShown() ? Tray::isThere : Tray::isMissing;
+    const Tray tray = statusItem_.isShown() ? Tray::isThere : Tray::isMissing;
     return QString::fromStdString(onboardingOutlook(settings_, tray));
 }
 
 QString OnboardingModel::trayAdvice() const {
-    if (platform_.statusItem->isShown() || !platform_.trayExtension) return {};
-    return QString::fromStdString(missingTrayAdvice(platform_.trayExtension()));
+    if (statusItem_.isShown() || !trayExtension_) return {};
+    return QString::fromStdString(missingTrayAdvice(trayExtension_()));
 }
 
 QVariantList OnboardingModel::summary() const {

@@ -4,10 +4,15 @@
 
 #include <QObject>
 #include <QVariantList>
+#include <functional>
+#include <optional>
 
+#include "platform/StatusItem.h"
+#include "platform/TrayExtension.h"
 #include "screens/OnboardingSteps.h"
 #include "screens/views/FolderAccessModel.h"
 #include "screens/views/SettingsModel.h"
+#include "support/Environment.h"
 
 namespace vantle {
 
@@ -30,9 +35,19 @@ class OnboardingModel : public QObject {
     Q_PROPERTY(QVariantList summary READ summary NOTIFY summaryChanged)
 
 public:
-    /// `settings` and `platform` outlive it. `finish` is called on the event loop: it may take the
-    /// view away.
-    OnboardingModel(Settings& settings, Platform& platform, std::function<void()> finish);
+    /// All outlive it.
+    struct Context {
+        SettingsModel::Context settings;
+        SerialQueue& queue;
+        PrivacySettings& privacySettings;
+        const StatusItem& statusItem;
+        /// What would bring a tray; may be empty.
+        const std::function<std::optional<TrayExtension>()>& trayExtension;
+        const Environment& environment;
+    };
+
+    /// `finish` is called on the event loop: it may take the view away.
+    OnboardingModel(const Context& context, std::function<void()> finish);
 
     void appear();
 
@@ -55,7 +70,8 @@ signals:
 
 private:
     Settings& settings_;
-    const Platform& platform_;
+    const StatusItem& statusItem_;
+    const std::function<std::optional<TrayExtension>()>& trayExtension_;
     SettingsModel model_;
     FolderAccessModel access_;
     OnboardingSteps steps_;

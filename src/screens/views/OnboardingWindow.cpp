@@ -4,9 +4,9 @@
 
 namespace vantle {
 
-OnboardingWindow::OnboardingWindow(Settings& settings, Platform& platform,
+OnboardingWindow::OnboardingWindow(const OnboardingModel::Context& context,
                                    std::function<void()> finish)
-    : ScreenWindow(QStringLiteral("Vantle")), model_(settings, platform, std::move(finish)) {
+    : ScreenWindow(QStringLiteral("Vantle")), model_(context, std::move(finish)) {
     load("OnboardingView", "onboarding", &model_);
 }
 

@@ -7,8 +7,8 @@ namespace vantle {
 
 class OnboardingWindow final : public ScreenWindow {
 public:
-    /// `settings` and `platform` outlive it; `finish` may destroy it.
-    OnboardingWindow(Settings& settings, Platform& platform, std::function<void()> finish);
+    /// `finish` may destroy it.
+    OnboardingWindow(const OnboardingModel::Context& context, std::function<void()> finish);
     ~OnboardingWindow() override;
 
 protected:

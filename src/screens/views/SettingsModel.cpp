@@ -16,13 +16,13 @@ QRect onScreen(const QQuickItem& item) {
 
 }  // namespace
 
-SettingsModel::SettingsModel(Settings& settings, Platform& platform)
-    : settings_(settings),
-      vantleShowDemo_(platform.vantleShowDemo),
-      picker_({settings, *platform.files, *platform.folderChooser, *platform.application}),
-      controls_(settings, *platform.scheduler),
-      dockObstacle_(text(platform.application->activationPolicyObstacle())),
-      recordingsFolder_(platform.recordingsFolder) {
+SettingsModel::SettingsModel(const Context& context)
+    : settings_(context.settings),
+      vantleShowDemo_(context.vantleShowDemo),
+      picker_({context.settings, context.files, context.folderChooser, context.application}),
+      controls_(context.settings, context.scheduler),
+      dockObstacle_(text(context.application.activationPolicyObstacle())),
+      recordingsFolder_(context.recordingsFolder) {
     follow();
 }
 

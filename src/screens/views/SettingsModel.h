@@ -8,9 +8,12 @@
 #include <vector>
 
 #include "menus/MenuWindow.h"
-#include "platform/Platform.h"
+#include "platform/FolderChooser.h"
+#include "platform/Scheduler.h"
 #include "screens/BehaviorControls.h"
 #include "screens/FolderPicker.h"
+#include "settings/Settings.h"
+#include "support/Observers.h"
 
 namespace vantle {
 
@@ -48,8 +51,20 @@ class SettingsModel : public QObject {
     Q_PROPERTY(bool showInDock READ showInDock WRITE setShowInDock NOTIFY changed)
 
 public:
-    /// Both outlive it.
-    SettingsModel(Settings& settings, Platform& platform);
+    /// All outlive it.
+    struct Context {
+        Settings& settings;
+        const FileManager& files;
+        FolderChooser& folderChooser;
+        Application& application;
+        Scheduler& scheduler;
+        /// Where the desktop's recorder saves; may be empty.
+        const std::function<Url()>& recordingsFolder;
+        /// Whom the wish for the sample captures is told.
+        const Observers<>& vantleShowDemo;
+    };
+
+    explicit SettingsModel(const Context& context);
 
     /// The views are about to be seen.
     void appear();
@@ -109,7 +124,7 @@ private:
     QString folderObstacle_;
     QString thumbnailObstacle_;
     const QString dockObstacle_;
-    std::function<Url()> recordingsFolder_;
+    const std::function<Url()>& recordingsFolder_;
     QString recordingsPlace_;
     std::unique_ptr<MenuWindow> menu_;  ///< Made when one is opened for the first time.
     std::vector<Subscription> subscriptions_;

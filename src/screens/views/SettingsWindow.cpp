@@ -4,9 +4,9 @@
 
 namespace vantle {
 
-SettingsWindow::SettingsWindow(Settings& settings, Platform& platform)
+SettingsWindow::SettingsWindow(const SettingsModel::Context& context)
     : ScreenWindow(QCoreApplication::translate("SettingsWindow", "Vantle Settings")),
-      model_(settings, platform) {
+      model_(context) {
     load("SettingsView", "settings", &model_);
 }
 

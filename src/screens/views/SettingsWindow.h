@@ -7,8 +7,7 @@ namespace vantle {
 
 class SettingsWindow final : public ScreenWindow {
 public:
-    /// Both outlive it.
-    SettingsWindow(Settings& settings, Platform& platform);
+    explicit SettingsWindow(const SettingsModel::Context& context);
     ~SettingsWindow() override;
 
 protected:
