@@ -213,7 +213,7 @@ void CapturePanelController::marqueeChanged(const std::optional<Rect>& rect) {
     if (!state_.visible.value()) return;
     const bool begins = rect && !state_.marquee.value();
     state_.marquee.set(rect);
-    if (begins) countdown_->pause();
+    if (begins) countdown_->marqueeBegan();
     if (rect)
         selection_.selectTouched(*rect, panel_->visibleThumbnails());
     else

@@ -86,6 +86,10 @@ void Countdown::shareMenuClosed() {
     resume();
 }
 
+void Countdown::marqueeBegan() {
+    pause();
+}
+
 void Countdown::marqueeEnded() {
     if (!isInUse() && !services_.state.hovering.value()) resume();
 }

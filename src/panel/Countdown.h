@@ -13,7 +13,8 @@ namespace vantle {
 
 /// The time after which the card leaves by itself, told by a one-shot timer, and by a fast one that
 /// moves the indicator. It waits while the pointer is over the card, and while the user is at
-/// something that needs the card although the pointer has left it. Main thread only.
+/// something that needs the card although the pointer has left it. Main thread only. Deferred work
+/// holds it weakly.
 class Countdown : public std::enable_shared_from_this<Countdown> {
 public:
     /// All outlive it.
@@ -33,14 +34,11 @@ public:
     /// the card is to stay.
     void restart();
 
-    /// Stops it for good, with the indicator as it is.
+    /// Stops it until the next restart(), with the indicator as it is.
     void stop();
 
-    /// Stops it for good, with the indicator full.
+    /// The same with the indicator full.
     void reset();
-
-    /// Holds it where it is, if it runs.
-    void pause();
 
     /// Several drags may be under way: one may begin while another waits for its target's answer.
     void dragBegan();
@@ -50,12 +48,15 @@ public:
     void shareMenuClosed();
     bool isShareMenuOpen() const { return isShareMenuOpen_; }
 
-    /// To be called when the state has no rubber band any more.
+    /// To be called once the state has a rubber band, and once it has none any more.
+    void marqueeBegan();
     void marqueeEnded();
 
 private:
     explicit Countdown(const Services& services);
 
+    /// Holds it where it is, if it runs.
+    void pause();
     /// Goes on with what was left when it was paused, and with enough to come back to the card.
     void resume();
     bool isInUse() const {
