@@ -30,16 +30,6 @@ std::size_t startOfPath(std::string_view line) {
     return std::string_view::npos;
 }
 
-/// Whether it is one of the system's messages, or of the watcher's.
-bool isReason(std::string_view text) {
-    constexpr int mostErrors = 134;
-    if (text == WatchError::missing().text() || text == WatchError::accessDenied().text())
-        return true;
-    for (int error = 1; error < mostErrors; ++error)
-        if (text == std::generic_category().message(error)) return true;
-    return false;
-}
-
 std::string text(bool value) {
     return value ? "yes" : "no";
 }
@@ -134,21 +124,19 @@ Fact settingsFact(const Settings& settings) {
 std::vector<Fact> logFacts(const std::vector<LoggedMessage>& messages, Paths paths) {
     if (messages.empty()) return {{"log", "empty"}};
     std::vector<Fact> facts;
-    for (const auto& [time, line] : messages)
-        facts.push_back(
-            {"log", localTime(time) + " " + (paths == Paths::shown ? line : withoutPaths(line))});
+    for (const LoggedMessage& logged : messages) {
+        const LoggedMessage hidden{logged.time, withoutPaths(logged.message),
+                                   withoutPaths(logged.reason)};
+        const LoggedMessage& told = paths == Paths::shown ? logged : hidden;
+        facts.push_back({"log", localTime(told.time) + " " + told.line()});
+    }
     return facts;
 }
 
-std::string withoutPaths(std::string_view line) {
-    constexpr std::string_view introduction = ": ";
-    const auto start = startOfPath(line);
-    if (start == std::string_view::npos) return std::string(line);
-    const std::string hidden = std::string(line.substr(0, start)) + "(path)";
-    const auto last = line.rfind(introduction);
-    if (last == std::string_view::npos || last < start) return hidden;
-    const auto reason = line.substr(last + introduction.size());
-    return isReason(reason) ? hidden + ": " + std::string(reason) : hidden;
+std::string withoutPaths(std::string_view text) {
+    const auto start = startOfPath(text);
+    if (start == std::string_view::npos) return std::string(text);
+    return std::string(text.substr(0, start)) + "(path)";
 }
 
 }  // namespace vantle

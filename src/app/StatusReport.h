@@ -58,12 +58,12 @@ std::string placeOf(const Url& folder, const FileManager& files, Paths paths);
 /// What the user has chosen, in one line; nothing of it is private.
 Fact settingsFact(const Settings& settings);
 
-/// The messages with their times, or that there are none.
+/// The messages with their times, or that there are none. Where paths are hidden, the reasons that
+/// were logged apart are still told.
 std::vector<Fact> logFacts(const std::vector<LoggedMessage>& messages, Paths paths);
 
-/// The line up to the first path in it, which becomes "(path)" with all that follows: a path can
-/// hold anything, so nobody knows where it ends. Only a reason that the system or the program gives
-/// in those words is kept, behind the last ": ".
-std::string withoutPaths(std::string_view line);
+/// The text up to the first path in it, which becomes "(path)" with all that follows: a path can
+/// hold anything, so nobody knows where it ends.
+std::string withoutPaths(std::string_view text);
 
 }  // namespace vantle

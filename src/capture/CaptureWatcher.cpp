@@ -103,7 +103,7 @@ std::optional<WatchError> CaptureWatcher::begin(const Opening& opening, WatchNum
 }
 
 void CaptureWatcher::report(const WatchError& error) {
-    systemLog("Vantle: cannot watch " + (folder_ ? folder_->path() : "?") + ": " + error.text());
+    systemLog("Vantle: cannot watch " + (folder_ ? folder_->path() : "?"), error.text());
     services_.main.async(weakly(shared_from_this(), [error](auto& self) {
         if (self.onError) self.onError(error);
     }));

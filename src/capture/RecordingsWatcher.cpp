@@ -97,8 +97,7 @@ void RecordingsWatcher::found(const Place& place, Existing existing) {
         return;
     }
     if (!place.source) {
-        systemLog("Vantle: cannot wait for " + folder_->path() + ": " +
-                  place.source.failure().message);
+        systemLog("Vantle: cannot wait for " + folder_->path(), place.source.failure().message);
         return;
     }
     Debug::log([&] { return "waiting in " + place.folder.path() + " for " + folder_->path(); });

@@ -38,18 +38,23 @@ std::string escaped(std::string_view message) {
     return line;
 }
 
-void remember(std::deque<LoggedMessage>& recent, const std::string& line) {
-    if (line.starts_with("Vantle[")) return;
-    recent.push_back({std::chrono::system_clock::now(), line});
+void remember(std::deque<LoggedMessage>& recent, const LoggedMessage& logged) {
+    if (logged.message.starts_with("Vantle[")) return;
+    recent.push_back(logged);
     if (recent.size() > recentMessages) recent.pop_front();
 }
 
 }  // namespace
 
 void systemLog(std::string_view message) {
-    const std::string line = escaped(message);
+    systemLog(message, {});
+}
+
+void systemLog(std::string_view message, std::string_view reason) {
+    const LoggedMessage logged{std::chrono::system_clock::now(), escaped(message), escaped(reason)};
+    const std::string line = logged.line();
     const std::lock_guard lock(log().mutex);
-    remember(log().recent, line);
+    remember(log().recent, logged);
     if (log().receive) {
         log().receive(line);
         return;

@@ -14,10 +14,16 @@ namespace vantle {
 /// lines never mix.
 void systemLog(std::string_view message);
 
+/// The same as "message: reason". Whoever reads it can tell the reason from names in the message.
+void systemLog(std::string_view message, std::string_view reason);
+
 /// A line of the system log, and when it was written.
 struct LoggedMessage {
     std::chrono::system_clock::time_point time;
-    std::string line;
+    std::string message;
+    std::string reason = {};  ///< Empty where none was told apart.
+
+    std::string line() const { return reason.empty() ? message : message + ": " + reason; }
 };
 
 /// How many are kept in mind.

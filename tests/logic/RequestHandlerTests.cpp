@@ -118,7 +118,7 @@ TEST_F(RequestHandlerTest, TheVerboseStatusTellsWhatAReportOfAFaultNeedsButNoPat
     domain->values["location"] = std::string("/home/user/Clients");
     (void)files->createDirectory(Url::file("/home/user/Clients"));
     launch();
-    systemLog("Vantle: cannot open /home/user/Clients/Acme.png: Permission denied");
+    systemLog("Vantle: cannot open /home/user/Clients/Acme.png", "Permission denied");
     const std::string report = ask("status", {"verbose"});
     EXPECT_THAT(report,
                 AllOf(HasSubstr("version: " + std::string(version)),

@@ -181,6 +181,14 @@ TEST(SystemLog, KeepsAMessageOnOneLineWhateverItHolds) {
     EXPECT_THAT(log.lines(), ElementsAre("two\\nlines\\x1b[31m"));
 }
 
+TEST(SystemLog, WritesAReasonBehindItsMessageAndRemembersItApart) {
+    CapturedLog log;
+    systemLog("cannot open /a: b", "no such\nfile");
+    EXPECT_THAT(log.lines(), ElementsAre("cannot open /a: b: no such\\nfile"));
+    EXPECT_EQ(recentSystemLog().back().message, "cannot open /a: b");
+    EXPECT_EQ(recentSystemLog().back().reason, "no such\\nfile");
+}
+
 TEST(SystemLog, RemembersTheLatestMessagesButNotTheDiagnosticOnes) {
     CapturedLog log(CapturedLog::DebugSwitch::on);
     for (std::size_t i = 1; i <= recentMessages + 1; ++i) systemLog(std::to_string(i));
@@ -188,8 +196,8 @@ TEST(SystemLog, RemembersTheLatestMessagesButNotTheDiagnosticOnes) {
     systemLog("Vantle[hit]: a place");
     const auto recent = recentSystemLog();
     ASSERT_EQ(recent.size(), recentMessages);
-    EXPECT_EQ(recent.front().line, "2");
-    EXPECT_EQ(recent.back().line, std::to_string(recentMessages + 1));
+    EXPECT_EQ(recent.front().line(), "2");
+    EXPECT_EQ(recent.back().line(), std::to_string(recentMessages + 1));
 }
 
 TEST(UUID, IsFreshEachTimeAndWrittenTheUsualWay) {

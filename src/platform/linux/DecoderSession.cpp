@@ -99,7 +99,7 @@ bool DecoderSession::prepare(Format format) {
 
 void DecoderSession::reportFailure(const Failure& failure) {
     if (std::exchange(hasReportedFailure_, true)) return;
-    systemLog("The decoder cannot be started, captures have no pictures: " + failure.path + ": " +
+    systemLog("The decoder cannot be started, captures have no pictures: " + failure.path,
               failure.message);
 }
 

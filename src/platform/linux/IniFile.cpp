@@ -30,7 +30,7 @@ Outcome IniFile::store(const std::map<std::string, PreferenceValue>& values,
     if (!isTrusted && !memory.isEmpty()) next = memory;
     for (const auto& [key, value] : values) next.set(key, value);
     auto failure = replaceWholeFile(file_, next.text());
-    if (failure) complain("cannot write " + file_.path() + ": " + failure->message);
+    if (failure) complain("cannot write " + file_.path(), failure->message);
     return failure;
 }
 
@@ -44,7 +44,7 @@ Result<IniDocument> IniFile::read() const {
     if (failure == ENOENT) return IniDocument();
     const bool isNoSettingsFile = failure == EFBIG || failure == EISDIR;
     if (!text && !isNoSettingsFile) {
-        complain("cannot read " + file_.path() + ": " + text.failure().message);
+        complain("cannot read " + file_.path(), text.failure().message);
         return text.failure();
     }
     IniDocument document = text ? IniDocument::parse(text.value()) : IniDocument();
@@ -58,8 +58,7 @@ Result<IniDocument> IniFile::read() const {
 Outcome IniFile::keepDamagedAside() const {
     const auto aside = keepAside(file_);
     if (!aside) {
-        complain("cannot keep aside what is damaged, " + file_.path() + ": " +
-                 aside.failure().message);
+        complain("cannot keep aside what is damaged, " + file_.path(), aside.failure().message);
         return aside.failure();
     }
     systemLog("Vantle: a damaged file is kept aside, and what can be read of it is used: " +
@@ -67,8 +66,8 @@ Outcome IniFile::keepDamagedAside() const {
     return {};
 }
 
-void IniFile::complain(const std::string& message) const {
-    if (!std::exchange(complained_, true)) systemLog("Vantle: " + message);
+void IniFile::complain(const std::string& message, const std::string& reason) const {
+    if (!std::exchange(complained_, true)) systemLog("Vantle: " + message, reason);
 }
 
 }  // namespace vantle

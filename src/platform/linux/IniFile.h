@@ -33,7 +33,7 @@ public:
 private:
     Result<IniDocument> read() const;
     Outcome keepDamagedAside() const;
-    void complain(const std::string& message) const;
+    void complain(const std::string& message, const std::string& reason) const;
 
     Url file_;
     mutable bool complained_ = false;

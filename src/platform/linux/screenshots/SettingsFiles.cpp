@@ -76,7 +76,7 @@ Result<KeyFile> SettingsFiles::load(const Url& file) const {
 
 Failure SettingsFiles::complain(const Failure& failure) const {
     if (!std::exchange(complained_, true))
-        systemLog("Vantle: cannot use " + failure.path + ": " + failure.message);
+        systemLog("Vantle: cannot use " + failure.path, failure.message);
     return failure;
 }
 
