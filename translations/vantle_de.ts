@@ -258,7 +258,7 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
     </message>
 </context>
 <context>
-    <name>DBusApplication</name>
+    <name>Compositor</name>
     <message>
         <source>On Wayland your desktop decides what stands in the taskbar.</source>
         <translation>Unter Wayland entscheidet Ihr Desktop, was in der Taskleiste steht.</translation>

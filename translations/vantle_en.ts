@@ -255,7 +255,7 @@ that runs; --settings, --show and --sample start one where none does.</source>
     </message>
 </context>
 <context>
-    <name>DBusApplication</name>
+    <name>Compositor</name>
     <message>
         <source>On Wayland your desktop decides what stands in the taskbar.</source>
         <translation type="unfinished"></translation>

@@ -258,7 +258,7 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
     </message>
 </context>
 <context>
-    <name>DBusApplication</name>
+    <name>Compositor</name>
     <message>
         <source>On Wayland your desktop decides what stands in the taskbar.</source>
         <translation>Sous Wayland, votre bureau décide de ce qui figure dans la barre des tâches.</translation>

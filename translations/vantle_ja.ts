@@ -258,7 +258,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
 </context>
 <context>
-    <name>DBusApplication</name>
+    <name>Compositor</name>
     <message>
         <source>On Wayland your desktop decides what stands in the taskbar.</source>
         <translation>Wayland では、タスクバーに何を表示するかはデスクトップが決めます。</translation>

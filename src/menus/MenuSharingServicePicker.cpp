@@ -17,8 +17,12 @@ struct MenuSharingServicePicker::Request {
 };
 
 MenuSharingServicePicker::MenuSharingServicePicker(std::unique_ptr<SharingSource> source,
-                                                   Pasteboard& pasteboard, FileOpener& opener)
-    : source_(std::move(source)), pasteboard_(pasteboard), opener_(opener) {}
+                                                   Pasteboard& pasteboard, FileOpener& opener,
+                                                   Host host)
+    : source_(std::move(source)),
+      pasteboard_(pasteboard),
+      opener_(opener),
+      host_(std::move(host)) {}
 
 MenuSharingServicePicker::~MenuSharingServicePicker() = default;
 
@@ -59,7 +63,7 @@ void MenuSharingServicePicker::open(const std::shared_ptr<Request>& request,
         menu.items.push_back({offer.perform ? MenuItem::Kind::action : MenuItem::Kind::separator,
                               offer.title, offer.symbol});
     if (!window_) window_ = std::make_unique<MenuWindow>();
-    window_->open(menu, {fromScreenCoordinates(request->anchor)},
+    window_->open(menu, {fromScreenCoordinates(request->anchor), nullptr, host_()},
                   [request](std::optional<int> chosen) { end(*request, chosen); });
 }
 

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "menus/MenuWindow.h"
 #include "platform/FileOpener.h"
 #include "platform/Pasteboard.h"
 #include "platform/SharingServicePicker.h"
-#include "platform/qt/sharing/SharingSource.h"
+#include "platform/SharingSource.h"
 
 namespace vantle {
 
@@ -14,9 +15,12 @@ namespace vantle {
 /// is made for the first menu.
 class MenuSharingServicePicker final : public SharingServicePicker {
 public:
+    /// What the menu points to stands on that overlay; it may return null.
+    using Host = std::function<Overlay*()>;
+
     /// The clipboard and the opener outlive it.
     MenuSharingServicePicker(std::unique_ptr<SharingSource> source, Pasteboard& pasteboard,
-                             FileOpener& opener);
+                             FileOpener& opener, Host host);
     ~MenuSharingServicePicker() override;
 
     void show(const std::vector<Url>& items, const Rect& anchor,
@@ -36,6 +40,7 @@ private:
     const std::unique_ptr<SharingSource> source_;
     Pasteboard& pasteboard_;
     FileOpener& opener_;
+    const Host host_;
     std::unique_ptr<MenuWindow> window_;
     std::shared_ptr<Request> request_;  ///< The last one.
 };

@@ -11,6 +11,21 @@
 #include "capture/Capture.h"
 #include "capture/SystemScreenshotPrefs.h"
 #include "platform/ScreenshotPreferences.h"
+#include "platform/displays/ServerChoice.h"
+#include "platform/freedesktop/DesktopFileOpener.h"
+#include "platform/freedesktop/DesktopPrivacySettings.h"
+#include "platform/freedesktop/FileTransferPortal.h"
+#include "platform/freedesktop/GSettingsCommand.h"
+#include "platform/freedesktop/MountEvents.h"
+#include "platform/freedesktop/PortalAppearance.h"
+#include "platform/freedesktop/PortalFolderChooser.h"
+#include "platform/freedesktop/UpdateProgram.h"
+#include "platform/freedesktop/sharing/BluetoothSharing.h"
+#include "platform/freedesktop/sharing/GsConnectSharing.h"
+#include "platform/freedesktop/sharing/KdeConnectSharing.h"
+#include "platform/freedesktop/sharing/MailSharing.h"
+#include "platform/freedesktop/sharing/SharingSources.h"
+#include "platform/freedesktop/tray/TrayStatusItem.h"
 #include "platform/linux/AutostartLoginItem.h"
 #include "platform/linux/CanberraSoundPlayer.h"
 #include "platform/linux/ConfinedMediaLoader.h"
@@ -32,26 +47,12 @@
 #include "platform/linux/screenshots/ToolPreferencesDomain.h"
 #include "platform/qt/DensestScreen.h"
 #include "platform/qt/DesktopFacts.h"
-#include "platform/qt/DesktopFileOpener.h"
-#include "platform/qt/DesktopPrivacySettings.h"
 #include "platform/qt/DialogFolderChooser.h"
-#include "platform/qt/GSettingsCommand.h"
-#include "platform/qt/MountEvents.h"
-#include "platform/qt/PortalAppearance.h"
-#include "platform/qt/PortalFolderChooser.h"
+#include "platform/qt/DisplayServer.h"
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/QtScreens.h"
-#include "platform/qt/UpdateProgram.h"
-#include "platform/qt/sharing/BluetoothSharing.h"
-#include "platform/qt/sharing/GsConnectSharing.h"
-#include "platform/qt/sharing/KdeConnectSharing.h"
-#include "platform/qt/sharing/MailSharing.h"
-#include "platform/qt/sharing/SharingSources.h"
-#include "platform/qt/tray/TrayStatusItem.h"
-#include "platform/wayland/Connection.h"
-#include "platform/wayland/ServerChoice.h"
 #include "support/SystemLog.h"
 #include "support/Version.h"
 #include "updates/UpdateFlow.h"
@@ -87,10 +88,12 @@ std::shared_ptr<MediaLoader> makePictureLoader() {
 
 /// What a capture can be used for.
 void addUses(Platform& platform, LoadedViews& views) {
+    const auto fileTransfer = std::make_shared<FileTransferPortal>();
+    views.use({platform.appearance.get(), fileTransfer});
     platform.opener = std::make_unique<DesktopFileOpener>(*platform.launcher,
                                                           DesktopFileOpener::currentSandbox());
     platform.trash = std::make_unique<FreedesktopTrash>(*platform.scheduler, platform.environment);
-    platform.pasteboard = std::make_unique<QtPasteboard>(makePictureLoader());
+    platform.pasteboard = std::make_unique<QtPasteboard>(makePictureLoader(), fileTransfer);
     platform.sharing = loadedSharingServicePicker(views, makeSharingSource(platform),
                                                   *platform.pasteboard, *platform.opener);
     platform.privacySettings = std::make_unique<DesktopPrivacySettings>(
@@ -101,9 +104,7 @@ void addUses(Platform& platform, LoadedViews& views) {
 }
 
 std::unique_ptr<TrayStatusItem> makeStatusItem(OpenMenu openMenu) {
-    // Without layers it would not stand at the icon, and a window of X cannot hold the pointer
-    // there.
-    const bool isPlaced = !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || wayland::offersLayers();
+    const bool isPlaced = DisplayServer::current().placesMenusAnywhere();
     return std::make_unique<TrayStatusItem>(
         std::move(openMenu),
         isPlaced ? TrayStatusItem::Click::opensOurMenu : TrayStatusItem::Click::opensMenuOfTray);
@@ -112,7 +113,7 @@ std::unique_ptr<TrayStatusItem> makeStatusItem(OpenMenu openMenu) {
 /// What stands around the program, for reports of faults.
 std::vector<Fact> surroundings(const Environment& environment, const TrayStatusItem& statusItem) {
     std::vector<Fact> facts = systemFacts(environment, Url::file(beside("../share/vantle")));
-    std::ranges::copy(displayServerFacts(), std::back_inserter(facts));
+    std::ranges::copy(DisplayServer::current().facts(), std::back_inserter(facts));
     std::ranges::copy(desktopFacts(), std::back_inserter(facts));
     facts.push_back({"tray", statusItem.tray()});
     std::ranges::copy(decoderFacts(beside("vantle-decoder")), std::back_inserter(facts));
@@ -122,7 +123,7 @@ std::vector<Fact> surroundings(const Environment& environment, const TrayStatusI
 /// What the program says of itself, outside the panel.
 void addShell(Platform& platform, LoadedViews& views) {
     auto statusItem = makeStatusItem(loadedMenu(views));
-    platform.displayServer = displayServer;
+    platform.displayServer = [] { return DisplayServer::current().name(); };
     platform.trayExtension = [environment = platform.environment] {
         return gnomeTrayExtension(environment);
     };
@@ -243,12 +244,11 @@ Platform makeLinuxPlatform(DBusApplication::Launch launch, LoadedViews& views) {
     platform.defaults = std::make_unique<IniUserDefaults>(own.appending("vantle.conf"));
     addScreenshotTool(platform,
                       own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));
-    platform.launcher = std::make_unique<PosixProcessLauncher>(wayland::ownVariables());
+    platform.launcher = std::make_unique<PosixProcessLauncher>(displays::ownVariables());
     platform.loginItem = makeLoginItem(platform.environment);
     platform.screens = std::make_unique<QtScreens>();
     platform.application = std::make_unique<DBusApplication>(programIdentifier, launch);
     platform.appearance = std::make_unique<PortalAppearance>();
-    views.follow(*platform.appearance);
     addUses(platform, views);
     addShell(platform, views);
     platform.makeUpdater = [&views](Platform& surroundings, UpdaterObserver& observer) {

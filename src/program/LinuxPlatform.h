@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
-#include "platform/qt/DBusApplication.h"
+#include "platform/freedesktop/DBusApplication.h"
 #include "program/LoadedViews.h"
 
 namespace vantle {

@@ -65,7 +65,7 @@ Views& LoadedViews::get() {
     void* library = load();
     const auto entry = library ? reinterpret_cast<ViewsEntry>(dlsym(library, viewsEntry)) : nullptr;
     if (!entry) qFatal("the library of the views cannot be loaded: %s", dlerror());
-    views_.reset(entry(appearance_));
+    views_.reset(entry(services_));
     return *views_;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
-#include "platform/DesktopAppearance.h"
 #include "platform/linux/HeldLibrary.h"
 #include "program/Views.h"
 
@@ -16,8 +16,8 @@ public:
     /// Ends the program when there is no such library. The application object is there.
     LoadedViews();
 
-    /// How the desktop wants the views to look. To be called before there are any; outlives them.
-    void follow(DesktopAppearance& appearance) { appearance_ = &appearance; }
+    /// To be called before there are any views.
+    void use(ViewsServices services) { services_ = std::move(services); }
 
     /// Ends the program when the library cannot be loaded.
     Views& get();
@@ -27,7 +27,7 @@ private:
 
     const HeldLibrary noProxies_;
     const HeldLibrary library_;
-    DesktopAppearance* appearance_ = nullptr;
+    ViewsServices services_;
     std::unique_ptr<Views> views_;
 };
 

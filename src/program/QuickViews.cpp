@@ -1,3 +1,4 @@
+#include <QPointer>
 #include <utility>
 
 #include "menus/MenuSharingServicePicker.h"
@@ -41,11 +42,16 @@ OnboardingModel::Context onboardingContext(const Platform& platform, Settings& s
 /// The views as Qt Quick draws them.
 class QuickViews final : public Views {
 public:
+    explicit QuickViews(std::shared_ptr<const FileTransfer> transfer)
+        : dragging_(std::move(transfer)) {}
+
     std::unique_ptr<PanelWindow> makePanel(Platform& platform, PanelState& state,
                                            Settings& settings, CardActions actions) override {
-        return std::make_unique<CapturePanel>(
+        auto panel = std::make_unique<CapturePanel>(
             PanelModel::Context{state, settings, *platform.clock, *platform.scheduler, dragging_,
                                 std::move(actions), rendering(platform)});
+        card_ = &panel->overlay();
+        return panel;
     }
 
     std::unique_ptr<Window> makeSettingsWindow(Platform& platform, Settings& settings) override {
@@ -67,23 +73,25 @@ public:
     std::unique_ptr<SharingServicePicker> makeSharingServicePicker(
         std::unique_ptr<SharingSource> source, Pasteboard& pasteboard,
         FileOpener& opener) override {
-        return std::make_unique<MenuSharingServicePicker>(std::move(source), pasteboard, opener);
+        return std::make_unique<MenuSharingServicePicker>(std::move(source), pasteboard, opener,
+                                                          [this] { return card_.data(); });
     }
 
     OpenMenu makeMenu() override {
         return [window = std::make_shared<MenuWindow>()](const Menu& menu, const QRect& anchor) {
-            window->open(menu, {anchor});
+            window->open(menu, {.frame = anchor});
         };
     }
 
 private:
     QtDraggingSessions dragging_;
+    QPointer<Overlay> card_;
 };
 
 }  // namespace
 }  // namespace vantle
 
-extern "C" vantle::Views* vantleMakeViews(vantle::DesktopAppearance* appearance) {
-    vantle::Appearance::follow(appearance);
-    return std::make_unique<vantle::QuickViews>().release();
+extern "C" vantle::Views* vantleMakeViews(const vantle::ViewsServices& services) {
+    vantle::Appearance::follow(services.appearance);
+    return std::make_unique<vantle::QuickViews>(services.transfer).release();
 }

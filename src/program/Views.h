@@ -7,13 +7,15 @@
 #include "panel/CapturePanelController.h"
 #include "panel/CardActions.h"
 #include "platform/Alerts.h"
+#include "platform/DesktopAppearance.h"
 #include "platform/FileOpener.h"
 #include "platform/Menu.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
 #include "platform/SharingServicePicker.h"
+#include "platform/SharingSource.h"
 #include "platform/Window.h"
-#include "platform/qt/sharing/SharingSource.h"
+#include "platform/qt/FileTransfer.h"
 #include "updates/UpdateFlow.h"
 
 namespace vantle {
@@ -21,6 +23,14 @@ namespace vantle {
 /// Opens a menu beside a place in Qt's screen coordinates, and does what is chosen in it. It closes
 /// with the last copy of the function.
 using OpenMenu = std::function<void(const Menu& menu, const QRect& anchor)>;
+
+/// What the views ask of the desktop by themselves.
+struct ViewsServices {
+    /// How they are to look; it outlives them. Null where nobody says.
+    DesktopAppearance* appearance = nullptr;
+    /// For files that are dragged into programs in a sandbox; null where there is none.
+    std::shared_ptr<const FileTransfer> transfer;
+};
 
 /// Makes all that people see besides the icon in the tray. It stands in a library of its own, which
 /// is loaded with the first that is asked for (LoadedViews.h). What is handed to these functions

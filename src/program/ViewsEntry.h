@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/DesktopAppearance.h"
 #include "program/Views.h"
 
 namespace vantle {
@@ -9,8 +8,7 @@ namespace vantle {
 /// both have one version.
 inline constexpr auto viewsEntry = "vantleMakeViews";
 
-/// What stands behind that name. Makes the views, which the caller owns; they look as `appearance`,
-/// which outlives them, wants it.
-using ViewsEntry = Views* (*)(DesktopAppearance* appearance);
+/// What stands behind that name. Makes the views, which the caller owns.
+using ViewsEntry = Views* (*)(const ViewsServices& services);
 
 }  // namespace vantle

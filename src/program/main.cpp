@@ -13,12 +13,12 @@
 
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
-#include "platform/qt/ActivationToken.h"
-#include "platform/qt/DBusApplication.h"
-#include "platform/qt/DisplayConnection.h"
-#include "platform/qt/UnixSignals.h"
+#include "platform/displays/DisplayServers.h"
+#include "platform/displays/ServerChoice.h"
+#include "platform/freedesktop/ActivationToken.h"
+#include "platform/freedesktop/DBusApplication.h"
+#include "platform/freedesktop/UnixSignals.h"
 #include "platform/qt/translations/Translations.h"
-#include "platform/wayland/ServerChoice.h"
 #include "program/LinuxPlatform.h"
 #include "program/LoadedViews.h"
 #include "support/SystemLog.h"
@@ -40,7 +40,7 @@ void returnLargeBlocksAtOnce() {
 void logOrEnd(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type != QtFatalMsg) {
         systemLog(message.toStdString());
-        if (isDisplayLost()) _exit(EXIT_FAILURE);
+        if (DisplayServer::current().isLost()) _exit(EXIT_FAILURE);
         return;
     }
     const bool hasDisplay = QGuiApplication::primaryScreen() != nullptr;
@@ -74,7 +74,7 @@ int ask(int& argc, char** argv, const ApplicationRequest& request) {
 }
 
 QGuiApplication makeApplication(int& argc, char** argv) {
-    const wayland::ServerChoice choice;
+    const displays::ServerChoice choice;
     return QGuiApplication(argc, argv);
 }
 
@@ -105,6 +105,7 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
     const auto& request = line.request;
     qInstallMessageHandler(logOrEnd);
     QGuiApplication application = makeApplication(argc, argv);
+    const DisplayServer::Choice server(displays::makeDisplayServer());
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName(QString::fromLatin1(programIdentifier));
     translations.install();

@@ -8,8 +8,8 @@
 #include <cstdio>
 #include <string>
 
-#include "platform/qt/DBusApplication.h"
-#include "platform/qt/UnixSignals.h"
+#include "platform/freedesktop/DBusApplication.h"
+#include "platform/freedesktop/UnixSignals.h"
 
 using namespace vantle;
 

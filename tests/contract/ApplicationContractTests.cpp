@@ -13,7 +13,7 @@
 #include <utility>
 
 #include "fakes/FakeApplication.h"
-#include "platform/qt/DBusApplication.h"
+#include "platform/freedesktop/DBusApplication.h"
 
 namespace vantle {
 namespace {

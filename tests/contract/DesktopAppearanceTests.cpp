@@ -6,7 +6,7 @@
 #include "contract/EventLoop.h"
 #include "contract/PrivateBus.h"
 #include "contract/SettingsPortal.h"
-#include "platform/qt/PortalAppearance.h"
+#include "platform/freedesktop/PortalAppearance.h"
 
 namespace vantle {
 namespace {

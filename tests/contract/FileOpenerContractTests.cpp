@@ -10,7 +10,7 @@
 #include "fakes/CapturedLog.h"
 #include "fakes/FakeFileOpener.h"
 #include "fakes/FakeProcessLauncher.h"
-#include "platform/qt/DesktopFileOpener.h"
+#include "platform/freedesktop/DesktopFileOpener.h"
 
 namespace vantle {
 namespace {

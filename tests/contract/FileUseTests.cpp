@@ -6,7 +6,7 @@
 #include "contract/EventLoop.h"
 #include "contract/TemporaryFolder.h"
 #include "contract/TextFile.h"
-#include "platform/qt/FileUse.h"
+#include "platform/freedesktop/FileUse.h"
 
 namespace vantle {
 namespace {

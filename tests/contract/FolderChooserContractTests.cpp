@@ -9,8 +9,8 @@
 #include "contract/PrivateBus.h"
 #include "fakes/CapturedLog.h"
 #include "fakes/FakeFolderChooser.h"
+#include "platform/freedesktop/PortalFolderChooser.h"
 #include "platform/qt/DialogFolderChooser.h"
-#include "platform/qt/PortalFolderChooser.h"
 #include "platform/qt/QtScheduler.h"
 
 namespace vantle {

@@ -11,7 +11,7 @@
 #include "TemporaryFolder.h"
 #include "TextFile.h"
 #include "fakes/FakeGSettings.h"
-#include "platform/qt/GSettingsCommand.h"
+#include "platform/freedesktop/GSettingsCommand.h"
 
 namespace vantle {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "TemporaryFolder.h"
 #include "Waiting.h"
-#include "platform/qt/MountEvents.h"
+#include "platform/freedesktop/MountEvents.h"
 
 namespace vantle {
 namespace {

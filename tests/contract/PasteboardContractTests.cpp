@@ -18,6 +18,7 @@
 #include "fakes/FakeMediaLoader.h"
 #include "fakes/FakePasteboard.h"
 #include "fakes/VirtualTime.h"
+#include "platform/freedesktop/FileTransferPortal.h"
 #include "platform/qt/FileMimeData.h"
 #include "platform/qt/QtPasteboard.h"
 
@@ -64,7 +65,7 @@ struct MemoryPasteboard {
 struct DesktopPasteboard {
     TemporaryFolder folder;
     std::shared_ptr<fakes::FakeMediaLoader> media = std::make_shared<fakes::FakeMediaLoader>();
-    QtPasteboard pasteboard{media};
+    QtPasteboard pasteboard{media, nullptr};
 
     Url saveImage(const std::string& name, const char* format = "PNG") {
         const Url file = folder / name;
@@ -189,7 +190,7 @@ TEST_F(FileMimeDataTest, TheToolkitFindsThePathsAsTextInIt) {
 
 TEST_F(FileMimeDataTest, NobodyHasReadItBeforeHeGotSomething) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
-    const auto wasRead = data.readMark();
+    const auto wasRead = data.marks().wasRead;
     (void)data.formats();
     EXPECT_FALSE(data.hasImage());
     EXPECT_EQ(get(data, "image/png"), "");
@@ -200,7 +201,7 @@ TEST_F(FileMimeDataTest, NobodyHasReadItBeforeHeGotSomething) {
 
 TEST_F(FileMimeDataTest, WhoAsksForTheListOfAddressesHasReadIt) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
-    const auto wasRead = data.readMark();
+    const auto wasRead = data.marks().wasRead;
     (void)data.urls();
     EXPECT_TRUE(*wasRead);
 }
@@ -213,8 +214,8 @@ TEST_F(FileMimeDataTest, ADragCarriesAddressesOnly) {
 
 TEST_F(FileMimeDataTest, KdesFileManagersDecideLater) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
-    const auto wasRead = data.readMark();
-    const auto decidesLater = data.decidesLaterMark();
+    const auto wasRead = data.marks().wasRead;
+    const auto decidesLater = data.marks().decidesLater;
     (void)data.urls();
     EXPECT_FALSE(*decidesLater);
     EXPECT_EQ(get(data, "application/x-kio-metadata"), "");
@@ -289,7 +290,7 @@ TEST_F(FileMimeDataTest, ADamagedPictureGivesNothing) {
     save(file, "II*");
     desktop.media->addDamagedImage(file, Size{40, 30}, Size{40, 30});
     const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
-    const auto wasRead = data.readMark();
+    const auto wasRead = data.marks().wasRead;
     EXPECT_EQ(get(data, "image/png"), "");
     EXPECT_FALSE(*wasRead);
 }
@@ -335,7 +336,7 @@ protected:
 
 TEST_F(FileTransferPortalTest, ProgramsInASandboxGetAKeyForTheFiles) {
     const FileMimeData data(save(2), nullptr, FileMimeData::Use::drag,
-                            FileTransferPortal(bus.connect()));
+                            std::make_shared<FileTransferPortal>(bus.connect()));
     EXPECT_THAT(data.formats().mid(0, 2),
                 ElementsAre("application/vnd.portal.filetransfer", "text/uri-list"));
     const QByteArray key = data.data(QStringLiteral("application/vnd.portal.filetransfer"));

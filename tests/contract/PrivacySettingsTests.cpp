@@ -5,7 +5,7 @@
 #include "contract/EventLoop.h"
 #include "contract/PrivateBus.h"
 #include "fakes/FakeFileOpener.h"
-#include "platform/qt/DesktopPrivacySettings.h"
+#include "platform/freedesktop/DesktopPrivacySettings.h"
 
 namespace vantle {
 namespace {

@@ -1,6 +1,6 @@
 # The suites of the backends on Qt. They bring displays and a message bus of their own.
 add_executable(application_copy ${CMAKE_CURRENT_LIST_DIR}/ApplicationContractCopy.cpp)
-target_link_libraries(application_copy PRIVATE vantle_platform_qt vantle_warnings)
+target_link_libraries(application_copy PRIVATE vantle_platform_freedesktop vantle_warnings)
 
 # Also used by the desktop tests.
 add_executable(settings-portal ${CMAKE_CURRENT_LIST_DIR}/SettingsPortalProgram.cpp
@@ -39,9 +39,10 @@ set_target_properties(qt_contract_tests PROPERTIES AUTOMOC ON)
 target_compile_definitions(
   qt_contract_tests PRIVATE VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>"
                             VANTLE_TRANSLATIONS="${CMAKE_BINARY_DIR}/share/vantle/translations")
-target_link_libraries(qt_contract_tests PRIVATE vantle_platform_qt_sharing
+target_link_libraries(qt_contract_tests PRIVATE vantle_platform_displays
+                                                vantle_platform_freedesktop_sharing
                                                 vantle_platform_qt_translations
-                                                vantle_platform_qt_tray
+                                                vantle_platform_freedesktop_tray
                                                 vantle_fakes vantle_warnings
                                                 GTest::gmock)
 vantle_precompile_tests(qt_contract_tests <gmock/gmock.h> <map> <string> <vector> <QDBusConnection>

@@ -2,9 +2,9 @@
 
 #include <map>
 
-#include "platform/wayland/ServerChoice.h"
+#include "platform/displays/ServerChoice.h"
 
-namespace vantle::wayland {
+namespace vantle::displays {
 namespace {
 
 Environment with(std::map<std::string, std::string> variables) {
@@ -44,4 +44,4 @@ TEST(ServerChoiceTest, WhereNobodyAnswersNothingIsOffered) {
 }
 
 }  // namespace
-}  // namespace vantle::wayland
+}  // namespace vantle::displays

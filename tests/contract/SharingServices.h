@@ -8,7 +8,7 @@
 #include <QStringList>
 #include <QVariantMap>
 
-#include "platform/qt/sharing/ManagedObjects.h"
+#include "platform/freedesktop/sharing/ManagedObjects.h"
 
 // What programs that take files offer on the message bus, as far as others use it.
 namespace vantle {

@@ -13,11 +13,11 @@
 #include "contract/TextFile.h"
 #include "fakes/CapturedLog.h"
 #include "fakes/FakeProcessLauncher.h"
-#include "platform/qt/sharing/BluetoothSharing.h"
-#include "platform/qt/sharing/GsConnectSharing.h"
-#include "platform/qt/sharing/KdeConnectSharing.h"
-#include "platform/qt/sharing/MailSharing.h"
-#include "platform/qt/sharing/SharingSources.h"
+#include "platform/freedesktop/sharing/BluetoothSharing.h"
+#include "platform/freedesktop/sharing/GsConnectSharing.h"
+#include "platform/freedesktop/sharing/KdeConnectSharing.h"
+#include "platform/freedesktop/sharing/MailSharing.h"
+#include "platform/freedesktop/sharing/SharingSources.h"
 
 namespace vantle {
 namespace {

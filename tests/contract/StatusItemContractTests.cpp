@@ -6,7 +6,7 @@
 #include "contract/PrivateBus.h"
 #include "contract/TrayService.h"
 #include "fakes/FakeStatusItem.h"
-#include "platform/qt/tray/TrayStatusItem.h"
+#include "platform/freedesktop/tray/TrayStatusItem.h"
 
 namespace vantle {
 namespace {

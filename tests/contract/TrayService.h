@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "contract/EventLoop.h"
-#include "platform/qt/tray/BusMenuTypes.h"
+#include "platform/freedesktop/tray/BusMenuTypes.h"
 
 namespace vantle {
 

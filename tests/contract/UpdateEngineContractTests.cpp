@@ -11,7 +11,7 @@
 
 #include "contract/EventLoop.h"
 #include "fakes/FakeUpdateEngine.h"
-#include "platform/qt/UpdateProgram.h"
+#include "platform/freedesktop/UpdateProgram.h"
 
 namespace vantle {
 namespace {

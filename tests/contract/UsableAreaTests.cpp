@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/qt/UsableArea.h"
+#include "platform/x11/UsableArea.h"
 
-namespace vantle {
+namespace vantle::x11 {
 namespace {
 
 /// A large screen, and a smaller one to the right of it.
@@ -56,4 +56,4 @@ TEST(UsableAreaTest, PanelsAtTwoEdgesTakeBoth) {
 }
 
 }  // namespace
-}  // namespace vantle
+}  // namespace vantle::x11

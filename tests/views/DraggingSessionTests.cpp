@@ -82,7 +82,7 @@ protected:
 
     ManualFrames frames;
     QWindow window;
-    QtDraggingSessions sessions;
+    QtDraggingSessions sessions{nullptr};
 };
 
 TEST_F(DraggingSessionTest, WhatNobodyTakesFliesBackToWhereItsTileIs) {

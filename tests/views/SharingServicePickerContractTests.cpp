@@ -52,7 +52,7 @@ struct RealMenu {
     fakes::FakePasteboard pasteboard{surroundings.files};
     fakes::FakeFileOpener opener;
     PreparedSource* source = nullptr;
-    MenuSharingServicePicker picker{makeSource(), pasteboard, opener};
+    MenuSharingServicePicker picker{makeSource(), pasteboard, opener, [] { return nullptr; }};
 
     std::unique_ptr<SharingSource> makeSource() {
         auto made = std::make_unique<PreparedSource>();

@@ -10,8 +10,8 @@
 #include "panel/CardLayout.h"
 #include "panel/views/DragThumbnailView.h"
 #include "panel/views/ThumbnailProvider.h"
+#include "platform/qt/DisplayServer.h"
 #include "platform/qt/QtGeometry.h"
-#include "platform/wayland/Connection.h"
 
 namespace vantle {
 namespace {
@@ -53,7 +53,7 @@ const QQuickItem* rowOf(const QQuickItem& thumbnail) {
 
 CapturePanel::CapturePanel(PanelModel::Context context) : model_(std::move(context)) {
     view_ = makeView();
-    overlay_ = std::make_unique<Overlay>(*view_);
+    overlay_ = DisplayServer::current().makeOverlay(*view_, Overlay::Focus::refused);
     view_->onMarquee = [this](const auto& rect) {
         if (onMarquee) onMarquee(rect);
     };
@@ -96,9 +96,8 @@ void CapturePanel::orderOut() {
 }
 
 void CapturePanel::releaseResources() {
-    // What draws the tiles goes with the next frame, and a window that is hidden has none. One of
-    // Wayland has nothing left to draw on.
-    const bool isDrawn = view_->handle() && !wayland::display();
+    // What draws the tiles goes with the next frame, and a window that is hidden has none.
+    const bool isDrawn = view_->handle() && DisplayServer::current().drawsHiddenWindows();
     if (isDrawn && view_->rendererInterface()->graphicsApi() == QSGRendererInterface::Software)
         view_->grabWindow();
     view_->releaseResources();

@@ -30,6 +30,7 @@ public:
     Outcome writeSnapshot(const std::string& path) override;
 
     QQuickWindow& window() const { return *view_; }
+    Overlay& overlay() const { return *overlay_; }
 
 private:
     std::unique_ptr<FirstMouseHostingView> makeView();

@@ -7,8 +7,7 @@
 
 #include "panel/views/DisplayText.h"
 #include "panel/views/RoundedShape.h"
-#include "platform/qt/BlurBehind.h"
-#include "platform/qt/InputRegion.h"
+#include "platform/qt/DisplayServer.h"
 #include "support/Debug.h"
 #include "support/SystemLog.h"
 
@@ -61,11 +60,11 @@ void logPassThrough(const QPointF& point, const QRectF& card) {
 }  // namespace
 
 PassthroughContainerView::PassthroughContainerView(QQuickWindow& window)
-    : window_(window), inputRegion_(window) {
+    : window_(window), inputRegion_(DisplayServer::current().makeInputRegion(window)) {
     window.installEventFilter(this);
     // Before each frame that is drawn: the region follows the glass while it moves.
     connect(&window, &QQuickWindow::afterAnimating, this, [this] { follow(Repeat::whenChanged); });
-    connect(&window, &QQuickWindow::frameSwapped, &inputRegion_, &KeptInputRegion::frameDrawn);
+    connect(&window, &QQuickWindow::frameSwapped, this, [this] { inputRegion_->frameDrawn(); });
 }
 
 GlassBackdropView* PassthroughContainerView::findGlass(const QQuickItem& item) {
@@ -113,16 +112,16 @@ void PassthroughContainerView::follow(Repeat repeat) {
     if (!window_.isExposed() || (repeat == Repeat::whenChanged && frame == glassFrame_)) return;
     glassFrame_ = frame;
     // Where a card leaves, the second click of a double-click is to reach nobody else.
-    if (!glass || glass->isSolid()) inputRegion_.set(frame);
+    if (!glass || glass->isSolid()) inputRegion_->set(frame);
     const QRegion shape = glass ? shapeOf(*glass) : QRegion();
     cutOut(glass, shape);
-    if (repeat == Repeat::always) blurIsOffered_ = blurBehindIsOffered();
+    if (repeat == Repeat::always) blurIsOffered_ = DisplayServer::current().offersBlur();
     if (glass) glass->setBlurred(blurIsOffered_);
-    if (blurIsOffered_) setBlurBehind(window_, shape);
+    if (blurIsOffered_) DisplayServer::current().setBlurBehind(window_, shape);
 }
 
 void PassthroughContainerView::cutOut(const GlassBackdropView* glass, const QRegion& shape) {
-    if (glass && !compositorIsRunning())
+    if (glass && !DisplayServer::current().isComposited())
         window_.setMask(shape);
     else if (!window_.mask().isEmpty())
         window_.setMask({});

@@ -3,9 +3,10 @@
 #include <QObject>
 #include <QQuickWindow>
 #include <QRect>
+#include <memory>
 
 #include "panel/views/GlassBackdropView.h"
-#include "platform/qt/KeptInputRegion.h"
+#include "platform/qt/WindowInputRegion.h"
 
 namespace vantle {
 
@@ -39,7 +40,7 @@ private:
     void cutOut(const GlassBackdropView* glass, const QRegion& shape);
 
     QQuickWindow& window_;
-    KeptInputRegion inputRegion_;
+    const std::unique_ptr<WindowInputRegion> inputRegion_;
     QRect glassFrame_;
     bool blurIsOffered_ = false;
 };

@@ -1,6 +1,5 @@
 #include "panel/views/PressFilter.h"
 
-#include <QCursor>
 #include <QGuiApplication>
 #include <QPointerEvent>
 #include <QQuickItem>
@@ -8,7 +7,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/wayland/Connection.h"
+#include "platform/qt/DisplayServer.h"
 #include "support/Debug.h"
 
 namespace vantle {
@@ -22,9 +21,9 @@ PressGuard::Limits limitsOfDesktop() {
 
 /// Where it is on the screen, if that is known while it is not over a window of ours.
 std::optional<Point> pointer() {
-    if (wayland::display()) return std::nullopt;
-    const QPointF position = QCursor::pos();
-    return Point{position.x(), position.y()};
+    const auto place = DisplayServer::current().pointer();
+    if (!place) return std::nullopt;
+    return Point{static_cast<double>(place->x()), static_cast<double>(place->y())};
 }
 
 Point onScreen(const QPointerEvent& event) {

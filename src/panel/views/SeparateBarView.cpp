@@ -5,7 +5,7 @@
 #include <QQuickWindow>
 
 #include "platform/qt/ClearWindow.h"
-#include "platform/qt/KeptInputRegion.h"
+#include "platform/qt/DisplayServer.h"
 
 namespace vantle {
 
@@ -45,7 +45,7 @@ SeparateBarView::~SeparateBarView() = default;
 void SeparateBarView::openOrClose() {
     bar_.reset();
     setOpen(false);
-    if (!isWanted_ || !window() || !inputRegionIsForgotten()) return;
+    if (!isWanted_ || !window() || !DisplayServer::current().forgetsInputRegions()) return;
     bar_ = std::make_unique<Bar>(*this);
     bar_->setGeometry(frame());
     bar_->show();

@@ -17,7 +17,7 @@ void ClearWindow::keepOutOfTheWay() {
 }
 
 bool ClearWindow::event(QEvent* event) {
-    // On Wayland Qt still has a window painted that has been closed meanwhile, and falls over that.
+    // Some plugins of Qt still paint a window that has been closed meanwhile, and crash.
     const bool isTooLate = event->type() == QEvent::Paint && !handle();
     return isTooLate || QRasterWindow::event(event);
 }

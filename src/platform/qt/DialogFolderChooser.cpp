@@ -6,6 +6,7 @@
 #include <QWindow>
 #include <utility>
 
+#include "platform/qt/DisplayServer.h"
 #include "support/SystemLog.h"
 
 namespace vantle {
@@ -17,8 +18,8 @@ QStringList arguments(const FolderRequest& request) {
     QStringList all{QFile::decodeName(request.directory.path().c_str()),
                     QString::fromStdString(request.acceptLabel),
                     QString::fromStdString(request.message)};
-    if (const QWindow* window = QGuiApplication::focusWindow())
-        all << QString::number(window->winId());
+    const QWindow* window = QGuiApplication::focusWindow();
+    if (window) all << DisplayServer::current().nameForOthers(*window);
     return all;
 }
 

@@ -46,17 +46,16 @@ QVariantList urlList(const std::vector<Url>& files) {
 }  // namespace
 
 FileMimeData::FileMimeData(std::vector<Url> files, std::shared_ptr<const PictureContents> picture,
-                           Use use, FileTransferPortal portal)
+                           Use use, std::shared_ptr<const FileTransfer> transfer)
     : files_(std::move(files)),
       picture_(std::move(picture)),
       use_(use),
-      portal_(std::move(portal)),
-      hasPortal_(portal_.isThere()) {}
+      transfer_(transfer && transfer->isThere() ? std::move(transfer) : nullptr) {}
 
 QStringList FileMimeData::fileFormats() const {
     if (files_.empty()) return {};
     // Programs outside a sandbox take the addresses.
-    QStringList formats = hasPortal_ ? QStringList{transferKey} : QStringList();
+    QStringList formats = transfer_ ? QStringList{transferKey} : QStringList();
     formats << addressList;
     if (use_ == Use::drag) formats << kdeDrop;
     if (use_ == Use::clipboard) formats << gnomeFiles << mateFiles << kdeCut << plainText;
@@ -68,7 +67,7 @@ QStringList FileMimeData::formats() const {
 }
 
 QVariant FileMimeData::retrieveData(const QString& type, QMetaType wanted) const {
-    // Qt 6.8 makes an empty list of the bytes; its plugin for Wayland asks for the list.
+    // Qt 6.8 makes an empty list of the bytes, and one of its plugins asks for the list.
     if (type == addressList && wanted.id() == QMetaType::QVariantList) {
         *wasRead_ = *wasRead_ || !files_.empty();
         return urlList(files_);
@@ -82,7 +81,7 @@ QVariant FileMimeData::retrieveData(const QString& type, QMetaType wanted) const
 QByteArray FileMimeData::as(const QString& type) const {
     if (picture_ && picture_->types().contains(type)) return picture_->as(type);
     if (!fileFormats().contains(type)) return {};
-    if (type == transferKey) return portal_.keyFor(files_);
+    if (type == transferKey) return transfer_->keyFor(files_);
     if (type == addressList) return joined(files_, address, "\r\n") + "\r\n";
     if (type == gnomeFiles || type == mateFiles) return "copy\n" + joined(files_, address, "\n");
     if (type == kdeDrop) return {};

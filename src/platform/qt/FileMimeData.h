@@ -4,7 +4,8 @@
 #include <memory>
 #include <vector>
 
-#include "platform/qt/FileTransferPortal.h"
+#include "platform/qt/DragSupport.h"
+#include "platform/qt/FileTransfer.h"
 #include "platform/qt/PictureContents.h"
 #include "support/Url.h"
 
@@ -21,18 +22,17 @@ public:
         drag,
     };
 
-    /// `picture` may be null. `portal` is asked for programs in a sandbox, if it is there now.
+    /// `picture` may be null. `transfer` serves programs in a sandbox, if it is there now; it may
+    /// be null.
     FileMimeData(std::vector<Url> files, std::shared_ptr<const PictureContents> picture, Use use,
-                 FileTransferPortal portal = FileTransferPortal());
+                 std::shared_ptr<const FileTransfer> transfer = nullptr);
 
     QStringList formats() const override;
 
-    /// Becomes true when somebody has read some of it: an empty answer is none. Outlives this.
-    std::shared_ptr<const bool> readMark() const { return wasRead_; }
-
-    /// Becomes true when KDE's file managers have taken a drop of it. They ask what is to be done
-    /// with the files only after they have said that they take them. Outlives this.
-    std::shared_ptr<const bool> decidesLaterMark() const { return decidesLater_; }
+    /// They become true: `wasRead` when somebody has read some of it, where an empty answer is
+    /// none; `decidesLater` when KDE's file managers have taken a drop of it, which ask what is to
+    /// be done with the files only after they have said that they take them. Both outlive this.
+    DropMarks marks() const { return {wasRead_, decidesLater_}; }
 
 protected:
     QVariant retrieveData(const QString& type, QMetaType wanted) const override;
@@ -44,8 +44,7 @@ private:
     const std::vector<Url> files_;
     const std::shared_ptr<const PictureContents> picture_;
     const Use use_;
-    const FileTransferPortal portal_;
-    const bool hasPortal_;
+    const std::shared_ptr<const FileTransfer> transfer_;  ///< Null where there is none.
     const std::shared_ptr<bool> wasRead_ = std::make_shared<bool>(false);
     const std::shared_ptr<bool> decidesLater_ = std::make_shared<bool>(false);
 };

@@ -5,9 +5,8 @@
 namespace vantle {
 
 /// Brings a window that is shown above all others and gives it the keyboard, as far as the desktop
-/// allows, with the activation token that is kept (ActivationToken.h). On X it comes to the
-/// workspace on which the user is; elsewhere the compositor decides. No other window of this
-/// program stays above it. Main thread only.
+/// allows (DisplayServer::bringToFront). No other window of this program stays above it. Main
+/// thread only.
 void bringToFront(QWindow& window);
 
 /// The same with the window of this program that the user has had in front last, if there is one

@@ -7,78 +7,71 @@
 #include <QWindow>
 #include <memory>
 
-#include "platform/qt/KWinWorkspaces.h"
-#include "platform/qt/KeyboardFocus.h"
-
 namespace vantle {
 
-namespace wayland {
-class OverlaySurface;
-}
-
 /// Shows a window above all others at a place of its own, on every workspace, where no window
-/// manager moves it: on X11 one that is not managed, on Wayland a surface of the layer-shell
-/// protocol. A compositor without that places it itself. Main thread only.
-class Overlay final : public QObject {
+/// manager moves it. DisplayServer makes one. Main thread only.
+class Overlay : public QObject {
     Q_OBJECT
 
 public:
     /// What a click on the window does to the keyboard, where it could take it.
     enum class Focus { refused, accepted };
 
-    /// `window` outlives this and gets the flags that it needs; it is not on the screen yet.
-    explicit Overlay(QWindow& window, Focus focus = Focus::refused);
-    ~Overlay() override;
-
-    /// In Qt's screen coordinates. One that is shown moves with the next show().
+    /// Sets the frame in Qt's screen coordinates. A window that is shown moves with the next
+    /// show().
     void setFrame(const QRect& frame);
 
-    void show();
-    void hide();
-
-    /// The one that is shown at that place on a layer; null where there is none.
-    static Overlay* onLayerAt(const QPoint& place);
+    virtual void show() = 0;
+    virtual void hide() = 0;
 
     QWindow& window() const { return window_; }
-    /// Null while it is not shown on one.
-    wayland::OverlaySurface* layer() const { return layer_.get(); }
 
     /// While it is held, the window has the keyboard.
     using BorrowedKeyboard = std::shared_ptr<void>;
+    /// Returns null when the window has the keyboard already.
     BorrowedKeyboard borrowKeyboard();
 
-    /// Takes the keyboard from the window that has it. It is on the screen.
+    /// Takes the keyboard from the window that has it. This window is on the screen.
     void takeKeyboard();
-    /// Gives it back to the window that had it, unless yet another has it by now.
+    /// Gives the keyboard back to the window that had it, unless yet another one has it by now.
     void giveBackKeyboard();
 
 signals:
-    /// Before it goes, whatever is placed by it has to.
+    /// Emitted before the window goes: what is placed by it has to go first.
     void hiding();
 
-private:
-    void showOnLayer();
-    /// As another surface, on a compositor that gives some the keyboard with each click and others
-    /// never.
-    void showAgain();
-    void closed();
-    void workspaceChanged();
-    void screenRemoved();
-    void leaveScreen();
-    void waitForScreen();
-    void showOnRemainingScreen();
-    void moveTo(QScreen& screen);
+protected:
+    /// `window` outlives this and gets the flags that it needs; it is not on the screen yet.
+    explicit Overlay(QWindow& window);
 
+    const QRect& frame() const { return frame_; }
+    /// The screen on which the window was shown last; null when that has gone.
+    QScreen* screen() const { return screen_; }
+    bool hasKeyboard() const { return hasKeyboard_; }
+
+    /// Keeps where on that screen the frame stands.
+    void standsOn(QScreen& screen);
+    /// Shows the window as far from the same edges of another screen.
+    void moveTo(QScreen& screen);
+    /// How far the frame is from each edge of the usable area in which it stands.
+    QMargins distances() const;
+
+    virtual void screenRemoved() = 0;
+    virtual void screenAdded() {}
+    /// `couldHaveIt` tells whether the window had been allowed to take it before.
+    virtual void startKeyboard(bool couldHaveIt) = 0;
+    virtual void endKeyboard() = 0;
+
+private:
     QWindow& window_;
-    KeyboardFocus keyboard_;
     QRect frame_;
-    QRect area_;                ///< In which the frame stands, of its screen.
-    QPointer<QScreen> screen_;  ///< On which it was shown last.
-    std::unique_ptr<wayland::OverlaySurface> layer_;
-    std::unique_ptr<KWinWorkspaces> workspaces_;  ///< Null where it is on all of them.
-    bool isLeftBehind_ = false;                   ///< On another workspace.
+    QRect area_;  ///< The usable area of the screen, in which the frame stands.
+    QPointer<QScreen> screen_;
     bool hasKeyboard_ = false;
-    bool lostScreen_ = false;  ///< While it is to be shown and there is none for it.
 };
+
+bool isNearRight(const QMargins& distances);
+bool isNearBottom(const QMargins& distances);
 
 }  // namespace vantle

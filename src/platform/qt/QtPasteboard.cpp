@@ -1,14 +1,15 @@
 #include "platform/qt/QtPasteboard.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <utility>
 
+#include "platform/qt/DisplayServer.h"
 #include "platform/qt/FileMimeData.h"
 
 namespace vantle {
 
-QtPasteboard::QtPasteboard(std::shared_ptr<MediaLoader> media) : media_(std::move(media)) {}
+QtPasteboard::QtPasteboard(std::shared_ptr<MediaLoader> media,
+                           std::shared_ptr<const FileTransfer> transfer)
+    : media_(std::move(media)), transfer_(std::move(transfer)) {}
 
 QtPasteboard::~QtPasteboard() = default;
 
@@ -17,7 +18,7 @@ PasteboardImagePointer QtPasteboard::loadImage(const Url& url) {
 }
 
 void QtPasteboard::clearContents() {
-    offer(nullptr);
+    DisplayServer::current().setClipboard(nullptr);
 }
 
 void QtPasteboard::writeObjects(const std::vector<PasteboardObject>& objects) {
@@ -30,20 +31,8 @@ void QtPasteboard::writeObjects(const std::vector<PasteboardObject>& objects) {
             picture = std::dynamic_pointer_cast<const PictureContents>(
                 std::get<PasteboardImagePointer>(object));
     }
-    offer(std::make_unique<FileMimeData>(std::move(files), std::move(picture),
-                                         FileMimeData::Use::clipboard));
-}
-
-void QtPasteboard::offer(std::unique_ptr<QMimeData> contents) {
-    // Only the last of several counts: a clipboard that is empty in between would be filled again
-    // with what was there before by some managers.
-    next_ = std::move(contents);
-    time_.refreshThen([this] {
-        if (wayland::Selection::isOffered())
-            selection_.offer(std::move(next_));
-        else
-            QGuiApplication::clipboard()->setMimeData(next_.release());
-    });
+    DisplayServer::current().setClipboard(std::make_unique<FileMimeData>(
+        std::move(files), std::move(picture), FileMimeData::Use::clipboard, transfer_));
 }
 
 }  // namespace vantle

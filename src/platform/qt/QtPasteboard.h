@@ -3,10 +3,7 @@
 #include <memory>
 
 #include "platform/Pasteboard.h"
-#include "platform/qt/SelectionTime.h"
-#include "platform/wayland/Selection.h"
-
-class QMimeData;
+#include "platform/qt/FileTransfer.h"
 
 namespace vantle {
 
@@ -16,8 +13,8 @@ class MediaLoader;
 /// the clipboard's manager, where there is one, when it ends.
 class QtPasteboard final : public Pasteboard {
 public:
-    /// `media` draws a pixel for a point.
-    explicit QtPasteboard(std::shared_ptr<MediaLoader> media);
+    /// `media` draws a pixel for a point. `transfer` serves programs in a sandbox; it may be null.
+    QtPasteboard(std::shared_ptr<MediaLoader> media, std::shared_ptr<const FileTransfer> transfer);
     ~QtPasteboard() override;
 
     void clearContents() override;
@@ -25,12 +22,8 @@ public:
     PasteboardImagePointer loadImage(const Url& url) override;
 
 private:
-    void offer(std::unique_ptr<QMimeData> contents);
-
     const std::shared_ptr<MediaLoader> media_;
-    SelectionTime time_;
-    wayland::Selection selection_;
-    std::unique_ptr<QMimeData> next_;  ///< What is about to be offered; null clears.
+    const std::shared_ptr<const FileTransfer> transfer_;
 };
 
 }  // namespace vantle

@@ -1,20 +1,19 @@
 #include "platform/qt/QtScreens.h"
 
-#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
 
+#include "platform/qt/DisplayServer.h"
 #include "platform/qt/QtGeometry.h"
-#include "platform/qt/UsableArea.h"
-#include "platform/wayland/Outputs.h"
 
 namespace vantle {
 namespace {
 
 Screen converted(QScreen& screen) {
-    return {toScreenCoordinates(screen.geometry(), primaryScreenGeometry()),
-            toScreenCoordinates(usableArea(screen), primaryScreenGeometry())};
+    return {
+        toScreenCoordinates(screen.geometry(), primaryScreenGeometry()),
+        toScreenCoordinates(DisplayServer::current().usableArea(screen), primaryScreenGeometry())};
 }
 
 }  // namespace
@@ -32,10 +31,7 @@ std::optional<Screen> QtScreens::main() const {
 }
 
 Point QtScreens::pointerLocation() const {
-    // A Wayland compositor tells where the pointer is only while it is over a window of ours.
-    const QScreen* focused = wayland::focusedScreen();
-    const QPoint place = focused ? focused->geometry().center() : QCursor::pos();
-    return toScreenCoordinates(place, primaryScreenGeometry());
+    return toScreenCoordinates(DisplayServer::current().placeOfUser(), primaryScreenGeometry());
 }
 
 }  // namespace vantle

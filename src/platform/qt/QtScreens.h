@@ -5,10 +5,8 @@
 namespace vantle {
 
 /// The displays as Qt knows them. The user works on the one with the focused window of this
-/// program; of other programs' windows Qt knows nothing. On Wayland the pointer is said to be in
-/// the middle of the display on which the compositor opens new windows, and a visible frame begins
-/// at its display's upper left corner, wherever the desktop's panels are: places of windows count
-/// from there, too.
+/// program; of other programs' windows Qt knows nothing. The pointer, and what is free of each
+/// display, are what the display server tells of them (DisplayServer.h).
 class QtScreens final : public Screens {
 public:
     std::vector<Screen> all() const override;

@@ -6,12 +6,10 @@ class QWindow;
 
 namespace vantle {
 
-/// Whether ordinary windows of this program stand in the desktop's taskbar and window switcher.
-/// Needs X; elsewhere the compositor decides. Main thread only.
+/// Whether ordinary windows of this program stand in the desktop's taskbar and window switcher,
+/// where the display server lets a program decide that. Main thread only.
 class TaskbarPresence final : public QObject {
 public:
-    static bool canBeSet();
-
     /// Windows are absent at first.
     TaskbarPresence();
 

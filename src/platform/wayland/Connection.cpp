@@ -11,7 +11,22 @@
 namespace vantle::wayland {
 namespace {
 
+/// By what only KWin offers it is known.
 constexpr std::string_view kwinInterface = "org_kde_plasma_shell";
+
+/// Everything that a compositor has told about itself.
+struct Offered {
+    Globals globals;
+    bool isKWin = false;
+    std::uint32_t layerShellVersion = 0;
+};
+
+Globals::Quirks quirksOf(const Offered& offered) {
+    constexpr std::uint32_t offeredByKWin6 = 4;  // KWin 5.27 offers 3, KWin 6.3 offers 5.
+    return {.popupTakesKeyboard = offered.isKWin,
+            .clickTakesKeyboard = offered.isKWin,
+            .popupStaysOnWorkspace = offered.isKWin && offered.layerShellVersion < offeredByKWin6};
+}
 
 /// Null where the toolkit speaks to another display server.
 QPlatformNativeInterface* toolkit() {
@@ -28,7 +43,7 @@ void bind(Object*& object, wl_registry* registry, std::uint32_t name, std::uint3
 
 void bindOffered(void* data, wl_registry* registry, std::uint32_t name, const char* interface,
                  std::uint32_t version) {
-    auto& globals = *static_cast<Globals*>(data);
+    auto& [globals, isKWin, layerShellVersion] = *static_cast<Offered*>(data);
     const std::string_view offered = interface;
     const auto isOffered = [offered](const wl_interface& wanted) { return offered == wanted.name; };
     if (isOffered(wl_compositor_interface))
@@ -36,7 +51,7 @@ void bindOffered(void* data, wl_registry* registry, std::uint32_t name, const ch
     else if (isOffered(wl_shm_interface))
         bind(globals.sharedMemory, registry, name, version, wl_shm_interface, 1);
     else if (isOffered(layershell::shellInterface)) {
-        globals.layerShellVersion = version;
+        layerShellVersion = version;
         bind(globals.layerShell, registry, name, version, layershell::shellInterface,
              layershell::version);
     } else if (isOffered(xdg_wm_base_interface))
@@ -45,7 +60,7 @@ void bindOffered(void* data, wl_registry* registry, std::uint32_t name, const ch
         bind(globals.dataControl, registry, name, version, datacontrol::managerInterface,
              datacontrol::version);
     else if (offered == kwinInterface)
-        globals.isKWin = true;
+        isKWin = true;
     else if (isOffered(blur::managerInterface))
         bind(globals.blur, registry, name, version, blur::managerInterface, blur::version);
 }
@@ -66,7 +81,8 @@ void answerPings(xdg_wm_base* shell) {
 }
 
 Globals bindGlobals() {
-    Globals globals;
+    Offered offered;
+    Globals& globals = offered.globals;
     wl_display* connection = display();
     if (!connection) return globals;
     globals.queue = wl_display_create_queue(connection);
@@ -75,9 +91,10 @@ Globals bindGlobals() {
     wl_registry* registry = wl_display_get_registry(wrapper);
     wl_proxy_wrapper_destroy(wrapper);
     static constexpr wl_registry_listener listener{bindOffered, forget};
-    wl_registry_add_listener(registry, &listener, &globals);
+    wl_registry_add_listener(registry, &listener, &offered);
     wl_display_roundtrip_queue(connection, globals.queue);
     wl_registry_destroy(registry);
+    globals.quirks = quirksOf(offered);
     if (globals.shell) answerPings(globals.shell);
     return globals;
 }

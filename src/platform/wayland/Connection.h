@@ -37,12 +37,16 @@ struct Globals {
     blur::Manager* blur = nullptr;
     datacontrol::Manager* dataControl = nullptr;
     xdg_wm_base* shell = nullptr;  ///< Of ordinary windows and popups.
-    /// Known by what only it offers. It gives a popup that has the pointer the keyboard, too, as
-    /// the protocol says, where compositors on wlroots leave it where it is; and it gives the
-    /// keyboard to a layer surface that is clicked, whether that wants it or not.
-    bool isKWin = false;
-    /// Of the layer-shell protocol, as the compositor offers it.
-    std::uint32_t layerShellVersion = 0;
+    /// How compositors differ where the protocols leave it open.
+    struct Quirks {
+        /// A popup that has the pointer gets the keyboard, too. Elsewhere that stays where it is.
+        bool popupTakesKeyboard = false;
+        /// A click gives a layer surface the keyboard, whether it wants it or not.
+        bool clickTakesKeyboard = false;
+        /// A popup stays on the workspace where it opened, also one of a layer surface.
+        bool popupStaysOnWorkspace = false;
+    };
+    Quirks quirks;
 };
 
 const Globals& globals();

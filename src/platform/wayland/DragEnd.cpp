@@ -4,12 +4,10 @@
 #include <QEvent>
 #include <QGuiApplication>
 
-#include "platform/wayland/Connection.h"
-
 namespace vantle::wayland {
 
 DragEnd::DragEnd() {
-    if (display()) qGuiApp->installEventFilter(this);
+    qGuiApp->installEventFilter(this);
 }
 
 bool DragEnd::eventFilter(QObject* object, QEvent* event) {

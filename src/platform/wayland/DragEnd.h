@@ -7,7 +7,7 @@ namespace vantle::wayland {
 /// Ends the toolkit's drag when the pointer enters one of its windows while no target has promised
 /// to take what is dragged. A compositor keeps the pointer from all windows during a drag, so the
 /// drag is over by then; but some do not tell the end of a drop on a program that does not answer.
-/// Does nothing on another display server. Main thread only.
+/// Main thread only.
 class DragEnd final : public QObject {
 public:
     DragEnd();

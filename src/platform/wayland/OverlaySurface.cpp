@@ -33,7 +33,7 @@ std::uint32_t gravityFrom(std::uint32_t corner) {
 
 OverlaySurface::OverlaySurface(wl_surface* surface, const LayerSurface::Place& place,
                                Keyboard keyboard) {
-    const bool clicksTakeKeyboard = globals().isKWin && globals().sharedMemory;
+    const bool clicksTakeKeyboard = globals().quirks.clickTakesKeyboard && globals().sharedMemory;
     if (clicksTakeKeyboard && keyboard == Keyboard::never)
         placeBesideAnchor(surface, place);
     else

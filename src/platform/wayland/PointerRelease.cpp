@@ -4,12 +4,9 @@
 
 #include <QCursor>
 
-#include "platform/wayland/Connection.h"
-
 namespace vantle::wayland {
 
 void releaseLeftButton(QWindow& window) {
-    if (!display()) return;
     const QPoint place = QCursor::pos();
     QWindowSystemInterface::handleMouseEvent(&window, window.mapFromGlobal(place), place,
                                              Qt::NoButton, Qt::LeftButton,

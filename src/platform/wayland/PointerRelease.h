@@ -5,8 +5,8 @@
 namespace vantle::wayland {
 
 /// Tells the toolkit that the left button is up. A Wayland compositor keeps the release that ends a
-/// drag to itself, and the toolkit would take the next press for nothing new. Does nothing on
-/// another display server. Main thread only.
+/// drag to itself, and the toolkit would take the next press for nothing new. Main thread
+/// only.
 void releaseLeftButton(QWindow& window);
 
 }  // namespace vantle::wayland

@@ -6,8 +6,8 @@
 #include <QQuickItem>
 #include <QScreen>
 
+#include "platform/qt/DisplayServer.h"
 #include "platform/qt/FrontWindow.h"
-#include "platform/qt/UsableArea.h"
 
 Q_IMPORT_QML_PLUGIN(Vantle_ScreensPlugin)
 
@@ -33,7 +33,8 @@ int AlertWindow::run() {
     setMinimumSize(size);
     setMaximumSize(size);
     QRect place(QPoint(), size);
-    if (QScreen* shown = screen()) place.moveCenter(usableArea(*shown).center());
+    if (QScreen* shown = screen())
+        place.moveCenter(DisplayServer::current().usableArea(*shown).center());
     setGeometry(place);
     show();
     bringToFront(*this);

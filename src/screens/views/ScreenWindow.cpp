@@ -13,8 +13,8 @@
 #include <QScreen>
 #include <memory>
 
+#include "platform/qt/DisplayServer.h"
 #include "platform/qt/FrontWindow.h"
-#include "platform/qt/UsableArea.h"
 
 Q_IMPORT_QML_PLUGIN(Vantle_ScreensPlugin)
 
@@ -84,7 +84,7 @@ void ScreenWindow::hideEvent(QHideEvent* event) {
 void ScreenWindow::centre() {
     if (!screen()) return;
     QRect place(QPoint(), size());
-    place.moveCenter(usableArea(*screen()).center());
+    place.moveCenter(DisplayServer::current().usableArea(*screen()).center());
     setPosition(place.topLeft());
 }
 

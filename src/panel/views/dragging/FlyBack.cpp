@@ -1,6 +1,5 @@
 #include "panel/views/dragging/FlyBack.h"
 
-#include <QCursor>
 #include <QEasingCurve>
 #include <QEnterEvent>
 #include <QGuiApplication>
@@ -8,27 +7,24 @@
 #include <QScreen>
 #include <utility>
 
-#include "platform/qt/InputRegion.h"
+#include "platform/qt/DisplayServer.h"
 #include "platform/qt/QtGeometry.h"
-#include "platform/qt/UsableArea.h"
-#include "platform/wayland/Connection.h"
 
 namespace vantle {
 namespace {
 
-constexpr int duration = 280;         // milliseconds
-constexpr int pointerPatience = 200;  // milliseconds
+constexpr int duration = 280;        // milliseconds
+constexpr int pointerTimeout = 200;  // milliseconds
 
 }  // namespace
 
 void FlyBack::start(const QImage& picture, const QPoint& hotSpot, const QPoint& destination) {
-    const bool isAskable = wayland::display() == nullptr;
-    // Without layers nothing can be placed where the picture is.
-    if (!isAskable && !wayland::offersLayers()) return;
+    const DisplayServer& server = DisplayServer::current();
+    if (!server.placesOverlays()) return;
     auto* window = new FlyBack(picture);
     window->flight_.setEndValue(destination);
-    if (isAskable)
-        window->flyFrom(QCursor::pos() - hotSpot);
+    if (const auto pointer = server.pointer())
+        window->flyFrom(*pointer - hotSpot);
     else
         window->waitForPointer(hotSpot);
 }
@@ -36,20 +32,20 @@ void FlyBack::start(const QImage& picture, const QPoint& hotSpot, const QPoint& 
 FlyBack::FlyBack(QImage picture)
     : picture_(std::move(picture)),
       size_((QSizeF(picture_.size()) / picture_.devicePixelRatio()).toSize()),
-      overlay_(*this) {
+      overlay_(DisplayServer::current().makeOverlay(*this, Overlay::Focus::refused)) {
     flight_.setDuration(duration);
     flight_.setEasingCurve(QEasingCurve::OutCubic);
     connect(&flight_, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& place) { moveTo(place.toPoint()); });
     connect(&flight_, &QVariantAnimation::finished, this, &QObject::deleteLater);
-    patience_.setSingleShot(true);
-    connect(&patience_, &QTimer::timeout, this, &QObject::deleteLater);
+    timeout_.setSingleShot(true);
+    connect(&timeout_, &QTimer::timeout, this, &QObject::deleteLater);
 }
 
 void FlyBack::flyFrom(const QPoint& place) {
     setFlag(Qt::WindowTransparentForInput);
-    overlay_.setFrame({place, size_});
-    overlay_.show();
+    overlay_->setFrame({place, size_});
+    overlay_->show();
     flight_.setStartValue(place);
     flight_.start();
 }
@@ -57,15 +53,15 @@ void FlyBack::flyFrom(const QPoint& place) {
 void FlyBack::waitForPointer(const QPoint& hotSpot) {
     hotSpot_ = hotSpot;
     coversScreen_ = true;
-    patience_.start(pointerPatience);
-    overlay_.setFrame(usableArea(screenAt(flight_.endValue().toPoint())));
-    overlay_.show();
+    timeout_.start(pointerTimeout);
+    overlay_->setFrame(DisplayServer::current().usableArea(screenAt(flight_.endValue().toPoint())));
+    overlay_->show();
 }
 
 bool FlyBack::event(QEvent* event) {
-    if (event->type() == QEvent::Enter && patience_.isActive()) {
-        patience_.stop();
-        setInputRegion(*this, {});
+    if (event->type() == QEvent::Enter && timeout_.isActive()) {
+        timeout_.stop();
+        DisplayServer::current().setInputRegion(*this, {});
         const auto& enter = static_cast<const QEnterEvent&>(*event);
         place_ = position() + enter.position().toPoint() - hotSpot_;
         flight_.setStartValue(place_);

@@ -36,14 +36,14 @@ private:
 
     const QImage picture_;
     const QSize size_;  ///< Of the picture, in points.
-    Overlay overlay_;
+    const std::unique_ptr<Overlay> overlay_;
     QPoint place_;
     QPoint hotSpot_;
     QVariantAnimation flight_;
     /// While the window covers the screen and the picture flies inside it: there windows cannot be
     /// moved.
     bool coversScreen_ = false;
-    QTimer patience_;
+    QTimer timeout_;
 };
 
 }  // namespace vantle

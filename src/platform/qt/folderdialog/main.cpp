@@ -2,9 +2,9 @@
 //
 // Asks for a folder with the dialog of the desktop's toolkit where that has one, else with that of
 // ours. It starts in DIRECTORY, LABEL stands on its button and MESSAGE in its title; it stays
-// above the X11 window of the number WINDOW. Writes the path as it is, without anything behind it,
-// to the standard output and ends with 0; ends with 1 when nothing was chosen. It ends with the
-// program that started it.
+// above the WINDOW, which is named as portals name it: its number in base 16 behind a colon. Writes
+// the path as it is, without anything behind it, to the standard output and ends with 0; ends with
+// 1 when nothing was chosen. It ends with the program that started it.
 
 #include <signal.h>
 #include <sys/prctl.h>
@@ -24,10 +24,11 @@ namespace {
 constexpr int nothingChosen = 1;
 constexpr int wrongCommandLine = 2;
 
-/// The window of another program; null where windows have no numbers. Goes with this process.
-QWindow* windowOf(const char* number) {
-    if (QGuiApplication::platformName() != QStringLiteral("xcb")) return nullptr;
-    return QWindow::fromWinId(QByteArray(number).toULongLong());
+/// The window of another program; null where that has no number. Goes with this process.
+QWindow* windowOf(const char* name) {
+    constexpr int base = 16;
+    const QByteArray number = QByteArray(name).split(':').value(1);
+    return number.isEmpty() ? nullptr : QWindow::fromWinId(number.toULongLong(nullptr, base));
 }
 
 void stayAbove(QWidget& dialog, QWindow& parent) {

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/qt/DisplayServer.h"
+
+namespace vantle::displays {
+
+/// The class for the display server to which the application object has connected.
+std::unique_ptr<DisplayServer> makeDisplayServer();
+
+}  // namespace vantle::displays

@@ -1,0 +1,78 @@
+#include "platform/displays/ServerChoice.h"
+
+#include <QByteArray>
+#include <memory>
+#include <string_view>
+
+#include "platform/wayland/Protocols.h"
+
+namespace vantle::displays {
+namespace {
+
+constexpr auto variable = "QT_QPA_PLATFORM";
+// Leaves windows to their program that are to have none of a window manager's roles.
+constexpr auto overlayVariable = "QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT";
+// Compositors that offer overlays draw the frames of windows themselves. Before the toolkit knows
+// that, it loads what it would draw them with: OpenGL, which takes 25 MiB.
+constexpr auto noFramesVariable = "QT_WAYLAND_DISABLE_WINDOWDECORATION";
+
+struct ConnectionDeleter {
+    void operator()(wl_display* connection) const { wl_display_disconnect(connection); }
+};
+struct RegistryDeleter {
+    void operator()(wl_registry* registry) const { wl_registry_destroy(registry); }
+};
+
+void hear(void* data, wl_registry*, std::uint32_t, const char* interface, std::uint32_t) {
+    if (std::string_view(interface) == wayland::layershell::shellInterface.name)
+        *static_cast<Offer*>(data) = Offer::overlays;
+}
+
+void forget(void*, wl_registry*, std::uint32_t) {}
+
+}  // namespace
+
+Offer askCompositor() {
+    // A connection that was handed to this program is the toolkit's: it can be used but once.
+    if (qEnvironmentVariableIsSet("WAYLAND_SOCKET")) return Offer::none;
+    const std::unique_ptr<wl_display, ConnectionDeleter> connection(wl_display_connect(nullptr));
+    if (!connection) return Offer::none;
+    Offer offer = Offer::windows;
+    const std::unique_ptr<wl_registry, RegistryDeleter> registry(
+        wl_display_get_registry(connection.get()));
+    static constexpr wl_registry_listener listener{hear, forget};
+    wl_registry_add_listener(registry.get(), &listener, &offer);
+    return wl_display_roundtrip(connection.get()) < 0 ? Offer::none : offer;
+}
+
+std::string serversToTry(const Session& session) {
+    const bool isWaylandFirst =
+        session.offer == Offer::overlays || (session.offer == Offer::windows && !session.hasX11);
+    return isWaylandFirst ? "wayland;xcb" : "xcb;wayland";
+}
+
+bool isWaylandSession(const Environment& environment) {
+    return environment("WAYLAND_DISPLAY") || environment("XDG_SESSION_TYPE") == "wayland" ||
+           environment(variable).value_or("").starts_with("wayland");
+}
+
+ServerChoice::ServerChoice() : wasMade_(qEnvironmentVariableIsSet(variable)) {
+    const auto environment = processEnvironment();
+    const Offer offer = isWaylandSession(environment) ? askCompositor() : Offer::none;
+    if (offer == Offer::overlays)
+        for (const auto& name : ownVariables()) qputenv(name.c_str(), "1");
+    if (wasMade_) return;
+    const Session session{offer, environment("DISPLAY").has_value()};
+    qputenv(variable, QByteArray::fromStdString(serversToTry(session)));
+}
+
+ServerChoice::~ServerChoice() {
+    if (!wasMade_) qunsetenv(variable);
+}
+
+const std::vector<std::string>& ownVariables() {
+    static const std::vector<std::string> names{overlayVariable, noFramesVariable};
+    return names;
+}
+
+}  // namespace vantle::displays

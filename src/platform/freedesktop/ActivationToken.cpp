@@ -1,0 +1,52 @@
+#include "platform/freedesktop/ActivationToken.h"
+
+#include <array>
+#include <utility>
+
+namespace vantle {
+namespace {
+
+/// Others hand it over, on the bus.
+constexpr qsizetype longestToken = 1024;
+
+/// In the environment, and in platform data. The first one that there is counts.
+constexpr std::array names = {std::pair{"XDG_ACTIVATION_TOKEN", "activation-token"},
+                              std::pair{"DESKTOP_STARTUP_ID", "desktop-startup-id"}};
+
+QString& keptToken() {
+    static QString token;
+    return token;
+}
+
+QVariantMap readEnvironment() {
+    QVariantMap data;
+    for (const auto& [variable, key] : names)
+        if (!qEnvironmentVariableIsEmpty(variable))
+            data.insert(QString::fromLatin1(key), qEnvironmentVariable(variable));
+    return data;
+}
+
+}  // namespace
+
+void keepActivationToken(const QString& token) {
+    if (token.size() <= longestToken) keptToken() = token;
+}
+
+QString takeActivationToken() {
+    return std::exchange(keptToken(), {});
+}
+
+QVariantMap platformDataOfThisStart() {
+    static const QVariantMap data = readEnvironment();
+    return data;
+}
+
+QString activationToken(const QVariantMap& platformData) {
+    for (const auto& [variable, key] : names)
+        if (const auto token = platformData.value(QString::fromLatin1(key)).toString();
+            !token.isEmpty())
+            return token;
+    return {};
+}
+
+}  // namespace vantle

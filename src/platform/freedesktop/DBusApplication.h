@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QString>
+#include <memory>
+#include <string>
+
+#include "platform/Application.h"
+#include "platform/freedesktop/RuntimeSocket.h"
+#include "platform/qt/TaskbarPresence.h"
+
+namespace vantle {
+
+/// The program on a desktop with a session bus: copies find each other by a name on it, under which
+/// the first one answers as org.freedesktop.Application. The bus forgets a copy that dies. Without
+/// a bus they find each other in the user's runtime folder. Made without a display, it can only ask
+/// another copy.
+class DBusApplication final : public Application {
+public:
+    enum class Launch {
+        byUser,
+        byBus,  ///< For a call to the name, which the bus delivers once this copy has the name.
+    };
+
+    /// `identifier` is the bus name, such as "org.example.Program".
+    explicit DBusApplication(const std::string& identifier, Launch launch = Launch::byUser);
+    ~DBusApplication() override;
+
+    void setActivationPolicy(ActivationPolicy policy) override;
+    std::string activationPolicyObstacle() const override;
+    bool anotherCopyIsRunning() override;
+    void activateOtherCopy() override;
+    Result<std::string> ask(const ApplicationRequest& request) override;
+    void activate() override;
+    void terminate() override;
+
+    class BusObject;
+
+private:
+    bool anotherHoldsTheName();
+    bool anotherHoldsTheRuntimeFolder();
+    RuntimeSocket& socket();
+    std::string answerToSocket(const std::string& message);
+    void passOnActivationToken() const;
+    Result<std::string> askThroughSocket(const ApplicationRequest& request);
+    void activated();
+    void reopen();
+    void giveUpName();
+    Result<std::string> perform(const ApplicationRequest& request);
+
+    QString identifier_;
+    QString path_;
+    Launch launch_;
+    QDeadlineTimer causeOfLaunch_{0};  ///< Until it expires a call may be what this copy is for.
+    std::unique_ptr<TaskbarPresence> taskbar_;  ///< Only with a display.
+    std::unique_ptr<BusObject> object_;
+    std::unique_ptr<RuntimeSocket> socket_;  ///< Only without a bus.
+};
+
+}  // namespace vantle

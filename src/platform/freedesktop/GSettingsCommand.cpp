@@ -1,0 +1,101 @@
+#include "platform/freedesktop/GSettingsCommand.h"
+
+#include <QProcess>
+#include <array>
+#include <cerrno>
+#include <optional>
+
+namespace vantle {
+namespace {
+
+constexpr int patience = 3000;  // milliseconds
+
+Result<QString> run(const QStringList& arguments) {
+    QProcess process;
+    // In another language it would print what it cannot write there as question marks.
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    process.setProcessEnvironment(environment);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(QStringLiteral("gsettings"), arguments);
+    if (!process.waitForFinished(patience)) {
+        const Failure failure{ETIME, process.errorString().toStdString(), {}};
+        process.kill();
+        process.waitForFinished();
+        return failure;
+    }
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+        return Failure{EINVAL, process.readAllStandardError().trimmed().toStdString(), {}};
+    return QString::fromUtf8(process.readAllStandardOutput().trimmed());
+}
+
+QStringList arguments(const char* command, const std::string& schema, const std::string& key) {
+    return {QString::fromLatin1(command), QString::fromStdString(schema),
+            QString::fromStdString(key)};
+}
+
+Outcome outcome(const Result<QString>& result) {
+    return result ? Outcome() : Outcome(result.failure());
+}
+
+/// Text as the command prints it: in quotes of either kind, with the escapes of C. Absent when the
+/// value is none.
+std::optional<QString> unquoted(const QString& printed) {
+    const bool isText = printed.size() >= 2 && printed.front() == printed.back() &&
+                        (printed.front() == u'\'' || printed.front() == u'"');
+    if (!isText) return std::nullopt;
+    QString text;
+    for (qsizetype i = 1; i + 1 < printed.size(); ++i) {
+        if (printed[i] != u'\\') {
+            text += printed[i];
+            continue;
+        }
+        const QChar letter = printed[++i];
+        const qsizetype digits = letter == u'u' ? 4 : letter == u'U' ? 8 : 0;
+        if (digits > 0) {
+            text += QString::fromUcs4(
+                std::array{char32_t{printed.mid(i + 1, digits).toUInt(nullptr, 16)}}.data(), 1);
+            i += digits;
+        } else {
+            constexpr QStringView letters = u"abfnrtv";
+            constexpr QStringView meanings = u"\a\b\f\n\r\t\v";
+            const auto at = letters.indexOf(letter);
+            text += at < 0 ? letter : meanings[at];
+        }
+    }
+    return text;
+}
+
+/// As the command takes it.
+QString quoted(const std::string& text) {
+    QString escaped = QString::fromStdString(text);
+    escaped.replace(u'\\', QStringLiteral("\\\\")).replace(u'\'', QStringLiteral("\\'"));
+    return u'\'' + escaped + u'\'';
+}
+
+}  // namespace
+
+Result<std::string> GSettingsCommand::text(const std::string& schema,
+                                           const std::string& key) const {
+    const auto printed = run(arguments("get", schema, key));
+    if (!printed) return printed.failure();
+    const auto text = unquoted(printed.value());
+    if (!text) return Failure{EINVAL, "it is no text", {}};
+    return text->toStdString();
+}
+
+Outcome GSettingsCommand::setText(const std::string& schema, const std::string& key,
+                                  const std::string& text) {
+    return outcome(run(arguments("set", schema, key) << quoted(text)));
+}
+
+Outcome GSettingsCommand::reset(const std::string& schema, const std::string& key) {
+    return outcome(run(arguments("reset", schema, key)));
+}
+
+bool GSettingsCommand::isWritable(const std::string& schema, const std::string& key) const {
+    const auto answer = run(arguments("writable", schema, key));
+    return answer && answer.value() == u"true";
+}
+
+}  // namespace vantle

@@ -1,0 +1,18 @@
+#include "platform/freedesktop/MountEvents.h"
+
+#include <fcntl.h>
+
+#include <utility>
+
+namespace vantle {
+
+MountEvents::MountEvents(std::function<void()> onChange)
+    : mounts_(open("/proc/self/mounts", O_RDONLY | O_CLOEXEC)) {
+    if (!mounts_) return;
+    // It can always be read; a change is an exception, proc(5).
+    notifier_ = std::make_unique<QSocketNotifier>(mounts_.get(), QSocketNotifier::Exception);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
+                     [onChange = std::move(onChange)] { onChange(); });
+}
+
+}  // namespace vantle

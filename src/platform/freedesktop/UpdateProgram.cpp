@@ -1,0 +1,167 @@
+#include "platform/freedesktop/UpdateProgram.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <utility>
+
+#include "support/Localization.h"
+#include "support/SystemFailure.h"
+#include "updates/RelaunchEnvironment.h"
+
+namespace vantle {
+namespace {
+
+// Longer than any report: the notes are the longest part.
+constexpr qsizetype longestLine = 1 << 20;
+
+constexpr int patience = 10'000;  // milliseconds, with a program that starts
+
+QString option(const char* name, const std::string& value) {
+    return QStringLiteral("--%1=%2").arg(QLatin1String(name), QString::fromStdString(value));
+}
+
+/// The value of a variable, which is then gone.
+QByteArray taken(const char* variable) {
+    const QByteArray value = qgetenv(variable);
+    qunsetenv(variable);
+    return value;
+}
+
+/// Somebody may have set the variable for another process.
+bool isSocket(int descriptor) {
+    struct stat status {};
+    return fstat(descriptor, &status) == 0 && S_ISSOCK(status.st_mode);
+}
+
+bool isLast(const UpdateReport& report) {
+    return !std::holds_alternative<report::FeedLoaded>(report) &&
+           !std::holds_alternative<report::Progress>(report) &&
+           !std::holds_alternative<report::Installing>(report);
+}
+
+}  // namespace
+
+UpdateProgram::UpdateProgram(QString program) : program_(std::move(program)) {
+    bool isNumber = false;
+    const int descriptor = taken(relaunch::readyVariable).toInt(&isNumber);
+    if (isNumber && isSocket(descriptor) && fcntl(descriptor, F_SETFD, FD_CLOEXEC) == 0)
+        ready_ = FileDescriptor(descriptor);
+    const auto outcome = reportFrom(taken(relaunch::outcomeVariable).toStdString());
+    if (outcome)
+        if (const auto* back = std::get_if<report::RolledBack>(&*outcome)) rolledBack_ = *back;
+}
+
+UpdateProgram::~UpdateProgram() {
+    cancel();
+    // Who ends in order has come up.
+    if (ready_) confirmStart();
+}
+
+void UpdateProgram::confirmStart() {
+    // Whoever waited may have gone; then nobody takes this copy back either.
+    send(ready_.get(), "r", 1, MSG_NOSIGNAL);
+    ready_.reset();
+}
+
+void UpdateProgram::check(const Query& query, OnReport onReport) {
+    QStringList arguments{QStringLiteral("check"), option("version", query.version),
+                          option("channel", query.channel),
+                          option("newest-feed", std::to_string(query.newestFeed))};
+    if (query.feed) arguments << option("feed", *query.feed);
+    start(arguments, std::move(onReport));
+}
+
+void UpdateProgram::prepare(const UpdateItem& item, OnReport onReport) {
+    start({QStringLiteral("prepare"), option("version", item.version),
+           option("address", item.address), option("length", std::to_string(item.length)),
+           option("signature", item.signature), option("page", item.page)},
+          std::move(onReport));
+}
+
+void UpdateProgram::cancel() {
+    onReport_ = nullptr;
+    if (!process_) return;
+    process_->disconnect(this);
+    process_->kill();
+    process_->waitForFinished();
+    // It may be the one that this comes from.
+    process_.release()->deleteLater();
+}
+
+Outcome UpdateProgram::relaunch(const UpdateItem& item) {
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) return systemFailure(errno);
+    const FileDescriptor answer(ends[0]);
+    FileDescriptor tell(ends[1]);
+    fcntl(tell.get(), F_SETFD, 0);
+    QProcess starter;
+    starter.setProgram(program_);
+    starter.setArguments({QStringLiteral("relaunch"), option("version", item.version),
+                          option("process", std::to_string(getpid())),
+                          option("tell", std::to_string(tell.get()))});
+    starter.setStandardInputFile(QProcess::nullDevice());
+    if (!starter.startDetached())
+        return Failure{0, starter.errorString().toStdString(), program_.toStdString()};
+    tell.reset();
+    // This copy must not end before it is sure that another one begins.
+    pollfd waiting{answer.get(), POLLIN, 0};
+    char byte = 0;
+    if (poll(&waiting, 1, patience) == 1 && ::read(answer.get(), &byte, 1) == 1) return {};
+    return Failure{ETIME,
+                   localized("UpdateProgram", "The program that does updates does not answer."),
+                   program_.toStdString()};
+}
+
+void UpdateProgram::start(const QStringList& arguments, OnReport onReport) {
+    cancel();
+    onReport_ = std::move(onReport);
+    last_.reset();
+    process_ = std::make_unique<QProcess>();
+    process_->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process_->setStandardInputFile(QProcess::nullDevice());
+    connect(process_.get(), &QProcess::readyReadStandardOutput, this, [this] { readLines(); });
+    connect(process_.get(), &QProcess::finished, this, [this] { end(); });
+    connect(
+        process_.get(), &QProcess::errorOccurred, this,
+        [this](QProcess::ProcessError error) {
+            // Every other error ends the process, which is told by itself.
+            if (error == QProcess::FailedToStart) end();
+        },
+        Qt::QueuedConnection);
+    process_->start(program_, arguments);
+}
+
+void UpdateProgram::readLines() {
+    while (process_ && process_->canReadLine()) read(process_->readLine(longestLine));
+}
+
+void UpdateProgram::read(const QByteArray& line) {
+    const auto report = reportFrom(line.chopped(1).toStdString());
+    if (!report || last_) return;
+    if (isLast(*report)) {
+        last_ = *report;
+        return;
+    }
+    // What is told may end this.
+    const OnReport told = onReport_;
+    told(*report);
+}
+
+void UpdateProgram::end() {
+    readLines();
+    if (!process_) return;
+    const std::string error = process_->errorString().toStdString();
+    process_.release()->deleteLater();
+    const auto told = std::exchange(onReport_, nullptr);
+    told(last_.value_or(report::Failed{
+        filled(localized("UpdateProgram", "The program that does updates failed: %1."), {error}),
+        {}}));
+}
+
+}  // namespace vantle

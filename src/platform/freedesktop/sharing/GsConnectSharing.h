@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+
+#include "platform/SharingSource.h"
+
+namespace vantle {
+
+/// Devices that are paired by GSConnect, GNOME's partner of KDE Connect, and within reach.
+class GsConnectSharing final : public QObject, public SharingSource {
+    Q_OBJECT
+
+public:
+    explicit GsConnectSharing(const QDBusConnection& bus = QDBusConnection::sessionBus());
+
+    void find(Found found) override;
+
+private:
+    void send(const QString& devicePath, const std::vector<Url>& files);
+
+    const QDBusConnection bus_;
+};
+
+}  // namespace vantle

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+
+#include "platform/SharingSource.h"
+
+namespace vantle {
+
+/// Devices that are paired by KDE Connect and within reach.
+class KdeConnectSharing final : public QObject, public SharingSource {
+    Q_OBJECT
+
+public:
+    explicit KdeConnectSharing(const QDBusConnection& bus = QDBusConnection::sessionBus());
+
+    void find(Found found) override;
+
+private:
+    void send(const QString& device, const std::vector<Url>& files);
+
+    const QDBusConnection bus_;
+};
+
+}  // namespace vantle

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/SharingSource.h"
+
+namespace vantle {
+
+/// Several sources as one: their offers in the order of the sources.
+class SharingSources final : public SharingSource {
+public:
+    explicit SharingSources(std::vector<std::unique_ptr<SharingSource>> sources);
+
+    void find(Found found) override;
+
+private:
+    std::vector<std::unique_ptr<SharingSource>> sources_;
+};
+
+}  // namespace vantle

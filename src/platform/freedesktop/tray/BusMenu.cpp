@@ -1,0 +1,198 @@
+#include "platform/freedesktop/tray/BusMenu.h"
+
+#include <QBuffer>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QGuiApplication>
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "platform/qt/MenuPicture.h"
+
+namespace vantle {
+namespace {
+
+constexpr int root = 0;
+constexpr double imageDensity = 2;  // pixels for a point; trays shrink it to what they want
+
+bool isEqual(const std::optional<MenuImage>& a, const std::optional<MenuImage>& b) {
+    return a.has_value() == b.has_value() && (!a || a->picture == b->picture);
+}
+
+/// Whether a person sees the same. What a line does may have changed all the same.
+bool looksEqual(const MenuItem& a, const MenuItem& b) {
+    return a.kind == b.kind && a.title == b.title && a.keyEquivalent == b.keyEquivalent &&
+           a.isEnabled == b.isEnabled && isEqual(a.image, b.image);
+}
+
+/// Underscores would mark the letter that chooses the line.
+QString label(const std::string& title) {
+    return QString::fromStdString(title).replace(QLatin1Char('_'), QStringLiteral("__"));
+}
+
+BusShortcut shortcut(const std::string& key) {
+    const QString name = key == "," ? QStringLiteral("comma") : QString::fromStdString(key);
+    return {{QStringLiteral("Control"), name}};
+}
+
+QByteArray png(const MenuImage& image) {
+    QBuffer buffer;
+    menuPicture(image, imageDensity).save(&buffer, "png");
+    return buffer.data();
+}
+
+/// Only the named ones; all when none is named.
+QVariantMap selected(QVariantMap properties, const QStringList& names) {
+    if (names.isEmpty()) return properties;
+    for (const QString& name : properties.keys())
+        if (!names.contains(name)) properties.remove(name);
+    return properties;
+}
+
+}  // namespace
+
+BusMenu::BusMenu(std::function<Menu()> makeMenu) : makeMenu_(std::move(makeMenu)) {
+    registerBusMenuTypes();
+}
+
+QString BusMenu::textDirection() {
+    return QGuiApplication::isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr");
+}
+
+void BusMenu::menuChanged() {
+    isHeldBack_ = isOpen_;
+    if (!isOpen_ && rebuild()) emit LayoutUpdated(revision_, root);
+}
+
+void BusMenu::opened() {
+    isOpen_ = true;
+    if (!calledFromDBus()) return;
+    trayWithIt_ = std::make_unique<QDBusServiceWatcher>(
+        message().service(), connection(), QDBusServiceWatcher::WatchForUnregistration);
+    connect(trayWithIt_.get(), &QDBusServiceWatcher::serviceUnregistered, this, &BusMenu::closed);
+}
+
+void BusMenu::closed() {
+    isOpen_ = false;
+    // It may be the one that tells of it.
+    if (trayWithIt_) trayWithIt_.release()->deleteLater();
+    if (isHeldBack_) menuChanged();
+}
+
+bool BusMenu::rebuild() {
+    std::vector<Line> former = std::exchange(lines_, {});
+    const auto idsOf = [](const std::vector<Line>& lines) {
+        std::vector<int> ids;
+        for (const auto& line : lines) ids.push_back(line.id);
+        return ids;
+    };
+    const auto formerIds = idsOf(former);
+    // From the end, where least changes: rules all look the same, and trays move lines badly.
+    std::vector<MenuItem> made = makeMenu_().items;
+    std::ranges::reverse(made);
+    for (auto& item : made) {
+        const auto same = std::find_if(former.rbegin(), former.rend(), [&item](const Line& line) {
+            return looksEqual(line.item, item);
+        });
+        int id = 0;
+        if (same == former.rend()) {
+            id = ++lastId_;
+        } else {
+            id = same->id;
+            former.erase(std::next(same).base());
+        }
+        lines_.push_back({id, std::move(item)});
+    }
+    std::ranges::reverse(lines_);
+    const bool isChanged = revision_ == 0 || idsOf(lines_) != formerIds;
+    if (isChanged) ++revision_;
+    return isChanged;
+}
+
+void BusMenu::ensureBuilt() {
+    if (revision_ == 0) rebuild();
+}
+
+const MenuItem* BusMenu::item(int id) const {
+    const auto found = std::ranges::find(lines_, id, &Line::id);
+    return found == lines_.end() ? nullptr : &found->item;
+}
+
+bool BusMenu::isKnown(int id) const {
+    return id == root || item(id);
+}
+
+QVariantMap BusMenu::properties(int id) const {
+    if (id == root) return {{QStringLiteral("children-display"), QStringLiteral("submenu")}};
+    const MenuItem* found = item(id);
+    if (!found) return {};
+    const MenuItem& line = *found;
+    if (line.kind == MenuItem::Kind::separator)
+        return {{QStringLiteral("type"), QStringLiteral("separator")}};
+    QVariantMap properties{{QStringLiteral("label"), label(line.title)},
+                           {QStringLiteral("enabled"), line.isEnabled}};
+    if (!line.keyEquivalent.empty())
+        properties.insert(QStringLiteral("shortcut"),
+                          QVariant::fromValue(shortcut(line.keyEquivalent)));
+    if (line.image) properties.insert(QStringLiteral("icon-data"), png(*line.image));
+    return properties;
+}
+
+uint BusMenu::GetLayout(int parent, int depth, const QStringList& names, BusMenuLayout& layout) {
+    ensureBuilt();
+    layout = {parent, selected(properties(parent), names), {}};
+    if (parent != root || depth == 0) return revision_;
+    for (const auto& line : lines_)
+        layout.children << BusMenuLayout{line.id, selected(properties(line.id), names), {}};
+    return revision_;
+}
+
+BusMenuPropertiesList BusMenu::GetGroupProperties(const QList<int>& ids, const QStringList& names) {
+    ensureBuilt();
+    BusMenuPropertiesList list;
+    for (const int id : ids)
+        if (isKnown(id)) list << BusMenuProperties{id, selected(properties(id), names)};
+    return list;
+}
+
+QDBusVariant BusMenu::GetProperty(int id, const QString& name) {
+    ensureBuilt();
+    return QDBusVariant(properties(id).value(name, QString()));
+}
+
+void BusMenu::Event(int id, const QString& name, const QDBusVariant&, uint) {
+    if (id == root && name == QStringLiteral("opened")) opened();
+    if (id == root && name == QStringLiteral("closed")) closed();
+    if (name != QStringLiteral("clicked")) return;
+    // The tray waits for the answer, and what is done may take the user's time.
+    if (const MenuItem* chosen = item(id); chosen && chosen->isEnabled && chosen->action)
+        QMetaObject::invokeMethod(this, chosen->action, Qt::QueuedConnection);
+    closed();
+}
+
+QList<int> BusMenu::EventGroup(const BusMenuEvents& events) {
+    QList<int> unknown;
+    for (const auto& event : events) {
+        if (!isKnown(event.id)) unknown << event.id;
+        Event(event.id, event.name, event.data, event.timestamp);
+    }
+    return unknown;
+}
+
+bool BusMenu::AboutToShow(int id) {
+    if (id != root || !rebuild()) return false;
+    emit LayoutUpdated(revision_, root);
+    return true;
+}
+
+QList<int> BusMenu::AboutToShowGroup(const QList<int>& ids, QList<int>& errors) {
+    QList<int> updated;
+    for (const int id : ids) {
+        if (!isKnown(id)) errors << id;
+        if (AboutToShow(id)) updated << id;
+    }
+    return updated;
+}
+
+}  // namespace vantle

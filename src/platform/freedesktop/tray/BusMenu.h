@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QDBusContext>
+#include <QDBusServiceWatcher>
+#include <QObject>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "platform/Menu.h"
+#include "platform/freedesktop/tray/BusMenuTypes.h"
+
+namespace vantle {
+
+/// A menu that a tray draws: offers it as com.canonical.dbusmenu. A line that looks the same in the
+/// next menu keeps its number, any other one gets a number that was never used: trays do not forget
+/// all that a number once stood for. While the menu is open it stays as it is; what changed
+/// meanwhile is told when it closes, or when the tray that has it open is gone.
+class BusMenu final : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
+
+    Q_PROPERTY(uint Version READ version CONSTANT)
+    Q_PROPERTY(QString Status READ status CONSTANT)
+    Q_PROPERTY(QString TextDirection READ textDirection CONSTANT)
+    Q_PROPERTY(QStringList IconThemePath READ iconThemePath CONSTANT)
+
+public:
+    /// `makeMenu` gives the menu as it is at the moment.
+    explicit BusMenu(std::function<Menu()> makeMenu);
+
+    /// Tells the trays, which draw what they were told last.
+    void menuChanged();
+
+    static uint version() { return 3; }
+    static QString status() { return QStringLiteral("normal"); }
+    static QString textDirection();
+    static QStringList iconThemePath() { return {}; }
+
+public slots:
+    uint GetLayout(int parent, int depth, const QStringList& names, vantle::BusMenuLayout& layout);
+    vantle::BusMenuPropertiesList GetGroupProperties(const QList<int>& ids,
+                                                     const QStringList& names);
+    QDBusVariant GetProperty(int id, const QString& name);
+    void Event(int id, const QString& name, const QDBusVariant& data, uint timestamp);
+    QList<int> EventGroup(const vantle::BusMenuEvents& events);
+    bool AboutToShow(int id);
+    QList<int> AboutToShowGroup(const QList<int>& ids, QList<int>& errors);
+
+signals:
+    void LayoutUpdated(uint revision, int parent);
+    void ItemsPropertiesUpdated(const vantle::BusMenuPropertiesList& updated,
+                                const vantle::BusMenuRemovedPropertiesList& removed);
+
+private:
+    void opened();
+    void closed();
+    /// Whether it became another one.
+    bool rebuild();
+    void ensureBuilt();
+    /// Null when there is no line of that number.
+    const MenuItem* item(int id) const;
+    /// Whether the number is that of a line or of the menu itself.
+    bool isKnown(int id) const;
+    QVariantMap properties(int id) const;
+
+    struct Line {
+        int id = 0;
+        MenuItem item;
+    };
+
+    const std::function<Menu()> makeMenu_;
+    std::vector<Line> lines_;
+    int lastId_ = 0;
+    uint revision_ = 0;  ///< 0 before the first menu.
+    bool isOpen_ = false;
+    bool isHeldBack_ = false;                          ///< It changed while it was open.
+    std::unique_ptr<QDBusServiceWatcher> trayWithIt_;  ///< While a tray has it open.
+};
+
+}  // namespace vantle

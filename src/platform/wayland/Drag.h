@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/freedesktop/FileUse.h"
+#include "platform/qt/DragSupport.h"
+#include "platform/wayland/DragEnd.h"
+
+class QDrag;
+
+namespace vantle::wayland {
+
+/// A drag that a compositor leads. Whether the target has kept its promise it does not tell. Main
+/// thread only.
+class Drag final : public DragSupport {
+public:
+    Drag(QDrag& drag, const DragContents& contents);
+
+    void ended(QWindow* source) override;
+    void waitForAnswer(const DropMarks& marks, std::function<void(bool wasTaken)> told) override;
+
+private:
+    std::optional<DragEnd> end_;  ///< While the button is held.
+    FileUse use_;
+};
+
+}  // namespace vantle::wayland

@@ -1,0 +1,124 @@
+#include "platform/wayland/LayerOverlay.h"
+
+#include <QGuiApplication>
+
+#include "platform/qt/QtGeometry.h"
+
+namespace vantle::wayland {
+namespace {
+
+Qt::WindowFlags flags(Overlay::Focus focus) {
+    // No popup: assistive programs are not told of those.
+    Qt::WindowFlags flags = Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                            Qt::BypassWindowManagerHint;
+    if (focus == Overlay::Focus::refused) flags |= Qt::WindowDoesNotAcceptFocus;
+    return flags;
+}
+
+/// Held by the nearer edges: there it stays when the desktop's panels come and go.
+LayerSurface::Place placeAt(const QMargins& distances, const QSize& size, QScreen& screen) {
+    const auto horizontal = isNearRight(distances) ? layershell::right : layershell::left;
+    const auto vertical = isNearBottom(distances) ? layershell::bottom : layershell::top;
+    return {.output = output(screen),
+            .anchors = std::uint32_t{horizontal} | std::uint32_t{vertical},
+            .margins = distances,
+            .size = size};
+}
+
+}  // namespace
+
+LayerOverlay::LayerOverlay(QWindow& window, Focus focus) : Overlay(window) {
+    window.setFlags(flags(focus));
+    if (!globals().quirks.popupStaysOnWorkspace) return;
+    workspaces_ = std::make_unique<WorkspaceEvents>();
+    connect(workspaces_.get(), &WorkspaceEvents::changed, this, &LayerOverlay::workspaceChanged);
+}
+
+void LayerOverlay::show() {
+    lostScreen_ = false;
+    QScreen& wanted = screenAt(frame().center());
+    const bool isSameScreen = screen() == &wanted;
+    standsOn(wanted);
+    if (!output(wanted)) return waitForScreen();
+    if (!surface_ || !isSameScreen || isLeftBehind_) hide();
+    const auto place = placeAt(distances(), frame().size(), wanted);
+    if (surface_) return surface_->move(place);
+    isLeftBehind_ = false;
+    window().setScreen(&wanted);
+    window().setGeometry(frame());
+    window().create();
+    surface_ = std::make_unique<OverlaySurface>(
+        wayland::surface(window()), place,
+        hasKeyboard() ? OverlaySurface::Keyboard::possible : OverlaySurface::Keyboard::never);
+    surface_->onClosed = [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { closed(); }, Qt::QueuedConnection);
+    };
+    if (surface_->isRefused()) return waitForScreen();
+    window().show();
+}
+
+void LayerOverlay::showAgain() {
+    hide();
+    show();
+}
+
+void LayerOverlay::hide() {
+    lostScreen_ = false;
+    emit hiding();
+    // A surface has its role for good; the next time it is another one.
+    const bool wasShown = surface_ != nullptr;
+    surface_.reset();
+    window().hide();
+    if (wasShown) window().destroy();
+}
+
+void LayerOverlay::closed() {
+    // By now it may be another one.
+    if (surface_ && surface_->isRefused()) leaveScreen();
+}
+
+void LayerOverlay::workspaceChanged() {
+    isLeftBehind_ = surface_ != nullptr;
+    // What is dragged out of the window would end with it.
+    if (isLeftBehind_ && QGuiApplication::mouseButtons() == Qt::NoButton) show();
+}
+
+void LayerOverlay::screenRemoved() {
+    // Not every compositor tells that the layer went with it.
+    if (surface_ && !screen()) return leaveScreen();
+    showOnRemainingScreen();
+}
+
+void LayerOverlay::leaveScreen() {
+    waitForScreen();
+    // The end of its screen may be told later, and brings us there as well.
+    if (!screen()) showOnRemainingScreen();
+}
+
+void LayerOverlay::waitForScreen() {
+    hide();
+    lostScreen_ = true;
+}
+
+void LayerOverlay::showOnRemainingScreen() {
+    if (!lostScreen_) return;
+    QScreen* remaining = QGuiApplication::primaryScreen();
+    // The one that is about to be removed still stands where this was shown.
+    if (remaining && output(*remaining)) moveTo(*remaining);
+}
+
+void LayerOverlay::startKeyboard(bool couldHaveIt) {
+    if (!surface_) return;
+    if (globals().quirks.clickTakesKeyboard && !couldHaveIt) showAgain();
+    if (!surface_) return;
+    // Asked anew: somebody may have clicked another window since.
+    if (couldHaveIt) surface_->giveBackKeyboard();
+    surface_->takeKeyboard();
+}
+
+void LayerOverlay::endKeyboard() {
+    if (surface_) surface_->giveBackKeyboard();
+}
+
+}  // namespace vantle::wayland

@@ -1,0 +1,15 @@
+#include "platform/wayland/WorkspaceEvents.h"
+
+#include <QDBusConnection>
+
+namespace vantle::wayland {
+
+WorkspaceEvents::WorkspaceEvents() {
+    // No protocol tells it; the one compositor that needs it (KWin 5.27) says it on the bus.
+    QDBusConnection::sessionBus().connect(
+        QStringLiteral("org.kde.KWin"), QStringLiteral("/VirtualDesktopManager"),
+        QStringLiteral("org.kde.KWin.VirtualDesktopManager"), QStringLiteral("currentChanged"),
+        this, SIGNAL(changed()));
+}
+
+}  // namespace vantle::wayland

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/freedesktop/FileUse.h"
+#include "platform/qt/DragSupport.h"
+#include "platform/x11/DragSelection.h"
+#include "platform/x11/DropAnswer.h"
+#include "platform/x11/DropGround.h"
+
+namespace vantle::x11 {
+
+/// A drag by the XDND protocol. Main thread only.
+class Drag final : public DragSupport {
+public:
+    explicit Drag(const DragContents& contents);
+
+    void ended(QWindow* source) override;
+    void waitForAnswer(const DropMarks& marks, std::function<void(bool wasTaken)> told) override;
+
+private:
+    DropAnswer answer_;
+    DragSelection selection_;
+    std::optional<DropGround> ground_;  ///< While the button is held.
+    FileUse use_;
+};
+
+}  // namespace vantle::x11

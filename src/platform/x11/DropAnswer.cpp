@@ -1,0 +1,112 @@
+#include "platform/x11/DropAnswer.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QCoreApplication>
+#include <QTimer>
+#include <optional>
+#include <utility>
+
+#include "platform/x11/Connection.h"
+#include "support/Debug.h"
+
+namespace vantle::x11 {
+namespace {
+
+constexpr auto patience = std::chrono::seconds(20);
+// From this version of the protocol on the answer says whether it was taken; before it, there is
+// one only if it was.
+constexpr std::uint32_t versionWithAnswer = 5;
+
+std::uint32_t protocolVersion(xcb_connection_t* x, xcb_window_t target) {
+    const auto reply = owned(xcb_get_property_reply(
+        x, xcb_get_property(x, 0, target, atom("XdndAware"), XCB_GET_PROPERTY_TYPE_ANY, 0, 1),
+        nullptr));
+    if (!reply || xcb_get_property_value_length(reply.get()) < 4) return 0;
+    return *static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+}
+
+}  // namespace
+
+class DropAnswer::Watch final : public QObject, public QAbstractNativeEventFilter {
+public:
+    Watch() {
+        QCoreApplication::instance()->installNativeEventFilter(this);
+        limit_.setSingleShot(true);
+        limit_.setInterval(patience);
+        connect(&limit_, &QTimer::timeout, this, [this] { answer(false); });
+    }
+
+    void wait(std::function<void(bool)> told) {
+        told_ = std::move(told);
+        if (!answer_ && !watchTarget()) answer_ = false;
+        if (answer_)
+            answer(*answer_);
+        else
+            limit_.start();
+    }
+
+    bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override {
+        const auto* event = static_cast<const xcb_generic_event_t*>(message);
+        const int type = event->response_type & 0x7f;
+        if (type == XCB_CLIENT_MESSAGE)
+            hear(*reinterpret_cast<const xcb_client_message_event_t*>(event));
+        if (type == XCB_DESTROY_NOTIFY && told_ &&
+            reinterpret_cast<const xcb_destroy_notify_event_t*>(event)->window == target_)
+            answer(false);
+        return false;
+    }
+
+private:
+    void hear(const xcb_client_message_event_t& message) {
+        const auto* data = message.data.data32;
+        if (message.type == atom("XdndStatus")) hearPromise(data[0], (data[1] & 1) != 0);
+        if (message.type != atom("XdndFinished") || data[0] != target_) return;
+        answer(protocolVersion(connection(), target_) < versionWithAnswer || (data[1] & 1) != 0);
+    }
+
+    void hearPromise(xcb_window_t target, bool isPromised) {
+        // It goes on: what was answered was about an earlier drag.
+        answer_.reset();
+        if (target == target_ && isPromised == isPromised_) return;
+        target_ = target;
+        isPromised_ = isPromised;
+        Debug::log([isPromised] {
+            return std::string("drop target promised=") + (isPromised ? "true" : "false");
+        });
+    }
+
+    /// From now on its end is noticed. False when it has gone already.
+    bool watchTarget() {
+        xcb_connection_t* x = connection();
+        const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+        const auto error = owned(xcb_request_check(
+            x, xcb_change_window_attributes_checked(x, target_, XCB_CW_EVENT_MASK, &mask)));
+        return !error;
+    }
+
+    /// Told later: this goes when it is told.
+    void answer(bool wasTaken) {
+        answer_ = wasTaken;
+        limit_.stop();
+        if (told_)
+            QMetaObject::invokeMethod(
+                this, [told = std::exchange(told_, nullptr), wasTaken] { told(wasTaken); },
+                Qt::QueuedConnection);
+    }
+
+    xcb_window_t target_ = XCB_NONE;  ///< Which was heard of last.
+    bool isPromised_ = false;
+    std::optional<bool> answer_;
+    std::function<void(bool)> told_;
+    QTimer limit_;
+};
+
+DropAnswer::DropAnswer() : watch_(std::make_unique<Watch>()) {}
+
+DropAnswer::~DropAnswer() = default;
+
+void DropAnswer::wait(std::function<void(bool wasTaken)> told) {
+    watch_->wait(std::move(told));
+}
+
+}  // namespace vantle::x11

@@ -1,0 +1,125 @@
+#include "platform/x11/KeptInputRegion.h"
+
+#include <QVersionNumber>
+#include <chrono>
+
+#include "platform/qt/ClearWindow.h"
+#include "platform/x11/Connection.h"
+#include "platform/x11/WindowRegions.h"
+
+namespace vantle::x11 {
+namespace {
+
+/// Longer than between two frames of the card, and than a compositor takes to show the last one.
+constexpr std::chrono::milliseconds rest{100};
+/// That compositor may be busy. What comes too early is lost, so it comes once more.
+constexpr std::chrono::milliseconds secondRound{1000};
+
+const QVersionNumber firstThatRemembers{44, 2};
+
+bool forgets(const std::string& versionOfMutter) {
+    const auto version = QVersionNumber::fromString(QString::fromStdString(versionOfMutter));
+    return !version.isNull() && version < firstThatRemembers;
+}
+
+/// One pixel that is clear, and no target of anything.
+class UnseenWindow final : public ClearWindow {
+public:
+    explicit UnseenWindow(const QPoint& place) {
+        keepOutOfTheWay();
+        setGeometry(QRect(place, QSize(1, 1)));
+    }
+};
+
+/// The region, or the region without the pixel in one of its corners.
+QRegion variant(const QRegion& region, int number) {
+    const QRect bounds = region.boundingRect();
+    switch (number) {
+        case 1:
+            return region - QRect(bounds.topLeft(), QSize(1, 1));
+        case 2:
+            return region - QRect(bounds.topRight(), QSize(1, 1));
+        default:
+            return region;
+    }
+}
+
+/// Nobody sees it, but the compositor gets a frame. The toolkit would draw nothing where nothing
+/// has changed.
+void drawFirstPixel(const QWindow& window) {
+    xcb_connection_t* x = connection();
+    const xcb_gcontext_t clear = xcb_generate_id(x);
+    const uint32_t colour = 0;
+    xcb_create_gc(x, clear, number(window), XCB_GC_FOREGROUND, &colour);
+    const xcb_point_t first{0, 0};
+    xcb_poly_point(x, XCB_COORD_MODE_ORIGIN, number(window), clear, 1, &first);
+    xcb_free_gc(x, clear);
+    xcb_flush(x);
+}
+
+}  // namespace
+
+bool inputRegionIsForgotten() {
+    return forgets(versionOfMutter());
+}
+
+KeptInputRegion::KeptInputRegion(QWindow& window) : WindowInputRegion(window) {
+    for (QTimer* timer : {&afterLastFrame_, &afterLastChange_}) {
+        timer->setSingleShot(true);
+        timer->setInterval(rest);
+    }
+    connect(&afterLastFrame_, &QTimer::timeout, this, [this] { goOn(); });
+    connect(&afterLastChange_, &QTimer::timeout, this, [this] { haveItNoticed(); });
+}
+
+KeptInputRegion::~KeptInputRegion() = default;
+
+void KeptInputRegion::set(const QRegion& region) {
+    region_ = region;
+    const std::string version = versionOfMutter();
+    isForgotten_ = forgets(version);
+    setInputRegion(window(), variant(region_, variant_));
+    if (!version.empty()) afterLastChange_.start();
+}
+
+void KeptInputRegion::frameDrawn() {
+    if (!isForgotten_) return;
+    next_ = Step::change;
+    rounds_ = 0;
+    afterLastFrame_.start(rest);
+}
+
+void KeptInputRegion::goOn() {
+    if (!window().isExposed()) return;
+    switch (next_) {
+        case Step::change:
+            change();
+            next_ = Step::draw;
+            return afterLastFrame_.start(rest);
+        case Step::draw:
+            drawFirstPixel(window());
+            next_ = Step::changeAgain;
+            return afterLastFrame_.start(rest);
+        case Step::changeAgain:
+            change();
+            next_ = Step::change;
+            afterLastChange_.start();
+            if (++rounds_ < 2) afterLastFrame_.start(secondRound);
+    }
+}
+
+void KeptInputRegion::change() {
+    // Two would not do: the compositor may miss one, and find the region that it knows.
+    constexpr int variants = 3;
+    variant_ = (variant_ + 1) % variants;
+    setInputRegion(window(), variant(region_, variant_));
+}
+
+void KeptInputRegion::haveItNoticed() {
+    if (!window().isExposed()) return;
+    unseen_ = std::make_unique<UnseenWindow>(window().position());
+    unseen_->show();
+    QTimer::singleShot(rest, unseen_.get(), [this] { unseen_.reset(); });
+}
+
+}  // namespace vantle::x11

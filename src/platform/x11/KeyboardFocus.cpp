@@ -1,0 +1,41 @@
+#include "platform/x11/KeyboardFocus.h"
+
+#include "platform/x11/Connection.h"
+
+namespace vantle::x11 {
+namespace {
+
+xcb_window_t focused(xcb_connection_t* x) {
+    const auto reply = owned(xcb_get_input_focus_reply(x, xcb_get_input_focus(x), nullptr));
+    return reply ? reply->focus : xcb_window_t{XCB_NONE};
+}
+
+void focus(xcb_connection_t* x, xcb_window_t window) {
+    xcb_set_input_focus(x, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+    xcb_flush(x);
+}
+
+/// A window that speaks Wayland is none on X. But Mutter gives the keyboard to the window that had
+/// it last, wherever nobody has it.
+xcb_window_t whoGetsItBack(xcb_window_t previous) {
+    return versionOfMutter().empty() ? previous : root();
+}
+
+}  // namespace
+
+void KeyboardFocus::take() {
+    xcb_connection_t* x = connection();
+    const xcb_window_t before = focused(x);
+    if (before == number(window_)) return;
+    previous_ = before;
+    focus(x, number(window_));
+}
+
+void KeyboardFocus::giveBack() {
+    if (previous_ == 0) return;
+    xcb_connection_t* x = connection();
+    if (focused(x) == number(window_)) focus(x, whoGetsItBack(previous_));
+    previous_ = 0;
+}
+
+}  // namespace vantle::x11

@@ -1,0 +1,125 @@
+#include "platform/x11/Server.h"
+
+#include <QGuiApplication>
+#include <utility>
+
+#include "platform/x11/Connection.h"
+#include "platform/x11/Drag.h"
+#include "platform/x11/FrontWindow.h"
+#include "platform/x11/KeptInputRegion.h"
+#include "platform/x11/Taskbar.h"
+#include "platform/x11/UnmanagedOverlay.h"
+#include "platform/x11/UsableArea.h"
+#include "platform/x11/WindowRegions.h"
+#include "platform/x11/XEmbedIcon.h"
+
+namespace vantle::x11 {
+namespace {
+
+std::string windowManager() {
+    const std::string name = propertyOfWindowManager("_NET_WM_NAME");
+    return name.empty() ? "unknown" : name;
+}
+
+std::string vendorAndRelease() {
+    const xcb_setup_t* setup = xcb_get_setup(connection());
+    const std::string vendor(xcb_setup_vendor(setup),
+                             static_cast<std::size_t>(xcb_setup_vendor_length(setup)));
+    return vendor + " " + std::to_string(setup->release_number);
+}
+
+}  // namespace
+
+Server::Server(std::function<std::string()> whyNotNative)
+    : whyNotNative_(std::move(whyNotNative)) {}
+
+std::string Server::name() const {
+    if (!isXWayland()) return "X11";
+    const std::string reason = whyNotNative_();
+    return reason.empty() ? "X11 through XWayland" : "X11 through XWayland: " + reason;
+}
+
+std::vector<Fact> Server::facts() const {
+    return {{"display server", name() + ", " + vendorAndRelease()},
+            {"window manager", windowManager()},
+            {"compositor", isComposited() ? "yes" : "none"},
+            {"blur behind windows", offersBlur() ? "offered" : "not offered"}};
+}
+
+bool Server::isLost() const {
+    return qGuiApp && xcb_connection_has_error(connection()) != 0;
+}
+
+std::unique_ptr<Overlay> Server::makeOverlay(QWindow& window, Overlay::Focus focus) {
+    return std::make_unique<UnmanagedOverlay>(window, focus);
+}
+
+bool Server::placesMenusAnywhere() const {
+    // A window of X cannot hold the pointer beside a tray that speaks Wayland.
+    return !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+std::unique_ptr<EmbeddedIcon> Server::makeEmbeddedIcon(EmbeddedIcon::Draw draw) {
+    return std::make_unique<XEmbedIcon>(std::move(draw));
+}
+
+void Server::setInputRegion(QWindow& window, const QRegion& region) {
+    x11::setInputRegion(window, region);
+}
+
+std::unique_ptr<WindowInputRegion> Server::makeInputRegion(QWindow& window) {
+    return std::make_unique<KeptInputRegion>(window);
+}
+
+bool Server::forgetsInputRegions() const {
+    return inputRegionIsForgotten();
+}
+
+bool Server::isComposited() const {
+    return x11::isComposited();
+}
+
+bool Server::offersBlur() const {
+    return x11::offersBlur();
+}
+
+void Server::setBlurBehind(QWindow& window, const QRegion& region) {
+    x11::setBlurBehind(window, region);
+}
+
+QRect Server::usableArea(QScreen& screen) const {
+    return x11::usableArea(screen);
+}
+
+std::unique_ptr<DragSupport> Server::supportDrag(QDrag&, const DragContents& contents) {
+    return std::make_unique<Drag>(contents);
+}
+
+void Server::setClipboard(std::unique_ptr<QMimeData> contents) {
+    // Only the last of several counts: a clipboard that is empty in between would be filled again
+    // with what was there before by some managers.
+    nextContents_ = std::move(contents);
+    time_.refreshThen([this] { DisplayServer::setClipboard(std::move(nextContents_)); });
+}
+
+void Server::bringToFront(QWindow& window) {
+    x11::bringToFront(window);
+}
+
+bool Server::isOnOtherWorkspace(const QWindow& window) const {
+    return x11::isOnOtherWorkspace(window);
+}
+
+void Server::keepOutOfTaskbar(const QWindow& window) {
+    x11::keepOutOfTaskbar(window);
+}
+
+void Server::setInTaskbar(const QWindow& window, bool isPresent) {
+    x11::setInTaskbar(window, isPresent);
+}
+
+QString Server::nameForOthers(const QWindow& window) const {
+    return QStringLiteral("x11:") + QString::number(window.winId(), 16);
+}
+
+}  // namespace vantle::x11

@@ -1,0 +1,30 @@
+#include "platform/x11/Taskbar.h"
+
+#include <array>
+
+#include "platform/x11/Connection.h"
+
+namespace vantle::x11 {
+namespace {
+
+constexpr std::array absentStates = {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"};
+
+}  // namespace
+
+void keepOutOfTaskbar(const QWindow& window) {
+    // What Qt adds later leaves these alone.
+    const std::array states{atom(absentStates[0]), atom(absentStates[1])};
+    xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, number(window), atom("_NET_WM_STATE"),
+                        XCB_ATOM_ATOM, 32, states.size(), states.data());
+}
+
+void setInTaskbar(const QWindow& window, bool isPresent) {
+    // Only the manager may change the state of a window that it keeps.
+    constexpr uint32_t fromApplication = 1;
+    sendMessage(
+        root(), number(window), "_NET_WM_STATE",
+        {isPresent ? 0U : 1U, atom(absentStates[0]), atom(absentStates[1]), fromApplication},
+        XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
+}
+
+}  // namespace vantle::x11
