@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "support/Localization.h"
+#include "support/VersionOrder.h"
 #include "updater/Configuration.h"
-#include "updates/VersionOrder.h"
 
 namespace vantle::updater {
 namespace {

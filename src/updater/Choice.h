@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "platform/UpdateReport.h"
 #include "updater/Feed.h"
-#include "updates/UpdateReport.h"
 
 namespace vantle::updater {
 

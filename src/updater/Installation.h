@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "updates/UpdateItem.h"
+#include "platform/UpdateItem.h"
 
 namespace vantle::updater {
 

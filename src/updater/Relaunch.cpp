@@ -16,6 +16,8 @@
 #include <optional>
 #include <system_error>
 
+#include "platform/RelaunchEnvironment.h"
+#include "platform/UpdateReport.h"
 #include "support/FileDescriptor.h"
 #include "support/Localization.h"
 #include "support/SystemFailure.h"
@@ -23,8 +25,6 @@
 #include "updater/Configuration.h"
 #include "updater/Replacement.h"
 #include "updater/Tree.h"
-#include "updates/RelaunchEnvironment.h"
-#include "updates/UpdateReport.h"
 
 namespace vantle::updater {
 namespace {

@@ -8,13 +8,13 @@
 #include "platform/Application.h"
 #include "platform/FileOpener.h"
 #include "platform/Scheduler.h"
+#include "platform/UpdateEngine.h"
 #include "platform/Updater.h"
 #include "platform/UserDefaults.h"
 #include "platform/WallClock.h"
 #include "platform/Window.h"
 #include "support/Published.h"
 #include "updates/DownloadSpeed.h"
-#include "updates/UpdateEngine.h"
 #include "updates/UpdateSchedule.h"
 
 namespace vantle {

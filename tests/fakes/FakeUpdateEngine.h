@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "updates/UpdateEngine.h"
+#include "platform/UpdateEngine.h"
 
 namespace vantle::fakes {
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "updates/UpdateReport.h"
-#include "updates/VersionOrder.h"
+#include "platform/UpdateReport.h"
+#include "support/VersionOrder.h"
 
 namespace vantle {
 namespace {

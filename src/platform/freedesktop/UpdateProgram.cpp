@@ -10,9 +10,9 @@
 #include <cerrno>
 #include <utility>
 
+#include "platform/RelaunchEnvironment.h"
 #include "support/Localization.h"
 #include "support/SystemFailure.h"
-#include "updates/RelaunchEnvironment.h"
 
 namespace vantle {
 namespace {

@@ -5,8 +5,8 @@
 #include <memory>
 #include <optional>
 
+#include "platform/UpdateEngine.h"
 #include "support/FileDescriptor.h"
-#include "updates/UpdateEngine.h"
 
 namespace vantle {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <variant>
 
-#include "updates/UpdateItem.h"
+#include "platform/UpdateItem.h"
 
 namespace vantle {
 

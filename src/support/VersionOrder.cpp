@@ -1,4 +1,4 @@
-#include "updates/VersionOrder.h"
+#include "support/VersionOrder.h"
 
 #include <algorithm>
 

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/UpdateReport.h"
 #include "support/Result.h"
-#include "updates/UpdateReport.h"
 
 namespace vantle {
 

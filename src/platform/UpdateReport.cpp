@@ -1,4 +1,4 @@
-#include "updates/UpdateReport.h"
+#include "platform/UpdateReport.h"
 
 #include <array>
 #include <charconv>
