@@ -105,9 +105,10 @@ void CapturePanel::releaseResources() {
 }
 
 Rect CapturePanel::onScreen(const Rect& inContent) const {
-    const QRectF content(inContent.origin.x, inContent.origin.y, inContent.size.width,
-                         inContent.size.height);
-    return toScreenCoordinates(content.translated(view_->position()).toAlignedRect(),
+    const QRect content = QRectF(inContent.origin.x, inContent.origin.y, inContent.size.width,
+                                 inContent.size.height)
+                              .toAlignedRect();
+    return toScreenCoordinates({view_->mapToGlobal(content.topLeft()), content.size()},
                                primaryScreenGeometry());
 }
 
