@@ -128,6 +128,52 @@ def test_it_fails_and_explains(repository, name, path, wrong, right, told):
         expect_success(repository, name)
 
 
+LAYERS = """```layers
+views: logic
+logic:
+```
+"""
+
+
+def write_layers(repository, picture=LAYERS):
+    write(repository, "docs/architecture.md", picture)
+    for room in ("views", "logic"):
+        write(repository, f"src/{room}/CMakeLists.txt", "URI Vantle.Views\n" * (room == "views"))
+    write(repository, "src/views/dragging/A.cpp", '#include "views/A.h"\n#include "logic/B.h"\n')
+
+
+def test_arrows_that_are_drawn_are_good(repository):
+    write_layers(repository)
+    expect_success(repository, "layers")
+
+
+@pytest.mark.parametrize("path, line", (
+    ("src/logic/B.cpp", '#include "views/A.h"\n'),
+    ("src/logic/B.qml", "import Vantle.Views\n"),
+))
+def test_an_arrow_that_is_not_drawn_fails(repository, path, line):
+    write_layers(repository)
+    write(repository, path, "\n" + line)
+    told = f"{path}:2: docs/architecture.md draws no arrow from logic to views"
+    expect_failure(repository, "layers", told)
+
+
+@pytest.mark.parametrize("picture, told", (
+    ("```layers\nviews: logic\n```\n", "src/logic: is not in the picture"),
+    ("```layers\nviews: logic\nlogic: views\n```\n",
+     "docs/architecture.md:3: nothing in logic uses views"),
+))
+def test_a_picture_that_is_not_true_fails(repository, picture, told):
+    write_layers(repository, picture)
+    expect_failure(repository, "layers", told)
+
+
+def test_arrows_in_a_circle_fail(repository):
+    write_layers(repository, "```layers\nviews: logic\nlogic: views\n```\n")
+    write(repository, "src/logic/B.cpp", '#include "views/A.h"\n')
+    expect_failure(repository, "layers", "docs/architecture.md: a circle in logic, views")
+
+
 @pytest.mark.parametrize("translation, fault", (
     ('<translation type="unfinished"></translation>', "is not translated"),
     ("<translation></translation>", "has an empty translation"),

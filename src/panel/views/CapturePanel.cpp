@@ -105,9 +105,9 @@ void CapturePanel::releaseResources() {
 }
 
 Rect CapturePanel::onScreen(const Rect& inContent) const {
-    const QRect content = QRectF(inContent.origin.x, inContent.origin.y, inContent.size.width,
-                                 inContent.size.height)
-                              .toAlignedRect();
+    const QRect content =
+        QRectF(inContent.origin.x, inContent.origin.y, inContent.size.width, inContent.size.height)
+            .toAlignedRect();
     return toScreenCoordinates({view_->mapToGlobal(content.topLeft()), content.size()},
                                primaryScreenGeometry());
 }
