@@ -1,7 +1,6 @@
 #include "capture/Capture.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 #include <utility>
 
@@ -10,10 +9,6 @@
 
 namespace vantle {
 namespace {
-
-constexpr std::array<std::string_view, 8> imageExtensions = {"png",  "jpg", "jpeg", "heic",
-                                                             "tiff", "tif", "gif",  "pdf"};
-constexpr std::array<std::string_view, 3> videoExtensions = {"mov", "mp4", "m4v"};
 
 bool contains(const auto& extensions, std::string_view extension) {
     return std::ranges::any_of(extensions, [extension](std::string_view candidate) {

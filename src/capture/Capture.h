@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "capture/CaptureKind.h"
+#include "filetypes/FileTypes.h"
 #include "platform/CaptureExtensions.h"
 #include "platform/MediaLoader.h"
 #include "support/Date.h"
@@ -20,6 +20,12 @@ namespace vantle {
 class Capture {
 public:
     static constexpr double defaultMaximumDimension = 800;
+
+    /// Of what every system's tools write: in lowercase, without the dot.
+    static constexpr auto imageExtensions =
+        extensionsOf<CaptureKind::image, FileType::Origin::everySystem>();
+    static constexpr auto videoExtensions =
+        extensionsOf<CaptureKind::video, FileType::Origin::everySystem>();
 
     /// The kind of the file, by its extension alone, whole and without regard to case; absent when
     /// a file of that name cannot be a capture. `more` extensions count besides those of every

@@ -14,7 +14,7 @@ const FormatModule* loadModule(Format format) {
     std::error_code error;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
     const auto file = program.parent_path().parent_path() / "lib/vantle/modules" /
-                      ("vantle-decoder-" + std::string(name(format)) + ".so");
+                      ("vantle-decoder-" + std::string(formatName(format)) + ".so");
     void* library = dlopen(file.c_str(), RTLD_LAZY | RTLD_LOCAL);
     const auto entry =
         library ? reinterpret_cast<ModuleEntry>(dlsym(library, moduleEntry)) : nullptr;

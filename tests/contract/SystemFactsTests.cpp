@@ -5,7 +5,7 @@
 
 #include "TemporaryFolder.h"
 #include "TextFile.h"
-#include "decoder/protocol/Format.h"
+#include "filetypes/FileTypes.h"
 #include "platform/linux/SystemFacts.h"
 
 namespace vantle {
@@ -50,7 +50,7 @@ TEST_F(SystemFactsTest, TheSessionIsTakenFromTheEnvironment) {
 
 TEST_F(SystemFactsTest, DecodersThatDoNotStartAreNamed) {
     const auto facts = decoderFacts("/nowhere/vantle-decoder");
-    ASSERT_EQ(facts.size(), decoder::formatNames.size());
+    ASSERT_EQ(facts.size(), formatNames.size());
     EXPECT_EQ(facts.front(), (Fact{"no decoder", "png: No such file or directory"}));
 }
 

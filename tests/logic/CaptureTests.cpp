@@ -46,6 +46,12 @@ TEST(CaptureKindOfFile, IsDecidedByTheExtensionWholeAndWithoutRegardToCase) {
         EXPECT_EQ(kind(video), CaptureKind::video) << video;
 }
 
+TEST(CaptureKindOfFile, KnowsTheExtensionsThatEverySystemsToolsWrite) {
+    EXPECT_THAT(Capture::imageExtensions,
+                ElementsAre("png", "jpg", "jpeg", "heic", "tiff", "tif", "gif", "pdf"));
+    EXPECT_THAT(Capture::videoExtensions, ElementsAre("mov", "mp4", "m4v"));
+}
+
 constexpr std::array<std::string_view, 1> moreImages{"webp"};
 constexpr std::array<std::string_view, 1> moreVideos{"webm"};
 constexpr CaptureExtensions more{moreImages, moreVideos};

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "decoder/formats/InputFile.h"
-#include "decoder/protocol/Format.h"
+#include "filetypes/FileTypes.h"
 
 namespace vantle::decoder {
 

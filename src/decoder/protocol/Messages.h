@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <type_traits>
 
-#include "decoder/protocol/Format.h"
 #include "decoder/reduction/Picture.h"
+#include "filetypes/FileTypes.h"
 #include "support/Geometry.h"
 
 /// What the program and its decoder say to each other, over a Unix socket that keeps messages

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "decoder/formats/MediaFile.h"
-#include "decoder/protocol/Format.h"
+#include "filetypes/FileTypes.h"
 
 namespace vantle::decoder {
 

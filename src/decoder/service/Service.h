@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "decoder/formats/MediaFile.h"
-#include "decoder/protocol/Format.h"
+#include "filetypes/FileTypes.h"
 
 namespace vantle::decoder {
 

@@ -5,12 +5,10 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <string_view>
 #include <utility>
 
-#include "support/Lowercase.h"
+#include "filetypes/FileTypes.h"
 
 namespace vantle {
 namespace {
@@ -26,22 +24,10 @@ FileDescriptor openRegular(const Url& url) {
     return isRegular ? std::move(file) : FileDescriptor();
 }
 
-/// What a name promises; the contents decide.
+/// What an image's name promises; the contents decide.
 Format formatNamedBy(const Url& url) {
-    struct Extension {
-        std::string_view text;
-        Format format;
-    };
-    constexpr std::array extensions = {
-        Extension{"jpg", Format::jpeg},  Extension{"jpeg", Format::jpeg},
-        Extension{"gif", Format::gif},   Extension{"tif", Format::tiff},
-        Extension{"tiff", Format::tiff}, Extension{"heic", Format::heic},
-        Extension{"avif", Format::heic}, Extension{"webp", Format::webp},
-        Extension{"pdf", Format::pdf}};
-    std::string extension(url.pathExtension());
-    std::ranges::transform(extension, extension.begin(), lowercase);
-    const auto found = std::ranges::find(extensions, extension, &Extension::text);
-    return found != extensions.end() ? found->format : Format::png;
+    const FileType* type = fileTypeNamed(url.pathExtension());
+    return type && type->kind == CaptureKind::image ? type->format : Format::png;
 }
 
 /// How many of `available` pixels show `points`; 0 available of a vector image, which has any.

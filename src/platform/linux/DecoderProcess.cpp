@@ -55,9 +55,9 @@ private:
 /// 0, or the number of the error.
 int spawn(const std::string& program, Format format, int socket, pid_t& process) {
     const SpawnSettings settings(socket);
-    std::string formatName(name(format));
+    std::string name(formatName(format));
     const std::array arguments{const_cast<char*>(program.c_str()), const_cast<char*>("--serve"),
-                               formatName.data(), static_cast<char*>(nullptr)};
+                               name.data(), static_cast<char*>(nullptr)};
     return posix_spawn(&process, program.c_str(), settings.files(), settings.attributes(),
                        arguments.data(), environ);
 }

@@ -18,10 +18,10 @@ public:
     /// Returns when the decoder has given up its rights. It may take `patience` to be a process,
     /// and again to be ready: its libraries may come from a cold disk.
     static Result<std::unique_ptr<DecoderProcess>> start(
-        const std::string& program, decoder::Format format,
+        const std::string& program, Format format,
         std::chrono::milliseconds patience = std::chrono::seconds(10));
 
-    decoder::Format format() const { return format_; }
+    Format format() const { return format_; }
 
     /// Of decoder::Guard, added up.
     std::uint32_t missingGuards() const { return missingGuards_; }
@@ -49,12 +49,12 @@ public:
     void kill();
 
 private:
-    DecoderProcess(FileDescriptor socket, FileDescriptor process, decoder::Format format,
+    DecoderProcess(FileDescriptor socket, FileDescriptor process, Format format,
                    std::uint32_t missingGuards);
 
     FileDescriptor socket_;
     FileDescriptor process_;
-    decoder::Format format_;
+    Format format_;
     std::uint32_t missingGuards_;
     Silence silence_ = Silence::gone;
 };

@@ -12,7 +12,7 @@ namespace vantle {
 /// A file as decoders are asked about it.
 struct OpenedFile {
     FileDescriptor descriptor;
-    decoder::Format format = decoder::Format::png;
+    Format format = Format::png;
     decoder::Operation opening = decoder::Operation::openImage;
     std::chrono::milliseconds patience{};
 };
@@ -39,7 +39,7 @@ private:
                                                    const decoder::Request& request);
     std::optional<DecoderProcess::Answer> exchangeOnce(const OpenedFile& file,
                                                        const decoder::Request& request);
-    bool prepare(decoder::Format format);
+    bool prepare(Format format);
     void reportFailure(const Failure& failure);
     void reportMissingGuards();
 

@@ -1,14 +1,13 @@
 #pragma once
 
-#include <array>
-
+#include "filetypes/FileTypes.h"
 #include "platform/CaptureExtensions.h"
 
 namespace vantle {
 
 namespace linuxcaptures {
-inline constexpr std::array<std::string_view, 2> image = {"webp", "avif"};
-inline constexpr std::array<std::string_view, 2> video = {"webm", "mkv"};
+inline constexpr auto image = extensionsOf<CaptureKind::image, FileType::Origin::linuxTools>();
+inline constexpr auto video = extensionsOf<CaptureKind::video, FileType::Origin::linuxTools>();
 }  // namespace linuxcaptures
 
 /// What screenshot tools and recorders of Linux write besides what those of every system do.

@@ -62,11 +62,11 @@ std::vector<Fact> decoderFacts(const std::string& program) {
     std::string started;
     std::vector<Fact> facts;
     std::uint32_t missing = 0;
-    for (const std::string_view name : decoder::formatNames) {
+    for (const std::string_view name : formatNames) {
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
             end - std::chrono::steady_clock::now());
         const auto decoder =
-            DecoderProcess::start(program, *decoder::formatNamed(name), std::max(left / 2, 1ms));
+            DecoderProcess::start(program, *formatNamed(name), std::max(left / 2, 1ms));
         if (!decoder) {
             facts.push_back({"no decoder", std::string(name) + ": " + decoder.failure().message});
             continue;

@@ -8,18 +8,16 @@
 #include <QImageWriter>
 #include <QPainter>
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <string_view>
 #include <utility>
 
+#include "filetypes/FileTypes.h"
 #include "platform/qt/Pixels.h"
 
 namespace vantle {
 namespace {
 
-using namespace std::string_view_literals;
-
+// What most programs take, and Qt writes.
 const QString png = QStringLiteral("image/png");
 const QString jpeg = QStringLiteral("image/jpeg");
 const QString bmp = QStringLiteral("image/bmp");
@@ -56,47 +54,19 @@ QByteArray readAll(int file) {
     return read(file, status.st_size);
 }
 
-/// The media type that the first bytes show.
-QString typeOf(int file) {
-    struct Signature {
-        std::string_view text;
-        std::size_t offset;
-        const char* type;
-    };
-    constexpr std::array signatures = {Signature{"\x89PNG\r\n\x1a\n"sv, 0, "image/png"},
-                                       Signature{"\xff\xd8\xff"sv, 0, "image/jpeg"},
-                                       Signature{"GIF8"sv, 0, "image/gif"},
-                                       Signature{"II*\0"sv, 0, "image/tiff"},
-                                       Signature{"MM\0*"sv, 0, "image/tiff"},
-                                       Signature{"%PDF-"sv, 0, "application/pdf"},
-                                       Signature{"ftyphei"sv, 4, "image/heic"},
-                                       Signature{"ftypmif1"sv, 4, "image/heif"},
-                                       Signature{"ftypavif"sv, 4, "image/avif"},
-                                       Signature{"WEBP"sv, 8, "image/webp"}};
-    const QByteArray start = read(file, 16);
-    const std::string_view text(start.data(), static_cast<std::size_t>(start.size()));
-    for (const auto& signature : signatures)
-        if (text.substr(std::min(signature.offset, text.size())).starts_with(signature.text))
-            return QString::fromLatin1(signature.type);
-    return {};
+/// What the first bytes show.
+const FileType* typeOf(int file) {
+    const QByteArray start = read(file, signatureReach);
+    return fileTypeOf({start.data(), static_cast<std::size_t>(start.size())});
 }
 
 /// Whether the file has an end, where its type says how that looks. A picture that breaks off is
 /// none that others could read.
-bool isWhole(int file, const QString& type) {
-    struct End {
-        const char* type;
-        std::string_view text;
-        qsizetype within;  ///< How far before the file's end it may begin: some tools add to it.
-    };
-    constexpr std::array ends = {End{"image/png", "IEND\xAE\x42\x60\x82"sv, 64 * 1024},
-                                 End{"image/jpeg", "\xFF\xD9"sv, 64 * 1024},
-                                 End{"image/gif", ";"sv, 64}};
-    for (const auto& end : ends)
-        if (type == QLatin1String(end.type))
-            return readEnd(file, end.within)
-                .contains(QByteArrayView(end.text.data(), static_cast<qsizetype>(end.text.size())));
-    return true;
+bool isWhole(int file, const FileType& type) {
+    const auto& [text, within] = type.ending;
+    if (text.empty()) return true;
+    return readEnd(file, static_cast<qsizetype>(within))
+        .contains(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
 }
 
 /// White where the picture lets through: not every type can.
@@ -125,11 +95,14 @@ std::shared_ptr<const PictureContents> PictureContents::open(const Url& url,
                                                              std::shared_ptr<MediaLoader> media) {
     FileDescriptor file(
         ::open(url.path().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | O_NOFOLLOW));
-    const QString type = file ? typeOf(file.get()) : QString();
-    auto image = file && isWhole(file.get(), type) ? media->holdImage(url) : nullptr;
+    if (!file) return nullptr;
+    const FileType* type = typeOf(file.get());
+    auto image = !type || isWhole(file.get(), *type) ? media->holdImage(url) : nullptr;
     if (!image) return nullptr;
     const std::shared_ptr<PictureContents> contents(new PictureContents);
-    contents->ownType_ = type;
+    if (type)
+        contents->ownType_ = QString::fromLatin1(type->mediaType.data(),
+                                                 static_cast<qsizetype>(type->mediaType.size()));
     contents->file_ = std::move(file);
     contents->media_ = std::move(media);
     contents->image_ = std::move(image);
