@@ -2,8 +2,6 @@
 
 #include <cstdint>
 
-#include "decoder/reduction/Picture.h"
-
 namespace vantle::decoder {
 
 /// Whether a picture of this size is one that we open: no longer than any screen, and of a number

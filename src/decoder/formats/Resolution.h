@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "decoder/reduction/Picture.h"
 #include "support/Geometry.h"
+#include "support/PixelSize.h"
 
 namespace vantle::decoder {
 

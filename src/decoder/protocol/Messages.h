@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <type_traits>
 
-#include "decoder/reduction/Picture.h"
 #include "filetypes/FileTypes.h"
 #include "support/Geometry.h"
+#include "support/PixelSize.h"
 
 /// What the program and its decoder say to each other, over a Unix socket that keeps messages
 /// apart. Both ends are of one build, so the structures travel as they are.
@@ -46,7 +46,8 @@ enum class Status : std::uint32_t {
 };
 
 /// A reply to draw or frame that is done carries the descriptor of shared memory, sealed so that
-/// nobody can change it any more: the rows of a Picture of the size `picture`.
+/// nobody can change it any more: premultiplied 8-bit red, green, blue, alpha, in rows from the top
+/// and without padding, of the size `picture`.
 struct Reply {
     Status status = Status::failed;
     Format format = Format::png;

@@ -3,13 +3,9 @@
 #include <cstdint>
 #include <vector>
 
-namespace vantle::decoder {
+#include "support/PixelSize.h"
 
-struct PixelSize {
-    int wide = 0;
-    int high = 0;
-    friend bool operator==(const PixelSize&, const PixelSize&) = default;
-};
+namespace vantle::decoder {
 
 /// Premultiplied 8-bit red, green, blue, alpha; rows from the top, without padding.
 struct Picture {

@@ -1,4 +1,4 @@
-#include "decoder/Modules.h"
+#include "decoder/program/Modules.h"
 
 #include <dlfcn.h>
 

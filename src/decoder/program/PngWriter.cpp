@@ -1,4 +1,4 @@
-#include "decoder/PngWriter.h"
+#include "decoder/program/PngWriter.h"
 
 #include <isa-l.h>
 

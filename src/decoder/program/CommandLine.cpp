@@ -1,4 +1,4 @@
-#include "decoder/CommandLine.h"
+#include "decoder/program/CommandLine.h"
 
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -12,7 +12,7 @@
 #include <string_view>
 
 #include "capture/Capture.h"
-#include "decoder/PngWriter.h"
+#include "decoder/program/PngWriter.h"
 #include "platform/linux/ConfinedMediaLoader.h"
 #include "platform/linux/LinuxCaptureExtensions.h"
 

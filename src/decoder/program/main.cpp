@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "decoder/CommandLine.h"
-#include "decoder/Modules.h"
+#include "decoder/program/CommandLine.h"
+#include "decoder/program/Modules.h"
 #include "decoder/service/Service.h"
 
 int main(int argc, char** argv) {
