@@ -9,8 +9,8 @@ FocusScope {
 
     readonly property real panelPadding: 14
     // Around the row of tiles, which has a margin of its own inside.
-    readonly property real sidePadding: 2
-    readonly property real bottomPadding: 12
+    readonly property real sidePadding: CardLayout.padding - CardLayout.innerMargin
+    // Between the parts of the card, from top to bottom.
     readonly property real spacing: 10
     // How far the card moves in from the near edge.
     readonly property real travel: Appearance.reducesMotion ? 0 : (card.width + panelPadding) * (panel.atRight ? 1 : -1)
@@ -72,7 +72,7 @@ FocusScope {
             id: high
 
             panel: view.panel
-            target: view.sidePadding + row.naturalHeight + card.actionsHeight + card.timerBarHeight + view.bottomPadding
+            target: view.sidePadding + row.naturalHeight + card.actionsHeight + card.timerBarHeight + CardLayout.padding
         }
 
         // A card that is not there has no size to change from.
@@ -133,7 +133,7 @@ FocusScope {
             id: timerBar
 
             x: view.sidePadding
-            y: card.height - view.bottomPadding - height
+            y: card.height - CardLayout.padding - height
             width: card.width - 2 * view.sidePadding
             panel: view.panel
             isAtRest: view.panel.isPresented && !presence.running && !wide.running && !high.running

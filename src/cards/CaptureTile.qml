@@ -94,7 +94,7 @@ FocusScope {
         blur: 6
         drop: 2
         strength: 0.25
-        cornerRadius: thumbnail.cornerRadius
+        cornerRadius: CardLayout.thumbnailCornerRadius
     }
 
     DraggableThumbnail {
@@ -113,7 +113,7 @@ FocusScope {
 
     PlateView {
         anchors.fill: thumbnail
-        cornerRadius: thumbnail.cornerRadius
+        cornerRadius: CardLayout.thumbnailCornerRadius
         borderWidth: 1
         borderColor: Qt.rgba(1, 1, 1, 0.25)
     }
@@ -126,7 +126,7 @@ FocusScope {
         Behavior on opacity { NumberAnimation { duration: 180; easing.type: Easing.OutQuad } }
 
         sourceComponent: PlateView {
-            cornerRadius: thumbnail.cornerRadius
+            cornerRadius: CardLayout.thumbnailCornerRadius
             borderWidth: 3
             borderColor: Appearance.accent
             fill: Qt.alpha(Appearance.accent, 0.18)
@@ -137,7 +137,7 @@ FocusScope {
         anchors.fill: thumbnail
         anchors.margins: -4
         isShown: tile.activeFocus
-        cornerRadius: 16
+        cornerRadius: CardLayout.thumbnailCornerRadius - anchors.margins
     }
 
     Loader {
@@ -197,6 +197,7 @@ FocusScope {
         }
 
         Loader {
+            anchors.fill: parent
             active: tile.hasControls
             sourceComponent: CloseButton {
                 isOffered: tile.isAttended && !tile.isSelected

@@ -7,13 +7,11 @@ Appearing {
 
     signal tapped()
 
-    width: 22
-    height: 22
     from: 0
 
     PlateView {
         anchors.fill: parent
-        cornerRadius: 11
+        cornerRadius: height / 2
         fill: Qt.rgba(0, 0, 0, press.isPressed ? 0.8 : 0.6)
         borderWidth: 1
         borderColor: Qt.rgba(1, 1, 1, 0.4)
@@ -34,8 +32,8 @@ Appearing {
         id: press
 
         name: qsTr("Dismiss")
-        radius: 13
-        containmentMask: Disc { radius: 11 }
+        radius: button.height / 2 + 2
+        containmentMask: Disc { radius: button.height / 2 }
         onTapped: button.tapped()
     }
 }

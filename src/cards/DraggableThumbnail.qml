@@ -14,8 +14,6 @@ Item {
     required property real pictureWidth
     required property real pictureHeight
 
-    readonly property real cornerRadius: 12
-
     Image {
         anchors.fill: parent
         // One value, so that a change of both loads once. The linter takes it for a size in fractions.

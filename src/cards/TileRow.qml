@@ -9,16 +9,15 @@ FocusScope {
 
     required property PanelModel panel
 
-    readonly property real innerMargin: 10
     readonly property real nameGap: 6
     readonly property real nameHeight: panel.count >= 2 ? nameGap + tallestName : 0
     // Some scripts have tall letters, and so have the fonts of some desktops.
     property real tallestName: 14
     readonly property real overflowMargin: panel.overflows ? 6 : 0
     // Its size once nothing moves.
-    readonly property real naturalWidth: Math.min(640, panel.contentWidth) + 2 * innerMargin
-    readonly property real naturalHeight: innerMargin + panel.thumbnailHeight + nameHeight + overflowMargin
-    readonly property real farthest: Math.max(0, panel.contentWidth + 2 * innerMargin - naturalWidth)
+    readonly property real naturalWidth: Math.min(CardLayout.maxContentWidth, panel.contentWidth) + 2 * CardLayout.innerMargin
+    readonly property real naturalHeight: CardLayout.innerMargin + panel.thumbnailHeight + nameHeight + overflowMargin
+    readonly property real farthest: Math.max(0, panel.contentWidth + 2 * CardLayout.innerMargin - naturalWidth)
     // Tiles that are there from the beginning do not arrive.
     property bool isComplete: false
     property bool isHovered: false
@@ -44,7 +43,7 @@ FocusScope {
 
     // Scrolls only as far as it takes to see that tile.
     function reveal(tile) {
-        const right = tile.tileX + tile.tileWidth + 2 * innerMargin - naturalWidth;
+        const right = tile.tileX + tile.tileWidth + 2 * CardLayout.innerMargin - naturalWidth;
         scrollTo(Math.min(Math.max(scrolled.target, right), tile.tileX));
     }
 
@@ -107,8 +106,8 @@ FocusScope {
     }
 
     Item {
-        x: row.innerMargin - scrolled.value
-        y: row.innerMargin
+        x: CardLayout.innerMargin - scrolled.value
+        y: CardLayout.innerMargin
 
         Repeater {
             id: tiles
@@ -122,7 +121,7 @@ FocusScope {
                 // The first ones come with the card.
                 arrives: row.isComplete && row.panel.isPresented
                 nameGap: row.nameGap
-                seenFrom: scrolled.value - row.innerMargin + 4
+                seenFrom: scrolled.value - CardLayout.innerMargin + 4
                 seenTo: seenFrom + row.naturalWidth - 8
                 onNameHeightChanged: row.measureNames()
                 onActiveFocusChanged: if (activeFocus) row.focused = position
@@ -138,9 +137,9 @@ FocusScope {
     }
 
     ScrollIndicator {
-        x: row.innerMargin
+        x: CardLayout.innerMargin
         y: parent.height - height
-        width: parent.width - 2 * row.innerMargin
+        width: parent.width - 2 * CardLayout.innerMargin
         isOffered: row.panel.overflows && row.isHovered
         scrolled: scrolled.value
         farthest: row.farthest

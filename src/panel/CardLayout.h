@@ -12,10 +12,15 @@ namespace vantle {
 class CardLayout {
 public:
     static constexpr int maxCaptures = 40;
+    /// Between the card's edge and what is on it.
     static constexpr double padding = 12;
+    /// The part of the padding that belongs to the row of tiles, which scrolls with it.
     static constexpr double innerMargin = 10;
+    /// Between two tiles.
     static constexpr double spacing = 10;
+    /// The row of tiles scrolls when it is wider.
     static constexpr double maxContentWidth = 640;
+    static constexpr double thumbnailCornerRadius = 12;
     /// The panel window's one and only size.
     static constexpr Size windowSize{800, 330};
 

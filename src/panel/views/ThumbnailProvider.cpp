@@ -3,13 +3,13 @@
 #include <QPainter>
 #include <QStringList>
 
+#include "panel/CardLayout.h"
 #include "panel/views/RoundedShape.h"
 #include "platform/qt/Pixels.h"
 
 namespace vantle {
 namespace {
 
-constexpr double cornerRadius = 12;
 constexpr float groundOpacity = 0.25F;
 
 void drawFitted(QPainter& painter, const QImage& image, const QSize& target) {
@@ -50,7 +50,8 @@ QImage ThumbnailProvider::requestImage(const QString& id, QSize* size, const QSi
         QPainter painter(&picture);
         drawFitted(painter, pixels(*capture->thumbnail()), requestedSize);
     }
-    roundCorners(picture, cornerRadius * requestedSize.width() / widthInPoints);
+    roundCorners(picture,
+                 CardLayout::thumbnailCornerRadius * requestedSize.width() / widthInPoints);
     *size = picture.size();
     return picture;
 }

@@ -5,13 +5,13 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "panel/CardLayout.h"
 #include "panel/views/Appearance.h"
 #include "panel/views/RoundedShape.h"
 
 namespace vantle {
 namespace {
 
-constexpr double cornerRadius = 12;
 constexpr double badgeHeight = 20;
 constexpr float opacity = 0.94F;
 
@@ -64,7 +64,8 @@ DragPile dragPile(std::vector<DraggingItem> items, double pixelsPerPoint, DragPi
     const bool isSoft = edges == DragPile::Edges::soft;
     if (!isSoft) items.resize(1);
     const QRectF first = items.front().frame;
-    const double radius = std::min({cornerRadius, first.width() / 4, first.height() / 4});
+    const double radius =
+        std::min({CardLayout::thumbnailCornerRadius, first.width() / 4, first.height() / 4});
     // At the upper left corner, which nothing of the pile covers.
     const double overhang = isSoft ? badgeHeight / 2 : -4;
     const QRectF badge(first.x() - overhang, first.y() - overhang,
