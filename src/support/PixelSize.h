@@ -4,8 +4,8 @@ namespace vantle {
 
 /// Of a picture, in whole pixels.
 struct PixelSize {
-    int wide = 0;
-    int high = 0;
+    int width = 0;
+    int height = 0;
     friend bool operator==(const PixelSize&, const PixelSize&) = default;
 };
 

@@ -31,7 +31,7 @@ protected:
         std::filesystem::remove_all(folder.path());
         pollfd said{watch.get(), POLLIN, 0};
         // The decoder's end would let go of everything, but is not to be waited for.
-        constexpr int milliseconds = decoder::decoderPatience * 1000 / 2;
+        constexpr int milliseconds = decoder::decoderTimeout * 1000 / 2;
         return poll(&said, 1, milliseconds) > 0;
     }
 

@@ -102,9 +102,9 @@ public:
         for (const auto attempt : attempts) {
             errno = 0;
             if (attempt() >= 0)
-                ++outcomes_.wide;
+                ++outcomes_.width;
             else if (errno == EPERM || errno == EACCES || errno == ENOSYS)
-                ++outcomes_.high;
+                ++outcomes_.height;
         }
     }
 

@@ -23,7 +23,7 @@ Picture reduced(const Bytes& rows, PixelSize source, PixelSize target, PixelLayo
                 const Kernels& kernels = Kernels::best()) {
     Reducer reducer(source, target, layout, kernels);
     const auto rowSize =
-        static_cast<std::size_t>(source.wide) * static_cast<std::size_t>(channelCount(layout));
+        static_cast<std::size_t>(source.width) * static_cast<std::size_t>(channelCount(layout));
     for (std::size_t begin = 0; begin < rows.size(); begin += rowSize)
         reducer.addRow(rows.data() + begin);
     EXPECT_TRUE(reducer.isComplete());
@@ -48,9 +48,9 @@ TEST(Reducer, KeepsOneColorAtAnySize) {
     for (const PixelLayout layout : layouts)
         for (const PixelSize source : {PixelSize{1, 1}, {2, 1}, {1, 700}, {333, 77}, {1000, 513}})
             for (const PixelSize target : {PixelSize{1, 1}, {1, 1}, {17, 9}, {100, 50}}) {
-                if (target.wide > source.wide || target.high > source.high) continue;
+                if (target.width > source.width || target.height > source.height) continue;
                 const Bytes rows(
-                    static_cast<std::size_t>(source.wide * source.high * channelCount(layout)),
+                    static_cast<std::size_t>(source.width * source.height * channelCount(layout)),
                     200);
                 const Picture picture = reduced(rows, source, target, layout);
                 EXPECT_EQ(picture.size, target);
@@ -70,15 +70,15 @@ TEST(Reducer, KeepsEverythingInItsPlace) {
     for (const PixelSize source : {PixelSize{640, 480}, {1001, 703}, {1999, 1501}}) {
         const PixelSize target{160, 120};
         Bytes rows;
-        for (int y = 0; y < source.high; ++y)
-            for (int x = 0; x < source.wide; ++x)
-                rows.push_back(wave((x + 0.5) / source.wide, (y + 0.5) / source.high));
+        for (int y = 0; y < source.height; ++y)
+            for (int x = 0; x < source.width; ++x)
+                rows.push_back(wave((x + 0.5) / source.width, (y + 0.5) / source.height));
         const Picture picture = reduced(rows, source, target, PixelLayout::gray);
-        for (int y = 2; y < target.high - 2; ++y)
-            for (int x = 2; x < target.wide - 2; ++x)
-                ASSERT_NEAR(picture.rgba[static_cast<std::size_t>(4 * (y * target.wide + x))],
-                            wave((x + 0.5) / target.wide, (y + 0.5) / target.high), 2)
-                    << source.wide << " at " << x << ", " << y;
+        for (int y = 2; y < target.height - 2; ++y)
+            for (int x = 2; x < target.width - 2; ++x)
+                ASSERT_NEAR(picture.rgba[static_cast<std::size_t>(4 * (y * target.width + x))],
+                            wave((x + 0.5) / target.width, (y + 0.5) / target.height), 2)
+                    << source.width << " at " << x << ", " << y;
     }
 }
 
@@ -115,7 +115,7 @@ TEST(Reducer, IsNotCompleteWithoutItsLastRow) {
 TEST(Kernels, TheBestAndThePortableOnesAgree) {
     for (const PixelLayout layout : layouts)
         for (const PixelSize source : {PixelSize{500, 333}, {1003, 777}}) {
-            const Bytes rows = noise(source.wide * source.high * channelCount(layout));
+            const Bytes rows = noise(source.width * source.height * channelCount(layout));
             const Picture best = reduced(rows, source, {120, 90}, layout);
             const Picture portable = reduced(rows, source, {120, 90}, layout, Kernels::portable());
             for (std::size_t i = 0; i < best.rgba.size(); ++i)

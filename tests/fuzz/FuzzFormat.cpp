@@ -33,18 +33,18 @@ FileDescriptor fileOf(const std::uint8_t* data, std::size_t size) {
 }
 
 void open(const InputFile& file) {
-    constexpr PixelSize most{200, 150};
+    constexpr PixelSize maximum{200, 150};
     const FormatModule& module = preparedModule();
     if (const auto image = module.openImage ? module.openImage(file) : nullptr) {
         const PixelSize size = image->pixelSize();
         const bool isVector = size == PixelSize{};
-        const PixelSize target =
-            isVector ? most
-                     : PixelSize{std::min(size.wide, most.wide), std::min(size.high, most.high)};
+        const PixelSize target = isVector ? maximum
+                                          : PixelSize{std::min(size.width, maximum.width),
+                                                      std::min(size.height, maximum.height)};
         image->draw(target);
     }
     if (const auto recording = module.openRecording ? module.openRecording(file) : nullptr)
-        recording->frame(std::min(std::max(recording->duration() * 0.5, 0.0), 0.5), most.wide);
+        recording->frame(std::min(std::max(recording->duration() * 0.5, 0.0), 0.5), maximum.width);
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ void limit(int resource, rlim_t value) {
 void limitResources() {
     limit(RLIMIT_AS, memory);
     limit(RLIMIT_CPU, processorSeconds);
-    limit(RLIMIT_FSIZE, static_cast<rlim_t>(largestPicture));
+    limit(RLIMIT_FSIZE, static_cast<rlim_t>(maximumPictureBytes));
     limit(RLIMIT_NOFILE, descriptors);
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_MEMLOCK, 0);

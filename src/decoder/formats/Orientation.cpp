@@ -15,28 +15,28 @@ struct Walk {
 };
 
 Walk walk(PixelSize stored, Orientation orientation) {
-    const std::ptrdiff_t wide = stored.wide;
-    const std::ptrdiff_t right = wide - 1;
-    const std::ptrdiff_t bottom = (stored.high - 1) * wide;
+    const std::ptrdiff_t width = stored.width;
+    const std::ptrdiff_t right = width - 1;
+    const std::ptrdiff_t bottom = (stored.height - 1) * width;
     switch (orientation) {
         case Orientation::upright:
             break;
         case Orientation::mirrored:
-            return {right, -1, wide};
+            return {right, -1, width};
         case Orientation::turnedAround:
-            return {bottom + right, -1, -wide};
+            return {bottom + right, -1, -width};
         case Orientation::flipped:
-            return {bottom, 1, -wide};
+            return {bottom, 1, -width};
         case Orientation::transposed:
-            return {0, wide, 1};
+            return {0, width, 1};
         case Orientation::turnRight:
-            return {bottom, -wide, 1};
+            return {bottom, -width, 1};
         case Orientation::transposedAround:
-            return {bottom + right, -wide, -1};
+            return {bottom + right, -width, -1};
         case Orientation::turnLeft:
-            return {right, wide, -1};
+            return {right, width, -1};
     }
-    return {0, 1, wide};
+    return {0, 1, width};
 }
 
 }  // namespace
@@ -47,8 +47,8 @@ Picture turned(Picture picture, Orientation orientation) {
     Picture upright{turned(picture.size, orientation),
                     std::vector<std::uint8_t>(picture.rgba.size())};
     std::uint8_t* out = upright.rgba.data();
-    for (int y = 0; y < upright.size.high; ++y)
-        for (int x = 0; x < upright.size.wide; ++x, out += 4)
+    for (int y = 0; y < upright.size.height; ++y)
+        for (int x = 0; x < upright.size.width; ++x, out += 4)
             std::memcpy(out, picture.rgba.data() + 4 * (origin + x * across + y * down), 4);
     return upright;
 }

@@ -22,14 +22,14 @@ constexpr Orientation orientationNumbered(unsigned number) {
     return number >= 1 && number <= 8 ? static_cast<Orientation>(number) : Orientation::upright;
 }
 
-/// Whether wide and high change places.
+/// Whether width and height change places.
 constexpr bool swapsSides(Orientation orientation) {
     return orientation >= Orientation::transposed;
 }
 
 /// From the stored picture's size to that of the upright one, and back.
 constexpr PixelSize turned(PixelSize size, Orientation orientation) {
-    return swapsSides(orientation) ? PixelSize{size.high, size.wide} : size;
+    return swapsSides(orientation) ? PixelSize{size.height, size.width} : size;
 }
 
 constexpr Size turned(Size size, Orientation orientation) {

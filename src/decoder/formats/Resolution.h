@@ -23,7 +23,7 @@ struct Resolution {
     }
 
     Size points(PixelSize pixels) const {
-        return {pixels.wide * 72 / across, pixels.high * 72 / down};
+        return {pixels.width * 72 / across, pixels.height * 72 / down};
     }
 
 private:

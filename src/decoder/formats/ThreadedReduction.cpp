@@ -3,7 +3,7 @@
 namespace vantle::decoder {
 
 ThreadedReduction::ThreadedReduction(PixelSize source, PixelSize target, PixelLayout layout)
-    : rowSize_(static_cast<std::size_t>(source.wide) *
+    : rowSize_(static_cast<std::size_t>(source.width) *
                static_cast<std::size_t>(channelCount(layout))),
       reducer_(source, target, layout),
       pipeline_(rowSize_ * rowsInBlock(rowSize_), [this](std::span<const std::uint8_t> block) {

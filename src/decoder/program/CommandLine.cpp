@@ -28,7 +28,7 @@ constexpr auto usage =
 struct Arguments {
     std::string in;
     std::string out;
-    double most = 800;
+    double maximumDimension = 800;
 };
 
 std::optional<double> number(std::string_view text) {
@@ -40,16 +40,16 @@ std::optional<double> number(std::string_view text) {
 }
 
 std::optional<Arguments> parsed(std::span<char*> arguments) {
-    constexpr std::size_t fewest = 4;
-    constexpr std::size_t most = 6;
-    if ((arguments.size() != fewest && arguments.size() != most) ||
+    constexpr std::size_t minimumCount = 4;
+    constexpr std::size_t maximumCount = 6;
+    if ((arguments.size() != minimumCount && arguments.size() != maximumCount) ||
         std::string_view(arguments[1]) != "--thumbnail")
         return std::nullopt;
     Arguments result{arguments[2], arguments[3]};
-    if (arguments.size() == most) {
+    if (arguments.size() == maximumCount) {
         const auto maximum = number(arguments[5]);
         if (std::string_view(arguments[4]) != "--max" || !maximum) return std::nullopt;
-        result.most = *maximum;
+        result.maximumDimension = *maximum;
     }
     return result;
 }
@@ -74,7 +74,7 @@ int makeThumbnail(const Arguments& arguments) {
     {
         const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
         ConfinedMediaLoader loader(program.string(), [] { return 1.0; });
-        capture->loadThumbnail(loader, arguments.most);
+        capture->loadThumbnail(loader, arguments.maximumDimension);
     }
     if (capture->thumbnail() || capture->duration() > 0) print(*capture);
     if (!capture->thumbnail()) {

@@ -130,10 +130,10 @@ bool writePng(const Image& image, const std::string& path) {
     Output output(path);
     writeHeader(output, image, channels);
     const auto compressor = std::make_unique<Compressor>(output);
-    const auto wide = static_cast<std::size_t>(image.pixelsWide);
+    const auto width = static_cast<std::size_t>(image.pixelsWide);
     // Each row stands behind the number of its filter, which is none.
-    std::vector<std::uint8_t> row(1 + wide * channels);
-    for (std::size_t begin = 0; begin < image.rgba.size(); begin += wide * 4) {
+    std::vector<std::uint8_t> row(1 + width * channels);
+    for (std::size_t begin = 0; begin < image.rgba.size(); begin += width * 4) {
         writeRow(image.rgba.data() + begin, std::span(row).subspan(1), channels);
         compressor->add(row);
     }

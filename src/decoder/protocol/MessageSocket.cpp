@@ -16,8 +16,8 @@ union Control {
     char bytes[CMSG_SPACE(sizeof(int))];
 };
 
-bool waitUntilReadable(int socket, std::chrono::milliseconds patience) {
-    const auto end = std::chrono::steady_clock::now() + patience;
+bool waitUntilReadable(int socket, std::chrono::milliseconds timeout) {
+    const auto end = std::chrono::steady_clock::now() + timeout;
     for (;;) {
         const auto left =
             std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
@@ -63,8 +63,8 @@ bool sendBytes(int socket, std::span<const std::byte> message, int descriptor) {
 }
 
 bool receiveBytes(int socket, std::span<std::byte> message, FileDescriptor& descriptor,
-                  std::chrono::milliseconds patience) {
-    if (!waitUntilReadable(socket, patience)) return false;
+                  std::chrono::milliseconds timeout) {
+    if (!waitUntilReadable(socket, timeout)) return false;
     iovec part{message.data(), message.size()};
     msghdr whole{};
     whole.msg_iov = &part;

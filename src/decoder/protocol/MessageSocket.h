@@ -14,9 +14,9 @@ namespace vantle::decoder {
 bool sendBytes(int socket, std::span<const std::byte> message, int descriptor);
 
 /// Receives one message of just this size, and the descriptor that came with it, if any. False when
-/// the other end is gone, says something else, or says nothing within `patience`.
+/// the other end is gone, says something else, or says nothing within `timeout`.
 bool receiveBytes(int socket, std::span<std::byte> message, FileDescriptor& descriptor,
-                  std::chrono::milliseconds patience);
+                  std::chrono::milliseconds timeout);
 
 template <typename Message>
 bool send(int socket, const Message& message, int descriptor = -1) {
@@ -30,10 +30,10 @@ struct Received {
 };
 
 template <typename Message>
-std::optional<Received<Message>> receive(int socket, std::chrono::milliseconds patience) {
+std::optional<Received<Message>> receive(int socket, std::chrono::milliseconds timeout) {
     Received<Message> received;
     if (!receiveBytes(socket, std::as_writable_bytes(std::span(&received.message, 1)),
-                      received.descriptor, patience))
+                      received.descriptor, timeout))
         return std::nullopt;
     return received;
 }

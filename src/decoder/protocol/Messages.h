@@ -64,9 +64,9 @@ static_assert(std::is_trivially_copyable_v<Request> && std::is_trivially_copyabl
 constexpr int decoderSocket = 3;
 
 /// A decoder ends this long after the last request, in seconds.
-constexpr int decoderPatience = 10;
+constexpr int decoderTimeout = 10;
 
 /// The most that one picture may take, in bytes.
-constexpr std::int64_t largestPicture = std::int64_t{256} * 1024 * 1024;
+constexpr std::int64_t maximumPictureBytes = std::int64_t{256} * 1024 * 1024;
 
 }  // namespace vantle::decoder

@@ -27,11 +27,11 @@ VANTLE_LOOP Float4 all(float value) {
     return Float4{value, value, value, value};
 }
 
-/// Between 0 and the largest that fits, to the nearest whole number.
-VANTLE_LOOP Int4 rounded(Float4 value, float largest) {
+/// Between 0 and the maximum, to the nearest whole number.
+VANTLE_LOOP Int4 rounded(Float4 value, float maximum) {
     value = value + all(0.5F);
     value = value > all(0) ? value : all(0);
-    value = value < all(largest) ? value : all(largest);
+    value = value < all(maximum) ? value : all(maximum);
     return __builtin_convertvector(value, Int4);
 }
 

@@ -37,7 +37,7 @@ Lanczos::Lanczos(int sourceCount, double extent, int targetCount) {
         }
         for (int i = 0; i < end - first; ++i) weights[i] /= static_cast<float>(sum);
         taps_[static_cast<std::size_t>(target)] = {first, end - first, weights};
-        mostTaps_ = std::max(mostTaps_, end - first);
+        maximumTaps_ = std::max(maximumTaps_, end - first);
         weights += room;
     }
 }

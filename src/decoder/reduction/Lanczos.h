@@ -14,12 +14,12 @@ public:
 
     const Taps& at(int target) const { return taps_[static_cast<std::size_t>(target)]; }
     const Taps* data() const { return taps_.data(); }
-    int mostTaps() const { return mostTaps_; }
+    int maximumTaps() const { return maximumTaps_; }
 
 private:
     std::vector<float> weights_;
     std::vector<Taps> taps_;
-    int mostTaps_ = 0;
+    int maximumTaps_ = 0;
 };
 
 }  // namespace vantle::decoder

@@ -28,7 +28,7 @@ public:
     /// The next row from the top. Rows beyond the last one are ignored.
     void addRow(const std::uint8_t* row);
 
-    bool isComplete() const { return nextTarget_ == target_.high; }
+    bool isComplete() const { return nextTarget_ == target_.height; }
 
     /// The result; of a CMYK source four plain samples a pixel, which stand for ink.
     Picture take();

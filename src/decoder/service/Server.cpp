@@ -31,8 +31,8 @@ FileDescriptor shared(const Picture& picture) {
 }
 
 bool isDrawable(PixelSize target) {
-    return target.wide > 0 && target.high > 0 &&
-           std::int64_t{4} * target.wide * target.high <= largestPicture;
+    return target.width > 0 && target.height > 0 &&
+           std::int64_t{4} * target.width * target.height <= maximumPictureBytes;
 }
 
 class Server {
@@ -41,8 +41,8 @@ public:
         : socket_(socket), format_(format), module_(module) {}
 
     void run() {
-        constexpr std::chrono::seconds patience(decoderPatience);
-        while (auto received = receive<Request>(socket_, patience)) {
+        constexpr std::chrono::seconds timeout(decoderTimeout);
+        while (auto received = receive<Request>(socket_, timeout)) {
             if (received->message.operation == Operation::close) {
                 forget();
                 continue;

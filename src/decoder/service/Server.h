@@ -5,7 +5,7 @@
 
 namespace vantle::decoder {
 
-/// Answers requests on `socket` until the other end goes or says nothing for `decoderPatience`.
+/// Answers requests on `socket` until the other end goes or says nothing for `decoderTimeout`.
 void serve(int socket, Format format, const FormatModule& module);
 
 }  // namespace vantle::decoder

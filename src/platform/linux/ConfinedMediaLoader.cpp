@@ -50,17 +50,17 @@ bool isSensible(Size size) {
 
 /// The rows in the memory that came with a reply; null unless they are all there for good.
 ImagePointer picture(const DecoderProcess::Answer& answer, Size points) {
-    const auto [wide, high] = answer.reply.picture;
-    const auto bytes = std::int64_t{4} * wide * high;
+    const auto [width, height] = answer.reply.picture;
+    const auto bytes = std::int64_t{4} * width * height;
     constexpr int seals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
     struct stat status {};
-    if (wide < 1 || high < 1 || bytes > largestPicture || !answer.memory ||
+    if (width < 1 || height < 1 || bytes > maximumPictureBytes || !answer.memory ||
         (fcntl(answer.memory.get(), F_GET_SEALS) & seals) != seals ||
         fstat(answer.memory.get(), &status) != 0 || status.st_size != bytes)
         return nullptr;
     auto image = std::make_shared<Image>();
-    image->pixelsWide = wide;
-    image->pixelsHigh = high;
+    image->pixelsWide = width;
+    image->pixelsHigh = height;
     image->size = points;
     image->rgba.resize(static_cast<std::size_t>(bytes));
     const auto count = pread(answer.memory.get(), image->rgba.data(), image->rgba.size(), 0);
@@ -96,14 +96,14 @@ public:
           pixelsPerPoint_(pixelsPerPoint) {}
 
     std::optional<Size> pixelSize() const override {
-        return Size{static_cast<double>(pixels_.wide), static_cast<double>(pixels_.high)};
+        return Size{static_cast<double>(pixels_.width), static_cast<double>(pixels_.height)};
     }
     Size pointSize() const override { return points_; }
 
     ImagePointer draw(Size size) override {
         const double scale = pixelsPerPoint_();
-        const PixelSize target{pixelsFor(size.width, scale, pixels_.wide),
-                               pixelsFor(size.height, scale, pixels_.high)};
+        const PixelSize target{pixelsFor(size.width, scale, pixels_.width),
+                               pixelsFor(size.height, scale, pixels_.height)};
         const auto answer = file_->ask({.operation = Operation::draw, .target = target});
         return answer && answer->reply.picture == target ? picture(*answer, size) : nullptr;
     }
@@ -119,7 +119,7 @@ private:
 std::unique_ptr<DecodedImage> decodedImage(std::unique_ptr<DecodedFile> file,
                                            const std::function<double()>& pixelsPerPoint) {
     const auto reply = file->open();
-    const bool isUsable = reply && reply->pixelSize.wide >= 0 && reply->pixelSize.high >= 0 &&
+    const bool isUsable = reply && reply->pixelSize.width >= 0 && reply->pixelSize.height >= 0 &&
                           isSensible(reply->size);
     if (!isUsable) return nullptr;
     return std::make_unique<DecodedImage>(std::move(file), *reply, pixelsPerPoint);
@@ -162,8 +162,8 @@ public:
         const auto answer = file_->ask(
             {.operation = Operation::frame, .time = time, .maximumDimension = maximumDimension});
         if (!answer) return nullptr;
-        const Size size{static_cast<double>(answer->reply.picture.wide),
-                        static_cast<double>(answer->reply.picture.high)};
+        const Size size{static_cast<double>(answer->reply.picture.width),
+                        static_cast<double>(answer->reply.picture.height)};
         const bool isBounded = std::max(size.width, size.height) <= maximumDimension;
         return isBounded ? picture(*answer, size) : nullptr;
     }

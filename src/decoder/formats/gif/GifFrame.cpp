@@ -83,18 +83,18 @@ bool GifFrame::readInTurn(std::vector<GifPixelType>& indexes) {
         int step;
     };
     constexpr std::array passes = {Pass{0, 8}, Pass{4, 8}, Pass{2, 4}, Pass{1, 2}};
-    const auto wide = static_cast<std::size_t>(gif_->Image.Width);
-    indexes.resize(wide * static_cast<std::size_t>(gif_->Image.Height));
+    const auto width = static_cast<std::size_t>(gif_->Image.Width);
+    indexes.resize(width * static_cast<std::size_t>(gif_->Image.Height));
     for (const auto& [first, step] : passes)
         for (int row = first; row < gif_->Image.Height; row += step)
-            if (!readRow(indexes.data() + wide * static_cast<std::size_t>(row))) return false;
+            if (!readRow(indexes.data() + width * static_cast<std::size_t>(row))) return false;
     return true;
 }
 
 std::optional<Picture> GifFrame::draw(PixelSize target) {
     const GifImageDesc& image = gif_->Image;
-    const auto wide = static_cast<std::size_t>(image.Width);
-    std::vector<GifPixelType> indexes(wide);
+    const auto width = static_cast<std::size_t>(image.Width);
+    std::vector<GifPixelType> indexes(width);
     if (image.Interlace && !readInTurn(indexes)) return std::nullopt;
 
     ThreadedReduction reduction(canvas(), target, PixelLayout::premultipliedRgba);
@@ -106,11 +106,11 @@ std::optional<Picture> GifFrame::draw(PixelSize target) {
         if (isInFrame) {
             const GifPixelType* line = indexes.data();
             if (image.Interlace)
-                line += wide * static_cast<std::size_t>(y - image.Top);
+                line += width * static_cast<std::size_t>(y - image.Top);
             else if (!readRow(indexes.data()))
                 return std::nullopt;
             std::uint8_t* pixel = row + std::ptrdiff_t{4} * image.Left;
-            for (std::size_t x = 0; x < wide; ++x, pixel += 4)
+            for (std::size_t x = 0; x < width; ++x, pixel += 4)
                 std::memcpy(pixel, colors_[line[x]].data(), 4);
         }
         reduction.rowIsWritten();

@@ -74,7 +74,7 @@ public:
     bool open() {
         if (!context_) return false;
         // What a file claims is not to be more than a decoder may use.
-        heif_context_set_maximum_image_size_limit(context_.get(), longestSide);
+        heif_context_set_maximum_image_size_limit(context_.get(), maximumSide);
         heif_context_set_max_decoding_threads(context_.get(), threads);
         if (!isDone(heif_context_read_from_reader(context_.get(), HeicReader::operations(),
                                                   &reader_, nullptr)))
@@ -83,7 +83,7 @@ public:
         if (!isDone(heif_context_get_primary_image_handle(context_.get(), &handle))) return false;
         handle_.reset(handle);
         size_ = {heif_image_handle_get_width(handle), heif_image_handle_get_height(handle)};
-        return isReasonableInMemory(size_.wide, size_.high);
+        return isReasonableInMemory(size_.width, size_.height);
     }
 
     PixelSize pixelSize() const override { return size_; }
@@ -104,7 +104,7 @@ public:
     }
 
 private:
-    static constexpr int longestSide = 16'384;
+    static constexpr int maximumSide = 16'384;
     static constexpr int threads = 2;
 
     Owned<heif_image> decoded(heif_chroma chroma) {
@@ -127,7 +127,7 @@ private:
                              heif_image_get_height(&image, heif_channel_interleaved)};
         if (!rows || size != size_) return std::nullopt;
         ThreadedReduction reduction(size, target, layout);
-        for (int y = 0; y < size.high; ++y) reduction.addRow(rows + std::ptrdiff_t{stride} * y);
+        for (int y = 0; y < size.height; ++y) reduction.addRow(rows + std::ptrdiff_t{stride} * y);
         return reduction.take();
     }
 

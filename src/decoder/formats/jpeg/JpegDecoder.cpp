@@ -15,8 +15,8 @@ struct Freer {
 
 /// Each scan goes over the whole picture; encoders write about ten, attackers thousands.
 void refuseTooManyScans(j_common_ptr jpeg) {
-    constexpr int mostScans = 100;
-    if (reinterpret_cast<j_decompress_ptr>(jpeg)->input_scan_number > mostScans)
+    constexpr int maximumScans = 100;
+    if (reinterpret_cast<j_decompress_ptr>(jpeg)->input_scan_number > maximumScans)
         jpeg->err->error_exit(jpeg);
 }
 
@@ -112,13 +112,13 @@ Resolution resolutionOf(const jpeg_decompress_struct& jpeg, const Exif& exif) {
 /// Libjpeg can shrink while it decodes, well by halves. It leaves at least twice the target, so
 /// that the last step is a good filter.
 void shrinkWhileDecoding(jpeg_decompress_struct& jpeg, PixelSize target) {
-    constexpr unsigned most = 8;
+    constexpr unsigned maximumDivisor = 8;
     const auto leavesTwice = [](JDIMENSION full, unsigned divisor, int wanted) {
         return full / divisor >= 2 * static_cast<unsigned>(wanted);
     };
     unsigned divisor = 1;
-    while (divisor < most && leavesTwice(jpeg.image_width, 2 * divisor, target.wide) &&
-           leavesTwice(jpeg.image_height, 2 * divisor, target.high))
+    while (divisor < maximumDivisor && leavesTwice(jpeg.image_width, 2 * divisor, target.width) &&
+           leavesTwice(jpeg.image_height, 2 * divisor, target.height))
         divisor *= 2;
     jpeg.scale_num = 1;
     jpeg.scale_denom = divisor;

@@ -43,10 +43,10 @@ public:
         renderer.set_render_hint(poppler::page_renderer::antialiasing);
         renderer.set_render_hint(poppler::page_renderer::text_antialiasing);
         const auto image = renderer.render_page(
-            page_.get(), pointsPerInch * target.wide / size_.width,
-            pointsPerInch * target.high / size_.height, 0, 0, target.wide, target.high);
+            page_.get(), pointsPerInch * target.width / size_.width,
+            pointsPerInch * target.height / size_.height, 0, 0, target.width, target.height);
         if (!image.is_valid() || image.format() != poppler::image::format_argb32 ||
-            image.width() != target.wide || image.height() != target.high)
+            image.width() != target.width || image.height() != target.height)
             return std::nullopt;
         return picture(image);
     }
@@ -79,8 +79,8 @@ private:
 };
 
 std::unique_ptr<StillImage> openImage(const InputFile& file) {
-    constexpr std::int64_t largest = 0x7fff'ffff;
-    if (file.size() > largest) return nullptr;
+    constexpr std::int64_t maximumSize = 0x7fff'ffff;
+    if (file.size() > maximumSize) return nullptr;
     auto image = std::make_unique<PdfImage>(file);
     return image->open() ? std::move(image) : nullptr;
 }

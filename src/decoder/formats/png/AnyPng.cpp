@@ -26,12 +26,12 @@ public:
     /// Once libpng knows what rows it will give.
     bool begin(int channels) {
         if (channels != 1 && channels != 3 && channels != 4) return false;
-        rowSize_ = static_cast<std::size_t>(size_.wide) * static_cast<std::size_t>(channels);
+        rowSize_ = static_cast<std::size_t>(size_.width) * static_cast<std::size_t>(channels);
         const auto layout = channels == 1   ? PixelLayout::gray
                             : channels == 3 ? PixelLayout::rgb
                                             : PixelLayout::rgba;
         reduction_.emplace(size_, target_, layout);
-        if (isInterlaced_) whole_.resize(rowSize_ * static_cast<std::size_t>(size_.high));
+        if (isInterlaced_) whole_.resize(rowSize_ * static_cast<std::size_t>(size_.height));
         return true;
     }
 
@@ -133,7 +133,7 @@ bool processData(Png& png, PngStream& stream) {
 
 std::optional<Picture> drawAnyPng(const InputFile& file, const PngHeader& header,
                                   PixelSize target) {
-    if (header.isInterlaced && !isReasonableInMemory(header.size.wide, header.size.high))
+    if (header.isInterlaced && !isReasonableInMemory(header.size.width, header.size.height))
         return std::nullopt;
     Rows rows(header, target);
     Png png;

@@ -24,7 +24,7 @@ public:
           }) {}
 
     static std::size_t rowSize(const PngHeader& header) {
-        return static_cast<std::size_t>(header.size.wide) *
+        return static_cast<std::size_t>(header.size.width) *
                static_cast<std::size_t>(bytesPerPixel(header));
     }
 
@@ -124,7 +124,7 @@ std::optional<Picture> drawPlainPng(const InputFile& file, const PngHeader& head
     PngStream stream(file, header);
     const auto inflater = std::make_unique<Inflater>(stream);
     if (!inflater->begin()) return std::nullopt;
-    for (auto left = static_cast<std::size_t>(header.size.high); left > 0;) {
+    for (auto left = static_cast<std::size_t>(header.size.height); left > 0;) {
         const std::size_t count = std::min(left, rowCount);
         const auto block = pipeline.block().first(count * storedRowSize);
         if (!inflater->fill(block)) return std::nullopt;

@@ -32,13 +32,13 @@ void appendChunk(std::vector<std::uint8_t>& bytes, const PngChunk& chunk,
 
 /// The profile within an iCCP chunk: a name, a zero, the method, and compressed data.
 std::vector<std::uint8_t> colorProfile(std::span<const std::uint8_t> data) {
-    constexpr std::size_t largest = std::size_t{4} * 1024 * 1024;
+    constexpr std::size_t maximumSize = std::size_t{4} * 1024 * 1024;
     const auto nameEnd = std::ranges::find(data, 0);
     const auto nameSize = static_cast<std::size_t>(nameEnd - data.begin());
     if (nameSize + 2 > data.size()) return {};
     const auto compressed = data.subspan(nameSize + 2);
 
-    std::vector<std::uint8_t> profile(largest);
+    std::vector<std::uint8_t> profile(maximumSize);
     inflate_state state;
     isal_inflate_init(&state);
     state.crc_flag = ISAL_ZLIB;
@@ -61,8 +61,9 @@ void readResolution(PngHeader& header, std::span<const std::uint8_t> data) {
 }
 
 bool readSizes(PngHeader& header, std::span<const std::uint8_t> data) {
-    constexpr std::uint32_t largest = 0x7fff'ffff;
-    if (data.size() != 13 || bigEndian32(data.data()) > largest || bigEndian32(&data[4]) > largest)
+    constexpr std::uint32_t maximumLength = 0x7fff'ffff;
+    if (data.size() != 13 || bigEndian32(data.data()) > maximumLength ||
+        bigEndian32(&data[4]) > maximumLength)
         return false;
     header.size = {static_cast<int>(bigEndian32(data.data())),
                    static_cast<int>(bigEndian32(&data[4]))};
@@ -74,22 +75,22 @@ bool readSizes(PngHeader& header, std::span<const std::uint8_t> data) {
 
 /// Takes what a chunk before the picture says. False when the file is of no use.
 bool readChunk(PngHeader& header, PngChunks& chunks, const PngChunk& chunk) {
-    constexpr std::size_t largestProfile = std::size_t{4} * 1024 * 1024;
-    constexpr std::size_t largestTable = 768;
+    constexpr std::size_t maximumProfile = std::size_t{4} * 1024 * 1024;
+    constexpr std::size_t maximumTable = 768;
     const bool belongsToPicture = chunk.is("IHDR") || chunk.is("PLTE") || chunk.is("tRNS");
     if (!belongsToPicture && !chunk.is("pHYs") && !chunk.is("iCCP")) {
         chunks.skip();
         return true;
     }
-    const auto data = chunks.data(chunk, belongsToPicture ? largestTable : largestProfile);
+    const auto data = chunks.data(chunk, belongsToPicture ? maximumTable : maximumProfile);
     // What only describes the picture may be damaged; what makes it may not.
     if (!data) return !belongsToPicture;
     if (belongsToPicture) appendChunk(header.picturePart, chunk, *data);
     if (chunk.is("tRNS")) header.hasTransparency = true;
     if (chunk.is("pHYs")) readResolution(header, *data);
     if (chunk.is("iCCP")) header.colorProfile = colorProfile(*data);
-    constexpr std::size_t largestPicturePart = 4096;
-    return header.picturePart.size() <= largestPicturePart &&
+    constexpr std::size_t maximumPicturePart = 4096;
+    return header.picturePart.size() <= maximumPicturePart &&
            (!chunk.is("IHDR") || readSizes(header, *data));
 }
 

@@ -16,12 +16,12 @@ VANTLE_LOOP void undoUp(const std::uint8_t* __restrict stored, const std::uint8_
         row[i] = static_cast<std::uint8_t>(stored[i] + above[i]);
 }
 
-constexpr int mostTogether = rowsUnfilteredTogether;
+constexpr int maximumTogether = rowsUnfilteredTogether;
 
 /// What undoes the filters, for one kind of processor.
 struct Loops {
     using Loop = void (*)(const Rows&);
-    using ByCount = std::array<Loop, mostTogether + 1>;
+    using ByCount = std::array<Loop, maximumTogether + 1>;
 
     void (*up)(const std::uint8_t* stored, const std::uint8_t* above, std::uint8_t* row,
                std::size_t count);
@@ -82,13 +82,13 @@ const Loops& loopsFor(Processor processor) {
 
 /// How many of the next `left` rows are to be undone together: those that need the pixel before.
 int countTogether(const Rows& rows, std::size_t left) {
-    const int most = static_cast<int>(std::min<std::size_t>(left, mostTogether));
+    const int maximum = static_cast<int>(std::min<std::size_t>(left, maximumTogether));
     const auto needsPixelBefore = [&](int row) {
         const Filter filter = rows.filter(row);
         return filter == Filter::sub || filter == Filter::average || filter == Filter::paeth;
     };
     int count = 0;
-    while (count < most && needsPixelBefore(count)) ++count;
+    while (count < maximum && needsPixelBefore(count)) ++count;
     return count;
 }
 

@@ -27,7 +27,7 @@ private:
 
 std::unique_ptr<StillImage> openImage(const InputFile& file) {
     auto header = readPngHeader(file);
-    if (!header || !isReasonable(header->size.wide, header->size.high)) return nullptr;
+    if (!header || !isReasonable(header->size.width, header->size.height)) return nullptr;
     return std::make_unique<PngImage>(file, std::move(*header));
 }
 

@@ -310,11 +310,11 @@ private:
 /// before it, eight rows take hardly longer than one.
 template <int size, int count, Bytes bytes, typename Prediction>
 VANTLE_LOOP void undoTogether(const Rows& rows) {
-    const std::ptrdiff_t wide = rows.size / size;
-    const std::ptrdiff_t begin = std::min<std::ptrdiff_t>(count - 1, wide);
+    const std::ptrdiff_t width = rows.size / size;
+    const std::ptrdiff_t begin = std::min<std::ptrdiff_t>(count - 1, width);
     // Rounds read and write up to four bytes too many, which have to be of the same row.
     constexpr std::ptrdiff_t spare = 2;
-    const std::ptrdiff_t rounds = std::max<std::ptrdiff_t>((wide - spare - begin) / lanes, 0);
+    const std::ptrdiff_t rounds = std::max<std::ptrdiff_t>((width - spare - begin) / lanes, 0);
     const std::ptrdiff_t end = begin + rounds * lanes;
     const auto bytesBefore = [](std::ptrdiff_t at, int row) {
         return std::max<std::ptrdiff_t>(at - row, 0) * size;

@@ -30,7 +30,7 @@ Codec openCodec(const AVStream& track) {
 /// Half a second of 60 frames of 2560 × 1440, or of 30 frames of 3840 × 2160. Where the frame of a
 /// time is further from its key frame, the latest one so far stands for it: hardly anybody sees the
 /// difference, and everybody would wait.
-constexpr std::int64_t mostPixels = std::int64_t{15} * 3840 * 2160;
+constexpr std::int64_t maximumPixels = std::int64_t{15} * 3840 * 2160;
 
 /// How long a frame is shown, in the units of its track; 0 when unknown.
 std::int64_t lengthOf(const AVFrame& frame) {
@@ -82,7 +82,7 @@ private:
         if (!isLater || !latest_) latest_ = std::move(frame);
         const std::int64_t length = lengthOf(*latest_);
         const bool isLast = begin != AV_NOPTS_VALUE && length > 0 && begin > wanted_ - length;
-        isFound_ = isLater || isLast || begin == AV_NOPTS_VALUE || pixels_ >= mostPixels;
+        isFound_ = isLater || isLast || begin == AV_NOPTS_VALUE || pixels_ >= maximumPixels;
     }
 
     Demuxer& demuxer_;

@@ -40,18 +40,19 @@ void setColors(SwsContext& scaler, const AVFrame& frame) {
 
 std::optional<Picture> pictureOf(const AVFrame& frame, PixelSize target) {
     const Scaler scaler(sws_getContext(
-        frame.width, frame.height, static_cast<AVPixelFormat>(frame.format), target.wide,
-        target.high, AV_PIX_FMT_RGBA, SWS_LANCZOS | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT, nullptr,
-        nullptr, nullptr));
+        frame.width, frame.height, static_cast<AVPixelFormat>(frame.format), target.width,
+        target.height, AV_PIX_FMT_RGBA, SWS_LANCZOS | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT,
+        nullptr, nullptr, nullptr));
     if (!scaler) return std::nullopt;
     setColors(*scaler, frame);
     Picture picture{target, {}};
-    const int rowSize = target.wide * 4;
-    picture.rgba.resize(static_cast<std::size_t>(rowSize) * static_cast<std::size_t>(target.high));
+    const int rowSize = target.width * 4;
+    picture.rgba.resize(static_cast<std::size_t>(rowSize) *
+                        static_cast<std::size_t>(target.height));
     const std::array<std::uint8_t*, 4> planes = {picture.rgba.data()};
     const std::array<int, 4> strides = {rowSize};
     if (sws_scale(scaler.get(), frame.data, frame.linesize, 0, frame.height, planes.data(),
-                  strides.data()) != target.high)
+                  strides.data()) != target.height)
         return std::nullopt;
     if (hasAlpha(frame)) changeColors(picture.rgba, multipliedByAlpha);
     return picture;

@@ -9,11 +9,11 @@
 namespace vantle::decoder {
 namespace {
 
-/// Shrunk, where needed, so that neither side exceeds `most`.
-PixelSize fitting(Size size, double most) {
-    const double scale = std::min(1.0, most / std::max(size.width, size.height));
+/// Shrunk, where needed, so that neither side exceeds `maximumDimension`.
+PixelSize fitting(Size size, double maximumDimension) {
+    const double scale = std::min(1.0, maximumDimension / std::max(size.width, size.height));
     const auto side = [=](double length) {
-        return static_cast<int>(std::clamp(std::round(length * scale), 1.0, most));
+        return static_cast<int>(std::clamp(std::round(length * scale), 1.0, maximumDimension));
     };
     return {side(size.width), side(size.height)};
 }

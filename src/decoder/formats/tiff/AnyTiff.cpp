@@ -46,15 +46,15 @@ std::optional<Picture> drawAnyTiff(TiffFile& file, PixelSize target) {
     const PixelSize size = file.header().size;
     Conversion conversion(file.tiff());
     const int rows = file.rowsInPart();
-    if (!conversion.isMade() || !isReasonableInMemory(size.wide, rows)) return std::nullopt;
-    const auto wide = static_cast<std::size_t>(size.wide);
-    std::vector<std::uint32_t> pixels(wide * static_cast<std::size_t>(rows));
+    if (!conversion.isMade() || !isReasonableInMemory(size.width, rows)) return std::nullopt;
+    const auto width = static_cast<std::size_t>(size.width);
+    std::vector<std::uint32_t> pixels(width * static_cast<std::size_t>(rows));
     ThreadedReduction reduction(size, target, PixelLayout::premultipliedRgba);
-    for (int first = 0; first < size.high; first += rows) {
-        const int count = std::min(rows, size.high - first);
+    for (int first = 0; first < size.height; first += rows) {
+        const int count = std::min(rows, size.height - first);
         if (!conversion.read(first, count, pixels)) return std::nullopt;
         for (int row = 0; row < count; ++row)
-            reduction.addRow(pixels.data() + wide * static_cast<std::size_t>(row));
+            reduction.addRow(pixels.data() + width * static_cast<std::size_t>(row));
     }
     auto picture = reduction.take();
     if (picture) convertToScreen(*picture, file.header().colorProfile);

@@ -16,7 +16,7 @@ public:
     RowSink(const TiffHeader& header, TiffSamples samples, PixelSize target)
         : samples_(std::move(samples)),
           reduction_(header.size, target, samples_.layout()),
-          left_(header.size.high) {
+          left_(header.size.height) {
         if (samples_.hasAlphaOfInk()) alphaOfInk_.emplace(header.size, target, PixelLayout::gray);
     }
 
@@ -52,8 +52,8 @@ private:
         const auto alpha = alphaOfInk_->take();
         if (!alpha) return std::nullopt;
         for (std::size_t i = 0; i < ink.rgba.size(); ++i) {
-            const std::uint8_t most = alpha->rgba[i / 4 * 4];
-            ink.rgba[i] = dividedByAlpha(std::min(ink.rgba[i], most), most);
+            const std::uint8_t maximum = alpha->rgba[i / 4 * 4];
+            ink.rgba[i] = dividedByAlpha(std::min(ink.rgba[i], maximum), maximum);
         }
         convertInkToScreen(ink, InkSense::moreIsDarker, profile);
         for (std::size_t i = 3; i < ink.rgba.size(); i += 4) ink.rgba[i] = alpha->rgba[i - 1];
@@ -133,19 +133,19 @@ void interleave(const std::uint8_t* plane, std::uint8_t* row, std::size_t pixels
 /// a compressed strip anew whenever it is asked about another one.
 bool readPlanes(TiffFile& file, RowSink& sink) {
     const std::size_t sampleSize = sink.samples().sampleSize();
-    const auto wide = static_cast<std::size_t>(file.header().size.wide);
+    const auto width = static_cast<std::size_t>(file.header().size.width);
     std::vector<std::unique_ptr<TiffFile>> planes(file.header().samplesPerPixel);
     for (auto& plane : planes)
         if (plane = TiffFile::open(file.file()); !plane) return false;
     std::vector<std::uint8_t> part(static_cast<std::size_t>(TIFFScanlineSize(file.tiff())));
-    if (part.size() < wide * sampleSize) return false;
+    if (part.size() < width * sampleSize) return false;
     std::vector<std::uint8_t> row(sink.storedRowSize());
     for (std::uint32_t y = 0; sink.left() > 0; ++y) {
         for (std::size_t i = 0; i < planes.size(); ++i) {
             if (TIFFReadScanline(planes[i]->tiff(), part.data(), y,
                                  static_cast<std::uint16_t>(i)) != 1)
                 return false;
-            interleave(part.data(), row.data() + i * sampleSize, wide, sampleSize,
+            interleave(part.data(), row.data() + i * sampleSize, width, sampleSize,
                        sampleSize * planes.size());
         }
         sink.add(row.data());
@@ -163,9 +163,9 @@ public:
         tiles_.resize(tileSize_ * across_ * planes_);
         plane_.resize(tileRowSize_ * across_);
         row_.resize(sink_.storedRowSize());
-        for (std::uint32_t y = 0; sink_.left() > 0; y += tileHigh_) {
+        for (std::uint32_t y = 0; sink_.left() > 0; y += tileHeight_) {
             if (!readRowOfTiles(y)) return false;
-            for (std::uint32_t i = 0; i < tileHigh_ && sink_.left() > 0; ++i) addRow(i);
+            for (std::uint32_t i = 0; i < tileHeight_ && sink_.left() > 0; ++i) addRow(i);
         }
         return true;
     }
@@ -173,18 +173,19 @@ public:
 private:
     bool measure() {
         TIFF* tiff = file_.tiff();
-        if (!TIFFGetField(tiff, TIFFTAG_TILEWIDTH, &tileWide_) ||
-            !TIFFGetField(tiff, TIFFTAG_TILELENGTH, &tileHigh_) || tileWide_ == 0 || tileHigh_ == 0)
+        if (!TIFFGetField(tiff, TIFFTAG_TILEWIDTH, &tileWidth_) ||
+            !TIFFGetField(tiff, TIFFTAG_TILELENGTH, &tileHeight_) || tileWidth_ == 0 ||
+            tileHeight_ == 0)
             return false;
-        wide_ = static_cast<std::uint32_t>(file_.header().size.wide);
-        across_ = (wide_ + tileWide_ - 1) / tileWide_;
+        width_ = static_cast<std::uint32_t>(file_.header().size.width);
+        across_ = (width_ + tileWidth_ - 1) / tileWidth_;
         tileSize_ = static_cast<std::size_t>(TIFFTileSize(tiff));
         tileRowSize_ = static_cast<std::size_t>(TIFFTileRowSize(tiff));
         if (isInPlanes(file_.header())) planes_ = file_.header().samplesPerPixel;
         // A tile may be many times the picture.
-        constexpr std::size_t most = std::size_t{768} * 1024 * 1024;
-        return isReasonableInMemory(std::int64_t{tileWide_} * across_, tileHigh_) &&
-               tileSize_ > 0 && tileSize_ <= most / across_ / planes_ &&
+        constexpr std::size_t maximumSize = std::size_t{768} * 1024 * 1024;
+        return isReasonableInMemory(std::int64_t{tileWidth_} * across_, tileHeight_) &&
+               tileSize_ > 0 && tileSize_ <= maximumSize / across_ / planes_ &&
                tileRowSize_ * across_ * planes_ >= sink_.storedRowSize();
     }
 
@@ -192,7 +193,7 @@ private:
         std::uint8_t* to = tiles_.data();
         for (std::size_t plane = 0; plane < planes_; ++plane)
             for (std::uint32_t i = 0; i < across_; ++i, to += tileSize_)
-                if (TIFFReadTile(file_.tiff(), to, i * tileWide_, y, 0,
+                if (TIFFReadTile(file_.tiff(), to, i * tileWidth_, y, 0,
                                  static_cast<std::uint16_t>(plane)) < 0)
                     return false;
         return true;
@@ -205,7 +206,7 @@ private:
             for (std::uint32_t i = 0; i < across_; ++i, from += tileSize_)
                 std::memcpy(plane_.data() + tileRowSize_ * i, from, tileRowSize_);
             if (planes_ == 1) return sink_.add(plane_.data());
-            interleave(plane_.data(), row_.data() + plane * sampleSize, wide_, sampleSize,
+            interleave(plane_.data(), row_.data() + plane * sampleSize, width_, sampleSize,
                        sampleSize * planes_);
         }
         sink_.add(row_.data());
@@ -213,9 +214,9 @@ private:
 
     TiffFile& file_;
     RowSink& sink_;
-    std::uint32_t wide_ = 0;
-    std::uint32_t tileWide_ = 0;
-    std::uint32_t tileHigh_ = 0;
+    std::uint32_t width_ = 0;
+    std::uint32_t tileWidth_ = 0;
+    std::uint32_t tileHeight_ = 0;
     std::uint32_t across_ = 0;
     std::size_t planes_ = 1;
     std::size_t tileSize_ = 0;
@@ -226,14 +227,14 @@ private:
 };
 
 bool read(TiffFile& file, RowSink& sink) {
-    constexpr tmsize_t largestStrip = tmsize_t{4} * 1024 * 1024;
+    constexpr tmsize_t maximumStrip = tmsize_t{4} * 1024 * 1024;
     const TiffHeader& header = file.header();
     if (TIFFIsTiled(file.tiff())) return TileReader(file, sink).read();
     if (isInPlanes(header)) return readPlanes(file, sink);
     const bool isAsStored = header.compression == COMPRESSION_NONE && header.bitsPerSample >= 8 &&
                             header.fillOrder == FILLORDER_MSB2LSB;
     if (isAsStored) return readUncompressed(file, sink);
-    return TIFFStripSize(file.tiff()) <= largestStrip ? readStrips(file, sink)
+    return TIFFStripSize(file.tiff()) <= maximumStrip ? readStrips(file, sink)
                                                       : readRows(file, sink);
 }
 

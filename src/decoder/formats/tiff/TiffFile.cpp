@@ -7,7 +7,7 @@ namespace vantle::decoder {
 namespace {
 
 /// More than any picture that is reasonable has in one part.
-constexpr tmsize_t largestAllocation = tmsize_t{768} * 1024 * 1024;
+constexpr tmsize_t maximumAllocation = tmsize_t{768} * 1024 * 1024;
 
 int ignore(TIFF*, void*, const char*, const char*, va_list) {
     return 1;
@@ -54,7 +54,7 @@ toff_t TiffFile::size(thandle_t handle) {
 std::unique_ptr<TiffFile> TiffFile::open(const InputFile& file) {
     const std::unique_ptr<TIFFOpenOptions, OptionsFreer> options(TIFFOpenOptionsAlloc());
     if (!options) return nullptr;
-    TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), largestAllocation);
+    TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), maximumAllocation);
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), ignore, nullptr);
     TIFFOpenOptionsSetWarningHandlerExtR(options.get(), ignore, nullptr);
     std::unique_ptr<TiffFile> opened(new TiffFile(file));
@@ -69,16 +69,17 @@ std::unique_ptr<TiffFile> TiffFile::open(const InputFile& file) {
 int TiffFile::rowsInPart() const {
     std::uint32_t rows = 0;
     const std::uint32_t name = TIFFIsTiled(tiff_.get()) ? TIFFTAG_TILELENGTH : TIFFTAG_ROWSPERSTRIP;
-    if (!TIFFGetFieldDefaulted(tiff_.get(), name, &rows) || rows == 0) return header_.size.high;
-    return static_cast<int>(std::min(rows, static_cast<std::uint32_t>(header_.size.high)));
+    if (!TIFFGetFieldDefaulted(tiff_.get(), name, &rows) || rows == 0) return header_.size.height;
+    return static_cast<int>(std::min(rows, static_cast<std::uint32_t>(header_.size.height)));
 }
 
 void TiffFile::readHeader() {
     TIFF* tiff = tiff_.get();
-    constexpr std::uint32_t longest = 0x7fff'ffff;
+    constexpr std::uint32_t maximumLength = 0x7fff'ffff;
     header_.size = {
-        static_cast<int>(std::min(tag<std::uint32_t>(tiff, TIFFTAG_IMAGEWIDTH, 0), longest)),
-        static_cast<int>(std::min(tag<std::uint32_t>(tiff, TIFFTAG_IMAGELENGTH, 0), longest))};
+        static_cast<int>(std::min(tag<std::uint32_t>(tiff, TIFFTAG_IMAGEWIDTH, 0), maximumLength)),
+        static_cast<int>(
+            std::min(tag<std::uint32_t>(tiff, TIFFTAG_IMAGELENGTH, 0), maximumLength))};
     header_.bitsPerSample = tag<std::uint16_t>(tiff, TIFFTAG_BITSPERSAMPLE, 1);
     header_.samplesPerPixel = tag<std::uint16_t>(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
     header_.photometric = tag<std::uint16_t>(tiff, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_MINISWHITE);

@@ -31,7 +31,8 @@ private:
 
 std::unique_ptr<StillImage> openImage(const InputFile& input) {
     const auto file = TiffFile::open(input);
-    if (!file || !isReasonable(file->header().size.wide, file->header().size.high)) return nullptr;
+    if (!file || !isReasonable(file->header().size.width, file->header().size.height))
+        return nullptr;
     return std::make_unique<TiffImage>(input, file->header());
 }
 

@@ -53,8 +53,8 @@ void unpackBits(const std::uint8_t* stored, std::uint8_t* samples, std::size_t c
 }
 
 bool isUsual(const TiffHeader& header) {
-    constexpr std::uint16_t mostSamples = 16;
-    if (header.samplesPerPixel < 1 || header.samplesPerPixel > mostSamples) return false;
+    constexpr std::uint16_t maximumSamples = 16;
+    if (header.samplesPerPixel < 1 || header.samplesPerPixel > maximumSamples) return false;
     switch (header.bitsPerSample) {
         case 1:
             return header.sampleFormat == SAMPLEFORMAT_UINT && header.samplesPerPixel == 1;
@@ -78,7 +78,7 @@ TiffSamples::TiffSamples(const TiffHeader& header)
       hasPoint_(header.sampleFormat == SAMPLEFORMAT_IEEEFP),
       isInverted_(header.photometric == PHOTOMETRIC_MINISWHITE),
       perPixel_(header.samplesPerPixel),
-      count_(static_cast<std::size_t>(header.size.wide) * header.samplesPerPixel) {}
+      count_(static_cast<std::size_t>(header.size.width) * header.samplesPerPixel) {}
 
 std::optional<TiffSamples> TiffSamples::of(const TiffHeader& header) {
     if (!isUsual(header)) return std::nullopt;

@@ -64,11 +64,11 @@ public:
     PixelSize canvas() const { return canvas_; }
 
     bool isUsable() const {
-        return isThere_ && isReasonableInMemory(canvas_.wide, canvas_.high) &&
+        return isThere_ && isReasonableInMemory(canvas_.width, canvas_.height) &&
                frame_.complete != 0 && frame_.width > 0 && frame_.height > 0 &&
                frame_.x_offset >= 0 && frame_.y_offset >= 0 &&
-               frame_.width <= canvas_.wide - frame_.x_offset &&
-               frame_.height <= canvas_.high - frame_.y_offset;
+               frame_.width <= canvas_.width - frame_.x_offset &&
+               frame_.height <= canvas_.height - frame_.y_offset;
     }
 
     std::optional<Picture> draw(PixelSize target) const {
@@ -91,21 +91,21 @@ private:
         const PixelSize all{frame_.width, frame_.height};
         if (needsAlpha()) return all;
         const int factor =
-            std::max(1, std::min(all.wide / (2 * target.wide), all.high / (2 * target.high)));
-        return {(all.wide + factor - 1) / factor, (all.high + factor - 1) / factor};
+            std::max(1, std::min(all.width / (2 * target.width), all.height / (2 * target.height)));
+        return {(all.width + factor - 1) / factor, (all.height + factor - 1) / factor};
     }
 
     std::optional<Rows> decoded(PixelSize size) const {
         WebPDecoderConfig config;
         if (WebPInitDecoderConfig(&config) == 0) return std::nullopt;
         const auto rowSize =
-            static_cast<std::size_t>(size.wide) * static_cast<std::size_t>(channelCount(layout()));
+            static_cast<std::size_t>(size.width) * static_cast<std::size_t>(channelCount(layout()));
         Rows rows{size, rowSize,
-                  std::vector<std::uint8_t>(rowSize * static_cast<std::size_t>(size.high))};
+                  std::vector<std::uint8_t>(rowSize * static_cast<std::size_t>(size.height))};
         config.options.use_threads = 1;
         config.options.use_scaling = size != PixelSize{frame_.width, frame_.height} ? 1 : 0;
-        config.options.scaled_width = size.wide;
-        config.options.scaled_height = size.high;
+        config.options.scaled_width = size.width;
+        config.options.scaled_height = size.height;
         config.output.colorspace = needsAlpha() ? MODE_rgbA : MODE_RGB;
         config.output.is_external_memory = 1;
         config.output.u.RGBA = {rows.bytes.data(), static_cast<int>(rowSize), rows.bytes.size()};
@@ -115,18 +115,18 @@ private:
 
     std::optional<Picture> reducedWhole(const Rows& rows, PixelSize target) const {
         ThreadedReduction reduction(rows.size, target, layout());
-        for (int y = 0; y < rows.size.high; ++y) reduction.addRow(rows.row(y));
+        for (int y = 0; y < rows.size.height; ++y) reduction.addRow(rows.row(y));
         return reduction.take();
     }
 
     /// A frame of an animation may be smaller than its canvas, on which there is nothing yet.
     std::optional<Picture> reducedOnCanvas(const Rows& rows, PixelSize target) const {
         ThreadedReduction reduction(canvas_, target, layout());
-        for (int y = 0; y < canvas_.high; ++y) {
+        for (int y = 0; y < canvas_.height; ++y) {
             std::uint8_t* row = reduction.row();
-            std::memset(row, 0, static_cast<std::size_t>(canvas_.wide) * 4);
+            std::memset(row, 0, static_cast<std::size_t>(canvas_.width) * 4);
             const int inFrame = y - frame_.y_offset;
-            if (inFrame >= 0 && inFrame < rows.size.high)
+            if (inFrame >= 0 && inFrame < rows.size.height)
                 std::memcpy(row + std::ptrdiff_t{4} * frame_.x_offset, rows.row(inFrame),
                             rows.rowSize);
             reduction.rowIsWritten();
