@@ -133,6 +133,14 @@ TEST_F(RequestHandlerTest, TheVerboseStatusTellsWhatAReportOfAFaultNeedsButNoPat
               HasSubstr(" Vantle: cannot open /home/user/Clients/Acme.png: Permission denied")));
 }
 
+TEST_F(RequestHandlerTest, TheVerboseStatusTellsWhyTheFolderIsNotWatched) {
+    launch();
+    files->makeReadOnly(Url::file("/home/user"));
+    files->removeDirectory(folder);
+    time.settle();
+    EXPECT_THAT(ask("status", {"verbose"}), HasSubstr(" Vantle: cannot watch (path): missing"));
+}
+
 TEST_F(RequestHandlerTest, WhatIsNotKnownIsRefused) {
     launch();
     EXPECT_EQ(ask("dance"), "failed: there is no action \"dance\"");
