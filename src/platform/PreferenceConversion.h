@@ -2,24 +2,15 @@
 
 #include <algorithm>
 #include <cctype>
-#include <charconv>
-#include <cmath>
 #include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/PreferenceValue.h"
+#include "support/NumberFromText.h"
 
 namespace vantle {
-
-/// The finite number that the whole text is, in the notation of programs ("0.5").
-inline std::optional<double> numberFromText(std::string_view text) {
-    double value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    const bool isWhole = error == std::errc() && end == text.data() + text.size();
-    return isWhole && std::isfinite(value) ? std::optional(value) : std::nullopt;
-}
 
 /// What a stored value means as a number: true is 1, and text counts when it is one. Absent when
 /// it means nothing.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <cstring>
 #include <string>
+#include <system_error>
 
 #include "support/Result.h"
 
@@ -9,9 +9,7 @@ namespace vantle {
 
 /// The failure that the error number `error` stands for.
 inline Failure systemFailure(int error, const std::string& path = {}) {
-    char buffer[256] = "";
-    // The GNU form: the text may be elsewhere than in the buffer.
-    return Failure{error, strerror_r(error, buffer, sizeof buffer), path};
+    return Failure{error, std::generic_category().message(error), path};
 }
 
 }  // namespace vantle

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <compare>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -17,7 +16,10 @@ public:
     /// 36 characters, lower case: 8-4-4-4-12.
     std::string text() const;
 
-    friend auto operator<=>(const UUID&, const UUID&) = default;
+    friend bool operator==(const UUID&, const UUID&) = default;
+    friend bool operator<(const UUID& left, const UUID& right) {
+        return left.bytes_ < right.bytes_;
+    }
 
 private:
     std::array<std::uint8_t, 16> bytes_{};

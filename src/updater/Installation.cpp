@@ -4,8 +4,7 @@
 #include <sys/utsname.h>
 #include <unistd.h>
 
-#include <system_error>
-
+#include "support/ProgramFile.h"
 #include "updater/Tree.h"
 
 namespace vantle::updater {
@@ -35,8 +34,7 @@ Installation installationOf(const fs::path& executable) {
 }
 
 Installation ownInstallation() {
-    std::error_code error;
-    return installationOf(fs::read_symlink("/proc/self/exe", error));
+    return installationOf(programFile());
 }
 
 std::string platformName(UpdateItem::Installation kind) {

@@ -38,8 +38,8 @@ TEST(DisplayName, NothingHidesHowANameEnds) {
                            static_cast<char>(0x80 | (code & 0x3F))};
     };
     EXPECT_EQ(displayName(character(0x202E) + "gnp.exe evil.png"), "\uFFFDgnp.exe evil.png");
-    for (const unsigned hidden :
-         {0x2028, 0x2029, 0x202A, 0x202B, 0x202C, 0x202D, 0x202E, 0x2066, 0x2067, 0x2068, 0x2069})
+    for (const unsigned hidden : {0x2028U, 0x2029U, 0x202AU, 0x202BU, 0x202CU, 0x202DU, 0x202EU,
+                                  0x2066U, 0x2067U, 0x2068U, 0x2069U})
         EXPECT_EQ(displayName("a" + character(hidden) + "b"), "a\uFFFDb") << hidden;
     EXPECT_EQ(displayName("a\u0085b"), "a\uFFFDb");
 }

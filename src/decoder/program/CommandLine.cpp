@@ -15,6 +15,7 @@
 #include "decoder/program/PngWriter.h"
 #include "platform/linux/ConfinedMediaLoader.h"
 #include "platform/linux/LinuxCaptureExtensions.h"
+#include "support/ProgramFile.h"
 
 namespace vantle::decoder {
 namespace {
@@ -72,8 +73,7 @@ int makeThumbnail(const Arguments& arguments) {
         return 1;
     }
     {
-        const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-        ConfinedMediaLoader loader(program.string(), [] { return 1.0; });
+        ConfinedMediaLoader loader(programFile().string(), [] { return 1.0; });
         capture->loadThumbnail(loader, arguments.maximumDimension);
     }
     if (capture->thumbnail() || capture->duration() > 0) print(*capture);

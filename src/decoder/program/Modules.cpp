@@ -4,16 +4,14 @@
 
 #include <filesystem>
 #include <string>
-#include <system_error>
 
+#include "support/ProgramFile.h"
 #include "support/SystemLog.h"
 
 namespace vantle::decoder {
 
 const FormatModule* loadModule(Format format) {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    const auto file = program.parent_path().parent_path() / "lib/vantle/modules" /
+    const auto file = programFile().parent_path().parent_path() / "lib/vantle/modules" /
                       ("vantle-decoder-" + std::string(formatName(format)) + ".so");
     void* library = dlopen(file.c_str(), RTLD_LAZY | RTLD_LOCAL);
     const auto entry =

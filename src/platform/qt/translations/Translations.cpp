@@ -1,11 +1,12 @@
 #include "platform/qt/translations/Translations.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QFile>
 #include <QLocale>
 #include <algorithm>
 
 #include "support/Localization.h"
+#include "support/ProgramFile.h"
 
 namespace vantle {
 namespace {
@@ -25,8 +26,8 @@ bool isEnglish(const QString& language) {
 }  // namespace
 
 QString Translations::folderOfProgram() {
-    const QFileInfo program(QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget());
-    return program.path() + QStringLiteral("/../share/vantle/translations");
+    const std::string folder = programFile().parent_path().string();
+    return QFile::decodeName(folder.c_str()) + QStringLiteral("/../share/vantle/translations");
 }
 
 QStringList Translations::languagesOfDesktop() {
