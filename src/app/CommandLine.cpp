@@ -51,8 +51,8 @@ constexpr std::array details = {
     Detail{"with-paths", marked("CommandLine", "and with the paths in it")},
 };
 
-// For the bus, not for people: the help does not list it.
-constexpr auto dbusActivated = "--dbus-activated";
+// For the desktop, not for people: the help does not list it.
+constexpr auto desktopLaunch = "--dbus-activated";
 
 CommandLine wrong(const std::string& reason) {
     return {Kind::wrong, std::nullopt,
@@ -135,7 +135,7 @@ std::string helpText() {
 
 CommandLine parseCommandLine(const std::vector<std::string>& arguments, const Url& folder) {
     if (arguments.empty()) return {};
-    if (arguments == std::vector<std::string>{dbusActivated}) return {.launchedByBus = true};
+    if (arguments == std::vector<std::string>{desktopLaunch}) return {.launchedByDesktop = true};
     const std::string& first = arguments.front();
     const std::vector<std::string> rest(arguments.begin() + 1, arguments.end());
     if (!first.starts_with("--")) return wrong(unexpected(first));

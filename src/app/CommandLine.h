@@ -21,7 +21,7 @@ struct CommandLine {
     Kind kind = Kind::start;
     std::optional<ApplicationRequest> request;
     std::string text;
-    bool launchedByBus = false;  ///< For a call that the message bus is going to deliver.
+    bool launchedByDesktop = false;  ///< For a request that the desktop is going to deliver.
 };
 
 /// Makes out the arguments (without the program's name). Relative paths count from `folder`.

@@ -118,7 +118,7 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
 
     LoadedViews views;
     Platform platform = makeLinuxPlatform(
-        line.launchedByBus ? DBusApplication::Launch::byBus : DBusApplication::Launch::byUser,
+        line.launchedByDesktop ? DBusApplication::Launch::byBus : DBusApplication::Launch::byUser,
         views);
     const UnixSignals endingSignals([&] { platform.application->terminate(); });
     std::shared_ptr<AppDelegate> delegate;

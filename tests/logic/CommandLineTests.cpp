@@ -45,12 +45,12 @@ TEST(CommandLineTest, TheHelpStandsInOneColumnWhateverStandsBefore) {
     EXPECT_THAT(helpText(), HasSubstr("  --show FILE…    "));
 }
 
-TEST(CommandLineTest, TheBusStartsItForACall) {
+TEST(CommandLineTest, TheDesktopStartsItForARequest) {
     const auto line = parse({"--dbus-activated"});
     EXPECT_EQ(line.kind, Kind::start);
     EXPECT_FALSE(line.request);
-    EXPECT_TRUE(line.launchedByBus);
-    EXPECT_FALSE(parse({}).launchedByBus);
+    EXPECT_TRUE(line.launchedByDesktop);
+    EXPECT_FALSE(parse({}).launchedByDesktop);
     EXPECT_EQ(parse({"--dbus-activated", "file.png"}).kind, Kind::wrong);
     EXPECT_THAT(helpText(), Not(HasSubstr("--dbus-activated")));
 }
