@@ -5,6 +5,7 @@
 #include <string>
 
 #include "TemporaryFolder.h"
+#include "fakes/FakeEnvironment.h"
 #include "platform/linux/GnomeTrayExtension.h"
 
 namespace vantle {
@@ -13,14 +14,10 @@ namespace {
 class GnomeTrayExtensionTest : public testing::Test {
 protected:
     std::optional<TrayExtension> on(const std::string& desktop) {
-        const std::map<std::string, std::string> variables{
+        return gnomeTrayExtension(fakes::FakeEnvironment{
             {"XDG_CURRENT_DESKTOP", desktop},
             {"XDG_DATA_HOME", (folder / "own").path()},
-            {"XDG_DATA_DIRS", (folder / "first").path() + ":" + (folder / "second").path()}};
-        return gnomeTrayExtension([variables](const std::string& name) {
-            const auto found = variables.find(name);
-            return found == variables.end() ? std::nullopt : std::optional(found->second);
-        });
+            {"XDG_DATA_DIRS", (folder / "first").path() + ":" + (folder / "second").path()}});
     }
     void install(const std::string& place, const std::string& identifier) {
         std::filesystem::create_directories((folder / place).path() + "/gnome-shell/extensions/" +

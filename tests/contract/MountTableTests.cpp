@@ -4,6 +4,7 @@
 
 #include "TemporaryFolder.h"
 #include "TextFile.h"
+#include "fakes/FakeEnvironment.h"
 #include "platform/linux/LinuxFileManager.h"
 #include "platform/linux/MountTable.h"
 
@@ -74,8 +75,8 @@ TEST_F(MountTableTest, NoFolderIsMadeWhereNothingIsMounted) {
     const Url point = folder / "point";
     std::filesystem::create_directory(point.path());
     writeText(expected, "server:/y " + point.path() + " nfs4 noauto 0 0\n");
-    LinuxFileManager manager([](const std::string&) { return std::nullopt; },
-                             [](const Url&) { return false; }, files());
+    LinuxFileManager manager(
+        fakes::FakeEnvironment(), [](const Url&) { return false; }, files());
     EXPECT_TRUE(manager.createDirectory(point.appending("Screenshots")).has_value());
     EXPECT_TRUE(std::filesystem::is_empty(point.path()));
     EXPECT_FALSE(manager.createDirectory(folder / "elsewhere").has_value());

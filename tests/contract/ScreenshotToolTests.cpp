@@ -12,6 +12,7 @@
 #include "TemporaryFolder.h"
 #include "TextFile.h"
 #include "fakes/CapturedLog.h"
+#include "fakes/FakeEnvironment.h"
 #include "fakes/FakeGSettings.h"
 #include "platform/ScreenshotPreferences.h"
 #include "platform/linux/screenshots/ScreenshotTools.h"
@@ -58,13 +59,11 @@ protected:
         return domain(tool, inHome("memory.conf"));
     }
     ScreenshotTool description(const std::string& tool) const {
-        const Environment environment =
-            [path = home.path()](const std::string& name) -> std::optional<std::string> {
-            if (name == "HOME") return path;
-            if (name == "XDG_CONFIG_DIRS") return path + "/system";
-            if (name == "XDG_DATA_DIRS") return path + "/local/share:" + path + "/share";
-            return std::nullopt;
-        };
+        const std::string path = home.path();
+        const fakes::FakeEnvironment environment{
+            {"HOME", path},
+            {"XDG_CONFIG_DIRS", path + "/system"},
+            {"XDG_DATA_DIRS", path + "/local/share:" + path + "/share"}};
         return std::move(*makeScreenshotTool(tool, environment, settings));
     }
     ToolPreferencesDomain domain(const std::string& tool, const Url& memory) const {

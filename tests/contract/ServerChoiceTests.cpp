@@ -1,18 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <map>
-
+#include "fakes/FakeEnvironment.h"
 #include "platform/displays/ServerChoice.h"
 
 namespace vantle::displays {
 namespace {
 
-Environment with(std::map<std::string, std::string> variables) {
-    return [variables = std::move(variables)](const std::string& name) {
-        const auto found = variables.find(name);
-        return found == variables.end() ? std::nullopt : std::optional(found->second);
-    };
-}
+using fakes::FakeEnvironment;
 
 TEST(ServerChoiceTest, WhereOverlaysAreOfferedItIsWayland) {
     EXPECT_EQ(serversToTry({Offer::overlays, true}), "wayland;xcb");
@@ -30,11 +24,11 @@ TEST(ServerChoiceTest, WithoutACompositorItIsX11) {
 }
 
 TEST(ServerChoiceTest, ACompositorIsAskedOnlyInItsOwnSession) {
-    EXPECT_FALSE(isWaylandSession(with({{"DISPLAY", ":0"}})));
-    EXPECT_FALSE(isWaylandSession(with({{"XDG_SESSION_TYPE", "x11"}})));
-    EXPECT_TRUE(isWaylandSession(with({{"XDG_SESSION_TYPE", "wayland"}})));
-    EXPECT_TRUE(isWaylandSession(with({{"WAYLAND_DISPLAY", "wayland-1"}})));
-    EXPECT_TRUE(isWaylandSession(with({{"QT_QPA_PLATFORM", "wayland"}})));
+    EXPECT_FALSE(isWaylandSession(FakeEnvironment{{"DISPLAY", ":0"}}));
+    EXPECT_FALSE(isWaylandSession(FakeEnvironment{{"XDG_SESSION_TYPE", "x11"}}));
+    EXPECT_TRUE(isWaylandSession(FakeEnvironment{{"XDG_SESSION_TYPE", "wayland"}}));
+    EXPECT_TRUE(isWaylandSession(FakeEnvironment{{"WAYLAND_DISPLAY", "wayland-1"}}));
+    EXPECT_TRUE(isWaylandSession(FakeEnvironment{{"QT_QPA_PLATFORM", "wayland"}}));
 }
 
 TEST(ServerChoiceTest, WhereNobodyAnswersNothingIsOffered) {

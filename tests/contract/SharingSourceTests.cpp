@@ -12,6 +12,7 @@
 #include "contract/TemporaryFolder.h"
 #include "contract/TextFile.h"
 #include "fakes/CapturedLog.h"
+#include "fakes/FakeEnvironment.h"
 #include "fakes/FakeProcessLauncher.h"
 #include "platform/freedesktop/sharing/BluetoothSharing.h"
 #include "platform/freedesktop/sharing/GsConnectSharing.h"
@@ -168,14 +169,8 @@ protected:
                   "x-scheme-handler/mailto=mail.desktop;\n");
     }
 
-    std::map<std::string, std::string> environment;
-    MailSharing source{launcher,
-                       [this](const std::string& name) -> std::optional<std::string> {
-                           const auto found = environment.find(name);
-                           if (found == environment.end()) return std::nullopt;
-                           return found->second;
-                       },
-                       bus.connect()};
+    fakes::FakeEnvironment environment;
+    MailSharing source{launcher, environment, bus.connect()};
 };
 
 TEST_F(MailSharingTest, NeedsAProgramThatTakesMailAddresses) {

@@ -5,6 +5,7 @@
 
 #include "TemporaryFolder.h"
 #include "TextFile.h"
+#include "fakes/FakeEnvironment.h"
 #include "filetypes/FileTypes.h"
 #include "platform/linux/SystemFacts.h"
 
@@ -16,17 +17,12 @@ using testing::HasSubstr;
 class SystemFactsTest : public testing::Test {
 protected:
     std::string fact(const std::string& name) const {
-        const auto facts = systemFacts(
-            [this](const std::string& variable) -> std::optional<std::string> {
-                const auto found = environment.find(variable);
-                return found == environment.end() ? std::nullopt : std::optional(found->second);
-            },
-            share.url());
+        const auto facts = systemFacts(environment, share.url());
         const auto found = std::ranges::find(facts, name, &Fact::name);
         return found == facts.end() ? "no such fact" : found->value;
     }
 
-    std::map<std::string, std::string> environment;
+    fakes::FakeEnvironment environment;
     TemporaryFolder share;
 };
 

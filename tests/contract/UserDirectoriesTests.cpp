@@ -6,6 +6,7 @@
 
 #include "TemporaryFolder.h"
 #include "TextFile.h"
+#include "fakes/FakeEnvironment.h"
 #include "platform/linux/LinuxFileManager.h"
 #include "platform/linux/UserDirectories.h"
 
@@ -48,16 +49,11 @@ class UserDirectoriesOnDisk : public testing::Test {
 protected:
     Url desktop() const { return *files().desktopDirectory(); }
     LinuxFileManager files() const {
-        return LinuxFileManager(
-            [this](const std::string& name) {
-                const auto found = variables.find(name);
-                return found == variables.end() ? std::nullopt : std::optional(found->second);
-            },
-            [](const Url&) { return false; });
+        return LinuxFileManager(variables, [](const Url&) { return false; });
     }
 
     TemporaryFolder folder;
-    std::map<std::string, std::string> variables{{"HOME", folder.url().path()}};
+    fakes::FakeEnvironment variables{{"HOME", folder.url().path()}};
 };
 
 TEST_F(UserDirectoriesOnDisk, WithoutSettingsTheDesktopIsInTheHomeFolder) {
@@ -84,7 +80,7 @@ TEST_F(UserDirectoriesOnDisk, TheConfigurationFolderMayStandElsewhere) {
 }
 
 TEST_F(UserDirectoriesOnDisk, WithoutAHomeVariableTheAccountsCounts) {
-    variables.clear();
+    variables = {};
     EXPECT_TRUE(files().homeDirectory().path().starts_with('/'));
     variables["HOME"] = "relative";
     EXPECT_TRUE(files().homeDirectory().path().starts_with('/'));

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "fakes/FakeEnvironment.h"
 #include "fakes/FakeFileOpener.h"
 #include "fakes/FakePanelWindow.h"
 #include "fakes/FakePasteboard.h"
@@ -65,7 +65,7 @@ protected:
 
     ManualScheduler scheduler{time};
     FakeScreens screens;
-    std::map<std::string, std::string> environment;
+    FakeEnvironment environment;
     FakeFileOpener opener;
     FakePasteboard pasteboard{files};
     FakeSharingServicePicker sharing;
@@ -89,18 +89,13 @@ private:
              .sharing = sharing,
              .trash = trash,
              .spareMemory = spareMemory,
-             .environment = [this](const std::string& name) -> std::optional<std::string> {
-                 const auto found = environment.find(name);
-                 if (found == environment.end()) return std::nullopt;
-                 return found->second;
-             },
-             .makePanel =
-                 [this](PanelState& panelState, Settings&, CardActions cardActions) {
-                     state = &panelState;
-                     actions = std::move(cardActions);
-                     ++panelsMade;
-                     return std::make_unique<FakePanelWindow>(panel);
-                 }});
+             .environment = environment,
+             .makePanel = [this](PanelState& panelState, Settings&, CardActions cardActions) {
+                 state = &panelState;
+                 actions = std::move(cardActions);
+                 ++panelsMade;
+                 return std::make_unique<FakePanelWindow>(panel);
+             }});
     }
 
     std::shared_ptr<CapturePanelController> controller_;

@@ -7,6 +7,7 @@
 #include "fakes/FakeAlerts.h"
 #include "fakes/FakeApplication.h"
 #include "fakes/FakeCanvas.h"
+#include "fakes/FakeEnvironment.h"
 #include "fakes/FakeFileOpener.h"
 #include "fakes/FakeFileSystem.h"
 #include "fakes/FakeLoginItem.h"
@@ -61,11 +62,7 @@ protected:
             slot = std::move(service);
             return &reference;
         };
-        platform.environment = [this](const std::string& name) -> std::optional<std::string> {
-            const auto found = environment.find(name);
-            if (found == environment.end()) return std::nullopt;
-            return found->second;
-        };
+        platform.environment = environment;
         auto* scheduler = add(platform.scheduler, std::make_unique<fakes::ManualScheduler>(time));
         clock = add(platform.clock, std::make_unique<fakes::VirtualClock>(time));
         auto* queue = add(platform.watcherQueue, std::make_unique<fakes::ManualQueue>(time));
@@ -156,7 +153,7 @@ protected:
 
     fakes::VirtualTime time;
     Events events;
-    std::map<std::string, std::string> environment;
+    fakes::FakeEnvironment environment;
     fakes::FakePanelWindow::Record panel;
     Platform platform;
     AppDelegate::Views views;

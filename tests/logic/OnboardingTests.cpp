@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "fakes/FakeEnvironment.h"
 #include "fakes/SettingsOnFakes.h"
 #include "screens/MissingTrayAdvice.h"
 #include "screens/OnboardingSteps.h"
@@ -20,9 +21,9 @@ protected:
             settings, [this] { ++finished; }, step);
     }
     static int initialStep(std::optional<std::string> variable) {
-        return OnboardingSteps::initialStep([&](const std::string& name) {
-            return name == "VANTLE_ONBOARDING_STEP" ? variable : std::nullopt;
-        });
+        fakes::FakeEnvironment environment;
+        if (variable) environment["VANTLE_ONBOARDING_STEP"] = *variable;
+        return OnboardingSteps::initialStep(environment);
     }
     std::vector<std::string> summary() const {
         std::vector<std::string> texts;

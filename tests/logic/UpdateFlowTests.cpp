@@ -6,6 +6,7 @@
 #include "app/UpdaterDelegate.h"
 #include "fakes/CapturedLog.h"
 #include "fakes/FakeApplication.h"
+#include "fakes/FakeEnvironment.h"
 #include "fakes/FakeFileOpener.h"
 #include "fakes/FakeUpdateEngine.h"
 #include "fakes/FakeUserDefaults.h"
@@ -63,17 +64,14 @@ protected:
     }
     Stage stage() const { return flow->state.value().stage; }
 
-    std::map<std::string, std::string> environment;
+    fakes::FakeEnvironment environment;
     fakes::VirtualTime time;
     fakes::ManualScheduler scheduler{time};
     fakes::VirtualClock clock{time};
     fakes::FakeUserDefaults defaults;
     fakes::FakeApplication application;
     fakes::FakeFileOpener opener;
-    UpdaterDelegate observer{[this](const std::string& name) -> std::optional<std::string> {
-        const auto found = environment.find(name);
-        return found == environment.end() ? std::nullopt : std::optional(found->second);
-    }};
+    UpdaterDelegate observer{environment};
     fakes::FakeUpdateEngine::Record engine;
     std::vector<std::string> window;
     std::vector<Size> sizes;

@@ -3,18 +3,15 @@
 
 #include "app/UpdaterDelegate.h"
 #include "fakes/CapturedLog.h"
+#include "fakes/FakeEnvironment.h"
 
 namespace vantle {
 namespace {
 
 using fakes::CapturedLog;
+using fakes::FakeEnvironment;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-Environment environmentWith(const std::optional<std::string>& feed) {
-    return
-        [feed](const std::string& name) { return name == "VANTLE_FEED_URL" ? feed : std::nullopt; };
-}
 
 void tellEverything(UpdaterDelegate& delegate) {
     const OfferedVersion item{"12", "1.2"};
@@ -27,17 +24,19 @@ void tellEverything(UpdaterDelegate& delegate) {
 }
 
 TEST(UpdaterDelegateTest, WithoutTheVariableThereIsNoFeedOfItsOwn) {
-    EXPECT_EQ(UpdaterDelegate(environmentWith(std::nullopt)).feedURLString(), std::nullopt);
+    EXPECT_EQ(UpdaterDelegate(FakeEnvironment()).feedURLString(), std::nullopt);
 }
 
 TEST(UpdaterDelegateTest, WithTheVariableItIsExactlyItsValue) {
-    EXPECT_EQ(UpdaterDelegate(environmentWith("feed:x y")).feedURLString(), "feed:x y");
-    EXPECT_EQ(UpdaterDelegate(environmentWith("")).feedURLString(), "");
+    for (const std::string value : {"feed:x y", ""}) {
+        const FakeEnvironment environment{{"VANTLE_FEED_URL", value}};
+        EXPECT_EQ(UpdaterDelegate(environment).feedURLString(), value);
+    }
 }
 
 TEST(UpdaterDelegateTest, WritesALineForEachThing) {
     const CapturedLog log(CapturedLog::DebugSwitch::on);
-    UpdaterDelegate delegate(environmentWith(std::nullopt));
+    UpdaterDelegate delegate{FakeEnvironment()};
     tellEverything(delegate);
     EXPECT_THAT(log.lines(), ElementsAre("Vantle[dbg]: sparkle: appcast loaded, 3 item(s)",
                                          "Vantle[dbg]: sparkle: found 1.2 (12)",
@@ -49,7 +48,7 @@ TEST(UpdaterDelegateTest, WritesALineForEachThing) {
 
 TEST(UpdaterDelegateTest, WithoutTheSwitchItWritesNothing) {
     const CapturedLog log(CapturedLog::DebugSwitch::off);
-    UpdaterDelegate delegate(environmentWith(std::nullopt));
+    UpdaterDelegate delegate{FakeEnvironment()};
     tellEverything(delegate);
     EXPECT_THAT(log.lines(), IsEmpty());
 }

@@ -30,10 +30,7 @@ ScreenStage::ScreenStage() {
         slot = std::move(service);
         return made;
     };
-    platform.environment = [this](const std::string& name) -> std::optional<std::string> {
-        const auto found = environment.find(name);
-        return found == environment.end() ? std::nullopt : std::optional(found->second);
-    };
+    platform.environment = environment;
     platform.scheduler = std::make_unique<fakes::ManualScheduler>(time);
     platform.watcherQueue = std::make_unique<fakes::ManualQueue>(time);
     files = add(platform.files, std::make_unique<fakes::FakeFileSystem>(*platform.watcherQueue));

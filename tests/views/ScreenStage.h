@@ -9,6 +9,7 @@
 #include "ManualFrames.h"
 #include "app/UpdaterDelegate.h"
 #include "fakes/FakeApplication.h"
+#include "fakes/FakeEnvironment.h"
 #include "fakes/FakeFileOpener.h"
 #include "fakes/FakeFileSystem.h"
 #include "fakes/FakeFolderChooser.h"
@@ -79,7 +80,7 @@ public:
     std::vector<std::string> windowEvents;
     std::vector<Size> windowSizes;
     std::unique_ptr<UpdateFlow> flow;
-    std::map<std::string, std::string> environment;
+    fakes::FakeEnvironment environment;
     int finished = 0;
     int samples = 0;
 
