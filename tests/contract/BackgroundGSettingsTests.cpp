@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "contract/GSettingsContract.h"
 #include "fakes/CapturedLog.h"
 #include "fakes/FakeGSettings.h"
 #include "fakes/VirtualTime.h"
@@ -19,6 +20,9 @@ using testing::IsEmpty;
 
 constexpr auto schema = "org.vantle.test";
 constexpr auto key = "folder";
+
+// It stands in for the desktop below.
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeGSettings, GSettingsContract, GSettingsInMemory);
 
 class BackgroundGSettingsTest : public testing::Test {
 protected:

@@ -11,29 +11,33 @@ target_link_libraries(settings-portal PRIVATE Qt6::DBus vantle_warnings)
 
 add_executable(
   qt_contract_tests
-  ${CMAKE_CURRENT_LIST_DIR}/ApplicationContractTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/CanvasTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/DesktopAppearanceTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/DBusApplicationTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/DesktopFileOpenerTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DesktopServices.h
+  ${CMAKE_CURRENT_LIST_DIR}/DialogFolderChooserTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FileChooserPortal.h
-  ${CMAKE_CURRENT_LIST_DIR}/FileOpenerContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FileMimeDataTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FileTransferPortalTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FileUseTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/FolderChooserContractTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/GSettingsContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/GSettingsCommandTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MountEventsTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/PasteboardContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PortalAppearanceTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PortalFolderChooserTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PrivacySettingsTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/QtContractMain.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/SchedulerContractTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/ScreensContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/QtCanvasTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/QtGeometryTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/QtPasteboardTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/QtSchedulerTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/QtScreensTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ServerChoiceTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SettingsPortal.h
   ${CMAKE_CURRENT_LIST_DIR}/SharingServices.h
   ${CMAKE_CURRENT_LIST_DIR}/SharingSourceTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/StatusItemContractTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TranslationsTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TrayService.h
-  ${CMAKE_CURRENT_LIST_DIR}/UpdateEngineContractTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/TrayStatusItemTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateProgramTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UsableAreaTests.cpp)
 set_target_properties(qt_contract_tests PROPERTIES AUTOMOC ON)
 target_compile_definitions(

@@ -1,0 +1,141 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "contract/FakeDisk.h"
+
+namespace vantle {
+
+/// On a disk (FakeDisk.h) with one folder to work in.
+template <typename Disk>
+class FileManagerContract : public testing::Test {
+protected:
+    Url file(std::string_view name) const { return disk.folder.appending(name); }
+    std::vector<std::string> names() const {
+        const auto listed = disk.files.contentsOfDirectory(disk.folder);
+        std::vector<std::string> names;
+        if (!listed) return {"(" + listed.failure().message + ")"};
+        for (std::size_t i = 0; i < listed.value().size(); ++i)
+            names.emplace_back(listed.value()[i]);
+        return names;
+    }
+    int failureOfListing(const Url& folder) const {
+        const auto listed = disk.files.contentsOfDirectory(folder);
+        return listed ? 0 : listed.failure().code;
+    }
+
+    Disk disk;
+};
+
+TYPED_TEST_SUITE_P(FileManagerContract);
+
+TYPED_TEST_P(FileManagerContract, TellsFilesFromFoldersFromNothing) {
+    this->disk.save(this->file("a.png"));
+    EXPECT_EQ(this->disk.files.existence(this->file("a.png")), FileManager::Existence::file);
+    EXPECT_EQ(this->disk.files.existence(this->disk.folder), FileManager::Existence::directory);
+    EXPECT_EQ(this->disk.files.existence(this->file("nothing")), FileManager::Existence::none);
+}
+
+TYPED_TEST_P(FileManagerContract, ListsAllNamesButHiddenOnes) {
+    EXPECT_THAT(this->names(), testing::IsEmpty());
+    const std::vector<std::string> names{"a.png",
+                                         "a b%20c.png",
+                                         "new\nline.png",
+                                         "\xff\xfe.png",
+                                         "-rf",
+                                         "a.png.part",
+                                         std::string(251, 'n') + ".png"};
+    for (const auto& name : names) this->disk.save(this->file(name));
+    this->disk.save(this->file(".hidden.png"));
+    (void)this->disk.files.createDirectory(this->file("folder.png"));
+    auto expected = names;
+    expected.emplace_back("folder.png");
+    EXPECT_THAT(this->names(), testing::UnorderedElementsAreArray(expected));
+}
+
+TYPED_TEST_P(FileManagerContract, ListingFailsWithTheReason) {
+    this->disk.save(this->file("a.png"));
+    EXPECT_EQ(this->failureOfListing(this->file("nothing")), ENOENT);
+    EXPECT_EQ(this->failureOfListing(this->file("a.png")), ENOTDIR);
+}
+
+TYPED_TEST_P(FileManagerContract, DescribesAFileWithoutOpeningIt) {
+    this->disk.save(this->file("a.png"));
+    const auto values = this->disk.files.resourceValues(this->file("a.png"));
+    ASSERT_TRUE(values);
+    EXPECT_EQ(values.value().isRegularFile, true);
+    EXPECT_TRUE(values.value().contentModificationDate.has_value());
+}
+
+TYPED_TEST_P(FileManagerContract, AFolderIsNoRegularFile) {
+    const auto values = this->disk.files.resourceValues(this->disk.folder);
+    ASSERT_TRUE(values);
+    EXPECT_EQ(values.value().isRegularFile, false);
+}
+
+TYPED_TEST_P(FileManagerContract, WhatHasGoneCannotBeDescribed) {
+    const auto values = this->disk.files.resourceValues(this->file("nothing"));
+    ASSERT_FALSE(values);
+    EXPECT_EQ(values.failure().code, ENOENT);
+    EXPECT_EQ(this->disk.files.fileSize(this->file("nothing")), std::nullopt);
+}
+
+TYPED_TEST_P(FileManagerContract, TellsTheSizeOfAFile) {
+    this->disk.save(this->file("a.png"), 0);
+    EXPECT_EQ(this->disk.files.fileSize(this->file("a.png")), 0);
+    this->disk.save(this->file("a.png"), 70'000);
+    EXPECT_EQ(this->disk.files.fileSize(this->file("a.png")), 70'000);
+}
+
+TYPED_TEST_P(FileManagerContract, MakesAFolderWithItsParents) {
+    const Url deep = this->file("a").appending("b").appending("c");
+    EXPECT_EQ(this->disk.files.createDirectory(deep), std::nullopt);
+    EXPECT_EQ(this->disk.files.existence(deep), FileManager::Existence::directory);
+    EXPECT_EQ(this->disk.files.createDirectory(deep), std::nullopt);
+}
+
+TYPED_TEST_P(FileManagerContract, MakesNoFolderWhereAFileStands) {
+    this->disk.save(this->file("a.png"));
+    const auto failure = this->disk.files.createDirectory(this->file("a.png"));
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->code, EEXIST);
+}
+
+TYPED_TEST_P(FileManagerContract, MakesNoFolderWhereItMayNot) {
+    [[maybe_unused]] const auto locked = this->disk.lock(this->disk.folder);
+    const auto failure = this->disk.files.createDirectory(this->file("a").appending("b"));
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->code, EACCES);
+}
+
+TYPED_TEST_P(FileManagerContract, WritesAFileInThePlaceOfAnother) {
+    EXPECT_EQ(this->disk.files.write("four", this->file("a.png")), std::nullopt);
+    EXPECT_EQ(this->disk.files.fileSize(this->file("a.png")), 4);
+    EXPECT_EQ(this->disk.files.write("longer", this->file("a.png")), std::nullopt);
+    EXPECT_EQ(this->disk.files.fileSize(this->file("a.png")), 6);
+    EXPECT_THAT(this->names(), testing::ElementsAre("a.png"));
+}
+
+TYPED_TEST_P(FileManagerContract, WritesNothingWhereItMayNot) {
+    [[maybe_unused]] const auto locked = this->disk.lock(this->disk.folder);
+    const auto failure = this->disk.files.write("four", this->file("a.png"));
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->code, EACCES);
+    EXPECT_EQ(this->disk.files.existence(this->file("a.png")), FileManager::Existence::none);
+}
+
+REGISTER_TYPED_TEST_SUITE_P(FileManagerContract, TellsFilesFromFoldersFromNothing,
+                            ListsAllNamesButHiddenOnes, ListingFailsWithTheReason,
+                            DescribesAFileWithoutOpeningIt, AFolderIsNoRegularFile,
+                            WhatHasGoneCannotBeDescribed, TellsTheSizeOfAFile,
+                            MakesAFolderWithItsParents, MakesNoFolderWhereAFileStands,
+                            MakesNoFolderWhereItMayNot, WritesAFileInThePlaceOfAnother,
+                            WritesNothingWhereItMayNot);
+
+}  // namespace vantle

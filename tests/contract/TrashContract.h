@@ -1,0 +1,98 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "fakes/FakeTrash.h"
+#include "fakes/VirtualTime.h"
+
+namespace vantle {
+
+struct MemoryTrash {
+    fakes::VirtualTime time;
+    fakes::ManualQueue queue{time};
+    fakes::ManualScheduler scheduler{time};
+    fakes::FakeFileSystem files{queue};
+    fakes::FakeTrash trash{scheduler, files};
+    const Url folder = Url::file("/folder");
+
+    MemoryTrash() { (void)files.createDirectory(folder); }
+    void save(const Url& file) { files.write(file, 4, fakes::VirtualClock::epoch); }
+    bool exists(const Url& file) { return files.existence(file) != FileManager::Existence::none; }
+    std::size_t trashed() { return trash.trashed.size(); }
+    void runUntil(const std::function<bool()>& condition) {
+        while (!condition()) time.advance(Seconds(0.01));
+    }
+};
+
+template <typename Kind>
+class TrashContract : public testing::Test {
+protected:
+    Outcome recycle(const std::vector<Url>& urls) {
+        bool isDone = false;
+        Outcome outcome;
+        kind.trash.recycle(urls, [&](const Outcome& told) {
+            isDone = true;
+            outcome = told;
+        });
+        EXPECT_FALSE(isDone);
+        kind.runUntil([&] { return isDone; });
+        return outcome;
+    }
+    Url file(const std::string& name) { return kind.folder.appending(name); }
+
+    Kind kind;
+};
+
+TYPED_TEST_SUITE_P(TrashContract);
+
+TYPED_TEST_P(TrashContract, MovesAFile) {
+    this->kind.save(this->file("shot.png"));
+    EXPECT_EQ(this->recycle({this->file("shot.png")}), std::nullopt);
+    EXPECT_FALSE(this->kind.exists(this->file("shot.png")));
+    EXPECT_EQ(this->kind.trashed(), 1u);
+}
+
+TYPED_TEST_P(TrashContract, MovesSeveralFilesByOneRequest) {
+    for (const auto* name : {"1.png", "2.png", "3.png"}) this->kind.save(this->file(name));
+    EXPECT_EQ(this->recycle({this->file("1.png"), this->file("2.png"), this->file("3.png")}),
+              std::nullopt);
+    EXPECT_EQ(this->kind.trashed(), 3u);
+}
+
+TYPED_TEST_P(TrashContract, AFileThatHasGoneIsAFailureThatNamesIt) {
+    const auto failure = this->recycle({this->file("gone.png")});
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(std::errc(failure->code), std::errc::no_such_file_or_directory);
+    EXPECT_THAT(failure->message, testing::StartsWith(this->file("gone.png").path() + ": "));
+}
+
+TYPED_TEST_P(TrashContract, AFailureDoesNotKeepTheOthersBack) {
+    this->kind.save(this->file("here.png"));
+    const auto failure =
+        this->recycle({this->file("1.png"), this->file("here.png"), this->file("2.png")});
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_THAT(failure->message, testing::HasSubstr("1.png: "));
+    EXPECT_THAT(failure->message, testing::HasSubstr("2.png: "));
+    EXPECT_THAT(failure->message, testing::Not(testing::HasSubstr("here.png")));
+    EXPECT_EQ(this->kind.trashed(), 1u);
+}
+
+TYPED_TEST_P(TrashContract, TwoFilesOfOneNameAreBothKept) {
+    for (int round = 0; round < 2; ++round) {
+        this->kind.save(this->file("shot.png"));
+        EXPECT_EQ(this->recycle({this->file("shot.png")}), std::nullopt);
+    }
+    EXPECT_EQ(this->kind.trashed(), 2u);
+}
+
+REGISTER_TYPED_TEST_SUITE_P(TrashContract, MovesAFile, MovesSeveralFilesByOneRequest,
+                            AFileThatHasGoneIsAFailureThatNamesIt, AFailureDoesNotKeepTheOthersBack,
+                            TwoFilesOfOneNameAreBothKept);
+
+}  // namespace vantle

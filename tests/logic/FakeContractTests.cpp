@@ -1,0 +1,48 @@
+// The stand-ins keep the contracts of what they stand in for. The suites are in tests/contract.
+#include "contract/AlertsContract.h"
+#include "contract/ApplicationContract.h"
+#include "contract/DirectoryEventsContract.h"
+#include "contract/FakeDisk.h"
+#include "contract/FileManagerContract.h"
+#include "contract/FileOpenerContract.h"
+#include "contract/FolderChooserContract.h"
+#include "contract/LoginItemContract.h"
+#include "contract/MediaLoaderContract.h"
+#include "contract/PasteboardContract.h"
+#include "contract/PreferencesDomainContract.h"
+#include "contract/ProcessLauncherContract.h"
+#include "contract/SchedulerContract.h"
+#include "contract/ScreensContract.h"
+#include "contract/SerialQueueContract.h"
+#include "contract/SharingServicePickerContract.h"
+#include "contract/StatusItemContract.h"
+#include "contract/TrashContract.h"
+#include "contract/UpdateEngineContract.h"
+#include "contract/UserDefaultsContract.h"
+
+namespace vantle {
+namespace {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeAlerts, AlertsContract, RecordedAlerts);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeApplication, ApplicationContract, FakeStart);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeDirectoryEvents, DirectoryEventsContract, FakeDisk);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeFileManager, FileManagerContract, FakeDisk);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeFileOpener, FileOpenerContract, RecordedOpener);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeFolderChooser, FolderChooserContract, RecordedChooser);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeLoginItem, LoginItemContract, RememberedItem);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeMediaLoader, MediaLoaderContract, FakeMedia);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakePasteboard, PasteboardContract, MemoryPasteboard);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakePreferencesDomain, PreferencesDomainContract, MemoryDomain);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeProcessLauncher, ProcessLauncherContract, RecordedLauncher);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeScheduler, SchedulerContract, VirtualRunLoop);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeScreens, ScreensContract, FakeDesktop);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeSerialQueue, SerialQueueContract, VirtualQueue);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeSharingServicePicker, SharingServicePickerContract,
+                               PretendedMenu);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeStatusItem, StatusItemContract, RecordedTray);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeTrash, TrashContract, MemoryTrash);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeUpdateEngine, UpdateEngineContract, ToldEngine);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeUserDefaults, UserDefaultsContract, MemoryDefaults);
+
+}  // namespace
+}  // namespace vantle
