@@ -10,8 +10,11 @@ namespace vantle {
 
 /// What happened since the last call of the handler, several things at once.
 struct DirectoryChange {
-    bool contents = false;  ///< An entry came, went, was renamed, grew, was closed, or was altered.
-    bool lost = false;      ///< The folder itself was deleted, moved away, or revoked (unmounted).
+    /// An entry came, went, or was renamed. Where the system tells so much, also: one was written
+    /// to, altered, or let go by who wrote it. Who has to know that a file is whole looks at it
+    /// again.
+    bool contents = false;
+    bool lost = false;  ///< The folder itself was deleted, moved away, or revoked (unmounted).
 };
 
 /// Watches one folder, not its sub-folders.

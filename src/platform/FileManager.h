@@ -17,7 +17,8 @@ struct ResourceValues {
     std::optional<Date> creationDate;
     std::optional<Date> contentModificationDate;
     /// Absent while it cannot be said: a recording that some program still writes is not yet
-    /// known to be a regular file.
+    /// known to be a regular file. Only a system whose DirectoryEvents tell of the end of the
+    /// writing may leave it absent; elsewhere a file that is being written is a regular one.
     std::optional<bool> isRegularFile;
 };
 

@@ -18,7 +18,9 @@ public:
 
     /// Moves the files to the Trash, none of them over another, and calls `completion` on the main
     /// thread when it is done with all, never inside this call. A file that cannot be moved stays
-    /// where it is and does not keep the others back; the failure names each of them.
+    /// where it is and does not keep the others back. The failure's message has the path of each of
+    /// them, with the system's reason behind it, and its code is the kind (std::errc) of the first:
+    /// no_such_file_or_directory for a file that has gone.
     virtual void recycle(const std::vector<Url>& urls, Completion completion) = 0;
 };
 

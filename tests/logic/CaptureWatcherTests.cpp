@@ -214,6 +214,18 @@ TEST_F(CaptureWatcherTest, AFileThatKeepsGrowingIsReportedAtThe42ndReading) {
     EXPECT_THAT(captured, ElementsAre("growing.png"));
 }
 
+TEST_F(CaptureWatcherTest, AFileOfWhoseGrowthNobodyTellsIsReportedWhenItIsWhole) {
+    start();
+    save("quiet.png");
+    for (int part = 2; part <= 8; ++part) {
+        wait(0.2);
+        files.changeSilently(url("quiet.png"), [part](auto& entry) { entry.size = 1000 * part; });
+    }
+    EXPECT_THAT(captured, IsEmpty());
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("quiet.png"));
+}
+
 TEST_F(CaptureWatcherTest, AFileDeletedWhilePendingIsGivenUpOn) {
     start();
     save("gone.png");
