@@ -37,7 +37,7 @@ inline void saveBytes(const Url& file, const QByteArray& bytes) {
 struct DesktopPasteboard {
     TemporaryFolder folder;
     std::shared_ptr<fakes::FakeMediaLoader> media = std::make_shared<fakes::FakeMediaLoader>();
-    QtPasteboard pasteboard{media};
+    QtPasteboard pasteboard{media, nullptr};
 
     Url saveImage(const std::string& name, const char* format = "PNG") {
         const Url file = folder / name;

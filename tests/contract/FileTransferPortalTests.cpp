@@ -9,6 +9,7 @@
 #include "contract/DesktopPasteboard.h"
 #include "contract/DesktopServices.h"
 #include "contract/PrivateBus.h"
+#include "platform/freedesktop/FileTransferPortal.h"
 #include "platform/qt/FileMimeData.h"
 
 namespace vantle {
@@ -51,7 +52,7 @@ protected:
 
 TEST_F(FileTransferPortalTest, ProgramsInASandboxGetAKeyForTheFiles) {
     const FileMimeData data(save(2), nullptr, FileMimeData::Use::drag,
-                            FileTransferPortal(bus.connect()));
+                            std::make_shared<FileTransferPortal>(bus.connect()));
     EXPECT_THAT(data.formats().mid(0, 2),
                 ElementsAre("application/vnd.portal.filetransfer", "text/uri-list"));
     const QByteArray key = data.data(QStringLiteral("application/vnd.portal.filetransfer"));
