@@ -9,7 +9,7 @@ namespace vantle {
 namespace {
 
 /// The desktop starts its panel and this program side by side when the user logs in.
-constexpr Seconds patience{30};
+constexpr Seconds timeout{30};
 
 constexpr auto explainedKey = "hasExplainedMissingTray";
 
@@ -34,7 +34,7 @@ std::shared_ptr<MissingTray> MissingTray::create(const Services& services) {
 
 void MissingTray::explain() {
     if (services_.defaults.boolean(explainedKey)) return;
-    services_.scheduler.after(patience,
+    services_.scheduler.after(timeout,
                               weakly(shared_from_this(), [](auto& self) { self.explainNow(); }));
 }
 

@@ -43,7 +43,7 @@ std::string text(double value) {
 
 }  // namespace
 
-std::vector<Fact> StatusReport::recordingsFacts(Paths paths) const {
+std::vector<ReportLine> StatusReport::recordingsReport(Paths paths) const {
     if (!sources_.recordingsFolder) return {};
     const Url folder = sources_.recordingsFolder();
     if (folder == sources_.settings.screenshotFolder.value()) return {};
@@ -66,38 +66,38 @@ const char* StatusReport::state() const {
     return sources_.watcher.isOpening() ? "waiting for the folder" : "not watching";
 }
 
-std::vector<Fact> StatusReport::facts(Paths paths) const {
+std::vector<ReportLine> StatusReport::lines(Paths paths) const {
     const Url& folder = sources_.settings.screenshotFolder.value();
-    std::vector<Fact> facts{
+    std::vector<ReportLine> lines{
         {"version", std::string(version)},
         {"state", state()},
         {"folder", placeOf(folder, sources_.files, paths)},
         {"captures", std::to_string(sources_.panel.state().captures.value().size())}};
-    std::ranges::copy(recordingsFacts(paths), std::back_inserter(facts));
-    return facts;
+    std::ranges::copy(recordingsReport(paths), std::back_inserter(lines));
+    return lines;
 }
 
 std::string StatusReport::text(const std::vector<std::string>& arguments) const {
     const auto isAsked = [&](const char* name) { return std::ranges::count(arguments, name) > 0; };
     const bool isVerbose = isAsked("verbose");
     const Paths paths = !isVerbose || isAsked("with-paths") ? Paths::shown : Paths::hidden;
-    std::vector<Fact> told = facts(paths);
+    std::vector<ReportLine> told = lines(paths);
     if (!isVerbose) {
         if (sources_.displayServer) told.push_back({"display server", sources_.displayServer()});
-        return reportLines(told);
+        return reportText(told);
     }
     told.push_back({"folder from", sources_.settings.screenshotFolderOrigin()});
-    told.push_back(settingsFact(sources_.settings));
+    told.push_back(settingsLine(sources_.settings));
     if (sources_.surroundings) std::ranges::copy(sources_.surroundings(), std::back_inserter(told));
-    std::ranges::copy(logFacts(recentSystemLog(), paths), std::back_inserter(told));
-    return reportLines(told);
+    std::ranges::copy(logReport(recentSystemLog(), paths), std::back_inserter(told));
+    return reportText(told);
 }
 
-std::string reportLines(const std::vector<Fact>& facts) {
-    std::string lines;
-    for (const Fact& fact : facts)
-        lines += (lines.empty() ? "" : "\n") + fact.name + ": " + fact.value;
-    return lines;
+std::string reportText(const std::vector<ReportLine>& lines) {
+    std::string written;
+    for (const ReportLine& line : lines)
+        written += (written.empty() ? "" : "\n") + line.name + ": " + line.value;
+    return written;
 }
 
 std::string placeOf(const Url& folder, const FileManager& files, Paths paths) {
@@ -108,7 +108,7 @@ std::string placeOf(const Url& folder, const FileManager& files, Paths paths) {
                                                  : "outside the home directory";
 }
 
-Fact settingsFact(const Settings& settings) {
+ReportLine settingsLine(const Settings& settings) {
     return {"settings", "corner " + std::string(rawValue(settings.corner.value())) +
                             ", dismissAfter " + text(settings.dismissAfter.value()) +
                             ", showRecordings " + text(settings.showRecordings.value()) +
@@ -121,16 +121,16 @@ Fact settingsFact(const Settings& settings) {
                             text(settings.hideSystemThumbnail.value())};
 }
 
-std::vector<Fact> logFacts(const std::vector<LoggedMessage>& messages, Paths paths) {
+std::vector<ReportLine> logReport(const std::vector<LoggedMessage>& messages, Paths paths) {
     if (messages.empty()) return {{"log", "empty"}};
-    std::vector<Fact> facts;
+    std::vector<ReportLine> lines;
     for (const LoggedMessage& logged : messages) {
         const LoggedMessage hidden{logged.time, withoutPaths(logged.message),
                                    withoutPaths(logged.reason)};
         const LoggedMessage& told = paths == Paths::shown ? logged : hidden;
-        facts.push_back({"log", localTime(told.time) + " " + told.line()});
+        lines.push_back({"log", localTime(told.time) + " " + told.line()});
     }
-    return facts;
+    return lines;
 }
 
 std::string withoutPaths(std::string_view text) {

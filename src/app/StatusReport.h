@@ -9,8 +9,8 @@
 #include "capture/CaptureWatcher.h"
 #include "capture/RecordingsWatcher.h"
 #include "panel/CapturePanelController.h"
-#include "platform/Fact.h"
 #include "platform/FileManager.h"
+#include "platform/ReportLine.h"
 #include "settings/Settings.h"
 #include "support/SystemLog.h"
 
@@ -32,7 +32,7 @@ public:
         const StatusBarController& statusBar;
         const std::function<Url()>& recordingsFolder;
         const std::function<std::string()>& displayServer;
-        const std::function<std::vector<Fact>()>& surroundings;
+        const std::function<std::vector<ReportLine>()>& surroundings;
     };
 
     explicit StatusReport(const Sources& sources) : sources_(sources) {}
@@ -43,24 +43,24 @@ public:
 
 private:
     const char* state() const;
-    std::vector<Fact> facts(Paths paths) const;
-    std::vector<Fact> recordingsFacts(Paths paths) const;
+    std::vector<ReportLine> lines(Paths paths) const;
+    std::vector<ReportLine> recordingsReport(Paths paths) const;
 
     Sources sources_;
 };
 
 /// Lines of "name: value".
-std::string reportLines(const std::vector<Fact>& facts);
+std::string reportText(const std::vector<ReportLine>& lines);
 
 /// Where a folder is, told without its name where paths are hidden.
 std::string placeOf(const Url& folder, const FileManager& files, Paths paths);
 
 /// What the user has chosen, in one line; nothing of it is private.
-Fact settingsFact(const Settings& settings);
+ReportLine settingsLine(const Settings& settings);
 
 /// The messages with their times, or that there are none. Where paths are hidden, the reasons that
 /// were logged apart are still told.
-std::vector<Fact> logFacts(const std::vector<LoggedMessage>& messages, Paths paths);
+std::vector<ReportLine> logReport(const std::vector<LoggedMessage>& messages, Paths paths);
 
 /// The text up to the first path in it, which becomes "(path)" with all that follows: a path can
 /// hold anything, so nobody knows where it ends.

@@ -14,7 +14,7 @@ constexpr Seconds newestAge{120};  // an older file was moved in from elsewhere
 constexpr Seconds pollingInterval{0.25};
 constexpr int lastAttempt = 41;
 constexpr std::int64_t unknownSize = -1;
-constexpr int mostOnTheirWay = 4;
+constexpr int maximumOnTheirWay = 4;
 
 WatchError watchError(const Failure& failure) {
     if (failure.code == EPERM || failure.code == EACCES) return WatchError::accessDenied();
@@ -192,7 +192,7 @@ void CaptureWatcher::settle(const Url& url, Date fileDate) {
 
 void CaptureWatcher::deliverNext() {
     // Each one that waits for the main thread holds a picture.
-    if (settled_.empty() || onTheirWay_ >= mostOnTheirWay) return;
+    if (settled_.empty() || onTheirWay_ >= maximumOnTheirWay) return;
     const Settled next = std::move(settled_.front());
     settled_.pop_front();
     deliver(next.url, next.date);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t channels = 4;
 /// Of larger parts not every pixel is looked at: who waits for this has others to serve.
-constexpr std::size_t mostSamples = 4;  // in each direction
+constexpr std::size_t maximumSamples = 4;  // in each direction
 using Sum = std::array<std::uint32_t, channels>;
 
 /// Where the part of `length` begins that becomes the pixel at `index` of `count`.
@@ -21,7 +21,7 @@ std::size_t begin(int index, int count, int length) {
 }
 
 std::size_t stepOver(std::size_t length) {
-    return (length + mostSamples - 1) / mostSamples;
+    return (length + maximumSamples - 1) / maximumSamples;
 }
 
 /// The mean of a part of the image, which is not empty.

@@ -11,7 +11,6 @@
 #include "platform/CaptureExtensions.h"
 #include "platform/DesktopAppearance.h"
 #include "platform/DirectoryEvents.h"
-#include "platform/Fact.h"
 #include "platform/FileManager.h"
 #include "platform/FileOpener.h"
 #include "platform/FolderChooser.h"
@@ -21,6 +20,7 @@
 #include "platform/PreferencesDomain.h"
 #include "platform/PrivacySettings.h"
 #include "platform/ProcessLauncher.h"
+#include "platform/ReportLine.h"
 #include "platform/Scheduler.h"
 #include "platform/Screens.h"
 #include "platform/SerialQueue.h"
@@ -98,7 +98,7 @@ struct Platform {
 
     /// What surrounds the program, for reports of faults; empty where there is nothing to tell.
     /// Asks others, so it may take a moment. Names no path.
-    std::function<std::vector<Fact>()> surroundings;
+    std::function<std::vector<ReportLine>()> surroundings;
 };
 
 }  // namespace vantle

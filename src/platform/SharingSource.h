@@ -25,12 +25,12 @@ public:
     virtual ~SharingSource() = default;
 
     /// Calls `found` once with what is offered now, perhaps inside this call and at the latest
-    /// after `patience`. Nobody is started for the question.
+    /// after `timeout`. Nobody is started for the question.
     virtual void find(Found found) = 0;
 
 protected:
     /// Somebody waits for the menu.
-    static constexpr std::chrono::milliseconds patience{700};
+    static constexpr std::chrono::milliseconds timeout{700};
 };
 
 }  // namespace vantle

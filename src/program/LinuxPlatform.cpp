@@ -39,14 +39,14 @@
 #include "platform/linux/LinuxFileManager.h"
 #include "platform/linux/PollQueue.h"
 #include "platform/linux/PosixProcessLauncher.h"
-#include "platform/linux/SystemFacts.h"
+#include "platform/linux/SystemReport.h"
 #include "platform/linux/UserDirectories.h"
 #include "platform/linux/screenshots/BackgroundGSettings.h"
 #include "platform/linux/screenshots/ScreenshotTools.h"
 #include "platform/linux/screenshots/ToolChoice.h"
 #include "platform/linux/screenshots/ToolPreferencesDomain.h"
 #include "platform/qt/DensestScreen.h"
-#include "platform/qt/DesktopFacts.h"
+#include "platform/qt/DesktopReport.h"
 #include "platform/qt/DialogFolderChooser.h"
 #include "platform/qt/DisplayServer.h"
 #include "platform/qt/QtCanvas.h"
@@ -55,12 +55,12 @@
 #include "platform/qt/QtScreens.h"
 #include "support/SystemLog.h"
 #include "support/Version.h"
-#include "updates/UpdateFlow.h"
+#include "updateflow/UpdateFlow.h"
 
 namespace vantle {
 namespace {
 
-constexpr Seconds patienceAtTheEnd{1};
+constexpr Seconds endTimeout{1};
 
 bool isRecording(const Url& url) {
     return Capture::kind(url, linuxCaptureExtensions) == CaptureKind::video;
@@ -111,13 +111,14 @@ std::unique_ptr<TrayStatusItem> makeStatusItem(OpenMenu openMenu) {
 }
 
 /// What stands around the program, for reports of faults.
-std::vector<Fact> surroundings(const Environment& environment, const TrayStatusItem& statusItem) {
-    std::vector<Fact> facts = systemFacts(environment, Url::file(beside("../share/vantle")));
-    std::ranges::copy(DisplayServer::current().facts(), std::back_inserter(facts));
-    std::ranges::copy(desktopFacts(), std::back_inserter(facts));
-    facts.push_back({"tray", statusItem.tray()});
-    std::ranges::copy(decoderFacts(beside("vantle-decoder")), std::back_inserter(facts));
-    return facts;
+std::vector<ReportLine> surroundings(const Environment& environment,
+                                     const TrayStatusItem& statusItem) {
+    std::vector<ReportLine> lines = systemReport(environment, Url::file(beside("../share/vantle")));
+    std::ranges::copy(DisplayServer::current().report(), std::back_inserter(lines));
+    std::ranges::copy(desktopReport(), std::back_inserter(lines));
+    lines.push_back({"tray", statusItem.tray()});
+    std::ranges::copy(decoderReport(beside("vantle-decoder")), std::back_inserter(lines));
+    return lines;
 }
 
 /// What the program says of itself, outside the panel.
@@ -210,7 +211,7 @@ void addQueues(Platform& platform) {
     auto servers = std::make_unique<PollQueue>("vantle.servers");
     platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*watcher);
     platform.isHeldUp = [&watcher = *watcher, &servers = *servers] {
-        return !watcher.isIdleWithin(patienceAtTheEnd) || !servers.isIdleWithin(patienceAtTheEnd);
+        return !watcher.isIdleWithin(endTimeout) || !servers.isIdleWithin(endTimeout);
     };
     platform.watcherQueue = std::move(watcher);
     platform.serverQueue = std::move(servers);

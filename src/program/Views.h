@@ -16,7 +16,7 @@
 #include "platform/SharingSource.h"
 #include "platform/Window.h"
 #include "platform/qt/FileTransfer.h"
-#include "updates/UpdateFlow.h"
+#include "updateflow/UpdateFlow.h"
 
 namespace vantle {
 

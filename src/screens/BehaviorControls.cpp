@@ -58,7 +58,7 @@ void BehaviorControls::setNeverDismiss(bool never) {
 }
 
 double BehaviorControls::sliderValue() const {
-    return std::isnan(seconds()) ? shortest : std::clamp(seconds(), shortest, longest);
+    return std::isnan(seconds()) ? minimum : std::clamp(seconds(), minimum, maximum);
 }
 
 std::string BehaviorControls::dismissAfterText() const {

@@ -13,8 +13,8 @@ namespace vantle {
 class BehaviorControls {
 public:
     /// The slider's, in seconds.
-    static constexpr double shortest = 3;
-    static constexpr double longest = 120;
+    static constexpr double minimum = 3;
+    static constexpr double maximum = 120;
     static constexpr double step = 1;
 
     /// Both outlive it.

@@ -42,19 +42,19 @@ bool isEnabled(const LoginItem& loginItem) {
 
 Settings::Settings(UserDefaults& defaults, SystemScreenshotPrefs screenshotPrefs,
                    LoginItem& loginItem, Application& application)
-    : d_(withRegisteredDefaults(defaults)),
+    : defaults_(withRegisteredDefaults(defaults)),
       screenshotPrefs_(screenshotPrefs),
       loginItem_(loginItem),
       application_(application),
-      hasCompletedOnboarding(d_.boolean(hasCompletedOnboardingKey)),
-      dismissAfter(d_.number(dismissAfterKey)),
-      corner(storedCorner(d_)),
-      showRecordings(d_.boolean(showRecordingsKey)),
-      copyOnCapture(d_.boolean(copyOnCaptureKey)),
-      playSound(d_.boolean(playSoundKey)),
-      removeAfterUse(d_.boolean(removeAfterUseKey)),
-      deleteAfterUse(d_.boolean(deleteAfterUseKey)),
-      showInDock(d_.boolean(showInDockKey)),
+      hasCompletedOnboarding(defaults_.boolean(hasCompletedOnboardingKey)),
+      dismissAfter(defaults_.number(dismissAfterKey)),
+      corner(storedCorner(defaults_)),
+      showRecordings(defaults_.boolean(showRecordingsKey)),
+      copyOnCapture(defaults_.boolean(copyOnCaptureKey)),
+      playSound(defaults_.boolean(playSoundKey)),
+      removeAfterUse(defaults_.boolean(removeAfterUseKey)),
+      deleteAfterUse(defaults_.boolean(deleteAfterUseKey)),
+      showInDock(defaults_.boolean(showInDockKey)),
       screenshotFolder(screenshotPrefs_.location()),
       hideSystemThumbnail(!screenshotPrefs_.showsThumbnail()),
       launchAtLogin(isEnabled(loginItem_)) {
@@ -63,7 +63,7 @@ Settings::Settings(UserDefaults& defaults, SystemScreenshotPrefs screenshotPrefs
 
 void Settings::storeChanges() {
     const auto store = [this](auto& property, const char* key) {
-        property.onStored([this, key](const auto& value) { d_.set(key, value); });
+        property.onStored([this, key](const auto& value) { defaults_.set(key, value); });
     };
     store(hasCompletedOnboarding, hasCompletedOnboardingKey);
     store(dismissAfter, dismissAfterKey);
@@ -72,9 +72,10 @@ void Settings::storeChanges() {
     store(playSound, playSoundKey);
     store(removeAfterUse, removeAfterUseKey);
     store(deleteAfterUse, deleteAfterUseKey);
-    corner.onStored([this](PanelCorner value) { d_.set(cornerKey, std::string(rawValue(value))); });
+    corner.onStored(
+        [this](PanelCorner value) { defaults_.set(cornerKey, std::string(rawValue(value))); });
     showInDock.onStored([this](bool value) {
-        d_.set(showInDockKey, value);
+        defaults_.set(showInDockKey, value);
         applyActivationPolicy(application_, value);
     });
 }

@@ -25,7 +25,7 @@ public:
              Application& application);
 
 private:
-    UserDefaults& d_;
+    UserDefaults& defaults_;
     SystemScreenshotPrefs screenshotPrefs_;
     LoginItem& loginItem_;
     Application& application_;

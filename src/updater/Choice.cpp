@@ -21,14 +21,14 @@ const Enclosure* enclosureFor(const FeedItem& item, const std::string& platform)
 
 /// Why an item that is newer and for this platform is refused nevertheless; absent when it is not.
 std::optional<UpdateReport> refusal(const FeedItem& item, const Enclosure& enclosure,
-                                    const Wish& wish) {
+                                    const UpdateCriteria& criteria) {
     const std::string& name = item.displayVersion;
-    if (isNewer(item.minimumSystemVersion, wish.systemVersion))
+    if (isNewer(item.minimumSystemVersion, criteria.systemVersion))
         return report::NothingFound{filled(
             localized("Updater",
                       "Version %1 needs a newer system: version %2 of the C library, and this is "
                       "%3."),
-            {name, item.minimumSystemVersion, wish.systemVersion})};
+            {name, item.minimumSystemVersion, criteria.systemVersion})};
     if (enclosure.signature.empty())
         return report::Failed{
             filled(localized("Updater", "Version %1 carries no signature, so it was refused."),
@@ -40,7 +40,7 @@ std::optional<UpdateReport> refusal(const FeedItem& item, const Enclosure& enclo
                              "Version %1 has no length in the update feed, so it was refused."),
                    {name}),
             {}};
-    if (enclosure.length > configuration().largestArchive)
+    if (enclosure.length > configuration().maximumArchiveSize)
         return report::Failed{
             filled(
                 localized("Updater", "Version %1 is too large for an update, so it was refused."),
@@ -49,41 +49,42 @@ std::optional<UpdateReport> refusal(const FeedItem& item, const Enclosure& enclo
     return std::nullopt;
 }
 
-UpdateItem updateFrom(const FeedItem& item, const Enclosure& enclosure, const Wish& wish) {
+UpdateItem updateFrom(const FeedItem& item, const Enclosure& enclosure,
+                      const UpdateCriteria& criteria) {
     return {.version = item.version,
             .displayVersion = item.displayVersion,
             .notes = item.notes,
-            .page = item.page.empty() ? wish.page : item.page,
+            .page = item.page.empty() ? criteria.page : item.page,
             .address = enclosure.address,
             .length = enclosure.length,
             .signature = enclosure.signature,
-            .installation = wish.installation};
+            .installation = criteria.installation};
 }
 
 /// When none of the items is newer and for this platform.
-report::NothingFound nothing(const std::vector<FeedItem>& items, const Wish& wish) {
+report::NothingFound nothing(const std::vector<FeedItem>& items, const UpdateCriteria& criteria) {
     std::string newest;
     bool isForOthers = false;
     for (const auto& item : items) {
-        if (isNewer(item.version, wish.version)) isForOthers = true;
-        if (enclosureFor(item, wish.platform) && isNewer(item.version, newest))
+        if (isNewer(item.version, criteria.version)) isForOthers = true;
+        if (enclosureFor(item, criteria.platform) && isNewer(item.version, newest))
             newest = item.version;
     }
-    if (isNewer(wish.version, newest) && !newest.empty())
+    if (isNewer(criteria.version, newest) && !newest.empty())
         return {filled(
             localized("Updater", "Vantle %1 is newer than the newest version that is offered, %2."),
-            {wish.version, newest})};
+            {criteria.version, newest})};
     if (isForOthers)
         return {
             filled(localized("Updater", "There is a newer version, but not for this system (%1)."),
-                   {wish.platform})};
-    return {filled(localized("Updater", "Vantle %1 is the newest version."), {wish.version})};
+                   {criteria.platform})};
+    return {filled(localized("Updater", "Vantle %1 is the newest version."), {criteria.version})};
 }
 
 /// In the order in which they are to be had.
-std::vector<FeedItem> candidates(std::vector<FeedItem> items, const Wish& wish) {
+std::vector<FeedItem> candidates(std::vector<FeedItem> items, const UpdateCriteria& criteria) {
     std::erase_if(items, [&](const FeedItem& item) {
-        return !isNewer(item.version, wish.version) || !enclosureFor(item, wish.platform);
+        return !isNewer(item.version, criteria.version) || !enclosureFor(item, criteria.platform);
     });
     std::ranges::stable_sort(items, isNewer, &FeedItem::version);
     return items;
@@ -91,19 +92,19 @@ std::vector<FeedItem> candidates(std::vector<FeedItem> items, const Wish& wish) 
 
 }  // namespace
 
-UpdateReport choose(const Feed& feed, const Wish& wish) {
+UpdateReport choose(const Feed& feed, const UpdateCriteria& criteria) {
     std::vector<FeedItem> items = feed.items;
     std::erase_if(items, [&](const FeedItem& item) {
-        return !item.channel.empty() && item.channel != wish.channel;
+        return !item.channel.empty() && item.channel != criteria.channel;
     });
     std::optional<UpdateReport> first;
-    for (const auto& item : candidates(items, wish)) {
-        const Enclosure& enclosure = *enclosureFor(item, wish.platform);
-        const auto refused = refusal(item, enclosure, wish);
-        if (!refused) return report::UpdateFound{updateFrom(item, enclosure, wish)};
+    for (const auto& item : candidates(items, criteria)) {
+        const Enclosure& enclosure = *enclosureFor(item, criteria.platform);
+        const auto refused = refusal(item, enclosure, criteria);
+        if (!refused) return report::UpdateFound{updateFrom(item, enclosure, criteria)};
         if (!first) first = refused;
     }
-    return first ? *first : nothing(items, wish);
+    return first ? *first : nothing(items, criteria);
 }
 
 }  // namespace vantle::updater

@@ -8,7 +8,7 @@
 namespace vantle::updater {
 
 /// What a feed is asked for.
-struct Wish {
+struct UpdateCriteria {
     std::string version;        ///< That runs.
     std::string platform;       ///< That it runs on.
     std::string systemVersion;  ///< Of the C library here.
@@ -20,6 +20,6 @@ struct Wish {
 /// Finds the newest version that suits: newer than the one that runs, for this platform and
 /// system, signed, and with a length. Where there is none, tells why of the newest that could have
 /// been it: NothingFound, or Failed where somebody should mend the feed.
-UpdateReport choose(const Feed& feed, const Wish& wish);
+UpdateReport choose(const Feed& feed, const UpdateCriteria& criteria);
 
 }  // namespace vantle::updater

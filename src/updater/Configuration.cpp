@@ -12,14 +12,14 @@ const Configuration& configuration() {
         .publicKey = VANTLE_UPDATE_KEY,
         // Without a key nobody answers for what stands there.
         .page = std::string_view(VANTLE_UPDATE_KEY).empty() ? "" : VANTLE_DOWNLOAD_PAGE,
-        .patience = Seconds(VANTLE_UPDATE_PATIENCE),
-        .longestFeed = Seconds(2 * VANTLE_UPDATE_PATIENCE),
-        .longestArchive = 1h,
-        .longestStart = Seconds(VANTLE_UPDATE_START),
-        .largestFeed = mebibyte,
-        .largestArchive = 128 * mebibyte,
-        .largestTree = 512 * mebibyte,
-        .mostEntries = 10'000,
+        .timeout = Seconds(VANTLE_UPDATE_TIMEOUT),
+        .maximumFeedTime = Seconds(2 * VANTLE_UPDATE_TIMEOUT),
+        .maximumArchiveTime = 1h,
+        .maximumStartTime = Seconds(VANTLE_UPDATE_START),
+        .maximumFeedSize = mebibyte,
+        .maximumArchiveSize = 128 * mebibyte,
+        .maximumTreeSize = 512 * mebibyte,
+        .maximumEntries = 10'000,
     };
     return built;
 }

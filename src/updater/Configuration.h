@@ -13,14 +13,14 @@ struct Configuration {
     std::string publicKey;  ///< Ed25519, in base64; empty where nobody can sign an update for it.
     std::string page;       ///< Where a person can get new versions.
 
-    Seconds patience;              ///< With a server that says nothing, or hardly anything.
-    Seconds longestFeed;           ///< In all.
-    Seconds longestArchive;        ///< In all.
-    Seconds longestStart;          ///< Of a new version, until it says that it runs.
-    std::uint64_t largestFeed;     ///< In bytes.
-    std::uint64_t largestArchive;  ///< In bytes.
-    std::uint64_t largestTree;     ///< In bytes, unpacked.
-    std::uint64_t mostEntries;     ///< Of an archive.
+    Seconds timeout;                   ///< With a server that says nothing, or hardly anything.
+    Seconds maximumFeedTime;           ///< In all.
+    Seconds maximumArchiveTime;        ///< In all.
+    Seconds maximumStartTime;          ///< Of a new version, until it says that it runs.
+    std::uint64_t maximumFeedSize;     ///< In bytes.
+    std::uint64_t maximumArchiveSize;  ///< In bytes.
+    std::uint64_t maximumTreeSize;     ///< In bytes, unpacked.
+    std::uint64_t maximumEntries;      ///< Of an archive.
 };
 
 const Configuration& configuration();

@@ -12,7 +12,7 @@
 namespace vantle::updater {
 namespace {
 
-constexpr int mostRedirections = 5;
+constexpr int maximumRedirections = 5;
 constexpr long slowest = 1024;  // bytes per second
 constexpr Seconds progressInterval{0.1};
 
@@ -79,10 +79,10 @@ void prepare(CURL* curl, const std::string& address, Transfer& transfer) {
     set(CURLOPT_PROTOCOLS_STR, "http,https");
     set(CURLOPT_USERAGENT, ("Vantle/" + std::string(version)).c_str());
     set(CURLOPT_NOSIGNAL, 1L);
-    set(CURLOPT_CONNECTTIMEOUT_MS, milliseconds(transfer.limits.patience));
+    set(CURLOPT_CONNECTTIMEOUT_MS, milliseconds(transfer.limits.timeout));
     set(CURLOPT_TIMEOUT_MS, milliseconds(transfer.limits.total));
     set(CURLOPT_LOW_SPEED_LIMIT, slowest);
-    set(CURLOPT_LOW_SPEED_TIME, static_cast<long>(transfer.limits.patience.count()));
+    set(CURLOPT_LOW_SPEED_TIME, static_cast<long>(transfer.limits.timeout.count()));
     set(CURLOPT_WRITEFUNCTION, take);
     set(CURLOPT_WRITEDATA, &transfer);
     if (const char* certificates = std::getenv("SSL_CERT_FILE")) set(CURLOPT_CAINFO, certificates);
@@ -115,7 +115,7 @@ Result<std::string> fetch(const std::string& address, const FetchLimits& limits,
                                                                    curl_easy_cleanup);
     if (!mayFetch(address)) return notAllowed(address);
     std::string next = address;
-    for (int redirections = 0; redirections <= mostRedirections; ++redirections) {
+    for (int redirections = 0; redirections <= maximumRedirections; ++redirections) {
         Transfer transfer{limits, progress};
         prepare(curl.get(), next, transfer);
         if (const auto code = curl_easy_perform(curl.get()); code != CURLE_OK)

@@ -12,7 +12,7 @@ namespace vantle::updater {
 struct FetchLimits {
     std::uint64_t bytes = 0;
     Seconds total{0};
-    Seconds patience{0};  ///< With a server that sends nothing, or hardly anything.
+    Seconds timeout{0};  ///< With a server that sends nothing, or hardly anything.
 };
 
 /// Whether an address may be fetched: by HTTPS, or by HTTP from this machine itself, for

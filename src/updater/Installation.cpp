@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "support/ProgramFile.h"
-#include "updater/Tree.h"
+#include "updater/InstalledTree.h"
 
 namespace vantle::updater {
 namespace {

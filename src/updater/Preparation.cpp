@@ -7,8 +7,8 @@
 #include "updater/Archive.h"
 #include "updater/Configuration.h"
 #include "updater/Installation.h"
+#include "updater/InstalledTree.h"
 #include "updater/Replacement.h"
-#include "updater/Tree.h"
 
 namespace vantle::updater {
 namespace {
@@ -21,7 +21,7 @@ Outcome makeTree(const Staging& staging, std::string_view archive, const std::st
     std::error_code error;
     fs::create_directory(tree, error);
     if (error) return systemFailure(error.value(), tree);
-    if (auto failure = unpack(archive, tree, {built.largestTree, built.mostEntries}))
+    if (auto failure = unpack(archive, tree, {built.maximumTreeSize, built.maximumEntries}))
         return failure;
     if (auto failure = verifyTree(tree, version, platformName(UpdateItem::Installation::tree)))
         return failure;

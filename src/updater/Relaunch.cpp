@@ -23,8 +23,8 @@
 #include "support/SystemFailure.h"
 #include "support/SystemLog.h"
 #include "updater/Configuration.h"
+#include "updater/InstalledTree.h"
 #include "updater/Replacement.h"
-#include "updater/Tree.h"
 
 namespace vantle::updater {
 namespace {
@@ -32,7 +32,7 @@ namespace {
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
 
-constexpr Seconds longestEnd = std::chrono::minutes(1);
+constexpr Seconds maximumEndTime = std::chrono::minutes(1);
 
 /// Whether there was something to read (or the end of it) in time.
 bool waitFor(int descriptor, Seconds time) {
@@ -52,7 +52,7 @@ FileDescriptor handleOf(pid_t process) {
 
 /// However long that takes: who asked for it has been told that it will go on.
 void waitForEnd(const FileDescriptor& handle) {
-    while (!waitFor(handle.get(), longestEnd)) continue;
+    while (!waitFor(handle.get(), maximumEndTime)) continue;
 }
 
 /// Whether a process runs that program, from exactly that place.
@@ -97,11 +97,11 @@ public:
     /// without its full stop. One that does not come up in time is killed.
     std::optional<std::string> failure(const std::string& version) const {
         char byte = 0;
-        const bool isTold = waitFor(ready_.get(), configuration().longestStart);
+        const bool isTold = waitFor(ready_.get(), configuration().maximumStartTime);
         if (isTold && read(ready_.get(), &byte, 1) == 1) return std::nullopt;
         // It closed the socket without a word: it ends, or has ended.
         const FileDescriptor handle = handleOf(process_);
-        const bool hasEnded = isTold && waitFor(handle.get(), longestEnd);
+        const bool hasEnded = isTold && waitFor(handle.get(), maximumEndTime);
         if (!hasEnded) kill(process_, SIGKILL);
         int status = 0;
         while (waitpid(process_, &status, 0) < 0 && errno == EINTR) continue;

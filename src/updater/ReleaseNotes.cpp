@@ -9,7 +9,7 @@
 namespace vantle::updater {
 namespace {
 
-constexpr std::size_t longest = std::size_t{32} * 1024;  // bytes
+constexpr std::size_t maximum = std::size_t{32} * 1024;  // bytes
 constexpr std::size_t deepest = 16;
 
 constexpr std::array<std::string_view, 16> harmless{"p",  "h1", "h2",   "h3", "h4",     "ul",
@@ -47,9 +47,9 @@ std::string addressIn(const std::string& attributes) {
     static const std::regex form(
         "\\shref\\s*=\\s*([\"'])(https://[A-Za-z0-9][-A-Za-z0-9._~:/?#@!$&()*+,;=%]{0,999})\\1",
         std::regex::icase);
-    constexpr std::size_t longestAttributes = 2000;
+    constexpr std::size_t maximumAttributesLength = 2000;
     std::smatch match;
-    if (attributes.size() > longestAttributes || !std::regex_search(attributes, match, form))
+    if (attributes.size() > maximumAttributesLength || !std::regex_search(attributes, match, form))
         return {};
     return match[2];
 }
@@ -59,7 +59,7 @@ public:
     explicit Cleaner(std::string_view html) : rest_(html) {}
 
     std::string clean() {
-        while (!rest_.empty() && out_.size() < longest) step();
+        while (!rest_.empty() && out_.size() < maximum) step();
         if (!rest_.empty()) out_ += "…";
         while (!open_.empty()) closeLast();
         return std::move(out_);
@@ -85,10 +85,11 @@ private:
 
     void takeCharacter() {
         static const std::regex entity("&(amp|lt|gt|quot|apos|nbsp|#[0-9]{1,6});.*");
-        constexpr std::size_t longestEntity = 10;
+        constexpr std::size_t maximumEntityLength = 10;
         const char character = rest_.front();
-        const bool isEntity = character == '&' &&
-                              std::regex_match(std::string(rest_.substr(0, longestEntity)), entity);
+        const bool isEntity =
+            character == '&' &&
+            std::regex_match(std::string(rest_.substr(0, maximumEntityLength)), entity);
         if (character == '<')
             out_ += "&lt;";
         else if (character == '>')

@@ -42,9 +42,9 @@ Result<std::string> signedPart(const std::string& feed, const std::string& publi
     const auto at = feed.rfind(commentStart);
     std::smatch match;
     // The form is looked for only where it can be: it must not see all of a hostile feed.
-    constexpr std::size_t longest = 512;
+    constexpr std::size_t maximum = 512;
     const std::string comment =
-        at != std::string::npos && feed.size() - at <= longest ? feed.substr(at) : "";
+        at != std::string::npos && feed.size() - at <= maximum ? feed.substr(at) : "";
     if (!std::regex_match(comment, match, form))
         return Failure{
             0,

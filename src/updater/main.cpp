@@ -21,9 +21,9 @@
 
 #include "platform/qt/translations/Translations.h"
 #include "support/FileDescriptor.h"
+#include "updater/Commands.h"
 #include "updater/Configuration.h"
 #include "updater/Relaunch.h"
-#include "updater/Work.h"
 
 namespace {
 

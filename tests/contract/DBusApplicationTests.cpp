@@ -227,8 +227,8 @@ TEST(DBusApplicationTest, ASignalEndsItInOrder) {
         copy->send(signal);
         // The thread sanitizer holds a signal back until the next system call; a second one is
         // that.
-        constexpr int patience = 5'000;
-        if (!copy->saysSomething(patience)) copy->send(signal);
+        constexpr int timeout = 5'000;
+        if (!copy->saysSomething(timeout)) copy->send(signal);
         EXPECT_EQ(copy->line(), "ended");
         EXPECT_EQ(copy->result(), 0);
     }
@@ -264,8 +264,8 @@ TEST(DBusApplicationTest, TheClickThatStartsItDoesNotReopenIt) {
     session.startBus();
     const auto copy = startForCall(session);
     EXPECT_EQ(click(session).type(), QDBusMessage::ReplyMessage);
-    constexpr int patience = 300;
-    EXPECT_FALSE(copy->saysSomething(patience));
+    constexpr int timeout = 300;
+    EXPECT_FALSE(copy->saysSomething(timeout));
     click(session);
     EXPECT_EQ(copy->line(), "reopened without windows");
 }
@@ -299,8 +299,8 @@ TEST(DBusApplicationTest, WhatTheBusStartedInVainLeavesTheCallToTheBus) {
     const auto later = session.startCopy({QStringLiteral("--for-call")});
     EXPECT_EQ(later->line(), "second");
     EXPECT_EQ(later->result(), 0);
-    constexpr int patience = 300;
-    EXPECT_FALSE(first->saysSomething(patience));
+    constexpr int timeout = 300;
+    EXPECT_FALSE(first->saysSomething(timeout));
 }
 
 TEST(DBusApplicationTest, ALauncherIsAnswered) {

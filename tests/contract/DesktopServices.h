@@ -92,7 +92,7 @@ public:
     }
 
     QMap<QString, QStringList> transfers;  ///< The paths, by their keys.
-    int largestMessage = 0;                ///< The most files in one.
+    int maximumMessage = 0;                ///< The most files in one.
 
 public slots:
     QString StartTransfer(const QVariantMap& options) {
@@ -102,7 +102,7 @@ public slots:
     }
     void AddFiles(const QString& key, const QList<QDBusUnixFileDescriptor>& files,
                   const QVariantMap&) {
-        largestMessage = std::max(largestMessage, static_cast<int>(files.size()));
+        maximumMessage = std::max(maximumMessage, static_cast<int>(files.size()));
         for (const auto& file : files)
             transfers[key] << QFile::symLinkTarget(
                 QStringLiteral("/proc/self/fd/%1").arg(file.fileDescriptor()));

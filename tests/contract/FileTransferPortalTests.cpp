@@ -65,7 +65,7 @@ TEST_F(FileTransferPortalTest, ProgramsInASandboxGetAKeyForTheFiles) {
 TEST_F(FileTransferPortalTest, ManyFilesArePassedInSeveralMessages) {
     EXPECT_EQ(FileTransferPortal(bus.connect()).keyFor(save(40)), "key 1");
     EXPECT_EQ(portal->transfers[QStringLiteral("key 1")].size(), 40);
-    EXPECT_EQ(portal->largestMessage, 16);
+    EXPECT_EQ(portal->maximumMessage, 16);
 }
 
 TEST_F(FileTransferPortalTest, WhereThereIsNoneNothingIsOffered) {

@@ -21,9 +21,9 @@ protected:
     }
 
     /// Nothing without an answer.
-    std::optional<bool> wait(std::chrono::milliseconds patience) {
+    std::optional<bool> wait(std::chrono::milliseconds timeout) {
         std::optional<bool> answer;
-        use->wait(patience, [&](bool wasUsed) { answer = wasUsed; });
+        use->wait(timeout, [&](bool wasUsed) { answer = wasUsed; });
         EXPECT_FALSE(answer) << "told inside the call";
         EXPECT_TRUE(runUntil([&] { return answer.has_value(); }));
         return answer;

@@ -83,17 +83,17 @@ TEST_F(PortalAppearanceTest, AnAccentOutsideOfTheRangeIsNone) {
 TEST_F(PortalAppearanceTest, EachDesktopCanAskForLessMotion) {
     const QString gnome = QStringLiteral("org.gnome.desktop.interface");
     const QString kde = QStringLiteral("org.kde.kdeglobals.KDE");
-    struct Wish {
+    struct UpdateCriteria {
         QString space;
         QString key;
         QVariant reduced;
         QVariant usual;
     };
     for (const auto& [space, key, reduced, usual] :
-         {Wish{appearance, QStringLiteral("reduced-motion"), 1U, 0U},
-          Wish{gnome, QStringLiteral("enable-animations"), false, true},
-          Wish{kde, QStringLiteral("AnimationDurationFactor"), QStringLiteral("0"),
-               QStringLiteral("1.5")}}) {
+         {UpdateCriteria{appearance, QStringLiteral("reduced-motion"), 1U, 0U},
+          UpdateCriteria{gnome, QStringLiteral("enable-animations"), false, true},
+          UpdateCriteria{kde, QStringLiteral("AnimationDurationFactor"), QStringLiteral("0"),
+                         QStringLiteral("1.5")}}) {
         EXPECT_FALSE(look().reducesMotion);
         portal.set(space, key, reduced);
         EXPECT_TRUE(runUntil([this] { return look().reducesMotion; })) << key.toStdString();

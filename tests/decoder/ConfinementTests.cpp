@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "fakes/CapturedLog.h"
-#include "platform/linux/SystemFacts.h"
+#include "platform/linux/SystemReport.h"
 #include "samples/Samples.h"
 
 namespace vantle {
@@ -65,9 +65,9 @@ INSTANTIATE_TEST_SUITE_P(Guards, ConfinementWithout,
 TEST(Confinement, ReportsOfFaultsTellTheGuardsThatAreInForce) {
     if (!hasLandlock()) GTEST_SKIP() << "this kernel lacks Landlock";
     const std::string all = "png, jpeg, gif, tiff, heic, webp, pdf, recording; ";
-    const auto guards = [&](const char* decoder) { return decoderFacts(decoder).back(); };
+    const auto guards = [&](const char* decoder) { return decoderReport(decoder).back(); };
     EXPECT_EQ(guards(VANTLE_DECODER),
-              (Fact{"decoders", all + "Landlock in force, seccomp in force"}));
+              (ReportLine{"decoders", all + "Landlock in force, seccomp in force"}));
     EXPECT_EQ(guards(VANTLE_WITHOUT_LANDLOCK).value, all + "Landlock missing, seccomp in force");
     EXPECT_EQ(guards(VANTLE_WITHOUT_SECCOMP).value, all + "Landlock in force, seccomp missing");
 }

@@ -94,9 +94,9 @@ TEST_F(DecoderLifetime, ItGoesWhenNothingIsAskedOfItAndComesBack) {
 }
 
 TEST_F(DecoderLifetime, OneThatHangsIsKilledAndTheNextFileGetsItsPicture) {
-    DecodingPatience patience;
-    patience.image = 700ms;
-    Loader loader(1, patience);
+    DecodingTimeouts timeout;
+    timeout.image = 700ms;
+    Loader loader(1, timeout);
     const auto image = loader.openImage(file("endless.pdf"));
     ASSERT_NE(image, nullptr);
     EXPECT_EQ(image->draw(usual), nullptr);
@@ -106,9 +106,9 @@ TEST_F(DecoderLifetime, OneThatHangsIsKilledAndTheNextFileGetsItsPicture) {
 }
 
 TEST_F(DecoderLifetime, OneThatStopsAnsweringIsKilled) {
-    DecodingPatience patience;
-    patience.image = 700ms;
-    Loader loader(1, patience);
+    DecodingTimeouts timeout;
+    timeout.image = 700ms;
+    Loader loader(1, timeout);
     ASSERT_TRUE(opensAndDraws(loader, "rgb.png"));
     ASSERT_EQ(decoders().size(), 1U);
     kill(decoders()[0], SIGSTOP);

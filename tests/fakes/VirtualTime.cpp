@@ -7,7 +7,7 @@ namespace vantle::fakes {
 namespace {
 
 // More than a test does in a day of its time.
-constexpr int mostPieces = 5'000'000;
+constexpr int maximumPieces = 5'000'000;
 
 class ManualTimer final : public Timer, public std::enable_shared_from_this<ManualTimer> {
 public:
@@ -60,7 +60,8 @@ void VirtualTime::cancel(std::uint64_t key) {
 void VirtualTime::advance(Seconds duration) {
     const Instant end = now_ + duration;
     for (int pieces = 0; !waiting_.empty() && waiting_.begin()->first.at <= end; ++pieces) {
-        if (pieces == mostPieces) throw std::logic_error("work that makes itself due without end");
+        if (pieces == maximumPieces)
+            throw std::logic_error("work that makes itself due without end");
         auto next = waiting_.extract(waiting_.begin());
         now_ = std::max(now_, next.key().at);
         next.mapped()();

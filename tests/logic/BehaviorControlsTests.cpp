@@ -103,8 +103,8 @@ TEST_F(BehaviorControlsTest, TheToggleFollowsTheSettingsWhenItAppears) {
 
 TEST_F(BehaviorControlsTest, TheSliderNeverOffersValuesBelow3OrAbove120) {
     const BehaviorControls controls(settings, scheduler);
-    EXPECT_EQ(BehaviorControls::shortest, 3);
-    EXPECT_EQ(BehaviorControls::longest, 120);
+    EXPECT_EQ(BehaviorControls::minimum, 3);
+    EXPECT_EQ(BehaviorControls::maximum, 120);
     EXPECT_EQ(controls.sliderValue(), 3);
     settings.dismissAfter.set(500);
     EXPECT_EQ(controls.sliderValue(), 120);

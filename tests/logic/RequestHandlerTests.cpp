@@ -114,7 +114,7 @@ TEST_F(RequestHandlerTest, TellsWhatItIsDoing) {
 }
 
 TEST_F(RequestHandlerTest, TheVerboseStatusTellsWhatAReportOfAFaultNeedsButNoPath) {
-    platform.surroundings = [] { return std::vector<Fact>{{"tray", "on D-Bus"}}; };
+    platform.surroundings = [] { return std::vector<ReportLine>{{"tray", "on D-Bus"}}; };
     domain->values["location"] = std::string("/home/user/Clients");
     (void)files->createDirectory(Url::file("/home/user/Clients"));
     launch();

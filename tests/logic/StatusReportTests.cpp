@@ -16,9 +16,8 @@ using testing::EndsWith;
 using testing::HasSubstr;
 
 TEST(StatusReport, HasALineForEachFact) {
-    EXPECT_EQ(reportLines({{"state", "watching"}, {"tray", "none"}}),
-              "state: watching\ntray: none");
-    EXPECT_EQ(reportLines({}), "");
+    EXPECT_EQ(reportText({{"state", "watching"}, {"tray", "none"}}), "state: watching\ntray: none");
+    EXPECT_EQ(reportText({}), "");
 }
 
 TEST(StatusReport, SaysWhereAFolderIsWithoutItsName) {
@@ -38,24 +37,24 @@ TEST(StatusReport, TellsWhatTheUserHasChosen) {
     fakes::SettingsOnFakes onFakes;
     onFakes.settings.dismissAfter.set(25);
     onFakes.settings.corner.set(PanelCorner::topLeft);
-    const Fact fact = settingsFact(onFakes.settings);
-    EXPECT_EQ(fact.name, "settings");
-    EXPECT_THAT(fact.value, HasSubstr("corner topLeft, dismissAfter 25, "));
-    EXPECT_THAT(fact.value, HasSubstr("showRecordings yes, copyOnCapture no"));
+    const ReportLine line = settingsLine(onFakes.settings);
+    EXPECT_EQ(line.name, "settings");
+    EXPECT_THAT(line.value, HasSubstr("corner topLeft, dismissAfter 25, "));
+    EXPECT_THAT(line.value, HasSubstr("showRecordings yes, copyOnCapture no"));
 }
 
 TEST(StatusReport, TellsTheMessagesOfTheLogWithTheirTimes) {
-    EXPECT_THAT(logFacts({}, Paths::shown), ElementsAre(Fact{"log", "empty"}));
+    EXPECT_THAT(logReport({}, Paths::shown), ElementsAre(ReportLine{"log", "empty"}));
     const std::vector<LoggedMessage> messages{{{}, "Vantle: cannot watch /a b", "missing"}};
-    EXPECT_THAT(logFacts(messages, Paths::shown)[0].value,
+    EXPECT_THAT(logReport(messages, Paths::shown)[0].value,
                 EndsWith(" Vantle: cannot watch /a b: missing"));
-    EXPECT_THAT(logFacts(messages, Paths::hidden)[0].value,
+    EXPECT_THAT(logReport(messages, Paths::hidden)[0].value,
                 EndsWith(" Vantle: cannot watch (path): missing"));
 }
 
 TEST(StatusReport, HidesThePathOfAReasonAsWell) {
     const std::vector<LoggedMessage> messages{{{}, "cannot read /a: b", "not in “/home/anna”"}};
-    EXPECT_THAT(logFacts(messages, Paths::hidden)[0].value,
+    EXPECT_THAT(logReport(messages, Paths::hidden)[0].value,
                 EndsWith(" cannot read (path): not in “(path)"));
 }
 
@@ -66,7 +65,7 @@ TEST(StatusReport, TellsTheTimeAsTheClockOnTheWallShowsIt) {
     tzset();
     const std::vector<LoggedMessage> messages{
         {std::chrono::system_clock::from_time_t(1'700'000'000), "a message"}};
-    EXPECT_EQ(logFacts(messages, Paths::shown)[0].value, "2023-11-15 00:43:20 a message");
+    EXPECT_EQ(logReport(messages, Paths::shown)[0].value, "2023-11-15 00:43:20 a message");
     if (former)
         setenv("TZ", zone.c_str(), 1);
     else

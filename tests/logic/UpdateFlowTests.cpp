@@ -12,7 +12,7 @@
 #include "fakes/FakeUserDefaults.h"
 #include "fakes/FakeWindow.h"
 #include "fakes/VirtualTime.h"
-#include "updates/UpdateFlow.h"
+#include "updateflow/UpdateFlow.h"
 
 namespace vantle {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "fakes/FakeUserDefaults.h"
 #include "fakes/VirtualTime.h"
-#include "updates/UpdateSchedule.h"
+#include "updateflow/UpdateSchedule.h"
 
 namespace vantle {
 namespace {

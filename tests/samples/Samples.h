@@ -20,9 +20,9 @@ inline Url file(const std::string& name) {
 /// The decoder that was built, for a screen of so many pixels a point.
 class Loader final : public MediaLoader {
 public:
-    explicit Loader(double pixelsPerPoint = 1, DecodingPatience patience = {})
+    explicit Loader(double pixelsPerPoint = 1, DecodingTimeouts timeout = {})
         : loader_(
-              VANTLE_DECODER, [pixelsPerPoint] { return pixelsPerPoint; }, patience) {}
+              VANTLE_DECODER, [pixelsPerPoint] { return pixelsPerPoint; }, timeout) {}
 
     std::unique_ptr<ImageFile> openImage(const Url& url) override { return loader_.openImage(url); }
     std::unique_ptr<ImageFile> holdImage(const Url& url) override { return loader_.holdImage(url); }

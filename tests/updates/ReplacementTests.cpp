@@ -11,10 +11,10 @@
 #include "contract/TextFile.h"
 #include "updater/Archive.h"
 #include "updater/Installation.h"
+#include "updater/InstalledTree.h"
 #include "updater/Preparation.h"
 #include "updater/Replacement.h"
 #include "updater/Staging.h"
-#include "updater/Tree.h"
 
 namespace vantle::updater {
 namespace {

@@ -3,7 +3,7 @@
 #include <utility>
 #include <vector>
 
-#include "updates/UpdateFlow.h"
+#include "updateflow/UpdateFlow.h"
 
 namespace vantle {
 

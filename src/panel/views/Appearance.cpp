@@ -51,8 +51,8 @@ double Appearance::fontPoints(double pixels) {
 
 double Appearance::textScale() const {
     constexpr double ownPixels = 13;
-    constexpr double largest = 3;
-    return std::clamp(QFontInfo(QGuiApplication::font()).pixelSize() / ownPixels, 1.0, largest);
+    constexpr double maximum = 3;
+    return std::clamp(QFontInfo(QGuiApplication::font()).pixelSize() / ownPixels, 1.0, maximum);
 }
 
 bool Appearance::eventFilter(QObject* object, QEvent* event) {

@@ -15,7 +15,7 @@ namespace {
 
 constexpr double dragThreshold = 3;  // points; a drag is more than that
 constexpr double pileOffset = 6;     // points from each item of a pile to the next
-constexpr std::size_t mostOffsets = 4;
+constexpr std::size_t maximumOffsets = 4;
 constexpr int iconSize = 256;  // pixels
 
 /// Stands for a file of which the desktop has no picture either.
@@ -91,7 +91,7 @@ std::vector<DraggingItem> DragThumbnailView::draggingItems(
     const QRectF base = fittedRect(preview(items.front()).size(), bounds);
     std::vector<DraggingItem> dragged;
     for (std::size_t i = 0; i < items.size(); ++i) {
-        const double offset = pileOffset * static_cast<double>(std::min(i, mostOffsets));
+        const double offset = pileOffset * static_cast<double>(std::min(i, maximumOffsets));
         dragged.push_back({items[i].url, preview(items[i]), base.translated(offset, offset)});
     }
     return dragged;

@@ -7,7 +7,7 @@ namespace vantle {
 namespace {
 
 /// Others hand it over, on the bus.
-constexpr qsizetype longestToken = 1024;
+constexpr qsizetype maximumTokenLength = 1024;
 
 /// In the environment, and in platform data. The first one that there is counts.
 constexpr std::array names = {std::pair{"XDG_ACTIVATION_TOKEN", "activation-token"},
@@ -29,7 +29,7 @@ QVariantMap readEnvironment() {
 }  // namespace
 
 void keepActivationToken(const QString& token) {
-    if (token.size() <= longestToken) keptToken() = token;
+    if (token.size() <= maximumTokenLength) keptToken() = token;
 }
 
 QString takeActivationToken() {

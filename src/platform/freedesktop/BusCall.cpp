@@ -8,7 +8,7 @@ namespace vantle {
 
 void callBus(const QDBusConnection& bus, const QDBusMessage& message, QObject& owner,
              std::function<void(const QDBusMessage& reply)> answered,
-             std::chrono::milliseconds patience) {
+             std::chrono::milliseconds timeout) {
     // Without a bus nothing would ever answer, not even that there is none.
     if (!bus.isConnected()) {
         answered(message.createErrorReply(QDBusError::Disconnected,
@@ -16,7 +16,7 @@ void callBus(const QDBusConnection& bus, const QDBusMessage& message, QObject& o
         return;
     }
     auto* call = new QDBusPendingCallWatcher(
-        bus.asyncCall(message, static_cast<int>(patience.count())), &owner);
+        bus.asyncCall(message, static_cast<int>(timeout.count())), &owner);
     QObject::connect(call, &QDBusPendingCallWatcher::finished, &owner,
                      [call, answered = std::move(answered)] {
                          call->deleteLater();

@@ -10,11 +10,11 @@ class QObject;
 namespace vantle {
 
 /// Sends a message and calls `answered` once, on the main thread, with the reply or the error: at
-/// once where there is no bus, else when it comes or `patience` is over. Not any more once `owner`
+/// once where there is no bus, else when it comes or `timeout` is over. Not any more once `owner`
 /// has gone.
 void callBus(const QDBusConnection& bus, const QDBusMessage& message, QObject& owner,
              std::function<void(const QDBusMessage& reply)> answered,
-             std::chrono::milliseconds patience = std::chrono::seconds(25));
+             std::chrono::milliseconds timeout = std::chrono::seconds(25));
 
 inline bool isError(const QDBusMessage& reply) {
     return reply.type() != QDBusMessage::ReplyMessage;

@@ -17,9 +17,9 @@ namespace {
 using Descriptors = QList<QDBusUnixFileDescriptor>;
 
 const QString service = QStringLiteral("org.freedesktop.portal.Documents");
-constexpr int patience = 1000;  // milliseconds; another program waits for the answer
+constexpr int timeout = 1000;  // milliseconds; another program waits for the answer
 // The bus carries no more in one message.
-constexpr std::size_t mostAtOnce = 16;
+constexpr std::size_t maximumAtOnce = 16;
 
 QDBusMessage call(const char* method) {
     return QDBusMessage::createMethodCall(
@@ -29,7 +29,7 @@ QDBusMessage call(const char* method) {
 
 Descriptors opened(const std::vector<Url>& files, std::size_t from) {
     Descriptors descriptors;
-    for (std::size_t i = from; i < std::min(files.size(), from + mostAtOnce); ++i) {
+    for (std::size_t i = from; i < std::min(files.size(), from + maximumAtOnce); ++i) {
         const FileDescriptor file(open(files[i].path().c_str(), O_PATH | O_CLOEXEC));
         if (file) descriptors << QDBusUnixFileDescriptor(file.get());
     }
@@ -47,13 +47,13 @@ QByteArray FileTransferPortal::keyFor(const std::vector<Url>& files) const {
     auto start = call("StartTransfer");
     // Whoever pastes twice asks twice.
     start << QVariantMap{{QStringLiteral("autostop"), false}};
-    const QDBusMessage started = bus_.call(start, QDBus::Block, patience);
+    const QDBusMessage started = bus_.call(start, QDBus::Block, timeout);
     if (isError(started)) return {};
     const QString key = started.arguments().value(0).toString();
-    for (std::size_t i = 0; i < files.size(); i += mostAtOnce) {
+    for (std::size_t i = 0; i < files.size(); i += maximumAtOnce) {
         auto add = call("AddFiles");
         add << key << QVariant::fromValue(opened(files, i)) << QVariantMap();
-        if (isError(bus_.call(add, QDBus::Block, patience))) return {};
+        if (isError(bus_.call(add, QDBus::Block, timeout))) return {};
     }
     return key.toUtf8();
 }

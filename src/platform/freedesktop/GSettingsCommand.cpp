@@ -8,7 +8,7 @@
 namespace vantle {
 namespace {
 
-constexpr int patience = 3000;  // milliseconds
+constexpr int timeout = 3000;  // milliseconds
 
 Result<QString> run(const QStringList& arguments) {
     QProcess process;
@@ -18,7 +18,7 @@ Result<QString> run(const QStringList& arguments) {
     process.setProcessEnvironment(environment);
     process.setStandardInputFile(QProcess::nullDevice());
     process.start(QStringLiteral("gsettings"), arguments);
-    if (!process.waitForFinished(patience)) {
+    if (!process.waitForFinished(timeout)) {
         const Failure failure{ETIME, process.errorString().toStdString(), {}};
         process.kill();
         process.waitForFinished();

@@ -18,8 +18,8 @@
 namespace vantle {
 namespace {
 
-constexpr int patience = 3000;  // milliseconds
-constexpr std::size_t longestMessage = std::size_t{64} * 1024;
+constexpr int timeout = 3000;  // milliseconds
+constexpr std::size_t maximumMessageLength = std::size_t{64} * 1024;
 
 /// Absent when the path is longer than an address can hold.
 std::optional<sockaddr_un> address(const std::string& path) {
@@ -75,7 +75,7 @@ bool RuntimeSocket::listen() {
 }
 
 void RuntimeSocket::answerCalls() const {
-    std::string message(longestMessage, '\0');
+    std::string message(maximumMessageLength, '\0');
     for (;;) {
         sockaddr_un caller{};
         socklen_t length = sizeof caller;
@@ -103,8 +103,8 @@ Result<std::string> RuntimeSocket::call(const std::string& message) const {
         return systemFailure(isNobodyThere ? ESRCH : errno, socketPath_);
     }
     pollfd readable{caller.get(), POLLIN, 0};
-    if (poll(&readable, 1, patience) <= 0) return systemFailure(ETIMEDOUT, socketPath_);
-    std::string answer(longestMessage, '\0');
+    if (poll(&readable, 1, timeout) <= 0) return systemFailure(ETIMEDOUT, socketPath_);
+    std::string answer(maximumMessageLength, '\0');
     const ssize_t size = recv(caller.get(), answer.data(), answer.size(), 0);
     if (size < 0) return systemFailure(errno, socketPath_);
     answer.resize(static_cast<std::size_t>(size));

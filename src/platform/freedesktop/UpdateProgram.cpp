@@ -18,9 +18,9 @@ namespace vantle {
 namespace {
 
 // Longer than any report: the notes are the longest part.
-constexpr qsizetype longestLine = 1 << 20;
+constexpr qsizetype maximumLineLength = 1 << 20;
 
-constexpr int patience = 10'000;  // milliseconds, with a program that starts
+constexpr int timeout = 10'000;  // milliseconds, with a program that starts
 
 QString option(const char* name, const std::string& value) {
     return QStringLiteral("--%1=%2").arg(QLatin1String(name), QString::fromStdString(value));
@@ -112,7 +112,7 @@ Outcome UpdateProgram::relaunch(const UpdateItem& item) {
     // This copy must not end before it is sure that another one begins.
     pollfd waiting{answer.get(), POLLIN, 0};
     char byte = 0;
-    if (poll(&waiting, 1, patience) == 1 && ::read(answer.get(), &byte, 1) == 1) return {};
+    if (poll(&waiting, 1, timeout) == 1 && ::read(answer.get(), &byte, 1) == 1) return {};
     return Failure{ETIME,
                    localized("UpdateProgram", "The program that does updates does not answer."),
                    program_.toStdString()};
@@ -138,7 +138,7 @@ void UpdateProgram::start(const QStringList& arguments, OnReport onReport) {
 }
 
 void UpdateProgram::readLines() {
-    while (process_ && process_->canReadLine()) read(process_->readLine(longestLine));
+    while (process_ && process_->canReadLine()) read(process_->readLine(maximumLineLength));
 }
 
 void UpdateProgram::read(const QByteArray& line) {

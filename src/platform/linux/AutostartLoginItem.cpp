@@ -17,7 +17,7 @@
 namespace vantle {
 namespace {
 
-constexpr std::size_t largestEntry = std::size_t{64} * 1024;
+constexpr std::size_t maximumEntrySize = std::size_t{64} * 1024;
 constexpr std::string_view entryGroup = "Desktop Entry";
 
 /// An argument of an Exec line: in quotes, which themselves and backslash, backquote and dollar are
@@ -105,7 +105,7 @@ AutostartLoginItem::AutostartLoginItem(const std::vector<Url>& folders,
 LoginItem::Status AutostartLoginItem::status() const {
     const auto entry = std::ranges::find_if(entries_, exists);
     if (entry == entries_.end()) return Status::notRegistered;
-    const auto text = readWholeFile(*entry, largestEntry);
+    const auto text = readWholeFile(*entry, maximumEntrySize);
     if (!text) return Status::notRegistered;
     const KeyFile file(text.value());
     if (isSwitchedOff(file)) return Status::refused;

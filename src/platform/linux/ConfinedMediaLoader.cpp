@@ -32,16 +32,16 @@ Format formatNamedBy(const Url& url) {
 
 /// How many of `available` pixels show `points`; 0 available of a vector image, which has any.
 int pixelsFor(double points, double pixelsPerPoint, int available) {
-    constexpr double most = 16'384;
-    const double wanted = std::clamp(std::round(points * pixelsPerPoint), 1.0, most);
+    constexpr double maximum = 16'384;
+    const double wanted = std::clamp(std::round(points * pixelsPerPoint), 1.0, maximum);
     return available > 0 ? static_cast<int>(std::min<double>(wanted, available))
                          : static_cast<int>(wanted);
 }
 
 /// The decoder may say anything once a file has taken it over: what it gives is looked at.
 bool isSensible(double length) {
-    constexpr double longest = 1e9;
-    return length >= 0 && length <= longest;
+    constexpr double maximum = 1e9;
+    return length >= 0 && length <= maximum;
 }
 
 bool isSensible(Size size) {
@@ -176,30 +176,28 @@ private:
 
 /// Null when there is no regular file.
 std::unique_ptr<DecodedFile> imageFile(DecoderSession& session, const Url& url,
-                                       const DecodingPatience& patience) {
+                                       const DecodingTimeouts& timeout) {
     FileDescriptor descriptor = openRegular(url);
     if (!descriptor) return nullptr;
     return std::make_unique<DecodedFile>(
-        session, OpenedFile{std::move(descriptor), formatNamedBy(url), Operation::openImage,
-                            patience.image});
+        session,
+        OpenedFile{std::move(descriptor), formatNamedBy(url), Operation::openImage, timeout.image});
 }
 
 }  // namespace
 
 ConfinedMediaLoader::ConfinedMediaLoader(std::string program,
                                          std::function<double()> pixelsPerPoint,
-                                         DecodingPatience patience)
-    : session_(std::move(program)),
-      pixelsPerPoint_(std::move(pixelsPerPoint)),
-      patience_(patience) {}
+                                         DecodingTimeouts timeout)
+    : session_(std::move(program)), pixelsPerPoint_(std::move(pixelsPerPoint)), timeout_(timeout) {}
 
 std::unique_ptr<ImageFile> ConfinedMediaLoader::openImage(const Url& url) {
-    auto file = imageFile(session_, url, patience_);
+    auto file = imageFile(session_, url, timeout_);
     return file ? decodedImage(std::move(file), pixelsPerPoint_) : nullptr;
 }
 
 std::unique_ptr<ImageFile> ConfinedMediaLoader::holdImage(const Url& url) {
-    auto file = imageFile(session_, url, patience_);
+    auto file = imageFile(session_, url, timeout_);
     if (!file) return nullptr;
     return std::make_unique<HeldImage>(std::move(file), pixelsPerPoint_);
 }
@@ -209,7 +207,7 @@ std::unique_ptr<RecordingFile> ConfinedMediaLoader::openRecording(const Url& url
     if (!descriptor) return nullptr;
     auto file = std::make_unique<DecodedFile>(
         session_, OpenedFile{std::move(descriptor), Format::recording, Operation::openRecording,
-                             patience_.recording});
+                             timeout_.recording});
     const auto reply = file->open();
     const bool isUsable = reply && (std::isnan(reply->duration) || isSensible(reply->duration));
     if (!isUsable) return nullptr;

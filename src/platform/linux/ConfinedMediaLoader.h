@@ -12,7 +12,7 @@
 namespace vantle {
 
 /// How long a file may take to be opened, and then to be drawn.
-struct DecodingPatience {
+struct DecodingTimeouts {
     std::chrono::milliseconds image = std::chrono::seconds(10);
     std::chrono::milliseconds recording = std::chrono::seconds(20);
 };
@@ -28,7 +28,7 @@ public:
     /// `program` is the decoder's path; `pixelsPerPoint` tells what the densest screen has, and is
     /// called on the thread that draws.
     ConfinedMediaLoader(std::string program, std::function<double()> pixelsPerPoint,
-                        DecodingPatience patience = {});
+                        DecodingTimeouts timeout = {});
 
     std::unique_ptr<ImageFile> openImage(const Url& url) override;
     std::unique_ptr<ImageFile> holdImage(const Url& url) override;
@@ -37,7 +37,7 @@ public:
 private:
     DecoderSession session_;
     const std::function<double()> pixelsPerPoint_;
-    const DecodingPatience patience_;
+    const DecodingTimeouts timeout_;
 };
 
 }  // namespace vantle

@@ -73,7 +73,7 @@ DecoderProcess::DecoderProcess(FileDescriptor socket, FileDescriptor process, Fo
 
 Result<std::unique_ptr<DecoderProcess>> DecoderProcess::start(const std::string& program,
                                                               Format format,
-                                                              std::chrono::milliseconds patience) {
+                                                              std::chrono::milliseconds timeout) {
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0)
         return systemFailure(errno, program);
@@ -84,11 +84,11 @@ Result<std::unique_ptr<DecoderProcess>> DecoderProcess::start(const std::string&
         return systemFailure(error, program);
     theirs.reset();
     // The process that was spawned leaves the work to a child, of which it tells us, and ends.
-    auto hello = receive<Hello>(ours.get(), patience);
+    auto hello = receive<Hello>(ours.get(), timeout);
     if (!hello) ::kill(first, SIGKILL);
     while (waitpid(first, nullptr, 0) < 0 && errno == EINTR) continue;
     if (!hello || !hello->descriptor) return systemFailure(ECHILD, program);
-    const auto ready = receive<Ready>(ours.get(), patience);
+    const auto ready = receive<Ready>(ours.get(), timeout);
     std::unique_ptr<DecoderProcess> started(
         new DecoderProcess(std::move(ours), std::move(hello->descriptor), format,
                            ready ? ready->message.missingGuards : 0));
@@ -98,11 +98,11 @@ Result<std::unique_ptr<DecoderProcess>> DecoderProcess::start(const std::string&
 }
 
 std::optional<DecoderProcess::Answer> DecoderProcess::ask(const Request& request, int descriptor,
-                                                          std::chrono::milliseconds patience) {
-    const auto end = std::chrono::steady_clock::now() + patience;
+                                                          std::chrono::milliseconds timeout) {
+    const auto end = std::chrono::steady_clock::now() + timeout;
     silence_ = Silence::gone;
     if (!send(socket_.get(), request, descriptor)) return std::nullopt;
-    if (auto received = receive<Reply>(socket_.get(), patience))
+    if (auto received = receive<Reply>(socket_.get(), timeout))
         return Answer{received->message, std::move(received->descriptor)};
     silence_ = std::chrono::steady_clock::now() < end ? Silence::died : Silence::tooLong;
     return std::nullopt;

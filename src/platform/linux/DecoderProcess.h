@@ -15,11 +15,11 @@ namespace vantle {
 /// this object goes, ten seconds after the last request, or when it is killed.
 class DecoderProcess {
 public:
-    /// Returns when the decoder has given up its rights. It may take `patience` to be a process,
+    /// Returns when the decoder has given up its rights. It may take `timeout` to be a process,
     /// and again to be ready: its libraries may come from a cold disk.
     static Result<std::unique_ptr<DecoderProcess>> start(
         const std::string& program, Format format,
-        std::chrono::milliseconds patience = std::chrono::seconds(10));
+        std::chrono::milliseconds timeout = std::chrono::seconds(10));
 
     Format format() const { return format_; }
 
@@ -36,9 +36,9 @@ public:
         FileDescriptor memory;
     };
 
-    /// Absent when the decoder has ended, or has not answered within `patience`: kill it then.
+    /// Absent when the decoder has ended, or has not answered within `timeout`: kill it then.
     std::optional<Answer> ask(const decoder::Request& request, int descriptor,
-                              std::chrono::milliseconds patience);
+                              std::chrono::milliseconds timeout);
 
     /// Has it let go of the file that it opened. Waits for nothing; one that has ended holds none.
     void closeFile();

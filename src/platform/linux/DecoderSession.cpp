@@ -17,8 +17,8 @@ bool isOpenedBy(Operation opening, Format format) {
 }  // namespace
 
 std::optional<Reply> DecoderSession::open(OpenedFile& file) {
-    constexpr int mostFormats = 2;  // what the name says, then what the contents say
-    for (int i = 0; i < mostFormats; ++i) {
+    constexpr int maximumFormats = 2;  // what the name says, then what the contents say
+    for (int i = 0; i < maximumFormats; ++i) {
         current_ = nullptr;
         const auto answer = exchange(file, {.operation = file.opening});
         if (!answer) return std::nullopt;
@@ -72,7 +72,7 @@ std::optional<DecoderProcess::Answer> DecoderSession::exchangeOnce(const OpenedF
         current_ = &file;
     }
     if (isOpening) ++filesOpened_;
-    auto answer = process_->ask(request, isOpening ? file.descriptor.get() : -1, file.patience);
+    auto answer = process_->ask(request, isOpening ? file.descriptor.get() : -1, file.timeout);
     if (answer) return answer;
     silence_ = process_->silence();
     process_->kill();

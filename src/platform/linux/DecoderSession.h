@@ -14,7 +14,7 @@ struct OpenedFile {
     FileDescriptor descriptor;
     Format format = Format::png;
     decoder::Operation opening = decoder::Operation::openImage;
-    std::chrono::milliseconds patience{};
+    std::chrono::milliseconds timeout{};
 };
 
 /// Keeps one decoder running while there is work for it, and starts another when that one has

@@ -12,7 +12,7 @@
 namespace vantle {
 namespace {
 
-constexpr std::size_t largestFile = std::size_t{1024} * 1024;
+constexpr std::size_t maximumFileSize = std::size_t{1024} * 1024;
 
 }  // namespace
 
@@ -39,7 +39,7 @@ bool IniFile::canBeRead() const {
 }
 
 Result<IniDocument> IniFile::read() const {
-    const auto text = readWholeFile(file_, largestFile);
+    const auto text = readWholeFile(file_, maximumFileSize);
     const int failure = text ? 0 : text.failure().code;
     if (failure == ENOENT) return IniDocument();
     const bool isNoSettingsFile = failure == EFBIG || failure == EISDIR;

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int mostLinks = 40;  // as the kernel's own limit
+constexpr int maximumLinks = 40;  // as the kernel's own limit
 
 /// Those that ask a server, and those that ask a program. A disk whose file system is a program's
 /// ("fuseblk") is at hand all the same.
@@ -75,7 +75,7 @@ MountTable::Kind MountTable::kindBehindLinks(const Url& url) const {
         std::error_code noLink;
         const fs::path target =
             kindOf(next) == Kind::own ? fs::read_symlink(next, noLink) : fs::path();
-        if (target.empty() || ++links > mostLinks) {
+        if (target.empty() || ++links > maximumLinks) {
             place = next;
             continue;
         }

@@ -158,11 +158,11 @@ void PollQueue::after(Seconds delay, Work work) {
     loop_->add(delay, std::move(work));
 }
 
-bool PollQueue::isIdleWithin(Seconds patience) const {
+bool PollQueue::isIdleWithin(Seconds timeout) const {
     const auto done = std::make_shared<std::promise<void>>();
     const auto isDone = done->get_future();
     loop_->add(Seconds(0), [done] { done->set_value(); });
-    return isDone.wait_for(patience) == std::future_status::ready;
+    return isDone.wait_for(timeout) == std::future_status::ready;
 }
 
 std::shared_ptr<PollQueue::Descriptors> PollQueue::descriptors() const {

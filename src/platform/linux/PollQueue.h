@@ -20,9 +20,9 @@ public:
     void async(Work work) override;
     void after(Seconds delay, Work work) override;
 
-    /// Whether all that is due has been done before `patience` ends. Waits for it, so this is for
+    /// Whether all that is due has been done before `timeout` ends. Waits for it, so this is for
     /// the end of the program: what never comes back would keep the destructor from returning.
-    bool isIdleWithin(Seconds patience) const;
+    bool isIdleWithin(Seconds timeout) const;
 
     /// Where backends register descriptors. Shared with them, so that one of them may outlive the
     /// queue; after the queue has ended it calls nothing any more.

@@ -20,7 +20,7 @@ namespace vantle {
 namespace {
 
 constexpr std::string_view infoExtension = ".trashinfo";
-constexpr int mostNames = 100'000;
+constexpr int maximumNames = 100'000;
 
 /// What becomes of the file once its information is written. Gives the system's error number, 0
 /// when it worked; EEXIST when the name is taken.
@@ -88,7 +88,7 @@ int moveAs(const TrashFolder& trash, const std::string& name, const std::string&
 
 Outcome moveInto(const TrashFolder& trash, const std::string& path, const Transfer& transfer) {
     const std::string text = infoText(trash, path);
-    for (int attempt = 1; attempt <= mostNames; ++attempt) {
+    for (int attempt = 1; attempt <= maximumNames; ++attempt) {
         const int error = moveAs(trash, attemptedName(Url::file(path), attempt), text, transfer);
         if (error == 0) return {};
         if (error != EEXIST) return systemFailure(error, path);

@@ -19,7 +19,7 @@ namespace vantle {
 namespace {
 
 constexpr mode_t newFileMode = 0644;
-constexpr int mostKeptAside = 1000;
+constexpr int maximumKeptAside = 1000;
 
 /// Where a symbolic link leads to; the file itself when it is none.
 Url target(const Url& file) {
@@ -95,7 +95,7 @@ Outcome replaceWholeFile(const Url& file, std::string_view contents, Durability 
 }
 
 Result<Url> keepAside(const Url& file) {
-    for (int number = 1; number <= mostKeptAside; ++number) {
+    for (int number = 1; number <= maximumKeptAside; ++number) {
         const std::string suffix = number == 1 ? "" : "-" + std::to_string(number);
         const Url aside = Url::file(file.path() + ".damaged" + suffix);
         if (renameat2(AT_FDCWD, file.path().c_str(), AT_FDCWD, aside.path().c_str(),

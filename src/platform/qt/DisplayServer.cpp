@@ -35,7 +35,7 @@ std::string DisplayServer::name() const {
     return QGuiApplication::platformName().toStdString();
 }
 
-std::vector<Fact> DisplayServer::facts() const {
+std::vector<ReportLine> DisplayServer::report() const {
     return {{"display server", name()},
             {"blur behind windows", offersBlur() ? "offered" : "not offered"}};
 }

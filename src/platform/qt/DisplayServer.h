@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Fact.h"
+#include "platform/ReportLine.h"
 #include "platform/qt/DragSupport.h"
 #include "platform/qt/EmbeddedIcon.h"
 #include "platform/qt/MenuPlacement.h"
@@ -46,7 +46,7 @@ public:
     /// Its name in a few words; where it is not the one of the session, why.
     virtual std::string name() const;
     /// Itself, who manages the windows, and who composes them, as far as each tells.
-    virtual std::vector<Fact> facts() const;
+    virtual std::vector<ReportLine> report() const;
     /// Whether the connection to it is lost.
     virtual bool isLost() const { return false; }
 

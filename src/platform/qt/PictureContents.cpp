@@ -26,12 +26,12 @@ const QString bmp = QStringLiteral("image/bmp");
 constexpr double pixelsPerPointOfVectors = 2;
 
 /// All that is in the file from there, or so many bytes of it.
-QByteArray read(int file, qsizetype most, qsizetype from = 0) {
-    QByteArray bytes(most, Qt::Uninitialized);
+QByteArray read(int file, qsizetype maximum, qsizetype from = 0) {
+    QByteArray bytes(maximum, Qt::Uninitialized);
     qsizetype length = 0;
-    while (length < most) {
+    while (length < maximum) {
         const auto count = pread(file, bytes.data() + length,
-                                 static_cast<std::size_t>(most - length), from + length);
+                                 static_cast<std::size_t>(maximum - length), from + length);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return {};
         if (count == 0) break;
@@ -42,10 +42,10 @@ QByteArray read(int file, qsizetype most, qsizetype from = 0) {
 }
 
 /// The last bytes.
-QByteArray readEnd(int file, qsizetype most) {
+QByteArray readEnd(int file, qsizetype maximum) {
     struct stat status {};
     if (fstat(file, &status) != 0) return {};
-    return read(file, most, std::max<qsizetype>(0, status.st_size - most));
+    return read(file, maximum, std::max<qsizetype>(0, status.st_size - maximum));
 }
 
 QByteArray readAll(int file) {

@@ -13,7 +13,7 @@ namespace {
 using Milliseconds = std::chrono::milliseconds;
 
 // Qt counts milliseconds in an int; what waits for longer is looked at again on the way.
-constexpr Seconds longestAlarm = std::chrono::hours(24);
+constexpr Seconds maximumAlarm = std::chrono::hours(24);
 constexpr Seconds shortestInterval = Milliseconds(1);
 
 /// The first turn after `now` of those that follow `last` at this interval.
@@ -138,7 +138,7 @@ void QtScheduler::arm() {
         alarm_.stop();
         return;
     }
-    const Seconds delay = std::clamp(waiting_.begin()->first.at - now(), Seconds(0), longestAlarm);
+    const Seconds delay = std::clamp(waiting_.begin()->first.at - now(), Seconds(0), maximumAlarm);
     alarm_.start(std::chrono::ceil<Milliseconds>(delay));
 }
 

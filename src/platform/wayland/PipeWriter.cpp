@@ -10,7 +10,7 @@
 namespace vantle::wayland {
 namespace {
 
-constexpr auto patience = std::chrono::seconds(30);
+constexpr auto timeout = std::chrono::seconds(30);
 
 }  // namespace
 
@@ -24,9 +24,9 @@ PipeWriter::PipeWriter(FileDescriptor pipe, QByteArray bytes)
       readiness_(pipe_.get(), QSocketNotifier::Write) {
     fcntl(pipe_.get(), F_SETFL, fcntl(pipe_.get(), F_GETFL) | O_NONBLOCK);
     connect(&readiness_, &QSocketNotifier::activated, this, &PipeWriter::write);
-    patience_.setSingleShot(true);
-    patience_.setInterval(patience);
-    connect(&patience_, &QTimer::timeout, this, &QObject::deleteLater);
+    timeout_.setSingleShot(true);
+    timeout_.setInterval(timeout);
+    connect(&timeout_, &QTimer::timeout, this, &QObject::deleteLater);
 }
 
 void PipeWriter::write() {
@@ -34,7 +34,7 @@ void PipeWriter::write() {
         const ssize_t count = ::write(pipe_.get(), bytes_.constData() + written_,
                                       static_cast<std::size_t>(bytes_.size() - written_));
         if (count < 0 && errno == EINTR) continue;
-        if (count < 0 && errno == EAGAIN) return patience_.start();
+        if (count < 0 && errno == EAGAIN) return timeout_.start();
         if (count < 0) break;
         written_ += count;
     }

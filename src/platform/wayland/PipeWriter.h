@@ -24,7 +24,7 @@ private:
     const QByteArray bytes_;
     qsizetype written_ = 0;
     QSocketNotifier readiness_;
-    QTimer patience_;
+    QTimer timeout_;
 };
 
 }  // namespace vantle::wayland

@@ -57,28 +57,28 @@ xcb_atom_t atom(const char* name) {
 
 namespace {
 
-/// `longest` in units of four bytes.
-auto propertyReply(xcb_window_t window, const char* name, uint32_t longest) {
+/// `maximum` is in units of four bytes.
+auto propertyReply(xcb_window_t window, const char* name, uint32_t maximum) {
     return owned(xcb_get_property_reply(
         connection(),
-        xcb_get_property(connection(), false, window, atom(name), XCB_ATOM_ANY, 0, longest),
+        xcb_get_property(connection(), false, window, atom(name), XCB_ATOM_ANY, 0, maximum),
         nullptr));
 }
 
 }  // namespace
 
 std::vector<uint32_t> cardinals(xcb_window_t window, const char* name) {
-    constexpr uint32_t most = 16'384;
+    constexpr uint32_t maximum = 16'384;
     constexpr uint8_t bits = 32;
-    const auto reply = propertyReply(window, name, most);
+    const auto reply = propertyReply(window, name, maximum);
     if (!reply || reply->format != bits) return {};
     const auto* first = static_cast<const uint32_t*>(xcb_get_property_value(reply.get()));
     return {first, first + reply->value_len};
 }
 
 std::string property(xcb_window_t window, const char* name) {
-    constexpr uint32_t longest = 64;
-    const auto reply = propertyReply(window, name, longest);
+    constexpr uint32_t maximum = 64;
+    const auto reply = propertyReply(window, name, maximum);
     if (!reply) return {};
     return {static_cast<const char*>(xcb_get_property_value(reply.get())),
             static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};

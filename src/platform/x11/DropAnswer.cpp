@@ -12,7 +12,7 @@
 namespace vantle::x11 {
 namespace {
 
-constexpr auto patience = std::chrono::seconds(20);
+constexpr auto timeout = std::chrono::seconds(20);
 // From this version of the protocol on the answer says whether it was taken; before it, there is
 // one only if it was.
 constexpr std::uint32_t versionWithAnswer = 5;
@@ -32,7 +32,7 @@ public:
     Watch() {
         QCoreApplication::instance()->installNativeEventFilter(this);
         limit_.setSingleShot(true);
-        limit_.setInterval(patience);
+        limit_.setInterval(timeout);
         connect(&limit_, &QTimer::timeout, this, [this] { answer(false); });
     }
 

@@ -39,7 +39,7 @@ std::string Server::name() const {
     return reason.empty() ? "X11 through XWayland" : "X11 through XWayland: " + reason;
 }
 
-std::vector<Fact> Server::facts() const {
+std::vector<ReportLine> Server::report() const {
     return {{"display server", name() + ", " + vendorAndRelease()},
             {"window manager", windowManager()},
             {"compositor", isComposited() ? "yes" : "none"},

@@ -15,7 +15,7 @@ public:
     explicit Server(std::function<std::string()> whyNotNative);
 
     std::string name() const override;
-    std::vector<Fact> facts() const override;
+    std::vector<ReportLine> report() const override;
     bool isLost() const override;
 
     std::unique_ptr<Overlay> makeOverlay(QWindow& window, Overlay::Focus focus) override;

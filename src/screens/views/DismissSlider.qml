@@ -48,8 +48,8 @@ Column {
 
         width: parent.width
         implicitHeight: Math.round(24 * Style.scale)
-        from: block.settings.shortest
-        to: block.settings.longest
+        from: block.settings.minimum
+        to: block.settings.maximum
         stepSize: block.settings.step
         snapMode: T.Slider.SnapAlways
         value: block.settings.dismissAfter

@@ -25,8 +25,8 @@ class SettingsModel : public QObject {
     QML_UNCREATABLE("made by the window")
 
     Q_PROPERTY(QString version READ version CONSTANT)
-    Q_PROPERTY(double shortest MEMBER shortest_ CONSTANT)
-    Q_PROPERTY(double longest MEMBER longest_ CONSTANT)
+    Q_PROPERTY(double minimum MEMBER minimum_ CONSTANT)
+    Q_PROPERTY(double maximum MEMBER maximum_ CONSTANT)
     Q_PROPERTY(double step MEMBER step_ CONSTANT)
     /// Of the folder, for a person.
     Q_PROPERTY(QString folder READ folder NOTIFY changed)
@@ -113,8 +113,8 @@ private:
     void open(const Menu& menu, const QQuickItem& button);
 
     // The properties above need members.
-    const double shortest_ = BehaviorControls::shortest;
-    const double longest_ = BehaviorControls::longest;
+    const double minimum_ = BehaviorControls::minimum;
+    const double maximum_ = BehaviorControls::maximum;
     const double step_ = BehaviorControls::step;
 
     Settings& settings_;

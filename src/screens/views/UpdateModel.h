@@ -5,7 +5,7 @@
 #include <QObject>
 
 #include "support/Subscription.h"
-#include "updates/UpdateFlow.h"
+#include "updateflow/UpdateFlow.h"
 
 namespace vantle {
 

@@ -44,7 +44,7 @@ void BluetoothSharing::find(Found found) {
         found(std::move(offers));
     };
     // Nobody else here needs the system's bus.
-    callBus(bus_ ? *bus_ : QDBusConnection::systemBus(), message, *this, answered, patience);
+    callBus(bus_ ? *bus_ : QDBusConnection::systemBus(), message, *this, answered, timeout);
 }
 
 void BluetoothSharing::send(const std::vector<Url>& files) {

@@ -46,7 +46,7 @@ void GsConnectSharing::find(Found found) {
         }
         found(std::move(offers));
     };
-    callBus(bus_, message, *this, answered, patience);
+    callBus(bus_, message, *this, answered, timeout);
 }
 
 void GsConnectSharing::send(const QString& devicePath, const std::vector<Url>& files) {

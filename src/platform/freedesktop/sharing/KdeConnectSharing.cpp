@@ -45,7 +45,7 @@ void KdeConnectSharing::find(Found found) {
                               [this, id = device.key()](const auto& files) { send(id, files); }});
         found(std::move(offers));
     };
-    callBus(bus_, message, *this, answered, patience);
+    callBus(bus_, message, *this, answered, timeout);
 }
 
 void KdeConnectSharing::send(const QString& device, const std::vector<Url>& files) {

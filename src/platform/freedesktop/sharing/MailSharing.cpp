@@ -83,7 +83,7 @@ void MailSharing::find(Found found) {
             offer.perform = [this](const auto& files) { composeByDesktop(files); };
         found(offer.perform ? std::vector{offer} : std::vector<SharingOffer>{});
     };
-    callBus(bus_, message, *this, answered, patience);
+    callBus(bus_, message, *this, answered, timeout);
 }
 
 void MailSharing::composeByPortal(const std::vector<Url>& files) {

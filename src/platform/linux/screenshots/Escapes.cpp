@@ -31,9 +31,9 @@ char taken(std::string_view& text) {
 }
 
 /// Takes up to `most` hexadecimal digits off the front; 0 when there is none.
-std::uint16_t takenHex(std::string_view& text, std::size_t most) {
+std::uint16_t takenHex(std::string_view& text, std::size_t maximum) {
     std::uint16_t value = 0;
-    const auto* end = text.data() + std::min(most, text.size());
+    const auto* end = text.data() + std::min(maximum, text.size());
     const auto* rest = std::from_chars(text.data(), end, value, 16).ptr;
     text.remove_prefix(static_cast<std::size_t>(rest - text.data()));
     return value;

@@ -21,7 +21,7 @@ using MissingFolder = ScreenshotTool::MissingFolder;
 constexpr auto gnomeShell = "gnome-shell";
 
 /// What a tool's description needs.
-struct Surroundings {
+struct ToolContext {
     Environment environment;
     UserDirectories directories{environment};
     std::shared_ptr<GSettings> settings;
@@ -55,7 +55,7 @@ struct Surroundings {
 };
 
 /// How all its versions say whether they show what they saved.
-ScreenshotTool::Preview previewOfSpectacle(const Surroundings& its) {
+ScreenshotTool::Preview previewOfSpectacle(const ToolContext& its) {
     return {.setting = std::make_unique<KeyFileSetting>(its.files("spectacle.notifyrc"),
                                                         "Event/newScreenshotSaved", "Action"),
             .notation = popupOfKde(),
@@ -64,12 +64,12 @@ ScreenshotTool::Preview previewOfSpectacle(const Surroundings& its) {
 
 /// The versions up to 23.08. They alone stand on KDE's libraries for Qt 5, and describe their
 /// notifications where those look: that tells them without starting the program.
-bool isSpectacleForQt5(const Surroundings& its) {
+bool isSpectacleForQt5(const ToolContext& its) {
     return its.hasData("knotifications5/spectacle.notifyrc") &&
            !its.hasData("knotifications6/spectacle.notifyrc");
 }
 
-ScreenshotTool spectacleForQt5(const Surroundings& its) {
+ScreenshotTool spectacleForQt5(const ToolContext& its) {
     return {
         .defaultFolder =
             [directories = its.directories] {
@@ -110,7 +110,7 @@ Url defaultOfSpectacle(const SettingsFiles& files, const KeptBySpectacle& kept, 
              : translated("spectacle", kept.folderInEnglish, "translatable folder name"));
 }
 
-ScreenshotTool spectacle(const Surroundings& its) {
+ScreenshotTool spectacle(const ToolContext& its) {
     if (isSpectacleForQt5(its)) return spectacleForQt5(its);
     const auto files = its.files("spectaclerc");
     const auto notation = addressOfKde(its.environment);
@@ -135,7 +135,7 @@ ScreenshotTool spectacle(const Surroundings& its) {
             .recordingsFolder = recordingsFolder};
 }
 
-ScreenshotTool xfceScreenshooter(const Surroundings& its) {
+ScreenshotTool xfceScreenshooter(const ToolContext& its) {
     return {.defaultFolder = its.picturesOrHome(),
             .folder = {.setting = std::make_unique<KeyFileSetting>(
                            its.files("xfce4/xfce4-screenshooter"), "", "screenshot_dir"),
@@ -144,7 +144,7 @@ ScreenshotTool xfceScreenshooter(const Surroundings& its) {
                                               "The screenshot tool of Xfce shows no preview.")}};
 }
 
-ScreenshotTool gnomeScreenshot(const Surroundings& its) {
+ScreenshotTool gnomeScreenshot(const ToolContext& its) {
     return {
         .defaultFolder = its.picturesOrHome(),
         .folder = {.setting = its.inGSettings("org.gnome.gnome-screenshot", "auto-save-directory"),
@@ -154,7 +154,7 @@ ScreenshotTool gnomeScreenshot(const Surroundings& its) {
                                   "The screenshot tool of this desktop shows no preview.")}};
 }
 
-ScreenshotTool mateScreenshot(const Surroundings& its) {
+ScreenshotTool mateScreenshot(const ToolContext& its) {
     return {
         .defaultFolder = [directories = its.directories] { return directories.desktop(); },
         .folder = {.setting = its.inGSettings("org.mate.screenshot", "last-save-directory"),
@@ -164,7 +164,7 @@ ScreenshotTool mateScreenshot(const Surroundings& its) {
                                           "The screenshot tool of MATE always asks in a window.")}};
 }
 
-ScreenshotTool flameshot(const Surroundings& its) {
+ScreenshotTool flameshot(const ToolContext& its) {
     const auto files = its.files("flameshot/flameshot.ini");
     return {.defaultFolder = its.picturesOrHome(),
             .folder = {.setting = std::make_unique<KeyFileSetting>(files, "General", "savePath"),
@@ -175,7 +175,7 @@ ScreenshotTool flameshot(const Surroundings& its) {
                         .textByDefault = "true"}};
 }
 
-ScreenshotTool ksnip(const Surroundings& its) {
+ScreenshotTool ksnip(const ToolContext& its) {
     const auto files = its.files("ksnip/ksnip.conf");
     return {.defaultFolder = [directories = its.directories] { return directories.home(); },
             .missingFolder = MissingFolder::isMade,
@@ -188,7 +188,7 @@ ScreenshotTool ksnip(const Surroundings& its) {
                         .textByDefault = "true"}};
 }
 
-ScreenshotTool screengrab(const Surroundings& its) {
+ScreenshotTool screengrab(const ToolContext& its) {
     return {.defaultFolder = [directories = its.directories] { return directories.home(); },
             .folder = {.setting = std::make_unique<KeyFileSetting>(
                            its.files("screengrab/screengrab.conf"), "Base", "defDir"),
@@ -199,7 +199,7 @@ ScreenshotTool screengrab(const Surroundings& its) {
                                               "ScreenGrab always notifies after it saved.")}};
 }
 
-ScreenshotTool shellOfGnome(const Surroundings& its) {
+ScreenshotTool shellOfGnome(const ToolContext& its) {
     return {
         .defaultFolder =
             [directories = its.directories] {
@@ -225,7 +225,7 @@ ScreenshotTool shellOfGnome(const Surroundings& its) {
 std::optional<ScreenshotTool> makeScreenshotTool(const std::string& name,
                                                  const Environment& environment,
                                                  const std::shared_ptr<GSettings>& settings) {
-    static const std::map<std::string, ScreenshotTool (*)(const Surroundings&)> known{
+    static const std::map<std::string, ScreenshotTool (*)(const ToolContext&)> known{
         {"spectacle", spectacle},
         {"xfce4-screenshooter", xfceScreenshooter},
         {"gnome-screenshot", gnomeScreenshot},

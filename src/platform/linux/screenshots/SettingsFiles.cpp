@@ -14,7 +14,7 @@
 namespace vantle {
 namespace {
 
-constexpr std::size_t largestFile = std::size_t{256} * 1024;
+constexpr std::size_t maximumFileSize = std::size_t{256} * 1024;
 
 /// A file that its owner may not write to is meant to stay, though it could be replaced.
 bool isReadOnly(const Url& file) {
@@ -65,7 +65,7 @@ std::string SettingsFiles::obstacle() const {
 }
 
 Result<KeyFile> SettingsFiles::load(const Url& file) const {
-    const auto contents = readWholeFile(file, largestFile);
+    const auto contents = readWholeFile(file, maximumFileSize);
     if (contents) {
         if (KeyFile::isText(contents.value())) return KeyFile(contents.value());
         return Failure{EINVAL, localized("ScreenshotTool", "it is damaged"), file.path()};

@@ -6,10 +6,10 @@ namespace vantle {
 
 /// A line of what a report of a fault needs. In English, whatever the user's language is, but for
 /// what the system says of an error: those who mend the program read it.
-struct Fact {
+struct ReportLine {
     std::string name;
     std::string value;
-    friend bool operator==(const Fact&, const Fact&) = default;
+    friend bool operator==(const ReportLine&, const ReportLine&) = default;
 };
 
 }  // namespace vantle

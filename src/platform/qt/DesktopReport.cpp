@@ -1,4 +1,4 @@
-#include "platform/qt/DesktopFacts.h"
+#include "platform/qt/DesktopReport.h"
 
 #include <QGuiApplication>
 #include <QLocale>
@@ -30,7 +30,7 @@ std::string languages() {
 
 }  // namespace
 
-std::vector<Fact> desktopFacts() {
+std::vector<ReportLine> desktopReport() {
     return {{"Qt", std::string(qVersion()) + ", built with " QT_VERSION_STR ", " +
                        QGuiApplication::platformName().toStdString()},
             {"languages", languages()},

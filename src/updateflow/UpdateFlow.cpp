@@ -1,4 +1,4 @@
-#include "updates/UpdateFlow.h"
+#include "updateflow/UpdateFlow.h"
 
 #include <algorithm>
 #include <utility>

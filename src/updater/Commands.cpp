@@ -1,4 +1,4 @@
-#include "updater/Work.h"
+#include "updater/Commands.h"
 
 #include <gnu/libc-version.h>
 
@@ -39,8 +39,8 @@ void guardWriting(const fs::path& folder) {
 
 Result<std::string> fetchVerified(const UpdateItem& item) {
     const auto& built = configuration();
-    const FetchLimits limits{std::min(item.length, built.largestArchive), built.longestArchive,
-                             built.patience};
+    const FetchLimits limits{std::min(item.length, built.maximumArchiveSize),
+                             built.maximumArchiveTime, built.timeout};
     auto bytes = fetch(item.address, limits,
                        [](std::uint64_t received) { tell(report::Progress{received}); });
     if (!bytes) return bytes;
@@ -121,7 +121,7 @@ UpdateReport check(const Installation& installation, const std::string& feed,
             localized("Updater",
                       "This copy of Vantle cannot be updated, because it was built without the key "
                       "that updates are signed with."));
-    const auto bytes = fetch(feed, {built.largestFeed, built.longestFeed, built.patience});
+    const auto bytes = fetch(feed, {built.maximumFeedSize, built.maximumFeedTime, built.timeout});
     if (!bytes) return failed(bytes.failure().message);
     const auto xml = signedPart(bytes.value(), built.publicKey);
     if (!xml) return failed(xml.failure().message);

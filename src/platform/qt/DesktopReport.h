@@ -2,12 +2,12 @@
 
 #include <vector>
 
-#include "platform/Fact.h"
+#include "platform/ReportLine.h"
 
 namespace vantle {
 
 /// The toolkit, the user's languages and the screens, for reports of faults. Needs the application
 /// object.
-std::vector<Fact> desktopFacts();
+std::vector<ReportLine> desktopReport();
 
 }  // namespace vantle

@@ -1,4 +1,4 @@
-#include "updates/UpdateSchedule.h"
+#include "updateflow/UpdateSchedule.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +11,7 @@ constexpr Seconds interval = std::chrono::hours(24);
 // Not while the desktop starts.
 constexpr Seconds settled = std::chrono::minutes(1);
 // The timer stands still while the machine sleeps; the date does not.
-constexpr Seconds longestWait = std::chrono::hours(1);
+constexpr Seconds maximumWait = std::chrono::hours(1);
 
 Seconds sinceEpoch(const WallClock& clock) {
     return clock.now().time_since_epoch();
@@ -40,7 +40,7 @@ void UpdateSchedule::wake() {
     const bool isDue = untilNextCheck() <= Seconds(0);
     if (isDue) check_();
     // Nothing is checked while the last find is still on the screen, which may be for days.
-    wakeAfter(isDue ? longestWait : std::clamp(untilNextCheck(), settled, longestWait));
+    wakeAfter(isDue ? maximumWait : std::clamp(untilNextCheck(), settled, maximumWait));
 }
 
 void UpdateSchedule::wakeAfter(Seconds delay) {

@@ -1,4 +1,4 @@
-#include "updater/Tree.h"
+#include "updater/InstalledTree.h"
 
 #include <fcntl.h>
 #include <sodium.h>
@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 constexpr auto releaseFile = "share/vantle/release";
 constexpr auto manifestFile = "share/vantle/manifest";
-constexpr std::size_t longestText = std::size_t{4} * 1024 * 1024;
+constexpr std::size_t maximumTextLength = std::size_t{4} * 1024 * 1024;
 
 using Manifest = std::map<std::string, std::string>;  // sums in hexadecimal, by path
 
@@ -30,7 +30,7 @@ Failure wrong(const std::string& what) {
 }
 
 std::string textOf(const fs::path& file) {
-    const auto text = readWholeFile(Url::file(file), longestText);
+    const auto text = readWholeFile(Url::file(file), maximumTextLength);
     return text ? text.value() : "";
 }
 

@@ -1,4 +1,4 @@
-#include "platform/linux/SystemFacts.h"
+#include "platform/linux/SystemReport.h"
 
 #include <gnu/libc-version.h>
 #include <sys/utsname.h>
@@ -16,13 +16,13 @@ namespace {
 using namespace std::chrono_literals;
 
 /// Whoever asks for the report does not wait longer than three seconds.
-constexpr auto longestLook = 2s;
+constexpr auto maximumLook = 2s;
 
-constexpr std::size_t largestFile = std::size_t{64} * 1024;
+constexpr std::size_t maximumFileSize = std::size_t{64} * 1024;
 
 /// What a file of lines "key=value" says; empty where it says nothing.
 std::string valueIn(const Url& file, std::string_view key) {
-    const auto text = readWholeFile(file, largestFile);
+    const auto text = readWholeFile(file, maximumFileSize);
     std::string value = text ? KeyFile(text.value()).value("", key).value_or("") : "";
     const bool isQuoted = value.size() >= 2 && value.front() == '"' && value.back() == '"';
     return isQuoted ? value.substr(1, value.size() - 2) : value;
@@ -46,7 +46,7 @@ std::string guard(std::uint32_t missing, decoder::Guard kind) {
 
 }  // namespace
 
-std::vector<Fact> systemFacts(const Environment& environment, const Url& share) {
+std::vector<ReportLine> systemReport(const Environment& environment, const Url& share) {
     const auto variable = [&](const char* name) {
         return orElse(environment(name).value_or(""), "unknown");
     };
@@ -57,10 +57,10 @@ std::vector<Fact> systemFacts(const Environment& environment, const Url& share) 
             {"session", variable("XDG_SESSION_TYPE")}};
 }
 
-std::vector<Fact> decoderFacts(const std::string& program) {
-    const auto end = std::chrono::steady_clock::now() + longestLook;
+std::vector<ReportLine> decoderReport(const std::string& program) {
+    const auto end = std::chrono::steady_clock::now() + maximumLook;
     std::string started;
-    std::vector<Fact> facts;
+    std::vector<ReportLine> lines;
     std::uint32_t missing = 0;
     for (const std::string_view name : formatNames) {
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
@@ -68,17 +68,17 @@ std::vector<Fact> decoderFacts(const std::string& program) {
         const auto decoder =
             DecoderProcess::start(program, *formatNamed(name), std::max(left / 2, 1ms));
         if (!decoder) {
-            facts.push_back({"no decoder", std::string(name) + ": " + decoder.failure().message});
+            lines.push_back({"no decoder", std::string(name) + ": " + decoder.failure().message});
             continue;
         }
         started += (started.empty() ? "" : ", ") + std::string(name);
         missing = decoder.value()->missingGuards();
     }
     if (!started.empty())
-        facts.push_back({"decoders", started + "; Landlock " +
+        lines.push_back({"decoders", started + "; Landlock " +
                                          guard(missing, decoder::Guard::fileSystem) + ", seccomp " +
                                          guard(missing, decoder::Guard::systemCalls)});
-    return facts;
+    return lines;
 }
 
 }  // namespace vantle

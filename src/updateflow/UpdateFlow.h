@@ -14,8 +14,8 @@
 #include "platform/WallClock.h"
 #include "platform/Window.h"
 #include "support/Published.h"
-#include "updates/DownloadSpeed.h"
-#include "updates/UpdateSchedule.h"
+#include "updateflow/DownloadSpeed.h"
+#include "updateflow/UpdateSchedule.h"
 
 namespace vantle {
 
