@@ -55,21 +55,21 @@ FocusScope {
         x: (view.panel.atRight ? view.width - width - view.panelPadding : view.panelPadding)
            + (1 - presence.value) * view.travel
         y: view.panel.atBottom ? view.height - height - view.panelPadding : view.panelPadding
-        width: wide.value
-        height: high.value
+        width: widthSpring.value
+        height: heightSpring.value
         opacity: presence.value
         visible: view.panel.isPresented || presence.running
         enabled: view.panel.isPresented
 
         ListSpring {
-            id: wide
+            id: widthSpring
 
             panel: view.panel
             target: row.naturalWidth + 2 * view.sidePadding
         }
 
         ListSpring {
-            id: high
+            id: heightSpring
 
             panel: view.panel
             target: view.sidePadding + row.naturalHeight + card.actionsHeight + card.timerBarHeight + CardLayout.padding
@@ -78,8 +78,8 @@ FocusScope {
         // A card that is not there has no size to change from.
         onVisibleChanged: {
             if (!visible || presence.value) return;
-            wide.jumpTo(wide.target);
-            high.jumpTo(high.target);
+            widthSpring.jumpTo(widthSpring.target);
+            heightSpring.jumpTo(heightSpring.target);
         }
 
         HoverHandler {
@@ -136,7 +136,7 @@ FocusScope {
             y: card.height - CardLayout.padding - height
             width: card.width - 2 * view.sidePadding
             panel: view.panel
-            isAtRest: view.panel.isPresented && !presence.running && !wide.running && !high.running
+            isAtRest: view.panel.isPresented && !presence.running && !widthSpring.running && !heightSpring.running
         }
 
         ClearAllPill {

@@ -44,8 +44,8 @@ FocusScope {
 
     x: left.value
     z: isAttended ? 1 : isLeaving ? -1 : 0
-    width: wide.value
-    height: high.value + (compact ? nameGap + name.height : 0)
+    width: widthSpring.value
+    height: heightSpring.value + (compact ? nameGap + name.height : 0)
     opacity: presence.value
     scale: size.value
     activeFocusOnTab: true
@@ -62,8 +62,8 @@ FocusScope {
     Accessible.onToggleAction: panel.toggleSelect(captureId)
 
     ListSpring { id: left; panel: tile.panel; target: tile.tileX }
-    ListSpring { id: wide; panel: tile.panel; target: tile.tileWidth }
-    ListSpring { id: high; panel: tile.panel; target: tile.thumbnailHeight }
+    ListSpring { id: widthSpring; panel: tile.panel; target: tile.tileWidth }
+    ListSpring { id: heightSpring; panel: tile.panel; target: tile.thumbnailHeight }
     ListSpring {
         id: size
 
@@ -101,7 +101,7 @@ FocusScope {
         id: thumbnail
 
         width: tile.width
-        height: high.value
+        height: heightSpring.value
         panel: tile.panel
         captureId: tile.captureId
         fileName: tile.fileName
@@ -172,7 +172,7 @@ FocusScope {
 
         // Where a tile is narrower than its actions they stay in the part of the row that is seen.
         x: Math.max(tile.seenFrom - tile.x, Math.min(natural, tile.seenTo - tile.x - width))
-        y: high.value - height - 6
+        y: heightSpring.value - height - 6
         active: tile.hasControls
         sourceComponent: HoverBar {
             panel: tile.panel
@@ -217,7 +217,7 @@ FocusScope {
     TileName {
         id: name
 
-        y: high.value + tile.nameGap
+        y: heightSpring.value + tile.nameGap
         width: tile.width
         visible: tile.compact
         text: tile.fileName

@@ -117,10 +117,10 @@ TEST_F(UpdateViewTest, BeingUpToDateIsTakenNoteOf) {
 
 TEST_F(UpdateViewTest, TheWindowIsAsHighAsWhatThereIsToSay) {
     openNamed("found");
-    const int high = window().height();
+    const int height = window().height();
     click("Install and Relaunch");
     (void)picture();
-    EXPECT_LT(window().height(), high);
+    EXPECT_LT(window().height(), height);
 }
 
 TEST_F(UpdateViewTest, LongNotesScroll) {
