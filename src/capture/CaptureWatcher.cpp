@@ -87,9 +87,10 @@ std::optional<WatchError> CaptureWatcher::begin(const Opening& opening, WatchNum
     source_ = source;
     currentWatch_ = watch;
     const Url& folder = *folder_;
+    const auto existingFiles = names.size();
     Debug::log([&] {
         return "watching " + folder.path() + " (fd " + std::to_string(source_->descriptor()) +
-               ", " + std::to_string(names.size()) + " existing files)";
+               ", " + std::to_string(existingFiles) + " existing files)";
     });
     // What is known belongs to the queue. The scan finds what was saved after the listing and
     // before the source was open.
