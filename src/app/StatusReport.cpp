@@ -4,7 +4,6 @@
 #include <array>
 #include <ctime>
 #include <iterator>
-#include <sstream>
 
 #include "support/Version.h"
 
@@ -28,17 +27,6 @@ std::size_t startOfPath(std::string_view line) {
     for (std::size_t i = 0; i < line.size(); ++i)
         if (line[i] == '/' && (i == 0 || !isOfWord(line[i - 1]))) return i;
     return std::string_view::npos;
-}
-
-std::string text(bool value) {
-    return value ? "yes" : "no";
-}
-
-/// As short as it can be told: "25".
-std::string text(double value) {
-    std::ostringstream text;
-    text << value;
-    return text.str();
 }
 
 }  // namespace
@@ -87,7 +75,7 @@ std::string StatusReport::text(const std::vector<std::string>& arguments) const 
         return reportText(told);
     }
     told.push_back({"folder from", sources_.settings.screenshotFolderOrigin()});
-    told.push_back(settingsLine(sources_.settings));
+    told.push_back({"settings", sources_.settings.summary()});
     if (sources_.surroundings) std::ranges::copy(sources_.surroundings(), std::back_inserter(told));
     std::ranges::copy(logReport(recentSystemLog(), paths), std::back_inserter(told));
     return reportText(told);
@@ -106,19 +94,6 @@ std::string placeOf(const Url& folder, const FileManager& files, Paths paths) {
     if (folder.path() == home) return "the home directory";
     return folder.path().starts_with(home + '/') ? "in the home directory"
                                                  : "outside the home directory";
-}
-
-ReportLine settingsLine(const Settings& settings) {
-    return {"settings", "corner " + std::string(rawValue(settings.corner.value())) +
-                            ", dismissAfter " + text(settings.dismissAfter.value()) +
-                            ", showRecordings " + text(settings.showRecordings.value()) +
-                            ", copyOnCapture " + text(settings.copyOnCapture.value()) +
-                            ", removeAfterUse " + text(settings.removeAfterUse.value()) +
-                            ", deleteAfterUse " + text(settings.deleteAfterUse.value()) +
-                            ", playSound " + text(settings.playSound.value()) + ", showInDock " +
-                            text(settings.showInDock.value()) + ", launchAtLogin " +
-                            text(settings.launchAtLogin.value()) + ", hideSystemThumbnail " +
-                            text(settings.hideSystemThumbnail.value())};
 }
 
 std::vector<ReportLine> logReport(const std::vector<LoggedMessage>& messages, Paths paths) {

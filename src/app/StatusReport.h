@@ -55,9 +55,6 @@ std::string reportText(const std::vector<ReportLine>& lines);
 /// Where a folder is, told without its name where paths are hidden.
 std::string placeOf(const Url& folder, const FileManager& files, Paths paths);
 
-/// What the user has chosen, in one line; nothing of it is private.
-ReportLine settingsLine(const Settings& settings);
-
 /// The messages with their times, or that there are none. Where paths are hidden, the reasons that
 /// were logged apart are still told.
 std::vector<ReportLine> logReport(const std::vector<LoggedMessage>& messages, Paths paths);

@@ -7,33 +7,6 @@
 namespace vantle {
 namespace {
 
-// These two have no registered default on purpose: never stored, they read as false and no text.
-constexpr auto hasCompletedOnboardingKey = "hasCompletedOnboarding";
-constexpr auto cornerKey = "corner";
-
-constexpr auto dismissAfterKey = "dismissAfter";
-constexpr auto showRecordingsKey = "showRecordings";
-constexpr auto copyOnCaptureKey = "copyOnCapture";
-constexpr auto playSoundKey = "playSound";
-constexpr auto removeAfterUseKey = "removeAfterUse";
-constexpr auto deleteAfterUseKey = "deleteAfterUse";
-constexpr auto showInDockKey = "showInDock";
-
-UserDefaults& withRegisteredDefaults(UserDefaults& defaults) {
-    defaults.registerDefaults({{dismissAfterKey, 0.0},
-                               {showRecordingsKey, true},
-                               {copyOnCaptureKey, false},
-                               {playSoundKey, false},
-                               {removeAfterUseKey, true},
-                               {showInDockKey, false},
-                               {deleteAfterUseKey, false}});
-    return defaults;
-}
-
-PanelCorner storedCorner(const UserDefaults& defaults) {
-    return panelCorner(defaults.text(cornerKey).value_or("")).value_or(PanelCorner::bottomRight);
-}
-
 bool isEnabled(const LoginItem& loginItem) {
     return loginItem.status() == LoginItem::Status::enabled;
 }
@@ -42,42 +15,28 @@ bool isEnabled(const LoginItem& loginItem) {
 
 Settings::Settings(UserDefaults& defaults, SystemScreenshotPrefs screenshotPrefs,
                    LoginItem& loginItem, Application& application)
-    : defaults_(withRegisteredDefaults(defaults)),
+    : list_(defaults),
       screenshotPrefs_(screenshotPrefs),
       loginItem_(loginItem),
       application_(application),
-      hasCompletedOnboarding(defaults_.boolean(hasCompletedOnboardingKey)),
-      dismissAfter(defaults_.number(dismissAfterKey)),
-      corner(storedCorner(defaults_)),
-      showRecordings(defaults_.boolean(showRecordingsKey)),
-      copyOnCapture(defaults_.boolean(copyOnCaptureKey)),
-      playSound(defaults_.boolean(playSoundKey)),
-      removeAfterUse(defaults_.boolean(removeAfterUseKey)),
-      deleteAfterUse(defaults_.boolean(deleteAfterUseKey)),
-      showInDock(defaults_.boolean(showInDockKey)),
-      screenshotFolder(screenshotPrefs_.location()),
-      hideSystemThumbnail(!screenshotPrefs_.showsThumbnail()),
-      launchAtLogin(isEnabled(loginItem_)) {
-    storeChanges();
+      launchAtLogin(list_, "launchAtLogin", isEnabled(loginItem_)),
+      hideSystemThumbnail(list_, "hideSystemThumbnail", !screenshotPrefs_.showsThumbnail()),
+      screenshotFolder(screenshotPrefs_.location()) {}
+
+std::vector<Subscription> Settings::observeChanges(const std::function<void()>& observer) {
+    std::vector<Subscription> subscriptions;
+    for (const SettingsList::Entry& setting : list_.entries())
+        subscriptions.push_back(setting.observeChanges(observer));
+    subscriptions.push_back(
+        screenshotFolder.observeChanges([observer](const Url&) { observer(); }));
+    return subscriptions;
 }
 
-void Settings::storeChanges() {
-    const auto store = [this](auto& property, const char* key) {
-        property.onStored([this, key](const auto& value) { defaults_.set(key, value); });
-    };
-    store(hasCompletedOnboarding, hasCompletedOnboardingKey);
-    store(dismissAfter, dismissAfterKey);
-    store(showRecordings, showRecordingsKey);
-    store(copyOnCapture, copyOnCaptureKey);
-    store(playSound, playSoundKey);
-    store(removeAfterUse, removeAfterUseKey);
-    store(deleteAfterUse, deleteAfterUseKey);
-    corner.onStored(
-        [this](PanelCorner value) { defaults_.set(cornerKey, std::string(rawValue(value))); });
-    showInDock.onStored([this](bool value) {
-        defaults_.set(showInDockKey, value);
-        applyActivationPolicy(application_, value);
-    });
+std::string Settings::summary() const {
+    std::string summary;
+    for (const SettingsList::Entry& setting : list_.entries())
+        summary += (summary.empty() ? "" : ", ") + setting.name + " " + setting.text();
+    return summary;
 }
 
 void Settings::applyActivationPolicy(Application& application, bool showInDock) {

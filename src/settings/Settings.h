@@ -1,13 +1,16 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "capture/SystemScreenshotPrefs.h"
 #include "platform/Application.h"
 #include "platform/LoginItem.h"
 #include "platform/UserDefaults.h"
 #include "settings/PanelCorner.h"
+#include "settings/Setting.h"
 #include "support/Published.h"
 #include "support/Url.h"
 
@@ -15,37 +18,48 @@ namespace vantle {
 
 /// The one observable model of the user's preferences. Main thread only; one for the process.
 ///
-/// Nine properties are stored under keys of their own names: setting one announces the new value,
-/// stores it here, then in the user defaults. Three mirror the system; they are read at creation
-/// and by readSystem(), and the operations below change the system first. Setting a mirror directly
-/// changes only this model.
+/// Setting a stored property announces the new value, stores it here, then in the user defaults.
+/// Three properties mirror the system; they are read at creation and by readSystem(), and the
+/// operations below change the system first. Setting a mirror directly changes only this model.
 class Settings {
 public:
     Settings(UserDefaults& defaults, SystemScreenshotPrefs screenshotPrefs, LoginItem& loginItem,
              Application& application);
 
 private:
-    UserDefaults& defaults_;
+    // The settings below need these when they are created.
+    SettingsList list_;
     SystemScreenshotPrefs screenshotPrefs_;
     LoginItem& loginItem_;
     Application& application_;
 
 public:
-    Published<bool> hasCompletedOnboarding;
+    // Of these only two have no registered default: never stored, they read as the bottom right
+    // corner and as false.
+    StoredSetting<PanelCorner> corner{list_, "corner"};
     /// Seconds until the panel dismisses itself; 0 or less: never. Not clamped.
-    Published<double> dismissAfter;
-    Published<PanelCorner> corner;
-    Published<bool> showRecordings;
-    Published<bool> copyOnCapture;
-    Published<bool> playSound;
-    Published<bool> removeAfterUse;
-    Published<bool> deleteAfterUse;
+    StoredSetting<double> dismissAfter{list_, "dismissAfter", 0.0};
+    StoredSetting<bool> showRecordings{list_, "showRecordings", true};
+    StoredSetting<bool> copyOnCapture{list_, "copyOnCapture", false};
+    StoredSetting<bool> removeAfterUse{list_, "removeAfterUse", true};
+    StoredSetting<bool> deleteAfterUse{list_, "deleteAfterUse", false};
+    StoredSetting<bool> playSound{list_, "playSound", false};
     /// Storing it also applies the activation policy.
-    Published<bool> showInDock;
+    StoredSetting<bool> showInDock{list_, "showInDock", false, [this](bool show) {
+                                       applyActivationPolicy(application_, show);
+                                   }};
+    StoredSetting<bool> hasCompletedOnboarding{list_, "hasCompletedOnboarding"};
 
+    ListedSetting<bool> launchAtLogin;
+    ListedSetting<bool> hideSystemThumbnail;
+    /// Not in the list: reports of faults show a path only on request.
     Published<Url> screenshotFolder;
-    Published<bool> hideSystemThumbnail;
-    Published<bool> launchAtLogin;
+
+    /// Calls `observer` with every later change of a setting, before it is stored.
+    std::vector<Subscription> observeChanges(const std::function<void()>& observer);
+
+    /// All but the folder as "name value, name value", in English, for reports of faults.
+    std::string summary() const;
 
     /// Regular when `showInDock`, else accessory; does not touch the setting.
     static void applyActivationPolicy(Application& application, bool showInDock);
@@ -77,9 +91,6 @@ public:
 
     /// Reads the three mirrors of the system once more. What has not changed is not announced.
     void readSystem();
-
-private:
-    void storeChanges();
 };
 
 }  // namespace vantle

@@ -112,6 +112,30 @@ TEST_F(SettingsTest, ObserversAreToldBeforeTheStoreIsWritten) {
     EXPECT_FALSE(storedBefore);
 }
 
+TEST_F(SettingsTest, ObserversOfAllAreToldOfEveryChangeBeforeItIsStored) {
+    Settings settings = make();
+    std::vector<std::size_t> stored;
+    const auto subscriptions =
+        settings.observeChanges([&] { stored.push_back(defaults.stored.size()); });
+    settings.corner.set(PanelCorner::topLeft);
+    settings.dismissAfter.set(12);
+    settings.playSound.set(true);
+    settings.launchAtLogin.set(true);
+    settings.screenshotFolder.set(Url::file("/elsewhere"));
+    EXPECT_THAT(stored, ElementsAre(0, 1, 2, 3, 3));
+}
+
+TEST_F(SettingsTest, TheSummaryTellsEachChoiceAndNoPath) {
+    Settings settings = make();
+    settings.dismissAfter.set(25);
+    settings.corner.set(PanelCorner::topLeft);
+    settings.hideSystemThumbnail.set(true);
+    EXPECT_EQ(settings.summary(),
+              "corner topLeft, dismissAfter 25, showRecordings yes, copyOnCapture no, "
+              "removeAfterUse yes, deleteAfterUse no, playSound no, showInDock no, "
+              "hasCompletedOnboarding no, launchAtLogin no, hideSystemThumbnail yes");
+}
+
 TEST_F(SettingsTest, ShowInDockIsStoredAndAppliedAtOnce) {
     Settings settings = make();
     EXPECT_TRUE(application.policies.empty());

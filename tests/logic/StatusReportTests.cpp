@@ -6,14 +6,13 @@
 
 #include "app/StatusReport.h"
 #include "fakes/FakeFileSystem.h"
-#include "fakes/SettingsOnFakes.h"
+#include "fakes/VirtualTime.h"
 
 namespace vantle {
 namespace {
 
 using testing::ElementsAre;
 using testing::EndsWith;
-using testing::HasSubstr;
 
 TEST(StatusReport, HasALineForEachFact) {
     EXPECT_EQ(reportText({{"state", "watching"}, {"tray", "none"}}), "state: watching\ntray: none");
@@ -31,16 +30,6 @@ TEST(StatusReport, SaysWhereAFolderIsWithoutItsName) {
     EXPECT_EQ(place("/home/user"), "the home directory");
     EXPECT_EQ(place("/home/username/Desktop"), "outside the home directory");
     EXPECT_EQ(placeOf(Url::file("/mnt/shots"), files, Paths::shown), "/mnt/shots");
-}
-
-TEST(StatusReport, TellsWhatTheUserHasChosen) {
-    fakes::SettingsOnFakes onFakes;
-    onFakes.settings.dismissAfter.set(25);
-    onFakes.settings.corner.set(PanelCorner::topLeft);
-    const ReportLine line = settingsLine(onFakes.settings);
-    EXPECT_EQ(line.name, "settings");
-    EXPECT_THAT(line.value, HasSubstr("corner topLeft, dismissAfter 25, "));
-    EXPECT_THAT(line.value, HasSubstr("showRecordings yes, copyOnCapture no"));
 }
 
 TEST(StatusReport, TellsTheMessagesOfTheLogWithTheirTimes) {

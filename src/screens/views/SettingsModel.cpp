@@ -28,17 +28,8 @@ SettingsModel::SettingsModel(const Context& context)
 
 void SettingsModel::follow() {
     // A change is announced before it is stored.
-    const auto later = [this](const auto&) {
-        QMetaObject::invokeMethod(this, &SettingsModel::changed, Qt::QueuedConnection);
-    };
-    subscriptions_.push_back(settings_.dismissAfter.observeChanges(later));
-    subscriptions_.push_back(settings_.corner.observeChanges(later));
-    subscriptions_.push_back(settings_.screenshotFolder.observeChanges(later));
-    for (auto* property :
-         {&settings_.removeAfterUse, &settings_.deleteAfterUse, &settings_.showRecordings,
-          &settings_.copyOnCapture, &settings_.hideSystemThumbnail, &settings_.launchAtLogin,
-          &settings_.showInDock})
-        subscriptions_.push_back(property->observeChanges(later));
+    subscriptions_ = settings_.observeChanges(
+        [this] { QMetaObject::invokeMethod(this, &SettingsModel::changed, Qt::QueuedConnection); });
 }
 
 void SettingsModel::appear() {
