@@ -20,8 +20,9 @@ namespace {
 constexpr std::size_t maximumEntrySize = std::size_t{64} * 1024;
 constexpr std::string_view entryGroup = "Desktop Entry";
 
-/// An argument of an Exec line: in quotes, which themselves and backslash, backquote and dollar are
-/// escaped; the backslashes are escaped once more by the rules for text, and % stands doubled.
+/// Returns the argument as an Exec line holds it: in double quotes, with quotes, backslashes,
+/// backquotes and dollar signs escaped. Values are strings, so each backslash is escaped once more,
+/// and % is doubled.
 std::string execArgument(const std::string& argument) {
     std::string quoted = "\"";
     for (const char character : argument) {
@@ -33,7 +34,7 @@ std::string execArgument(const std::string& argument) {
     return quoted + '"';
 }
 
-/// Takes away the backslashes that keep what follows them.
+/// Removes each backslash that escapes the character after it.
 std::string withoutEscapes(std::string_view text) {
     std::string plain;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -43,7 +44,7 @@ std::string withoutEscapes(std::string_view text) {
     return plain;
 }
 
-/// The first argument of an Exec line: the program.
+/// Returns the first argument of an Exec line, which is the program.
 std::string programOf(const std::string& exec) {
     const std::string line = withoutEscapes(exec);
     if (!line.starts_with('"')) return line.substr(0, line.find(' '));
@@ -55,7 +56,7 @@ std::string programOf(const std::string& exec) {
     return program;
 }
 
-/// A program by its name is looked for where the desktop looks.
+/// Looks a program without a path up in $PATH, as the desktop does.
 bool canBeStarted(const std::string& program) {
     const auto isProgram = [](const std::string& path) { return access(path.c_str(), X_OK) == 0; };
     if (program.find('/') != std::string::npos) return isProgram(program);
@@ -66,7 +67,7 @@ bool canBeStarted(const std::string& program) {
     });
 }
 
-/// Whether one of the desktops stands in a list such as "GNOME;XFCE;".
+/// Returns true if a list such as "GNOME;XFCE;" names one of the desktops.
 bool names(const std::string& list, const std::string& desktops) {
     const auto listed = split(list, ';');
     return std::ranges::any_of(split(desktops, ':'), [&](const std::string& desktop) {
@@ -128,7 +129,7 @@ Outcome AutostartLoginItem::registerItem() {
 
 Outcome AutostartLoginItem::unregisterItem() {
     const Url& own = entries_.front();
-    // Without the user's entry the system's would count.
+    // Without an entry of the user's, the system's would count.
     if (std::any_of(entries_.begin() + 1, entries_.end(), exists))
         return replaceWholeFile(own, "[Desktop Entry]\nType=Application\nHidden=true\n");
     if (unlink(own.path().c_str()) == 0 || errno == ENOENT) return {};

@@ -8,15 +8,15 @@
 
 namespace vantle {
 
-/// A desktop entry in an autostart folder. The first entry of its name counts, the user's own
-/// folder coming before those of the system; an entry there that only hides shadows the one behind
-/// it. Registered means that the entry that counts is neither hidden nor disabled, meant for the
-/// desktop that runs, and starts a program that is there.
+/// A desktop entry in an autostart folder. If several folders hold an entry of that name, the first
+/// one counts: the user's folder comes before those of the system, and a hidden entry in it
+/// overrides the system's. The login item is enabled if the entry that counts is neither hidden nor
+/// disabled, is meant for the running desktop, and starts an existing program.
 class AutostartLoginItem final : public LoginItem {
 public:
-    /// `folders` are the autostart folders, first the user's own, the only one that is written to.
+    /// `folders` are the autostart folders, the user's own first; only that one is written to.
     /// `identifier` names the entry; `executable` is the absolute path of the program to start.
-    /// `desktop` is what $XDG_CURRENT_DESKTOP names, parted by colons.
+    /// `desktop` is the value of $XDG_CURRENT_DESKTOP, names separated by colons.
     AutostartLoginItem(const std::vector<Url>& folders, const std::string& identifier,
                        std::string executable, std::string desktop = {});
 
@@ -25,7 +25,7 @@ public:
     Outcome unregisterItem() override;
 
 private:
-    std::vector<Url> entries_;  ///< Where an entry can stand; never empty.
+    std::vector<Url> entries_;  ///< The possible places of the entry; never empty.
     std::string executable_;
     std::string desktop_;
 };

@@ -14,8 +14,7 @@
 
 namespace vantle {
 
-/// What the library offers. All but claim() and release() belongs to the one thread that claimed
-/// it.
+/// The loaded library. Only the thread that claimed it may call anything but claim() and release().
 class CanberraSoundPlayer::Service {
 public:
     explicit Service(Url folder) : folder_(std::move(folder)) {}
@@ -25,11 +24,11 @@ public:
     Service(const Service&) = delete;
     Service& operator=(const Service&) = delete;
 
-    /// False while another thread has it.
+    /// Returns false while another thread holds it.
     bool claim() { return !isClaimed_.exchange(true); }
     void release() { isClaimed_ = false; }
 
-    /// `description` is for those who see sounds instead of hearing them.
+    /// `description` is for users whose desktop shows sounds instead of playing them.
     void play(const std::string& name, const std::string& description) {
         const char* failure = open();
         if (!failure) failure = start(name, description);
@@ -70,13 +69,14 @@ private:
                find(library_.play, "ca_context_play") && find(library_.errorText, "ca_strerror");
     }
 
-    /// The theme's sound of that name or, where it has none, ours.
+    /// Plays the theme's sound of that name or, if it has none, the program's own. Returns null or
+    /// the reason why it cannot.
     const char* start(const std::string& name, const std::string& description) {
         const std::string file = folder_.appending(name + ".wav").path();
         const int error = library_.play(
             context_, 0, CA_PROP_EVENT_ID, name.c_str(), CA_PROP_MEDIA_FILENAME, file.c_str(),
             CA_PROP_EVENT_DESCRIPTION, description.c_str(), CA_PROP_MEDIA_ROLE, "event", nullptr);
-        // The user has switched such sounds off.
+        // CA_ERROR_DISABLED means that the user has switched such sounds off.
         return error == CA_SUCCESS || error == CA_ERROR_DISABLED ? nullptr
                                                                  : library_.errorText(error);
     }
@@ -94,7 +94,7 @@ CanberraSoundPlayer::CanberraSoundPlayer(const Url& folder)
 void CanberraSoundPlayer::play(std::string_view name) {
     if (!service_->claim()) return;
     try {
-        // Connecting to the sound server can take as long as that likes.
+        // Connecting to the sound server can take arbitrarily long.
         std::thread([service = service_, name = std::string(name),
                      description = localized("SoundPlayer", "New capture")] {
             service->play(name, description);

@@ -7,14 +7,13 @@
 
 namespace vantle {
 
-/// The desktop's sound service, by its library for event sounds, which follows the user's sound
-/// theme. That library is loaded by the first sound: without it, or where nothing can be heard, the
-/// program is silent, which is logged once. Whatever the service does, nobody waits for it: a sound
-/// that comes while another is still being handed over is left out.
+/// Plays sounds through libcanberra, which follows the user's sound theme. The first sound loads
+/// the library. If it is missing or cannot play, the program stays silent and logs that once. Never
+/// waits for the sound server: a sound that comes while another is still being handed over is
+/// dropped.
 class CanberraSoundPlayer final : public SoundPlayer {
 public:
-    /// `folder` holds the sounds that the program brings itself ("Pop.wav"), for names that the
-    /// theme does not know.
+    /// `folder` holds the program's own sounds ("Pop.wav"), for names that the theme lacks.
     explicit CanberraSoundPlayer(const Url& folder);
 
     void play(std::string_view name) override;
@@ -22,7 +21,7 @@ public:
 private:
     class Service;
 
-    const std::shared_ptr<Service> service_;  ///< Also held by the thread that hands over a sound.
+    const std::shared_ptr<Service> service_;  ///< Shared with the thread that hands over a sound.
 };
 
 }  // namespace vantle

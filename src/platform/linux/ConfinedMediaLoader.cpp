@@ -15,7 +15,7 @@ namespace {
 
 using namespace decoder;
 
-/// A regular file, open for reading; none for anything else. Never waits.
+/// Opens a regular file for reading; returns no descriptor for anything else. Never waits.
 FileDescriptor openRegular(const Url& url) {
     FileDescriptor file(
         ::open(url.path().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | O_NOFOLLOW));
@@ -24,13 +24,14 @@ FileDescriptor openRegular(const Url& url) {
     return isRegular ? std::move(file) : FileDescriptor();
 }
 
-/// What an image's name promises; the contents decide.
+/// Returns the format that the image's name suggests; the contents decide later.
 Format formatNamedBy(const Url& url) {
     const FileType* type = fileTypeNamed(url.pathExtension());
     return type && type->kind == CaptureKind::image ? type->format : Format::png;
 }
 
-/// How many of `available` pixels show `points`; 0 available of a vector image, which has any.
+/// Returns how many pixels to draw for `points`: at most `available`, which is 0 for a vector image
+/// and then sets no limit.
 int pixelsFor(double points, double pixelsPerPoint, int available) {
     constexpr double maximum = 16'384;
     const double wanted = std::clamp(std::round(points * pixelsPerPoint), 1.0, maximum);
@@ -38,7 +39,7 @@ int pixelsFor(double points, double pixelsPerPoint, int available) {
                          : static_cast<int>(wanted);
 }
 
-/// The decoder may say anything once a file has taken it over: what it gives is looked at.
+/// The decoder's answers are checked, because a malicious file may have taken it over.
 bool isSensible(double length) {
     constexpr double maximum = 1e9;
     return length >= 0 && length <= maximum;
@@ -48,7 +49,8 @@ bool isSensible(Size size) {
     return isSensible(size.width) && isSensible(size.height);
 }
 
-/// The rows in the memory that came with a reply; null unless they are all there for good.
+/// Copies the picture from the memory that came with a reply. Returns null unless the memory is
+/// complete and sealed, so that the decoder can no longer change it.
 ImagePointer picture(const DecoderProcess::Answer& answer, Size points) {
     const auto [width, height] = answer.reply.picture;
     const auto bytes = std::int64_t{4} * width * height;
@@ -67,7 +69,7 @@ ImagePointer picture(const DecoderProcess::Answer& answer, Size points) {
     return count == bytes ? image : nullptr;
 }
 
-/// A file that a decoder opened for one of the classes below.
+/// A file that one of the classes below has opened in the decoder.
 class DecodedFile {
 public:
     DecodedFile(DecoderSession& session, OpenedFile file)
@@ -115,7 +117,7 @@ private:
     const std::function<double()>& pixelsPerPoint_;
 };
 
-/// Null when the decoder says that it is no image.
+/// Returns null if the decoder cannot open the file as an image.
 std::unique_ptr<DecodedImage> decodedImage(std::unique_ptr<DecodedFile> file,
                                            const std::function<double()>& pixelsPerPoint) {
     const auto reply = file->open();
@@ -125,7 +127,7 @@ std::unique_ptr<DecodedImage> decodedImage(std::unique_ptr<DecodedFile> file,
     return std::make_unique<DecodedImage>(std::move(file), *reply, pixelsPerPoint);
 }
 
-/// Opened when it is asked for something.
+/// An image that is not opened before its first use.
 class HeldImage final : public ImageFile {
 public:
     HeldImage(std::unique_ptr<DecodedFile> file, const std::function<double()>& pixelsPerPoint)
@@ -143,7 +145,7 @@ private:
         return image_ != nullptr;
     }
 
-    mutable std::unique_ptr<DecodedFile> file_;  ///< Until it is opened.
+    mutable std::unique_ptr<DecodedFile> file_;  ///< Null after the image was opened.
     mutable std::unique_ptr<DecodedImage> image_;
     const std::function<double()>& pixelsPerPoint_;
 };
@@ -174,7 +176,7 @@ private:
     std::optional<Size> trackSize_;
 };
 
-/// Null when there is no regular file.
+/// Returns null if there is no regular file.
 std::unique_ptr<DecodedFile> imageFile(DecoderSession& session, const Url& url,
                                        const DecodingTimeouts& timeout) {
     FileDescriptor descriptor = openRegular(url);

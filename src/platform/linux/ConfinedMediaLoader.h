@@ -11,22 +11,22 @@
 
 namespace vantle {
 
-/// How long a file may take to be opened, and then to be drawn.
+/// How long opening a file may take, and how long each drawing may take.
 struct DecodingTimeouts {
     std::chrono::milliseconds image = std::chrono::seconds(10);
     std::chrono::milliseconds recording = std::chrono::seconds(20);
 };
 
-/// Opens files in a separate, confined program (src/decoder): this process never looks into them.
-/// The program is started when it is first needed, serves one format at a time, and goes ten
-/// seconds after the last request. One that crashes or takes too long costs the file its picture;
-/// the next file gets a new one. What cannot be started is logged once.
+/// Opens files in a separate, confined program (src/decoder): this process never reads their
+/// contents. The program is started when it is first needed, serves one format at a time, and exits
+/// ten seconds after the last request. If it crashes or takes too long, that file has no picture;
+/// the next file gets a new process. A program that cannot be started is logged once.
 ///
-/// Objects that this loader gave may not outlive it.
+/// The objects that this loader returns must not outlive it.
 class ConfinedMediaLoader final : public MediaLoader {
 public:
-    /// `program` is the decoder's path; `pixelsPerPoint` tells what the densest screen has, and is
-    /// called on the thread that draws.
+    /// `program` is the decoder's path; `pixelsPerPoint` returns the density of the densest screen
+    /// and is called on the thread that draws.
     ConfinedMediaLoader(std::string program, std::function<double()> pixelsPerPoint,
                         DecodingTimeouts timeout = {});
 

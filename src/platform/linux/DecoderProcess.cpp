@@ -18,7 +18,7 @@ namespace {
 
 using namespace decoder;
 
-/// What the new process gets: the socket, the standard streams, and default signal handling.
+/// Gives the new process the socket, the standard streams, and default signal handling.
 class SpawnSettings {
 public:
     explicit SpawnSettings(int socket) {
@@ -32,7 +32,7 @@ public:
         sigfillset(&all);
         posix_spawnattr_setsigmask(&attributes_, &none);
         posix_spawnattr_setsigdefault(&attributes_, &all);
-        // A group of its own: Ctrl-C in the program's terminal is the program's to handle.
+        // A process group of its own keeps Ctrl-C in the terminal from ending the decoder.
         posix_spawnattr_setpgroup(&attributes_, 0);
         posix_spawnattr_setflags(
             &attributes_, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
@@ -52,7 +52,7 @@ private:
     posix_spawnattr_t attributes_{};
 };
 
-/// 0, or the number of the error.
+/// Returns 0 or the error number.
 int spawn(const std::string& program, Format format, int socket, pid_t& process) {
     const SpawnSettings settings(socket);
     std::string name(formatName(format));
@@ -83,7 +83,7 @@ Result<std::unique_ptr<DecoderProcess>> DecoderProcess::start(const std::string&
     if (const int error = spawn(program, format, theirs.get(), first); error != 0)
         return systemFailure(error, program);
     theirs.reset();
-    // The process that was spawned leaves the work to a child, of which it tells us, and ends.
+    // The spawned process forks a child that does the work, sends us a descriptor of it, and exits.
     auto hello = receive<Hello>(ours.get(), timeout);
     if (!hello) ::kill(first, SIGKILL);
     while (waitpid(first, nullptr, 0) < 0 && errno == EINTR) continue;
@@ -113,7 +113,7 @@ void DecoderProcess::closeFile() {
 }
 
 void DecoderProcess::kill() {
-    // Its number may be another process's by now; the descriptor is not.
+    // The process number may have been reused by now; the descriptor still means the same process.
     syscall(SYS_pidfd_send_signal, process_.get(), SIGKILL, nullptr, 0);
 }
 

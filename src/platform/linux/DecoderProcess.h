@@ -11,39 +11,41 @@
 
 namespace vantle {
 
-/// A running decoder of one format. It is nobody's child, so nobody has to collect it: it ends when
-/// this object goes, ten seconds after the last request, or when it is killed.
+/// A running decoder of one format. It is not a child of this process, so it needs no waitpid(). It
+/// ends when this object is destroyed, ten seconds after the last request, or when it is killed.
 class DecoderProcess {
 public:
-    /// Returns when the decoder has given up its rights. It may take `timeout` to be a process,
-    /// and again to be ready: its libraries may come from a cold disk.
+    /// Starts a decoder and returns when it has given up its rights. Waits up to `timeout` for the
+    /// process and again for it to be ready: its libraries may come from a cold disk.
     static Result<std::unique_ptr<DecoderProcess>> start(
         const std::string& program, Format format,
         std::chrono::milliseconds timeout = std::chrono::seconds(10));
 
     Format format() const { return format_; }
 
-    /// Of decoder::Guard, added up.
+    /// The flags of decoder::Guard that this system lacks.
     std::uint32_t missingGuards() const { return missingGuards_; }
 
     enum class Silence {
-        gone,     ///< It had ended before the request.
-        died,     ///< It ended over the request.
-        tooLong,  ///< It has not answered in time.
+        gone,     ///< The decoder had ended before the request.
+        died,     ///< The decoder ended while it handled the request.
+        tooLong,  ///< The decoder did not answer in time.
     };
     struct Answer {
         decoder::Reply reply;
         FileDescriptor memory;
     };
 
-    /// Absent when the decoder has ended, or has not answered within `timeout`: kill it then.
+    /// Sends a request and waits for its answer. Returns nothing if the decoder has ended or does
+    /// not answer within `timeout`; the caller then has to kill it.
     std::optional<Answer> ask(const decoder::Request& request, int descriptor,
                               std::chrono::milliseconds timeout);
 
-    /// Has it let go of the file that it opened. Waits for nothing; one that has ended holds none.
+    /// Tells the decoder to close the file that it has opened. Does not wait; does nothing if the
+    /// decoder has ended.
     void closeFile();
 
-    /// Why ask() gave nothing.
+    /// Returns why the last ask() returned nothing.
     Silence silence() const { return silence_; }
 
     void kill();

@@ -17,7 +17,7 @@ bool isOpenedBy(Operation opening, Format format) {
 }  // namespace
 
 std::optional<Reply> DecoderSession::open(OpenedFile& file) {
-    constexpr int maximumFormats = 2;  // what the name says, then what the contents say
+    constexpr int maximumFormats = 2;  // the format of the name, then that of the contents
     for (int i = 0; i < maximumFormats; ++i) {
         current_ = nullptr;
         const auto answer = exchange(file, {.operation = file.opening});
@@ -44,12 +44,12 @@ std::optional<DecoderProcess::Answer> DecoderSession::ask(const OpenedFile& file
 void DecoderSession::forget(const OpenedFile& file) {
     if (current_ != &file) return;
     current_ = nullptr;
-    // While anybody holds a file, the folder that it was in is not quite gone.
+    // While a process holds a file open, the kernel keeps its folder even after it was deleted.
     if (process_) process_->closeFile();
 }
 
-/// A decoder may have ended since the last request, in peace or for what another file did to it:
-/// then this file gets one of its own.
+/// Repeats the request with a new decoder if the old one had ended before, or if it died and an
+/// earlier file may be to blame.
 std::optional<DecoderProcess::Answer> DecoderSession::exchange(const OpenedFile& file,
                                                                const Request& request) {
     using Silence = DecoderProcess::Silence;
@@ -81,7 +81,7 @@ std::optional<DecoderProcess::Answer> DecoderSession::exchangeOnce(const OpenedF
     return std::nullopt;
 }
 
-/// Sees to it that the decoder of this format runs.
+/// Starts the decoder of this format unless it is running. Returns false if it cannot be started.
 bool DecoderSession::prepare(Format format) {
     if (process_ && process_->format() == format) return true;
     process_.reset();

@@ -9,7 +9,7 @@
 
 namespace vantle {
 
-/// A file as decoders are asked about it.
+/// A file that decoders are asked about.
 struct OpenedFile {
     FileDescriptor descriptor;
     Format format = Format::png;
@@ -17,21 +17,22 @@ struct OpenedFile {
     std::chrono::milliseconds timeout{};
 };
 
-/// Keeps one decoder running while there is work for it, and starts another when that one has
-/// ended or is one of another format.
+/// Keeps one decoder running while there is work for it. Starts another if that one has ended or
+/// decodes another format.
 class DecoderSession {
 public:
     explicit DecoderSession(std::string program) : program_(std::move(program)) {}
 
-    /// Opens the file: by the decoder of `file.format` or, if its contents say otherwise, by that
-    /// of another format, which is then written to `file.format`. Absent when it cannot be opened.
+    /// Opens the file with the decoder of `file.format`. If the contents are of another format,
+    /// stores that in `file.format` and uses its decoder. Returns nothing if the file cannot be
+    /// opened.
     std::optional<decoder::Reply> open(OpenedFile& file);
 
-    /// Asks about a file that was opened. Absent when that is not done.
+    /// Sends a request about a file that was opened. Returns nothing if it fails.
     std::optional<DecoderProcess::Answer> ask(const OpenedFile& file,
                                               const decoder::Request& request);
 
-    /// To be called before an opened file goes: the decoder lets go of it.
+    /// Makes the decoder close the file. Must be called before an OpenedFile is destroyed.
     void forget(const OpenedFile& file);
 
 private:
@@ -45,9 +46,9 @@ private:
 
     const std::string program_;
     std::unique_ptr<DecoderProcess> process_;
-    const OpenedFile* current_ = nullptr;             ///< What the decoder holds open.
-    int filesOpened_ = 0;                             ///< By the decoder that runs.
-    std::optional<DecoderProcess::Silence> silence_;  ///< Of the last exchange, if it was one.
+    const OpenedFile* current_ = nullptr;             ///< The file that the decoder holds open.
+    int filesOpened_ = 0;                             ///< By the running decoder.
+    std::optional<DecoderProcess::Silence> silence_;  ///< Set if the last exchange got no answer.
     bool hasReportedFailure_ = false;
     bool hasReportedGuards_ = false;
 };

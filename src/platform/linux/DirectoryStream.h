@@ -10,7 +10,7 @@ struct DirectoryCloser {
     void operator()(DIR* directory) const { closedir(directory); }
 };
 
-/// Owns what opendir() gives.
+/// Owns a stream of opendir().
 using DirectoryStream = std::unique_ptr<DIR, DirectoryCloser>;
 
 }  // namespace vantle

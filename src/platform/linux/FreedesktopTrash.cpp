@@ -9,7 +9,7 @@
 namespace vantle {
 namespace {
 
-/// One failure for all: the first one's number, every one's path and reason.
+/// Combines all failures into one: the error number of the first, the paths and reasons of all.
 Outcome moveAll(const std::vector<Url>& urls, const Url& dataFolder) {
     Outcome all;
     for (const Url& url : urls) {

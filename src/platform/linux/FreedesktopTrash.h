@@ -9,12 +9,12 @@
 
 namespace vantle {
 
-/// The Trash that all desktops share (freedesktop.org's specification). Files are moved on a thread
-/// of its own, which exists from the first request on: a move between volumes is a copy. Destroying
-/// it waits for the move that is under way.
+/// The Trash that all desktops share, as freedesktop.org defines it. Moves files on its own thread,
+/// because a move between volumes is a copy; the first request starts that thread. The destructor
+/// waits for a move that is in progress.
 class FreedesktopTrash final : public Trash {
 public:
-    /// Both outlive it.
+    /// Both arguments must outlive this object.
     FreedesktopTrash(Scheduler& main, const Environment& environment);
 
     void recycle(const std::vector<Url>& urls, Completion completion) override;

@@ -4,7 +4,7 @@
 
 namespace vantle {
 
-/// Of glibc's allocator; with another there is nothing to give back.
+/// The spare memory of glibc's allocator. Does nothing with another allocator.
 class GlibcSpareMemory final : public SpareMemory {
 public:
     void giveBack() override;

@@ -12,11 +12,11 @@
 namespace vantle {
 namespace {
 
-// By which the shell knows it: as its author, and as Debian and Ubuntu ship it.
+// The extension's identifiers in the shell: its author's, and the one of Debian and Ubuntu.
 constexpr std::array identifiers{"appindicatorsupport@rgcjonas.gmail.com",
                                  "ubuntu-appindicators@ubuntu.com"};
 
-/// Other desktops name GNOME too, but behind themselves.
+/// Checks the first name only: other desktops list GNOME too, but after their own name.
 bool isGnomeShell(const Environment& environment) {
     constexpr std::array names{"GNOME", "GNOME-Classic", "ubuntu"};
     const auto desktops = split(environment("XDG_CURRENT_DESKTOP").value_or(""), ':');

@@ -7,9 +7,9 @@
 
 namespace vantle {
 
-/// The extension that brings a tray to the GNOME Shell. Absent on other desktops, also on those
-/// that are made of GNOME's parts and have a tray. Looks into the folders of extensions at each
-/// call.
+/// Returns the extension that adds a tray to the GNOME Shell. Returns nothing on other desktops,
+/// including those that are built from GNOME's parts and have a tray. Reads the folders of
+/// extensions at each call.
 std::optional<TrayExtension> gnomeTrayExtension(const Environment& environment);
 
 }  // namespace vantle

@@ -4,8 +4,8 @@
 
 namespace vantle {
 
-/// A shared library that is loaded later than the program, and is the one that was there when this
-/// was made, even when an update has put another into its place by then. Any thread, one at a time.
+/// A shared library that is loaded later than the program. Always loads the file that existed when
+/// this object was created, even if an update has replaced it since. Any thread, one at a time.
 class HeldLibrary {
 public:
     /// Opens the file without loading it.
@@ -14,11 +14,11 @@ public:
     HeldLibrary(const HeldLibrary&) = delete;
     HeldLibrary& operator=(const HeldLibrary&) = delete;
 
-    /// Whether there is such a file to read.
+    /// Returns true if the file exists and can be read.
     bool isThere() const { return file_ >= 0; }
 
-    /// Loads it and what it is linked with, and gives a handle for dlsym() and dlclose(), or null:
-    /// then dlerror() says why.
+    /// Loads the library and its dependencies. Returns a handle for dlsym() and dlclose(), or null
+    /// if it fails; dlerror() then returns the reason.
     void* load() const;
 
 private:

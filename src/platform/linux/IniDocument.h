@@ -9,22 +9,22 @@
 
 namespace vantle {
 
-/// The text of an INI file, whose keys stand in the group [General] or before the first group.
-/// Everything that is not asked for stays as it is written: other groups and keys, comments, order.
+/// The text of an INI file with its keys in the group [General] or before the first group. Leaves
+/// everything else as it is: other groups and keys, comments, order.
 ///
-/// A value is true or false, a finite number, or else text as it stands up to the end of the line.
-/// Text in double quotes is text whatever it looks like; in it \" \\ \n \r \t and \xHH are escapes.
+/// A value is true or false, a finite number, or otherwise the text up to the end of the line. A
+/// value in double quotes is always text; in it \" \\ \n \r \t and \xHH are escapes.
 class IniDocument {
 public:
     IniDocument() = default;
 
-    /// Leaves out each line that is neither empty, a comment (# or ;), a [group], nor key=value, or
-    /// that holds a control character. Windows line ends and a byte order mark are fine.
+    /// Drops each line that is not empty, a comment (# or ;), a [group] or key=value, and each line
+    /// that contains a control character. Accepts tabs, Windows line ends and a byte order mark.
     static IniDocument parse(std::string_view text);
 
-    /// Whether no line was left out.
+    /// Returns true if parse() dropped no line.
     bool isWhole() const { return isWhole_; }
-    /// Whether it has no key at all.
+    /// Returns true if the document has no key in any group.
     bool isEmpty() const { return !file_.hasEntries(); }
 
     std::optional<PreferenceValue> value(std::string_view key) const;

@@ -50,7 +50,7 @@ Result<IniDocument> IniFile::read() const {
     IniDocument document = text ? IniDocument::parse(text.value()) : IniDocument();
     if (text && document.isWhole()) return document;
     if (const Outcome notKept = keepDamagedAside()) return *notKept;
-    // What makes sense stands there again, so that nobody meets the same damage twice.
+    // The readable part is written back, so that the same damage is not reported again.
     if (!document.isEmpty()) (void)replaceWholeFile(file_, document.text());
     return document;
 }

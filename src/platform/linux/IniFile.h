@@ -11,23 +11,23 @@
 
 namespace vantle {
 
-/// An INI file on disk. Of a damaged one counts what can be read; the rest is kept aside under
-/// another name, and is logged. One that cannot be read counts as empty, is never overwritten, and
-/// is logged once.
+/// An INI file on disk. A damaged file is renamed and logged; what can be read of it is used and
+/// takes its place. A file that cannot be read counts as empty, is never overwritten, and is logged
+/// once.
 class IniFile {
 public:
     explicit IniFile(Url file) : file_(std::move(file)) {}
 
-    /// What the file holds now; empty when it does not exist.
+    /// Returns the current contents, or an empty document if the file does not exist.
     IniDocument load() const;
 
-    /// Sets these keys and leaves the rest of the file as others may have changed it meanwhile; of
-    /// a file that is damaged, empty or gone, `memory` is the rest, if there is any. All of them
-    /// stand on disk when it returns, or none; a failure is logged once.
+    /// Sets these keys and keeps the rest of the file, including changes that others have made. If
+    /// the file is damaged, empty or gone and `memory` is not empty, the rest comes from `memory`.
+    /// On return either all keys are on disk or none; a failure is logged once.
     Outcome store(const std::map<std::string, PreferenceValue>& values,
                   const IniDocument& memory = {});
 
-    /// Whether there is one that can be read, whatever it holds.
+    /// Returns true if the file exists and can be read, whatever it contains.
     bool canBeRead() const;
 
 private:

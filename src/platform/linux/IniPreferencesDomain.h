@@ -9,7 +9,7 @@
 
 namespace vantle {
 
-/// Preferences in an INI file of their own, read anew at each call.
+/// Preferences in an INI file of their own, which is read at each call.
 class IniPreferencesDomain final : public PreferencesDomain {
 public:
     explicit IniPreferencesDomain(const Url& file) : file_(file) {}
@@ -23,14 +23,14 @@ public:
     }
     void synchronize() override {
         const auto values = std::exchange(waiting_, {});
-        // A failure is logged by the file; who needs to know reads the value back.
+        // The file logs a failure; callers that need to know read the value back.
         if (!values.empty()) (void)file_.store(values);
     }
     std::string obstacle(const std::string&) const override { return {}; }
     std::string origin(const std::string& key) const override {
         return value(key) ? "a setting of Vantle's own" : "";
     }
-    // Nobody but this program sets them: there is nothing to go back to.
+    // Only this program sets these values, so there is nothing to restore.
     std::optional<PreferenceValue> previousValue(const std::string&) const override { return {}; }
     void restore(const std::string&) override {}
 

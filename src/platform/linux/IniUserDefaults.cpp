@@ -10,7 +10,7 @@ namespace vantle {
 
 IniUserDefaults::IniUserDefaults(const Url& file)
     : file_(file), copy_(Url::file(file.path() + ".copy")) {
-    // One that was taken away is to be forgotten; one that was emptied is not.
+    // Deleting the file resets the settings; an empty file is damage, and the copy replaces it.
     const bool wasThere = file_.canBeRead();
     stored_ = file_.load();
     if (wasThere && stored_.isEmpty()) restoreFromCopy();
@@ -28,7 +28,7 @@ void IniUserDefaults::restoreFromCopy() {
 void IniUserDefaults::keepCopy() {
     const std::string text = stored_.text();
     if (stored_.isEmpty() || IniFile(copy_).load().text() == text) return;
-    // It comes second: a failure costs nothing but itself.
+    // The settings themselves are stored already, so a failure to copy them is ignored.
     (void)replaceWholeFile(copy_, text, Durability::untilRestart);
 }
 
@@ -51,7 +51,7 @@ std::optional<std::string> IniUserDefaults::text(const std::string& key) const {
 void IniUserDefaults::set(const std::string& key, const PreferenceValue& value) {
     stored_.set(key, value);
     unsaved_.insert_or_assign(key, value);
-    // A failure is logged by the file; the value holds for this run, and goes with the next write.
+    // The file logs a failure; the value holds for this run and is written again with the next one.
     if (file_.store(unsaved_, stored_)) return;
     unsaved_.clear();
     keepCopy();

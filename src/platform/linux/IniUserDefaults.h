@@ -9,8 +9,8 @@
 
 namespace vantle {
 
-/// The program's settings in an INI file, read once at creation. A copy of it stands beside it, for
-/// the day when the file is there and holds nothing.
+/// The program's settings in an INI file, which is read once, by the constructor. A copy beside the
+/// file replaces it if the file exists but is empty.
 class IniUserDefaults final : public UserDefaults {
 public:
     explicit IniUserDefaults(const Url& file);

@@ -24,11 +24,10 @@ namespace {
 
 constexpr std::uint32_t contentsEvents = IN_CREATE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE |
                                          IN_CLOSE_WRITE | IN_ATTRIB | IN_Q_OVERFLOW;
-// IN_IGNORED comes when the kernel itself ends the watch.
+// The kernel sends IN_IGNORED when it ends the watch itself.
 constexpr std::uint32_t lossEvents = IN_DELETE_SELF | IN_MOVE_SELF | IN_UNMOUNT | IN_IGNORED;
-// Of the folders that the watched one stands in: a folder that some program still stands in or
-// reads from is not deleted for the kernel yet, and one whose parent is renamed does not move
-// itself.
+// Events of the folders above the watched one. They are needed because the kernel does not report
+// IN_DELETE_SELF while a program still uses the folder, nor IN_MOVE_SELF when a parent is renamed.
 constexpr std::uint32_t parentEvents =
     IN_DELETE | IN_MOVED_FROM | IN_CREATE | IN_MOVED_TO | IN_MOVE_SELF | IN_DELETE_SELF;
 constexpr std::uint32_t ancestorEvents = IN_MOVE_SELF | IN_DELETE_SELF;
@@ -36,7 +35,7 @@ constexpr std::uint32_t watchedEvents = IN_CREATE | IN_MOVED_TO | IN_MOVED_FROM 
                                         IN_CLOSE_WRITE | IN_ATTRIB | IN_DELETE_SELF | IN_MOVE_SELF |
                                         IN_ONLYDIR;
 
-/// Which folder stands at a path.
+/// Identifies the folder at a path.
 struct Identity {
     dev_t device = 0;
     ino_t number = 0;
@@ -49,7 +48,7 @@ std::optional<Identity> identityOf(const std::string& path) {
     return Identity{status.st_dev, status.st_ino};
 }
 
-/// What can be watched of them, which need not be all.
+/// Watches the folders above `path`, except those that cannot be watched.
 void watchAncestors(int inotify, const std::string& path) {
     std::uint32_t events = parentEvents;
     for (std::string folder = path; folder.size() > 1; events = ancestorEvents) {
@@ -63,7 +62,7 @@ class InotifySource final : public DirectoryEventSource,
 public:
     struct Folder {
         std::string path;
-        int watch;  ///< The kernel's number for it.
+        int watch;  ///< The kernel's number for the watch.
         std::optional<Identity> identity;
     };
 
@@ -79,7 +78,7 @@ public:
     int descriptor() const override { return number_; }
 
     void resume() override {
-        // The descriptor stays open for a call that was about to begin when the source ended.
+        // The callback shares the descriptor, because it may be about to run when the source ends.
         descriptors_->watch(number_, [weak = weak_from_this(), inotify = inotify_] {
             if (const auto self = weak.lock()) self->readEvents(inotify->get());
         });
@@ -107,7 +106,7 @@ private:
             inotify_event event;
             std::memcpy(&event, events + offset, sizeof event);
             offset += sizeof event + event.len;
-            // What happens to those above it shows in what stands at its path.
+            // Events of the folders above are skipped: readEvents() checks what is at the path now.
             const bool isOverflow = event.wd < 0;
             if (!isOverflow && event.wd != folder_.watch) continue;
             change.contents |= (event.mask & contentsEvents) != 0;
@@ -133,7 +132,7 @@ Result<std::shared_ptr<DirectoryEventSource>> InotifyDirectoryEvents::open(const
     const int watch = inotify_add_watch(inotify.get(), path.c_str(), watchedEvents);
     if (watch < 0) return systemFailure(errno, path);
     watchAncestors(inotify.get(), path);
-    // The path may lead over a link.
+    // The path may contain links, so the folders above the real one are watched too.
     std::error_code unknown;
     const auto real = std::filesystem::canonical(path, unknown);
     if (!unknown && real.string() != path) watchAncestors(inotify.get(), real.string());

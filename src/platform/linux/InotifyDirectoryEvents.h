@@ -5,8 +5,8 @@
 
 namespace vantle {
 
-/// Directory events from the kernel's inotify, read on the queue's own thread. The growth of a file
-/// is not told, only its closing: who cares for growth polls the size.
+/// Directory events from the kernel's inotify, read on the queue's thread. Reports when a file is
+/// closed after writing, but not while it grows; callers that need to see it grow poll its size.
 class InotifyDirectoryEvents final : public DirectoryEvents {
 public:
     explicit InotifyDirectoryEvents(const PollQueue& queue) : descriptors_(queue.descriptors()) {}

@@ -15,13 +15,13 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-/// What stands before and behind the first "=" of a line.
+/// Returns the trimmed text before and after the first "=" of a line.
 std::pair<std::string_view, std::string_view> entry(std::string_view raw) {
     const auto equals = std::min(raw.find('='), raw.size());
     return {trimmed(raw.substr(0, equals)), trimmed(raw.substr(std::min(equals + 1, raw.size())))};
 }
 
-/// The key without "[$e]" and the like.
+/// Returns the key without flags such as "[$e]".
 std::string_view withoutFlags(std::string_view name) {
     return name.substr(0, name.find("[$"));
 }
@@ -91,7 +91,7 @@ void KeyFile::set(std::string_view group, std::string_view key, std::string_view
     if (place != lines_.begin()) {
         Line& before = *std::prev(place);
         line.group = before.group;
-        // The last line of a file may lack its end.
+        // The last line of a file may have no line break.
         if (!before.raw.ends_with('\n')) before.raw += lineBreak();
     }
     lines_.insert(place, std::move(line));

@@ -10,7 +10,7 @@ inline constexpr auto image = extensionsOf<CaptureKind::image, FileType::Origin:
 inline constexpr auto video = extensionsOf<CaptureKind::video, FileType::Origin::linuxTools>();
 }  // namespace linuxcaptures
 
-/// What screenshot tools and recorders of Linux write besides what those of every system do.
+/// The file types that only screenshot tools and recorders of Linux write.
 inline constexpr CaptureExtensions linuxCaptureExtensions{linuxcaptures::image,
                                                           linuxcaptures::video};
 

@@ -22,7 +22,7 @@ namespace vantle {
 namespace {
 
 Date date(const statx_timestamp& stamp) {
-    // A file system can hold years that nanoseconds cannot count to.
+    // A file system can store dates that do not fit into nanoseconds.
     constexpr std::int64_t furthest = 9'000'000'000;
     const std::chrono::seconds seconds(std::clamp<std::int64_t>(stamp.tv_sec, -furthest, furthest));
     return Date(seconds + std::chrono::nanoseconds(stamp.tv_nsec));
@@ -99,7 +99,7 @@ Result<Url> LinuxFileManager::temporaryDirectory() {
     const Url own = shared.appending("vantle-" + std::to_string(getuid()));
     if (mkdir(own.path().c_str(), S_IRWXU) != 0 && errno != EEXIST)
         return systemFailure(errno, own.path());
-    // Somebody else may have been there first.
+    // Another user may have created the folder first.
     struct stat status {};
     if (lstat(own.path().c_str(), &status) != 0) return systemFailure(errno, own.path());
     const bool isOurs = S_ISDIR(status.st_mode) && status.st_uid == getuid() &&

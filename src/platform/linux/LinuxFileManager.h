@@ -8,12 +8,12 @@
 
 namespace vantle {
 
-/// The file system of a Linux desktop. A recording that some process still holds open for writing
-/// is not reported as a regular file: recorders leave gaps of many seconds in which the file does
-/// not grow, so its size alone would not tell that it is unfinished.
+/// The file system of a Linux desktop. A recording that a process still holds open for writing is
+/// not reported as a regular file: a recorder may pause for many seconds, during which the file
+/// does not grow, so its size does not show that it is unfinished.
 class LinuxFileManager final : public FileManager {
 public:
-    /// `isRecording` says by its name whether a file is one. It is called on any thread.
+    /// `isRecording` returns true if a file's name is that of a recording; called on any thread.
     LinuxFileManager(Environment environment, std::function<bool(const Url&)> isRecording,
                      MountFiles mounts = {});
 
@@ -22,12 +22,12 @@ public:
     Result<NameList> contentsOfDirectory(const Url& folder) const override;
     Result<ResourceValues> resourceValues(const Url& url) const override;
     std::optional<std::int64_t> fileSize(const Url& url) const override;
-    /// Makes none where a file system is expected and none is mounted: it would be hidden, and the
-    /// captures in it, as soon as that comes.
+    /// Fails if a file system is expected there but not mounted: mounting it would hide the folder
+    /// and the captures in it.
     Outcome createDirectory(const Url& folder) override;
     Outcome write(const std::string& contents, const Url& file) override;
-    /// In $TMPDIR, or /tmp, which other users may write to as well: a folder that only this user
-    /// can enter.
+    /// Returns a folder that only this user can enter, in $TMPDIR or /tmp, to which other users may
+    /// be able to write as well.
     Result<Url> temporaryDirectory() override;
     Url homeDirectory() const override;
     std::optional<Url> homeDirectory(const std::string& user) const override;

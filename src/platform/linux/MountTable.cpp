@@ -14,10 +14,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int maximumLinks = 40;  // as the kernel's own limit
+constexpr int maximumLinks = 40;  // the kernel's own limit
 
-/// Those that ask a server, and those that ask a program. A disk whose file system is a program's
-/// ("fuseblk") is at hand all the same.
+/// Returns true for file systems that a server or a program serves. "fuseblk" is not one of them:
+/// its data is on a local disk.
 bool isRemoteType(std::string_view type) {
     constexpr std::array types{"nfs", "nfs4",  "cifs", "smb3", "smbfs",  "9p",
                                "afs", "ncpfs", "ceph", "coda", "autofs", "fuse"};
@@ -26,7 +26,7 @@ bool isRemoteType(std::string_view type) {
     return type.starts_with("fuse.");
 }
 
-/// Calls `take` with the mount point and the type of each line, in their order.
+/// Calls `take` with the mount point and the type of each line, in order.
 template <typename Take>
 void readTable(const std::string& file, Take take) {
     const std::unique_ptr<FILE, int (*)(FILE*)> table(setmntent(file.c_str(), "re"), endmntent);
@@ -42,7 +42,7 @@ void readTable(const std::string& file, Take take) {
 MountTable::MountTable(const MountFiles& files) {
     readTable(files.expected,
               [this](const std::string& point, const char*) { points_[point] = Kind::expected; });
-    // What is mounted later at the same place hides what was there before.
+    // A file system that is mounted later hides an earlier one at the same place.
     readTable(files.present, [this](const std::string& point, const char* type) {
         points_[point] = isRemoteType(type) ? Kind::remote : Kind::own;
     });

@@ -7,31 +7,32 @@
 
 namespace vantle {
 
-/// Where it stands which file systems are mounted and which are to be, each as fstab(5) has it.
+/// The files that list the mounted and the expected file systems, both in the format of fstab(5).
 struct MountFiles {
     std::string present = "/proc/self/mounts";
     std::string expected = "/etc/fstab";
 };
 
-/// The mounted file systems, and those that are expected, at the moment of its making. It asks the
-/// kernel's tables only, never a file system: that of a dead server would not answer. Any thread.
+/// The mounted and the expected file systems, as they were when this object was created. Reads only
+/// the two tables and links on local disks, and never waits for a server. Any thread.
 class MountTable {
 public:
     explicit MountTable(const MountFiles& files = {});
 
-    /// Whether `url` is or lies in a mount point at which a file system is expected and none is.
+    /// Returns true if `url` is or lies in a mount point whose file system is expected but not
+    /// mounted.
     bool isUnmounted(const Url& url) const;
 
-    /// Whether what is asked of `url` goes to another computer or another program, which may answer
-    /// late or never.
+    /// Returns true if another computer or another program serves `url`; it may answer late or
+    /// never.
     bool isRemote(const Url& url) const;
 
 private:
     enum class Kind { own, remote, expected };
 
-    /// That of the innermost mount point in which the path lies, as it is written.
+    /// Returns the kind of the innermost mount point that contains the path; follows no links.
     Kind kindOf(const std::string& path) const;
-    /// That of what the path leads to. Links are followed as far as nobody else is asked.
+    /// Returns the kind of the path's target. Follows links, but only those on local file systems.
     Kind kindBehindLinks(const Url& url) const;
 
     std::map<std::string, Kind> points_;

@@ -39,7 +39,7 @@ public:
     }
 
     void unwatch(int descriptor) override {
-        std::shared_ptr<std::function<void()>> removed;  // destroyed without the lock
+        std::shared_ptr<std::function<void()>> removed;  // destroyed after the lock is released
         const std::lock_guard lock(mutex_);
         if (const auto found = watched_.find(descriptor); found != watched_.end()) {
             removed = std::move(found->second);
@@ -67,11 +67,11 @@ private:
 
     void wake() {
         const std::uint64_t one = 1;
-        // It only fails when the counter is full, and then the thread is being woken anyway.
+        // Writing fails only if the counter is full, and then the thread is being woken anyway.
         [[maybe_unused]] const auto written = write(wake_, &one, sizeof one);
     }
 
-    /// False once the queue is to end.
+    /// Returns false when the queue has to end.
     bool waitForSomething() {
         int timeout = 0;
         {
@@ -88,7 +88,7 @@ private:
         return !ended_;
     }
 
-    /// In milliseconds, rounded up so that nothing runs early; -1 for ever.
+    /// Returns milliseconds, rounded up so that nothing runs early; -1 if no work is waiting.
     int untilNextDue() const {
         if (waiting_.empty()) return -1;
         const Seconds left =
@@ -112,7 +112,7 @@ private:
     }
 
     void runDue() {
-        // What work adds for now waits for the next round: descriptors get their turn.
+        // Work that is added meanwhile waits for the next round, so that descriptors get a turn.
         const Instant now = std::chrono::steady_clock::now();
         while (Work work = takeDue(now)) work();
     }
@@ -137,7 +137,7 @@ private:
     std::uint64_t nextKey_ = 0;
     std::map<std::pair<Instant, std::uint64_t>, Work> waiting_;
     std::map<int, Callback> watched_;
-    std::vector<pollfd> polled_;  // of the thread alone
+    std::vector<pollfd> polled_;  // used only by the queue's thread
 };
 
 PollQueue::PollQueue(const std::string& name) : loop_(std::make_shared<Loop>()) {

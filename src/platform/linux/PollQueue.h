@@ -9,23 +9,23 @@
 
 namespace vantle {
 
-/// The background queue: a thread that sleeps in poll() until work is given, a delay has passed, or
-/// a watched descriptor can be read. Nothing wakes it while there is nothing to do.
+/// The background queue: a thread that sleeps in poll() until it is given work, a delay has passed,
+/// or a watched descriptor becomes readable. It never wakes up otherwise.
 class PollQueue final : public SerialQueue {
 public:
-    /// `name` is that of the thread, at most 15 characters.
+    /// `name` is the thread's name; only its first 15 characters are used.
     explicit PollQueue(const std::string& name);
     ~PollQueue() override;
 
     void async(Work work) override;
     void after(Seconds delay, Work work) override;
 
-    /// Whether all that is due has been done before `timeout` ends. Waits for it, so this is for
-    /// the end of the program: what never comes back would keep the destructor from returning.
+    /// Waits until all work that is due is done; returns false if that takes longer than `timeout`.
+    /// For the end of the program: the destructor would never return if a piece of work does not.
     bool isIdleWithin(Seconds timeout) const;
 
-    /// Where backends register descriptors. Shared with them, so that one of them may outlive the
-    /// queue; after the queue has ended it calls nothing any more.
+    /// Lets backends register descriptors. Backends share it and may outlive the queue; it makes no
+    /// calls after the queue has ended.
     class Descriptors {
     public:
         virtual ~Descriptors() = default;
@@ -33,8 +33,8 @@ public:
         /// Calls `onReadable` on the queue whenever `descriptor` can be read. Any thread.
         virtual void watch(int descriptor, std::function<void()> onReadable) = 0;
 
-        /// Ends that; a call that was about to begin may still come. Any thread. Harmless when it
-        /// is not watched.
+        /// Stops watching; a call that was about to begin may still come. Does nothing if the
+        /// descriptor is not watched. Any thread.
         virtual void unwatch(int descriptor) = 0;
     };
 

@@ -16,13 +16,13 @@
 namespace vantle {
 namespace {
 
-/// In the grandchild, which nobody waits for. Only what is safe after a fork of a process with
-/// threads. Ends in the new program, or tells `report` why it cannot.
+/// Runs in the grandchild and becomes the new program, or writes to `report` why it cannot. Calls
+/// only functions that are safe after a process with threads has forked.
 [[noreturn]] void execute(const char* executable, char* const* arguments, char* const* environment,
                           int report) {
     const int null = open("/dev/null", O_RDWR);
     for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(null, standard);
-    // Libraries open some without the mark that closes them here.
+    // Some libraries open descriptors without O_CLOEXEC.
     close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
     for (int number = 1; number < NSIG; ++number) signal(number, SIG_DFL);
     sigset_t none;
@@ -34,7 +34,7 @@ namespace {
     _exit(127);
 }
 
-/// Of this process, as the system hands it to another.
+/// Returns this process's environment in the form that execve() takes.
 std::vector<char*> environmentWithout(const std::vector<std::string>& withheld) {
     std::vector<char*> variables;
     for (char** variable = environ; *variable; ++variable) {
@@ -64,7 +64,7 @@ Outcome PosixProcessLauncher::launch(const std::string& executable,
     if (child < 0) return systemFailure(errno, executable);
     if (child == 0) {
         setsid();
-        // The middle process ends at once: the system adopts the program and collects it.
+        // The middle process exits at once, so that init adopts the program and waits for it.
         const pid_t grandchild = fork();
         if (grandchild == 0)
             execute(executable.c_str(), values.data(), variables.data(), report.get());
@@ -76,7 +76,7 @@ Outcome PosixProcessLauncher::launch(const std::string& executable,
     report.reset();
     while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) continue;
     int error = 0;
-    // The pipe closes without a word when the program has started.
+    // If the program has started, the pipe closes without data.
     if (read(result.get(), &error, sizeof error) == sizeof error)
         return systemFailure(error, executable);
     return {};

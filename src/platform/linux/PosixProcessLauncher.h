@@ -8,7 +8,7 @@ namespace vantle {
 
 class PosixProcessLauncher final : public ProcessLauncher {
 public:
-    /// Programs get the environment of this one, without the variables that are named here.
+    /// Programs get this process's environment without the variables named in `withheld`.
     explicit PosixProcessLauncher(std::vector<std::string> withheld = {})
         : withheld_(std::move(withheld)) {}
 

@@ -15,12 +15,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Whoever asks for the report does not wait longer than three seconds.
+/// The program that asks for the report waits only three seconds.
 constexpr auto maximumLook = 2s;
 
 constexpr std::size_t maximumFileSize = std::size_t{64} * 1024;
 
-/// What a file of lines "key=value" says; empty where it says nothing.
+/// Returns the value of a key in a file of "key=value" lines, or an empty string if it is missing.
 std::string valueIn(const Url& file, std::string_view key) {
     const auto text = readWholeFile(file, maximumFileSize);
     std::string value = text ? KeyFile(text.value()).value("", key).value_or("") : "";

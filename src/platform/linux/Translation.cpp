@@ -13,7 +13,7 @@ constexpr auto endOfContext = "\004";
 std::string translated(const std::string& domain, const std::string& text,
                        const std::string& context) {
     const locale_t language = newlocale(LC_ALL_MASK, "", nullptr);
-    // A language that is not installed: other programs speak English then, too.
+    // The language is not installed, so other programs use English as well.
     if (!language) return text;
     const locale_t before = uselocale(language);
     bind_textdomain_codeset(domain.c_str(), "UTF-8");

@@ -15,10 +15,11 @@ namespace vantle {
 namespace {
 
 constexpr mode_t ownerOnly = 0700;
-// A link could lead anywhere: other users can write to the roots of some volumes.
+// Links are not followed: other users can write to the roots of some volumes and place links there.
 constexpr int asFolder = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
-/// Makes the folder where it is missing. It has to be a real one, and the user's own.
+/// Opens the folder and creates it if it is missing. It must not be a link and must belong to the
+/// user.
 Result<FileDescriptor> openOwnFolder(int parent, const std::string& name) {
     if (mkdirat(parent, name.c_str(), ownerOnly) != 0 && errno != EEXIST)
         return systemFailure(errno, name);
@@ -39,8 +40,8 @@ Result<TrashFolder> openInside(Result<FileDescriptor> trash, std::string top) {
     return TrashFolder{std::move(files.value()), std::move(info.value()), std::move(top)};
 }
 
-/// The folder of this user in the one that the administrator made for everybody. That has to be a
-/// real folder in which nobody can touch what belongs to others.
+/// Opens this user's folder in the Trash that the administrator has made for all users. That must
+/// not be a link and must have the sticky bit, so that users cannot touch each other's files.
 Result<FileDescriptor> openShared(int top, const std::string& user) {
     const FileDescriptor shared(openat(top, ".Trash", asFolder));
     struct stat status {};
@@ -49,7 +50,7 @@ Result<FileDescriptor> openShared(int top, const std::string& user) {
     return openOwnFolder(shared.get(), user);
 }
 
-/// The highest folder of the volume above `folder`.
+/// Returns the topmost folder of the volume above `folder`.
 std::string topOf(const std::string& folder, const Volume& volume) {
     std::filesystem::path top = folder;
     while (top.has_relative_path()) {

@@ -9,30 +9,35 @@
 
 namespace vantle {
 
-/// A Trash as freedesktop.org specifies it, open: the folder "files" with what was trashed, and the
-/// folder "info" with where it came from. Other programs use it at the same time.
+/// An open Trash as freedesktop.org defines it: the folder "files" with the trashed files, and the
+/// folder "info" with their original paths. Other programs use it at the same time.
 struct TrashFolder {
     FileDescriptor files;
     FileDescriptor info;
-    /// What the paths in "info" start from, with a slash at the end; empty where they are absolute.
+    /// The folder that the paths in "info" are relative to, with a slash at the end; empty if they
+    /// are absolute.
     std::string top;
 };
 
-/// Which part of the file tree a rename() cannot leave: a mount, and on some file systems less.
+/// A part of the file tree within which rename() works: a mount or, on some file systems, a part of
+/// one.
 struct Volume {
     std::uint64_t mount = 0;
     std::uint64_t device = 0;
     friend bool operator==(const Volume&, const Volume&) = default;
 };
 
-/// The volume of a folder, or of where it would stand when it is not there yet.
+/// Returns the volume of a folder. If the folder does not exist, returns that of its nearest
+/// existing parent.
 Result<Volume> volumeOf(const std::string& folder);
 
-/// The Trash of the user's home, made where it is missing. `dataFolder` is $XDG_DATA_HOME.
+/// Opens the Trash of the user's home and creates it if it is missing. `dataFolder` is
+/// $XDG_DATA_HOME.
 Result<TrashFolder> openHomeTrash(const Url& dataFolder);
 
-/// One of a volume's, by trying the shared one with the user's folder in it first, then the user's
-/// own; made where it is missing. `folder` is a real path on that volume.
+/// Opens the user's Trash on a volume and creates it if it is missing: the user's folder in the
+/// volume's shared Trash or, if that cannot be used, a Trash of the user's own. `folder` is a path
+/// on that volume without links.
 Result<TrashFolder> openVolumeTrash(const std::string& folder, const Volume& volume);
 
 }  // namespace vantle

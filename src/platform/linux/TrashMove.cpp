@@ -22,8 +22,8 @@ namespace {
 constexpr std::string_view infoExtension = ".trashinfo";
 constexpr int maximumNames = 100'000;
 
-/// What becomes of the file once its information is written. Gives the system's error number, 0
-/// when it worked; EEXIST when the name is taken.
+/// Brings the file into the Trash after its information was written. Returns 0 or the system's
+/// error number; EEXIST means that the name is taken.
 using Transfer = std::function<int(const TrashFolder& trash, const std::string& name)>;
 
 std::string deletionDate() {
@@ -35,7 +35,7 @@ std::string deletionDate() {
     return text;
 }
 
-/// The path as the information has it, percent-encoded.
+/// Returns the path percent-encoded, as the information stores it.
 std::string encoded(const std::string& path) {
     constexpr std::string_view scheme = "file://";
     return Url::file(path).address().substr(scheme.size());
@@ -46,8 +46,8 @@ std::string infoText(const TrashFolder& trash, const std::string& path) {
            "\nDeletionDate=" + deletionDate() + "\n";
 }
 
-/// The name of the n-th attempt: "shot.png", "shot.2.png", "shot.3.png", cut so that the name of
-/// its information is not too long.
+/// Returns the name for the n-th attempt: "shot.png", "shot.2.png", "shot.3.png". Shortens it if
+/// the name of its information would be too long.
 std::string attemptedName(const Url& file, int attempt) {
     std::string extension(file.pathExtension());
     if (!extension.empty()) extension.insert(0, 1, '.');
@@ -57,7 +57,7 @@ std::string attemptedName(const Url& file, int attempt) {
     const std::size_t room = NAME_MAX - infoExtension.size();
     if (extension.size() >= room) extension.clear();
     std::size_t length = std::min(stem.size(), room - extension.size());
-    // Not in the middle of a character.
+    // The name must not be cut inside a UTF-8 character.
     while (length < stem.size() && length > 0 && (stem[length] & 0xC0) == 0x80) --length;
     return stem.substr(0, length) + extension;
 }
@@ -72,8 +72,8 @@ int writeAll(int descriptor, std::string_view text) {
     return fdatasync(descriptor) == 0 ? 0 : errno;
 }
 
-/// Reserves a name by its information, which no other program has then, and moves the file there.
-/// Gives the error number, 0 when it worked; EEXIST when the name is taken.
+/// Reserves the name by creating its information file, then moves the file there. Returns 0 or the
+/// error number; EEXIST means that the name is taken.
 int moveAs(const TrashFolder& trash, const std::string& name, const std::string& text,
            const Transfer& transfer) {
     const std::string infoName = name + std::string(infoExtension);
@@ -96,8 +96,8 @@ Outcome moveInto(const TrashFolder& trash, const std::string& path, const Transf
     return systemFailure(EEXIST, path);
 }
 
-/// For file systems that cannot be told to spare what is there. The information has reserved the
-/// name: only a program that breaks the specification could take it.
+/// Renames on file systems that do not support RENAME_NOREPLACE. The information file reserves the
+/// name, so only a program that ignores the rules of the Trash could take it in between.
 int renameWhereFree(const std::string& path, int folder, const std::string& name) {
     if (faccessat(folder, name.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0) return EEXIST;
     return renameat(AT_FDCWD, path.c_str(), folder, name.c_str()) == 0 ? 0 : errno;
@@ -128,7 +128,8 @@ int copyContents(int from, int to, off_t size) {
     return 0;
 }
 
-/// A copy with the file's times and permissions, on the disk, and without a name until it is whole.
+/// Copies the file with its times and permissions and waits until the copy is on disk. The copy has
+/// no name until it is complete.
 int copyAs(int file, const struct stat& status, const TrashFolder& trash, const std::string& name) {
     const FileDescriptor copy(openat(trash.files.get(), ".", O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
     if (!copy) return errno;
@@ -143,8 +144,8 @@ int copyAs(int file, const struct stat& status, const TrashFolder& trash, const 
     return result == 0 ? 0 : errno;
 }
 
-/// Takes the file away once its copy would outlast a loss of power, unless it is not what was
-/// copied any more. Else the copy goes again.
+/// Removes the file when its copy is safe from a power failure. If the file has changed since it
+/// was copied or cannot be removed, removes the copy instead.
 int removeCopied(const std::string& path, const struct stat& status, const TrashFolder& trash,
                  const std::string& name) {
     struct stat now {};
@@ -168,7 +169,8 @@ Transfer copying(const std::string& path) {
     };
 }
 
-/// Whether the file could be taken out of its folder. Asked before much is copied in vain.
+/// Returns 0 if a file can be removed from the folder, otherwise the error number. Checked first,
+/// so that no large file is copied in vain.
 int removalError(const std::string& folder) {
     return faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
@@ -194,7 +196,7 @@ Outcome moveFrom(const std::string& folder, const std::string& path, const Url& 
 
 Outcome moveToTrash(const Url& file, const Url& dataFolder) {
     std::error_code error;
-    // Links in the way to it would mislead whoever brings it back.
+    // The Trash stores the path without links: otherwise restoring could lead to another folder.
     const auto folder = std::filesystem::canonical(file.deletingLastPathComponent().path(), error);
     if (error) return systemFailure(error.value(), file.path());
     const std::string path = folder / file.lastPathComponent();

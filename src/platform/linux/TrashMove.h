@@ -6,14 +6,14 @@
 
 namespace vantle {
 
-/// Moves a file to the user's Trash as freedesktop.org specifies it: to that of the home folder
-/// where both are on one volume, else to that of the file's volume; where that cannot be made it is
-/// copied to the home folder's and removed when the copy is complete. Never over another file.
-/// Interrupted at any moment, the file is whole at one of both places. Blocks, for long only while
-/// it copies.
+/// Moves a file to the user's Trash as freedesktop.org defines it: to the Trash in the home folder
+/// if both are on one volume, otherwise to the Trash of the file's volume. If that cannot be used,
+/// copies the file to the Trash in the home folder and removes it when the copy is complete. Never
+/// overwrites another file. If it is interrupted, the file is complete in at least one of the two
+/// places. Blocks, but takes long only if it copies.
 ///
-/// `dataFolder` is $XDG_DATA_HOME. Fails with the system's error number; the file has not moved
-/// then.
+/// `dataFolder` is $XDG_DATA_HOME. Fails with the system's error number and leaves the file where
+/// it was.
 Outcome moveToTrash(const Url& file, const Url& dataFolder);
 
 }  // namespace vantle

@@ -20,14 +20,14 @@ std::string_view withoutLeadingBlanks(std::string_view text) {
     return text;
 }
 
-/// Takes `prefix` off the front of `text`; false when it is not there.
+/// Removes `prefix` from the front of `text`; returns false if it is not there.
 bool take(std::string_view& text, std::string_view prefix) {
     if (!text.starts_with(prefix)) return false;
     text.remove_prefix(prefix.size());
     return true;
 }
 
-/// The text up to the closing quote, backslashes resolved; absent when the quote is missing.
+/// Returns the unescaped text up to the closing quote, or nothing if that quote is missing.
 std::optional<std::string> quoted(std::string_view text) {
     std::string value;
     for (std::size_t i = 0; i < text.size(); ++i) {

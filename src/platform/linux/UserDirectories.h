@@ -10,42 +10,42 @@
 
 namespace vantle {
 
-/// The user's folders as the desktop's settings name them (XDG base directories and
-/// user-dirs.dirs). Reads the file anew at each call. Any thread.
+/// The user's folders according to the desktop's settings (XDG base directories and
+/// user-dirs.dirs). Reads that file at each call. Any thread.
 class UserDirectories {
 public:
     explicit UserDirectories(Environment environment) : environment_(std::move(environment)) {}
 
-    /// $HOME, else the account's.
+    /// $HOME, otherwise the home folder of the account.
     Url home() const;
 
-    /// $XDG_CONFIG_HOME, else ~/.config.
+    /// $XDG_CONFIG_HOME, otherwise ~/.config.
     Url configuration() const;
 
-    /// $XDG_CONFIG_DIRS, else /etc/xdg: those of the system, the most important one first.
+    /// The system's folders: $XDG_CONFIG_DIRS, otherwise /etc/xdg; the most important one first.
     std::vector<Url> systemConfiguration() const;
 
-    /// $XDG_DATA_HOME, else ~/.local/share.
+    /// $XDG_DATA_HOME, otherwise ~/.local/share.
     Url data() const;
 
-    /// $XDG_DATA_DIRS, else those of the standard: those of the system, the most important one
-    /// first.
+    /// The system's folders: $XDG_DATA_DIRS, otherwise /usr/local/share and /usr/share; the most
+    /// important one first.
     std::vector<Url> systemData() const;
 
-    /// $XDG_CACHE_HOME, else ~/.cache.
+    /// $XDG_CACHE_HOME, otherwise ~/.cache.
     Url cache() const;
 
-    /// The Desktop folder; ~/Desktop when the settings do not name one.
+    /// The Desktop folder; ~/Desktop if the settings do not name one.
     Url desktop() const;
 
-    /// The folder for pictures; absent when the settings do not name one.
+    /// The folder for pictures; absent if the settings do not name one.
     std::optional<Url> pictures() const;
 
-    /// The folder for videos; absent when the settings do not name one.
+    /// The folder for videos; absent if the settings do not name one.
     std::optional<Url> videos() const;
 
-    /// The folder that the text of a user-dirs.dirs file gives for a key such as
-    /// "XDG_DESKTOP_DIR": the last line that names an absolute path or one below $HOME counts.
+    /// Returns the folder that the text of a user-dirs.dirs file names for a key such as
+    /// "XDG_DESKTOP_DIR". The last line with an absolute path or one below $HOME counts.
     static std::optional<Url> parse(std::string_view text, std::string_view key, const Url& home);
 
 private:

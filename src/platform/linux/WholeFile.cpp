@@ -21,7 +21,7 @@ namespace {
 constexpr mode_t newFileMode = 0644;
 constexpr int maximumKeptAside = 1000;
 
-/// Where a symbolic link leads to; the file itself when it is none.
+/// Returns the target of a symbolic link, or the file itself if it is not one.
 Url target(const Url& file) {
     const std::unique_ptr<char, decltype(&std::free)> path(realpath(file.path().c_str(), nullptr),
                                                            &std::free);

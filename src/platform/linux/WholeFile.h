@@ -9,24 +9,24 @@
 
 namespace vantle {
 
-/// Reads a regular file of at most `limit` bytes; a longer one fails with EFBIG, anything but a
-/// regular file with EISDIR or EINVAL.
+/// Reads a regular file of at most `limit` bytes. Fails with EFBIG if the file is longer, and with
+/// EISDIR or EINVAL if it is not a regular file.
 Result<std::string> readWholeFile(const Url& file, std::size_t limit);
 
-/// What a file is to outlive.
+/// What a file has to survive.
 enum class Durability {
-    untilRestart,    ///< This program; the machine dying may leave it empty.
-    throughFailure,  ///< Everything. Waits for the disk.
+    untilRestart,    ///< The end of this program. A crash of the system may leave the file empty.
+    throughFailure,  ///< A crash of the system or a power failure. Waits for the disk.
 };
 
-/// Puts `contents` in the place of the file in one step: at any moment, with the default also when
-/// the machine dies, either the old or the new one stands there whole. Creates missing folders. A
-/// symbolic link stays and its target is replaced; the mode of an existing file is kept.
+/// Replaces the file by one with these contents in one step: at any moment either the old or the
+/// new file is there, complete. By default that holds even if the system crashes. Creates missing
+/// folders. Keeps a symbolic link and replaces its target; keeps the mode of an existing file.
 Outcome replaceWholeFile(const Url& file, std::string_view contents,
                          Durability durability = Durability::throughFailure);
 
-/// Renames the file to "NAME.damaged" (or "-2", "-3", ... when that is taken) and gives the new
-/// name. Never overwrites anything.
+/// Renames the file to "NAME.damaged" ("NAME.damaged-2", "-3", ... if that is taken) and returns
+/// the new name. Never overwrites a file.
 Result<Url> keepAside(const Url& file);
 
 }  // namespace vantle

@@ -17,18 +17,18 @@
 namespace vantle {
 namespace {
 
-/// The outcome of asking the kernel for a read lease, which it refuses while a writer exists: 0, or
-/// the number of the failure.
+/// Requests a read lease, which the kernel refuses while a writer exists. Returns 0 or the error
+/// number.
 int failureOfLease(int file) {
-    // A writer that comes in the moment of the lease would have us signalled: with SIGIO, the
-    // default, that would end the program.
+    // If a writer opens the file during the lease, the kernel sends a signal. The default, SIGIO,
+    // would end the program.
     if (fcntl(file, F_SETSIG, SIGURG) != 0) return errno;
     if (fcntl(file, F_SETLEASE, F_RDLCK) != 0) return errno;
     fcntl(file, F_SETLEASE, F_UNLCK);
     return 0;
 }
 
-/// The kind of the file system, as statfs(2) numbers it; 0 when it cannot be asked.
+/// Returns the kind of the file system as in statfs(2), or 0 if statfs fails.
 std::uint32_t fileSystemOf(int file) {
     struct statfs system {};
     return fstatfs(file, &system) == 0 ? static_cast<std::uint32_t>(system.f_type) : 0;
@@ -44,7 +44,7 @@ bool isOpenForWriting(const std::string& process, const char* descriptor) {
 bool processWrites(const std::string& process, const struct stat& file) {
     const std::string folder = process + "/fd";
     const DirectoryStream descriptors(opendir(folder.c_str()));
-    if (!descriptors) return false;  // of another user, or ended meanwhile
+    if (!descriptors) return false;  // another user's process, or one that has ended
     while (const dirent* entry = readdir(descriptors.get())) {
         struct stat other {};
         const bool isSameFile = stat((folder + "/" + entry->d_name).c_str(), &other) == 0 &&
