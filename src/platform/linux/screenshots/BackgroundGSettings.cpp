@@ -87,7 +87,7 @@ void BackgroundGSettings::written(const Name& name, const Outcome& failure) {
     if (failure)
         systemLog("Vantle: cannot set " + name.second + " of " + name.first + ": " +
                   failure->message);
-    // Also where it could be set: a default stands there that is the desktop's.
+    // Read again after a success too: after a reset only the desktop knows the default.
     (void)ask(name);
 }
 

@@ -15,47 +15,47 @@
 
 namespace vantle {
 
-/// GSettings for the main thread: nothing here waits. Each call answers what was heard last, and
-/// has others asked in the background. What was set counts at once; where it could not be set, that
-/// is logged, and what really stands there is heard again.
+/// GSettings for the main thread; never waits. Each call returns the last known value and reads it
+/// again in the background. A value that is set counts at once; if setting it fails, that is logged
+/// and the actual value is read again.
 class BackgroundGSettings final : public GSettings,
                                   public std::enable_shared_from_this<BackgroundGSettings> {
 public:
-    /// `asked` is called on `queue` only. The queue and the scheduler outlive this.
+    /// `asked` is called on `queue` only. `queue` and `main` must outlive this object.
     BackgroundGSettings(std::shared_ptr<GSettings> asked, SerialQueue& queue, Scheduler& main)
         : asked_(std::move(asked)), queue_(queue), main_(main) {}
 
-    /// Something is heard that was not known. Main thread.
+    /// Called on the main thread when a value that was read differs from the last known one.
     std::function<void()> onChange;
 
-    /// Calls `done` on the main thread once all that was asked for until now has been heard.
+    /// Calls `done` on the main thread when everything that was requested so far has been read.
     void whenHeard(std::function<void()> done);
 
-    /// Fails with EAGAIN as long as nothing was heard.
+    /// Fails with EAGAIN until the value has been read.
     Result<std::string> text(const std::string& schema, const std::string& key) const override;
     Outcome setText(const std::string& schema, const std::string& key,
                     const std::string& text) override;
     Outcome reset(const std::string& schema, const std::string& key) override;
-    /// True as long as nothing was heard.
+    /// Returns true until the answer has been read.
     bool isWritable(const std::string& schema, const std::string& key) const override;
 
 private:
-    using Name = std::pair<std::string, std::string>;  ///< The schema, and the key in it.
+    using Name = std::pair<std::string, std::string>;  ///< The schema and the key in it.
 
-    /// What stands under a name. Absent until it is heard.
+    /// The last known value of a setting; absent until it has been read.
     struct Entry {
         std::optional<Result<std::string>> text;
         std::optional<bool> isWritable;
         bool isAsked = false;
-        std::uint64_t writes = 0;  ///< An answer from before the last one no longer counts.
+        std::uint64_t writes = 0;  ///< An answer that was requested before the last one is ignored.
     };
 
-    /// Asking changes nothing for who asks.
+    /// Reading again in the background changes nothing that a caller sees, so getters are const.
     BackgroundGSettings& self() const { return const_cast<BackgroundGSettings&>(*this); }
     const Entry& ask(const Name& name);
     void hear(const Name& name, std::uint64_t writes, const Result<std::string>& text,
               bool isWritable);
-    /// Has `write` called in the background; until that is heard, `text` stands there.
+    /// Calls `write` in the background; until the result is read, `text` counts as the value.
     Outcome write(const Name& name, const std::string& text, std::function<Outcome()> write);
     void written(const Name& name, const Outcome& failure);
 

@@ -30,7 +30,8 @@ char taken(std::string_view& text) {
     return first;
 }
 
-/// Takes up to `most` hexadecimal digits off the front; 0 when there is none.
+/// Removes up to `maximum` hexadecimal digits from the front and returns their value; 0 if there
+/// are none.
 std::uint16_t takenHex(std::string_view& text, std::size_t maximum) {
     std::uint16_t value = 0;
     const auto* end = text.data() + std::min(maximum, text.size());
@@ -39,7 +40,7 @@ std::uint16_t takenHex(std::string_view& text, std::size_t maximum) {
     return value;
 }
 
-/// Absent when the text is not in the encoding `from`.
+/// Returns nothing if the text is not in the encoding `from`.
 std::optional<std::string> converted(const char* from, const char* to, std::string_view text) {
     auto* const conversion = iconv_open(to, from);
     std::string result(text.size() * 2, '\0');
@@ -60,7 +61,7 @@ std::string escapedForQt(char16_t unit) {
     return "\\x" + std::string(digits.data(), end);
 }
 
-/// What the letter behind a backslash stands for.
+/// Returns the character that a backslash and the letter stand for.
 char plainEscape(char letter) {
     constexpr std::string_view letters = "abfnrtv";
     constexpr std::string_view meanings = "\a\b\f\n\r\t\v";
@@ -118,7 +119,7 @@ std::optional<std::string> toQtEscapes(std::string_view text) {
     for (std::size_t i = 0; i + 1 < units->size(); i += 2) {
         const auto byte = [&](std::size_t at) { return static_cast<unsigned char>((*units)[at]); };
         const auto unit = static_cast<char16_t>(byte(i + 1) << 8 | byte(i));
-        // Qt takes every digit that follows an escape for a part of it.
+        // Qt reads every digit that follows an escape as a part of it.
         isAfterEscape = unit < 0x20 || unit > 0x7e || (isAfterEscape && isHex(unit));
         if (isAfterEscape) {
             written += escapedForQt(unit);
@@ -127,7 +128,7 @@ std::optional<std::string> toQtEscapes(std::string_view text) {
             written += static_cast<char>(unit);
         }
     }
-    // Unquoted, these would begin a comment, part a list, or be taken for the blanks around it.
+    // Without quotes these would begin a comment, separate a list, or be dropped as blanks.
     const bool needsQuotes = written.find_first_of(";,=\"") != std::string::npos ||
                              written.starts_with(' ') || written.ends_with(' ');
     return needsQuotes ? '"' + written + '"' : written;

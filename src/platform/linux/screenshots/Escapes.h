@@ -8,18 +8,20 @@
 
 namespace vantle {
 
-/// The text that a value in a settings file of KDE or Xfce stands for: \s \t \n \r \\ and \xHH are
-/// escapes, other backslashes stand for themselves.
+/// Returns the text of a value in a settings file of KDE or Xfce: \s \t \n \r \\ and \xHH are
+/// escapes, other backslashes are literal.
 std::string fromBackslashEscapes(std::string_view written);
 
-/// The text that a value in a settings file of Qt stands for, as Qt 5 writes it (everything beyond
-/// ASCII in \x escapes of UTF-16) or Qt 6 (plain UTF-8).
+/// Returns the text of a value in a settings file of Qt, as written by Qt 5 (everything beyond
+/// ASCII as \x escapes of UTF-16) or by Qt 6 (plain UTF-8).
 std::string fromQtEscapes(std::string_view written);
 
-/// The same backwards, in ASCII, which Qt 5 and Qt 6 both read. Absent when it is not UTF-8.
+/// Returns the value for a text in ASCII, which both Qt 5 and Qt 6 read. Returns nothing if the
+/// text is not UTF-8.
 std::optional<std::string> toQtEscapes(std::string_view text);
 
-/// `text` with $NAME and ${NAME} replaced by the variables' values; by nothing where there is none.
+/// Returns `text` with $NAME and ${NAME} replaced by the variables' values, and with variables that
+/// are not set removed.
 std::string expandingVariables(std::string_view text, const Environment& environment);
 
 }  // namespace vantle

@@ -17,7 +17,7 @@ inline bool isFile(const Url& url) {
     return std::filesystem::is_regular_file(url.path(), error);
 }
 
-/// With the folders around it. Whether it is there then.
+/// Creates the folder and its missing parents. Returns true if it exists afterwards.
 inline bool makeFolder(const Url& url) {
     std::error_code error;
     std::filesystem::create_directories(url.path(), error);

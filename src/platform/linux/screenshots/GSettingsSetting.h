@@ -9,8 +9,8 @@
 
 namespace vantle {
 
-/// A text among the settings of GNOME and its relatives. Empty text counts as not set. What is not
-/// known yet is a failure that is not logged.
+/// A text among the settings of GNOME and related desktops. Empty text counts as not set. Reading a
+/// value that is not known yet fails, and that failure is not logged.
 class GSettingsSetting final : public TextSetting {
 public:
     GSettingsSetting(std::shared_ptr<GSettings> settings, std::string schema, std::string key)

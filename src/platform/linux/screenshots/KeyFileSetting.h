@@ -9,7 +9,7 @@
 
 namespace vantle {
 
-/// A setting in the settings files of its program, which all of its settings share.
+/// A setting in the settings files of its program; all settings of that program share the files.
 class KeyFileSetting final : public TextSetting {
 public:
     KeyFileSetting(std::shared_ptr<SettingsFiles> files, std::string group, std::string key)

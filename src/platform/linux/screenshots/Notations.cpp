@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view scheme = "file:";
 constexpr auto popup = "Popup";
 
-/// A tool may itself write an address whose percent signs stand for themselves.
+/// Accepts invalid addresses too: a tool may write one with percent signs that are not encoded.
 std::string pathOf(const std::string& text) {
     if (!text.starts_with(scheme)) return text;
     if (const auto folder = Url::fromFileAddress(text)) return folder->path();
@@ -24,7 +24,7 @@ std::optional<std::string> address(const Url& folder) {
     return folder.address();
 }
 
-/// The actions without the one that shows a notification.
+/// Returns the actions without the one that shows a notification.
 std::string quietActions(const std::string& actions) {
     std::string quiet;
     for (const auto& action : split(actions, '|'))

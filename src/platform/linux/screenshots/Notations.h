@@ -11,37 +11,37 @@ namespace vantle {
 
 /// How a screenshot tool writes a folder.
 struct FolderNotation {
-    /// The path, which may begin with "~".
+    /// Returns the path, which may begin with "~".
     std::function<std::string(const std::string& text)> read;
 
-    /// Absent when the tool has no way to write that folder.
+    /// Returns nothing if the tool's notation cannot express that folder.
     std::function<std::optional<std::string>(const Url& folder)> write;
 };
 
-/// How a screenshot tool writes whether it shows a screenshot that it has saved.
+/// How a screenshot tool writes the setting that it shows a screenshot after saving it.
 struct PreviewNotation {
     std::function<bool(const std::string& text)> read;
 
-    /// What is to be written in the place of `text`, so that the tool shows it, or no longer does.
+    /// Returns the text that replaces `text` so that the tool shows screenshots, or does not.
     std::function<std::string(const std::string& text, bool shows)> write;
 };
 
-/// An address, percent-encoded as far as it had to be, or a path that is taken as it stands.
+/// Reads a file address, with or without percent-encoding, or a plain path; writes an address.
 FolderNotation addressOrPath();
 
-/// The same in a file of Xfce.
+/// Like addressOrPath(), in a settings file of Xfce.
 FolderNotation addressOfXfce();
 
-/// An address or a path in a file of KDE, percent-encoded both; variables are expanded.
+/// An address or a path in a settings file of KDE, both percent-encoded. Expands variables.
 FolderNotation addressOfKde(const Environment& environment);
 
-/// A path in a file of Qt.
+/// A path in a settings file of Qt.
 FolderNotation pathOfQt();
 
-/// "true" or "false".
+/// Writes "true" or "false"; reads everything but "false" and "0" as true.
 PreviewNotation yesOrNo();
 
-/// Among the actions of an event of KDE, "Sound|Popup", the one that shows a notification.
+/// The action "Popup", which shows a notification, in the actions of a KDE event ("Sound|Popup").
 PreviewNotation popupOfKde();
 
 }  // namespace vantle

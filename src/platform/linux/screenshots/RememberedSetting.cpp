@@ -8,7 +8,7 @@ namespace {
 constexpr auto beforeKey = ".before";
 constexpr auto writtenKey = ".written";
 
-// No text can be mistaken for it.
+// A Boolean, because any text could be a value of the setting.
 const PreferenceValue wasNotSet = false;
 
 }  // namespace

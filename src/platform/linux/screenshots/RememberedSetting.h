@@ -11,15 +11,15 @@
 
 namespace vantle {
 
-/// A setting of another program, and what stood there before it was changed here. That is
-/// remembered in a file of our own, across restarts, before the change is made; where it cannot be
-/// remembered nothing is changed.
+/// A setting of another program, and its value before it was changed here. That value is stored in
+/// a file of our own before the change, so that it survives restarts. If it cannot be stored,
+/// nothing is changed.
 class RememberedSetting {
 public:
     using Meaning = std::function<std::string(const std::string& text)>;
 
-    /// `name` is that of the setting in the file `memory`. Two texts of the same `meaning` are the
-    /// same setting: a program may write in another way what it has read.
+    /// `name` is the setting's name in the file `memory`. Texts with the same `meaning` count as
+    /// equal, because a program may write a value in another way than it has read it.
     RememberedSetting(std::unique_ptr<TextSetting> setting, const Url& memory, std::string name,
                       Meaning meaning)
         : setting_(std::move(setting)),
@@ -27,16 +27,17 @@ public:
           name_(std::move(name)),
           meaning_(std::move(meaning)) {}
 
-    /// Absent when it is not set, or cannot be read.
+    /// Returns the current text, or nothing if it is not set or cannot be read.
     std::optional<std::string> text() const;
 
     Outcome change(const std::string& text);
 
     struct Before {
-        std::optional<std::string> text;  ///< Absent: it was not set.
+        std::optional<std::string> text;  ///< Absent if the setting was not set.
     };
 
-    /// Absent when it was not changed here, or was changed by others since.
+    /// Returns the value before the change; nothing if the setting was not changed here or has been
+    /// changed by others since.
     std::optional<Before> before() const;
 
     Outcome restore();

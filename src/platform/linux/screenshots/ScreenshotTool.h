@@ -10,10 +10,10 @@
 
 namespace vantle {
 
-/// What there is to know about a screenshot tool: where it saves by default, where its settings
-/// are, how they are written, what cannot be set, and where it saves recordings.
+/// Describes a screenshot tool: where it saves by default, where its settings are, how they are
+/// written, which cannot be changed, and where it saves recordings.
 struct ScreenshotTool {
-    /// What it does when its folder is not there.
+    /// What the tool does if its folder does not exist: use the default folder or create it.
     enum class MissingFolder { meansDefault, isMade };
 
     std::string name;
@@ -21,21 +21,21 @@ struct ScreenshotTool {
     MissingFolder missingFolder = MissingFolder::meansDefault;
 
     struct Folder {
-        std::unique_ptr<TextSetting> setting;  ///< None: it cannot be set, and `obstacle` says why.
+        std::unique_ptr<TextSetting> setting;  ///< Null if it cannot be set; see `obstacle`.
         FolderNotation notation;
         std::string obstacle;
     } folder;
 
     struct Preview {
-        std::unique_ptr<TextSetting> setting;  ///< None: it cannot be set, and `obstacle` says why.
+        std::unique_ptr<TextSetting> setting;  ///< Null if it cannot be set; see `obstacle`.
         PreviewNotation notation;
         std::string textByDefault;
-        bool isShown = false;  ///< Where it cannot be set.
+        bool isShown = false;  ///< Used only if it cannot be set.
         std::string obstacle;
     } preview;
 
-    /// Where it saves recordings, read anew at each call. Empty when it makes none, or saves them
-    /// where it saves screenshots.
+    /// Returns the folder for recordings, read at each call. An empty function if the tool makes no
+    /// recordings or saves them with the screenshots.
     std::function<Url()> recordingsFolder;
 };
 

@@ -20,7 +20,7 @@ using MissingFolder = ScreenshotTool::MissingFolder;
 
 constexpr auto gnomeShell = "gnome-shell";
 
-/// What a tool's description needs.
+/// Everything that is needed to describe a tool.
 struct ToolContext {
     Environment environment;
     UserDirectories directories{environment};
@@ -44,7 +44,7 @@ struct ToolContext {
         return std::make_unique<GSettingsSetting>(settings, std::move(schema), std::move(key));
     }
 
-    /// As most tools choose it: the folder for pictures, where it is there.
+    /// Returns the default of most tools: the folder for pictures if it exists, otherwise home.
     std::function<Url()> picturesOrHome() const {
         return [directories = directories] {
             const Url home = directories.home();
@@ -54,7 +54,7 @@ struct ToolContext {
     }
 };
 
-/// How all its versions say whether they show what they saved.
+/// Returns the setting for the preview, which is the same in all versions.
 ScreenshotTool::Preview previewOfSpectacle(const ToolContext& its) {
     return {.setting = std::make_unique<KeyFileSetting>(its.files("spectacle.notifyrc"),
                                                         "Event/newScreenshotSaved", "Action"),
@@ -62,8 +62,8 @@ ScreenshotTool::Preview previewOfSpectacle(const ToolContext& its) {
             .textByDefault = "Popup"};
 }
 
-/// The versions up to 23.08. They alone stand on KDE's libraries for Qt 5, and describe their
-/// notifications where those look: that tells them without starting the program.
+/// Returns true for the versions up to 23.08. Only they use KDE's libraries for Qt 5 and install
+/// the description of their notifications for those, so the program need not be started.
 bool isSpectacleForQt5(const ToolContext& its) {
     return its.hasData("knotifications5/spectacle.notifyrc") &&
            !its.hasData("knotifications6/spectacle.notifyrc");
@@ -82,12 +82,12 @@ ScreenshotTool spectacleForQt5(const ToolContext& its) {
         .preview = previewOfSpectacle(its)};
 }
 
-/// What Spectacle keeps of one kind of capture.
+/// Spectacle's settings for one kind of capture.
 struct KeptBySpectacle {
     const char* group;
     const char* location;
-    /// Where it writes down the name of the folder that it saves into by default, at its first
-    /// start, in the language that it speaks then.
+    /// The key with the name of the default folder. Spectacle writes it at its first start, in the
+    /// language of that moment.
     const char* folderName;
     const char* folderInEnglish;
 };
@@ -97,7 +97,7 @@ constexpr KeptBySpectacle images{"ImageSave", "imageSaveLocation", "translatedSc
 constexpr KeptBySpectacle videos{"VideoSave", "videoSaveLocation", "translatedScreencastsFolder",
                                  "Screencasts"};
 
-/// What stands there. A failure is logged by the settings, and means the default.
+/// Returns the value of the key. If reading fails, the settings log that and the default is used.
 std::optional<std::string> textIn(const SettingsFiles& files, const char* group, const char* key) {
     const auto text = files.value(group, key);
     return text ? text.value() : std::nullopt;
@@ -193,7 +193,7 @@ ScreenshotTool screengrab(const ToolContext& its) {
             .folder = {.setting = std::make_unique<KeyFileSetting>(
                            its.files("screengrab/screengrab.conf"), "Base", "defDir"),
                        .notation = pathOfQt()},
-            // Its setting "trayMessages" changes nothing about that in version 2.5.
+            // In version 2.5 the setting "trayMessages" has no effect on this notification.
             .preview = {.isShown = true,
                         .obstacle = localized("ScreenshotTool",
                                               "ScreenGrab always notifies after it saved.")}};

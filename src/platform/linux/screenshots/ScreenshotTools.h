@@ -10,7 +10,7 @@
 
 namespace vantle {
 
-/// The screenshot tool of that name, which is the one of its program; absent when it is not known.
+/// Returns the description of a screenshot tool, named like its program; nothing if it is unknown.
 std::optional<ScreenshotTool> makeScreenshotTool(const std::string& name,
                                                  const Environment& environment,
                                                  const std::shared_ptr<GSettings>& settings);

@@ -16,7 +16,8 @@ namespace {
 
 constexpr std::size_t maximumFileSize = std::size_t{256} * 1024;
 
-/// A file that its owner may not write to is meant to stay, though it could be replaced.
+/// Returns true if the file must not be changed. Its folder may permit replacing it, but a file
+/// without write permission is meant to stay as it is.
 bool isReadOnly(const Url& file) {
     constexpr mode_t writable = S_IWUSR | S_IWGRP | S_IWOTH;
     struct stat status {};

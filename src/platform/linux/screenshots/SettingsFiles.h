@@ -12,22 +12,22 @@
 
 namespace vantle {
 
-/// The settings files of a program: the user's own comes before those of the system; only it is
-/// written to, whole or not at all, keeping its mode, and never when it is damaged, larger than
-/// 256 KiB, not to be read, or read-only. Whatever goes wrong with them is logged once.
+/// The settings files of a program: the user's own comes before those of the system. Only the
+/// user's file is written, in one step and with its mode kept, and never if it is damaged, larger
+/// than 256 KiB, unreadable or read-only. The first failure is logged.
 class SettingsFiles {
 public:
-    /// The user's first; never empty.
+    /// `files` begins with the user's own and is never empty.
     explicit SettingsFiles(std::vector<Url> files) : files_(std::move(files)) {}
 
-    /// Absent when none of them has it. The group "" is what stands before the first group.
+    /// Returns nothing if no file has the key. The group "" holds the keys before the first group.
     Result<std::optional<std::string>> value(std::string_view group, std::string_view key) const;
 
-    /// Sets the key, or takes it away when `text` is absent.
+    /// Sets the key, or removes it if `text` is absent.
     Outcome change(std::string_view group, std::string_view key,
                    const std::optional<std::string>& text);
 
-    /// Why nothing can be changed, as a sentence for a person; empty when it can.
+    /// Returns why nothing can be changed, as a sentence for the user; an empty string if it can.
     std::string obstacle() const;
 
 private:

@@ -32,7 +32,7 @@ std::string chooseScreenshotTool(
     for (const auto& desktop : split(currentDesktop, ':')) {
         const auto found = toolsOfDesktops().find(desktop);
         if (found == toolsOfDesktops().end()) continue;
-        // A shell that runs needs no looking for: its program may stand beside the usual folders.
+        // GNOME's shell is running, so it is not looked for: it may be installed outside $PATH.
         if (found->second == gnomeShell || isInstalled(found->second)) return found->second;
         break;
     }

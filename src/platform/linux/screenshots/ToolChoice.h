@@ -7,11 +7,11 @@ namespace vantle {
 
 inline constexpr auto noScreenshotTool = "none";
 
-/// The name of the screenshot tool that saves the screenshots of this desktop, or noScreenshotTool.
+/// Returns the name of the tool that saves the screenshots of this desktop, or noScreenshotTool.
 ///
-/// The first name in `currentDesktop` ($XDG_CURRENT_DESKTOP, parted by colons) that is known
-/// decides, where the tool of that desktop is installed or a part of it; otherwise the first one
-/// installed of those that belong to no desktop.
+/// The first known name in `currentDesktop` ($XDG_CURRENT_DESKTOP, separated by colons) decides, if
+/// that desktop's tool is installed or part of the desktop. Otherwise the result is the first
+/// installed tool that belongs to no desktop.
 std::string chooseScreenshotTool(
     const std::string& currentDesktop,
     const std::function<bool(const std::string& program)>& isInstalled);

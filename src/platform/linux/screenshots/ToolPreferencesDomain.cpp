@@ -73,7 +73,7 @@ void ToolPreferencesDomain::restore(const std::string& key) {
 std::optional<Url> ToolPreferencesDomain::folder(const std::optional<std::string>& text) const {
     if (auto named = chosen(text)) return named;
     Url byDefault = tool_.defaultFolder();
-    // Whatever is kept in the mount point meanwhile is not what the user calls his pictures.
+    // A mount point without its file system may hold other files, but not the user's pictures.
     const MountTable mounts(mounts_);
     if (mounts.isUnmounted(byDefault)) return std::nullopt;
     if (!mounts.isRemote(byDefault)) (void)isThere(byDefault);
@@ -85,7 +85,7 @@ std::optional<Url> ToolPreferencesDomain::chosen(const std::optional<std::string
     if (path == "~" || path.starts_with("~/")) path.replace(0, 1, home_.path());
     if (!path.starts_with('/')) return std::nullopt;
     Url named = Url::file(path);
-    // Nothing here may wait for a server: whether it has the folder shows when that is watched.
+    // This must not wait for a server: watching the folder shows later whether it exists.
     if (MountTable(mounts_).isRemote(named)) return named;
     if (isFile(named)) return named.deletingLastPathComponent();
     return isThere(named) ? std::optional(std::move(named)) : std::nullopt;
@@ -98,7 +98,7 @@ bool ToolPreferencesDomain::isThere(const Url& folder) const {
 }
 
 void ToolPreferencesDomain::setFolder(const Url& folder) {
-    // Also today's default is written: it may become another one, and this one was chosen.
+    // The user's choice is written even if it is the default, because the default may change.
     if (!folder_ || chosen(folder_->text()) == folder) return;
     const auto text = tool_.folder.notation.write(folder);
     // A failure to write is logged by the setting.

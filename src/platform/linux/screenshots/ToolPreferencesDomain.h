@@ -10,19 +10,19 @@
 
 namespace vantle {
 
-/// The system's screenshot preferences, answered by the settings of a screenshot tool. Other keys
-/// than those of platform/ScreenshotPreferences.h are never there. Values are written as soon as
-/// they are set. Only the location tells its previous value; a preview that is switched back gets
-/// its own by itself.
+/// The system's screenshot preferences, stored in the settings of a screenshot tool. Only the keys
+/// of platform/ScreenshotPreferences.h exist. Values are written as soon as they are set. Only the
+/// location has a previousValue(); setting the preview back to its earlier value restores the
+/// earlier text by itself.
 class ToolPreferencesDomain final : public PreferencesDomain {
 public:
-    /// What the tool's settings were is remembered in the file `memory`.
+    /// The earlier values of the tool's settings are stored in the file `memory`.
     ToolPreferencesDomain(ScreenshotTool tool, const Url& home, const Url& memory,
                           MountFiles mounts = {});
 
-    /// Where no location is set, it is the tool's default; absent when a file system is expected
-    /// around that and is not mounted. A folder that the tool would make at its next screenshot is
-    /// made here: only one that exists can be watched.
+    /// The location is the tool's default if none is set, and absent if the file system of that
+    /// default is expected but not mounted. If the tool would create the folder at its next
+    /// screenshot, creates it here, because only an existing folder can be watched.
     std::optional<PreferenceValue> value(const std::string& key) const override;
     void setValue(const std::string& key, const PreferenceValue& value) override;
     void synchronize() override {}
@@ -32,9 +32,9 @@ public:
     void restore(const std::string& key) override;
 
 private:
-    /// The folder that the tool saves into, with that text as its setting.
+    /// Returns the folder that the tool saves into if its setting is `text`.
     std::optional<Url> folder(const std::optional<std::string>& text) const;
-    /// The one that the text names, where it is there.
+    /// Returns the folder that `text` names, or nothing if that does not exist.
     std::optional<Url> chosen(const std::optional<std::string>& text) const;
     bool isThere(const Url& folder) const;
     bool showsPreview() const;
