@@ -14,7 +14,7 @@
 namespace vantle {
 namespace {
 
-// Of GNOME, of Blueman (Xfce, MATE, LXQt), and of KDE.
+// The programs of GNOME, of Blueman (Xfce, MATE, LXQt), and of KDE.
 constexpr std::array sendingPrograms{FileProgram{"bluetooth-sendto", nullptr},
                                      FileProgram{"blueman-sendto", nullptr},
                                      FileProgram{"bluedevil-sendfile", "--files"}};
@@ -43,7 +43,7 @@ void BluetoothSharing::find(Found found) {
                               [this](const auto& files) { send(files); }});
         found(std::move(offers));
     };
-    // Nobody else here needs the system's bus.
+    // Connects to the system bus only here, because nothing else needs it.
     callBus(bus_ ? *bus_ : QDBusConnection::systemBus(), message, *this, answered, timeout);
 }
 

@@ -9,12 +9,12 @@
 
 namespace vantle {
 
-/// The desktop's own dialog that sends files over Bluetooth, where this machine has an adapter.
+/// Offers the desktop's own dialog for sending files over Bluetooth, if the machine has an adapter.
 class BluetoothSharing final : public QObject, public SharingSource {
     Q_OBJECT
 
 public:
-    /// `launcher` outlives it; `bus` is the system's unless it is given.
+    /// `launcher` must outlive this object; `bus` is the system bus unless it is given.
     explicit BluetoothSharing(ProcessLauncher& launcher, std::optional<QDBusConnection> bus = {});
 
     void find(Found found) override;

@@ -18,7 +18,8 @@ bool isReachable(const QVariantMap& device) {
            device[QStringLiteral("Paired")].toBool();
 }
 
-/// What the action "shareFile" takes: an address, and not to open the file at the other end.
+/// Returns the argument of the action "shareFile": the file's address, and false so that the device
+/// does not open the file.
 QVariant sharedFile(const Url& file) {
     QDBusArgument argument;
     argument.beginStructure();

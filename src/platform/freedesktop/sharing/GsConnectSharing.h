@@ -7,7 +7,7 @@
 
 namespace vantle {
 
-/// Devices that are paired by GSConnect, GNOME's partner of KDE Connect, and within reach.
+/// The devices within reach that are paired with GSConnect, GNOME's counterpart of KDE Connect.
 class GsConnectSharing final : public QObject, public SharingSource {
     Q_OBJECT
 

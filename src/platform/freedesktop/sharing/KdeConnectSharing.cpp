@@ -23,7 +23,7 @@ QDBusMessage call(const QString& path, const QString& interface, const char* met
     return message;
 }
 
-/// Of the devices, by their identifiers.
+/// Returns the names of the devices by their identifiers.
 Names namesIn(const QDBusMessage& reply) {
     const QVariant value = reply.arguments().value(0);
     const bool isUsable = !isError(reply) && reply.signature() == QStringLiteral("a{ss}");

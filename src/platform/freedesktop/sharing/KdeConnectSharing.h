@@ -7,7 +7,7 @@
 
 namespace vantle {
 
-/// Devices that are paired by KDE Connect and within reach.
+/// The devices within reach that are paired with KDE Connect.
 class KdeConnectSharing final : public QObject, public SharingSource {
     Q_OBJECT
 

@@ -30,7 +30,7 @@ QDBusMessage portalCall(const char* interface, const char* method) {
                                           QString::fromLatin1(method));
 }
 
-/// Whether the list of default or of all programs names one for mail addresses.
+/// Returns true if the file, a list of default or of all programs, names one for mail addresses.
 bool namesMailProgram(const QString& path) {
     QFile file(path);
     if (!file.open(QFile::ReadOnly)) return false;

@@ -9,13 +9,13 @@
 
 namespace vantle {
 
-/// A new message with the files attached, in the user's mail program: by the desktop's portal, else
-/// by xdg-email. Not offered where no program takes mail addresses.
+/// Offers a new message with the files attached in the user's mail program, through the desktop's
+/// portal or, if there is none, xdg-email. Offers nothing if no program handles mail addresses.
 class MailSharing final : public QObject, public SharingSource {
     Q_OBJECT
 
 public:
-    /// `launcher` outlives it.
+    /// `launcher` must outlive this object.
     MailSharing(ProcessLauncher& launcher, Environment environment,
                 const QDBusConnection& bus = QDBusConnection::sessionBus());
 

@@ -7,14 +7,14 @@
 
 namespace vantle {
 
-/// What a service has, as org.freedesktop.DBus.ObjectManager tells it: the properties of each
-/// interface of each object.
+/// The objects of a service, as org.freedesktop.DBus.ObjectManager reports them: the properties of
+/// each interface of each object.
 using ManagedObjects = QMap<QDBusObjectPath, QMap<QString, QVariantMap>>;
 
-/// The question for them. It starts nobody.
+/// Returns the call that asks for the objects. It does not start the service.
 QDBusMessage managedObjectsCall(const QString& service, const QString& path);
 
-/// The answer; nothing where it is an error or of another shape.
+/// Returns the objects in the reply; none if it is an error or has another signature.
 ManagedObjects managedObjects(const QDBusMessage& reply);
 
 }  // namespace vantle

@@ -7,7 +7,7 @@ namespace vantle {
 namespace {
 
 struct Gathered {
-    std::vector<std::vector<SharingOffer>> offers;  ///< Of each source.
+    std::vector<std::vector<SharingOffer>> offers;  ///< The offers of each source.
     std::size_t missing = 0;
 };
 

@@ -7,7 +7,7 @@
 
 namespace vantle {
 
-/// Several sources as one: their offers in the order of the sources.
+/// Combines several sources into one; the offers are in the order of the sources.
 class SharingSources final : public SharingSource {
 public:
     explicit SharingSources(std::vector<std::unique_ptr<SharingSource>> sources);
