@@ -14,19 +14,19 @@ namespace vantle {
 namespace {
 
 constexpr int root = 0;
-constexpr double imageDensity = 2;  // pixels for a point; trays shrink it to what they want
+constexpr double imageDensity = 2;  // pixels for each point; trays scale images down themselves
 
 bool isEqual(const std::optional<MenuImage>& a, const std::optional<MenuImage>& b) {
     return a.has_value() == b.has_value() && (!a || a->picture == b->picture);
 }
 
-/// Whether a person sees the same. What a line does may have changed all the same.
+/// Returns true if the two lines look the same to the user; their actions may differ.
 bool looksEqual(const MenuItem& a, const MenuItem& b) {
     return a.kind == b.kind && a.title == b.title && a.keyEquivalent == b.keyEquivalent &&
            a.isEnabled == b.isEnabled && isEqual(a.image, b.image);
 }
 
-/// Underscores would mark the letter that chooses the line.
+/// Doubles underscores: a single one would mark the next letter as the line's access key.
 QString label(const std::string& title) {
     return QString::fromStdString(title).replace(QLatin1Char('_'), QStringLiteral("__"));
 }
@@ -42,7 +42,7 @@ QByteArray png(const MenuImage& image) {
     return buffer.data();
 }
 
-/// Only the named ones; all when none is named.
+/// Returns only the named properties, or all if no name is given.
 QVariantMap selected(QVariantMap properties, const QStringList& names) {
     if (names.isEmpty()) return properties;
     for (const QString& name : properties.keys())
@@ -75,7 +75,7 @@ void BusMenu::opened() {
 
 void BusMenu::closed() {
     isOpen_ = false;
-    // It may be the one that tells of it.
+    // This may be called from a signal of the watcher, so it must not be deleted yet.
     if (trayWithIt_) trayWithIt_.release()->deleteLater();
     if (isHeldBack_) menuChanged();
 }
@@ -88,7 +88,8 @@ bool BusMenu::rebuild() {
         return ids;
     };
     const auto formerIds = idsOf(former);
-    // From the end, where least changes: rules all look the same, and trays move lines badly.
+    // Matches from the end, where the menu changes least: separators all look the same, and trays
+    // do not handle moved lines well.
     std::vector<MenuItem> made = makeMenu_().items;
     std::ranges::reverse(made);
     for (auto& item : made) {
@@ -165,7 +166,7 @@ void BusMenu::Event(int id, const QString& name, const QDBusVariant&, uint) {
     if (id == root && name == QStringLiteral("opened")) opened();
     if (id == root && name == QStringLiteral("closed")) closed();
     if (name != QStringLiteral("clicked")) return;
-    // The tray waits for the answer, and what is done may take the user's time.
+    // Queued, because the tray waits for the answer and the action may wait for the user.
     if (const MenuItem* chosen = item(id); chosen && chosen->isEnabled && chosen->action)
         QMetaObject::invokeMethod(this, chosen->action, Qt::QueuedConnection);
     closed();

@@ -12,10 +12,10 @@
 
 namespace vantle {
 
-/// A menu that a tray draws: offers it as com.canonical.dbusmenu. A line that looks the same in the
-/// next menu keeps its number, any other one gets a number that was never used: trays do not forget
-/// all that a number once stood for. While the menu is open it stays as it is; what changed
-/// meanwhile is told when it closes, or when the tray that has it open is gone.
+/// A menu that a tray draws, offered as com.canonical.dbusmenu. A line that looks the same in the
+/// next menu keeps its number; any other line gets a number that was never used, because trays keep
+/// properties of earlier lines with the same number. An open menu does not change; changes are
+/// announced when it closes, or when the tray that has opened it is gone.
 class BusMenu final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
@@ -26,10 +26,10 @@ class BusMenu final : public QObject, protected QDBusContext {
     Q_PROPERTY(QStringList IconThemePath READ iconThemePath CONSTANT)
 
 public:
-    /// `makeMenu` gives the menu as it is at the moment.
+    /// `makeMenu` returns the current menu.
     explicit BusMenu(std::function<Menu()> makeMenu);
 
-    /// Tells the trays, which draw what they were told last.
+    /// Announces a change to the trays, which otherwise draw the menu that they have received last.
     void menuChanged();
 
     static uint version() { return 3; }
@@ -55,12 +55,12 @@ signals:
 private:
     void opened();
     void closed();
-    /// Whether it became another one.
+    /// Returns true if the menu has changed.
     bool rebuild();
     void ensureBuilt();
-    /// Null when there is no line of that number.
+    /// Returns null if no line has that number.
     const MenuItem* item(int id) const;
-    /// Whether the number is that of a line or of the menu itself.
+    /// Returns true if the number is that of a line or of the menu itself.
     bool isKnown(int id) const;
     QVariantMap properties(int id) const;
 
@@ -74,8 +74,8 @@ private:
     int lastId_ = 0;
     uint revision_ = 0;  ///< 0 before the first menu.
     bool isOpen_ = false;
-    bool isHeldBack_ = false;                          ///< It changed while it was open.
-    std::unique_ptr<QDBusServiceWatcher> trayWithIt_;  ///< While a tray has it open.
+    bool isHeldBack_ = false;                          ///< True if it changed while it was open.
+    std::unique_ptr<QDBusServiceWatcher> trayWithIt_;  ///< Set while a tray has it open.
 };
 
 }  // namespace vantle

@@ -5,7 +5,7 @@
 namespace vantle {
 namespace {
 
-// Each kind of struct is passed as its members in order.
+// A struct is passed as its members in order.
 
 template <typename... Members>
 void write(QDBusArgument& argument, const Members&... members) {

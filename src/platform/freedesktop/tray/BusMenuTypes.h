@@ -10,10 +10,10 @@
 
 namespace vantle {
 
-// What the interfaces org.kde.StatusNotifierItem and com.canonical.dbusmenu pass, by their
-// signatures on the bus.
+// The types of the interfaces org.kde.StatusNotifierItem and com.canonical.dbusmenu, each with its
+// signature on the bus.
 
-/// (iiay): a picture whose pixels are alpha, red, green, blue, not premultiplied.
+/// (iiay): a picture with pixels of alpha, red, green, blue, not premultiplied.
 struct BusPixmap {
     int width = 0;
     int height = 0;
@@ -59,7 +59,7 @@ struct BusMenuEvent {
 };
 using BusMenuEvents = QList<BusMenuEvent>;
 
-/// aas: each entry holds the names of the keys that are pressed together.
+/// aas: each entry has the names of the keys that are pressed together.
 using BusShortcut = QList<QStringList>;
 
 QDBusArgument& operator<<(QDBusArgument& argument, const BusPixmap& value);
@@ -75,7 +75,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, BusMenuLayout& va
 QDBusArgument& operator<<(QDBusArgument& argument, const BusMenuEvent& value);
 const QDBusArgument& operator>>(const QDBusArgument& argument, BusMenuEvent& value);
 
-/// To be called once before any of these is passed.
+/// Registers the types with Qt. Must be called before any of them is passed.
 void registerBusMenuTypes();
 
 }  // namespace vantle

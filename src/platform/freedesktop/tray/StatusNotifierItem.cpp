@@ -15,7 +15,7 @@ const QString menuPath = QStringLiteral("/MenuBar");
 const QString watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
 
-/// Without what the toolkit has for it, which would cost memory for good.
+/// Converts by hand, because Qt's conversion would keep memory allocated for good.
 BusPixmap pixmap(const QImage& icon) {
     BusPixmap pixmap{icon.width(), icon.height(), {}};
     pixmap.pixels.reserve(icon.sizeInBytes());
@@ -103,7 +103,7 @@ void StatusNotifierItem::settle(bool isRegistered, bool hasHost) {
 }
 
 BusPixmaps StatusNotifierItem::iconPixmap() const {
-    // Trays take the one that fits best.
+    // Trays choose the picture that fits best.
     BusPixmaps pixmaps;
     for (const int size : TrayIcon::sizes) pixmaps << pixmap(icon_.image(size));
     return pixmaps;

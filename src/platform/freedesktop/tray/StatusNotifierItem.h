@@ -14,8 +14,8 @@
 
 namespace vantle {
 
-/// The icon for trays that ask over D-Bus (org.kde.StatusNotifierItem): offers itself to each one
-/// that comes. Main thread only.
+/// The icon for trays on D-Bus (org.kde.StatusNotifierItem). Registers with each tray that starts.
+/// Main thread only.
 class StatusNotifierItem final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
@@ -40,32 +40,32 @@ class StatusNotifierItem final : public QObject {
 
 public:
     struct Description {
-        QString id;     ///< By which trays remember it.
-        QString title;  ///< What it is called.
-        /// Whether the tray itself opens its menu when the item is clicked.
+        QString id;     ///< The name by which trays remember the item.
+        QString title;  ///< The text for the tooltip and for screen readers.
+        /// True if the tray opens the menu itself when the item is clicked.
         bool isMenu = false;
     };
 
-    /// `icon` and `bus` outlive it.
+    /// `icon` must outlive this object.
     StatusNotifierItem(Description description, const TrayIcon& icon,
                        std::function<vantle::Menu()> makeMenu, const QDBusConnection& bus);
     ~StatusNotifierItem() override;
 
-    /// Offers the item, once. What becomes of it shows in isShown().
+    /// Offers the item to the trays. Later calls do nothing. isShown() has the result.
     void start();
 
-    /// Whether a tray was found that shows such items.
+    /// Returns true if there is a tray that shows the item.
     bool isShown() const { return isRegistered_ && hasHost_; }
-    /// Whether it is known by now.
+    /// Returns true as soon as isShown() is known.
     bool isSettled() const { return isSettled_; }
 
     void iconChanged() { emit NewIcon(); }
     BusMenu& busMenu() { return menu_; }
 
-    /// The item was clicked, at that place in pixels of the screen (the origin when the tray does
-    /// not say).
+    /// Called when the item was clicked, with the place in pixels of the screen (the origin if the
+    /// tray does not tell it).
     std::function<void(const QPoint& pixel)> onActivate;
-    /// isShown() or isSettled() has changed.
+    /// Called when isShown() or isSettled() may have changed.
     std::function<void()> onChange;
 
     static QString category() { return QStringLiteral("ApplicationStatus"); }
@@ -84,7 +84,7 @@ public slots:
     void Activate(int x, int y);
     void SecondaryActivate(int x, int y) { Activate(x, y); }
     void ContextMenu(int x, int y) { Activate(x, y); }
-    /// Comes before a click on the item or on a line of its menu.
+    /// Trays call this before they report a click on the item or on a line of its menu.
     static void ProvideXdgActivationToken(const QString& token) { keepActivationToken(token); }
     static void Scroll(int, const QString&) {}
 

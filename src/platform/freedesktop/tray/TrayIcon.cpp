@@ -22,7 +22,7 @@ int largestThatFits(int pixels) {
     return largest;
 }
 
-/// All that is premultiplied gets less. Without a painter, which would cost memory for good.
+/// Scales all bytes, since the pixels are premultiplied. A painter would keep memory for good.
 void dim(QImage& image) {
     uchar* bytes = image.bits();
     std::transform(bytes, bytes + image.sizeInBytes(), bytes,

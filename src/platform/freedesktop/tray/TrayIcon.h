@@ -6,19 +6,19 @@
 
 namespace vantle {
 
-/// What stands in the tray: a picture that was drawn from assets/icons when the program was built,
-/// or a text.
+/// The picture in the tray: drawn from assets/icons when the program was built, or a text instead.
 class TrayIcon {
 public:
-    /// What there are pictures for, in pixels.
+    /// The sizes of the pictures, in pixels.
     static constexpr std::array sizes = {16, 22, 24, 32, 48};
 
-    /// False when there is no such picture.
+    /// Returns false and changes nothing if there is no picture of that name.
     bool setPicture(const std::string& name);
     void setText(const std::string& text) { text_ = QString::fromStdString(text); }
     void setDimmed(bool dimmed) { isDimmed_ = dimmed; }
 
-    /// The icon in the largest of the sizes that `pixels` has room for, premultiplied.
+    /// Returns the icon in the largest size that fits into `pixels`, but at least in the smallest;
+    /// premultiplied.
     QImage image(int pixels) const;
 
 private:

@@ -43,7 +43,7 @@ void TrayStatusItem::show() {
         open(QRect(pixel.isNull() ? QCursor::pos() : fromPixels(pixel), QSize(1, 1)));
     };
     onBus_->onChange = [this] { chooseTray(); };
-    // By the run loop: a second start, which never comes so far, shall not flash an icon.
+    // Queued, because a second copy of the program ends before that and must not flash an icon.
     QMetaObject::invokeMethod(onBus_.get(), &StatusNotifierItem::start, Qt::QueuedConnection);
 }
 

@@ -11,16 +11,17 @@
 
 namespace vantle {
 
-/// The icon in whatever tray the desktop has: one on D-Bus before one that takes windows. A click
-/// opens the menu as `openMenu` draws it; the menu that the tray draws by itself is the same.
+/// The icon in the desktop's tray: on D-Bus if there is one, otherwise in a tray that embeds
+/// windows. A click opens the menu through `openMenu`; a tray that draws the menu itself shows the
+/// same one.
 class TrayStatusItem final : public StatusItem {
 public:
-    /// Opens a menu at a place in Qt's screen coordinates, and does what is chosen in it.
+    /// Opens a menu at `anchor`, in Qt's screen coordinates, and runs the action that is chosen.
     using OpenMenu = std::function<void(const Menu& menu, const QRect& anchor)>;
 
     enum class Click {
         opensOurMenu,
-        opensMenuOfTray,  ///< Where a menu of ours could not stand right.
+        opensMenuOfTray,  ///< For desktops on which our menu cannot be placed correctly.
     };
 
     TrayStatusItem(OpenMenu openMenu, Click click,
@@ -32,7 +33,7 @@ public:
     void setAutosaveName(const std::string& name) override;
     void show() override;
     bool isShown() const override;
-    /// Which kind of tray has it, in English: for reports of faults.
+    /// Returns the kind of tray that shows the icon, in English, for status reports.
     std::string tray() const;
     void setAppearsDisabled(bool disabled) override;
     void menuChanged() override;
@@ -48,8 +49,8 @@ private:
     TrayIcon icon_;
     std::string description_;
     std::string autosaveName_;
-    const std::unique_ptr<EmbeddedIcon> embedded_;  ///< Null where trays take no windows.
-    std::unique_ptr<StatusNotifierItem> onBus_;     ///< Once it is shown.
+    const std::unique_ptr<EmbeddedIcon> embedded_;  ///< Null if trays cannot embed windows.
+    std::unique_ptr<StatusNotifierItem> onBus_;     ///< Null before show().
 };
 
 }  // namespace vantle

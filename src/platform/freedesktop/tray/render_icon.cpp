@@ -1,10 +1,10 @@
-// Runs when the program is built: draws an icon once for each size that trays and launchers want,
-// so that the resident program needs no drawing for it.
+// Runs when the program is built and draws an icon in each size that trays and launchers use, so
+// that the resident program need not draw it.
 //
 //   render_icon ICON.svg NAME-16.argb NAME-22.argb ...
 //
-// The size stands in the name of each file. It is a PNG file, or holds rows of premultiplied pixels
-// from the top, each a 32-bit number in the order of this machine's bytes.
+// The name of each file contains the size. The file is a PNG file or contains rows of premultiplied
+// pixels from top to bottom, each a 32-bit number in the byte order of this machine.
 
 #include <QFile>
 #include <QFileInfo>
