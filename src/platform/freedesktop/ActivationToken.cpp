@@ -6,10 +6,10 @@
 namespace vantle {
 namespace {
 
-/// Others hand it over, on the bus.
+/// Limited, because any program on the bus can send a token.
 constexpr qsizetype maximumTokenLength = 1024;
 
-/// In the environment, and in platform data. The first one that there is counts.
+/// The token's names in the environment and in platform data. The first one that is set counts.
 constexpr std::array names = {std::pair{"XDG_ACTIVATION_TOKEN", "activation-token"},
                               std::pair{"DESKTOP_STARTUP_ID", "desktop-startup-id"}};
 

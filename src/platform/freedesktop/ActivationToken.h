@@ -5,21 +5,22 @@
 
 namespace vantle {
 
-/// What the desktop hands over when the user has asked it for something of this program: in its
-/// tray, in a launcher, or by a start of the program. It lets the next window that is brought to
-/// the front pass those of other programs. Main thread only.
+/// The desktop hands over an activation token when the user has asked for something of this
+/// program: in the tray, in a launcher, or by starting it. With the token, the next window that is
+/// brought to the front may cover those of other programs. Main thread only.
 
-/// Keeps a token for the next window. An empty one is none.
+/// Keeps a token for the next window. An empty token removes the kept one.
 void keepActivationToken(const QString& token);
 
-/// The token that is kept, which is used with that.
+/// Returns the kept token and forgets it.
 QString takeActivationToken();
 
-/// What the desktop gave this copy with its start, as org.freedesktop.Application passes it on
-/// ("platform data"). It has to be read before the toolkit starts, which takes a part of it away.
+/// Returns what the desktop passed to this process at its start, as the "platform data" of
+/// org.freedesktop.Application. The first call must come before the toolkit starts, because the
+/// toolkit removes a part of it.
 QVariantMap platformDataOfThisStart();
 
-/// The token in such data; empty where there is none.
+/// Returns the token in platform data, or an empty string if there is none.
 QString activationToken(const QVariantMap& platformData);
 
 }  // namespace vantle

@@ -9,7 +9,7 @@ namespace vantle {
 void callBus(const QDBusConnection& bus, const QDBusMessage& message, QObject& owner,
              std::function<void(const QDBusMessage& reply)> answered,
              std::chrono::milliseconds timeout) {
-    // Without a bus nothing would ever answer, not even that there is none.
+    // Without a bus the pending call would never finish, not even with an error.
     if (!bus.isConnected()) {
         answered(message.createErrorReply(QDBusError::Disconnected,
                                           QStringLiteral("there is no message bus")));

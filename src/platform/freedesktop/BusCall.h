@@ -9,9 +9,9 @@ class QObject;
 
 namespace vantle {
 
-/// Sends a message and calls `answered` once, on the main thread, with the reply or the error: at
-/// once where there is no bus, else when it comes or `timeout` is over. Not any more once `owner`
-/// has gone.
+/// Sends a message and calls `answered` once, on the main thread, with the reply or the error: when
+/// it arrives or `timeout` has passed, or inside this call if there is no bus. Does not call it
+/// after `owner` was destroyed.
 void callBus(const QDBusConnection& bus, const QDBusMessage& message, QObject& owner,
              std::function<void(const QDBusMessage& reply)> answered,
              std::chrono::milliseconds timeout = std::chrono::seconds(25));

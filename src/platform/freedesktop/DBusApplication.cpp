@@ -28,16 +28,17 @@ namespace vantle {
 namespace {
 
 constexpr int answerTimeout = 3000;  // milliseconds
-constexpr int causeTimeout = 5000;   // milliseconds; a launch takes less, also just after login
+constexpr int causeTimeout = 5000;   // milliseconds; a launch takes less, even just after login
 constexpr auto notRunning = marked("Requests", "Vantle is not running");
 constexpr auto noAnswer = marked("Requests", "the copy that runs does not answer");
 
-// What is said through the socket: the parts of a request, and how an answer begins.
+// The messages on the socket: the separator between the parts of a request, and the first character
+// of an answer.
 constexpr char separator = '\0';
 constexpr char done = '+';
 constexpr char refused = '-';
 
-/// At least one part.
+/// Returns at least one part.
 std::vector<std::string> split(std::string_view message) {
     std::vector<std::string> parts;
     for (;;) {
@@ -59,7 +60,7 @@ QDBusMessage ask(QDBusMessage message) {
     return QDBusConnection::sessionBus().call(message, QDBus::Block, answerTimeout);
 }
 
-/// Asks the bus itself: Qt's own object for that costs several calls more.
+/// Calls the bus directly, because Qt's own interface for this makes several more calls.
 QDBusMessage requestName(const QString& name) {
     constexpr uint doNotQueue = 4;
     const QString bus = QStringLiteral("org.freedesktop.DBus");
@@ -71,7 +72,7 @@ QDBusMessage requestName(const QString& name) {
 
 }  // namespace
 
-/// What other copies and the desktop's launcher talk to.
+/// The object on the bus that other copies and the desktop's launcher call.
 class DBusApplication::BusObject final : public QObject, public QDBusContext {
     Q_OBJECT
 
@@ -85,7 +86,7 @@ private:
     DBusApplication& application_;
 };
 
-/// What the desktop's launcher knows.
+/// The interface that the desktop's launcher uses.
 class LauncherAdaptor final : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -116,7 +117,8 @@ private:
     DBusApplication::BusObject& object_;
 };
 
-/// The same with arguments, whose bytes need not be text, and an answer.
+/// The interface that other copies use: requests with an answer, and with arguments that need not
+/// be valid text.
 class RequestAdaptor final : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.vantle.Vantle")
@@ -132,7 +134,8 @@ public slots:
             request.arguments.push_back(argument.toStdString());
         return object_.perform(request);
     }
-    /// For what is asked next. A copy of another version may not know it, so nobody waits for it.
+    /// Keeps a token for the next request. Callers do not wait for a reply, because a copy of
+    /// another version may not have this method.
     Q_NOREPLY void UseActivationToken(const QString& token) { keepActivationToken(token); }
 
 private:
@@ -140,7 +143,7 @@ private:
 };
 
 DBusApplication::BusObject::BusObject(DBusApplication& application) : application_(application) {
-    // Owned by this object, as adaptors are.
+    // The adaptors are children of this object, which deletes them.
     new LauncherAdaptor(*this);
     new RequestAdaptor(*this);
 }
@@ -148,7 +151,7 @@ DBusApplication::BusObject::BusObject(DBusApplication& application) : applicatio
 QString DBusApplication::BusObject::perform(const ApplicationRequest& request) {
     application_.causeOfLaunch_ = QDeadlineTimer(0);
     const auto answer = application_.perform(request);
-    // It was for this and for nothing else.
+    // The token was meant for this request only.
     takeActivationToken();
     if (answer) return QString::fromStdString(answer.value());
     const std::string& reason = answer.failure().message;
@@ -161,8 +164,9 @@ DBusApplication::DBusApplication(const std::string& identifier, Launch launch)
     : identifier_(QString::fromStdString(identifier)),
       path_(QLatin1Char('/') + QString(identifier_).replace(QLatin1Char('.'), QLatin1Char('/'))),
       launch_(launch) {
-    // Qt's list of types outlives what was made later, as the thread has to be that reads the bus:
-    // it goes on while the program ends, and complains about types that are gone.
+    // Registering the types here creates Qt's list of types before the thread that reads the bus,
+    // so the list is destroyed later. That thread still runs while the program ends and would
+    // complain about missing types.
     qRegisterMetaType<QDBusObjectPath>();
     qDBusRegisterMetaType<QByteArrayList>();
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
@@ -173,7 +177,8 @@ DBusApplication::~DBusApplication() {
     giveUpName();
 }
 
-/// Who calls in the moments until the process has ended shall reach the next copy.
+/// Releases the bus name early, so that calls reach the next copy while this process is still
+/// ending.
 void DBusApplication::giveUpName() {
     if (object_) QDBusConnection::sessionBus().interface()->unregisterService(identifier_);
 }
@@ -193,7 +198,7 @@ bool DBusApplication::anotherCopyIsRunning() {
 }
 
 bool DBusApplication::anotherHoldsTheName() {
-    // The object stands before the name does: another copy may call as soon as it sees the name.
+    // The object is registered before the name: another copy may call as soon as it sees the name.
     auto object = std::make_unique<BusObject>(*this);
     QDBusConnection::sessionBus().registerObject(path_, object.get(),
                                                  QDBusConnection::ExportAdaptors);
@@ -243,7 +248,8 @@ Result<std::string> DBusApplication::askThroughSocket(const ApplicationRequest& 
     return Failure{0, answer.value().substr(std::min<std::size_t>(1, answer.value().size())), ""};
 }
 
-/// Whoever clicked a program that did not run wanted it to start, which it has.
+/// Does not reopen for the call that launched this copy: the user wanted the program to start, and
+/// it has started.
 void DBusApplication::activated() {
     const auto cause = std::exchange(causeOfLaunch_, QDeadlineTimer(0));
     if (cause.hasExpired()) reopen();
@@ -259,7 +265,7 @@ Result<std::string> DBusApplication::perform(const ApplicationRequest& request) 
 }
 
 void DBusApplication::activateOtherCopy() {
-    // The bus tells that copy itself.
+    // The bus delivers the call that launched this copy to the other one.
     if (launch_ == Launch::byBus) return;
     if (socket_) {
         if (const auto told = askThroughSocket({}); !told)
@@ -275,7 +281,7 @@ void DBusApplication::activateOtherCopy() {
         systemLog("Vantle: " + std::string(noAnswer) + ": " + reply.errorMessage().toStdString());
 }
 
-/// The other copy gets the focus that the desktop meant for this one.
+/// Passes the desktop's token for this process on, so that the other copy may take the focus.
 void DBusApplication::passOnActivationToken() const {
     const QString token = activationToken(platformDataOfThisStart());
     if (token.isEmpty()) return;
@@ -312,7 +318,7 @@ void DBusApplication::activate() {
 
 void DBusApplication::terminate() {
     giveUpName();
-    // What a compositor says of a drag that went on would meet none any more: Qt falls over that.
+    // Qt crashes if the compositor reports on a drag that no longer exists.
     QDrag::cancel();
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }

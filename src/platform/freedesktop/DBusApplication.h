@@ -11,15 +11,15 @@
 
 namespace vantle {
 
-/// The program on a desktop with a session bus: copies find each other by a name on it, under which
-/// the first one answers as org.freedesktop.Application. The bus forgets a copy that dies. Without
-/// a bus they find each other in the user's runtime folder. Made without a display, it can only ask
-/// another copy.
+/// The program on a desktop with a session bus: copies find each other by a bus name, under which
+/// the first copy answers as org.freedesktop.Application. The bus releases the name when that copy
+/// ends. Without a bus, copies find each other in the user's runtime folder. Without a display,
+/// this object can only ask another copy.
 class DBusApplication final : public Application {
 public:
     enum class Launch {
         byUser,
-        byBus,  ///< For a call to the name, which the bus delivers once this copy has the name.
+        byBus,  ///< For a call to the name; the bus delivers it when this copy owns the name.
     };
 
     /// `identifier` is the bus name, such as "org.example.Program".
@@ -51,7 +51,7 @@ private:
     QString identifier_;
     QString path_;
     Launch launch_;
-    QDeadlineTimer causeOfLaunch_{0};  ///< Until it expires a call may be what this copy is for.
+    QDeadlineTimer causeOfLaunch_{0};  ///< When calls no longer count as the launch's cause.
     std::unique_ptr<TaskbarPresence> taskbar_;  ///< Only with a display.
     std::unique_ptr<BusObject> object_;
     std::unique_ptr<RuntimeSocket> socket_;  ///< Only without a bus.

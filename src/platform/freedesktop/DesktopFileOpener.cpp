@@ -16,7 +16,7 @@
 namespace vantle {
 namespace {
 
-// The first one asks the desktop that runs; the others are for installations without it.
+// xdg-open uses the opener of the running desktop; the others are for systems without xdg-open.
 constexpr std::array openerPrograms{FileProgram{"xdg-open", nullptr}, FileProgram{"gio", "open"},
                                     FileProgram{"kde-open", nullptr}};
 

@@ -9,20 +9,20 @@
 
 namespace vantle {
 
-/// Asks the desktop: files are opened by its own opener (xdg-open, or what there is instead), and
-/// shown by whichever file manager answers as org.freedesktop.FileManager1; where none does, their
-/// folder is opened. In a sandbox the desktop's portal is asked for both.
+/// Opens files through the desktop's opener (xdg-open or an alternative), and shows them in the
+/// file manager that answers as org.freedesktop.FileManager1; if none does, opens their folder. In
+/// a sandbox, uses the desktop's portal for both.
 class DesktopFileOpener final : public QObject, public FileOpener {
     Q_OBJECT
 
 public:
     enum class Sandbox { none, flatpak };
 
-    /// `launcher` outlives it.
+    /// `launcher` must outlive this object.
     explicit DesktopFileOpener(ProcessLauncher& launcher, Sandbox sandbox = Sandbox::none,
                                const QDBusConnection& bus = QDBusConnection::sessionBus());
 
-    /// What this process runs in.
+    /// Returns the kind of sandbox that this process runs in.
     static Sandbox currentSandbox();
 
     void open(const Url& url) override;

@@ -9,14 +9,14 @@
 
 namespace vantle {
 
-/// Who may read a folder is decided by its permissions, which the file manager shows and changes,
-/// asked as org.freedesktop.FileManager1; where none answers, the folder is shown. A program in a
-/// sandbox is held back by that: GNOME has a page for what it may do.
+/// Opens the folder's properties in the file manager (org.freedesktop.FileManager1), which shows
+/// and changes the permissions; if no file manager answers, shows the folder. In a sandbox, opens
+/// GNOME's settings page for this program instead, because the sandbox limits what it can read.
 class DesktopPrivacySettings final : public QObject, public PrivacySettings {
     Q_OBJECT
 
 public:
-    /// `opener` outlives it; `identifier` is by what the desktop knows the program.
+    /// `opener` must outlive this object; `identifier` is the program's identifier on the desktop.
     DesktopPrivacySettings(std::string identifier, FileOpener& opener,
                            DesktopFileOpener::Sandbox sandbox,
                            const QDBusConnection& bus = QDBusConnection::sessionBus());

@@ -12,20 +12,20 @@ namespace vantle {
 /// A program that takes files on its command line.
 struct FileProgram {
     const char* name;
-    const char* option;  ///< What it wants in front of each file; null for nothing.
+    const char* option;  ///< The option in front of each file; null for none.
 };
 
-/// How such a program is started.
+/// The command that starts such a program.
 struct FileCommand {
     std::string program;  ///< An absolute path.
     std::vector<std::string> arguments;
 };
 
-/// The command for the first of the programs that is installed (in $PATH); absent when none is.
+/// Returns the command for the first program that is installed (in $PATH), or nothing if none is.
 std::optional<FileCommand> commandFor(std::span<const FileProgram> programs,
                                       const std::vector<Url>& files);
 
-/// The same for anything that such a program takes in the place of a file.
+/// Like commandFor(), for arguments that need not be files.
 std::optional<FileCommand> commandForArguments(std::span<const FileProgram> programs,
                                                const std::vector<std::string>& arguments);
 

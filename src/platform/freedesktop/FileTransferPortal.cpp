@@ -18,7 +18,7 @@ using Descriptors = QList<QDBusUnixFileDescriptor>;
 
 const QString service = QStringLiteral("org.freedesktop.portal.Documents");
 constexpr int timeout = 1000;  // milliseconds; another program waits for the answer
-// The bus carries no more in one message.
+// The limit of the bus for descriptors in one message.
 constexpr std::size_t maximumAtOnce = 16;
 
 QDBusMessage call(const char* method) {
@@ -45,7 +45,7 @@ bool FileTransferPortal::isThere() const {
 QByteArray FileTransferPortal::keyFor(const std::vector<Url>& files) const {
     qDBusRegisterMetaType<Descriptors>();
     auto start = call("StartTransfer");
-    // Whoever pastes twice asks twice.
+    // Without this the key would work only once, but a program may paste more than once.
     start << QVariantMap{{QStringLiteral("autostop"), false}};
     const QDBusMessage started = bus_.call(start, QDBus::Block, timeout);
     if (isError(started)) return {};

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::uint32_t usingEvents = IN_OPEN | IN_MOVE_SELF | IN_DELETE_SELF;
 
-/// For who has dropped files to choose in a menu what becomes of them.
+/// The time that the user has to choose in the target's menu what to do with dropped files.
 constexpr auto decisionTimeout = std::chrono::seconds(20);
 
 }  // namespace
@@ -22,7 +22,7 @@ FileUse::FileUse(const std::vector<Url>& files)
     notifier_.setEnabled(false);
     limit_.setSingleShot(true);
     connect(&notifier_, &QSocketNotifier::activated, this, [this] { tell(true); });
-    // Where nothing can be heard of, it is believed to happen.
+    // If the files cannot be watched, they count as used.
     connect(&limit_, &QTimer::timeout, this, [this] { tell(!events_); });
 }
 
@@ -43,7 +43,7 @@ void FileUse::waitForDecision(bool wasTaken, const DropMarks& marks,
 void FileUse::tell(bool wasUsed) {
     notifier_.setEnabled(false);
     limit_.stop();
-    // It may end this.
+    // `told` may destroy this object.
     if (const auto told = std::exchange(told_, nullptr)) told(wasUsed);
 }
 

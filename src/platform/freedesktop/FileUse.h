@@ -13,21 +13,22 @@
 
 namespace vantle {
 
-/// Notices that somebody opens files or moves them away, as who copies or moves them does. Main
-/// thread only.
+/// Notices when a program opens, moves or deletes files, which a program does that copies or moves
+/// them. Main thread only.
 class FileUse final : public QObject {
     Q_OBJECT
 
 public:
-    /// Heeds what happens from now on.
+    /// Records what happens to the files from now on.
     explicit FileUse(const std::vector<Url>& files);
 
-    /// Calls `told` once, later: with true when it has happened to any of them, with false when it
-    /// has not for so long.
+    /// Calls `told` once, never inside this call: with true as soon as one of the files was used,
+    /// with false if none was within `timeout`.
     void wait(std::chrono::milliseconds timeout, std::function<void(bool wasUsed)> told);
 
-    /// Calls `told` once with whether files that were dropped are taken: at once where the target
-    /// has answered for good, else when the user has decided there, or has not for a while.
+    /// Calls `told` once with whether the target takes the dropped files. If the target has given
+    /// its final answer, calls it inside this call; otherwise when the user has decided there, or
+    /// has not decided for a while.
     void waitForDecision(bool wasTaken, const DropMarks& marks,
                          std::function<void(bool wasTaken)> told);
 

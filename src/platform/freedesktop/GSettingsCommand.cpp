@@ -12,7 +12,7 @@ constexpr int timeout = 3000;  // milliseconds
 
 Result<QString> run(const QStringList& arguments) {
     QProcess process;
-    // In another language it would print what it cannot write there as question marks.
+    // In a locale other than UTF-8 it would print question marks for some characters.
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     process.setProcessEnvironment(environment);
@@ -38,8 +38,8 @@ Outcome outcome(const Result<QString>& result) {
     return result ? Outcome() : Outcome(result.failure());
 }
 
-/// Text as the command prints it: in quotes of either kind, with the escapes of C. Absent when the
-/// value is none.
+/// Returns the text that the command has printed in single or double quotes with the escapes of C.
+/// Returns nothing if it has printed another kind of value.
 std::optional<QString> unquoted(const QString& printed) {
     const bool isText = printed.size() >= 2 && printed.front() == printed.back() &&
                         (printed.front() == u'\'' || printed.front() == u'"');
@@ -66,7 +66,7 @@ std::optional<QString> unquoted(const QString& printed) {
     return text;
 }
 
-/// As the command takes it.
+/// Returns the text in quotes, as the command takes it.
 QString quoted(const std::string& text) {
     QString escaped = QString::fromStdString(text);
     escaped.replace(u'\\', QStringLiteral("\\\\")).replace(u'\'', QStringLiteral("\\'"));

@@ -7,9 +7,9 @@
 
 namespace vantle {
 
-/// Asks by the desktop's own command, so that its libraries are never loaded here, and a schema
-/// that is not there is an answer instead of the end of the program. Each call waits for the
-/// answer, three seconds at most. Any thread.
+/// Uses the command gsettings, so that this process need not load the desktop's libraries, which
+/// would end it if a schema is missing. Each call waits for the answer, three seconds at most. Any
+/// thread.
 class GSettingsCommand final : public GSettings {
 public:
     Result<std::string> text(const std::string& schema, const std::string& key) const override;

@@ -8,7 +8,7 @@
 
 namespace vantle {
 
-/// Tells when a file system is mounted or unmounted. Main thread only.
+/// Calls `onChange` when a file system is mounted or unmounted. Main thread only.
 class MountEvents {
 public:
     explicit MountEvents(std::function<void()> onChange);

@@ -32,7 +32,7 @@ ColorScheme scheme(const QVariant& value) {
     }
 }
 
-/// Numbers outside 0 to 1 mean that there is none.
+/// Returns the colour, or nothing if a component is outside 0 to 1, which means that none is set.
 std::optional<Color> accent(const QVariant& value) {
     if (!value.canConvert<QDBusArgument>()) return std::nullopt;
     const auto argument = value.value<QDBusArgument>();
@@ -46,7 +46,7 @@ std::optional<Color> accent(const QVariant& value) {
     return Color{parts[0], parts[1], parts[2]};
 }
 
-/// Each desktop says it in its own way.
+/// Checks the settings of all desktops, because each has its own.
 bool reducesMotion(const Settings& settings) {
     const QVariant animations = settings[gnome][QStringLiteral("enable-animations")];
     const QVariant duration = settings[kde][QStringLiteral("AnimationDurationFactor")];
@@ -60,7 +60,7 @@ bool reducesMotion(const Settings& settings) {
 
 PortalAppearance::PortalAppearance(const QDBusConnection& bus) {
     qDBusRegisterMetaType<Settings>();
-    // Without that Qt 6.4 refuses the slot, until somebody else has registered it.
+    // Qt 6.4 refuses the slot unless QDBusVariant is registered.
     qRegisterMetaType<QDBusVariant>();
     QDBusConnection(bus).connect(service, path, interface, QStringLiteral("SettingChanged"), this,
                                  SLOT(settingChanged(QString, QString, QDBusVariant)));
@@ -78,7 +78,7 @@ void PortalAppearance::ask(const QDBusConnection& bus) {
 void PortalAppearance::answered(QDBusPendingCallWatcher& call) {
     const QDBusPendingReply<Settings> reply = call;
     call.deleteLater();
-    // A desktop without a portal has nothing to tell.
+    // The desktop has no portal, so everything stays unknown.
     if (reply.isError()) return;
     settings_ = reply.value();
     publish();

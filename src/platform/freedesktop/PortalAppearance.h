@@ -12,9 +12,10 @@ class QDBusPendingCallWatcher;
 
 namespace vantle {
 
-/// Asks the desktop portal's settings (org.freedesktop.portal.Settings) and follows them: the
-/// colour scheme and the accent colour as every desktop tells them, and the wish for less motion as
-/// GNOME, KDE and newer portals tell it. Never waits. Without a bus or a portal nothing is known.
+/// Reads the desktop portal's settings (org.freedesktop.portal.Settings) and follows changes of
+/// them: the colour scheme and accent colour, which are the same on all desktops, and the setting
+/// for reduced motion of GNOME, KDE and newer portals. Never waits. Without a bus or a portal
+/// nothing is known.
 class PortalAppearance final : public QObject, public DesktopAppearance {
     Q_OBJECT
 

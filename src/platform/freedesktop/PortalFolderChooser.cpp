@@ -19,7 +19,7 @@ const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString interface = QStringLiteral("org.freedesktop.portal.FileChooser");
 const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request");
 
-/// The first version that starts in the folder that it is told.
+/// The first version that can start in a given folder.
 constexpr uint versionThatStartsInAFolder = 4;
 constexpr uint wasChosen = 0;
 
@@ -34,7 +34,7 @@ uint version(const QDBusMessage& reply) {
     return reply.arguments().value(0).value<QDBusVariant>().variant().toUInt();
 }
 
-/// The window that the dialog belongs to, as the portal names it.
+/// Returns the portal's name of the window that the dialog belongs to; empty if there is none.
 QString parentWindow() {
     const QWindow* window = QGuiApplication::focusWindow();
     return window ? DisplayServer::current().nameForOthers(*window) : QString();
@@ -92,7 +92,7 @@ void PortalFolderChooser::open(const FolderRequest& request) {
                  SLOT(responded(uint, QVariantMap)));
     auto message =
         QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("OpenFile"));
-    // Bytes, with the zero at their end.
+    // The portal takes the path as bytes with a zero at the end.
     const QByteArray directory(request.directory.path().c_str(),
                                static_cast<qsizetype>(request.directory.path().size() + 1));
     message << parentWindow() << QString::fromStdString(request.message)

@@ -10,8 +10,8 @@
 namespace vantle {
 
 /// Asks the desktop portal (org.freedesktop.portal.FileChooser), which shows the desktop's own
-/// dialog. Where there is none, or one that cannot start in a given folder (before version 4), the
-/// next chooser is asked.
+/// dialog. If there is no portal or it cannot start in a given folder (before version 4), uses
+/// `next` instead.
 class PortalFolderChooser final : public QObject, public FolderChooser {
     Q_OBJECT
 
@@ -34,8 +34,8 @@ private:
     std::unique_ptr<FolderChooser> next_;
     bool watchesPortal_ = false;
     QDBusConnection bus_;
-    Chosen chosen_;   ///< While one is open.
-    QString handle_;  ///< Of the open dialog, on the bus; empty while there is none.
+    Chosen chosen_;   ///< Set while a dialog is open.
+    QString handle_;  ///< The open dialog's path on the bus; empty if none is open.
     unsigned count_ = 0;
 };
 

@@ -21,7 +21,7 @@ namespace {
 constexpr int timeout = 3000;  // milliseconds
 constexpr std::size_t maximumMessageLength = std::size_t{64} * 1024;
 
-/// Absent when the path is longer than an address can hold.
+/// Returns nothing if the path is too long for a socket address.
 std::optional<sockaddr_un> address(const std::string& path) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -65,7 +65,7 @@ bool RuntimeSocket::listen() {
     const auto place = address(socketPath_);
     socket_ = openSocket();
     if (!place || socket_ < 0) return false;
-    // Whoever holds the lock may replace what a killed copy left behind.
+    // This copy holds the lock, so it may replace a socket that a killed copy has left behind.
     unlink(socketPath_.c_str());
     if (bind(socket_, reinterpret_cast<const sockaddr*>(&*place), sizeof *place) != 0) return false;
     notifier_ = std::make_unique<QSocketNotifier>(socket_, QSocketNotifier::Read);
@@ -83,7 +83,7 @@ void RuntimeSocket::answerCalls() const {
         const ssize_t size = recvfrom(socket_, message.data(), message.size(), 0, from, &length);
         if (size < 0) return;
         const std::string answer = answer_(message.substr(0, static_cast<std::size_t>(size)));
-        // One who did not wait has no address any more.
+        // Fails if the caller has not waited and closed its socket, which is ignored.
         sendto(socket_, answer.data(), answer.size(), MSG_NOSIGNAL, from, length);
     }
 }
@@ -92,7 +92,7 @@ Result<std::string> RuntimeSocket::call(const std::string& message) const {
     const auto place = address(socketPath_);
     const FileDescriptor caller(openSocket());
     if (!place || !caller) return systemFailure(place ? errno : ENAMETOOLONG, socketPath_);
-    // An address of its own, to which the answer goes; from the other copy alone.
+    // bind() gives this socket an address for the answer; connect() accepts the other copy's only.
     const sockaddr_un any{AF_UNIX, {}};
     const bool isSent =
         bind(caller.get(), reinterpret_cast<const sockaddr*>(&any), sizeof(sa_family_t)) == 0 &&

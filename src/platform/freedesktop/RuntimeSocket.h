@@ -9,21 +9,23 @@
 
 namespace vantle {
 
-/// How copies of the program find and ask each other where there is no session bus: the first holds
-/// a lock in the user's runtime folder and listens on a socket beside it. Both end with the
-/// process, also with one that is killed; a socket left behind is replaced. Main thread only.
+/// Lets copies of the program find and ask each other without a session bus: the first one holds a
+/// lock in the user's runtime folder and listens on a socket beside it. The lock ends with the
+/// process, even if that is killed; the next copy replaces a socket file that was left behind. Main
+/// thread only.
 class RuntimeSocket {
 public:
     enum class Claim {
-        first,   ///< This copy is the one that others find now.
+        first,   ///< This copy holds the lock, and others find it.
         second,  ///< Another copy holds the lock.
-        failed,  ///< It cannot be told: the folder cannot be used.
+        failed,  ///< Unknown, because the folder cannot be used.
     };
 
-    /// Is given what another copy says, and gives the answer.
+    /// Takes the message of another copy and returns the answer.
     using Answer = std::function<std::string(const std::string& message)>;
 
-    /// `folder` is that of $XDG_RUNTIME_DIR; `answer` is called when another copy calls.
+    /// `folder` is $XDG_RUNTIME_DIR, empty if that is not set; `answer` is called for each message
+    /// of another copy.
     RuntimeSocket(const std::string& folder, Answer answer);
     ~RuntimeSocket();
     RuntimeSocket(const RuntimeSocket&) = delete;
@@ -31,15 +33,15 @@ public:
 
     Claim claim();
 
-    /// Tells the copy that holds the lock and waits for its answer, for a few seconds. Fails with
-    /// ESRCH when none listens.
+    /// Sends a message to the copy that holds the lock and waits for its answer, three seconds at
+    /// most. Fails with ESRCH if no copy listens.
     Result<std::string> call(const std::string& message) const;
 
 private:
     bool listen();
     void answerCalls() const;
 
-    bool isPlaced_;  ///< Without a folder the paths would name the root.
+    bool isPlaced_;  ///< False without a folder; the paths would then be in the root folder.
     std::string lockPath_;
     std::string socketPath_;
     Answer answer_;

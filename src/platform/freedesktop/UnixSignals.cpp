@@ -21,10 +21,10 @@ void note(int) {
     errno = error;
 }
 
-// Unlike SIG_IGN, a handler is not handed down to the programs that this one starts.
+// Unlike SIG_IGN, a handler is not inherited by the programs that this one starts.
 void ignore(int) {}
 
-/// Returns what stood there before, and leaves alone what was ignored.
+/// Installs the handler unless the signal is ignored. Returns the previous action.
 struct sigaction handle(int number, void (*handler)(int)) {
     struct sigaction previous {};
     sigaction(number, nullptr, &previous);

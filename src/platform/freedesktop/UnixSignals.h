@@ -9,10 +9,10 @@
 
 namespace vantle {
 
-/// Turns the signals that ask a program to end (SIGTERM, SIGINT, SIGHUP) into a call on the main
-/// thread while it lives; one for the process. Those that the parent had switched off (as nohup
-/// does) stay off. Meanwhile SIGPIPE does nothing: a write that nobody reads fails instead.
-/// Programs that this one starts get all signals as usual.
+/// Turns the signals that ask a program to end (SIGTERM, SIGINT, SIGHUP) into a call of `onEnd` on
+/// the main thread, as long as this object exists; one object per process. Signals that the parent
+/// has switched off (as nohup does) stay off. SIGPIPE is ignored meanwhile, so a write without a
+/// reader fails instead. Programs that this one starts receive all signals as usual.
 class UnixSignals {
 public:
     explicit UnixSignals(std::function<void()> onEnd);

@@ -17,23 +17,23 @@
 namespace vantle {
 namespace {
 
-// Longer than any report: the notes are the longest part.
+// Longer than any report; the release notes are the longest part of one.
 constexpr qsizetype maximumLineLength = 1 << 20;
 
-constexpr int timeout = 10'000;  // milliseconds, with a program that starts
+constexpr int timeout = 10'000;  // milliseconds; includes the start of the program
 
 QString option(const char* name, const std::string& value) {
     return QStringLiteral("--%1=%2").arg(QLatin1String(name), QString::fromStdString(value));
 }
 
-/// The value of a variable, which is then gone.
+/// Returns the value of a variable and removes it from the environment.
 QByteArray taken(const char* variable) {
     const QByteArray value = qgetenv(variable);
     qunsetenv(variable);
     return value;
 }
 
-/// Somebody may have set the variable for another process.
+/// Checks the descriptor, because the variable may have been set for another process.
 bool isSocket(int descriptor) {
     struct stat status {};
     return fstat(descriptor, &status) == 0 && S_ISSOCK(status.st_mode);
@@ -59,12 +59,12 @@ UpdateProgram::UpdateProgram(QString program) : program_(std::move(program)) {
 
 UpdateProgram::~UpdateProgram() {
     cancel();
-    // Who ends in order has come up.
+    // A copy that ends in order has started successfully.
     if (ready_) confirmStart();
 }
 
 void UpdateProgram::confirmStart() {
-    // Whoever waited may have gone; then nobody takes this copy back either.
+    // A failure is ignored: if the updater has ended, it cannot roll this copy back either.
     send(ready_.get(), "r", 1, MSG_NOSIGNAL);
     ready_.reset();
 }
@@ -90,7 +90,7 @@ void UpdateProgram::cancel() {
     process_->disconnect(this);
     process_->kill();
     process_->waitForFinished();
-    // It may be the one that this comes from.
+    // This may be called from a signal of the process, so it must not be deleted yet.
     process_.release()->deleteLater();
 }
 
@@ -109,7 +109,7 @@ Outcome UpdateProgram::relaunch(const UpdateItem& item) {
     if (!starter.startDetached())
         return Failure{0, starter.errorString().toStdString(), program_.toStdString()};
     tell.reset();
-    // This copy must not end before it is sure that another one begins.
+    // This copy must not end before the updater has confirmed that it will start the new one.
     pollfd waiting{answer.get(), POLLIN, 0};
     char byte = 0;
     if (poll(&waiting, 1, timeout) == 1 && ::read(answer.get(), &byte, 1) == 1) return {};
@@ -130,7 +130,7 @@ void UpdateProgram::start(const QStringList& arguments, OnReport onReport) {
     connect(
         process_.get(), &QProcess::errorOccurred, this,
         [this](QProcess::ProcessError error) {
-            // Every other error ends the process, which is told by itself.
+            // After any other error the process ends, and finished() is emitted.
             if (error == QProcess::FailedToStart) end();
         },
         Qt::QueuedConnection);
@@ -148,7 +148,7 @@ void UpdateProgram::read(const QByteArray& line) {
         last_ = *report;
         return;
     }
-    // What is told may end this.
+    // The callback may cancel the program or destroy this object, so it is copied first.
     const OnReport told = onReport_;
     told(*report);
 }

@@ -10,12 +10,13 @@
 
 namespace vantle {
 
-/// Has the work on updates done by a program of its own, which ends with this process. What that
-/// program writes is not trusted to be what it should: anything else is a failure.
+/// Runs a separate program that does the work on updates and ends with this process. Does not trust
+/// that program's output: lines that are not reports are ignored, and an end without a final report
+/// is a failure.
 class UpdateProgram final : public QObject, public UpdateEngine {
 public:
-    /// `program` is the path of vantle-updater, or of one that is called alike. Takes what a
-    /// relaunch left for this process out of its environment, so that nobody inherits it.
+    /// `program` is the path of vantle-updater or of a program with the same command line. Removes
+    /// the variables of a relaunch from the environment, so that no other process inherits them.
     explicit UpdateProgram(QString program);
     ~UpdateProgram() override;
 
@@ -35,10 +36,10 @@ private:
 
     const QString program_;
     std::optional<report::RolledBack> rolledBack_;
-    FileDescriptor ready_;               ///< While somebody waits for this process.
-    std::unique_ptr<QProcess> process_;  ///< While something is under way.
+    FileDescriptor ready_;               ///< Open while the updater waits for this process.
+    std::unique_ptr<QProcess> process_;  ///< Null while no program runs.
     OnReport onReport_;
-    std::optional<UpdateReport> last_;  ///< Told once the program has ended.
+    std::optional<UpdateReport> last_;  ///< The final report, passed on when the program has ended.
 };
 
 }  // namespace vantle
