@@ -12,23 +12,23 @@ struct Alert {
     Style style = Style::informational;
     std::string messageText;
     std::string informativeText;
-    /// In the order in which they were added: the first one is the default button, and the last
-    /// one (of several) is what Escape and closing the window mean.
+    /// The buttons in the order in which they were added. The first is the default button; Escape
+    /// and closing the window mean the last one.
     std::vector<std::string> buttons;
 };
 
 /// Asks the user. Main thread only.
 class Alerts {
 public:
-    /// The answer when the first button was pressed; the next button answers one more, and so on.
+    /// The answer for the first button; the answer for each further button is one higher.
     static constexpr int firstButton = 1000;
 
     virtual ~Alerts() = default;
 
-    /// Shows the alert before all other windows and returns when it was answered. Meanwhile the run
-    /// loop goes on; the card and the program's other windows can be used, and one that the user
-    /// asks for comes before the alert. Where the program ends without an answer, it is the last
-    /// button's.
+    /// Shows the alert in front of all other windows and returns when it has been answered.
+    /// Meanwhile the run loop continues, and the card and the program's other windows can be used;
+    /// a window that the user opens comes in front of the alert. If the program ends without an
+    /// answer, returns the last button's.
     virtual int runModal(const Alert& alert) = 0;
 };
 

@@ -8,9 +8,9 @@
 
 namespace vantle {
 
-/// What the desktop's launcher, a script or a second start asks of the copy that runs.
+/// A request from the desktop's launcher, a script or a second start to the running copy.
 struct ApplicationRequest {
-    std::string action;                  ///< Its name, such as "pause".
+    std::string action;                  ///< The name of the action, such as "pause".
     std::vector<std::string> arguments;  ///< Paths are absolute.
     friend bool operator==(const ApplicationRequest&, const ApplicationRequest&) = default;
 };
@@ -20,41 +20,43 @@ class Application {
 public:
     enum class ActivationPolicy {
         regular,    ///< Shown in the Dock, the taskbar and the window switcher.
-        accessory,  ///< Only its tray icon and panel are seen.
+        accessory,  ///< Only the tray icon and the panel are visible.
     };
 
     virtual ~Application() = default;
 
-    /// Holds for the windows that are open and for those to come.
+    /// Applies to the windows that are open and to those that open later.
     virtual void setActivationPolicy(ActivationPolicy policy) = 0;
 
-    /// Why a policy changes nothing here, as a sentence; empty when it does.
+    /// Returns a sentence that says why a policy has no effect here; empty if it has one.
     virtual std::string activationPolicyObstacle() const = 0;
 
-    /// Whether a copy of this program was running in the same desktop session before this one. The
-    /// copy that asks first becomes the one that others find.
+    /// Returns true if a copy of this program was running in the same desktop session before this
+    /// one. The first copy to call this becomes the one that others find.
     virtual bool anotherCopyIsRunning() = 0;
 
-    /// Brings that copy forward; it is told through its own `onReopen`. Returns when it was told.
+    /// Brings that copy forward by having it call its `onReopen`. Returns when it has been told.
     virtual void activateOtherCopy() = 0;
 
-    /// Asks the copy that runs and waits for its answer, a text for a person (often empty). Fails
-    /// with ESRCH when none runs, and with what the other says when it could not do it. Does not
-    /// need anotherCopyIsRunning() before it, nor a display.
+    /// Sends a request to the running copy and waits for its answer, a text for the user (often
+    /// empty). Fails with ESRCH if no copy is running, and with the other copy's message if it
+    /// could not do what was requested. Needs neither a display nor a call of
+    /// anotherCopyIsRunning() before it.
     virtual Result<std::string> ask(const ApplicationRequest& request) = 0;
 
-    /// Brings the window of this copy that was in front of its others before those of all other
-    /// programs. It does nothing where the user sees none of them.
+    /// Brings the window of this copy that was last in front of its others to the front of all
+    /// programs. Does nothing if that window is hidden or on another workspace.
     virtual void activate() = 0;
 
-    /// Ends the run loop; the process then ends in order.
+    /// Ends the run loop, after which the process exits normally.
     virtual void terminate() = 0;
 
-    /// Called when the user opens the program while it runs, with whether any of its windows is
-    /// visible (the panel does not count).
+    /// Called when the user opens the program while it is running. The panel does not count as a
+    /// visible window.
     std::function<void(bool hasVisibleWindows)> onReopen;
 
-    /// Called when somebody asks this copy; gives the answer, or why it cannot be done.
+    /// Called when another process sends this copy a request. Returns the answer, or a failure that
+    /// says why the request cannot be carried out.
     std::function<Result<std::string>(const ApplicationRequest& request)> onRequest;
 };
 

@@ -26,13 +26,15 @@ struct Drawing {
 /// Draws pictures.
 class Canvas {
 public:
-    /// Draws, and gives the contents of a PNG file. Any thread; the canvas need not be there.
+    /// Draws and returns the contents of a PNG file. Any thread may call it, even after the canvas
+    /// is destroyed.
     using Drawer = std::function<Result<std::string>()>;
 
     virtual ~Canvas() = default;
 
-    /// What makes the drawing, in as many pixels as the densest screen has for its points. Main
-    /// thread only: what it takes from the desktop, such as a font, is asked for here.
+    /// Returns a function that makes the drawing, with as many pixels per point as the densest
+    /// screen. Main thread only, because it gets from the desktop what the drawing needs, such as a
+    /// font.
     virtual Drawer drawer(const Drawing& drawing) = 0;
 };
 

@@ -5,7 +5,7 @@
 
 namespace vantle {
 
-/// Extensions that make a file's name that of a capture: in lowercase, without the dot.
+/// The file name extensions of captures, in lowercase and without the dot.
 struct CaptureExtensions {
     std::span<const std::string_view> image;
     std::span<const std::string_view> video;

@@ -7,10 +7,10 @@
 
 namespace vantle {
 
-/// Whether the desktop asks programs to be light or dark.
+/// The colour scheme that the desktop requests of programs.
 enum class ColorScheme { unknown, light, dark };
 
-/// How the user wants programs to look; what is not known is left to the caller.
+/// The look that the user has chosen for programs. The caller decides about what is unknown.
 struct DesktopLook {
     ColorScheme scheme = ColorScheme::unknown;
     std::optional<Color> accent;
@@ -18,12 +18,12 @@ struct DesktopLook {
     friend bool operator==(const DesktopLook&, const DesktopLook&) = default;
 };
 
-/// What the desktop tells about how programs shall look. Main thread only.
+/// Reports the look that the desktop requests of programs. Main thread only.
 class DesktopAppearance {
 public:
     virtual ~DesktopAppearance() = default;
 
-    /// Nothing known at first; follows the desktop from then on. Only the backend writes it.
+    /// Unknown at first; follows the desktop from then on. Only the backend writes it.
     Published<DesktopLook> look{DesktopLook{}};
 };
 

@@ -7,9 +7,9 @@
 
 namespace vantle {
 
-/// Hands files, and pages of the web, to other programs. Nothing waits for those, and what they
-/// make of a file that has gone is theirs; that nobody could be asked at all is logged. Main thread
-/// only.
+/// Hands files and web pages to other programs and does not wait for them. A program that gets a
+/// file that is gone deals with that itself. If no program can be asked at all, that is logged.
+/// Main thread only.
 class FileOpener {
 public:
     virtual ~FileOpener() = default;
@@ -20,7 +20,7 @@ public:
     /// Shows the files selected in the file manager.
     virtual void reveal(const std::vector<Url>& urls) = 0;
 
-    /// Opens a page of the web in the user's browser.
+    /// Opens a web page in the user's browser.
     virtual void openPage(const std::string& address) = 0;
 };
 

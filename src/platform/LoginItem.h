@@ -4,7 +4,7 @@
 
 namespace vantle {
 
-/// Whether the desktop starts this program when the user logs in. Main thread only.
+/// The setting that makes the desktop start this program when the user logs in. Main thread only.
 class LoginItem {
 public:
     enum class Status {
@@ -15,12 +15,12 @@ public:
 
     virtual ~LoginItem() = default;
 
-    /// Asks the system at each call.
+    /// Returns the status, which is read from the system at each call.
     virtual Status status() const = 0;
 
     virtual Outcome registerItem() = 0;
 
-    /// Unregistering what is not registered is a success.
+    /// Succeeds if the program is not registered.
     virtual Outcome unregisterItem() = 0;
 };
 

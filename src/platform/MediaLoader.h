@@ -13,16 +13,16 @@ class ImageFile {
 public:
     virtual ~ImageFile() = default;
 
-    /// The pixels of the first representation; 0 × 0 for a vector image. Absent when the file
-    /// holds no representation at all.
+    /// Returns the size of the first representation in pixels; 0 × 0 for a vector image. Absent if
+    /// the file holds no representation at all.
     virtual std::optional<Size> pixelSize() const = 0;
 
-    /// What the upright image measures in points.
+    /// Returns the size of the upright image in points.
     virtual Size pointSize() const = 0;
 
-    /// The image drawn to `size` points with high-quality interpolation, in as many pixels as the
-    /// densest screen shows there, but never more than the file has. Null when the contents turn
-    /// out to be damaged or incomplete.
+    /// Returns the image drawn to `size` points with high-quality interpolation, in as many pixels
+    /// as the densest screen shows there, but never more than the file has. Returns null if the
+    /// contents turn out to be damaged or incomplete.
     virtual ImagePointer draw(Size size) = 0;
 };
 
@@ -31,33 +31,36 @@ class RecordingFile {
 public:
     virtual ~RecordingFile() = default;
 
-    /// Seconds; not a number when the file does not say.
+    /// Returns the duration in seconds; not a number if the file does not say.
     virtual double duration() const = 0;
 
-    /// The upright frame at `time` seconds, shrunk where needed so that neither side exceeds
-    /// `maximumDimension` pixels; its size in points is its size in pixels. Null when there is
-    /// none.
+    /// Returns the upright frame at `time` seconds, shrunk if needed so that neither side exceeds
+    /// `maximumDimension` pixels; its size in points is its size in pixels. Returns null if there
+    /// is no frame.
     virtual ImagePointer frame(double time, double maximumDimension) = 0;
 
-    /// The upright natural size of the first video track; absent when there is no video track.
+    /// Returns the upright natural size of the first video track; absent if there is no video
+    /// track.
     virtual std::optional<Size> videoTrackSize() const = 0;
 };
 
-/// Opens image and recording files. Files come from anywhere: whatever a file holds, an operation
-/// ends in bounded time and memory, and failure is absence. Calls block; any one thread at a time.
+/// Opens image and recording files. Files come from anywhere: whatever a file holds, each operation
+/// ends within bounded time and memory, and a failed one returns nothing. Calls block. They may
+/// come from any thread, one at a time.
 class MediaLoader {
 public:
     virtual ~MediaLoader() = default;
 
-    /// Null when the file cannot be opened as an image.
+    /// Returns null if the file cannot be opened as an image.
     virtual std::unique_ptr<ImageFile> openImage(const Url& url) = 0;
 
-    /// The same without waiting: the file is held, and opened as an image when something is asked
-    /// of it for the first time. Null only when the file cannot be had; when it turns out to be no
-    /// image, it has no size and draws nothing. Where opening does not wait, that is all it does.
+    /// Does the same without waiting: holds the file, and opens it as an image when the object is
+    /// first used. Returns null only if the file cannot be accessed. If the file turns out to be no
+    /// image, the object has no size and draws nothing. A loader that opens files without waiting
+    /// need not override this.
     virtual std::unique_ptr<ImageFile> holdImage(const Url& url) { return openImage(url); }
 
-    /// Null when the file cannot be opened as a recording.
+    /// Returns null if the file cannot be opened as a recording.
     virtual std::unique_ptr<RecordingFile> openRecording(const Url& url) = 0;
 };
 

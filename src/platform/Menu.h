@@ -10,14 +10,14 @@
 
 namespace vantle {
 
-/// A picture beside a line of a menu. Points, with the origin at the top left.
+/// A picture beside a menu item, in points with the origin at the top left.
 struct MenuImage {
     ImagePointer picture;
-    Size size;   ///< The room that it takes.
-    Rect frame;  ///< Where in that the picture is drawn; the rest is transparent.
+    Size size;   ///< The space reserved for the picture.
+    Rect frame;  ///< The part of that space in which it is drawn; the rest is transparent.
 };
 
-/// A line of a menu, as plain data.
+/// A menu item, as plain data.
 struct MenuItem {
     enum class Kind { action, separator };
 
@@ -27,15 +27,15 @@ struct MenuItem {
     std::string keyEquivalent;  ///< The key that chooses it together with Control; empty for none.
     std::optional<MenuImage> image;
     bool isEnabled = true;
-    /// What choosing it does, where the line itself says so; may be empty.
+    /// Called when the item is chosen; may be empty.
     std::function<void()> action;
 };
 
 /// A menu, as plain data.
 struct Menu {
-    std::string title;  ///< Not drawn; screen readers say it.
+    std::string title;  ///< Not drawn; screen readers read it out.
     std::vector<MenuItem> items;
-    /// The line at which the keyboard begins; -1 for none.
+    /// The index of the item that is selected when the menu opens; -1 for none.
     int current = -1;
 };
 

@@ -8,7 +8,7 @@
 
 namespace vantle {
 
-/// A picture that can be put on the clipboard. It lasts even when its file is moved or deleted.
+/// A picture for the clipboard. It stays valid even if its file is moved or deleted.
 class PasteboardImage {
 public:
     virtual ~PasteboardImage() = default;
@@ -26,13 +26,13 @@ public:
 
     virtual void clearContents() = 0;
 
-    /// Offers the objects as one content, what comes first preferred: the picture as an image of
-    /// several types, made when somebody asks; the files as what file managers paste and as text.
+    /// Offers the objects as one content, the first ones preferred: the picture as an image of
+    /// several types, each made on request; the files as file managers paste them, and as text.
     /// There is at most one picture.
     virtual void writeObjects(const std::vector<PasteboardObject>& objects) = 0;
 
-    /// The picture that an image file holds, for a file that was one when it was last drawn; null
-    /// when it cannot be had any more, or breaks off. Does not wait until it is read.
+    /// Returns the picture in an image file that could be drawn before; null if the file can no
+    /// longer be read or is truncated. Does not wait until the whole file is read.
     virtual PasteboardImagePointer loadImage(const Url& url) = 0;
 };
 

@@ -38,13 +38,14 @@
 
 namespace vantle {
 
-/// All that the program asks of its surroundings, made by main() and borrowed by everyone else.
-/// Members are destroyed in reverse order: the queue ends before what its work uses.
+/// All services that the program needs from its surroundings. main() makes them; everything else
+/// borrows them. Members are destroyed in reverse order: the queues end before the objects that
+/// their work uses.
 struct Platform {
     Environment environment;
-    /// The notice of the settings and the onboarding that the sample captures are to be shown.
+    /// Notified by the settings and the onboarding when the sample captures are to be shown.
     Observers<> vantleShowDemo;
-    /// What the tools of this system write, besides what those of every system do.
+    /// The extensions that the tools of this system write in addition to those of every system.
     CaptureExtensions moreExtensions;
     std::unique_ptr<Scheduler> scheduler;
     std::unique_ptr<WallClock> clock;
@@ -69,35 +70,35 @@ struct Platform {
     std::unique_ptr<SoundPlayer> sounds;
     std::unique_ptr<SpareMemory> spareMemory;
     std::unique_ptr<SerialQueue> watcherQueue;
-    std::unique_ptr<SerialQueue> serverQueue;  ///< For what may wait for others for ever.
+    std::unique_ptr<SerialQueue> serverQueue;  ///< For work that may wait for others for ever.
     std::unique_ptr<DirectoryEvents> directoryEvents;
-    std::shared_ptr<void> systemEvents;  ///< What has `screenshotPreferences` tell of changes.
+    std::shared_ptr<void> systemEvents;  ///< Has `screenshotPreferences` report changes.
 
-    /// Calls `launch` on the main thread once all that the settings mirror is known. Not set where
-    /// it is known from the start.
+    /// Calls `launch` on the main thread as soon as every value that the settings mirror is known.
+    /// Not set if all are known from the start.
     std::function<void(std::function<void()> launch)> whenKnown;
 
-    /// Whether something in the background waits for an answer that may never come, so that the
-    /// queues cannot end. Waits a little itself.
+    /// Returns true if background work is waiting for an answer that may never come, so that the
+    /// queues cannot end. Waits briefly for that work.
     std::function<bool()> isHeldUp;
 
-    /// Empty on a surrounding that has none. Both outlive what is made.
+    /// Makes the updater; empty on a system without one. `platform` and `observer` outlive it.
     std::function<std::unique_ptr<Updater>(Platform& platform, UpdaterObserver& observer)>
         makeUpdater;
 
-    /// The folder into which the desktop's recorder saves, asked anew at each call: it need not
-    /// exist. Not set where there is no recorder, or it has no folder of its own.
+    /// Returns the folder into which the desktop's recorder saves, read anew at each call. The
+    /// folder need not exist. Not set if there is no recorder, or if it has no folder of its own.
     std::function<Url()> recordingsFolder;
 
-    /// What would bring a tray to this desktop; absent where nothing is known. Asked anew at each
-    /// call; not set on a system whose desktops all have one.
+    /// Returns the extension that would add a tray to this desktop; absent if none is known. Read
+    /// anew at each call. Not set on a system whose desktops all have a tray.
     std::function<std::optional<TrayExtension>()> trayExtension;
 
-    /// By what the program is shown, in a few words; not set where there is only one way.
+    /// Returns the name of the display server in a few words; not set on a system with only one.
     std::function<std::string()> displayServer;
 
-    /// What surrounds the program, for reports of faults; empty where there is nothing to tell.
-    /// Asks others, so it may take a moment. Names no path.
+    /// Returns facts about the system and the desktop, for reports of faults; empty if there are
+    /// none. Queries other programs, so it may take a moment. Contains no path.
     std::function<std::vector<ReportLine>()> surroundings;
 };
 

@@ -12,16 +12,17 @@
 
 namespace vantle {
 
-/// What a stored value means as a number: true is 1, and text counts when it is one. Absent when
-/// it means nothing.
+/// Returns a stored value as a number: true is 1, and text is converted if it is a number. Absent
+/// if the value does not stand for a number.
 inline std::optional<double> asNumber(const PreferenceValue& value) {
     if (const auto* boolean = std::get_if<bool>(&value)) return *boolean ? 1 : 0;
     if (const auto* number = std::get_if<double>(&value)) return *number;
     return numberFromText(std::get<std::string>(value));
 }
 
-/// What a stored value means as a choice: a number other than 0 is yes, and so is what a person
-/// writes for it (true, yes, on; false, no, off; in any case). Absent when it means nothing.
+/// Returns a stored value as a Boolean: a number other than 0 is true, and so are the words true,
+/// yes and on; false, no and off are false; the case of letters does not matter. Absent if the
+/// value stands for neither.
 inline std::optional<bool> asBoolean(const PreferenceValue& value) {
     if (const auto* text = std::get_if<std::string>(&value)) {
         const auto isOneOf = [&](std::initializer_list<std::string_view> words) {
@@ -38,7 +39,7 @@ inline std::optional<bool> asBoolean(const PreferenceValue& value) {
     return number ? std::optional(*number != 0) : std::nullopt;
 }
 
-/// Only text means text.
+/// Returns a stored value if it is text, otherwise nothing.
 inline std::optional<std::string> asText(const PreferenceValue& value) {
     const auto* text = std::get_if<std::string>(&value);
     return text ? std::optional(*text) : std::nullopt;

@@ -13,31 +13,33 @@ class PreferencesDomain {
 public:
     virtual ~PreferencesDomain() = default;
 
-    /// What is stored may have changed, and nobody here did it. Set by who shows it.
+    /// Called when a stored value may have changed, but not through this object. Set by the object
+    /// that shows the values.
     std::function<void()> onChange;
 
-    /// The stored value with the type that it has there; absent when there is none. Reads anew at
-    /// each call, so that a change made by others is seen.
+    /// Returns the stored value with its stored type; absent if there is none. Reads anew at each
+    /// call, so that changes made by other programs are seen.
     virtual std::optional<PreferenceValue> value(const std::string& key) const = 0;
 
-    /// Takes effect at synchronize(), at the latest.
+    /// Sets the value, which takes effect at synchronize() at the latest.
     virtual void setValue(const std::string& key, const PreferenceValue& value) = 0;
 
-    /// Writes what was set. Failures are silent here: who needs to know reads the value back.
+    /// Writes the values that were set. Reports no failures: a caller that must know reads the
+    /// value back.
     virtual void synchronize() = 0;
 
-    /// Why the key cannot be changed, as a sentence for a person; empty when it can.
+    /// Returns a sentence for the user that says why the key cannot be changed; empty if it can.
     virtual std::string obstacle(const std::string& key) const = 0;
 
-    /// Where the value of the key comes from, in English, for reports of faults; empty when it has
-    /// none.
+    /// Returns where the value of the key comes from, in English, for reports of faults; empty if
+    /// it has no value.
     virtual std::string origin(const std::string& key) const = 0;
 
-    /// What the key was before it was set here. Absent when it was not, when others have changed it
-    /// since, and when it is the same again.
+    /// Returns the value that the key had before it was set here. Absent if it was not set here, if
+    /// another program has changed it since, or if the value is the same again.
     virtual std::optional<PreferenceValue> previousValue(const std::string& key) const = 0;
 
-    /// Puts the previous value back as it was stored, at once. Without one nothing happens.
+    /// Restores the previous value as it was stored, at once. Does nothing if there is none.
     virtual void restore(const std::string& key) = 0;
 };
 

@@ -2,14 +2,14 @@
 
 namespace vantle::relaunch {
 
-// What a copy of the program finds in its environment when the updater has started it. The updater
-// may be of another version than the copy: what these mean stays as it is.
+// The environment variables that the updater sets for the copy of the program that it starts. The
+// updater and the copy may be of different versions, so these meanings must never change.
 
-/// The number of a socket's descriptor to which the copy sends a byte once it runs. When it ends
-/// before that, or says nothing in time, it is taken back.
+/// The number of a socket's descriptor, to which the copy sends a byte as soon as it runs. If the
+/// copy ends before that, or does not send it in time, the updater restores the previous version.
 inline constexpr auto readyVariable = "VANTLE_UPDATE_READY";
 
-/// A report (report::RolledBack), where something is to be told.
+/// A report (report::RolledBack); empty if there is nothing to report.
 inline constexpr auto outcomeVariable = "VANTLE_UPDATE_OUTCOME";
 
 }  // namespace vantle::relaunch

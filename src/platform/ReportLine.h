@@ -4,8 +4,8 @@
 
 namespace vantle {
 
-/// A line of what a report of a fault needs. In English, whatever the user's language is, but for
-/// what the system says of an error: those who mend the program read it.
+/// A line of a report of a fault. It is in English whatever the user's language is, because
+/// developers read it; only error messages of the system may be in another language.
 struct ReportLine {
     std::string name;
     std::string value;

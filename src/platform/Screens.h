@@ -19,10 +19,11 @@ class Screens {
 public:
     virtual ~Screens() = default;
 
-    /// In the system's order; empty while no display is connected.
+    /// Returns the displays in the system's order; empty while no display is connected.
     virtual std::vector<Screen> all() const = 0;
 
-    /// The one that the user works on (else the primary one); absent when there is none.
+    /// Returns the display that the user is working on, or else the primary one; absent if there is
+    /// none.
     virtual std::optional<Screen> main() const = 0;
 
     virtual Point pointerLocation() const = 0;

@@ -9,29 +9,29 @@
 
 namespace vantle {
 
-/// One way to pass files on, as the menu names it.
+/// A way to share files, as the menu names it.
 struct SharingService {
     std::string title;
 };
 
-/// Is told how the share menu ended.
+/// Is notified when the share menu closes.
 class SharingServicePickerDelegate {
 public:
     virtual ~SharingServicePickerDelegate() = default;
 
-    /// With what was chosen, which is under way then; with null when the menu closed without a
-    /// choice. Once for each menu.
+    /// Called once for each menu: with the chosen service, which has then already started, or with
+    /// null if the menu closed without a choice.
     virtual void sharingServicePickerDidChoose(const SharingService* service) = 0;
 };
 
-/// The menu of what this desktop offers to do with files. Main thread only.
+/// The menu with the ways of this desktop to share files. Main thread only.
 class SharingServicePicker {
 public:
     virtual ~SharingServicePicker() = default;
 
-    /// Opens the menu below `anchor` (in screen coordinates, as Screens has them), or above it
-    /// where there is no room. A menu that is still open closes without a choice. The delegate is
-    /// never called inside this.
+    /// Opens the menu below `anchor` (in screen coordinates, as in Screens), or above it if there
+    /// is no room. A menu that is still open closes without a choice. Never calls the delegate
+    /// inside this call.
     virtual void show(const std::vector<Url>& items, const Rect& anchor,
                       std::weak_ptr<SharingServicePickerDelegate> delegate) = 0;
 

@@ -9,27 +9,27 @@
 
 namespace vantle {
 
-/// One way to pass files on that is there right now.
+/// A way to share files that is available now.
 struct SharingOffer {
     std::string title;
     std::string symbol;  ///< A name in assets/symbols.
-    /// Starts it and does not wait. What cannot be started is logged.
+    /// Starts it without waiting. A failure to start is logged.
     std::function<void(const std::vector<Url>&)> perform;
 };
 
-/// Somebody on this desktop who may take files. Main thread only.
+/// A source of ways to share files on this desktop. Main thread only.
 class SharingSource {
 public:
     using Found = std::function<void(std::vector<SharingOffer>)>;
 
     virtual ~SharingSource() = default;
 
-    /// Calls `found` once with what is offered now, perhaps inside this call and at the latest
-    /// after `timeout`. Nobody is started for the question.
+    /// Calls `found` once with the current offers, possibly inside this call and at the latest
+    /// after `timeout`. Starts no program to find them.
     virtual void find(Found found) = 0;
 
 protected:
-    /// Somebody waits for the menu.
+    /// Short, because the user is waiting for the menu.
     static constexpr std::chrono::milliseconds timeout{700};
 };
 

@@ -9,7 +9,7 @@ class SoundPlayer {
 public:
     virtual ~SoundPlayer() = default;
 
-    /// Starts the system sound of that name and returns; a name that is not known is silent.
+    /// Starts the system sound of that name and returns. Does nothing if the name is unknown.
     virtual void play(std::string_view name) = 0;
 };
 

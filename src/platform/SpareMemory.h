@@ -2,12 +2,13 @@
 
 namespace vantle {
 
-/// What the program has let go of and its allocator keeps for later. Main thread only.
+/// Memory that the program has freed but its allocator keeps. Main thread only.
 class SpareMemory {
 public:
     virtual ~SpareMemory() = default;
 
-    /// Gives it back to the system, as far as nothing is left in between. May take milliseconds.
+    /// Returns that memory to the system, except where blocks still in use prevent it. May take
+    /// milliseconds.
     virtual void giveBack() = 0;
 };
 

@@ -4,11 +4,11 @@
 
 namespace vantle {
 
-/// What brings a tray to a desktop that has none of its own.
+/// An extension that adds a tray to a desktop without one.
 struct TrayExtension {
-    std::string name;     ///< By which the desktop's users know it.
-    std::string package;  ///< What distributions call it.
-    /// Then it has only to be switched on.
+    std::string name;     ///< The name that the desktop's users know.
+    std::string package;  ///< The name of its package in distributions.
+    /// If true, it only needs to be switched on.
     bool isInstalled = false;
 };
 

@@ -7,20 +7,20 @@ namespace vantle {
 
 /// A version that the update feed offers and that suits this system.
 struct UpdateItem {
-    /// What becomes of it, by how this program was installed.
+    /// How the version is installed; depends on how this program was installed.
     enum class Installation {
-        tree,     ///< A folder of the user's own, which is replaced.
-        package,  ///< A package, which is handed to the system's installer.
+        tree,     ///< It replaces a folder of the user's own.
+        package,  ///< A package is handed to the system's installer.
         page,     ///< Anything else: the user is shown where to get it.
     };
 
-    std::string version;         ///< By which it is compared.
-    std::string displayVersion;  ///< For people.
-    std::string notes;           ///< What is new: rich text of a few harmless tags; may be empty.
-    std::string page;            ///< Where a person can get it, by HTTPS.
-    std::string address;         ///< Of the file.
-    std::uint64_t length = 0;    ///< Of the file, in bytes.
-    std::string signature;       ///< Of the file: Ed25519, in base64.
+    std::string version;         ///< For comparisons.
+    std::string displayVersion;  ///< For the user.
+    std::string notes;           ///< What is new: rich text (a few harmless tags); may be empty.
+    std::string page;            ///< The HTTPS address of a page where the user can get it.
+    std::string address;         ///< The address of the file.
+    std::uint64_t length = 0;    ///< The length of the file in bytes.
+    std::string signature;       ///< The Ed25519 signature of the file, in base64.
     Installation installation = Installation::page;
 
     friend bool operator==(const UpdateItem&, const UpdateItem&) = default;

@@ -13,7 +13,7 @@ using namespace report;
 
 constexpr std::array<std::pair<char, char>, 3> escapes{{{'\\', '\\'}, {'\t', 't'}, {'\n', 'n'}}};
 
-/// Fields have tabs between them.
+/// Writes a report as fields that are separated by tabs.
 class Writer {
 public:
     explicit Writer(std::string_view kind) : line_(kind) {}
@@ -40,13 +40,13 @@ private:
     std::string line_;
 };
 
-/// Takes what a Writer wrote; what is missing or no number makes it bad.
+/// Reads the fields that a Writer wrote.
 class Reader {
 public:
     explicit Reader(std::string_view line) : rest_(line), kind_(takeRaw()) {}
 
     const std::string& kind() const { return kind_; }
-    /// Whether all was there, and nothing more.
+    /// Returns true if every field was present and valid and there were no others.
     bool isGood() const { return isGood_ && hasEnded_; }
 
     std::string text() {
@@ -127,7 +127,7 @@ std::string write(const RolledBack& back) {
 }
 
 UpdateItem readItem(Reader& reader) {
-    // The order of evaluation is that of the list.
+    // A braced list is evaluated in the order in which it is written.
     UpdateItem item{.version = reader.text(),
                     .displayVersion = reader.text(),
                     .notes = reader.text(),

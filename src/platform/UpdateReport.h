@@ -10,48 +10,49 @@
 
 namespace vantle {
 
-/// What the program that does the work on updates (vantle-updater) tells, in one line each. Texts
-/// are for people.
+/// The reports of vantle-updater, the program that does the work on updates. It writes each as one
+/// line. Texts are for the user.
 namespace report {
 
-/// The feed is there, whole, and signed.
+/// The feed was loaded; it is complete and its signature is valid.
 struct FeedLoaded {
-    std::uint64_t items = 0;  ///< All that it offers, to anybody.
-    std::int64_t date = 0;    ///< When it was made, in seconds since 1970.
+    std::uint64_t items = 0;  ///< The number of items in the feed, for all systems.
+    std::int64_t date = 0;    ///< When the feed was made, in seconds since 1970.
     friend bool operator==(const FeedLoaded&, const FeedLoaded&) = default;
 };
 struct UpdateFound {
     UpdateItem item;
     friend bool operator==(const UpdateFound&, const UpdateFound&) = default;
 };
-/// There is nothing newer for this system.
+/// The feed has nothing newer for this system.
 struct NothingFound {
     std::string reason;
     friend bool operator==(const NothingFound&, const NothingFound&) = default;
 };
-/// Bytes of the file so far.
+/// The number of bytes of the file that have been received.
 struct Progress {
     std::uint64_t received = 0;
     friend bool operator==(const Progress&, const Progress&) = default;
 };
-/// The file is there, whole, and signed; from here on it cannot be cancelled.
+/// The file was received; it is complete and its signature is valid. From here on the update cannot
+/// be cancelled.
 struct Installing {
     friend bool operator==(const Installing&, const Installing&) = default;
 };
-/// All is prepared: what is left is to end this copy and to start the new one.
+/// The update is prepared. What remains is to end this copy and to start the new one.
 struct Ready {
     friend bool operator==(const Ready&, const Ready&) = default;
 };
 struct Failed {
     std::string message;
-    /// Where a person can get it, by HTTPS; empty where that would not help.
+    /// The HTTPS address of a page where the user can get it; empty if that would not help.
     std::string page;
     friend bool operator==(const Failed&, const Failed&) = default;
 };
-/// To the copy that was started again: the new version did not come up, so the one before it is
-/// back.
+/// Sent to the copy that was started again: the new version did not start, so the previous one was
+/// restored.
 struct RolledBack {
-    std::string version;  ///< That failed; empty where it was not even tried.
+    std::string version;  ///< The version that failed; empty if it was not even tried.
     std::string message;
     friend bool operator==(const RolledBack&, const RolledBack&) = default;
 };
@@ -62,10 +63,10 @@ using UpdateReport =
     std::variant<report::FeedLoaded, report::UpdateFound, report::NothingFound, report::Progress,
                  report::Installing, report::Ready, report::Failed, report::RolledBack>;
 
-/// Without the end of the line.
+/// Returns the line of the report, without a line break.
 std::string lineOf(const UpdateReport& report);
 
-/// Absent when the line is not one of these.
+/// Returns the report in the line; absent if the line holds none.
 std::optional<UpdateReport> reportFrom(std::string_view line);
 
 }  // namespace vantle

@@ -6,31 +6,32 @@
 
 namespace vantle {
 
-/// Looks for new versions of this program; making one starts its schedule. Main thread only.
+/// Looks for new versions of this program. Constructing one starts its schedule. Main thread only.
 class Updater {
 public:
     virtual ~Updater() = default;
 
-    /// Checks now and shows the outcome to the user, whatever it is.
+    /// Checks now and shows the user the outcome, whatever it is.
     virtual void checkForUpdates() = 0;
 };
 
-/// What a version that is offered is called.
+/// The names of a version that is offered.
 struct OfferedVersion {
-    std::string version;         ///< By which versions are compared.
-    std::string displayVersion;  ///< For people.
+    std::string version;         ///< For comparisons.
+    std::string displayVersion;  ///< For the user.
 };
 
-/// Is asked for the feed and told what an Updater does; has no say in the rest. Main thread only.
+/// Supplies the address of the feed to an Updater and is notified of what the Updater does. Main
+/// thread only.
 class UpdaterObserver {
 public:
     virtual ~UpdaterObserver() = default;
 
-    /// The address of the feed to use, also an empty one; absent for the one that the program was
-    /// built with. Asked for each check.
+    /// Returns the address of the feed to use, which may be empty; absent for the feed that the
+    /// program was built with. Called for each check.
     virtual std::optional<std::string> feedURLString() = 0;
 
-    // Errors are texts for a person.
+    // Errors are texts for the user.
 
     virtual void didFinishLoading(std::size_t itemCount) = 0;
     virtual void didFindValidUpdate(const OfferedVersion& item) = 0;

@@ -10,16 +10,17 @@ namespace vantle {
 
 /// The program's own stored settings. Main thread only.
 ///
-/// A read gives the stored value, else the registered default, else false, 0 or absent; a value
-/// of another type is converted as far as it means something (a number to bool: not 0). A write
-/// is stored when it returns; a write that fails is logged by the backend once and the value
-/// holds for this run. Of a damaged store counts what can be read; it is kept aside and logged with
-/// one line. One that is there and holds nothing is taken from its last copy.
+/// A read returns the stored value, or else the registered default, or else false, 0 or nothing. A
+/// value of another type is converted if that is meaningful (a number other than 0 is true). A
+/// write is stored when it returns. If a write fails, the backend logs that once, and the value is
+/// kept for this run. If the store is damaged, its readable part is used, the damaged store is kept
+/// under another name, and one line is logged. If the store exists but holds nothing, its last copy
+/// is used.
 class UserDefaults {
 public:
     virtual ~UserDefaults() = default;
 
-    /// Adds to the defaults that are not stored but read where nothing is.
+    /// Adds defaults, which are not stored but are read if nothing is stored.
     virtual void registerDefaults(const std::map<std::string, PreferenceValue>& defaults) = 0;
 
     virtual bool boolean(const std::string& key) const = 0;

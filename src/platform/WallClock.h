@@ -13,7 +13,7 @@ public:
     virtual Date now() const = 0;
 };
 
-/// The system's own.
+/// The system's wall clock.
 class SystemWallClock final : public WallClock {
 public:
     Date now() const override { return std::chrono::system_clock::now(); }

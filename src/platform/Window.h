@@ -12,20 +12,20 @@ class Window {
 public:
     virtual ~Window() = default;
 
-    /// Shows it in front of the others and with the keyboard: where it stood when it was hidden,
-    /// and the first time in the middle of its screen.
+    /// Shows the window in front of the others and gives it the keyboard. It appears where it was
+    /// when it was hidden, and the first time in the middle of its screen.
     virtual void makeKeyAndOrderFront() = 0;
 
-    /// Shows it without taking the keyboard from the program that has it; does nothing when it is
-    /// shown already.
+    /// Shows the window without taking the keyboard from the program that has it. Does nothing if
+    /// it is already shown.
     virtual void orderFront() = 0;
     virtual void close() = 0;
 
-    /// In points, without the frame that the desktop puts around it.
+    /// Sets the size in points, without the frame that the desktop puts around the window.
     virtual void setContentSize(Size size) = 0;
 
-    /// A PNG of its content, drawn anew with `scale` pixels to a point, whether or not it is on the
-    /// screen; absent when it cannot be drawn.
+    /// Returns a PNG of the content, drawn anew with `scale` pixels to a point, whether or not the
+    /// window is on the screen; absent if it cannot be drawn.
     virtual std::optional<std::string> snapshot(double scale) = 0;
 };
 
