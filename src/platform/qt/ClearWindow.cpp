@@ -17,7 +17,7 @@ void ClearWindow::keepOutOfTheWay() {
 }
 
 bool ClearWindow::event(QEvent* event) {
-    // Some plugins of Qt still paint a window that has been closed meanwhile, and crash.
+    // Some of Qt's plugins still paint a window that has been closed in the meantime, and crash.
     const bool isTooLate = event->type() == QEvent::Paint && !handle();
     return isTooLate || QRasterWindow::event(event);
 }

@@ -4,17 +4,17 @@
 
 namespace vantle {
 
-/// A window through which everything shines where nothing is painted.
+/// A window that is transparent wherever nothing is painted.
 class ClearWindow : public QRasterWindow {
 protected:
     ClearWindow();
 
-    /// Above all others, without a frame, and taking neither clicks nor keys. To be asked for
-    /// before it is shown.
+    /// Keeps the window above all others, without a frame, and makes it ignore clicks and keys.
+    /// Call it before the window is shown.
     void keepOutOfTheWay();
 
     bool event(QEvent* event) override;
-    /// Clears what is to be painted.
+    /// Clears the area that is to be painted.
     void paintEvent(QPaintEvent* event) override;
 };
 

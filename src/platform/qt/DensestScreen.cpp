@@ -10,7 +10,8 @@ namespace vantle {
 std::function<double()> densestScreen() {
     const auto density = std::make_shared<std::atomic<double>>(1.0);
     const auto update = [density] { density->store(qGuiApp->devicePixelRatio()); };
-    // Qt has no signal of its own for a screen's scale, but its size in points changes with it.
+    // Qt has no signal for a change of a screen's scale, but the screen's size in points changes
+    // with it.
     const auto follow = [update](QScreen* screen) {
         QObject::connect(screen, &QScreen::geometryChanged, qGuiApp, update);
         update();

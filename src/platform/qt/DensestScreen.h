@@ -4,9 +4,9 @@
 
 namespace vantle {
 
-/// Follows the screens and tells how many pixels the densest of them has for a point. Main thread
-/// only, with the application object there; what it returns may be called on any thread, and for
-/// longer than there are screens.
+/// Follows the screens and returns a function that gives the number of pixels per point of the
+/// densest one. Main thread only; needs the application object. The returned function may be called
+/// on any thread, even after the screens are gone.
 std::function<double()> densestScreen();
 
 }  // namespace vantle

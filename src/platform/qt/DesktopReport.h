@@ -6,8 +6,8 @@
 
 namespace vantle {
 
-/// The toolkit, the user's languages and the screens, for reports of faults. Needs the application
-/// object.
+/// Returns lines about the toolkit, the user's languages and the screens, for reports of faults.
+/// Needs the application object.
 std::vector<ReportLine> desktopReport();
 
 }  // namespace vantle

@@ -35,7 +35,7 @@ DialogFolderChooser::~DialogFolderChooser() {
 }
 
 void DialogFolderChooser::choose(const FolderRequest& request, Chosen chosen) {
-    // Not inside this call, even when the program cannot be started.
+    // `chosen` must not be called inside this call, even if the program cannot be started.
     QTimer::singleShot(0, this, [this, request, chosen = std::move(chosen)]() mutable {
         if (chosen_) return chosen(std::nullopt);
         chosen_ = std::move(chosen);
@@ -52,7 +52,7 @@ void DialogFolderChooser::start(const FolderRequest& request) {
                 end(how == QProcess::NormalExit && status <= nothingChosen);
             });
     connect(process_.get(), &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-        // Every other error ends the process, which is told by itself.
+        // Every other error ends the process, which emits finished().
         if (error == QProcess::FailedToStart) end(false);
     });
     process_->start(program_, arguments(request));
@@ -61,9 +61,9 @@ void DialogFolderChooser::start(const FolderRequest& request) {
 void DialogFolderChooser::end(bool wasAsked) {
     if (!wasAsked)
         systemLog("Vantle: the folder chooser failed: " + process_->errorString().toStdString());
-    // Nothing, when the user chose nothing.
+    // The output is empty if the user chose nothing.
     const QByteArray path = wasAsked ? process_->readAllStandardOutput() : QByteArray();
-    // It is the one that tells this.
+    // The process emitted the signal that is being handled, so it cannot be deleted here.
     process_.release()->deleteLater();
     if (const auto chosen = std::exchange(chosen_, nullptr))
         chosen(path.startsWith('/') ? std::optional(Url::file(path.toStdString())) : std::nullopt);

@@ -8,10 +8,10 @@
 
 namespace vantle {
 
-/// Asks with the toolkit's dialog, which a program of its own shows. It ends with this.
+/// Shows the toolkit's dialog in a separate program, which ends when this object is destroyed.
 class DialogFolderChooser final : public QObject, public FolderChooser {
 public:
-    /// `program` is the path of vantle-folder-dialog, or of one that is called alike.
+    /// `program` is the path of vantle-folder-dialog, or of a program with the same command line.
     explicit DialogFolderChooser(QString program);
     ~DialogFolderChooser() override;
 
@@ -22,7 +22,7 @@ private:
     void end(bool wasAsked);
 
     const QString program_;
-    std::unique_ptr<QProcess> process_;  ///< While one is open.
+    std::unique_ptr<QProcess> process_;  ///< Set while a dialog is open.
     Chosen chosen_;
 };
 

@@ -21,18 +21,17 @@
 
 namespace vantle {
 
-/// What the toolkit leaves open about the display server by which the program is shown. This class
-/// does what the toolkit can do by itself; each display server has a class that does better. Main
-/// thread only.
+/// The operations of a display server that the toolkit does not cover. This class does what the
+/// toolkit can do by itself; the class of each display server does more. Main thread only.
 class DisplayServer {
 public:
     virtual ~DisplayServer() = default;
 
-    /// The one in use; the plain one of this class while no other was chosen.
+    /// Returns the current one: a plain object of this class until another is chosen.
     static DisplayServer& current();
 
-    /// Has all use `server` as long as this object lives. There is one at most, and it goes before
-    /// the application object.
+    /// Makes `server` the current one as long as this object lives. There is at most one, and it
+    /// must be destroyed before the application object.
     class Choice {
     public:
         explicit Choice(std::unique_ptr<DisplayServer> server);
@@ -43,78 +42,83 @@ public:
 
     // The server itself.
 
-    /// Its name in a few words; where it is not the one of the session, why.
+    /// Returns its name in a few words and, if it is not the session's own server, the reason.
     virtual std::string name() const;
-    /// Itself, who manages the windows, and who composes them, as far as each tells.
+    /// Returns lines about the server, the window manager and the compositor, as far as each
+    /// reports itself.
     virtual std::vector<ReportLine> report() const;
-    /// Whether the connection to it is lost.
+    /// Returns true if the connection to it is lost.
     virtual bool isLost() const { return false; }
 
     // Windows above all others.
 
-    /// Whether the program chooses where its overlays stand.
+    /// Returns true if the program chooses where its overlays stand.
     virtual bool placesOverlays() const { return true; }
     /// `window` outlives the overlay.
     virtual std::unique_ptr<Overlay> makeOverlay(QWindow& window, Overlay::Focus focus);
-    /// Whether a menu of ours can stand where no window of ours is, as beside the tray.
+    /// Returns true if the program's own menus can stand where it has no window, for instance
+    /// beside the tray.
     virtual bool placesMenusAnywhere() const { return true; }
     /// `window` outlives the placement.
     virtual std::unique_ptr<MenuPlacement> makeMenuPlacement(QWindow& window);
-    /// Null where trays take no windows of others.
+    /// Returns null if trays do not embed the windows of other programs.
     virtual std::unique_ptr<EmbeddedIcon> makeEmbeddedIcon(EmbeddedIcon::Draw draw);
 
-    // What a window is made of.
+    // How a window is drawn and where it takes input.
 
-    /// Lets `window` take pointer input only inside `region` (points from its top left); elsewhere
-    /// it falls through to what lies beneath. What is drawn stays as it is. It can be called only
-    /// while the window is exposed, and has to be repeated after each time that it becomes so.
+    /// Lets `window` take pointer input only inside `region` (points from its top left). Elsewhere
+    /// the input goes to what lies beneath; what is drawn does not change. Call it only while the
+    /// window is exposed, and again each time it becomes exposed.
     virtual void setInputRegion(QWindow& window, const QRegion& region);
     virtual std::unique_ptr<WindowInputRegion> makeInputRegion(QWindow& window);
-    /// Whether the input region of a window is forgotten with each frame.
+    /// Returns true if the input region of a window is forgotten with each frame.
     virtual bool forgetsInputRegions() const { return false; }
-    /// Whether windows are shown with their transparency.
+    /// Returns true if windows are shown with their transparency.
     virtual bool isComposited() const { return true; }
-    /// Whether what is behind a part of a window is blurred for those who ask.
+    /// Returns true if windows can request a blur of what is behind them.
     virtual bool offersBlur() const { return false; }
-    /// Asks for a blur behind `region` (points from the top left of `window`), and for none
-    /// elsewhere. Does nothing where it is not offered.
+    /// Requests a blur behind `region` (points from the top left of `window`) and none elsewhere.
+    /// Does nothing if no blur is offered.
     virtual void setBlurBehind(QWindow& window, const QRegion& region);
-    /// Whether a window that is hidden can still be drawn.
+    /// Returns true if a hidden window can still be drawn.
     virtual bool drawsHiddenWindows() const { return true; }
 
     // Screens and pointer.
 
-    /// The part of a screen that the desktop's own panels leave free, in points. Where no protocol
-    /// tells where it begins, it is given at the screen's upper left corner, and so are the places
-    /// of overlays counted.
+    /// Returns the part of a screen that the desktop's own panels leave free, in points. If no
+    /// protocol tells where that part begins, the rectangle begins at the screen's upper left
+    /// corner, and the positions of overlays count from there too.
     virtual QRect usableArea(QScreen& screen) const { return screen.availableGeometry(); }
-    /// Where the pointer is, also over windows of others; absent where nobody tells.
+    /// Returns the pointer's place, even over windows of other programs; absent if it is unknown.
     virtual std::optional<QPoint> pointer() const;
-    /// The pointer's place, or one on the screen where the user is.
+    /// Returns the pointer's place or, if that is unknown, a place on the screen where the user is
+    /// working.
     virtual QPoint placeOfUser() const;
 
-    // What is passed to other programs.
+    // Drags and the clipboard.
 
-    /// For a drag that is about to begin.
+    /// Returns the support for a drag that is about to begin.
     virtual std::unique_ptr<DragSupport> supportDrag(QDrag& drag, const DragContents& contents);
-    /// Null clears the clipboard.
+    /// Puts the contents on the clipboard; null clears it.
     virtual void setClipboard(std::unique_ptr<QMimeData> contents);
 
     // Ordinary windows.
 
-    /// Gives a window that is shown the keyboard and brings it above all others, to the workspace
-    /// on which the user is, as far as the desktop allows.
+    /// Gives a shown window the keyboard, raises it above all others and moves it to the user's
+    /// current workspace, as far as the desktop allows.
     virtual void bringToFront(QWindow& window);
-    /// Whether the window is shown on another workspace than the user's. False where nobody tells.
+    /// Returns true if the window is shown on a workspace other than the user's current one, false
+    /// if that is unknown.
     virtual bool isOnOtherWorkspace(const QWindow& window) const;
-    /// Why windows cannot be kept out of the desktop's taskbar and window switcher, for the user;
-    /// empty where they can.
+    /// Returns a sentence for the user that says why windows cannot be kept out of the desktop's
+    /// taskbar and window switcher; empty if they can.
     virtual std::string taskbarObstacle() const { return {}; }
-    /// Keeps a window that is about to be shown out of it.
+    /// Keeps a window that is about to be shown out of the taskbar and the window switcher.
     virtual void keepOutOfTaskbar(const QWindow& window);
-    /// Has a window that is shown stand in it, or not.
+    /// Adds a shown window to them, or removes it from them.
     virtual void setInTaskbar(const QWindow& window, bool isPresent);
-    /// By which name the desktop's other programs know a window; empty where there is none.
+    /// Returns the name by which the desktop's other programs can refer to a window; empty if it
+    /// has none.
     virtual QString nameForOthers(const QWindow& window) const;
 };
 

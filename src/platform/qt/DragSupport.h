@@ -11,33 +11,33 @@ class QWindow;
 
 namespace vantle {
 
-/// What is dragged.
+/// The contents of a drag.
 struct DragContents {
     std::vector<Url> files;
-    /// Makes the contents anew; each says the same.
+    /// Makes a new object with the contents, which are the same each time.
     std::function<std::unique_ptr<QMimeData>()> make;
 };
 
-/// What has been done so far with what is dragged.
+/// The use that has been made of a drag's contents so far.
 struct DropMarks {
-    /// Whether somebody has read some of it.
+    /// True if a program has read some of the contents.
     std::shared_ptr<const bool> wasRead;
-    /// Whether the target asks the user what becomes of the files only after it has taken them.
+    /// True if the target asks the user what to do with the files only after it has taken them.
     std::shared_ptr<const bool> decidesLater;
 };
 
-/// What a display server needs for one drag besides what the toolkit does. It is made before the
-/// drag begins and lives until the answer. Main thread only.
+/// The support that a display server needs for one drag in addition to the toolkit's. It is made
+/// before the drag begins and lives until the answer. Main thread only.
 class DragSupport {
 public:
     virtual ~DragSupport() = default;
 
-    /// To be called when the button was released or the drag was given up. `source` is the window
-    /// in which it began; null when that has gone.
+    /// Call it when the button was released or the drag was cancelled. `source` is the window in
+    /// which the drag began; null if that is gone.
     virtual void ended(QWindow* source) { (void)source; }
 
-    /// Calls `told` once, with whether the program on which it was dropped has taken it. A program
-    /// that has read nothing has taken nothing.
+    /// Calls `told` once, and says whether the program that received the drop has taken the
+    /// contents. A program that has read nothing has taken nothing.
     virtual void waitForAnswer(const DropMarks& marks, std::function<void(bool wasTaken)> told) {
         told(*marks.wasRead);
     }

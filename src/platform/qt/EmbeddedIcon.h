@@ -6,23 +6,23 @@
 
 namespace vantle {
 
-/// The icon as a window of ours that a tray takes into its own. Main thread only.
+/// The tray icon as a window of this program that a tray embeds in its own. Main thread only.
 class EmbeddedIcon {
 public:
-    /// Gives the icon in at most so many pixels, or as small as there is one.
+    /// Returns the icon at a size of at most `pixels`, or the smallest one that exists.
     using Draw = std::function<QImage(int pixels)>;
 
     virtual ~EmbeddedIcon() = default;
 
-    /// Stands in a tray from now on, wherever one is or comes.
+    /// Puts the icon into the tray, and into any tray that appears later.
     virtual void show() = 0;
     virtual void hide() = 0;
     virtual bool isShown() const = 0;
 
-    /// To be called when it looks different.
+    /// Call it when the icon looks different.
     virtual void iconChanged() = 0;
 
-    /// Called when it was clicked, with where it stands, in pixels of the screen.
+    /// Called when the icon was clicked, with its place in pixels of the screen.
     std::function<void(const QRect& pixels)> onClick;
 };
 

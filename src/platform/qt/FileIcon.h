@@ -7,8 +7,8 @@
 
 namespace vantle {
 
-/// The icon that the desktop shows for files of this kind, by the name alone; null where its icon
-/// theme has none. Main thread only.
+/// Returns the icon that the desktop shows for files of this kind, found by the name alone; null if
+/// its icon theme has none. Main thread only.
 QImage fileIcon(const Url& url, const QSize& pixels);
 
 }  // namespace vantle

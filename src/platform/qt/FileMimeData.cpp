@@ -9,12 +9,13 @@ namespace {
 
 const QString transferKey = QStringLiteral("application/vnd.portal.filetransfer");
 const QString addressList = QStringLiteral("text/uri-list");
-// What GNOME's, Xfce's and LXDE's, and MATE's file managers ask for: whether to copy or to cut.
+// File managers of GNOME, Xfce and LXDE, and of MATE, read here whether to copy or to cut.
 const QString gnomeFiles = QStringLiteral("x-special/gnome-copied-files");
 const QString mateFiles = QStringLiteral("x-special/mate-copied-files");
-// KDE's only asks whether it is to be cut.
+// KDE's file managers read here only whether to cut.
 const QString kdeCut = QStringLiteral("application/x-kde-cutselection");
-// They ask for it with a drop, not while something is dragged over them. Nothing needs to be in it.
+// KDE's file managers request this with a drop, not while the pointer only passes over them. It may
+// be empty.
 const QString kdeDrop = QStringLiteral("application/x-kio-metadata");
 const QString plainText = QStringLiteral("text/plain");
 
@@ -54,7 +55,7 @@ FileMimeData::FileMimeData(std::vector<Url> files, std::shared_ptr<const Picture
 
 QStringList FileMimeData::fileFormats() const {
     if (files_.empty()) return {};
-    // Programs outside a sandbox take the addresses.
+    // Programs outside a sandbox use the addresses.
     QStringList formats = transfer_ ? QStringList{transferKey} : QStringList();
     formats << addressList;
     if (use_ == Use::drag) formats << kdeDrop;
@@ -67,7 +68,7 @@ QStringList FileMimeData::formats() const {
 }
 
 QVariant FileMimeData::retrieveData(const QString& type, QMetaType wanted) const {
-    // Qt 6.8 makes an empty list of the bytes, and one of its plugins asks for the list.
+    // Qt 6.8 converts the bytes to an empty list, and one of its plugins requests the list.
     if (type == addressList && wanted.id() == QMetaType::QVariantList) {
         *wasRead_ = *wasRead_ || !files_.empty();
         return urlList(files_);

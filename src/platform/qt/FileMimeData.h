@@ -11,27 +11,28 @@
 
 namespace vantle {
 
-/// Files, and perhaps the picture that is in the only one, as other programs take them from the
-/// clipboard or from a drag. The picture is read and converted when somebody asks for it.
+/// Files, and possibly the picture in the only file, as other programs take them from the clipboard
+/// or from a drag. The picture is read and converted when a program requests it.
 class FileMimeData final : public QMimeData {
     Q_OBJECT
 
 public:
     enum class Use {
-        clipboard,  ///< With what file managers need for pasting, and the paths as text.
+        clipboard,  ///< Adds what file managers need for pasting, and the paths as text.
         drag,
     };
 
-    /// `picture` may be null. `transfer` serves programs in a sandbox, if it is there now; it may
-    /// be null.
+    /// `picture` may be null. `transfer` serves programs in a sandbox if it is available at this
+    /// moment; it may be null.
     FileMimeData(std::vector<Url> files, std::shared_ptr<const PictureContents> picture, Use use,
                  std::shared_ptr<const FileTransfer> transfer = nullptr);
 
     QStringList formats() const override;
 
-    /// They become true: `wasRead` when somebody has read some of it, where an empty answer is
-    /// none; `decidesLater` when KDE's file managers have taken a drop of it, which ask what is to
-    /// be done with the files only after they have said that they take them. Both outlive this.
+    /// Returns the marks, which outlive this object. `wasRead` becomes true when a program has read
+    /// some of the contents; an empty answer does not count. `decidesLater` becomes true when one
+    /// of KDE's file managers has taken a drop, because these ask what to do with the files only
+    /// after they have accepted them.
     DropMarks marks() const { return {wasRead_, decidesLater_}; }
 
 protected:
@@ -44,7 +45,7 @@ private:
     const std::vector<Url> files_;
     const std::shared_ptr<const PictureContents> picture_;
     const Use use_;
-    const std::shared_ptr<const FileTransfer> transfer_;  ///< Null where there is none.
+    const std::shared_ptr<const FileTransfer> transfer_;  ///< Null if it is not available.
     const std::shared_ptr<bool> wasRead_ = std::make_shared<bool>(false);
     const std::shared_ptr<bool> decidesLater_ = std::make_shared<bool>(false);
 };

@@ -7,17 +7,18 @@
 
 namespace vantle {
 
-/// Passes files to programs in a sandbox, which cannot open them by their addresses: they get a key
-/// instead, and the desktop makes the files appear to whoever has that. Main thread only.
+/// Passes files to programs in a sandbox, which cannot open them by their addresses. These get a
+/// key instead, and the desktop makes the files accessible to every program that has it. Main
+/// thread only.
 class FileTransfer {
 public:
     virtual ~FileTransfer() = default;
 
-    /// Whether this desktop can do that now. Waits for its answer.
+    /// Returns true if this desktop offers that now. Waits for the desktop's answer.
     virtual bool isThere() const = 0;
 
-    /// A key for the files, which they can be read by as long as the session lasts; empty when
-    /// there is none. Waits a second at most for each answer.
+    /// Returns a key by which the files can be read as long as the session lasts; empty if there is
+    /// none. Waits for each answer for a second at most.
     virtual QByteArray keyFor(const std::vector<Url>& files) const = 0;
 };
 

@@ -9,7 +9,7 @@
 namespace vantle {
 namespace {
 
-/// The window that came to the front last, by this program or by the user.
+/// Remembers the window that this program or the user brought to the front last.
 class LastInFront {
 public:
     LastInFront() {
@@ -30,7 +30,7 @@ LastInFront& lastInFront() {
     return last;
 }
 
-/// An alert stands above all windows, but not above the one that the user asks for afterwards.
+/// An alert stays above all windows except one that the user opens afterwards.
 void lowerOthers(const QWindow& front) {
     for (QWindow* window : QGuiApplication::topLevelWindows())
         if (window != &front && isOrdinaryWindow(*window) &&

@@ -15,7 +15,7 @@ QImage menuPicture(const MenuImage& image, double pixelsPerPoint) {
                 QImage::Format_ARGB32_Premultiplied);
     room.fill(Qt::transparent);
     const Rect& frame = image.frame;
-    // Made small before it is drawn: the painter alone would skip most of the pixels.
+    // The picture is scaled before it is drawn, because the painter alone would skip most pixels.
     const QImage picture = pixels(*image.picture)
                                .scaled(inPixels(frame.size.width), inPixels(frame.size.height),
                                        Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

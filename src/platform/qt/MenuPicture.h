@@ -6,7 +6,8 @@
 
 namespace vantle {
 
-/// The picture of a menu's line in the room that it takes, with so many pixels for a point.
+/// Returns the picture of a menu item in its reserved space, with `pixelsPerPoint` pixels per
+/// point.
 QImage menuPicture(const MenuImage& image, double pixelsPerPoint);
 
 }  // namespace vantle

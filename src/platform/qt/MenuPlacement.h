@@ -10,15 +10,15 @@
 
 namespace vantle {
 
-/// What a menu points to.
+/// The place that a menu points to.
 struct MenuAnchor {
     QRect frame;                ///< In Qt's screen coordinates.
-    QWindow* window = nullptr;  ///< In which it is, where that is one that the desktop manages.
-    QPointer<Overlay> overlay;  ///< On which it is, where it is on one.
+    QWindow* window = nullptr;  ///< The managed window that contains the place; may be null.
+    QPointer<Overlay> overlay;  ///< The overlay that contains the place; may be null.
 };
 
-/// How a menu of ours comes to its place and gets the pointer and the keyboard. DisplayServer makes
-/// one for each menu's window. Main thread only.
+/// Places a menu of the program and gives it the pointer and the keyboard. DisplayServer makes one
+/// for each menu's window. Main thread only.
 class MenuPlacement {
 public:
     static constexpr int gap = 4;   ///< Points between the menu and what it points to.
@@ -26,18 +26,19 @@ public:
 
     virtual ~MenuPlacement() = default;
 
-    /// Shows the window beside the anchor. The menu itself is drawn in its part `plate`; around
-    /// that is its shadow. Keys that other windows get meanwhile are sent to the menu's.
+    /// Shows the window beside the anchor. The menu itself is drawn in the part `plate` of the
+    /// window, with its shadow around it. Keys that other windows receive meanwhile are sent to the
+    /// menu.
     virtual void show(const MenuAnchor& anchor, const QRect& plate) = 0;
 
-    /// Hides the window and lets go of the pointer and the keyboard.
+    /// Hides the window and releases the pointer and the keyboard.
     virtual void hide() = 0;
 
-    /// To be called when the window is on the screen.
+    /// Call it when the window is on the screen.
     virtual void exposed() {}
 
-    /// Called when the display server ends the menu, as when one clicks elsewhere. The menu is to
-    /// be hidden then.
+    /// Called when the display server ends the menu, for instance because the user clicks
+    /// elsewhere. The menu must then be hidden.
     std::function<void()> onDismissed;
 };
 

@@ -13,7 +13,7 @@ QMargins between(const QRect& frame, const QRect& area) {
             area.bottom() - frame.bottom()};
 }
 
-/// As far from the same edges of another area.
+/// Returns a frame that is as far from the same edges of another area.
 QRect moved(const QRect& frame, const QRect& from, const QRect& to) {
     const QMargins margins = between(frame, from);
     QRect there(to.topLeft() + QPoint(margins.left(), margins.top()), frame.size());

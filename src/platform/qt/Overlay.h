@@ -9,17 +9,17 @@
 
 namespace vantle {
 
-/// Shows a window above all others at a place of its own, on every workspace, where no window
-/// manager moves it. DisplayServer makes one. Main thread only.
+/// Shows a window above all others, on every workspace, at a place that the program chooses and no
+/// window manager changes. DisplayServer makes it. Main thread only.
 class Overlay : public QObject {
     Q_OBJECT
 
 public:
-    /// What a click on the window does to the keyboard, where it could take it.
+    /// Tells whether a click on the window may give it the keyboard.
     enum class Focus { refused, accepted };
 
-    /// Sets the frame in Qt's screen coordinates. A window that is shown moves with the next
-    /// show().
+    /// Sets the frame in Qt's screen coordinates. Call show() afterwards to move a window that is
+    /// already shown.
     void setFrame(const QRect& frame);
 
     virtual void show() = 0;
@@ -27,46 +27,48 @@ public:
 
     QWindow& window() const { return window_; }
 
-    /// While it is held, the window has the keyboard.
+    /// The window has the keyboard as long as this is held.
     using BorrowedKeyboard = std::shared_ptr<void>;
     /// Returns null when the window has the keyboard already.
     BorrowedKeyboard borrowKeyboard();
 
-    /// Takes the keyboard from the window that has it. This window is on the screen.
+    /// Takes the keyboard from the window that has it. This window must be on the screen.
     void takeKeyboard();
-    /// Gives the keyboard back to the window that had it, unless yet another one has it by now.
+    /// Gives the keyboard back to the window that had it, unless a third window has it by now.
     void giveBackKeyboard();
 
 signals:
-    /// Emitted before the window goes: what is placed by it has to go first.
+    /// Emitted before the window disappears: whatever is placed relative to it must disappear
+    /// first.
     void hiding();
 
 protected:
-    /// `window` outlives this and gets the flags that it needs; it is not on the screen yet.
+    /// Sets the flags that `window` needs. `window` outlives this object and is not on the screen
+    /// yet.
     explicit Overlay(QWindow& window);
 
     const QRect& frame() const { return frame_; }
-    /// The screen on which the window was shown last; null when that has gone.
+    /// Returns the screen on which the window was last shown; null if that is gone.
     QScreen* screen() const { return screen_; }
     bool hasKeyboard() const { return hasKeyboard_; }
 
-    /// Keeps where on that screen the frame stands.
+    /// Remembers the frame's place on that screen.
     void standsOn(QScreen& screen);
-    /// Shows the window as far from the same edges of another screen.
+    /// Shows the window at the same distance from the same edges of another screen.
     void moveTo(QScreen& screen);
-    /// How far the frame is from each edge of the usable area in which it stands.
+    /// Returns the distances of the frame from the edges of the usable area in which it stands.
     QMargins distances() const;
 
     virtual void screenRemoved() = 0;
     virtual void screenAdded() {}
-    /// `couldHaveIt` tells whether the window had been allowed to take it before.
+    /// `couldHaveIt` is true if the window was already allowed to take the keyboard.
     virtual void startKeyboard(bool couldHaveIt) = 0;
     virtual void endKeyboard() = 0;
 
 private:
     QWindow& window_;
     QRect frame_;
-    QRect area_;  ///< The usable area of the screen, in which the frame stands.
+    QRect area_;  ///< The usable area of the screen on which the frame stands.
     QPointer<QScreen> screen_;
     bool hasKeyboard_ = false;
 };

@@ -17,15 +17,15 @@
 namespace vantle {
 namespace {
 
-// What most programs take, and Qt writes.
+// The types that most programs accept and Qt can write.
 const QString png = QStringLiteral("image/png");
 const QString jpeg = QStringLiteral("image/jpeg");
 const QString bmp = QStringLiteral("image/bmp");
 
-// A vector image has no pixels of its own: enough for a dense screen.
+// A vector image has no pixels of its own; this is enough for a dense screen.
 constexpr double pixelsPerPointOfVectors = 2;
 
-/// All that is in the file from there, or so many bytes of it.
+/// Reads at most `maximum` bytes of the file, beginning at `from`; returns nothing on an error.
 QByteArray read(int file, qsizetype maximum, qsizetype from = 0) {
     QByteArray bytes(maximum, Qt::Uninitialized);
     qsizetype length = 0;
@@ -41,7 +41,7 @@ QByteArray read(int file, qsizetype maximum, qsizetype from = 0) {
     return bytes;
 }
 
-/// The last bytes.
+/// Reads at most the last `maximum` bytes.
 QByteArray readEnd(int file, qsizetype maximum) {
     struct stat status {};
     if (fstat(file, &status) != 0) return {};
@@ -54,14 +54,14 @@ QByteArray readAll(int file) {
     return read(file, status.st_size);
 }
 
-/// What the first bytes show.
+/// Returns the type that the first bytes of the file show; null if none is known.
 const FileType* typeOf(int file) {
     const QByteArray start = read(file, signatureReach);
     return fileTypeOf({start.data(), static_cast<std::size_t>(start.size())});
 }
 
-/// Whether the file has an end, where its type says how that looks. A picture that breaks off is
-/// none that others could read.
+/// Returns true if the file has the ending of its type, or if that type has no known one. Other
+/// programs could not read a truncated picture.
 bool isWhole(int file, const FileType& type) {
     const auto& [text, within] = type.ending;
     if (text.empty()) return true;
@@ -69,7 +69,7 @@ bool isWhole(int file, const FileType& type) {
         .contains(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
 }
 
-/// White where the picture lets through: not every type can.
+/// Returns the picture on a white background, because not every type supports transparency.
 QImage opaque(const QImage& picture) {
     QImage paper(picture.size(), QImage::Format_RGB32);
     paper.fill(Qt::white);
@@ -82,7 +82,7 @@ QByteArray encoded(const QImage& picture, const QString& type) {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, type.section(QLatin1Char('/'), 1).toLatin1());
-    // Somebody waits for it, and it is not kept: quick is better than small.
+    // A program is waiting and the result is not kept, so speed matters more than size.
     if (type == png) writer.setCompression(1);
     if (type == jpeg) writer.setQuality(92);
     const bool isWritten = writer.write(type == png ? picture : opaque(picture));

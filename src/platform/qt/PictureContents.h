@@ -10,29 +10,29 @@
 
 namespace vantle {
 
-/// What an image file holds, as other programs take it: its own bytes, and on request the same
-/// picture in the types that most of them know. It keeps the file open, and so lasts when that is
-/// moved or deleted. Main thread only.
+/// The contents of an image file, as other programs take them: its own bytes and, on request, the
+/// same picture in the types that most programs accept. The file is kept open, so the contents
+/// remain available when it is moved or deleted. Main thread only.
 class PictureContents final : public PasteboardImage {
 public:
-    /// Null when the file cannot be had or breaks off. Does not look whether an image is in it:
-    /// that shows when it is asked for. `media` draws a pixel for a point.
+    /// Returns null if the file cannot be opened or is truncated. Does not check that it holds an
+    /// image; that shows when the picture is requested. `media` draws one pixel per point.
     static std::shared_ptr<const PictureContents> open(const Url& url,
                                                        std::shared_ptr<MediaLoader> media);
 
-    /// Media types, best first.
+    /// Returns the media types, best first.
     QStringList types() const;
 
-    /// The picture as one of types(); empty when the file turns out to be damaged. Blocks while it
-    /// is decoded and encoded, if it is not the file's own type.
+    /// Returns the picture as one of types(); empty if the file turns out to be damaged. Unless the
+    /// type is the file's own, blocks while the picture is decoded and encoded.
     QByteArray as(const QString& type) const;
 
 private:
     PictureContents() = default;
 
     FileDescriptor file_;
-    QString ownType_;                     ///< Empty when nobody would know what to do with it.
-    std::shared_ptr<MediaLoader> media_;  ///< Has to last as long as the image.
+    QString ownType_;                     ///< Empty if the type is not known.
+    std::shared_ptr<MediaLoader> media_;  ///< Must outlive the image.
     std::unique_ptr<ImageFile> image_;
 };
 

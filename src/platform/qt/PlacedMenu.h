@@ -6,8 +6,8 @@
 
 namespace vantle {
 
-/// A menu that stands where the toolkit puts it: below its anchor, or above where there is no room.
-/// Main thread only.
+/// A menu that the toolkit places: below its anchor, or above it if there is no room. Main thread
+/// only.
 class PlacedMenu final : public MenuPlacement {
 public:
     /// `window` outlives this.
@@ -22,7 +22,7 @@ private:
     const std::unique_ptr<Overlay> overlay_;
 };
 
-/// Where the window of such a menu stands on the screen of the anchor.
+/// Returns the frame of the window of a placed menu on the screen of the anchor.
 QRect menuFrame(const QRect& anchor, const QRect& plate, const QSize& size);
 
 }  // namespace vantle

@@ -7,9 +7,9 @@
 namespace vantle {
 
 PlacedOverlay::PlacedOverlay(QWindow& window, Focus focus) : Overlay(window) {
-    // A window that its manager does not manage: only that keeps the focus where it is when it is
-    // clicked, and stands on every workspace and above full-screen windows. No popup: assistive
-    // programs are not told of those.
+    // Only a window that the window manager does not manage leaves the focus where it is when it is
+    // clicked, and appears on every workspace and above full-screen windows. It is no popup,
+    // because assistive programs are not notified of popups.
     Qt::WindowFlags flags = Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
     if (focus == Focus::refused) flags |= Qt::WindowDoesNotAcceptFocus;
     window.setFlags(flags);
@@ -33,7 +33,7 @@ void PlacedOverlay::screenRemoved() {
 }
 
 void PlacedOverlay::startKeyboard(bool) {
-    // Qt asks for nothing for a window that does not want it.
+    // Qt requests no activation for a window that does not accept the focus.
     window().setFlag(Qt::WindowDoesNotAcceptFocus, false);
     window().requestActivate();
 }

@@ -4,7 +4,7 @@
 
 namespace vantle {
 
-/// An overlay that stands where the toolkit puts it. Main thread only.
+/// An overlay that the toolkit places. Main thread only.
 class PlacedOverlay : public Overlay {
 public:
     PlacedOverlay(QWindow& window, Focus focus);

@@ -16,8 +16,8 @@
 namespace vantle {
 namespace {
 
-constexpr int quickCompression = 30;          // of 100; gradients get hardly smaller with more
-constexpr double dotsPerMeter = 72 / 0.0254;  // of a picture that has a pixel per point
+constexpr int quickCompression = 30;          // of 100; more would make gradients hardly smaller
+constexpr double dotsPerMeter = 72 / 0.0254;  // for a picture with one pixel per point
 
 QPointF point(const Point& at) {
     return {at.x, at.y};

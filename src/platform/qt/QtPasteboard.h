@@ -9,11 +9,11 @@ namespace vantle {
 
 class MediaLoader;
 
-/// The desktop's clipboard. What is offered there stays as long as this program runs, and goes to
-/// the clipboard's manager, where there is one, when it ends.
+/// The desktop's clipboard. What is offered there stays available as long as this program runs.
+/// When the program ends, it goes to the clipboard manager, if there is one.
 class QtPasteboard final : public Pasteboard {
 public:
-    /// `media` draws a pixel for a point. `transfer` serves programs in a sandbox; it may be null.
+    /// `media` draws one pixel per point. `transfer` serves programs in a sandbox; it may be null.
     QtPasteboard(std::shared_ptr<MediaLoader> media, std::shared_ptr<const FileTransfer> transfer);
     ~QtPasteboard() override;
 

@@ -12,11 +12,11 @@ namespace {
 
 using Milliseconds = std::chrono::milliseconds;
 
-// Qt counts milliseconds in an int; what waits for longer is looked at again on the way.
+// Qt counts milliseconds in an int, so a longer wait is split into several alarms.
 constexpr Seconds maximumAlarm = std::chrono::hours(24);
 constexpr Seconds shortestInterval = Milliseconds(1);
 
-/// The first turn after `now` of those that follow `last` at this interval.
+/// Returns the first turn after `now` of those that follow `last` at this interval.
 Instant nextTurn(Instant last, Seconds interval, Instant now) {
     const double missed = std::max(0.0, std::floor((now - last) / interval));
     return last + interval * (missed + 1);
@@ -24,7 +24,7 @@ Instant nextTurn(Instant last, Seconds interval, Instant now) {
 
 }  // namespace
 
-/// Held by the scheduler while it waits, so nobody else has to.
+/// The scheduler holds this while it waits, so callers need not.
 class QtScheduler::WaitingWork final : public Timer,
                                        public std::enable_shared_from_this<WaitingWork> {
 public:
@@ -41,13 +41,13 @@ public:
     void cancel() override {
         QtScheduler* scheduler = std::exchange(scheduler_, nullptr);
         if (!scheduler) return;
-        // What the work holds may hold the last reference to this.
+        // An object that the work holds may hold the last reference to this.
         const auto self = shared_from_this();
         const auto work = std::move(work_);
         scheduler->remove(due_);
     }
 
-    /// Called once it no longer waits.
+    /// Called when it no longer waits.
     void fire(QtScheduler& scheduler, Instant now) {
         const auto work = work_;
         if (interval_) {
@@ -56,7 +56,7 @@ public:
             scheduler_ = nullptr;
             work_.reset();
         }
-        // The work may run an event loop of its own, in which the rest must not stand still.
+        // The work may run an event loop of its own, in which other timers must still fire.
         scheduler.arm();
         (*work)();
     }
@@ -64,7 +64,7 @@ public:
     void abandon() { scheduler_ = nullptr; }
 
 private:
-    QtScheduler* scheduler_;  // null once it is not valid
+    QtScheduler* scheduler_;  // null when it is no longer valid
     const std::optional<Seconds> interval_;
     std::shared_ptr<const Work> work_;
     Due due_{};
@@ -78,7 +78,7 @@ QtScheduler::QtScheduler() {
 
 QtScheduler::~QtScheduler() {
     for (const auto& [due, work] : waiting_) work->abandon();
-    // What the work holds may cancel others while it goes.
+    // The work's destructor may cancel other timers.
     const auto abandoned = std::exchange(waiting_, {});
 }
 

@@ -11,8 +11,8 @@
 
 namespace vantle {
 
-/// The main run loop as Qt's event loop of the thread that makes this. All waiting work shares one
-/// timer of the system, which runs only while something waits.
+/// The main run loop: Qt's event loop on the thread that constructs this. All waiting work shares
+/// one system timer, which runs only while work is waiting.
 class QtScheduler final : public Scheduler {
 public:
     QtScheduler();
@@ -36,7 +36,7 @@ private:
     Due add(Instant at, WaitingWorkPointer work);
     void remove(const Due& due);
 
-    /// Posts a turn that runs what is due then, as far as it was asked for before now.
+    /// Posts a turn that runs the work that is due by then and was scheduled before this call.
     void postTurn();
     void runDue(std::uint64_t end);
     void arm();
@@ -44,7 +44,7 @@ private:
     std::map<Due, WaitingWorkPointer> waiting_;
     std::uint64_t nextOrder_ = 0;
     QTimer alarm_;
-    QObject context_;  ///< What is posted to it goes with it.
+    QObject context_;  ///< Work posted to it is dropped when it is destroyed.
 };
 
 }  // namespace vantle

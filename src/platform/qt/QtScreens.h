@@ -4,9 +4,9 @@
 
 namespace vantle {
 
-/// The displays as Qt knows them. The user works on the one with the focused window of this
-/// program; of other programs' windows Qt knows nothing. The pointer, and what is free of each
-/// display, are what the display server tells of them (DisplayServer.h).
+/// The displays as Qt reports them. The user's display is the one with this program's focused
+/// window, because Qt cannot see the windows of other programs. The pointer's place and the free
+/// part of each display come from the display server (DisplayServer.h).
 class QtScreens final : public Screens {
 public:
     std::vector<Screen> all() const override;

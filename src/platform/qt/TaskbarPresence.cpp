@@ -24,7 +24,7 @@ void TaskbarPresence::setPresent(bool present) {
 }
 
 bool TaskbarPresence::eventFilter(QObject* watched, QEvent* event) {
-    // Before each showing: Qt takes the state away when it hides a window.
+    // Done each time a window is shown, because Qt resets the state when it hides a window.
     if (event->type() == QEvent::Show)
         if (const auto* window = qobject_cast<const QWindow*>(watched)) apply(*window);
     return false;

@@ -6,14 +6,14 @@ class QWindow;
 
 namespace vantle {
 
-/// Whether ordinary windows of this program stand in the desktop's taskbar and window switcher,
-/// where the display server lets a program decide that. Main thread only.
+/// Controls whether ordinary windows of this program appear in the desktop's taskbar and window
+/// switcher, if the display server lets a program decide that. Main thread only.
 class TaskbarPresence final : public QObject {
 public:
     /// Windows are absent at first.
     TaskbarPresence();
 
-    /// For the windows that are open and those to come.
+    /// Applies to the windows that are open and to those that open later.
     void setPresent(bool present);
 
 protected:
@@ -25,7 +25,7 @@ private:
     bool isPresent_ = false;
 };
 
-/// Whether the window is one that desktops manage: no panel, no menu.
+/// Returns true if the window is one that desktops manage, not a panel or a menu.
 bool isOrdinaryWindow(const QWindow& window);
 
 }  // namespace vantle

@@ -5,19 +5,19 @@
 
 namespace vantle {
 
-/// The input region of a window that is drawn again and again. Main thread only.
+/// The input region of a window that is redrawn repeatedly. Main thread only.
 class WindowInputRegion {
 public:
-    /// `window` outlives this. Its first pixel has to be clear.
+    /// `window` outlives this. Its first pixel must be transparent.
     explicit WindowInputRegion(QWindow& window) : window_(window) {}
     virtual ~WindowInputRegion() = default;
     WindowInputRegion(const WindowInputRegion&) = delete;
     WindowInputRegion& operator=(const WindowInputRegion&) = delete;
 
-    /// As DisplayServer::setInputRegion().
+    /// Does the same as DisplayServer::setInputRegion().
     virtual void set(const QRegion& region);
 
-    /// To be called after each frame of the window.
+    /// Call it after each frame of the window.
     virtual void frameDrawn() {}
 
 protected:

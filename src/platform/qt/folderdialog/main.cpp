@@ -1,10 +1,10 @@
 // vantle-folder-dialog DIRECTORY LABEL MESSAGE [WINDOW]
 //
-// Asks for a folder with the dialog of the desktop's toolkit where that has one, else with that of
-// ours. It starts in DIRECTORY, LABEL stands on its button and MESSAGE in its title; it stays
-// above the WINDOW, which is named as portals name it: its number in base 16 behind a colon. Writes
-// the path as it is, without anything behind it, to the standard output and ends with 0; ends with
-// 1 when nothing was chosen. It ends with the program that started it.
+// Asks for a folder with the dialog of the desktop's toolkit if that has one, otherwise with Qt's.
+// The dialog starts in DIRECTORY; LABEL is the text of its button and MESSAGE its title. It stays
+// above WINDOW, which is named as portals name it: its number in base 16 after a colon. Writes the
+// path unchanged, with nothing after it, to the standard output and exits with 0; exits with 1 if
+// nothing was chosen. Ends when the program that started it ends.
 
 #include <signal.h>
 #include <sys/prctl.h>
@@ -24,7 +24,8 @@ namespace {
 constexpr int nothingChosen = 1;
 constexpr int wrongCommandLine = 2;
 
-/// The window of another program; null where that has no number. Goes with this process.
+/// Returns the window of another program; null if `name` has no number. The window object is never
+/// deleted: it lasts as long as this process.
 QWindow* windowOf(const char* name) {
     constexpr int base = 16;
     const QByteArray number = QByteArray(name).split(':').value(1);
@@ -39,7 +40,7 @@ void stayAbove(QWidget& dialog, QWindow& parent) {
     dialog.setGeometry(place);
 }
 
-/// The dialog's own words, where the system has them in the user's language.
+/// Loads the texts of the dialog itself, if the system has them in the user's language.
 void translateToolkit(QTranslator& translator) {
     if (translator.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

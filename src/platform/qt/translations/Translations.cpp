@@ -11,13 +11,13 @@
 namespace vantle {
 namespace {
 
-/// The toolkit looks this up to learn from which side a language is written.
+/// The toolkit looks up this text to find out in which direction a language is written.
 [[maybe_unused]] constexpr const char* direction =
     //: Not shown. "LTR" for languages written from left to right, "RTL" for those from right to
     //: left.
     QT_TRANSLATE_NOOP("QGuiApplication", "QT_LAYOUT_DIRECTION");
 
-/// "C" is what programs speak where nobody has chosen a language.
+/// "C" is the language of a system on which none has been chosen.
 bool isEnglish(const QString& language) {
     return language == QLatin1String("C") || language == QLatin1String("en") ||
            language.startsWith(QLatin1String("en-"));
@@ -36,7 +36,7 @@ QStringList Translations::languagesOfDesktop() {
 
 Translations::Translations(const QString& folder, const QStringList& languages) {
     const auto load = [&](QString language) {
-        // Where there is no file "vantle_de_AT", the toolkit looks for "vantle_de".
+        // If there is no file "vantle_de_AT", the toolkit looks for "vantle_de".
         return translator_.load(QStringLiteral("vantle_") + language.replace(u'-', u'_'), folder);
     };
     const auto english = QStringLiteral("en");

@@ -6,29 +6,32 @@
 
 namespace vantle {
 
-/// The texts of the program in the user's language, while it lives: those of the logic and the
-/// services (support/Localization.h) and, once it is installed, those of the views. Made and ended
-/// on the main thread, while it is the only one.
+/// Provides the texts of the program in the user's language as long as it lives: those of the logic
+/// and the services (support/Localization.h) and, after install(), those of the views. Create and
+/// destroy it on the main thread, while there is no other thread.
 class Translations {
 public:
-    /// Where a program that is in a `bin` folder finds the translations, with or without an
-    /// application object.
+    /// Returns the folder where a program in a `bin` folder finds the translations. Works with or
+    /// without an application object.
     static QString folderOfProgram();
 
-    /// Takes the first of `languages` (as "de-AT") of which `folder` holds a translation
-    /// ("vantle_de.qm"), and English where there is none: the texts are written in English, but for
-    /// another system, so that what they say of the desktop has to be said anew for this one. By
-    /// default the desktop's languages, in the user's order.
+    /// Loads the first of `languages` (such as "de-AT") for which `folder` holds a translation
+    /// ("vantle_de.qm"), and English if there is none. English needs a file as well: the texts in
+    /// the code are English but written for another system, so what they say about the desktop has
+    /// to be worded differently for this one. The default is the desktop's languages, in the user's
+    /// order.
     explicit Translations(const QString& folder = folderOfProgram(),
                           const QStringList& languages = languagesOfDesktop());
     ~Translations();
     Translations(const Translations&) = delete;
     Translations& operator=(const Translations&) = delete;
 
-    /// For the views as well. Needs the application object, which may end before this does.
+    /// Makes the views use the texts as well. Needs the application object, which may end before
+    /// this object does.
     void install();
 
-    /// Which was taken, as its file calls it ("de"); empty where not even English is there.
+    /// Returns the language that was loaded, as its file names it ("de"); empty if not even English
+    /// was found.
     QString language() const { return translator_.language(); }
 
 private:
