@@ -6,7 +6,8 @@
 
 namespace vantle::displays {
 
-/// The class for the display server to which the application object has connected.
+/// Returns an object of the class for the display server to which the application object has
+/// connected.
 std::unique_ptr<DisplayServer> makeDisplayServer();
 
 }  // namespace vantle::displays

@@ -10,10 +10,11 @@ namespace vantle::displays {
 namespace {
 
 constexpr auto variable = "QT_QPA_PLATFORM";
-// Leaves windows to their program that are to have none of a window manager's roles.
+// With this variable the toolkit gives windows with BypassWindowManagerHint none of a window
+// manager's roles, so that the program can give them its own.
 constexpr auto overlayVariable = "QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT";
-// Compositors that offer overlays draw the frames of windows themselves. Before the toolkit knows
-// that, it loads what it would draw them with: OpenGL, which takes 25 MiB.
+// Compositors that offer overlays draw the frames of windows themselves. Without this variable the
+// toolkit finds that out only after it has loaded OpenGL to draw them, which takes 25 MiB.
 constexpr auto noFramesVariable = "QT_WAYLAND_DISABLE_WINDOWDECORATION";
 
 struct ConnectionDeleter {
@@ -33,7 +34,8 @@ void forget(void*, wl_registry*, std::uint32_t) {}
 }  // namespace
 
 Offer askCompositor() {
-    // A connection that was handed to this program is the toolkit's: it can be used but once.
+    // A connection that was handed to this program must be left to the toolkit, because it can be
+    // used only once.
     if (qEnvironmentVariableIsSet("WAYLAND_SOCKET")) return Offer::none;
     const std::unique_ptr<wl_display, ConnectionDeleter> connection(wl_display_connect(nullptr));
     if (!connection) return Offer::none;

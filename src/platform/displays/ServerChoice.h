@@ -7,31 +7,32 @@
 
 namespace vantle::displays {
 
-/// What the compositor of the session offers to place windows with.
+/// The ways to place windows that the session's compositor offers.
 enum class Offer {
-    none,      ///< No compositor answers, or none can be asked.
+    none,      ///< No compositor answers, or it must not be asked.
     windows,   ///< It places all windows itself.
-    overlays,  ///< It lets programs place some (layer-shell).
+    overlays,  ///< It lets programs place some of them (layer-shell).
 };
 
-/// Asks it, on a connection of its own. For before the application object is made.
+/// Asks the compositor on a separate connection. Call it before the application object is made.
 Offer askCompositor();
 
 struct Session {
     Offer offer = Offer::none;
-    bool hasX11 = false;  ///< Whether an X server is named: XWayland, in a Wayland session.
+    bool hasX11 = false;  ///< True if an X server is named: XWayland in a Wayland session.
 };
 
-/// The display servers to try, in the toolkit's names and in this order. Windows can stand in a
-/// corner of the screen on X11, and on a compositor that offers overlays; on another they can
-/// through XWayland.
+/// Returns the display servers to try, in this order, under the toolkit's names. Windows can be
+/// placed in a corner of the screen on X11, on a compositor that offers overlays, and on any other
+/// compositor through XWayland.
 std::string serversToTry(const Session& session);
 
-/// Whether a compositor is to be asked at all.
+/// Returns true if there may be a compositor to ask.
 bool isWaylandSession(const Environment& environment);
 
-/// Has the toolkit try them, unless the user has chosen with QT_QPA_PLATFORM. It lives while the
-/// application object is made: programs that this one starts choose for themselves.
+/// Makes the toolkit try these servers, unless the user has chosen one with QT_QPA_PLATFORM. It
+/// must live only while the application object is made, because programs that this one starts
+/// choose for themselves.
 class ServerChoice {
 public:
     ServerChoice();
@@ -43,8 +44,8 @@ private:
     const bool wasMade_;
 };
 
-/// Variables that the toolkit reads while the program runs. They stay set in this one, and must not
-/// reach others.
+/// Returns the names of the variables that the toolkit reads while the program runs. They stay set
+/// in this process and must not be passed on to others.
 const std::vector<std::string>& ownVariables();
 
 }  // namespace vantle::displays
