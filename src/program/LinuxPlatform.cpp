@@ -66,12 +66,12 @@ bool isRecording(const Url& url) {
     return Capture::kind(url, linuxCaptureExtensions) == CaptureKind::video;
 }
 
-/// The path of another program that belongs to this one.
+/// Returns the path of another program that belongs to this one.
 std::string beside(const char* program) {
     return QDir(QCoreApplication::applicationDirPath()).filePath(program).toStdString();
 }
 
-/// All who may take files, in the order of the share menu.
+/// Returns all sources of ways to share files as one, in the order of the share menu.
 std::unique_ptr<SharingSource> makeSharingSource(const Platform& platform) {
     std::vector<std::unique_ptr<SharingSource>> sources;
     sources.push_back(std::make_unique<MailSharing>(*platform.launcher, platform.environment));
@@ -81,12 +81,12 @@ std::unique_ptr<SharingSource> makeSharingSource(const Platform& platform) {
     return std::make_unique<SharingSources>(std::move(sources));
 }
 
-/// Draws whole pictures for other programs, whatever the screens.
+/// Draws whole pictures for other programs, independently of the screens.
 std::shared_ptr<MediaLoader> makePictureLoader() {
     return std::make_shared<ConfinedMediaLoader>(beside("vantle-decoder"), [] { return 1.0; });
 }
 
-/// What a capture can be used for.
+/// Adds the services for what the user does with a capture.
 void addUses(Platform& platform, LoadedViews& views) {
     const auto fileTransfer = std::make_shared<FileTransferPortal>();
     views.use({platform.appearance.get(), fileTransfer});
@@ -110,7 +110,7 @@ std::unique_ptr<TrayStatusItem> makeStatusItem(OpenMenu openMenu) {
         isPlaced ? TrayStatusItem::Click::opensOurMenu : TrayStatusItem::Click::opensMenuOfTray);
 }
 
-/// What stands around the program, for reports of faults.
+/// Returns facts about the system and the desktop, for reports of faults.
 std::vector<ReportLine> surroundings(const Environment& environment,
                                      const TrayStatusItem& statusItem) {
     std::vector<ReportLine> lines = systemReport(environment, Url::file(beside("../share/vantle")));
@@ -121,7 +121,7 @@ std::vector<ReportLine> surroundings(const Environment& environment,
     return lines;
 }
 
-/// What the program says of itself, outside the panel.
+/// Adds the services by which the program addresses the user outside the panel.
 void addShell(Platform& platform, LoadedViews& views) {
     auto statusItem = makeStatusItem(loadedMenu(views));
     platform.displayServer = [] { return DisplayServer::current().name(); };
@@ -138,7 +138,7 @@ void addShell(Platform& platform, LoadedViews& views) {
         std::make_unique<CanberraSoundPlayer>(Url::file(beside("../share/vantle/sounds")));
 }
 
-/// Looks for new versions, and shows them.
+/// Returns an updater that looks for new versions and shows them.
 std::unique_ptr<Updater> makeUpdater(LoadedViews& views, Platform& platform,
                                      UpdaterObserver& observer) {
     return std::make_unique<UpdateFlow>(UpdateFlow::Context{
@@ -161,7 +161,7 @@ std::string toolOfDesktop(const Environment& environment) {
     return chooseScreenshotTool(environment("XDG_CURRENT_DESKTOP").value_or(""), isInstalled);
 }
 
-/// Has what was not known yet asked for, and goes on once it is heard.
+/// Requests the settings that are not known yet, and calls `launch` when they have arrived.
 void whenKnown(const PreferencesDomain& preferences, BackgroundGSettings& settings,
                std::function<void()> launch) {
     for (const auto* key : {screenshotPreferences::location, screenshotPreferences::showThumbnail})
@@ -169,7 +169,8 @@ void whenKnown(const PreferencesDomain& preferences, BackgroundGSettings& settin
     settings.whenHeard(std::move(launch));
 }
 
-/// A folder that is mounted or unmounted is another one, or none.
+/// Mounting and unmounting count as a change of the settings, because a path may then lead to
+/// another folder or to none.
 void tellOfChanges(Platform& platform, BackgroundGSettings& settings) {
     const auto changed = [&preferences = *platform.screenshotPreferences] {
         if (preferences.onChange) preferences.onChange();
@@ -178,8 +179,9 @@ void tellOfChanges(Platform& platform, BackgroundGSettings& settings) {
     platform.systemEvents = std::make_shared<MountEvents>(changed);
 }
 
-/// The settings of the tool that saves the screenshots of this desktop, else our own, and the
-/// folder of the recorder: that stays the desktop's, whatever takes the screenshots.
+/// Adds the settings of the tool that saves the screenshots of this desktop, or else the program's
+/// own. Also sets the folder of recordings: the tool's if it has one, otherwise that of the
+/// desktop's usual tool.
 void addScreenshotTool(Platform& platform, const Url& own) {
     const std::string usual = toolOfDesktop(platform.environment);
     std::string name = platform.defaults->text("screenshotTool").value_or("");
@@ -205,7 +207,8 @@ void addScreenshotTool(Platform& platform, const Url& own) {
     tellOfChanges(platform, *settings);
 }
 
-/// The folder that is watched, and one that is opened, may be those of a server.
+/// Makes two queues, because the watched folder, and one that is being opened, may be on a server
+/// that does not answer.
 void addQueues(Platform& platform) {
     auto watcher = std::make_unique<PollQueue>("vantle.watcher");
     auto servers = std::make_unique<PollQueue>("vantle.servers");

@@ -6,11 +6,11 @@
 
 namespace vantle {
 
-/// By what the desktop knows this program.
+/// The name by which the desktop knows this program.
 inline constexpr auto programIdentifier = "org.vantle.Vantle";
 
-/// The services of a Linux desktop. The application object is there and outlives them, as do the
-/// views.
+/// Makes the services of a Linux desktop. The application object must exist, and it and the views
+/// outlive them.
 Platform makeLinuxPlatform(DBusApplication::Launch launch, LoadedViews& views);
 
 }  // namespace vantle

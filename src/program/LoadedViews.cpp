@@ -41,7 +41,7 @@ public:
 
 private:
     LoadedViews& views_;
-    std::unique_ptr<SharingSource> source_;  ///< Until there is a picker.
+    std::unique_ptr<SharingSource> source_;  ///< Null once there is a picker.
     Pasteboard& pasteboard_;
     FileOpener& opener_;
     std::unique_ptr<SharingServicePicker> picker_;
@@ -69,8 +69,8 @@ Views& LoadedViews::get() {
     return *views_;
 }
 
-/// With the library that is in the way of what reaches the network (NoProxies.cpp), or without it
-/// where the toolkit has come to want more of that than there is.
+/// Loads the views after the library that replaces libproxy (NoProxies.cpp). If that fails, because
+/// a newer toolkit may need more of libproxy than that library offers, loads the views without it.
 void* LoadedViews::load() const {
     void* noProxies = noProxies_.load();
     if (void* library = library_.load()) return library;

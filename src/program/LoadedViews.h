@@ -8,18 +8,19 @@
 
 namespace vantle {
 
-/// The views that the library "lib/vantle/modules/vantle-views.so" beside this program's folder
-/// makes. It is loaded with the first that is asked for, and then stays: the scene that draws them
-/// takes half of the memory, and most of the time that a start would need. Main thread only.
+/// Loads the views from the library "lib/vantle/modules/vantle-views.so" beside this program's
+/// folder when one is first needed. The library then stays loaded. The scene that draws the views
+/// takes half of the memory, and would take most of the time of a start. Main thread only.
 class LoadedViews {
 public:
-    /// Ends the program when there is no such library. The application object is there.
+    /// Ends the program if the library does not exist. The application object must exist.
     LoadedViews();
 
-    /// To be called before there are any views.
+    /// Call it before the first view is made.
     void use(ViewsServices services) { services_ = std::move(services); }
 
-    /// Ends the program when the library cannot be loaded.
+    /// Returns the views and loads them if needed. Ends the program if the library cannot be
+    /// loaded.
     Views& get();
 
 private:
@@ -31,7 +32,7 @@ private:
     std::unique_ptr<Views> views_;
 };
 
-/// The services of which the views have a part. All of them load them when they are called.
+/// Services that are partly made of views. Each loads the views when it is first used.
 std::unique_ptr<Alerts> loadedAlerts(LoadedViews& views);
 std::unique_ptr<SharingServicePicker> loadedSharingServicePicker(
     LoadedViews& views, std::unique_ptr<SharingSource> source, Pasteboard& pasteboard,

@@ -1,11 +1,11 @@
 #include <cstdlib>
 #include <cstring>
 
-// A library that says of every address that no proxy is needed for it. It has the name and the
-// functions of libproxy, which Qt Network asks and which brings thirty libraries on Debian 13:
-// curl, two that encrypt, one that runs JavaScript. Qt Quick needs Qt Network to be there; this
-// program never calls it, as it does not reach the network. What the functions owe to whoever calls
-// them is from proxy.h: all that get_proxies() returns is the caller's, to be freed with free().
+// This library answers for every address that no proxy is needed. It has the name and the functions
+// of libproxy, which Qt Network calls and which loads thirty libraries on Debian 13, among them
+// curl, two for encryption and one that runs JavaScript. Qt Quick needs Qt Network to be loaded,
+// but this program does not reach the network and never calls it. The rules of ownership are those
+// of proxy.h: the caller owns everything that get_proxies() returns, and frees it with free().
 
 extern "C" {
 

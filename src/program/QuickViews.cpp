@@ -39,7 +39,7 @@ OnboardingModel::Context onboardingContext(const Platform& platform, Settings& s
             .environment = platform.environment};
 }
 
-/// The views as Qt Quick draws them.
+/// The views, drawn by Qt Quick.
 class QuickViews final : public Views {
 public:
     explicit QuickViews(std::shared_ptr<const FileTransfer> transfer)

@@ -20,21 +20,21 @@
 
 namespace vantle {
 
-/// Opens a menu beside a place in Qt's screen coordinates, and does what is chosen in it. It closes
-/// with the last copy of the function.
+/// Opens a menu beside a place in Qt's screen coordinates and performs what the user chooses in it.
+/// The menu closes when the last copy of the function is destroyed.
 using OpenMenu = std::function<void(const Menu& menu, const QRect& anchor)>;
 
-/// What the views ask of the desktop by themselves.
+/// The services that the views use directly.
 struct ViewsServices {
-    /// How they are to look; it outlives them. Null where nobody says.
+    /// The look of the views; outlives them. Null if the desktop does not report one.
     DesktopAppearance* appearance = nullptr;
-    /// For files that are dragged into programs in a sandbox; null where there is none.
+    /// Serves files that are dragged into programs in a sandbox; null if that is not available.
     std::shared_ptr<const FileTransfer> transfer;
 };
 
-/// Makes all that people see besides the icon in the tray. It stands in a library of its own, which
-/// is loaded with the first that is asked for (LoadedViews.h). What is handed to these functions
-/// outlives what they make. Main thread only.
+/// Makes everything that the user sees, except the icon in the tray. The views are in a library of
+/// their own, which is loaded when the first is requested (LoadedViews.h). Objects that are passed
+/// to these functions outlive what the functions make. Main thread only.
 class Views {
 public:
     virtual ~Views() = default;

@@ -4,11 +4,11 @@
 
 namespace vantle {
 
-/// The name by which the library of the views gives out its entry. It is built with the program:
-/// both have one version.
+/// The name of the function that the library of the views exports. The library is built with the
+/// program, so both have the same version.
 inline constexpr auto viewsEntry = "vantleMakeViews";
 
-/// What stands behind that name. Makes the views, which the caller owns.
+/// The type of that function. It makes the views, which the caller owns.
 using ViewsEntry = Views* (*)(const ViewsServices& services);
 
 }  // namespace vantle

@@ -29,14 +29,17 @@ using namespace vantle;
 
 constexpr int wrongCommandLine = 2;  // the exit status
 
-/// Pictures come and go in many sizes. Where the allocator keeps their room for later, as it begins
-/// to after the first large one, forty captures cost a fifth more.
+/// Pictures of many sizes are allocated and freed. By default the allocator begins to keep their
+/// memory for later once the first large one has been freed, and forty captures then take a fifth
+/// more.
 void returnLargeBlocksAtOnce() {
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 }
 
-/// A missing display is no reason for a core dump, nor to reinstall the program, as Qt says. Of one
-/// that has gone Qt says so before it ends the program, with a status that depends on its version.
+/// Logs Qt's messages. A fatal one ends the program without a core dump; if it says that no display
+/// could be opened, it is replaced, because Qt advises to reinstall the program. When the display
+/// is lost, Qt logs that and then ends the program with a status that depends on Qt's version, so
+/// this ends it first.
 void logOrEnd(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type != QtFatalMsg) {
         systemLog(message.toStdString());
@@ -48,7 +51,8 @@ void logOrEnd(QtMsgType type, const QMessageLogContext&, const QString& message)
     _exit(EXIT_FAILURE);
 }
 
-/// The desktop's session ends this program, but never starts it: its own entry for that does.
+/// The desktop's session manager may end this program but must not start it: the autostart entry
+/// does that.
 void joinSession(const QGuiApplication& application) {
     const auto neverRestart = [](QSessionManager& session) {
         session.setRestartHint(QSessionManager::RestartNever);
@@ -57,7 +61,7 @@ void joinSession(const QGuiApplication& application) {
                      Qt::DirectConnection);
 }
 
-/// Says how a request went, and gives the exit status.
+/// Prints how a request went, and returns the exit status.
 int conclude(const Result<std::string>& answer) {
     if (!answer) {
         std::cerr << "vantle: " << answer.failure().message << std::endl;
@@ -67,7 +71,7 @@ int conclude(const Result<std::string>& answer) {
     return EXIT_SUCCESS;
 }
 
-/// Asks the copy that runs; needs no display.
+/// Sends a request to the running copy. Needs no display.
 int ask(int& argc, char** argv, const ApplicationRequest& request) {
     const QCoreApplication application(argc, argv);
     return conclude(DBusApplication(programIdentifier).ask(request));
@@ -92,7 +96,8 @@ AppDelegate::Views makeViews(Platform& platform, LoadedViews& views) {
             }};
 }
 
-/// The exit status, where this start has found another copy.
+/// Returns the exit status if another copy is running; otherwise nothing, and the program has
+/// started.
 std::optional<int> launch(AppDelegate& delegate, const std::optional<ApplicationRequest>& request) {
     if (const auto answer = delegate.applicationWillFinishLaunching(request))
         return conclude(*answer);
@@ -128,8 +133,9 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
     });
     const int status = QGuiApplication::exec();
     delegate.reset();
-    platform.trash.reset();  // waits for what is on its way there
-    // Nothing is written any more, and the queue of a dead server would never end.
+    platform.trash.reset();  // waits for moves to the Trash that are under way
+    // Nothing is left to be written, and the queue of a server that does not answer would never
+    // end.
     if (platform.isHeldUp()) _exit(status);
     return status;
 }
