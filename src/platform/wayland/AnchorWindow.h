@@ -9,14 +9,15 @@
 
 namespace vantle::wayland {
 
-/// What a menu stands beside where no window of ours is: a point that nobody sees. A menu by itself
-/// could neither notice a click elsewhere nor have the keyboard. Main thread only.
+/// An invisible window, one point in size, beside which a menu opens when it belongs to no window
+/// of ours. A menu alone could neither notice a click elsewhere nor have the keyboard. Main thread
+/// only.
 class AnchorWindow final : public ClearWindow {
 public:
     AnchorWindow();
 
-    /// Calls `ready` once it stands at that place (in Qt's screen coordinates) and has the
-    /// keyboard, or does not get it in time.
+    /// Shows the window at `place` (in Qt's screen coordinates) and takes the keyboard. Calls
+    /// `ready` once, as soon as the window has the keyboard or after a timeout.
     void show(const QPoint& place, std::function<void()> ready);
     void hide();
 

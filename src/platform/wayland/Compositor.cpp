@@ -53,7 +53,7 @@ QRect Compositor::usableArea(QScreen& screen) const {
 }
 
 QPoint Compositor::placeOfUser() const {
-    // Where the pointer is, is told only while it is over a window of ours.
+    // The compositor reports the pointer only while it is over a window of ours.
     const QScreen* focused = focusedScreen();
     return focused ? focused->geometry().center() : DisplayServer::placeOfUser();
 }
@@ -70,7 +70,7 @@ void Compositor::setClipboard(std::unique_ptr<QMimeData> contents) {
 }
 
 void Compositor::bringToFront(QWindow& window) {
-    // The toolkit reads it there and nowhere else.
+    // The toolkit reads the token only from this variable.
     constexpr auto variable = "XDG_ACTIVATION_TOKEN";
     const QByteArray token = takeActivationToken().toUtf8();
     if (!token.isEmpty()) qputenv(variable, token);

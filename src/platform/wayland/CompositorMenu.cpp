@@ -39,7 +39,8 @@ void CompositorMenu::showOverLayer(LayerOverlay& host, const QRect& anchor) {
     window_.setScreen(host.window().screen());
     window_.create();
     const QRect inHost = anchor.translated(-host.window().position());
-    // Before the popup has the pointer: then no other window gets it.
+    // The keyboard is borrowed before the popup grabs the pointer; afterwards no other window gets
+    // it.
     if (!globals().quirks.popupTakesKeyboard) keyboard_ = host.borrowKeyboard();
     popup_ = std::make_unique<PopupSurface>(
         surface(window_), *host.surface(),
@@ -76,7 +77,7 @@ void CompositorMenu::hide() {
     popup_.reset();
     window_.hide();
     if (anchor_) anchor_->hide();
-    // A surface has its role for good.
+    // A surface keeps its role forever, so the next menu needs a new one.
     window_.destroy();
 }
 

@@ -9,11 +9,11 @@
 
 namespace vantle::wayland {
 
-/// A menu that the compositor places: only that knows where things are, and only that can hold the
+/// Has the compositor place a menu: only the compositor knows where things are and can grab the
 /// pointer. Main thread only.
 class CompositorMenu final : public QObject, public MenuPlacement {
 public:
-    /// `window` outlives this.
+    /// `window` must outlive this object.
     explicit CompositorMenu(QWindow& window);
     ~CompositorMenu() override;
 
@@ -21,21 +21,21 @@ public:
     void hide() override;
 
 protected:
-    /// Sends the menu the keys of the window over which it stands, which keeps the keyboard.
+    /// Forwards to the menu the keys of the window below it, which keeps the keyboard.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void showOverWindow(QWindow& host, const QRect& anchor);
     void showOverLayer(LayerOverlay& host, const QRect& anchor);
     void showAt(const QPoint& place);
-    /// Where a compositor places nothing but popups of windows that it manages.
+    /// Shows the menu with compositors that place only popups of windows that they manage.
     void showAnywhere(const QRect& anchor);
     void readKeysOf(QWindow& host);
     void tellDismissed();
 
     QWindow& window_;
     QRect plate_;
-    std::unique_ptr<AnchorWindow> anchor_;  ///< Made when it is needed.
+    std::unique_ptr<AnchorWindow> anchor_;  ///< Created when first needed.
     std::unique_ptr<PopupSurface> popup_;
     Overlay::BorrowedKeyboard keyboard_;
     QMetaObject::Connection hostEnds_;

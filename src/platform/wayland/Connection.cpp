@@ -11,10 +11,10 @@
 namespace vantle::wayland {
 namespace {
 
-/// By what only KWin offers it is known.
+/// Only KWin offers this interface, so it identifies KWin.
 constexpr std::string_view kwinInterface = "org_kde_plasma_shell";
 
-/// Everything that a compositor has told about itself.
+/// What the compositor has announced about itself.
 struct Offered {
     Globals globals;
     bool isKWin = false;
@@ -28,7 +28,7 @@ Globals::Quirks quirksOf(const Offered& offered) {
             .popupStaysOnWorkspace = offered.isKWin && offered.layerShellVersion < offeredByKWin6};
 }
 
-/// Null where the toolkit speaks to another display server.
+/// Returns null on other display servers.
 QPlatformNativeInterface* toolkit() {
     const bool isWayland = QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
     return isWayland ? QGuiApplication::platformNativeInterface() : nullptr;
@@ -66,7 +66,7 @@ void bindOffered(void* data, wl_registry* registry, std::uint32_t name, const ch
 }
 
 void forget(void*, wl_registry*, std::uint32_t) {
-    // A compositor that takes back what it offered ends.
+    // A compositor withdraws what it has offered only when it ends.
 }
 
 void answerPing(void*, xdg_wm_base* shell, std::uint32_t serial) {
@@ -76,7 +76,7 @@ void answerPing(void*, xdg_wm_base* shell, std::uint32_t serial) {
 void answerPings(xdg_wm_base* shell) {
     static constexpr xdg_wm_base_listener listener{answerPing};
     xdg_wm_base_add_listener(shell, &listener, nullptr);
-    // They come at any time.
+    // Pings can arrive at any time.
     useToolkitQueue(shell);
 }
 
@@ -115,7 +115,7 @@ wl_surface* surface(QWindow& window) {
 }
 
 wl_output* output(QScreen& screen) {
-    // The one that stands for no screen at all has no name, and is none of the compositor's.
+    // While there is no screen, the toolkit has a placeholder without a name and without an output.
     QPlatformNativeInterface* native = toolkit();
     return native && !screen.name().isEmpty()
                ? static_cast<wl_output*>(native->nativeResourceForScreen("output", &screen))

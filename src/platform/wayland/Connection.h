@@ -8,42 +8,45 @@
 
 struct xdg_wm_base;
 
-/// What a Wayland compositor offers besides what the toolkit uses, on the toolkit's own connection.
-/// Main thread only.
+/// Access to what a Wayland compositor offers beyond what the toolkit uses, over the toolkit's
+/// connection. Main thread only.
 namespace vantle::wayland {
 
-/// Null on another display server.
+/// Returns null on other display servers.
 wl_display* display();
 
-/// Of the window, while it is created; null otherwise, and on another display server.
+/// Returns the surface of the window; null if the window is not created, and on other display
+/// servers.
 wl_surface* surface(QWindow& window);
 
 wl_output* output(QScreen& screen);
 
-/// The user's pointer and keyboard; null while there are none.
+/// Returns the user's pointer and keyboard, or null if there are none.
 wl_seat* seat();
 
-/// Of the user's last click or key.
+/// Returns the serial number of the user's last click or key press.
 std::uint32_t lastInputSerial();
 
-/// Bound once; each is null where it is not offered.
+/// The compositor's global objects, bound once. A pointer is null if the compositor does not offer
+/// the object.
 struct Globals {
-    /// Where the answers to what is asked by these arrive. The toolkit does not dispatch it, so
-    /// that one can wait for an answer without handling its events.
+    /// Receives the answers to requests of these objects. The toolkit does not dispatch this queue,
+    /// so we can wait for an answer without handling the toolkit's events.
     wl_event_queue* queue = nullptr;
     wl_compositor* compositor = nullptr;
     wl_shm* sharedMemory = nullptr;
     layershell::Shell* layerShell = nullptr;
     blur::Manager* blur = nullptr;
     datacontrol::Manager* dataControl = nullptr;
-    xdg_wm_base* shell = nullptr;  ///< Of ordinary windows and popups.
-    /// How compositors differ where the protocols leave it open.
+    xdg_wm_base* shell = nullptr;  ///< For ordinary windows and popups.
+    /// Differences between compositors that the protocols allow.
     struct Quirks {
-        /// A popup that has the pointer gets the keyboard, too. Elsewhere that stays where it is.
+        /// A popup that grabs the pointer gets the keyboard, too. With other compositors the
+        /// keyboard stays where it is.
         bool popupTakesKeyboard = false;
-        /// A click gives a layer surface the keyboard, whether it wants it or not.
+        /// A click gives a layer surface the keyboard even if the surface does not accept it.
         bool clickTakesKeyboard = false;
-        /// A popup stays on the workspace where it opened, also one of a layer surface.
+        /// A popup stays on the workspace where it opened, even a popup of a layer surface.
         bool popupStaysOnWorkspace = false;
     };
     Quirks quirks;
@@ -51,10 +54,10 @@ struct Globals {
 
 const Globals& globals();
 
-/// Whether windows can be placed by the layer-shell protocol.
+/// Returns true if windows can be placed by the layer-shell protocol.
 bool offersLayers();
 
-/// What comes from now on is dispatched with the events of the toolkit.
+/// Has future events of `object` dispatched with the toolkit's events.
 template <typename Object>
 void useToolkitQueue(Object* object) {
     wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(object), nullptr);
@@ -64,7 +67,7 @@ struct RegionDeleter {
     void operator()(wl_region* region) const { wl_region_destroy(region); }
 };
 
-/// In the surface's points.
+/// Returns `region`, in the surface's points, as the compositor's object.
 std::unique_ptr<wl_region, RegionDeleter> makeRegion(const QRegion& region);
 
 }  // namespace vantle::wayland

@@ -10,8 +10,8 @@ class QDrag;
 
 namespace vantle::wayland {
 
-/// A drag that a compositor leads. Whether the target has kept its promise it does not tell. Main
-/// thread only.
+/// A drag that a compositor controls. The compositor does not tell whether the target has taken
+/// what it promised to take. Main thread only.
 class Drag final : public DragSupport {
 public:
     Drag(QDrag& drag, const DragContents& contents);
@@ -20,7 +20,7 @@ public:
     void waitForAnswer(const DropMarks& marks, std::function<void(bool wasTaken)> told) override;
 
 private:
-    std::optional<DragEnd> end_;  ///< While the button is held.
+    std::optional<DragEnd> end_;  ///< Present while the button is held.
     FileUse use_;
 };
 

@@ -6,13 +6,13 @@ namespace vantle::wayland {
 
 /// Ends the toolkit's drag when the pointer enters one of its windows while no target has promised
 /// to take what is dragged. A compositor keeps the pointer from all windows during a drag, so the
-/// drag is over by then; but some do not tell the end of a drop on a program that does not answer.
-/// Main thread only.
+/// drag is over by then; but some compositors do not report the end of a drop on a program that
+/// does not answer. Main thread only.
 class DragEnd final : public QObject {
 public:
     DragEnd();
 
-    /// Tells what the target under the pointer promises now.
+    /// Sets what the target under the pointer promises now.
     void setPromise(Qt::DropAction action) { promise_ = action; }
 
 protected:

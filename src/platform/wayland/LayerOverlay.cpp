@@ -8,14 +8,15 @@ namespace vantle::wayland {
 namespace {
 
 Qt::WindowFlags flags(Overlay::Focus focus) {
-    // No popup: assistive programs are not told of those.
+    // Not Qt::Popup, because assistive programs are not told about popups.
     Qt::WindowFlags flags = Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                             Qt::BypassWindowManagerHint;
     if (focus == Overlay::Focus::refused) flags |= Qt::WindowDoesNotAcceptFocus;
     return flags;
 }
 
-/// Held by the nearer edges: there it stays when the desktop's panels come and go.
+/// Anchors the surface to the nearer edges, so that it stays there when the desktop's panels come
+/// and go.
 LayerSurface::Place placeAt(const QMargins& distances, const QSize& size, QScreen& screen) {
     const auto horizontal = isNearRight(distances) ? layershell::right : layershell::left;
     const auto vertical = isNearBottom(distances) ? layershell::bottom : layershell::top;
@@ -66,7 +67,7 @@ void LayerOverlay::showAgain() {
 void LayerOverlay::hide() {
     lostScreen_ = false;
     emit hiding();
-    // A surface has its role for good; the next time it is another one.
+    // A surface keeps its role forever, so the next show() needs a new one.
     const bool wasShown = surface_ != nullptr;
     surface_.reset();
     window().hide();
@@ -74,25 +75,25 @@ void LayerOverlay::hide() {
 }
 
 void LayerOverlay::closed() {
-    // By now it may be another one.
+    // This call was queued: the surface may have been replaced since.
     if (surface_ && surface_->isRefused()) leaveScreen();
 }
 
 void LayerOverlay::workspaceChanged() {
     isLeftBehind_ = surface_ != nullptr;
-    // What is dragged out of the window would end with it.
+    // Replacing the surface would end a drag that began in the window.
     if (isLeftBehind_ && QGuiApplication::mouseButtons() == Qt::NoButton) show();
 }
 
 void LayerOverlay::screenRemoved() {
-    // Not every compositor tells that the layer went with it.
+    // Not every compositor reports that the layer surface was closed with its screen.
     if (surface_ && !screen()) return leaveScreen();
     showOnRemainingScreen();
 }
 
 void LayerOverlay::leaveScreen() {
     waitForScreen();
-    // The end of its screen may be told later, and brings us there as well.
+    // If Qt has not removed the screen yet, screenRemoved() moves the window later.
     if (!screen()) showOnRemainingScreen();
 }
 
@@ -104,7 +105,7 @@ void LayerOverlay::waitForScreen() {
 void LayerOverlay::showOnRemainingScreen() {
     if (!lostScreen_) return;
     QScreen* remaining = QGuiApplication::primaryScreen();
-    // The one that is about to be removed still stands where this was shown.
+    // A screen that is about to be removed no longer has an output.
     if (remaining && output(*remaining)) moveTo(*remaining);
 }
 
@@ -112,7 +113,7 @@ void LayerOverlay::startKeyboard(bool couldHaveIt) {
     if (!surface_) return;
     if (globals().quirks.clickTakesKeyboard && !couldHaveIt) showAgain();
     if (!surface_) return;
-    // Asked anew: somebody may have clicked another window since.
+    // Requests the keyboard again, because the user may have clicked another window since.
     if (couldHaveIt) surface_->giveBackKeyboard();
     surface_->takeKeyboard();
 }

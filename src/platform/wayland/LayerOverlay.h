@@ -8,7 +8,7 @@
 
 namespace vantle::wayland {
 
-/// An overlay on a surface of the layer-shell protocol. Main thread only.
+/// An overlay whose window is a surface of the layer-shell protocol. Main thread only.
 class LayerOverlay final : public Overlay {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     void show() override;
     void hide() override;
 
-    /// Null while it is not shown.
+    /// Returns null while the overlay is not shown.
     OverlaySurface* surface() const { return surface_.get(); }
 
 private:
@@ -27,7 +27,7 @@ private:
     void startKeyboard(bool couldHaveIt) override;
     void endKeyboard() override;
 
-    /// On another surface, where a surface can never have the keyboard or gets it with each click.
+    /// Shows the window on a new surface, because the current one cannot get the keyboard.
     void showAgain();
     void closed();
     void workspaceChanged();
@@ -36,9 +36,9 @@ private:
     void showOnRemainingScreen();
 
     std::unique_ptr<OverlaySurface> surface_;
-    std::unique_ptr<WorkspaceEvents> workspaces_;  ///< Null where it is on all of them.
-    bool isLeftBehind_ = false;                    ///< On another workspace.
-    bool lostScreen_ = false;  ///< While it is to be shown and there is none for it.
+    std::unique_ptr<WorkspaceEvents> workspaces_;  ///< Null if the overlay is on all workspaces.
+    bool isLeftBehind_ = false;                    ///< The window is on another workspace.
+    bool lostScreen_ = false;  ///< The overlay should be shown but has no screen.
 };
 
 }  // namespace vantle::wayland

@@ -3,7 +3,7 @@
 namespace vantle::wayland {
 namespace {
 
-/// By which users may name it in the settings of their compositor.
+/// Users can refer to the surface by this name in the settings of their compositor.
 constexpr auto surfaceName = "vantle";
 
 }  // namespace

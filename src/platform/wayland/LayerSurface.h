@@ -9,41 +9,41 @@
 
 namespace vantle::wayland {
 
-/// The role of a surface that stands above all windows, at edges of an output, in the part of it
-/// that the desktop's own panels leave free. It takes the keyboard only when it is told to. Main
-/// thread only.
+/// The role of a surface above all windows at edges of an output, in the part of it that the
+/// desktop's own panels leave free. The surface has the keyboard only between takeKeyboard() and
+/// giveBackKeyboard(). Main thread only.
 class LayerSurface {
 public:
     struct Place {
         wl_output* output = nullptr;  ///< Null leaves the choice to the compositor.
         std::uint32_t anchors = layershell::all;
-        QMargins margins;  ///< From the edges to which it is anchored, in points.
-        QSize size{0, 0};  ///< 0 fills it between two edges to which it is anchored.
+        QMargins margins;  ///< From the anchored edges, in points.
+        QSize size{0, 0};  ///< 0 fills the space between two opposite edges.
     };
 
-    /// `surface` has no role and no contents yet, and outlives this. Returns once the compositor
-    /// has said how large it is: now it may be given contents.
+    /// `surface` must have no role and no contents yet, and must outlive this object. Returns when
+    /// the compositor has set the size; from then on the surface may be given contents.
     LayerSurface(wl_surface* surface, const Place& place,
                  layershell::Layer layer = layershell::Layer::overlay);
     ~LayerSurface();
     LayerSurface(const LayerSurface&) = delete;
     LayerSurface& operator=(const LayerSurface&) = delete;
 
-    /// Whether the compositor has not taken it, or has taken it away.
+    /// Returns true if the compositor has refused the surface or has closed it.
     bool isRefused() const { return !isConfigured_ || isClosed_; }
 
-    /// As the compositor has set it; empty where it leaves that to the program.
+    /// Returns the size that the compositor has set; empty if it leaves the size to the program.
     QSize size() const { return size_; }
 
-    /// On the same output.
+    /// Moves the surface to `place`, which must be on the same output.
     void move(const Place& place);
     void takeKeyboard() { setKeyboard(layershell::Keyboard::exclusive); }
     void giveBackKeyboard() { setKeyboard(layershell::Keyboard::none); }
 
-    /// Makes the popup stand above this one. It has no contents yet.
+    /// Makes `popup`, which must have no contents yet, a child of this surface.
     void adopt(xdg_popup* popup) { layershell::getPopup(role_, popup); }
 
-    /// Called when the compositor takes it away, as when its output has gone.
+    /// Called when the compositor closes the surface, for example because its output was removed.
     std::function<void()> onClosed;
 
 private:

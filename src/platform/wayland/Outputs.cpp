@@ -17,9 +17,10 @@ void leave(void*, wl_surface*, wl_output*) {}
 
 constexpr wl_surface_listener surfaceListener{enter, leave};
 
-/// Where the compositor puts a surface for which nobody names an output.
+/// Returns the output on which the compositor puts a surface that names none; null if it does not
+/// tell.
 wl_output* chosenOutput() {
-    constexpr int turns = 3;  // of question and answer, for compositors that answer later
+    constexpr int turns = 3;  // round trips, because some compositors answer late
     wl_output* chosen = nullptr;
     const OwnBuffer buffer = makeEmptyBuffer();
     const OwnSurface surface = makeSurface();

@@ -5,13 +5,14 @@
 
 namespace vantle::wayland {
 
-/// The part of a screen that the desktop's own panels leave free. Its size is what the compositor
-/// says. Where it begins no protocol tells: it is given at the screen's upper left corner, and so
-/// are the places of layer surfaces counted.
+/// Returns the part of a screen that the desktop's own panels leave free. The compositor tells only
+/// its size, not its position: the rectangle begins at the screen's upper left corner, and the
+/// places of layer surfaces are counted from there, too.
 QRect usableArea(QScreen& screen);
 
-/// The screen on which the compositor opens what nobody places: that of the pointer or of the
-/// focused window, as it holds it. Null when it does not say. With one screen nothing is asked.
+/// Returns the screen on which the compositor opens surfaces that name no output: usually the one
+/// with the pointer or the focused window. Returns null if the compositor does not tell or if there
+/// is only one screen.
 QScreen* focusedScreen();
 
 }  // namespace vantle::wayland

@@ -7,7 +7,7 @@ namespace {
 
 constexpr QSize pixelSize(1, 1);
 
-/// The corner of the window that is at the corner of the output.
+/// Returns the corner of the window that is at the corner of the output.
 std::uint32_t cornerOf(const LayerSurface::Place& place) {
     const bool isRight = (place.anchors & layershell::right) != 0;
     if ((place.anchors & layershell::bottom) != 0)
@@ -15,7 +15,7 @@ std::uint32_t cornerOf(const LayerSurface::Place& place) {
     return isRight ? XDG_POSITIONER_ANCHOR_TOP_RIGHT : XDG_POSITIONER_ANCHOR_TOP_LEFT;
 }
 
-/// From that corner on to the inside of the output.
+/// Returns the direction from that corner to the inside of the output.
 std::uint32_t gravityFrom(std::uint32_t corner) {
     switch (corner) {
         case XDG_POSITIONER_ANCHOR_BOTTOM_RIGHT:
@@ -51,8 +51,9 @@ void OverlaySurface::placeBesideAnchor(wl_surface* surface, LayerSurface::Place 
     place.size = pixelSize;
     pixel_ = makeEmptyBuffer();
     anchor_ = makeSurface();
-    // Popups stand above full-screen windows there, whatever the layer below them. On this one the
-    // menus of the desktop's panels, which are popups too, come to stand above the card.
+    // This compositor shows popups above full-screen windows whatever their parent's layer is. On
+    // the top layer, the menus of the desktop's panels, which are popups too, can appear above the
+    // card.
     layer_ = std::make_unique<LayerSurface>(anchor_.get(), place, layershell::Layer::top);
     if (layer_->isRefused()) return;
     show(anchor_.get(), pixel_.get());

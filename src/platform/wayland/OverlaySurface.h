@@ -5,22 +5,23 @@
 
 namespace vantle::wayland {
 
-/// The role of a window above all others at edges of an output. It is a layer surface, or, where
-/// those take the keyboard with each click, a popup beside one that nobody sees: popups never take
-/// it. Main thread only.
+/// The role of a window above all others at edges of an output. The window is a layer surface. If
+/// the compositor gives layer surfaces the keyboard with each click, it is a popup beside an
+/// invisible layer surface instead, because popups never take the keyboard. Main thread only.
 class OverlaySurface final : public PopupParent {
 public:
-    /// Whether the window may have the keyboard: only then can it take it.
+    /// Tells whether the window may have the keyboard. With `never`, takeKeyboard() may have no
+    /// effect.
     enum class Keyboard { never, possible };
 
-    /// `surface` has no role and no contents yet, and outlives this. Returns once the compositor
-    /// has placed it: now it may be given contents.
+    /// `surface` must have no role and no contents yet, and must outlive this object. Returns when
+    /// the compositor has placed the surface; from then on it may be given contents.
     OverlaySurface(wl_surface* surface, const LayerSurface::Place& place, Keyboard keyboard);
 
-    /// Whether the compositor has not taken it, or has taken it away.
+    /// Returns true if the compositor has refused the surface or has closed it.
     bool isRefused() const;
 
-    /// On the same output.
+    /// Moves the window to `place`, which must be on the same output.
     void move(const LayerSurface::Place& place);
     void takeKeyboard() { layer_->takeKeyboard(); }
     void giveBackKeyboard() { layer_->giveBackKeyboard(); }
@@ -28,14 +29,14 @@ public:
     xdg_surface* shellSurface() const override;
     void adopt(xdg_popup* popup) override;
 
-    /// Called when the compositor takes it away, as when its output has gone.
+    /// Called when the compositor closes the surface, for example because its output was removed.
     std::function<void()> onClosed;
 
 private:
     void placeBesideAnchor(wl_surface* surface, LayerSurface::Place place);
 
     OwnBuffer pixel_;
-    OwnSurface anchor_;  ///< Null where the window is a layer surface itself.
+    OwnSurface anchor_;  ///< Null if the window itself is a layer surface.
     std::unique_ptr<LayerSurface> layer_;
     std::unique_ptr<PopupSurface> popup_;
 };

@@ -13,15 +13,15 @@ struct BufferDeleter {
     void operator()(wl_buffer* buffer) const { wl_buffer_destroy(buffer); }
 };
 
-/// A surface that the toolkit knows nothing of. Its events arrive in the queue of globals().
+/// A surface that does not belong to the toolkit. Its events arrive in the queue of globals().
 using OwnSurface = std::unique_ptr<wl_surface, SurfaceDeleter>;
 OwnSurface makeSurface();
 
-/// One pixel through which everything shines; null when it cannot be made.
+/// Returns a buffer with one transparent pixel, or null if it cannot be created.
 using OwnBuffer = std::unique_ptr<wl_buffer, BufferDeleter>;
 OwnBuffer makeEmptyBuffer();
 
-/// Shows it; clicks fall through. It has a role by now.
+/// Shows `buffer` on `surface`, which must have a role. Clicks fall through the surface.
 void show(wl_surface* surface, wl_buffer* buffer);
 
 }  // namespace vantle::wayland

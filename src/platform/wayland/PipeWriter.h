@@ -9,8 +9,8 @@
 
 namespace vantle::wayland {
 
-/// Writes bytes into a pipe as fast as somebody reads them, without waiting for that. It gives up
-/// on who does not read for a while, and deletes itself in the end. Main thread only; SIGPIPE is
+/// Writes bytes into a pipe as fast as the other end reads them, without blocking. Gives up when
+/// nothing is read for 30 seconds. Deletes itself at the end. Main thread only; SIGPIPE must be
 /// ignored.
 class PipeWriter final : public QObject {
 public:

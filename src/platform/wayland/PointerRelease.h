@@ -4,9 +4,8 @@
 
 namespace vantle::wayland {
 
-/// Tells the toolkit that the left button is up. A Wayland compositor keeps the release that ends a
-/// drag to itself, and the toolkit would take the next press for nothing new. Main thread
-/// only.
+/// Tells the toolkit that the left button is up. A Wayland compositor does not report the release
+/// that ends a drag, and the toolkit would ignore the next press. Main thread only.
 void releaseLeftButton(QWindow& window);
 
 }  // namespace vantle::wayland

@@ -17,7 +17,7 @@ xdg_positioner* makePositioner(const PopupSurface::Place& place) {
     return positioner;
 }
 
-/// Its answers arrive where one can wait for them.
+/// Creates an object whose events arrive in the queue of globals(), where we can wait for them.
 xdg_surface* makeShellSurface(wl_surface* surface) {
     auto* shell = static_cast<xdg_wm_base*>(wl_proxy_create_wrapper(globals().shell));
     wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(shell), globals().queue);

@@ -10,10 +10,10 @@ struct xdg_surface;
 
 namespace vantle::wayland {
 
-/// What a popup stands beside and above.
+/// A surface that can have popups.
 class PopupParent {
 public:
-    /// Null where the parent has none; then it adopts the popup.
+    /// Returns null if the parent has no such object; then adopt() is called for its popups.
     virtual xdg_surface* shellSurface() const = 0;
     virtual void adopt(xdg_popup* popup) = 0;
 
@@ -21,28 +21,28 @@ protected:
     ~PopupParent() = default;
 };
 
-/// The role of a surface that stands beside a part of another one and above it. Main thread only.
+/// The role of a surface that is placed above another one, beside a part of it. Main thread only.
 class PopupSurface {
 public:
     struct Place {
-        QRect anchor;                   ///< The part of the parent.
-        QRect kept;                     ///< The part of the popup's own surface that is placed.
-        QPoint offset;                  ///< Of that part, from the anchor's corner.
-        std::uint32_t corner;           ///< Of the anchor, in the protocol's numbers.
-        std::uint32_t gravity;          ///< Where it goes from there.
-        std::uint32_t adjustments = 0;  ///< What the compositor may do to keep it on the screen.
+        QRect anchor;                   ///< The part of the parent beside which the popup is.
+        QRect kept;                     ///< The part of the popup's surface that is placed.
+        QPoint offset;                  ///< From the anchor's corner to the placed part.
+        std::uint32_t corner;           ///< The anchor's corner, in the protocol's numbers.
+        std::uint32_t gravity;          ///< The direction from the corner, in the same.
+        std::uint32_t adjustments = 0;  ///< How the compositor may keep it on the screen.
     };
 
-    /// Below the anchor, or above it where there is no room.
+    /// Returns a place below the anchor, or above it if there is no room below.
     static Place below(const QRect& anchor, const QRect& kept, const QPoint& offset);
 
     enum class Grab {
         nothing,
-        pointer,  ///< A click elsewhere dismisses it. The user's last click or key is its reason.
+        pointer,  ///< A click elsewhere dismisses the popup. Requires a recent click or key press.
     };
 
-    /// `surface` has no role and no contents yet, and outlives this, as `parent` does. Returns once
-    /// the compositor has placed it: now it may be given contents.
+    /// `surface` must have no role and no contents yet. It and `parent` must outlive this object.
+    /// Returns when the compositor has placed the popup; from then on it may be given contents.
     PopupSurface(wl_surface* surface, PopupParent& parent, const Place& place, Grab grab);
     ~PopupSurface();
     PopupSurface(const PopupSurface&) = delete;
@@ -50,10 +50,10 @@ public:
 
     xdg_surface* shellSurface() const { return surface_; }
 
-    /// Whether the compositor has taken it away, as it does when one clicks elsewhere.
+    /// Returns true if the compositor has dismissed the popup, for example after a click elsewhere.
     bool isDismissed() const { return isDismissed_; }
 
-    /// Called when it does.
+    /// Called when the compositor dismisses the popup.
     std::function<void()> onDismissed;
 
 private:

@@ -24,7 +24,7 @@ void destructor(Object* object, std::uint32_t number) {
                            WL_MARSHAL_FLAG_DESTROY);
 }
 
-/// A request that makes an object: its number comes first among the arguments.
+/// Sends a request that creates an object. The new object's number is the first argument.
 template <typename Made, typename Object, typename... Arguments>
 Made* make(Object* object, std::uint32_t number, const wl_interface& interface,
            Arguments... arguments) {
@@ -33,7 +33,7 @@ Made* make(Object* object, std::uint32_t number, const wl_interface& interface,
                                                           nullptr, arguments...));
 }
 
-// For arguments that are no objects, and for objects of any kind.
+// For arguments that are not objects, and for objects of any kind.
 std::array<const wl_interface*, 4> noTypes{};
 
 template <typename Object, typename Listener>

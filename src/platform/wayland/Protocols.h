@@ -6,12 +6,12 @@
 
 struct xdg_popup;
 
-/// The protocols of compositors that no package describes for programs in C++: their requests, as
-/// thin functions, and their events. Names and numbers are those of the protocols, versions the
-/// highest that is spoken here.
+/// The protocols of compositors for which no package provides C++ code: thin functions for their
+/// requests, and their events. Names and numbers are the protocols' own; `version` is the highest
+/// version that is supported here.
 namespace vantle::wayland {
 
-/// wlr-layer-shell: surfaces that stand above or below the ordinary windows, at edges of an output.
+/// wlr-layer-shell: surfaces above or below the ordinary windows, at edges of an output.
 namespace layershell {
 
 struct Shell;
@@ -24,7 +24,7 @@ enum class Layer : std::uint32_t { top = 2, overlay = 3 };
 enum Anchor : std::uint32_t { top = 1, bottom = 2, left = 4, right = 8, all = 15 };
 enum class Keyboard : std::uint32_t { none = 0, exclusive = 1 };
 
-/// Its requests, in the protocol's order.
+/// The protocol's requests, in its order.
 Surface* getLayerSurface(Shell* shell, wl_surface* surface, wl_output* output, Layer layer,
                          const char* name);
 void setSize(Surface* surface, std::uint32_t width, std::uint32_t height);
@@ -45,7 +45,7 @@ void addListener(Surface* surface, const Listener* listener, void* data);
 
 }  // namespace layershell
 
-/// KDE's blur of what is behind a part of a surface.
+/// KDE's protocol that blurs what is behind a part of a surface.
 namespace blur {
 
 struct Manager;
@@ -62,8 +62,8 @@ void release(Blur* blur);
 
 }  // namespace blur
 
-/// wlr-data-control: the clipboard, for programs that nobody has just clicked or typed into. Of it
-/// this is what it takes to offer something there.
+/// wlr-data-control: the clipboard, also for programs without a recent click or key press. Only the
+/// requests that offer contents are declared here.
 namespace datacontrol {
 
 struct Manager;
@@ -81,7 +81,7 @@ void offer(Source* source, const char* type);
 void destroy(Source* source);
 
 struct SourceListener {
-    /// `pipe` is the receiver's to close.
+    /// The receiver must close `pipe`.
     void (*send)(void* data, Source* source, const char* type, std::int32_t pipe);
     void (*cancelled)(void* data, Source* source);
 };

@@ -27,7 +27,8 @@ void Selection::offer(std::unique_ptr<QMimeData> contents) {
         for (const QString& type : contents_->formats())
             datacontrol::offer(source_, type.toUtf8().constData());
     }
-    // Kept, the device would tell of everything that others copy.
+    // The device is destroyed at once; otherwise it would report everything that other programs
+    // copy.
     datacontrol::Device* device = datacontrol::getDataDevice(globals().dataControl, seat());
     datacontrol::setSelection(device, source_);
     datacontrol::destroy(device);

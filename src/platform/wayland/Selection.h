@@ -7,12 +7,12 @@
 
 namespace vantle::wayland {
 
-/// What this program offers on the clipboard of a Wayland session by the data-control protocol. The
-/// toolkit's own way works only for the program that has just been clicked or typed into. Main
-/// thread only.
+/// Offers contents on the clipboard of a Wayland session by the data-control protocol. The
+/// toolkit's own way works only for a program that has just been clicked or typed into. Main thread
+/// only.
 class Selection {
 public:
-    /// Whether the compositor lets programs do that.
+    /// Returns true if the compositor offers the protocol and there is a seat.
     static bool isOffered();
 
     Selection() = default;
@@ -20,8 +20,8 @@ public:
     Selection(const Selection&) = delete;
     Selection& operator=(const Selection&) = delete;
 
-    /// Until others offer something; null clears the clipboard. The contents are made when somebody
-    /// asks for them.
+    /// Offers `contents` until another program offers something; null clears the clipboard. The
+    /// data is produced when a program requests it.
     void offer(std::unique_ptr<QMimeData> contents);
 
 private:

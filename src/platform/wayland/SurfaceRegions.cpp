@@ -5,7 +5,7 @@
 namespace vantle::wayland {
 
 void setInputRegion(QWindow& window, const QRegion& region) {
-    // Not by the window's mask: an empty one would mean all of it.
+    // QWindow::setMask() is no alternative: an empty mask means the whole window.
     wl_surface* target = surface(window);
     if (!target || !globals().compositor) return;
     wl_surface_set_input_region(target, makeRegion(region).get());
@@ -22,7 +22,7 @@ void setBlurBehind(QWindow& window, const QRegion& region) {
     if (region.isEmpty()) {
         blur::unset(globals().blur, target);
     } else {
-        // The surface keeps it when the object has gone.
+        // The surface keeps the blur after the object is released.
         blur::Blur* request = blur::create(globals().blur, target);
         blur::setRegion(request, makeRegion(region).get());
         blur::commit(request);

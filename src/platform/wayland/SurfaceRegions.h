@@ -6,13 +6,13 @@
 namespace vantle::wayland {
 
 /// Lets a window take pointer input only inside `region` (points from its top left). Does nothing
-/// on another display server, or while the window is not there.
+/// on other display servers, or while the window is not created.
 void setInputRegion(QWindow& window, const QRegion& region);
 
-/// Whether the compositor blurs what is behind a part of a window for those who ask.
+/// Returns true if the compositor can blur what is behind a part of a window.
 bool offersBlur();
 
-/// Asks for it behind `region` (points from the top left of `window`), and for none elsewhere.
+/// Blurs what is behind `region` (points from the top left of `window`), and nothing elsewhere.
 void setBlurBehind(QWindow& window, const QRegion& region);
 
 }  // namespace vantle::wayland

@@ -5,7 +5,8 @@
 namespace vantle::wayland {
 
 WorkspaceEvents::WorkspaceEvents() {
-    // No protocol tells it; the one compositor that needs it (KWin 5.27) says it on the bus.
+    // No protocol reports this; the only compositor that needs it (KWin 5.27) announces it on the
+    // bus.
     QDBusConnection::sessionBus().connect(
         QStringLiteral("org.kde.KWin"), QStringLiteral("/VirtualDesktopManager"),
         QStringLiteral("org.kde.KWin.VirtualDesktopManager"), QStringLiteral("currentChanged"),

@@ -4,8 +4,8 @@
 
 namespace vantle::wayland {
 
-/// Tells when the session of a compositor whose popups stay behind (Globals::Quirks) has gone to
-/// another workspace. Main thread only.
+/// Reports when the user goes to another workspace. Works only with the compositor that needs it:
+/// the one whose popups stay on their workspace (Globals::Quirks). Main thread only.
 class WorkspaceEvents final : public QObject {
     Q_OBJECT
 
