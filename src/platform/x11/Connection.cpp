@@ -17,12 +17,12 @@ xcb_connection_t* connection() {
 }
 
 xcb_window_t root() {
-    // Qt stays on the first screen unless DISPLAY names another, which nobody does any more.
+    // Qt uses the first screen unless DISPLAY names another one, which is no longer common.
     return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
 }
 
 bool isXWayland() {
-    // It says so since version 23.1; before that its outputs bear a name of their own.
+    // XWayland has this extension since version 23.1; before, only its outputs' names identify it.
     constexpr std::string_view extension = "XWAYLAND";
     const auto reply = owned(xcb_query_extension_reply(
         connection(), xcb_query_extension(connection(), extension.size(), extension.data()),

@@ -12,43 +12,45 @@
 
 namespace vantle::x11 {
 
-/// Null on another display server than X.
+/// Returns null on other display servers.
 xcb_connection_t* connection();
 
-/// The window that everything stands on.
+/// Returns the root window.
 xcb_window_t root();
 
-/// Of a window; empty where it has none of that name. At most 256 bytes of it.
+/// Returns a property of a window, at most 256 bytes of it; empty if the window does not have it.
 std::string property(xcb_window_t window, const char* name);
 
-/// Of a window, whole numbers; none where it has none of that name. At most 16,384 of them.
+/// Returns a property of a window that is a list of whole numbers, at most 16,384 of them; empty if
+/// the window does not have it.
 std::vector<uint32_t> cardinals(xcb_window_t window, const char* name);
 
-/// Of the window by which the window manager makes itself known; empty where there is none.
+/// Returns a property of the window by which the window manager identifies itself; empty if there
+/// is none.
 std::string propertyOfWindowManager(const char* name);
 
-/// Whether what serves X is a Wayland compositor's XWayland.
+/// Returns true if the X server is a Wayland compositor's XWayland.
 bool isXWayland();
 
-/// Of the Mutter, or GNOME Shell, behind XWayland: nobody can ask what a compositor does with
-/// clicks, but it tells its version beside its name. Empty where there is none, on Wayland and on
-/// plain X.
+/// Returns the version of Mutter (GNOME Shell's compositor) if it runs behind XWayland, otherwise
+/// an empty string; also empty on Wayland and on plain X. How a compositor handles clicks cannot be
+/// queried, but depends on this version.
 std::string versionOfMutter();
 
 xcb_window_t number(const QWindow& window);
 
-/// XCB_ATOM_NONE when it cannot be made. Asked for once.
+/// Returns XCB_ATOM_NONE if the server does not answer. The result is cached.
 xcb_atom_t atom(const char* name);
 
-/// A region of a window in points, as rectangles in its pixels.
+/// Converts a region of a window from points into rectangles in pixels.
 std::vector<xcb_rectangle_t> inPixels(const QRegion& region, double pixelsPerPoint);
 
-/// Sends a client message about `window` to those who listen on `destination` for one of `events`
-/// (to its owner when there are none), at once.
+/// Sends a client message about `window` at once to the clients that listen on `destination` for
+/// one of `events`, or to the owner of `destination` if `events` is empty.
 void sendMessage(xcb_window_t destination, xcb_window_t window, const char* type,
                  const std::array<uint32_t, 5>& data, uint32_t events = XCB_EVENT_MASK_NO_EVENT);
 
-/// What the server answers is ours to free.
+/// Takes ownership of the server's reply and frees it at the end.
 template <typename Reply>
 std::unique_ptr<Reply, decltype(&std::free)> owned(Reply* reply) {
     return {reply, &std::free};

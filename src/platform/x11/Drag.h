@@ -21,7 +21,7 @@ public:
 private:
     DropAnswer answer_;
     DragSelection selection_;
-    std::optional<DropGround> ground_;  ///< While the button is held.
+    std::optional<DropGround> ground_;  ///< Present while the button is held.
     FileUse use_;
 };
 

@@ -17,10 +17,11 @@ xcb_atom_t atomOf(const QString& type) {
     return atom(type.toUtf8().constData());
 }
 
-/// Writes it into the property that the request names; false when it is more than fits.
+/// Writes the data into the property that the request names. Returns false if the data does not fit
+/// into one request.
 bool write(const xcb_selection_request_event_t& request, xcb_atom_t type, uint8_t bits,
            const void* data, std::size_t count) {
-    constexpr std::size_t header = 64;  // of the request, generously
+    constexpr std::size_t header = 64;  // upper limit for the request's own fields
     xcb_connection_t* x = connection();
     const std::size_t bytes = count * bits / 8;
     if (bytes + header > std::size_t{4} * xcb_get_maximum_request_length(x)) return false;
@@ -37,7 +38,7 @@ void tell(const xcb_selection_request_event_t& request, bool isWritten) {
     answer.target = request.target;
     answer.time = request.time;
     answer.property = isWritten ? request.property : xcb_atom_t{XCB_ATOM_NONE};
-    // Events are all of one size on their way.
+    // All events have the same size on the wire.
     std::array<char, 32> event{};
     std::memcpy(event.data(), &answer, sizeof answer);
     xcb_send_event(connection(), false, request.requestor, XCB_EVENT_MASK_NO_EVENT, event.data());

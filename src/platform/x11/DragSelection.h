@@ -5,13 +5,14 @@
 
 namespace vantle::x11 {
 
-/// Gives what is dragged to programs on an X server. Qt refuses who asks before the drop, by a time
-/// of his own, as programs of GTK 4 do and compositors that pass a drag on to Wayland: they would
-/// take the drop, and nothing would arrive. Nothing larger than one request of the protocol can be
-/// given. It lives from before the drag to the target's answer. Main thread only.
+/// Delivers the dragged contents to programs on an X server. Qt refuses programs that request them
+/// before the drop with a time of their own, as GTK 4 programs and compositors that pass a drag on
+/// to Wayland do: these would accept the drop, but receive nothing. Contents larger than one
+/// request of the protocol are refused. Must live from before the drag until the target's answer.
+/// Main thread only.
 class DragSelection {
 public:
-    /// `contents` says the same as the drag's own.
+    /// `contents` must equal the drag's own contents.
     explicit DragSelection(std::unique_ptr<QMimeData> contents);
     ~DragSelection();
 

@@ -13,8 +13,8 @@ namespace vantle::x11 {
 namespace {
 
 constexpr auto timeout = std::chrono::seconds(20);
-// From this version of the protocol on the answer says whether it was taken; before it, there is
-// one only if it was.
+// Since this version of the protocol the answer says whether the contents were taken; in older
+// versions there is an answer only if they were.
 constexpr std::uint32_t versionWithAnswer = 5;
 
 std::uint32_t protocolVersion(xcb_connection_t* x, xcb_window_t target) {
@@ -65,7 +65,7 @@ private:
     }
 
     void hearPromise(xcb_window_t target, bool isPromised) {
-        // It goes on: what was answered was about an earlier drag.
+        // A new drag has begun: the previous answer was about an earlier one.
         answer_.reset();
         if (target == target_ && isPromised == isPromised_) return;
         target_ = target;
@@ -75,7 +75,7 @@ private:
         });
     }
 
-    /// From now on its end is noticed. False when it has gone already.
+    /// Watches for the end of the target's window. Returns false if the window has already gone.
     bool watchTarget() {
         xcb_connection_t* x = connection();
         const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
@@ -84,7 +84,7 @@ private:
         return !error;
     }
 
-    /// Told later: this goes when it is told.
+    /// Reports the answer in a later turn, because `told` may destroy this object.
     void answer(bool wasTaken) {
         answer_ = wasTaken;
         limit_.stop();
@@ -94,7 +94,7 @@ private:
                 Qt::QueuedConnection);
     }
 
-    xcb_window_t target_ = XCB_NONE;  ///< Which was heard of last.
+    xcb_window_t target_ = XCB_NONE;  ///< The program that last sent a status.
     bool isPromised_ = false;
     std::optional<bool> answer_;
     std::function<void(bool)> told_;

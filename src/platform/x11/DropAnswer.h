@@ -5,16 +5,17 @@
 
 namespace vantle::x11 {
 
-/// Whether the program on which something is dropped takes it. Qt tells only what the program
-/// promised while the pointer was over it. The program says afterwards whether it kept the promise
-/// (XdndFinished), if it is still there then. To be made before the drag. Main thread only.
+/// Finds out whether the program on which something is dropped takes it. Qt tells only what the
+/// program promised while the pointer was over it. Afterwards the program says whether it kept the
+/// promise (XdndFinished), if it is still running. Must be created before the drag. Main thread
+/// only.
 class DropAnswer {
 public:
     DropAnswer();
     ~DropAnswer();
 
-    /// Calls `told` once, with what the program that promised last has answered: false also when it
-    /// has gone or says nothing for a long while.
+    /// Calls `told` once, later, with the answer of the program that was under the pointer last.
+    /// The answer is false if that program has gone or does not answer for 20 seconds.
     void wait(std::function<void(bool wasTaken)> told);
 
 private:

@@ -9,7 +9,7 @@ namespace {
 
 constexpr uint8_t depthWithAlpha = 32;
 
-/// A kind of picture that can be clear; zero where there is none.
+/// Returns a visual with an alpha channel, or 0 if there is none.
 xcb_visualid_t clearVisual() {
     const auto screen = xcb_setup_roots_iterator(xcb_get_setup(connection()));
     auto depth = xcb_screen_allowed_depths_iterator(screen.data);
@@ -20,7 +20,7 @@ xcb_visualid_t clearVisual() {
 
 }  // namespace
 
-/// Not one of the toolkit's: those take part in drags themselves.
+/// A window made without the toolkit, because the toolkit's windows take part in drags themselves.
 class DropGround::Window {
 public:
     explicit Window(xcb_visualid_t visual)
@@ -28,7 +28,7 @@ public:
         create(visual);
         sayWhatItIs();
         xcb_map_window(x_, window_);
-        // Below the window of a program that draws the desktop's icons.
+        // The window must also be below that of a program that draws the desktop's icons.
         const uint32_t below = XCB_STACK_MODE_BELOW;
         xcb_configure_window(x_, window_, XCB_CONFIG_WINDOW_STACK_MODE, &below);
         xcb_flush(x_);
@@ -46,18 +46,20 @@ public:
 private:
     void create(xcb_visualid_t visual) {
         const xcb_window_t parent = root();
-        // What was said at the connection's begin may be another size, of other outputs.
+        // The size that the server gave when the connection began may be outdated: outputs can
+        // change.
         const auto all = owned(xcb_get_geometry_reply(x_, xcb_get_geometry(x_, parent), nullptr));
         if (!all) return;
         xcb_create_colormap(x_, XCB_COLORMAP_ALLOC_NONE, colors_, parent, visual);
-        // Clear, without a border, in colours of its own.
+        // A transparent background and border, and a colour map of its own.
         const std::array<uint32_t, 3> values{0, 0, colors_};
         xcb_create_window(x_, depthWithAlpha, window_, parent, 0, 0, all->width, all->height, 0,
                           XCB_WINDOW_CLASS_INPUT_OUTPUT, visual,
                           XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_COLORMAP, values.data());
     }
 
-    /// Part of the desktop, so in no list of windows; and it takes no keys.
+    /// Declares the window a part of the desktop, so that window lists omit it, and refuses
+    /// keyboard input.
     void sayWhatItIs() {
         const xcb_atom_t kind = atom("_NET_WM_WINDOW_TYPE_DESKTOP");
         xcb_change_property(x_, XCB_PROP_MODE_REPLACE, window_, atom("_NET_WM_WINDOW_TYPE"),
@@ -75,7 +77,7 @@ private:
 
 DropGround::DropGround() {
     if (versionOfMutter().empty()) return;
-    // One that could be seen would do more harm than a drag that goes on.
+    // A visible window would do more harm than a drag that goes on.
     if (const xcb_visualid_t visual = clearVisual()) window_ = std::make_unique<Window>(visual);
 }
 

@@ -4,10 +4,11 @@
 
 namespace vantle::x11 {
 
-/// A window that nobody sees below all others, while something is dragged. Mutter 48 tells nobody
-/// of a release over no window at all, where the drag goes through its XWayland: the drag would go
-/// on until the next click. Mutter 43 does, and is not hurt by it; what is no Mutter gets none.
-/// Over the shell's own bar the release arrives when the pointer leaves it. Main thread only.
+/// An invisible window below all others while something is dragged. If the drag goes through Mutter
+/// 48's XWayland, Mutter does not report a release over no window at all, and the drag would go on
+/// until the next click. Mutter 43 reports it, and the window does no harm there; without Mutter no
+/// window is created. A release over the shell's own bar arrives when the pointer leaves the bar.
+/// Main thread only.
 class DropGround {
 public:
     DropGround();

@@ -9,7 +9,7 @@
 namespace vantle::x11 {
 namespace {
 
-/// The workspace on which the user is, where the window is on another one.
+/// Returns the user's workspace if the window is on another one.
 std::optional<uint32_t> workspaceToComeTo(const QWindow& window) {
     constexpr uint32_t everywhere = 0xFFFFFFFF;
     const auto users = cardinals(root(), "_NET_CURRENT_DESKTOP");
@@ -25,7 +25,7 @@ void bringToWorkspace(const QWindow& window, uint32_t workspace) {
                 XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
 }
 
-/// A window manager takes it for the time of the user's click.
+/// A window manager uses the token as the time of the user's click.
 void tellWindowManager(const QWindow& window, const QByteArray& token) {
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, number(window),
                         atom("_NET_STARTUP_ID"), atom("UTF8_STRING"), 8,

@@ -4,11 +4,11 @@
 
 namespace vantle::x11 {
 
-/// Whether the window is on another workspace than the user.
+/// Returns true if the window is on another workspace than the user.
 bool isOnOtherWorkspace(const QWindow& window);
 
-/// Brings a window to the workspace on which the user is, above all others, and gives it the
-/// keyboard, with the activation token that is kept.
+/// Brings a window to the user's workspace and above all others, and gives it the keyboard. Uses
+/// the stored activation token, if there is one.
 void bringToFront(QWindow& window);
 
 }  // namespace vantle::x11

@@ -10,9 +10,10 @@
 namespace vantle::x11 {
 namespace {
 
-/// Longer than between two frames of the card, and than a compositor takes to show the last one.
+/// Longer than the time between two frames of the card, and than a compositor needs to show the
+/// last frame.
 constexpr std::chrono::milliseconds rest{100};
-/// That compositor may be busy. What comes too early is lost, so it comes once more.
+/// A busy compositor may take longer and miss the first round, so there is a second one.
 constexpr std::chrono::milliseconds secondRound{1000};
 
 const QVersionNumber firstThatRemembers{44, 2};
@@ -22,7 +23,7 @@ bool forgets(const std::string& versionOfMutter) {
     return !version.isNull() && version < firstThatRemembers;
 }
 
-/// One pixel that is clear, and no target of anything.
+/// One transparent pixel that takes no input.
 class UnseenWindow final : public ClearWindow {
 public:
     explicit UnseenWindow(const QPoint& place) {
@@ -31,7 +32,7 @@ public:
     }
 };
 
-/// The region, or the region without the pixel in one of its corners.
+/// Returns the region, or the region without the pixel in one of its corners.
 QRegion variant(const QRegion& region, int number) {
     const QRect bounds = region.boundingRect();
     switch (number) {
@@ -44,8 +45,8 @@ QRegion variant(const QRegion& region, int number) {
     }
 }
 
-/// Nobody sees it, but the compositor gets a frame. The toolkit would draw nothing where nothing
-/// has changed.
+/// Has no visible effect, but sends the compositor a frame. The toolkit would draw nothing, because
+/// nothing has changed.
 void drawFirstPixel(const QWindow& window) {
     xcb_connection_t* x = connection();
     const xcb_gcontext_t clear = xcb_generate_id(x);
@@ -109,7 +110,8 @@ void KeptInputRegion::goOn() {
 }
 
 void KeptInputRegion::change() {
-    // Two would not do: the compositor may miss one, and find the region that it knows.
+    // Two variants are not enough: the compositor may miss one and then see the region that it
+    // knows.
     constexpr int variants = 3;
     variant_ = (variant_ + 1) % variants;
     setInputRegion(window(), variant(region_, variant_));

@@ -10,20 +10,20 @@
 
 namespace vantle::x11 {
 
-/// Whether the compositor forgets the region of a window with each frame, as Mutter before 44.2
-/// does.
+/// Returns true if the compositor forgets the input region of a window with each frame, as Mutter
+/// before 44.2 does.
 bool inputRegionIsForgotten();
 
-/// The input region of a window that is drawn again and again, as Mutter has to be told it, where
-/// the window goes through XWayland. Main thread only.
+/// The input region of a window that is redrawn often. Works around two faults of Mutter with
+/// windows of XWayland. Main thread only.
 ///
-/// - Mutter looks anew at what is under a pointer when windows come and go, and not when a region
-///   changes: a card that slides under a pointer at rest would never get its clicks. So a window
-///   that nobody sees comes and goes when the region has come to rest.
-/// - Mutter before 44.2 gives the window all clicks with each frame. It takes up a region that has
-///   changed meanwhile either at once, or with the next frame: which of them, nobody can tell. So
-///   once no frame has come for a moment the region changes by a pixel in a corner, a pixel is
-///   drawn, and the region changes again; and all that once more, for a busy compositor.
+/// - Mutter determines what is under the pointer again when windows come and go, but not when a
+///   region changes: a card that slides under a resting pointer would never get its clicks. So an
+///   invisible window is shown briefly when the region has stopped changing.
+/// - Mutter before 44.2 gives the window all clicks after each frame. It applies a changed region
+///   either at once or with the next frame, and there is no way to tell which. So after the last
+///   frame the region changes by a pixel in a corner, a pixel is drawn, and the region changes
+///   again; and all of this is repeated once in case the compositor was busy.
 class KeptInputRegion final : public QObject, public WindowInputRegion {
 public:
     explicit KeptInputRegion(QWindow& window);
@@ -35,18 +35,18 @@ public:
 private:
     enum class Step { change, draw, changeAgain };
 
-    /// The next one, each a moment after the one before.
+    /// Takes the next step and schedules the one after it.
     void goOn();
-    /// To one that differs by a pixel.
+    /// Sets a region that differs by a pixel.
     void change();
     void haveItNoticed();
 
     QRegion region_;
     Step next_ = Step::change;
-    int rounds_ = 0;  ///< Of the steps, since the last frame.
+    int rounds_ = 0;  ///< Rounds of steps since the last frame.
     QTimer afterLastFrame_;
     QTimer afterLastChange_;
-    std::unique_ptr<QWindow> unseen_;  ///< For a moment.
+    std::unique_ptr<QWindow> unseen_;  ///< Exists only briefly.
     bool isForgotten_ = false;
     int variant_ = 0;
 };

@@ -15,8 +15,9 @@ void focus(xcb_connection_t* x, xcb_window_t window) {
     xcb_flush(x);
 }
 
-/// A window that speaks Wayland is none on X. But Mutter gives the keyboard to the window that had
-/// it last, wherever nobody has it.
+/// Returns the window that gets the keyboard back. Behind Mutter's XWayland that is the root
+/// window: if no X window has the keyboard, Mutter returns it to the window that had it last, which
+/// may be a Wayland window.
 xcb_window_t whoGetsItBack(xcb_window_t previous) {
     return versionOfMutter().empty() ? previous : root();
 }

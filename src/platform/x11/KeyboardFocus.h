@@ -4,21 +4,21 @@
 
 namespace vantle::x11 {
 
-/// Gives the keyboard to a window that its manager does not manage, and back to the one that had
-/// it. Main thread only.
+/// Gives the keyboard to a window that the window manager does not manage, and back to the window
+/// that had it before. Main thread only.
 class KeyboardFocus {
 public:
     explicit KeyboardFocus(QWindow& window) : window_(window) {}
 
-    /// The window is on the screen.
+    /// The window must be on the screen.
     void take();
 
-    /// Does nothing when another window has the keyboard by now.
+    /// Does nothing if another window has taken the keyboard since.
     void giveBack();
 
 private:
     QWindow& window_;
-    quint32 previous_ = 0;  ///< The window that had it; 0 while this one does not.
+    quint32 previous_ = 0;  ///< The window that had the keyboard before; 0 if it was not taken.
 };
 
 }  // namespace vantle::x11

@@ -9,7 +9,7 @@
 
 namespace vantle::x11 {
 
-/// A window that nobody sees. That its property was touched comes back with the server's time.
+/// An invisible window. The server reports a change of its property with the current time.
 class SelectionTime::Clock final : public QObject, public QAbstractNativeEventFilter {
 public:
     Clock() {
@@ -31,7 +31,7 @@ public:
         if ((event->response_type & 0x7f) != XCB_PROPERTY_NOTIFY) return false;
         const auto* notify = reinterpret_cast<const xcb_property_notify_event_t*>(event);
         if (notify->window != number(window_) || notify->atom != timeAtom()) return false;
-        // Qt reads the time from it after this filter.
+        // Qt reads the time from the event after this filter returns.
         QMetaObject::invokeMethod(
             this, [this] { finish(); }, Qt::QueuedConnection);
         return false;

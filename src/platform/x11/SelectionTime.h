@@ -6,15 +6,16 @@
 
 namespace vantle::x11 {
 
-/// The X server gives the clipboard only to who names a later moment than whoever took it last, and
-/// Qt names that of the last event that reached this program. A program that nobody has touched for
-/// a while would so be refused.
+/// Brings Qt's time up to date before the clipboard is taken. The X server gives the clipboard only
+/// to a program that names a later time than the previous owner did, and Qt names the time of the
+/// last event that this program received. If the user has not used the program for a while, the
+/// server would refuse.
 class SelectionTime {
 public:
     SelectionTime();
     ~SelectionTime();
 
-    /// Calls `work` once Qt knows the server's present time.
+    /// Calls `work` as soon as Qt knows the server's current time.
     void refreshThen(std::function<void()> work);
 
 private:

@@ -55,7 +55,7 @@ std::unique_ptr<Overlay> Server::makeOverlay(QWindow& window, Overlay::Focus foc
 }
 
 bool Server::placesMenusAnywhere() const {
-    // A window of X cannot hold the pointer beside a tray that speaks Wayland.
+    // An X window cannot grab the pointer beside a tray that belongs to a Wayland client.
     return !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
 
@@ -96,8 +96,8 @@ std::unique_ptr<DragSupport> Server::supportDrag(QDrag&, const DragContents& con
 }
 
 void Server::setClipboard(std::unique_ptr<QMimeData> contents) {
-    // Only the last of several counts: a clipboard that is empty in between would be filled again
-    // with what was there before by some managers.
+    // If this is called several times, only the last contents are set: some clipboard managers
+    // would refill a clipboard that is empty in between with its old contents.
     nextContents_ = std::move(contents);
     time_.refreshThen([this] { DisplayServer::setClipboard(std::move(nextContents_)); });
 }

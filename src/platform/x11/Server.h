@@ -10,8 +10,8 @@ namespace vantle::x11 {
 /// An X server, with a compositor's XWayland or without. Main thread only.
 class Server final : public DisplayServer {
 public:
-    /// `whyNotNative` tells why the program does not speak to the compositor of the session itself;
-    /// empty where there is no reason to tell.
+    /// `whyNotNative` returns why the program does not connect to the Wayland compositor of the
+    /// session; it returns an empty string if there is nothing to explain.
     explicit Server(std::function<std::string()> whyNotNative);
 
     std::string name() const override;
@@ -43,7 +43,7 @@ public:
 private:
     const std::function<std::string()> whyNotNative_;
     SelectionTime time_;
-    std::unique_ptr<QMimeData> nextContents_;  ///< For the clipboard.
+    std::unique_ptr<QMimeData> nextContents_;  ///< For the clipboard, until the time is known.
 };
 
 }  // namespace vantle::x11

@@ -12,14 +12,14 @@ constexpr std::array absentStates = {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STAT
 }  // namespace
 
 void keepOutOfTaskbar(const QWindow& window) {
-    // What Qt adds later leaves these alone.
+    // Qt keeps these states when it adds others later.
     const std::array states{atom(absentStates[0]), atom(absentStates[1])};
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, number(window), atom("_NET_WM_STATE"),
                         XCB_ATOM_ATOM, 32, states.size(), states.data());
 }
 
 void setInTaskbar(const QWindow& window, bool isPresent) {
-    // Only the manager may change the state of a window that it keeps.
+    // Only the window manager may change the state of a window that it manages.
     constexpr uint32_t fromApplication = 1;
     sendMessage(
         root(), number(window), "_NET_WM_STATE",

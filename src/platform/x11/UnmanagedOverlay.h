@@ -5,7 +5,7 @@
 
 namespace vantle::x11 {
 
-/// An overlay as a window that no window manager manages. Main thread only.
+/// An overlay whose window no window manager manages. Main thread only.
 class UnmanagedOverlay final : public PlacedOverlay {
 public:
     UnmanagedOverlay(QWindow& window, Focus focus)

@@ -34,8 +34,9 @@ QRect frameOf(xcb_window_t window) {
     return {place->dst_x, place->dst_y, geometry->width, geometry->height};
 }
 
-/// As a window asks for it: the width at the left, right, upper and lower edge of all screens, and
-/// (where it says so) between which two pixels along each of them.
+/// Returns what a window reserves: the widths at the left, right, top and bottom edge of all
+/// screens, then the first and last pixel along each of these edges (the whole edge if it does not
+/// say).
 std::vector<uint32_t> requested(xcb_window_t window) {
     constexpr std::size_t withoutEnds = 4;
     constexpr std::size_t withEnds = 12;
@@ -76,7 +77,8 @@ std::vector<Strut> struts() {
     return found;
 }
 
-/// What a desktop says that knows it for each screen; empty where it says nothing.
+/// Returns the usable area of `screen` if the desktop announces one for each screen; otherwise
+/// empty.
 QRect announcedArea(const QRect& screen) {
     const auto workspace = cardinals(root(), "_NET_CURRENT_DESKTOP");
     const std::string name =
@@ -103,14 +105,14 @@ QRect withoutStruts(const QRect& screen, const std::vector<Strut>& struts) {
         below.setTop(std::max(left.top(), taken.bottom() + 1));
         before.setRight(std::min(left.right(), taken.left() - 1));
         after.setLeft(std::max(left.left(), taken.right() + 1));
-        // It lies along the edge beside which it leaves most.
+        // The panel lies along the edge for which the largest part of the screen remains.
         left = std::ranges::max({above, below, before, after}, {}, area);
     }
     return left;
 }
 
 QRect usableArea(QScreen& screen) {
-    // With one screen the window manager says it, and the toolkit reads that.
+    // With one screen the window manager announces the area, and the toolkit reads it.
     if (QGuiApplication::screens().size() < 2) return screen.availableGeometry();
     const QRect whole = frameInPixels(screen);
     const QRect announced = announcedArea(whole);

@@ -6,17 +6,20 @@
 
 namespace vantle::x11 {
 
-/// The part of a screen that the desktop's own panels leave free, in points. Main thread only.
+/// Returns the part of a screen that the desktop's own panels leave free, in points. Main thread
+/// only.
 QRect usableArea(QScreen& screen);
 
-/// What a panel of the desktop reserves for itself, in pixels of the area that all screens make.
+/// The space that a panel of the desktop reserves for itself, in pixels of the area that all
+/// screens form together.
 struct Strut {
-    QRect panel;     ///< Where it stands.
+    QRect panel;     ///< The frame of the panel.
     QRect reserved;  ///< From an edge of that area to the panel's inner edge.
 };
 
-/// What the panels on a screen leave of it. One that stands on another screen reserves nothing
-/// here, though a strut that begins at the far edge of all screens may reach across this one.
+/// Returns the part of `screen` that its panels leave free. A panel on another screen reserves
+/// nothing here, even if its strut reaches across this screen because it begins at the far edge of
+/// all screens.
 QRect withoutStruts(const QRect& screen, const std::vector<Strut>& struts);
 
 }  // namespace vantle::x11

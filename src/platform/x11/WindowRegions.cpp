@@ -10,8 +10,8 @@
 namespace vantle::x11 {
 namespace {
 
-/// The blur protocol of KDE's compositor, which others have taken over: this property of a window
-/// lists the rectangles, and the one of the root window says that somebody reads it.
+/// The blur protocol of KDE's compositor, which others have adopted: this property of a window
+/// lists the rectangles; the root window has it if a compositor reads it.
 constexpr auto blurProperty = "_KDE_NET_WM_BLUR_BEHIND_REGION";
 
 }  // namespace
@@ -27,7 +27,8 @@ void setInputRegion(QWindow& window, const QRegion& region) {
 
 bool isComposited() {
     xcb_connection_t* x = connection();
-    // A compositor owns the selection that is named after its screen; Qt's default is the first.
+    // A compositor owns the selection that is named after its screen; Qt's default is the first
+    // screen.
     const auto owner = owned(xcb_get_selection_owner_reply(
         x, xcb_get_selection_owner(x, atom("_NET_WM_CM_S0")), nullptr));
     return owner && owner->owner != XCB_NONE;

@@ -8,13 +8,13 @@ namespace vantle::x11 {
 /// Lets a window take pointer input only inside `region` (points from its top left).
 void setInputRegion(QWindow& window, const QRegion& region);
 
-/// Whether a compositor shows windows with their transparency.
+/// Returns true if a compositor shows windows with their transparency.
 bool isComposited();
 
-/// Whether the compositor blurs what is behind a part of a window for those who ask.
+/// Returns true if the compositor can blur what is behind a part of a window.
 bool offersBlur();
 
-/// Asks for a blur behind `region` (points from the top left of `window`), and for none elsewhere.
+/// Blurs what is behind `region` (points from the top left of `window`), and nothing elsewhere.
 void setBlurBehind(QWindow& window, const QRegion& region);
 
 }  // namespace vantle::x11

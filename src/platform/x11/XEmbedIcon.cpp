@@ -13,14 +13,14 @@
 namespace vantle::x11 {
 namespace {
 
-constexpr uint16_t firstSize = 22;  // pixels, until the tray says what it wants
+constexpr uint16_t firstSize = 22;  // pixels, until the tray resizes the window
 constexpr std::string_view name = "Vantle";
 
 const xcb_screen_t& screen() {
     return *xcb_setup_roots_iterator(xcb_get_setup(connection())).data;
 }
 
-/// The window that takes icons at the moment; none without a tray.
+/// Returns the window of the current tray, or none.
 xcb_window_t currentTray() {
     const auto owner = owned(xcb_get_selection_owner_reply(
         connection(), xcb_get_selection_owner(connection(), atom("_NET_SYSTEM_TRAY_S0")), nullptr));
@@ -32,7 +32,7 @@ struct Visual {
     uint8_t depth;
 };
 
-/// What the icons of that tray are to be drawn with.
+/// Returns the visual with which icons of that tray must be drawn.
 Visual visualOf(xcb_window_t tray) {
     const auto property = owned(xcb_get_property_reply(
         connection(),
@@ -50,7 +50,7 @@ Visual visualOf(xcb_window_t tray) {
     return plain;
 }
 
-/// Hears also of what happens to that window itself, besides what Qt wants to hear.
+/// Requests the events about the window itself, in addition to those that Qt has requested.
 void listen(xcb_window_t window) {
     const auto attributes = owned(xcb_get_window_attributes_reply(
         connection(), xcb_get_window_attributes(connection(), window), nullptr));
@@ -59,10 +59,10 @@ void listen(xcb_window_t window) {
     xcb_change_window_attributes(connection(), window, XCB_CW_EVENT_MASK, &events);
 }
 
-/// What the icon needs at least; trays give it more where they have more.
+/// Sets the least size that the icon needs; trays with more space make it larger.
 void setMinimumSize(xcb_window_t window, uint16_t pixels) {
     constexpr uint32_t hasMinimum = 1U << 4;
-    // Flags, four fields that are no longer used, then the smallest width and height.
+    // The flags, four obsolete fields, then the smallest width and height.
     std::array<uint32_t, 18> hints{hasMinimum, 0, 0, 0, 0, pixels, pixels};
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_NORMAL_HINTS,
                         XCB_ATOM_WM_SIZE_HINTS, 32, hints.size(), hints.data());
@@ -73,7 +73,7 @@ void setText(xcb_window_t window, const char* property, xcb_atom_t type, std::st
                         static_cast<uint32_t>(text.size()), text.data());
 }
 
-/// One premultiplied pixel over another.
+/// Blends one premultiplied pixel over another.
 QRgb over(QRgb above, QRgb below) {
     const int rest = 255 - qAlpha(above);
     const auto mixed = [rest](int a, int b) { return a + b * rest / 255; };
@@ -81,7 +81,7 @@ QRgb over(QRgb above, QRgb below) {
                  mixed(qBlue(above), qBlue(below)), mixed(qAlpha(above), qAlpha(below)));
 }
 
-/// Without a painter, which would cost memory for good.
+/// Draws without a QPainter, which would permanently increase the memory in use.
 void drawInTheMiddle(const QImage& icon, QImage& picture) {
     const QPoint corner((picture.width() - icon.width()) / 2,
                         (picture.height() - icon.height()) / 2);
@@ -135,7 +135,7 @@ void XEmbedIcon::dockAnew() {
 void XEmbedIcon::followTrays() {
     if (std::exchange(isFollowing_, true)) return;
     QCoreApplication::instance()->installNativeEventFilter(this);
-    // A new tray announces itself there.
+    // A new tray announces itself at the root window.
     listen(root());
 }
 
@@ -155,7 +155,7 @@ void XEmbedIcon::makeWindow(xcb_window_t tray) {
     const xcb_colormap_t colormap = xcb_generate_id(connection());
     xcb_create_colormap(connection(), XCB_COLORMAP_ALLOC_NONE, colormap, root(), visual.id);
     window_ = xcb_generate_id(connection());
-    // Without transparency its background is that of the tray.
+    // Without transparency the window shows the tray's background.
     const std::array<uint32_t, 4> values{
         hasAlpha_ ? 0U : uint32_t{XCB_BACK_PIXMAP_PARENT_RELATIVE}, 0,
         XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_BUTTON_PRESS,
@@ -220,8 +220,8 @@ void XEmbedIcon::handleWindowEvent(uint8_t type, const void* event) {
 }
 
 void XEmbedIcon::click() {
-    // The press has grabbed the pointer for us until its release, which would also end the grab of
-    // a menu that opens meanwhile.
+    // The press has grabbed the pointer for us until the release, and the release would also end
+    // the grab of a menu that has opened meanwhile.
     xcb_ungrab_pointer(connection(), XCB_CURRENT_TIME);
     if (onClick) onClick(frame());
 }
@@ -243,7 +243,7 @@ QImage XEmbedIcon::background() const {
     QImage picture(size_, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     if (hasAlpha_) return picture;
-    // Nothing shines through: what the tray drew there has to be read.
+    // The window is opaque, so the background that the tray has drawn must be read.
     const auto width = static_cast<uint16_t>(size_.width());
     const auto height = static_cast<uint16_t>(size_.height());
     xcb_clear_area(connection(), false, window_, 0, 0, width, height);

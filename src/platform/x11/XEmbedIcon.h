@@ -8,7 +8,7 @@
 
 namespace vantle::x11 {
 
-/// The icon for trays on X that swallow a window of each program (the XEmbed and system tray
+/// The icon for trays on X that embed a window of each program (the XEmbed and system tray
 /// protocols). Main thread only.
 class XEmbedIcon final : public EmbeddedIcon, public QAbstractNativeEventFilter {
 public:
@@ -34,7 +34,7 @@ private:
     void handleWindowEvent(std::uint8_t type, const void* event);
     void click();
     void paint();
-    /// What the icon is drawn on, as large as the window.
+    /// Returns a picture of the background, as large as the window.
     QImage background() const;
     QRect frame() const;
 
@@ -43,7 +43,7 @@ private:
     bool isFollowing_ = false;
     bool isEmbedded_ = false;
     std::uint32_t tray_ = 0;    ///< The window that takes icons.
-    std::uint32_t window_ = 0;  ///< Ours.
+    std::uint32_t window_ = 0;  ///< The icon's own window.
     bool hasAlpha_ = false;
     std::uint8_t depth_ = 0;
     QSize size_;
