@@ -11,7 +11,7 @@ namespace vantle {
 namespace {
 
 constexpr double secondsAtFirst = 10;
-// Longer than from one key to the next, also while one is held down.
+// Longer than the time between two key presses, also while a key repeats.
 constexpr Seconds restTime{0.5};
 
 }  // namespace
@@ -41,7 +41,7 @@ void BehaviorControls::store() {
 }
 
 void BehaviorControls::remember(double seconds) {
-    // Whoever else changes it has the last word.
+    // A change from elsewhere takes precedence over the slider.
     moved_.reset();
     if (seconds > 0) lastPositive_ = seconds;
 }

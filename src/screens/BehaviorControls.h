@@ -8,34 +8,35 @@
 
 namespace vantle {
 
-/// How long captures stay, as two controls: a toggle, and a slider for those that do not stay until
-/// they are dismissed. Main thread only.
+/// Controls how long captures stay: a toggle keeps them until they are dismissed; otherwise a
+/// slider sets the number of seconds. Main thread only.
 class BehaviorControls {
 public:
-    /// The slider's, in seconds.
+    /// The slider's range and step, in seconds.
     static constexpr double minimum = 3;
     static constexpr double maximum = 120;
     static constexpr double step = 1;
 
-    /// Both outlive it.
+    /// Both must outlive this object.
     BehaviorControls(Settings& settings, Scheduler& scheduler);
     ~BehaviorControls();
     BehaviorControls(const BehaviorControls&) = delete;
     BehaviorControls& operator=(const BehaviorControls&) = delete;
 
-    /// It is about to be seen: the toggle shows what the settings say.
+    /// Must be called before the controls are shown: sets the toggle to the stored setting.
     void appear();
 
     bool neverDismiss() const { return neverDismiss_; }
-    /// Off restores the number of seconds that was there before, if there was one.
+    /// Sets the toggle. Switching it off restores the last positive number of seconds, or 10.
     void setNeverDismiss(bool never);
 
-    /// The slider was moved there. The settings get it, and write it down, once it rests.
+    /// Takes a new position of the slider. The setting is changed, and stored, once the slider
+    /// rests.
     void moveSlider(double seconds);
 
-    /// Where the slider stands: inside its range, whatever the settings say.
+    /// Returns the slider's position: always within its range, whatever the setting is.
     double sliderValue() const;
-    /// What stands beside the slider.
+    /// Returns the text beside the slider.
     std::string dismissAfterText() const;
 
 private:
@@ -45,7 +46,7 @@ private:
 
     Settings& settings_;
     Scheduler& scheduler_;
-    std::optional<double> moved_;  ///< While the slider moves: what the settings do not have yet.
+    std::optional<double> moved_;  ///< The slider's value while it moves, not yet stored.
     TimerPointer rest_;
     bool neverDismiss_ = false;
     double lastPositive_;

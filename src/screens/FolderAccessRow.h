@@ -14,10 +14,10 @@ namespace vantle {
 
 enum class AccessState { unknown, granted, denied };
 
-/// Tells whether the program may read the folder into which captures are saved. Main thread only.
+/// Shows whether the program may read the folder into which captures are saved. Main thread only.
 class FolderAccessRow : public std::enable_shared_from_this<FolderAccessRow> {
 public:
-    /// All outlive it.
+    /// All members must outlive the row.
     struct Context {
         Settings& settings;
         const FileManager& files;
@@ -31,7 +31,7 @@ public:
         void (FolderAccessRow::*action)();
     };
 
-    /// What the row shows in a state.
+    /// The contents of the row in one state.
     struct Look {
         std::string symbol;
         std::string title;
@@ -45,8 +45,8 @@ public:
 
     static Look look(AccessState state);
 
-    /// Tries to list the folder, and sets the state by the outcome later: a folder far away can
-    /// take its time. Runs by itself whenever the folder changes.
+    /// Tries to list the folder and sets the state later, because a remote folder can take a while.
+    /// Also runs whenever the folder changes.
     void check();
 
     void openPrivacySettings();

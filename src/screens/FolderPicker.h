@@ -7,10 +7,10 @@
 
 namespace vantle {
 
-/// The folder into which captures are saved, and other places for them. Main thread only.
+/// Shows the folder into which captures are saved, and offers other folders. Main thread only.
 class FolderPicker {
 public:
-    /// All outlive it.
+    /// All members must outlive the picker.
     struct Context {
         Settings& settings;
         const FileManager& files;
@@ -20,14 +20,14 @@ public:
 
     explicit FolderPicker(const Context& context) : context_(context) {}
 
-    /// The path of that folder for a person: the home directory is "~".
+    /// Returns the path of `folder` as shown to the user: the home directory is "~".
     std::string displayName(const Url& folder) const;
 
-    /// The places, the chooser, and the way back to where the system saved captures before, when
-    /// there is one. Lives no longer than the picker.
+    /// Returns a menu with folders, the folder chooser and, if there is one, the folder where the
+    /// system saved captures before. The menu must not outlive the picker.
     Menu menu();
 
-    /// Opens the folder chooser in the current folder; what the user chooses is used from then on.
+    /// Opens the folder chooser in the current folder and uses the folder that the user chooses.
     void choose();
 
 private:

@@ -7,7 +7,7 @@
 
 namespace vantle {
 
-/// How the user gets a tray for the icon, in a sentence; empty where the desktop has none to offer.
+/// Returns a sentence that says how to get a tray for the icon; empty if the desktop offers none.
 std::string missingTrayAdvice(const std::optional<TrayExtension>& extension);
 
 }  // namespace vantle

@@ -11,7 +11,8 @@ namespace {
 
 constexpr int lastStep = OnboardingSteps::stepCount - 1;
 
-/// The number that the text is as a whole; one too large to be held is the largest of its sign.
+/// Returns the number if the whole text is one. A number that does not fit an int becomes the first
+/// or the last step.
 std::optional<int> wholeNumber(std::string_view text) {
     if (text.starts_with('+')) {
         text.remove_prefix(1);

@@ -9,24 +9,25 @@
 
 namespace vantle {
 
-/// The way through the onboarding: welcome, settings, done. Main thread only.
+/// The steps of the onboarding: welcome, settings, done. Main thread only.
 class OnboardingSteps {
 public:
     static constexpr int stepCount = 3;
 
-    /// `settings` outlives it. `finish` is called by the last step's button.
+    /// `settings` must outlive this object. The last step's button calls `finish`.
     OnboardingSteps(Settings& settings, std::function<void()> finish, int step = 0);
 
-    /// The step that VANTLE_ONBOARDING_STEP names, or the nearest that there is; 0 without it.
+    /// Returns the step that VANTLE_ONBOARDING_STEP names, limited to existing steps; 0 if it is
+    /// not a number or not set.
     static int initialStep(const Environment& environment);
 
-    /// The onboarding is about to be seen: the recommended settings are in force from here on.
+    /// Must be called before the onboarding is shown: applies the recommended settings.
     void appear();
 
     int step() const { return step_; }
     std::string forwardTitle() const;
     void forward();
-    /// Offered only after the first step.
+    /// Returns true after the first step.
     bool offersBack() const { return step_ > 0; }
     void back();
 

@@ -7,19 +7,19 @@
 
 namespace vantle {
 
-/// A line of the summary, beside its symbol.
+/// A line of the summary and its symbol.
 struct SummaryRow {
     std::string symbol;
     std::string text;
 };
 
-/// What the user has chosen, in the words of the onboarding's last step.
+/// Returns a summary of the user's choices for the onboarding's last step.
 std::vector<SummaryRow> onboardingSummary(const Settings& settings);
 
-/// Where the program's icon is.
+/// Tells whether there is a tray for the program's icon.
 enum class Tray { isThere, isMissing };
 
-/// What happens with the next screenshot, and how Vantle is reached.
+/// Returns a text that says what happens with the next screenshot and how to reach Vantle.
 std::string onboardingOutlook(const Settings& settings, Tray tray);
 
 }  // namespace vantle

@@ -6,7 +6,7 @@
 namespace vantle {
 namespace {
 
-/// Whole numbers are exact up to here, and conversions harmless.
+/// Up to here whole numbers are exact, and conversions cannot overflow.
 constexpr double maximumNumber = 9e15;
 
 }  // namespace

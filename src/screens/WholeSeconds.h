@@ -4,8 +4,7 @@
 
 namespace vantle {
 
-/// A number of seconds for a person, without its fraction. Any number, also one that no clock
-/// would show.
+/// Returns a number of seconds as text, without its fraction. Accepts any number; NaN becomes "0".
 std::string wholeSeconds(double seconds);
 
 }  // namespace vantle

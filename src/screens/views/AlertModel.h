@@ -9,7 +9,7 @@
 
 namespace vantle {
 
-/// An alert for its view, which answers it with the number of a button, from 0.
+/// Provides an alert to its view. The view answers with the number of a button, from 0.
 class AlertModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -21,7 +21,7 @@ class AlertModel : public QObject {
     Q_PROPERTY(QStringList buttons READ buttons CONSTANT)
 
 public:
-    /// `alert` outlives it.
+    /// `alert` must outlive this object.
     explicit AlertModel(const Alert& alert) : alert_(alert) {}
 
     bool isWarning() const { return alert_.style == Alert::Style::warning; }

@@ -3,7 +3,7 @@ import Vantle.Cards
 import Vantle.Panel
 import Vantle.Screens
 
-// A message with its buttons below it, the default one at the right.
+// A message with its buttons below it, the default button at the right.
 Rectangle {
     id: view
 
@@ -51,7 +51,7 @@ Rectangle {
             width: parent.width
             text: view.alert.informativeText
             textFormat: Text.PlainText
-            // A path has no spaces.
+            // Wraps anywhere if necessary, because a path may have no spaces.
             wrapMode: Text.Wrap
             lineHeight: 1.15
             color: Appearance.secondary
@@ -63,7 +63,7 @@ Rectangle {
     Row {
         id: buttons
 
-        // The first one stands where the eye ends.
+        // The first button is at the end of the line.
         layoutDirection: Qt.RightToLeft
         x: view.margin
         y: texts.y + Math.max(texts.height, view.symbolSide) + 22

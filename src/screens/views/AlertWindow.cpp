@@ -15,7 +15,7 @@ namespace vantle {
 
 AlertWindow::AlertWindow(const Alert& alert)
     : model_(alert), answer_(static_cast<int>(alert.buttons.size()) - 1) {
-    // No dialog, as no window with one of our screens is one (ScreenWindow.cpp).
+    // Not Qt::Dialog, for the reason given in ScreenWindow.cpp.
     setFlags(Qt::Window | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
              Qt::WindowCloseButtonHint);
     setResizeMode(QQuickView::SizeViewToRootObject);

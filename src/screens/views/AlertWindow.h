@@ -7,14 +7,16 @@
 
 namespace vantle {
 
-/// An alert on the screen. Return is its first button; Escape and closing it are its last one.
+/// A window with an alert. Return presses its first button; Escape and closing the window press the
+/// last one.
 class AlertWindow final : public ViewWindow {
 public:
-    /// `alert` outlives it.
+    /// `alert` must outlive the window.
     explicit AlertWindow(const Alert& alert);
     ~AlertWindow() override;
 
-    /// Shows it and returns, when it was answered or the program ends, the number of the button.
+    /// Shows the alert and waits until it is answered or the program ends. Returns the number of
+    /// the button, from 0.
     int run();
 
 protected:
@@ -28,7 +30,7 @@ private:
     int answer_;
 };
 
-/// Alerts as windows of our own.
+/// Shows alerts in windows of our own.
 class WindowAlerts final : public Alerts {
 public:
     int runModal(const Alert& alert) override { return firstButton + AlertWindow(alert).run(); }

@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Screens
 
-// What happens to captures, and where the program is seen.
+// The settings for captures, for the panel and for the program itself.
 Column {
     id: controls
 

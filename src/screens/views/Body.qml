@@ -3,7 +3,7 @@ import Vantle.Panel
 
 // Running text.
 Text {
-    // Not where a control says the same.
+    // False if a control already says the same to screen readers.
     property bool isSpoken: true
 
     width: parent ? parent.width : implicitWidth
@@ -16,6 +16,6 @@ Text {
     Accessible.ignored: !isSpoken || text === ""
     Accessible.role: Accessible.StaticText
     Accessible.name: text
-    // The role makes it focusable, which a text of ours is not.
+    // The role makes the text focusable, but the keyboard cannot reach it.
     Component.onCompleted: Accessible.focusable = false
 }

@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// A smaller text that explains something.
+// A smaller, explanatory text.
 Body {
     color: Appearance.secondary
     lineHeight: 1.1

@@ -1,11 +1,11 @@
 import QtQuick
 import Vantle.Panel
 
-// A desktop with the card in its corner, as large as there is room.
+// A picture of a desktop with the card in its corner, drawn to fill the item.
 Item {
     id: picture
 
-    // All lengths were measured in a picture that is 200 high.
+    // All lengths are given for a picture that is 200 high.
     readonly property real unit: height / 200
 
     width: parent ? parent.width : 0
@@ -21,7 +21,7 @@ Item {
         }
     }
 
-    // A window of somebody else.
+    // A window of another program.
     Rectangle {
         id: other
 
@@ -41,7 +41,8 @@ Item {
                 model: 3
 
                 Rectangle {
-                    // A delegate's component cannot be bound (Qt 6.4), so the ids are meant.
+                    // Qt 6.4 cannot bind a delegate's component, so qmllint must not check the ids
+                    // in it.
                     width: 7 * picture.unit // qmllint disable unqualified
                     height: width
                     radius: width / 2

@@ -4,7 +4,7 @@ import Vantle.Cards
 import Vantle.Panel
 import Vantle.Screens
 
-// After how many seconds the card goes by itself.
+// Sets after how many seconds the card dismisses itself.
 Column {
     id: block
 
@@ -17,7 +17,7 @@ Column {
     Item {
         width: parent.width
         opacity: block.enabled ? 1 : Style.disabled
-        // Below each other where they need more room.
+        // The texts are placed below each other if they do not fit side by side.
         readonly property bool fits: name.implicitWidth + number.implicitWidth + 12 <= width
 
         height: fits ? name.height : name.height + number.height
@@ -56,10 +56,10 @@ Column {
 
         Accessible.name: qsTr("Otherwise dismiss after")
         Accessible.description: block.settings.dismissAfterText
-        // The toolkit does not tell that it is disabled.
+        // The toolkit does not tell assistive programs that the slider is disabled.
         Accessible.readOnly: !enabled
 
-        // Also what an assistive program sets.
+        // Assistive programs set the value directly, so this handles all changes.
         onValueChanged: {
             if (value === block.settings.dismissAfter) return;
             if (enabled)
@@ -87,7 +87,7 @@ Column {
 
             Rectangle {
                 x: slider.mirrored ? parent.width - width : 0
-                // As far as the middle of the handle.
+                // The coloured part ends at the middle of the handle.
                 width: slider.position * (parent.width - slider.handle.width)
                        + slider.handle.width / 2
                 height: parent.height

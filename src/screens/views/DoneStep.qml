@@ -3,7 +3,7 @@ import Vantle.Cards
 import Vantle.Panel
 import Vantle.Screens
 
-// What was chosen, and what comes next.
+// The last step: what the user has chosen, and what comes next.
 StepView {
     id: step
 

@@ -2,11 +2,11 @@ import QtQuick
 import Vantle.Cards
 import Vantle.Panel
 
-// Lines of text, each beside its symbol.
+// Lines of text, each with a symbol beside it.
 Group {
     id: list
 
-    // Of each line: "symbol" and "text".
+    // Each line has a "symbol" and a "text".
     required property var lines
 
     spacing: 12

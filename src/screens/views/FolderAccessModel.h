@@ -10,7 +10,7 @@
 
 namespace vantle {
 
-/// Whether the folder may be read, for the row that says so.
+/// Provides the folder access row to its view.
 class FolderAccessModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -43,7 +43,7 @@ public:
     bool isDenied() const { return state_ == AccessState::denied; }
 
     Q_INVOKABLE void check() { row_->check(); }
-    /// The button of that number, from 0.
+    /// Presses the button with that number, from 0.
     Q_INVOKABLE void press(int button) {
         const auto& buttons = look().buttons;
         (row_.get()->*buttons.at(static_cast<std::size_t>(button)).action)();
@@ -56,7 +56,7 @@ private:
     FolderAccessRow::Look look() const { return FolderAccessRow::look(state_); }
 
     std::shared_ptr<FolderAccessRow> row_;
-    /// A change is announced before it is stored.
+    /// A copy of the row's state, because a change is announced before it is stored.
     AccessState state_ = AccessState::unknown;
     Subscription subscription_;
 };

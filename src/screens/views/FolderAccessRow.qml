@@ -3,14 +3,14 @@ import Vantle.Cards
 import Vantle.Panel
 import Vantle.Screens
 
-// Whether the folder may be read, and what to do about it.
+// Shows whether the folder may be read, and what to do about it.
 Group {
     id: row
 
     required property FolderAccessModel access
 
     Item {
-        // One button has room beside the texts.
+        // A single button fits beside the texts if the row is wide enough.
         readonly property bool isBeside: row.access.buttons.length === 1 && width > 440 * Style.scale
 
         width: parent.width

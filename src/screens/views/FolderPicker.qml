@@ -33,7 +33,7 @@ Group {
             anchors.verticalCenter: parent.verticalCenter
             text: picker.settings.folder
             textFormat: Text.PlainText
-            // The disk and the folder say more than what is between them.
+            // The beginning and the end of a path say more than its middle.
             elide: Text.ElideMiddle
             horizontalAlignment: Text.AlignLeft
             color: Appearance.primary

@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// Rows that belong together, on a card.
+// Rows that belong together, on one plate.
 Item {
     id: group
 

@@ -1,6 +1,6 @@
 import QtQuick
 
-// What a row is about, with its caption, in the middle of the row's height.
+// The title of a row and its caption, centred in the row's height.
 Item {
     id: labels
 

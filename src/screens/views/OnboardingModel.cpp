@@ -8,7 +8,7 @@
 namespace vantle {
 namespace {
 
-/// `finish` called later and only once, however often the button is pressed.
+/// Returns a function that calls `finish` later, and only once however often it is called itself.
 std::function<void()> onTheEventLoop(Scheduler& scheduler, std::function<void()> finish) {
     return [&scheduler, finish = std::move(finish), hasFinished = false]() mutable {
         if (!std::exchange(hasFinished, true)) scheduler.async(finish);
@@ -31,7 +31,7 @@ OnboardingModel::OnboardingModel(const Context& context, std::function<void()> f
 
 void OnboardingModel::appear() {
     steps_.appear();
-    // What the system did not grant is shown as it is.
+    // Reads the system's settings back, because it may have refused some of the recommended ones.
     settings_.readSystem();
     model_.appear();
 }
@@ -57,7 +57,7 @@ QVariantList OnboardingModel::summary() const {
 void OnboardingModel::forward() {
     steps_.forward();
     emit stepChanged();
-    // A tray may have come meanwhile.
+    // A tray may have appeared meanwhile.
     emit summaryChanged();
 }
 

@@ -16,7 +16,7 @@
 
 namespace vantle {
 
-/// The onboarding for its view.
+/// Provides the onboarding to its view.
 class OnboardingModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -28,25 +28,25 @@ class OnboardingModel : public QObject {
     Q_PROPERTY(int step READ step NOTIFY stepChanged)
     Q_PROPERTY(QString forwardTitle READ forwardTitle NOTIFY stepChanged)
     Q_PROPERTY(bool offersBack READ offersBack NOTIFY stepChanged)
-    /// What comes next, and a "symbol" and a "text" for each thing that was chosen.
+    /// The outlook says what comes next; the summary has a "symbol" and a "text" for each choice.
     Q_PROPERTY(QString outlook READ outlook NOTIFY summaryChanged)
-    /// How to get a tray where there is none; else empty.
+    /// Says how to get a tray if there is none; otherwise empty.
     Q_PROPERTY(QString trayAdvice READ trayAdvice NOTIFY summaryChanged)
     Q_PROPERTY(QVariantList summary READ summary NOTIFY summaryChanged)
 
 public:
-    /// All outlive it.
+    /// All members must outlive the model.
     struct Context {
         SettingsModel::Context settings;
         SerialQueue& queue;
         PrivacySettings& privacySettings;
         const StatusItem& statusItem;
-        /// What would bring a tray; may be empty.
+        /// Returns the extension that would provide a tray; may be empty.
         const std::function<std::optional<TrayExtension>()>& trayExtension;
         const Environment& environment;
     };
 
-    /// `finish` is called on the event loop: it may take the view away.
+    /// Calls `finish` once, from the event loop, because it may destroy the view.
     OnboardingModel(const Context& context, std::function<void()> finish);
 
     void appear();

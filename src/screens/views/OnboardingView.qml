@@ -2,13 +2,13 @@ import QtQuick
 import Vantle.Panel
 import Vantle.Screens
 
-// The first meeting: three steps, with the way through them below.
+// The onboarding: three steps, with the buttons to move between them below.
 Rectangle {
     id: view
 
     required property OnboardingModel onboarding
     readonly property int step: onboarding.step
-    // Which way the content comes from: 1 the next one, -1 the one before.
+    // The side from which the content slides in: 1 for the next step, -1 for the one before.
     property int direction: 1
 
     implicitWidth: 600
@@ -49,7 +49,7 @@ Rectangle {
             id: content
             objectName: "content"
 
-            // Which one is seen; none at first.
+            // The step that is shown; -1 at first.
             property int step: -1
 
             x: Appearance.reducesMotion ? 0 : (1 - arrival.value) * 60 * view.direction
@@ -59,7 +59,7 @@ Rectangle {
         }
     }
 
-    // Components cannot be bound (Qt 6.4), so the ids around them are meant.
+    // Qt 6.4 cannot bind components, so qmllint must not check the ids in them.
     Component {
         id: welcome
 
@@ -111,7 +111,7 @@ Rectangle {
         }
 
         PageDots {
-            // In the middle, unless large letters need that room.
+            // The dots are in the middle unless large text needs that space.
             readonly property Item before: Style.isMirrored ? forward : back
             readonly property Item after: Style.isMirrored ? back : forward
             readonly property real least: before.visible ? before.x + before.width + 12 : 12

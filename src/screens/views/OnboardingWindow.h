@@ -7,7 +7,7 @@ namespace vantle {
 
 class OnboardingWindow final : public ScreenWindow {
 public:
-    /// `finish` may destroy it.
+    /// `finish` may destroy the window.
     OnboardingWindow(const OnboardingModel::Context& context, std::function<void()> finish);
     ~OnboardingWindow() override;
 

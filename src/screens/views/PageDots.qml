@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// Which step of several is seen.
+// Shows which of several steps is current.
 Row {
     id: dots
 
@@ -22,7 +22,7 @@ Row {
             width: 8
             height: 8
             radius: 4
-            // A delegate's component cannot be bound (Qt 6.4), so the ids around it are meant.
+            // Qt 6.4 cannot bind a delegate's component, so qmllint must not check the ids in it.
             color: index === dots.current ? Appearance.accent // qmllint disable unqualified
                                           : Style.faint(0.2)
 

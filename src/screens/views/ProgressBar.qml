@@ -2,11 +2,11 @@ import QtQuick
 import QtQuick.Templates as T
 import Vantle.Panel
 
-// How much is done; something to look at while nobody knows.
+// A progress bar, with an animation while the progress is unknown.
 T.ProgressBar {
     id: bar
 
-    // From 0 at the start to 1 at the end, over and over.
+    // The animation's position, repeatedly from 0 to 1.
     property real turn: 0.5
 
     implicitHeight: 6

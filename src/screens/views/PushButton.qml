@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Vantle.Cards
 import Vantle.Panel
 
-// A button with a title; the default one stands out.
+// A button with a title; the default button is highlighted.
 T.Button {
     id: button
 

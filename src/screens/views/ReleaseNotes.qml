@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// What is new in a version: as high as it needs to be, and no higher than there is room for.
+// The release notes of a version: as high as their text, but no higher than `room`.
 Item {
     id: notes
     objectName: "notes"
@@ -10,7 +10,7 @@ Item {
     property string spokenText
     property real room: Math.round(240 * Math.min(Style.scale, 1.6))
 
-    // Headings a little larger than the rest, lists at its edge, links as ours.
+    // Headings are slightly larger than the text, lists begin at its edge, links have our colour.
     readonly property string looks: `<style>
         h1, h2, h3, h4 { font-size: ${Math.round(14 * Style.scale)}px; font-weight: 600;
                          margin-top: 4px; margin-bottom: 4px }
@@ -46,7 +46,7 @@ Item {
             x: Style.groupPadding
             y: Style.groupPadding
             width: area.width - 2 * x
-            // It was made harmless before it came here, and nothing in it is fetched.
+            // The text was sanitized before, and nothing that it refers to is fetched.
             textFormat: Text.RichText
             text: notes.looks + notes.text
             Accessible.name: notes.spokenText

@@ -21,8 +21,8 @@ Q_IMPORT_QML_PLUGIN(Vantle_ScreensPlugin)
 namespace vantle {
 namespace {
 
-/// Draws an item as large as it is without a window on the screen. Only the software renderer
-/// draws into memory; null with another one.
+/// Draws an item at its own size without a window on the screen. Returns a null image unless the
+/// software renderer is in use: only that one draws into memory.
 QImage drawnOffscreen(QQuickItem& item, double scale) {
     QQuickRenderControl control;
     QQuickWindow window(&control);
@@ -46,12 +46,12 @@ QImage drawnOffscreen(QQuickItem& item, double scale) {
 }  // namespace
 
 ScreenWindow::ScreenWindow(const QString& title) {
-    // No dialog: the toolkit says of one that it belongs to all windows of the program, and some
-    // window managers then keep one of two above the other for ever.
+    // Not Qt::Dialog: the toolkit declares that a dialog belongs to all windows of the program, and
+    // some window managers then keep one of two such windows above the other forever.
     setFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
              Qt::WindowCloseButtonHint);
     setTitle(title);
-    // There once the program is installed.
+    // The icon exists only if the program is installed.
     setIcon(QIcon::fromTheme(QStringLiteral("org.vantle.Vantle")));
     setResizeMode(QQuickView::SizeRootObjectToView);
 }
@@ -71,7 +71,8 @@ void ScreenWindow::setContentSize(Size size) {
 
 void ScreenWindow::place() {
     if (!wasPlaced_ || !QGuiApplication::screenAt(frameGeometry().center())) return centre();
-    // Without its frame: the window manager has put that around it when it was shown before.
+    // The position does not include the frame, because the window manager added the frame when the
+    // window was shown before.
     setPosition(lastPlace_);
 }
 
@@ -101,7 +102,7 @@ void ScreenWindow::orderFront() {
     if (isVisible()) return;
     appear();
     place();
-    // The toolkit's own name for it: a window has no other way to say so.
+    // The toolkit reads this property of its own; windows have no public way to request it.
     constexpr auto withoutKeyboard = "_q_showWithoutActivating";
     setProperty(withoutKeyboard, true);
     show();
@@ -121,7 +122,7 @@ std::optional<std::string> ScreenWindow::snapshot(double scale) {
 }
 
 bool ScreenWindow::event(QEvent* event) {
-    // The view goes first: in it Escape may belong to something that is open.
+    // The view handles the event first: Escape may close something that is open in it.
     const bool wasHandled = ViewWindow::event(event);
     if (event->type() == QEvent::KeyPress && !event->isAccepted() &&
         static_cast<QKeyEvent*>(event)->matches(QKeySequence::Close)) {

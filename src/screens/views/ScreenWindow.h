@@ -5,8 +5,8 @@
 
 namespace vantle {
 
-/// An ordinary window with one of our screens in it: it has a title and can be closed, which hides
-/// it, but it keeps its size.
+/// An ordinary window that shows one of our screens. It has a title and a fixed size; closing it
+/// hides it.
 class ScreenWindow : public ViewWindow, public Window {
 public:
     void makeKeyAndOrderFront() override;
@@ -18,22 +18,23 @@ public:
 protected:
     explicit ScreenWindow(const QString& title);
 
-    /// Shows the view of that name among the screens, whose property `name` is `model`.
+    /// Loads the screen `view` and sets its property `name` to `model`.
     void load(const char* view, const char* name, QObject* model);
 
-    /// It was hidden and is about to be seen.
+    /// Called each time before the hidden window is shown.
     virtual void appear() = 0;
     bool event(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
-    /// Where it stood when it was hidden, as far as that can still be seen; else in the middle.
+    /// Moves the window to where it was when it was hidden, or to the middle if no screen is there
+    /// any more.
     void place();
     void centre();
 
-    QPoint lastPlace_;  ///< In Qt's screen coordinates, once it was hidden.
+    QPoint lastPlace_;  ///< In Qt's screen coordinates; valid after the window was hidden.
     bool wasPlaced_ = false;
-    QVariantMap properties_;  ///< Of the view.
+    QVariantMap properties_;  ///< The view's initial properties.
 };
 
 }  // namespace vantle

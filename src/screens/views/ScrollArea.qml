@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// Content that scrolls when it is higher than the room for it. What has the keyboard is seen.
+// Content that scrolls if it is higher than the area. Scrolls to the item that gets the keyboard.
 Flickable {
     id: area
 
@@ -17,7 +17,7 @@ Flickable {
 
     onFocusedChanged: if (focused) reveal(focused)
 
-    // For keys that nobody else wants.
+    // Scrolls for keys that no control has handled.
     function scrollBy(event) {
         const line = 40;
         const page = height - line;
@@ -31,7 +31,7 @@ Flickable {
         event.accepted = true;
     }
 
-    // Scrolls no further than it has to.
+    // Scrolls only as far as necessary.
     function reveal(item) {
         if (!isInside(item)) return;
         const margin = 12;
@@ -65,7 +65,8 @@ Flickable {
         minimumSize: 0.1
         visible: size < 1
 
-        // What has the keyboard is scrolled to by itself.
+        // Assistive programs do not need the bar: the area scrolls to the item that has the
+        // keyboard.
         Accessible.ignored: true
 
         contentItem: Rectangle {

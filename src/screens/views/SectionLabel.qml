@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// What the controls below it are about.
+// A heading for the controls below it.
 Body {
     leftPadding: Style.groupPadding
     rightPadding: Style.groupPadding

@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Vantle.Cards
 import Vantle.Panel
 
-// A choice of one out of a few, side by side; one below the other where they need more room.
+// A choice of one out of a few options, side by side, or below each other if they do not fit.
 Item {
     id: choice
 
@@ -15,7 +15,7 @@ Item {
 
     signal wanted(index: int)
 
-    // Gives the keyboard to the option of that number, if there is one.
+    // Gives the keyboard to the option with that number, if there is one.
     function goTo(index) {
         const option = options.itemAt(index);
         if (option) option.forceActiveFocus(Qt.TabFocusReason);
@@ -27,7 +27,7 @@ Item {
     Accessible.role: Accessible.Grouping
     Accessible.name: name
 
-    // The longest title in the heaviest weight.
+    // Measures the longest title in the heaviest weight.
     Column {
         id: widest
 
@@ -70,7 +70,8 @@ Item {
                 required property int index
                 required property string modelData
 
-                // A delegate's component cannot be bound (Qt 6.4), so the ids around it are meant.
+                // Qt 6.4 cannot bind a delegate's component, so qmllint must not check the ids in
+                // it.
                 width: (choice.width - 4) / grid.columns // qmllint disable unqualified
                 implicitHeight: Math.max(choice.rowHeight, implicitContentHeight + 8) // qmllint disable unqualified
                 text: modelData

@@ -27,7 +27,7 @@ SettingsModel::SettingsModel(const Context& context)
 }
 
 void SettingsModel::follow() {
-    // A change is announced before it is stored.
+    // The views are notified later, because a change is announced before it is stored.
     subscriptions_ = settings_.observeChanges(
         [this] { QMetaObject::invokeMethod(this, &SettingsModel::changed, Qt::QueuedConnection); });
 }
@@ -99,14 +99,14 @@ void SettingsModel::setCopyOnCapture(bool on) {
 
 void SettingsModel::setHideSystemThumbnail(bool on) {
     settings_.setHideSystemThumbnail(on);
-    // Where that failed the switch has to go back.
+    // If this failed the switch must return to its old position.
     settings_.readSystem();
     readObstacles();
     emit changed();
 }
 
 void SettingsModel::setLaunchAtLogin(bool on) {
-    // Where that fails the switch has to go back.
+    // If this fails the switch must return to its old position.
     settings_.setLaunchAtLogin(on);
     emit changed();
 }

@@ -17,8 +17,8 @@
 
 namespace vantle {
 
-/// The settings for their views, which write them through it. It follows them, whoever changes
-/// them: what is shown is always what is stored.
+/// Provides the settings to their views, which change them through this model. It follows every
+/// change of the settings, so that the views always show what is stored.
 class SettingsModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -28,22 +28,23 @@ class SettingsModel : public QObject {
     Q_PROPERTY(double minimum MEMBER minimum_ CONSTANT)
     Q_PROPERTY(double maximum MEMBER maximum_ CONSTANT)
     Q_PROPERTY(double step MEMBER step_ CONSTANT)
-    /// Of the folder, for a person.
+    /// The path of the folder as shown to the user.
     Q_PROPERTY(QString folder READ folder NOTIFY changed)
     Q_PROPERTY(bool neverDismiss READ neverDismiss WRITE setNeverDismiss NOTIFY changed)
-    /// In the range of the slider.
+    /// The slider's position in seconds, within its range.
     Q_PROPERTY(double dismissAfter READ dismissAfter WRITE setDismissAfter NOTIFY changed)
     Q_PROPERTY(QString dismissAfterText READ dismissAfterText NOTIFY changed)
     Q_PROPERTY(bool removeAfterUse READ removeAfterUse WRITE setRemoveAfterUse NOTIFY changed)
     Q_PROPERTY(bool deleteAfterUse READ deleteAfterUse WRITE setDeleteAfterUse NOTIFY changed)
     Q_PROPERTY(bool showRecordings READ showRecordings WRITE setShowRecordings NOTIFY changed)
-    /// Where the desktop saves recordings, as a sentence; empty when nothing is known of it.
+    /// A sentence that says where the desktop saves recordings; empty if that is unknown.
     Q_PROPERTY(QString recordingsPlace READ recordingsPlace NOTIFY changed)
     Q_PROPERTY(bool copyOnCapture READ copyOnCapture WRITE setCopyOnCapture NOTIFY changed)
     Q_PROPERTY(QString corner READ corner NOTIFY changed)
     Q_PROPERTY(bool hideSystemThumbnail READ hideSystemThumbnail WRITE setHideSystemThumbnail NOTIFY
                    changed)
-    /// Why the folder, that thumbnail and the Dock cannot be changed; empty when they can.
+    /// Reasons why the folder, the system's thumbnail and the Dock setting cannot be changed; empty
+    /// if they can.
     Q_PROPERTY(QString folderObstacle READ folderObstacle NOTIFY changed)
     Q_PROPERTY(QString thumbnailObstacle READ thumbnailObstacle NOTIFY changed)
     Q_PROPERTY(QString dockObstacle READ dockObstacle NOTIFY changed)
@@ -51,22 +52,22 @@ class SettingsModel : public QObject {
     Q_PROPERTY(bool showInDock READ showInDock WRITE setShowInDock NOTIFY changed)
 
 public:
-    /// All outlive it.
+    /// All members must outlive the model.
     struct Context {
         Settings& settings;
         const FileManager& files;
         FolderChooser& folderChooser;
         Application& application;
         Scheduler& scheduler;
-        /// Where the desktop's recorder saves; may be empty.
+        /// Returns where the desktop's recorder saves; may be empty.
         const std::function<Url()>& recordingsFolder;
-        /// Whom the wish for the sample captures is told.
+        /// Notified when the user requests the sample captures.
         const Observers<>& vantleShowDemo;
     };
 
     explicit SettingsModel(const Context& context);
 
-    /// The views are about to be seen.
+    /// Must be called before the views are shown.
     void appear();
 
     QString version() const;
@@ -97,7 +98,7 @@ public:
     void setLaunchAtLogin(bool on);
     void setShowInDock(bool on);
 
-    /// Each opens its menu below that button.
+    /// Opens the menu below `button`.
     Q_INVOKABLE void openFolderMenu(QQuickItem* button);
     Q_INVOKABLE void openCornerMenu(QQuickItem* button);
     Q_INVOKABLE void showSample();
@@ -112,7 +113,7 @@ private:
     Menu cornerMenu();
     void open(const Menu& menu, const QQuickItem& button);
 
-    // The properties above need members.
+    // QML properties declared with MEMBER need members.
     const double minimum_ = BehaviorControls::minimum;
     const double maximum_ = BehaviorControls::maximum;
     const double step_ = BehaviorControls::step;
@@ -126,7 +127,7 @@ private:
     const QString dockObstacle_;
     const std::function<Url()>& recordingsFolder_;
     QString recordingsPlace_;
-    std::unique_ptr<MenuWindow> menu_;  ///< Made when one is opened for the first time.
+    std::unique_ptr<MenuWindow> menu_;  ///< Created when first needed.
     std::vector<Subscription> subscriptions_;
 };
 

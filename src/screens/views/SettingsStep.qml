@@ -2,7 +2,7 @@ import QtQuick
 import Vantle.Panel
 import Vantle.Screens
 
-// The settings, with the recommended ones in force.
+// The settings, with the recommended ones already applied.
 StepView {
     id: step
 

@@ -24,7 +24,7 @@ Rectangle {
         anchors.fill: parent
 
         Item {
-            // As high as the window at least, so that the footer stands at its end.
+            // At least as high as the window, so that the footer is at its bottom.
             width: parent.width
             height: Math.max(area.height, column.height + footer.height + 3 * Style.padding)
 

@@ -1,12 +1,12 @@
 import QtQuick
 
-// A step of the onboarding: a column in the middle of what it scrolls in.
+// A step of the onboarding: a column in the middle of the scroll area.
 Item {
     id: step
 
     default property alias content: column.data
     property alias spacing: column.spacing
-    // Of what it stands in.
+    // The height of the scroll area.
     required property real room
     property real margin: 28
 

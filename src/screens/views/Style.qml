@@ -3,10 +3,11 @@ pragma Singleton
 import QtQuick
 import Vantle.Panel
 
-// The sizes and colours of the screens. Letters grow with those of the desktop.
+// The sizes and colours of the screens. Text scales with the desktop's.
 QtObject {
     readonly property real scale: Appearance.textScale
-    // By the user's language, or as somebody told the toolkit, which the linter does not know of.
+    // Follows the user's language or the toolkit's layout direction, a property that qmllint does
+    // not know.
     readonly property bool isMirrored: Qt.locale().textDirection === Qt.RightToLeft
                                        || Qt.application.layoutDirection === Qt.RightToLeft // qmllint disable
 
@@ -22,16 +23,16 @@ QtObject {
     readonly property real rowPadding: 10
     readonly property real controlHeight: Math.round(28 * scale)
 
-    // Of what cannot be used now.
+    // The opacity of disabled controls.
     readonly property real disabled: 0.45
-    // Through which nothing shines.
+    // An opaque colour.
     readonly property color disabledHandle: Appearance.isDark ? "#8e8e93" : "#f2f2f4"
 
     readonly property color ink: Appearance.isDark ? "white" : "black"
     readonly property color groupFill: Appearance.isDark ? Qt.rgba(1, 1, 1, 0.06) : "white"
     readonly property color hairline: faint(0.1)
     readonly property color controlFill: faint(Appearance.isDark ? 0.12 : 0.07)
-    // Letters on the accent colour, of which the user may have chosen a light one.
+    // The colour of text on the accent colour, which may be light if the user has chosen it.
     readonly property color onAccent: luminance(Appearance.accent) > 0.45 ? Qt.rgba(0, 0, 0, 0.88)
                                                                        : "white"
     readonly property color green: Appearance.isDark ? "#32d158" : "#1f9d3f"
@@ -41,7 +42,7 @@ QtObject {
         return Appearance.fontPoints(pixels * scale);
     }
 
-    // How bright a colour is to the eye, from 0 to 1.
+    // Returns the perceived brightness of a colour, from 0 to 1.
     function luminance(color) {
         return 0.2126 * color.r ** 2.2 + 0.7152 * color.g ** 2.2 + 0.0722 * color.b ** 2.2;
     }

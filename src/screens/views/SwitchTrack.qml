@@ -9,10 +9,10 @@ Item {
     required property bool isOn
     required property bool isDown
     required property bool hasFocus
-    // Where the knob is, from 0 to 1, as it is seen.
+    // The knob's current position, from 0 to 1.
     required property real position
     readonly property real gap: 2
-    // What is not seen yet is where it belongs.
+    // Nothing is animated before the window is visible.
     readonly property bool moves: !Appearance.reducesMotion && Window.visibility !== Window.Hidden
 
     implicitWidth: Math.round(38 * Style.scale)

@@ -1,6 +1,6 @@
 import QtQuick
 
-// What a step of the onboarding is about.
+// The title of a step of the onboarding.
 Body {
     horizontalAlignment: Text.AlignHCenter
     font.pointSize: Style.display

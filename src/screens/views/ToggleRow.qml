@@ -1,12 +1,13 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A setting that is on or off: what it is at the left, the switch at the right.
+// A setting that is on or off, with its name at the left and the switch at the right.
 T.Switch {
     id: toggle
 
     property string caption
-    // The setting; what the user wants instead is asked for, and comes back as the setting.
+    // The stored setting. The user's change is emitted as wanted() and returns through this
+    // property.
     required property bool isOn
     readonly property real gap: implicitIndicatorWidth + 16
 
@@ -26,13 +27,13 @@ T.Switch {
 
     onToggled: {
         wanted(checked);
-        // A setting that stays as it was takes the switch back.
+        // If the setting does not change the switch returns to its old position.
         checked = Qt.binding(() => isOn);
     }
 
     contentItem: Labels {
         title: toggle.text
-        // The caption says why, and stays readable.
+        // The caption stays readable because it says why.
         titleOpacity: toggle.enabled ? 1 : Style.disabled
         caption: toggle.caption
         isSpoken: false

@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Screens
 
-// What can be done about an update: in a row, or below each other where they need more room.
+// The buttons for an update: in a row, or below each other if they do not fit.
 Item {
     id: buttons
 

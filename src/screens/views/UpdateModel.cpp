@@ -19,7 +19,7 @@ UpdateModel::UpdateModel(UpdateFlow& flow)
     : flow_(flow),
       state_(flow.state.value()),
       subscription_(flow.state.observeChanges([this](const UpdateState& state) {
-          // What is closed keeps its looks until it is gone.
+          // A closed update stays as it was until its window has gone.
           if (state.stage == Stage::closed) return;
           state_ = state;
           emit changed();

@@ -9,7 +9,7 @@
 
 namespace vantle {
 
-/// An update for its view.
+/// Provides an update to its view.
 class UpdateModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -17,24 +17,25 @@ class UpdateModel : public QObject {
 
     Q_PROPERTY(QString headline READ headline NOTIFY changed)
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
-    /// What is new, as rich text.
+    /// The release notes as rich text.
     Q_PROPERTY(QString notes READ notes NOTIFY changed)
-    /// The same without looks, to be spoken.
+    /// The release notes as plain text, for screen readers.
     Q_PROPERTY(QString plainNotes READ plainNotes NOTIFY changed)
     Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
     Q_PROPERTY(bool isWarning READ isWarning NOTIFY changed)
-    /// Something is under way.
+    /// True while something is in progress.
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
-    /// How much of it is done, from 0 to 1; negative when nobody knows.
+    /// The progress from 0 to 1; negative if it is unknown.
     Q_PROPERTY(double progress READ progress NOTIFY changed)
-    /// The titles of the buttons; empty where there is none. The default one is what can be done
-    /// about it, the other one leaves it, the last one leaves it for good.
+    /// The titles of the buttons; empty if there is no such button. The default button acts on the
+    /// update, the close button postpones or cancels it, the skip button skips this version for
+    /// good.
     Q_PROPERTY(QString defaultTitle READ defaultTitle NOTIFY changed)
     Q_PROPERTY(QString closeTitle READ closeTitle NOTIFY changed)
     Q_PROPERTY(QString skipTitle READ skipTitle NOTIFY changed)
 
 public:
-    /// `flow` outlives it.
+    /// `flow` must outlive the model.
     explicit UpdateModel(UpdateFlow& flow);
 
     QString headline() const;
@@ -65,7 +66,7 @@ private:
     bool isPage() const { return state_.item.installation == UpdateItem::Installation::page; }
 
     UpdateFlow& flow_;
-    UpdateState state_;  ///< A change is announced before it is stored.
+    UpdateState state_;  ///< A copy: a change is announced before it is stored.
     Subscription subscription_;
 };
 

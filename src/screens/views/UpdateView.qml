@@ -3,7 +3,7 @@ import Vantle.Cards
 import Vantle.Panel
 import Vantle.Screens
 
-// A new version: what there is to know, and what to do about it.
+// A new version: information about it, and what to do about it.
 Rectangle {
     id: view
 

@@ -5,10 +5,11 @@
 
 namespace vantle {
 
-/// An update, as high as what there is to say. However it is closed, the flow is told.
+/// Shows an update; the window is as high as its contents. The flow is notified however the window
+/// is closed.
 class UpdateWindow final : public ScreenWindow {
 public:
-    /// `flow` outlives it.
+    /// `flow` must outlive the window.
     explicit UpdateWindow(UpdateFlow& flow);
     ~UpdateWindow() override;
 

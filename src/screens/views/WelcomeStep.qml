@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// What the program is for.
+// The first step: what the program is for.
 StepView {
     id: step
 

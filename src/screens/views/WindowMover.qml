@@ -1,6 +1,6 @@
 import QtQuick
 
-// A background by which the window is moved, as by its title bar.
+// A background that moves the window when it is dragged, like a title bar.
 MouseArea {
     property point start
 
