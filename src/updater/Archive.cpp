@@ -28,7 +28,7 @@ Failure refused(const std::string& what) {
     return {0, filled(localized("Updater", "The update was refused: %1"), {what}), {}};
 }
 
-/// Writes what is read of one entry.
+/// Writes the entries of an archive as files and folders.
 class Unpacking {
 public:
     Unpacking(archive& source, fs::path folder, const ArchiveLimits& limits)
@@ -51,7 +51,7 @@ public:
     }
 
 private:
-    /// Whether a name leads to something below the top folder, or to that itself.
+    /// Returns true if a name leads to the top folder or to something below it.
     static bool isInside(const fs::path& name) {
         const auto isUp = [](const fs::path& part) { return part == ".."; };
         return name.is_relative() && *name.begin() == top && std::ranges::none_of(name, isUp);

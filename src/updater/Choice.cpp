@@ -19,7 +19,7 @@ const Enclosure* enclosureFor(const FeedItem& item, const std::string& platform)
     return found == item.enclosures.end() ? nullptr : &*found;
 }
 
-/// Why an item that is newer and for this platform is refused nevertheless; absent when it is not.
+/// Returns why an item that is newer and for this platform is refused; nothing if it is suitable.
 std::optional<UpdateReport> refusal(const FeedItem& item, const Enclosure& enclosure,
                                     const UpdateCriteria& criteria) {
     const std::string& name = item.displayVersion;
@@ -61,7 +61,7 @@ UpdateItem updateFrom(const FeedItem& item, const Enclosure& enclosure,
             .installation = criteria.installation};
 }
 
-/// When none of the items is newer and for this platform.
+/// Returns the report for the case that no item is both newer and for this platform.
 report::NothingFound nothing(const std::vector<FeedItem>& items, const UpdateCriteria& criteria) {
     std::string newest;
     bool isForOthers = false;
@@ -81,7 +81,7 @@ report::NothingFound nothing(const std::vector<FeedItem>& items, const UpdateCri
     return {filled(localized("Updater", "Vantle %1 is the newest version."), {criteria.version})};
 }
 
-/// In the order in which they are to be had.
+/// Returns the newer items for this platform, the newest first.
 std::vector<FeedItem> candidates(std::vector<FeedItem> items, const UpdateCriteria& criteria) {
     std::erase_if(items, [&](const FeedItem& item) {
         return !isNewer(item.version, criteria.version) || !enclosureFor(item, criteria.platform);

@@ -7,19 +7,19 @@
 
 namespace vantle::updater {
 
-/// What a feed is asked for.
+/// Which update to look for in a feed.
 struct UpdateCriteria {
-    std::string version;        ///< That runs.
-    std::string platform;       ///< That it runs on.
-    std::string systemVersion;  ///< Of the C library here.
-    std::string channel;        ///< Beside the ordinary one; empty for none.
+    std::string version;        ///< The running version.
+    std::string platform;       ///< The platform that it runs on.
+    std::string systemVersion;  ///< The version of the C library here.
+    std::string channel;        ///< Used beside the ordinary channel; empty for none.
     UpdateItem::Installation installation = UpdateItem::Installation::page;
-    std::string page;  ///< For items that name none.
+    std::string page;  ///< The page for items that name none.
 };
 
-/// Finds the newest version that suits: newer than the one that runs, for this platform and
-/// system, signed, and with a length. Where there is none, tells why of the newest that could have
-/// been it: NothingFound, or Failed where somebody should mend the feed.
+/// Returns the newest suitable version: newer than the running one, for this platform and system,
+/// signed, and with a length. If there is none, says why the newest candidate is unsuitable:
+/// NothingFound, or Failed if the feed must be corrected.
 UpdateReport choose(const Feed& feed, const UpdateCriteria& criteria);
 
 }  // namespace vantle::updater

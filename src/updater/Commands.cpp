@@ -26,7 +26,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// With a full stop, as our own texts have, and the system's do not.
+/// Adds a full stop to the system's messages, which have none; our own texts do.
 report::Failed failed(const std::string& message, const std::string& page = configuration().page) {
     const bool isSentence = message.ends_with('.') || message.ends_with("。");
     return {message + (isSentence ? "" : "."), page};
@@ -72,7 +72,8 @@ UpdateReport prepareTree(const Installation& installation, const UpdateItem& ite
     return report::Ready{};
 }
 
-/// Where a package is kept while the system installs it; what was left there goes.
+/// The folder for a package while the system installs it. Old contents are removed before and
+/// after.
 class PackageFolder {
 public:
     ~PackageFolder() { clear(); }

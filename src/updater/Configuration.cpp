@@ -10,7 +10,7 @@ const Configuration& configuration() {
     static const Configuration built{
         .feed = VANTLE_UPDATE_FEED,
         .publicKey = VANTLE_UPDATE_KEY,
-        // Without a key nobody answers for what stands there.
+        // Without a key nobody vouches for the files on that page.
         .page = std::string_view(VANTLE_UPDATE_KEY).empty() ? "" : VANTLE_DOWNLOAD_PAGE,
         .timeout = Seconds(VANTLE_UPDATE_TIMEOUT),
         .maximumFeedTime = Seconds(2 * VANTLE_UPDATE_TIMEOUT),

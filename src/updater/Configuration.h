@@ -7,20 +7,20 @@
 
 namespace vantle::updater {
 
-/// What this program was built with.
+/// The settings that this program was built with.
 struct Configuration {
     std::string feed;       ///< The address of the update feed.
-    std::string publicKey;  ///< Ed25519, in base64; empty where nobody can sign an update for it.
-    std::string page;       ///< Where a person can get new versions.
+    std::string publicKey;  ///< Ed25519, in base64; if empty, there are no updates.
+    std::string page;       ///< A web page with new versions; may be empty.
 
-    Seconds timeout;                   ///< With a server that says nothing, or hardly anything.
-    Seconds maximumFeedTime;           ///< In all.
-    Seconds maximumArchiveTime;        ///< In all.
-    Seconds maximumStartTime;          ///< Of a new version, until it says that it runs.
+    Seconds timeout;                   ///< For a server that sends nothing, or hardly anything.
+    Seconds maximumFeedTime;           ///< In total.
+    Seconds maximumArchiveTime;        ///< In total.
+    Seconds maximumStartTime;          ///< Until a new version reports that it runs.
     std::uint64_t maximumFeedSize;     ///< In bytes.
     std::uint64_t maximumArchiveSize;  ///< In bytes.
     std::uint64_t maximumTreeSize;     ///< In bytes, unpacked.
-    std::uint64_t maximumEntries;      ///< Of an archive.
+    std::uint64_t maximumEntries;      ///< In an archive.
 };
 
 const Configuration& configuration();

@@ -28,7 +28,8 @@ Failure failureOf(std::string message) {
     return {0, std::move(message), {}};
 }
 
-/// A part of an address, in small letters where that makes no difference; empty when it has none.
+/// Returns a part of an address, in lower case if case does not matter; empty if it has no such
+/// part.
 std::string partOf(const std::string& address, CURLUPart part) {
     const std::unique_ptr<CURLU, decltype(&curl_url_cleanup)> url(curl_url(), curl_url_cleanup);
     char* text = nullptr;
@@ -120,7 +121,7 @@ Result<std::string> fetch(const std::string& address, const FetchLimits& limits,
         prepare(curl.get(), next, transfer);
         if (const auto code = curl_easy_perform(curl.get()); code != CURLE_OK)
             return failureFrom(code, transfer);
-        // By hand: the library would follow to wherever the scheme is allowed.
+        // Redirections are followed here, because the library would check only the scheme.
         const char* redirection = nullptr;
         curl_easy_getinfo(curl.get(), CURLINFO_REDIRECT_URL, &redirection);
         long status = 0;
@@ -132,7 +133,7 @@ Result<std::string> fetch(const std::string& address, const FetchLimits& limits,
                            {std::to_string(status)}));
             return std::move(transfer.bytes);
         }
-        // From the web nobody is led to services of this machine.
+        // A server on the web must not redirect to services of this machine.
         const bool isSafe = isSecure(redirection) || (mayFetch(redirection) && !isSecure(next));
         if (!isSafe) return notAllowed(redirection);
         next = redirection;

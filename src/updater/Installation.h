@@ -15,14 +15,15 @@ struct Installation {
     std::filesystem::path program() const { return tree / "bin/vantle"; }
 };
 
-/// Of the copy that the program at `executable` belongs to. A tree is one that this user owns and
-/// whose folder this user can change: only then it can be replaced.
+/// Returns how the copy with the program `executable` was installed. It is a tree only if this user
+/// owns it and can change the folder above it, because only then it can be replaced.
 Installation installationOf(const std::filesystem::path& executable);
 
-/// Of this process.
+/// Returns how this program was installed.
 Installation ownInstallation();
 
-/// What the feed calls the files for such a copy: "linux-x86_64", "linux-x86_64-deb" for a package.
+/// Returns the feed's name for the files of such a copy: "linux-x86_64", or "linux-x86_64-deb" for
+/// a package.
 std::string platformName(UpdateItem::Installation kind);
 
 }  // namespace vantle::updater

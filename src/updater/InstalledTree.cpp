@@ -23,7 +23,7 @@ constexpr auto releaseFile = "share/vantle/release";
 constexpr auto manifestFile = "share/vantle/manifest";
 constexpr std::size_t maximumTextLength = std::size_t{4} * 1024 * 1024;
 
-using Manifest = std::map<std::string, std::string>;  // sums in hexadecimal, by path
+using Manifest = std::map<std::string, std::string>;  // hexadecimal sums by path
 
 Failure wrong(const std::string& what) {
     return {0, filled(localized("Updater", "The update was refused: %1"), {what}), {}};
@@ -61,7 +61,7 @@ Result<std::string> sumOf(const fs::path& file) {
     return text;
 }
 
-/// The first thing in the tree that the manifest does not name; empty when there is none.
+/// Returns the first file in the tree that the manifest does not name; empty if there is none.
 fs::path strangerIn(const fs::path& tree, const Manifest& manifest, std::error_code& error) {
     for (auto each = fs::recursive_directory_iterator(tree, error);
          !error && each != fs::recursive_directory_iterator(); each.increment(error)) {

@@ -8,17 +8,18 @@
 
 namespace vantle::updater {
 
-/// What a copy of the program says of itself (share/vantle/release): "version", "platform", and
-/// "installation", which is "tree" or "package". Empty where it says nothing.
+/// Returns what a copy of the program states about itself (share/vantle/release): "version",
+/// "platform", and "installation", which is "tree" or "package". Returns an empty map if it states
+/// nothing.
 std::map<std::string, std::string> releaseOf(const std::filesystem::path& tree);
 
-/// Whether the tree is the version for the platform, holds each file of its manifest
-/// (share/vantle/manifest, as sha256sum writes it) as it should be, and no other.
+/// Fails unless the tree is this version for this platform, contains each file of its manifest
+/// (share/vantle/manifest, in the format of sha256sum) undamaged, and contains no other file.
 Outcome verifyTree(const std::filesystem::path& tree, const std::string& version,
                    const std::string& platform);
 
-/// Whether there is nothing in the tree but what its manifest names: else somebody keeps there what
-/// would go with it.
+/// Fails if the tree contains a file that its manifest does not name: the file would be deleted
+/// with the tree.
 Outcome refuseStrangers(const std::filesystem::path& tree);
 
 }  // namespace vantle::updater

@@ -16,7 +16,7 @@ constexpr auto transactionInterface = "org.freedesktop.PackageKit.Transaction";
 constexpr auto ownerRule =
     "type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',"
     "arg0='org.freedesktop.PackageKit'";
-constexpr std::uint32_t succeeded = 1;  // "success" of its exit codes
+constexpr std::uint32_t succeeded = 1;  // "success" among its exit codes
 
 struct Transaction {
     bool hasEnded = false;
@@ -48,7 +48,7 @@ int failed(sd_bus_message* signal, void* context, sd_bus_error*) {
     return 0;
 }
 
-/// The service went away.
+/// Ends the transaction if the service has ended.
 int ownerChanged(sd_bus_message* signal, void* context, sd_bus_error*) {
     const char *name = "", *before = "", *after = "";
     if (sd_bus_message_read(signal, "sss", &name, &before, &after) >= 0 && *after == '\0')
@@ -85,9 +85,10 @@ public:
         listen(path, "ErrorCode", failed, transaction);
         if (result_ >= 0)
             result_ = sd_bus_add_match(bus_, nullptr, ownerRule, ownerChanged, &transaction);
-        // That it may ask the user.
+        // Allows the service to ask the user.
         call(path, "SetHints", "as", 1, "interactive=true");
-        // A file of ours is not signed by the distribution: no flag that it must be.
+        // The distribution has not signed our package, so the flag that requires its signature is
+        // not set.
         call(path, "InstallFiles", "tas", std::uint64_t{0}, 1, file.c_str());
         if (result_ < 0) return failureOf(error_, -result_);
         while (!transaction.hasEnded) {

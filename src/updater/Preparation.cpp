@@ -33,7 +33,7 @@ Outcome makeTree(const Staging& staging, std::string_view archive, const std::st
 }  // namespace
 
 Outcome checkPlace(const fs::path& tree, const Staging& staging) {
-    // Also what was put into the tree that goes now.
+    // The previous tree is checked, too, because it will be deleted.
     for (const auto& each : {tree, staging.previous()})
         if (fs::exists(each))
             if (auto failure = refuseStrangers(each)) return failure;
@@ -50,7 +50,7 @@ Outcome checkPlace(const fs::path& tree, const Staging& staging) {
 
 Outcome makeNext(const Staging& staging, std::string_view archive, const std::string& version) {
     auto failure = makeTree(staging, archive, version);
-    // What could not be removed now is, before the next attempt.
+    // Whatever cannot be removed now is removed before the next attempt.
     (void)staging.discard(staging.unpacking());
     return failure;
 }

@@ -9,12 +9,13 @@
 
 namespace vantle::updater {
 
-/// Whether the tree can be replaced: nothing in it belongs to somebody else, and the file system
-/// can do it in one step. Clears what an earlier attempt has left.
+/// Fails unless the tree can be replaced: it must contain only its own files, and the file system
+/// must be able to replace it in one step. Removes what an earlier attempt has left.
 Outcome checkPlace(const std::filesystem::path& tree, const Staging& staging);
 
-/// Unpacks a release, verifies that it is the version for this system, and makes it
-/// `staging.next()`. That is never there but whole, whenever this ends.
+/// Unpacks a release, verifies that it is this version for this system, and makes it
+/// `staging.next()`. Whenever this process ends, `staging.next()` is either a whole tree or does
+/// not exist.
 Outcome makeNext(const Staging& staging, std::string_view archive, const std::string& version);
 
 }  // namespace vantle::updater

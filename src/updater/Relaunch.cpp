@@ -34,7 +34,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr Seconds maximumEndTime = std::chrono::minutes(1);
 
-/// Whether there was something to read (or the end of it) in time.
+/// Returns true if `descriptor` became readable, or reached its end, within `time`.
 bool waitFor(int descriptor, Seconds time) {
     const auto end = Clock::now() + std::chrono::duration_cast<Clock::duration>(time);
     pollfd waiting{descriptor, POLLIN, 0};
@@ -50,16 +50,16 @@ FileDescriptor handleOf(pid_t process) {
     return FileDescriptor(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
 }
 
-/// However long that takes: who asked for it has been told that it will go on.
+/// Waits without a limit, because the running copy has been told that the relaunch goes on.
 void waitForEnd(const FileDescriptor& handle) {
     while (!waitFor(handle.get(), maximumEndTime)) continue;
 }
 
-/// Whether a process runs that program, from exactly that place.
+/// Returns true if a process runs `program` from exactly that path.
 bool isRunning(const fs::path& program) {
     std::error_code error;
     for (const auto& entry : fs::directory_iterator("/proc", error)) {
-        // Many are none of ours to look at.
+        // Processes of other users cannot be inspected.
         std::error_code ignored;
         if (fs::read_symlink(entry.path() / "exe", ignored) == program) return true;
     }
@@ -71,18 +71,18 @@ class Child {
 public:
     static Result<Child> start(const fs::path& program, const std::string& outcome) {
         std::array<int, 2> ends{};
-        // Not a pipe: who writes to one that nobody reads any more would be killed.
+        // A socket, because the child can write to it without SIGPIPE when nobody reads any more.
         if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
             return systemFailure(errno, program);
         FileDescriptor ready(ends[0]);
         const FileDescriptor tell(ends[1]);
-        // Only in the child does it stay open.
+        // Keeps the descriptor open in the child only.
         posix_spawn_file_actions_t actions;
         posix_spawn_file_actions_init(&actions);
         posix_spawn_file_actions_adddup2(&actions, tell.get(), tell.get());
         setenv(relaunch::readyVariable, std::to_string(tell.get()).c_str(), 1);
         setenv(relaunch::outcomeVariable, outcome.c_str(), 1);
-        // Whoever asked for that has had it.
+        // The copy that ran before has already fulfilled this request.
         unsetenv("VANTLE_CHECK_UPDATES_NOW");
         char* const arguments[] = {const_cast<char*>(program.c_str()), nullptr};
         pid_t process = 0;
@@ -93,13 +93,13 @@ public:
         return Child(process, std::move(ready));
     }
 
-    /// Absent when it said that it came up; else what happened to this version, as a sentence
-    /// without its full stop. One that does not come up in time is killed.
+    /// Returns nothing if the copy reported that it runs; otherwise a sentence, without its full
+    /// stop, that says what happened to this version. Kills a copy that does not report in time.
     std::optional<std::string> failure(const std::string& version) const {
         char byte = 0;
         const bool isTold = waitFor(ready_.get(), configuration().maximumStartTime);
         if (isTold && read(ready_.get(), &byte, 1) == 1) return std::nullopt;
-        // It closed the socket without a word: it ends, or has ended.
+        // The copy closed the socket without a report, so it is ending or has ended.
         const FileDescriptor handle = handleOf(process_);
         const bool hasEnded = isTold && waitFor(handle.get(), maximumEndTime);
         if (!hasEnded) kill(process_, SIGKILL);
@@ -118,8 +118,8 @@ private:
     FileDescriptor ready_;
 };
 
-/// Starts a version that was there before, which tells the user the message. `version` is the one
-/// that failed; empty where it was not even tried.
+/// Starts the old version, which shows the message to the user. `version` is the version that
+/// failed; empty if it was not tried. Returns the exit status.
 int startAgain(const fs::path& program, const std::string& version, const std::string& message) {
     const auto child = Child::start(program, lineOf(report::RolledBack{version, message}));
     systemLog("Vantle: " + message);
@@ -127,17 +127,18 @@ int startAgain(const fs::path& program, const std::string& version, const std::s
     return EXIT_FAILURE;
 }
 
-/// Empty when the new version runs.
+/// Starts the new version. Returns what went wrong; empty if it runs.
 std::string startNew(const fs::path& program, const std::string& version) {
     const auto child = Child::start(program, "");
     const auto problem = child ? child.value().failure(version)
                                : filled(localized("Updater", "Vantle %1 cannot be started: %2"),
                                         {version, child.failure().message});
-    // It may have handed over to a copy that somebody started in between.
+    // The new copy may have handed over to one that the user started meanwhile.
     return problem && !isRunning(program) ? *problem : "";
 }
 
-/// What the system installed is not ours to take back, nor to end.
+/// Starts an installed package without watching it: an installation by the system cannot be undone
+/// here, and the program must not be killed.
 int startPackage(const fs::path& program) {
     const auto child = Child::start(program, "");
     if (child) return EXIT_SUCCESS;
@@ -172,10 +173,10 @@ int relaunch(const Installation& installation, const std::string& version, pid_t
              FileDescriptor tell) {
     const FileDescriptor handle = handleOf(running);
     const bool hasEnded = !handle && errno == ESRCH;
-    // Without a word, or when nobody waits for it any more, the one that runs goes on.
+    // If nothing is written, or nobody reads it any more, the running copy continues.
     if (!handle && !hasEnded) return EXIT_FAILURE;
     if (write(tell.get(), "r", 1) != 1) return EXIT_FAILURE;
-    // Of what others opened nothing is to be inherited, from version to version.
+    // The new version must not inherit descriptors that other programs have left open.
     close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
     if (handle) waitForEnd(handle);
     return installation.kind == UpdateItem::Installation::tree

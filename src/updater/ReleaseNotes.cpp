@@ -22,12 +22,12 @@ bool isOneOf(std::string_view name, const auto& names) {
 }
 
 struct Tag {
-    std::string name;  ///< In small letters.
+    std::string name;  ///< In lower case.
     bool isEnd = false;
     std::string attributes;
 };
 
-/// From what stands between "<" and ">".
+/// Parses the text between "<" and ">".
 Tag tagFrom(std::string_view inside) {
     Tag tag;
     if (inside.starts_with('/')) {
@@ -42,7 +42,7 @@ Tag tagFrom(std::string_view inside) {
     return tag;
 }
 
-/// The address of a link, if it is one to show; else empty.
+/// Returns the address of a link if it may be shown; otherwise empty.
 std::string addressIn(const std::string& attributes) {
     static const std::regex form(
         "\\shref\\s*=\\s*([\"'])(https://[A-Za-z0-9][-A-Za-z0-9._~:/?#@!$&()*+,;=%]{0,999})\\1",

@@ -5,10 +5,11 @@
 
 namespace vantle::updater {
 
-/// Release notes as rich text that does no harm wherever it is shown: paragraphs, headings, lists,
-/// emphasis, code, and links to pages by HTTPS. Everything else is left out, above all what would
-/// be fetched; the text in between stays, but not that of scripts and styles. What is open at the
-/// end is closed, and what is too long ends with "…". Valid HTML, whatever came in.
+/// Returns release notes as rich text that is harmless wherever it is shown: paragraphs, headings,
+/// lists, emphasis, code, and links to pages by HTTPS. Everything else is removed, above all
+/// whatever would be fetched; the text inside removed elements stays, except that of scripts and
+/// styles. Open elements are closed at the end; text that is too long ends with "…". The result is
+/// valid HTML for any input.
 std::string safeReleaseNotes(std::string_view html);
 
 }  // namespace vantle::updater

@@ -15,10 +15,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Names are on the disk only once their folder is.
+/// Waits until the names in `folder` are on the disk.
 void waitForDisk(const fs::path& folder) {
     const FileDescriptor place(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    // Where a file system cannot be waited for, the step is as atomic without it.
+    // The step is atomic even if the file system cannot be waited for.
     if (place) fsync(place.get());
 }
 
@@ -56,14 +56,14 @@ Outcome replaceTree(const fs::path& tree, const Staging& staging) {
     if (auto failure = staging.discard(staging.previous())) return failure;
     if (auto failure = exchange(tree, staging.next())) return failure;
     auto failure = move(staging.next(), staging.previous());
-    // Without one to go back to it would be a leap in the dark.
+    // Without a previous tree there would be nothing to return to, so the exchange is undone.
     if (failure) (void)exchange(tree, staging.next());
     return failure;
 }
 
 Outcome restoreTree(const fs::path& tree, const Staging& staging) {
     if (auto failure = exchange(tree, staging.previous())) return failure;
-    // What is left of the failed one is in nobody's way.
+    // It does no harm if parts of the failed tree remain.
     (void)staging.discard(staging.previous());
     return {};
 }

@@ -41,7 +41,8 @@ Result<std::string> signedPart(const std::string& feed, const std::string& publi
         "([0-9]{1,9})\\s*-->\\s*");
     const auto at = feed.rfind(commentStart);
     std::smatch match;
-    // The form is looked for only where it can be: it must not see all of a hostile feed.
+    // The expression is applied only to the end of the feed, so that it never processes a long
+    // hostile text.
     constexpr std::size_t maximum = 512;
     const std::string comment =
         at != std::string::npos && feed.size() - at <= maximum ? feed.substr(at) : "";

@@ -15,7 +15,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Somebody else's could be changed behind our back.
+/// Returns true if only this user can access the folder. Another user could change any other folder
+/// while it is in use.
 bool isOwnFolder(const fs::path& folder) {
     struct stat status {};
     return lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
@@ -43,10 +44,10 @@ Result<Staging> Staging::open(const fs::path& tree) {
 Outcome Staging::discard(const fs::path& part) const {
     const fs::path going = folder_ / "discarded";
     std::error_code error;
-    // Does not follow links.
+    // remove_all() does not follow links.
     fs::remove_all(going, error);
     if (!error && fs::exists(fs::symlink_status(part, error))) {
-        // Half of it must never be taken for the whole.
+        // The part is renamed first, so that half of it is never taken for the whole.
         fs::rename(part, going, error);
         if (!error) fs::remove_all(going, error);
     }

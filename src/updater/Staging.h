@@ -7,23 +7,23 @@
 
 namespace vantle::updater {
 
-/// The folder beside a tree in which the next version is made and the one before is kept. Only
-/// this user can look into it, and only one process at a time uses it. Nothing outside is ever
+/// The folder beside a tree in which the next version is made and the previous one is kept. Only
+/// this user can access it, and only one process at a time uses it. Nothing outside is ever
 /// removed.
 class Staging {
 public:
-    /// Makes it where it is missing. Fails with EBUSY while another process has it.
+    /// Creates the folder if necessary. Fails with EBUSY while another process uses it.
     static Result<Staging> open(const std::filesystem::path& tree);
 
     const std::filesystem::path& folder() const { return folder_; }
-    /// What is not whole yet.
+    /// A tree that is not complete yet.
     std::filesystem::path unpacking() const { return folder_ / "unpacking"; }
-    /// A whole tree that is to take the place of the other.
+    /// A whole tree that will replace the current one.
     std::filesystem::path next() const { return folder_ / "next"; }
-    /// The tree that had that place before.
+    /// The tree that was replaced last.
     std::filesystem::path previous() const { return folder_ / "previous"; }
 
-    /// Removes one of these, with all that is in it. Harmless when it is not there.
+    /// Removes one of these with its contents. Does nothing if it does not exist.
     Outcome discard(const std::filesystem::path& part) const;
 
 private:

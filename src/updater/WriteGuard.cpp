@@ -13,7 +13,7 @@
 namespace vantle::updater {
 namespace {
 
-/// All that the first version of Landlock knows and that changes something.
+/// All rights of Landlock's first version that allow changes.
 constexpr std::uint64_t writing = LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_REMOVE_DIR |
                                   LANDLOCK_ACCESS_FS_REMOVE_FILE | LANDLOCK_ACCESS_FS_MAKE_CHAR |
                                   LANDLOCK_ACCESS_FS_MAKE_DIR | LANDLOCK_ACCESS_FS_MAKE_REG |

@@ -4,9 +4,9 @@
 
 namespace vantle::updater {
 
-/// From now on this process can change files only beneath `folder` (Landlock). For good, and also
-/// for what it starts. False where the system has no such guard; then the checks of every path are
-/// all there is.
+/// Restricts this process, and the processes that it starts, to changing files beneath `folder`
+/// (Landlock). This is permanent. Returns false if the system does not support it; then only the
+/// checks of every path protect other files.
 bool writeOnlyBeneath(const std::filesystem::path& folder);
 
 }  // namespace vantle::updater

@@ -3,10 +3,10 @@
 //                        [--page=ADDRESS]
 // vantle-updater relaunch --version=VERSION --process=NUMBER --tell=DESCRIPTOR
 //
-// The part of updates that needs the network, and that must never be wrong: asks the update feed,
-// fetches and verifies a version, puts it in place. Writes reports to the standard output, one on a
-// line (updates/UpdateReport.h), and ends with 0 if all went well. A program of its own, so that
-// nothing of this stays in memory, and so that a damaged feed cannot harm the one that runs.
+// Does the part of updates that needs the network and must never go wrong: reads the update feed,
+// fetches and verifies a version, and puts it in place. Writes reports to the standard output, one
+// per line (platform/UpdateReport.h). Exits with 0 on success. This is a separate program so that
+// nothing of it stays in memory and a damaged feed cannot harm the running copy.
 
 #include <signal.h>
 #include <sys/prctl.h>
@@ -34,7 +34,7 @@ constexpr int wrongCommandLine = 2;
 
 using Options = std::map<std::string, std::string>;
 
-/// From "--name=value"; absent when something else is among them.
+/// Parses arguments of the form "--name=value". Returns nothing if there is any other argument.
 std::optional<Options> optionsFrom(int count, char** arguments) {
     Options options;
     for (int i = 0; i < count; ++i) {
@@ -58,7 +58,7 @@ int conclude(const UpdateReport& last) {
     return std::holds_alternative<report::Failed>(last) ? EXIT_FAILURE : EXIT_SUCCESS;
 }
 
-/// Nobody would read what it tells.
+/// Ends this process with its parent, because nobody else reads its reports.
 void endWithParent() {
     prctl(PR_SET_PDEATHSIG, SIGTERM);
 }
@@ -87,8 +87,9 @@ int run(const std::string_view command, Options& options) {
     return wrongCommandLine;
 }
 
-/// A reader that has gone is no reason to leave a user without a program. Not ignored, which what
-/// is started here would inherit.
+/// Keeps this process alive if nobody reads its output any more, so that the user is not left
+/// without a program. The signal gets a handler because started programs would inherit that it is
+/// ignored.
 void surviveClosedPipes() {
     signal(SIGPIPE, [](int) {});
 }
