@@ -8,19 +8,19 @@
 
 namespace vantle {
 
-/// How quickly something arrives, over the last seconds.
+/// Measures the speed of a download over the last seconds.
 class DownloadSpeed {
 public:
-    /// `received` bytes so far.
+    /// Notes that `received` bytes have arrived so far.
     void note(Instant now, std::uint64_t received) {
-        // It begins anew.
+        // A new download has begun.
         if (!samples_.empty() && received < samples_.back().received) samples_.clear();
         samples_.push_back({now, received});
-        // One from before is kept, as what the rest is measured from.
+        // One sample older than the span is kept as the start of the measurement.
         while (samples_.size() > 2 && now - samples_[1].at >= span) samples_.pop_front();
     }
 
-    /// In bytes per second; absent while too little is known.
+    /// Returns the speed in bytes per second; nothing if too little is known.
     std::optional<double> bytesPerSecond() const {
         if (samples_.empty()) return std::nullopt;
         const Seconds time = samples_.back().at - samples_.front().at;

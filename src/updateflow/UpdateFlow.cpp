@@ -8,7 +8,7 @@ namespace {
 
 using Stage = UpdateState::Stage;
 
-// What falls over at once has done so by then.
+// A version that fails at its start has done so by then.
 constexpr Seconds trial{2.0};
 
 }  // namespace
@@ -57,15 +57,16 @@ void UpdateFlow::check(Asked asked) {
 }
 
 std::int64_t UpdateFlow::newestDate() const {
-    // The settings file may say anything.
+    // The settings file may contain any number.
     constexpr double latest = 1e12;
     const double seconds = context_.defaults.number(newestFeed);
     return seconds > 0 && seconds < latest ? static_cast<std::int64_t>(seconds) : 0;
 }
 
 void UpdateFlow::noteFeed(std::int64_t date) {
-    // An older one from now on is one that somebody kept. One from the future was made with a wrong
-    // clock, and must not lock out those that come after it; a wrong clock here forgets nothing.
+    // From now on an older feed is refused as a replay. A date in the future comes from a wrong
+    // clock and must not block later feeds, so it counts as now; a wrong clock here never lowers
+    // the stored date.
     const Date now = context_.clock.now();
     const auto seconds = std::chrono::floor<std::chrono::seconds>(now.time_since_epoch());
     const auto known = std::min<std::int64_t>(date, seconds.count());
@@ -95,7 +96,7 @@ void UpdateFlow::found(const UpdateItem& item) {
     const bool isSkipped = context_.defaults.text(skippedVersion) == item.version;
     if (isSkipped && !isAskedByUser) return;
     show({.stage = Stage::found, .item = item});
-    // Whoever types somewhere else is not disturbed.
+    // A scheduled check must not take the keyboard from another window.
     if (!isAskedByUser) window_->orderFront();
 }
 
@@ -141,12 +142,13 @@ void UpdateFlow::failed(const report::Failed& failure) {
           .item = state.value().item,
           .message = failure.message,
           .page = failure.page});
-    // It may have been closed meanwhile.
+    // The user may have closed the window meanwhile.
     window_->orderFront();
 }
 
 void UpdateFlow::tell(const report::RolledBack& back) {
-    // One that was tried is not offered again by itself: it would fail again.
+    // A version that failed to start is not offered by scheduled checks, because it would fail
+    // again.
     if (!back.version.empty()) context_.defaults.set(skippedVersion, back.version);
     context_.observer.didAbortWithError(back.message);
     telling_ = context_.scheduler.after(Seconds(0), [this, back] {
@@ -175,7 +177,7 @@ void UpdateFlow::openLink(const std::string& address) {
 
 void UpdateFlow::close() {
     const Stage stage = state.value().stage;
-    // Too late for that: the program ends in a moment.
+    // It is too late to cancel while installing: the program ends in a moment.
     if (stage == Stage::closed || stage == Stage::installing) return;
     if (stage == Stage::checking || stage == Stage::downloading) context_.engine->cancel();
     if (stage == Stage::checking) check_.reset();
@@ -190,7 +192,7 @@ void UpdateFlow::show(UpdateState next) {
         if (!window_) window_ = context_.makeWindow(*this);
     } else if (window_) {
         window_->close();
-        // Not now: it is the one that asks for it.
+        // The window may be the caller, so it is destroyed later.
         removal_ = context_.scheduler.after(Seconds(0), [this] { window_.reset(); });
     }
 }

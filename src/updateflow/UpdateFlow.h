@@ -19,35 +19,35 @@
 
 namespace vantle {
 
-/// What the user is shown of an update.
+/// What the user sees of an update.
 struct UpdateState {
     enum class Stage {
-        closed,  ///< Nothing.
+        closed,  ///< Nothing is shown.
         checking,
         found,
         downloading,
         installing,
         upToDate,
         checkFailed,
-        failed,  ///< To install it.
+        failed,  ///< The update was not installed.
     };
     Stage stage = Stage::closed;
-    UpdateItem item;              ///< From `found` on; else empty.
-    std::string message;          ///< Why there is none, or what went wrong.
-    std::string page;             ///< Of a failure: where to get it instead; may be empty.
+    UpdateItem item;              ///< Set from `found` on; otherwise empty.
+    std::string message;          ///< Why there is no update, or what went wrong.
+    std::string page;             ///< After a failure, a page with the update; may be empty.
     std::uint64_t received = 0;   ///< Bytes while downloading.
-    std::optional<double> speed;  ///< Bytes per second, once it is known.
+    std::optional<double> speed;  ///< In bytes per second, once it is known.
 };
 
-/// An update from the check to the relaunch, and what the user says to it. A check that nobody
-/// asked for is not seen unless it finds something that the user has not skipped. Main thread only.
+/// Leads an update from the check to the relaunch and handles the user's decisions. A scheduled
+/// check is visible only if it finds a version that the user has not skipped. Main thread only.
 class UpdateFlow final : public Updater {
 public:
     static constexpr auto skippedVersion = "skippedUpdate";
     static constexpr auto channel = "updateChannel";
     static constexpr auto newestFeed = "newestUpdateFeed";
 
-    /// What it borrows outlives it.
+    /// Everything borrowed must outlive the flow.
     struct Context {
         Scheduler& scheduler;
         const WallClock& clock;
@@ -56,7 +56,7 @@ public:
         FileOpener& opener;
         UpdaterObserver& observer;
         std::unique_ptr<UpdateEngine> engine;
-        std::string version;  ///< That runs.
+        std::string version;  ///< The running version.
         std::function<std::unique_ptr<Window>(UpdateFlow& flow)> makeWindow;
     };
     explicit UpdateFlow(Context context);
@@ -67,12 +67,13 @@ public:
     const std::string& version() const { return context_.version; }
     Published<UpdateState> state{UpdateState()};
 
-    // What the user does. Each is for the stages in which it is offered, and ignored in others.
+    // The user's actions. Each has an effect only in the stages in which it is offered.
     void install();
     void skip();
     void openPage();
     void openLink(const std::string& address);
-    /// Cancels what can be cancelled, puts off what was found, takes note of the rest.
+    /// Cancels a check or a download, postpones a found update, and dismisses any other message.
+    /// Has no effect while an update is being installed.
     void close();
 
 private:
@@ -87,15 +88,15 @@ private:
     void tell(const report::RolledBack& back);
     void show(UpdateState state);
     OfferedVersion offered() const;
-    /// Of the feeds that were ever seen; 0 for none.
+    /// Returns the date of the newest feed ever seen, in seconds since 1970; 0 if there is none.
     std::int64_t newestDate() const;
     void noteFeed(std::int64_t date);
 
     Context context_;
     UpdateSchedule schedule_;
-    std::optional<Asked> check_;  ///< While one is under way.
+    std::optional<Asked> check_;  ///< Present while a check is in progress.
     DownloadSpeed speed_;
-    std::unique_ptr<Window> window_;  ///< While something is shown.
+    std::unique_ptr<Window> window_;  ///< Exists while something is shown.
     TimerPointer confirmation_;
     TimerPointer telling_;
     TimerPointer removal_;

@@ -8,9 +8,9 @@ namespace vantle {
 namespace {
 
 constexpr Seconds interval = std::chrono::hours(24);
-// Not while the desktop starts.
+// Nothing is checked while the desktop is still starting.
 constexpr Seconds settled = std::chrono::minutes(1);
-// The timer stands still while the machine sleeps; the date does not.
+// The timer stops while the machine sleeps, so the date is compared at least this often.
 constexpr Seconds maximumWait = std::chrono::hours(1);
 
 Seconds sinceEpoch(const WallClock& clock) {
@@ -39,7 +39,7 @@ void UpdateSchedule::wake() {
     if (isFirstLaunch) return noteCheck();
     const bool isDue = untilNextCheck() <= Seconds(0);
     if (isDue) check_();
-    // Nothing is checked while the last find is still on the screen, which may be for days.
+    // The check may have been skipped, because the last result can stay on the screen for days.
     wakeAfter(isDue ? maximumWait : std::clamp(untilNextCheck(), settled, maximumWait));
 }
 
@@ -49,7 +49,7 @@ void UpdateSchedule::wakeAfter(Seconds delay) {
 
 Seconds UpdateSchedule::untilNextCheck() const {
     const Seconds passed = sinceEpoch(clock_) - Seconds(defaults_.number(lastCheck));
-    // The clock was set back: when the last one was is not known.
+    // The clock was set back, so the time since the last check is unknown.
     if (passed < Seconds(0)) return Seconds(0);
     return interval - passed;
 }

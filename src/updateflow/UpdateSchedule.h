@@ -9,21 +9,22 @@
 
 namespace vantle {
 
-/// When to look for updates without being asked: once a day, for the first time in the second
-/// launch, and not at all where the settings file says so (`automaticUpdateChecks=false`).
-/// A launch of less than a minute does not count. Main thread only.
+/// Decides when to look for updates without a request by the user: once a day, for the first time
+/// in the second launch, and never if the settings file contains `automaticUpdateChecks=false`. A
+/// launch of less than a minute does not count. Main thread only.
 class UpdateSchedule {
 public:
     static constexpr auto isAutomatic = "automaticUpdateChecks";
-    /// In seconds since 1970; of the first launch, while there was none.
+    /// The time of the last check in seconds since 1970; the time of the first launch before any
+    /// check.
     static constexpr auto lastCheck = "lastUpdateCheck";
 
-    /// Begins. What it borrows outlives it.
+    /// Starts the schedule. Everything borrowed must outlive this object.
     UpdateSchedule(Scheduler& scheduler, const WallClock& clock, UserDefaults& defaults,
                    std::function<void()> check);
     ~UpdateSchedule();
 
-    /// To be told of every check.
+    /// Must be called for every check.
     void noteCheck();
 
 private:
