@@ -2,7 +2,7 @@
 
 namespace vantle {
 
-/// A spring: the period of its undamped motion in seconds, and its damping, 1 being critical.
+/// A spring: the period of its undamped motion in seconds, and its damping (1 is critical).
 struct Animation {
     double response;
     double dampingFraction;

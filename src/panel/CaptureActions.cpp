@@ -16,10 +16,10 @@ constexpr Animation defaultAnimation{.response = 0.55, .dampingFraction = 1.0};
 constexpr Animation pinSpring{.response = 0.3, .dampingFraction = 0.7};
 constexpr Seconds copiedConfirmation{1.2};
 constexpr Seconds missingNotice{3};
-// So that it is seen that something was copied before the card goes.
+// The delays leave time to show that something was copied before the captures go.
 constexpr Seconds removalAfterCopy{0.7};
 constexpr Seconds removalAfterCopyOfSelection{0.3};
-// By then whoever took the file has its contents.
+// The program that took the file must have time to read it.
 constexpr Seconds trashDelay{5};
 
 std::vector<Url> urls(const std::vector<CapturePointer>& captures) {
@@ -29,7 +29,7 @@ std::vector<Url> urls(const std::vector<CapturePointer>& captures) {
     return urls;
 }
 
-/// What logs a failure behind `introduction`.
+/// Returns a completion that logs a failure, preceded by `introduction`.
 Trash::Completion logging(std::string introduction) {
     return [introduction = std::move(introduction)](const Outcome& failure) {
         if (failure) systemLog(introduction + failure->message);

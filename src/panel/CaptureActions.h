@@ -19,11 +19,11 @@
 
 namespace vantle {
 
-/// What can be done with the captures of the card, and what becomes of those that were used. Main
-/// thread only. Deferred work holds it weakly.
+/// Performs the actions on the card's captures, and removes or deletes used captures if the
+/// settings say so. Main thread only. Deferred work holds the object weakly.
 class CaptureActions : public std::enable_shared_from_this<CaptureActions> {
 public:
-    /// All outlive it.
+    /// All members must outlive the object.
     struct Services {
         const Settings& settings;
         Scheduler& scheduler;
@@ -39,34 +39,37 @@ public:
 
     static std::shared_ptr<CaptureActions> create(const Services& services);
 
-    /// These are to leave the card.
+    /// Called with the captures that must leave the card.
     std::function<void(const std::vector<CapturePointer>&)> onRemove = [](const auto&) {};
 
-    /// Each is a use of the capture, if its file is there; else its tile says that it is gone.
+    /// Both count as a use of the capture if its file exists; otherwise the capture's tile says
+    /// that the file is gone.
     void open(const CapturePointer& capture);
     void reveal(const CapturePointer& capture);
 
-    /// Each copies to the clipboard, which is a use.
+    /// Both copy to the clipboard, which counts as a use.
     void copy(const CapturePointer& capture);
     void copySelected();
 
-    /// Opens the share menu beside a place on the screen. A use once a service is chosen.
+    /// Opens the share menu beside `anchor` (in screen coordinates). Counts as a use if a service
+    /// is chosen.
     void share(const CapturePointer& capture, const Rect& anchor);
     void closeShareMenu();
 
-    /// Each moves the files to the Trash at once, whatever the settings.
+    /// Both move the files to the Trash at once, whatever the settings say.
     void trash(const CapturePointer& capture);
     void trashSelected();
 
-    /// Takes them from the card alone.
+    /// Removes the selected captures from the card and keeps their files.
     void removeSelected();
 
     void togglePin(const CapturePointer& capture);
 
-    /// What a drag carries that starts on this one: the whole selection, if it is selected.
+    /// Returns the items of a drag that starts on this capture: the capture itself first, then the
+    /// rest of the selection if the capture is selected.
     std::vector<DragItem> dragItems(const CapturePointer& startingFrom) const;
     void dragBegan();
-    /// A completed one is a use of those that are still on the card.
+    /// A completed drag counts as a use of those captures that are still on the card.
     void dragEnded(bool completed, const std::vector<Url>& urls);
 
 private:
@@ -75,13 +78,13 @@ private:
     bool isThere(const CapturePointer& capture);
     void copyToPasteboard(const std::vector<CapturePointer>& captures);
     void trashAll(const std::vector<CapturePointer>& captures);
-    /// Captures that were used leave the card after `delay`, if the settings say so.
+    /// Removes used captures from the card after `delay`, if the settings say so.
     void afterUse(const std::vector<CapturePointer>& captures, Seconds delay = Seconds(0));
-    /// The files of captures that were used go to the Trash a little later, if the settings say so.
+    /// Moves the files of used captures to the Trash a little later, if the settings say so.
     void trashLater(const std::vector<CapturePointer>& captures);
 
     Services services_;
-    std::shared_ptr<ShareCompletion> shareDelegate_;  ///< Lives as long as the menu.
+    std::shared_ptr<ShareCompletion> shareDelegate_;  ///< The menu holds it weakly.
 };
 
 }  // namespace vantle

@@ -16,7 +16,7 @@ namespace vantle {
 namespace {
 
 constexpr Seconds hideDelay{0.5};
-constexpr Seconds releaseDelay{2};  // so that who takes a screenshot a second waits for nothing
+constexpr Seconds releaseDelay{2};  // keeps the panel loaded while screenshots follow quickly
 constexpr Seconds debugDumpDelay{1.2};
 constexpr Animation removalSpring{.response = 0.45, .dampingFraction = 0.82};
 constexpr Rect frameWithoutScreens{{0, 0}, {1440, 900}};
@@ -25,7 +25,7 @@ std::string text(bool value) {
     return value ? "true" : "false";
 }
 
-/// The visible frame of the screen that holds the pointer.
+/// Returns the visible frame of the screen with the pointer, else of another, else a fixed frame.
 Rect visibleFrame(const Screens& screens) {
     const auto all = screens.all();
     const Point pointer = screens.pointerLocation();
@@ -68,7 +68,7 @@ void CapturePanelController::connect() {
     snapshots_->onDue =
         weakly(self, [](auto& controller, const auto& path) { controller.writeSnapshot(path); });
     corner_ = services_.settings.corner.observeChanges([this](PanelCorner) {
-        // A change is announced before it is stored.
+        // Published announces a change before it stores it, so the new corner is read later.
         services_.scheduler.async(
             weakly(shared_from_this(), [](auto& controller) { controller.moveToCorner(); }));
     });
@@ -125,7 +125,7 @@ void CapturePanelController::add(const CapturePointer& capture) {
         captures.erase(old);
     }
     captures.push_back(capture);
-    // The identifiers of those dropped may stay selected or pinned: they match nothing any more.
+    // The identifiers of dropped captures may stay selected or pinned; they match nothing any more.
     if (captures.size() > CardLayout::maxCaptures)
         captures.erase(captures.begin(), captures.end() - CardLayout::maxCaptures);
     state_.captures.set(std::move(captures));
@@ -143,7 +143,7 @@ void CapturePanelController::replaceMarks(const UUID& old, const UUID& current) 
 void CapturePanelController::present() {
     panel_->orderFrontRegardless();
     if (state_.visible.value()) return;
-    // The card is to see the panel on the screen before it appears, so that it moves in.
+    // The window must be on the screen before the card becomes visible, so that the card moves in.
     services_.scheduler.async(
         weakly(shared_from_this(), [](auto& self) { self.state_.visible.set(true); }));
 }
@@ -241,7 +241,7 @@ void CapturePanelController::dismiss() {
         return "dismiss; visible=" + text(state_.visible.value()) +
                " count=" + std::to_string(state_.captures.value().size());
     });
-    // The menu points at a card that is no longer there.
+    // The share menu points at the card, which is about to go.
     captureActions_->closeShareMenu();
     countdown_->stop();
     state_.hovering.set(false);
@@ -254,8 +254,8 @@ void CapturePanelController::dismiss() {
 }
 
 void CapturePanelController::hide() {
-    // Of two dismissals the first one's work is still under way: a capture that came since then
-    // has taken back both.
+    // After two dismissals both timers are pending, but show() can cancel only the second one. It
+    // resets `hideWork_`, so the first timer finds nothing to do.
     if (!hideWork_) return;
     if (!hideWork_->isValid()) hideWork_.reset();
     state_.captures.set({});

@@ -27,12 +27,12 @@
 
 namespace vantle {
 
-/// Owns the floating panel: its model, its window (made on the first show), its countdown, and what
-/// is done with its captures. Itself it presents, places, fills and hides the panel. Main thread
-/// only. Deferred work and the card's callbacks hold it weakly.
+/// Owns the floating panel: its model, its window (made by the first show()), its countdown and the
+/// actions on its captures. Presents, places, fills and hides the panel. Main thread only. Deferred
+/// work and the card's callbacks hold the controller weakly.
 class CapturePanelController : public std::enable_shared_from_this<CapturePanelController> {
 public:
-    /// Makes the panel's window over `state` and the settings, which both outlive it.
+    /// Makes the panel's window, which shows `state` and the settings. Both outlive the window.
     using PanelFactory = std::function<std::unique_ptr<PanelWindow>(
         PanelState& state, Settings& settings, CardActions actions)>;
 
@@ -55,48 +55,48 @@ public:
     bool isVisible() const { return state_.visible.value(); }
     const PanelState& state() const { return state_; }
 
-    /// Adds a capture, or moves it to the end, and presents the panel.
+    /// Adds the capture, or moves it to the end if it is already shown, and presents the panel.
     void show(const CapturePointer& capture);
 
-    /// Copies the capture to the clipboard, which is a use of it.
+    /// Copies the capture to the clipboard, which counts as a use of it.
     void copy(const CapturePointer& capture);
 
-    /// Opens the share menu beside that part of the panel's content.
+    /// Opens the share menu beside `anchor`, a rectangle in the panel's content.
     void share(const CapturePointer& capture, const Rect& anchor);
 
     void remove(const CapturePointer& capture);
 
-    /// Removes these captures with an animation; dismisses the panel when none is left.
+    /// Removes these captures with an animation. Dismisses the panel if none is left.
     void removeMany(const std::vector<CapturePointer>& captures);
 
-    /// Gives the panel the keyboard, if it is on the screen.
+    /// Gives the panel the keyboard if it is on the screen.
     void takeKeyboard();
 
-    /// Hides the panel at once and drops all captures half a second later. A show() in between
-    /// keeps them.
+    /// Makes the card leave at once. Half a second later the window goes and all captures are
+    /// dropped, unless show() is called in between.
     void dismiss();
 
 private:
     explicit CapturePanelController(Services services);
 
     void connect();
-    /// A card that leaves has no rubber band.
+    /// Updates the rubber band and the selection. Does nothing while the card is leaving.
     void marqueeChanged(const std::optional<Rect>& rect);
 
     void createPanel();
     void position(PanelWindow& panel);
-    /// A card that stands goes to the corner that the user has just chosen.
+    /// Moves a visible card to the corner that the user has just chosen.
     void moveToCorner();
     void add(const CapturePointer& capture);
-    /// An equal capture that takes the place of another is selected and pinned as that was.
+    /// Gives `current` the selection and pin of `old`, the equal capture that it replaces.
     void replaceMarks(const UUID& old, const UUID& current);
     void present();
     void scheduleDebugHooks();
     void writeSnapshot(const std::string& path);
-    /// The countdown has run out: what is not pinned leaves.
+    /// Removes the captures that are not pinned, after the countdown has run out.
     void expire();
     void hide();
-    /// The card has been gone for a while: what it took is given back.
+    /// Frees what was needed for drawing, after the card has been gone for a while.
     void release();
 
     Services services_;
@@ -107,8 +107,8 @@ private:
     std::shared_ptr<DebugSnapshots> snapshots_;
     std::unique_ptr<PanelWindow> panel_;
     Subscription corner_;
-    TimerPointer hideWork_;     ///< Of the latest dismissal, until it has run or was taken back.
-    TimerPointer releaseWork_;  ///< Of the latest time that the card has gone.
+    TimerPointer hideWork_;     ///< Hides the panel; null once it has run or was cancelled.
+    TimerPointer releaseWork_;  ///< Calls release() after the panel was hidden.
 };
 
 }  // namespace vantle

@@ -6,14 +6,14 @@ namespace vantle {
 
 CardActions makeCardActions(const std::shared_ptr<CapturePanelController>& controller,
                             CaptureActions& captures, Selection& selection, FileOpener& opener) {
-    // The parts live while the controller does.
+    // The controller owns the parts, so they live as long as it does.
     const auto weak = [&controller](auto& part, auto operation) {
         return weakly(controller, [&part, operation](auto&, const auto&... arguments) {
             (part.*operation)(arguments...);
         });
     };
     const std::weak_ptr<CapturePanelController> held = controller;
-    // The file is opened and shown also when the controller has gone.
+    // A file can be opened and revealed even after the controller has gone.
     const auto look = [&held, &captures](auto operation, auto otherwise) {
         return [held, &captures, operation, otherwise](const CapturePointer& capture) {
             if (const auto owner = held.lock())

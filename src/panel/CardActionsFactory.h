@@ -10,8 +10,8 @@
 
 namespace vantle {
 
-/// The callbacks through which the card reaches the controller and these of its parts. Each holds
-/// the controller weakly. `opener` outlives them.
+/// Makes the callbacks through which the card reaches the controller and these of its parts. Each
+/// callback holds the controller weakly. `opener` must outlive the callbacks.
 CardActions makeCardActions(const std::shared_ptr<CapturePanelController>& controller,
                             CaptureActions& captures, Selection& selection, FileOpener& opener);
 

@@ -8,35 +8,35 @@
 
 namespace vantle {
 
-/// Constants and sizes of the card, in points. Pure functions.
+/// The constants and sizes of the card, in points. All functions are pure.
 class CardLayout {
 public:
     static constexpr int maxCaptures = 40;
-    /// Between the card's edge and what is on it.
+    /// The distance between the card's edge and its content.
     static constexpr double padding = 12;
-    /// The part of the padding that belongs to the row of tiles, which scrolls with it.
+    /// The part of the padding that belongs to the row of tiles and scrolls with it.
     static constexpr double innerMargin = 10;
-    /// Between two tiles.
+    /// The gap between two tiles.
     static constexpr double spacing = 10;
-    /// The row of tiles scrolls when it is wider.
+    /// A wider row of tiles scrolls.
     static constexpr double maxContentWidth = 640;
     static constexpr double thumbnailCornerRadius = 12;
-    /// The panel window's one and only size.
+    /// The size of the panel window, which never changes.
     static constexpr Size windowSize{800, 330};
 
-    /// The height of the tiles when `count` captures are on show.
+    /// Returns the height of the tiles when `count` captures are shown.
     static double tileHeight(int count);
 
-    /// The size of a capture's tile when `count` captures are on show.
+    /// Returns the size of a capture's tile when `count` captures are shown.
     static Size tileSize(int count, const Capture& capture);
 
-    /// The width of the tile of a capture that is alone: wide enough for its controls.
+    /// Returns the width of the tile of a single capture, which is wide enough for its controls.
     static double singleWidth(const Capture& capture);
 
-    /// The natural width of the whole row.
+    /// Returns the natural width of the whole row.
     static double contentWidth(const std::vector<CapturePointer>& captures);
 
-    /// Where the panel window stands inside the visible frame of a screen (y upwards).
+    /// Returns the frame of the panel window inside the visible frame of a screen (y upwards).
     static Rect windowFrame(PanelCorner corner, const Rect& visibleFrame);
 };
 

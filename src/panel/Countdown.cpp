@@ -9,7 +9,7 @@ namespace {
 
 constexpr Seconds progressTick{1.0 / 30};
 constexpr Seconds minimumSavedOnPause{1.5};
-// Time to move back to a card after leaving it, even when the countdown had almost run out.
+// Leaves time to return to the card, even if the countdown had almost run out.
 constexpr Seconds minimumOnResume{2.5};
 
 }  // namespace

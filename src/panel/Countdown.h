@@ -11,36 +11,36 @@
 
 namespace vantle {
 
-/// The time after which the card leaves by itself, told by a one-shot timer, and by a fast one that
-/// moves the indicator. It waits while the pointer is over the card, and while the user is at
-/// something that needs the card although the pointer has left it. Main thread only. Deferred work
-/// holds it weakly.
+/// Counts the time until the card leaves by itself. A one-shot timer ends the countdown, and a fast
+/// timer moves the indicator. The countdown pauses while the pointer is over the card. It also
+/// pauses during a drag, a share menu or a rubber band, which need the card after the pointer has
+/// left it. Main thread only. Deferred work holds the countdown weakly.
 class Countdown : public std::enable_shared_from_this<Countdown> {
 public:
-    /// All outlive it.
+    /// All members must outlive the countdown.
     struct Services {
         const Settings& settings;
         Scheduler& scheduler;
-        PanelState& state;  ///< Its `progress` is written here.
+        PanelState& state;  ///< The countdown writes its `progress`.
     };
 
     static std::shared_ptr<Countdown> create(const Services& services);
     ~Countdown();
 
-    /// The time is over.
+    /// Called when the time is over.
     std::function<void()> onExpiry = [] {};
 
-    /// Starts with the whole time, or waits with it while the card is needed. Does not run where
-    /// the card is to stay.
+    /// Starts with the whole time. While the card is in use, the countdown waits to start. If the
+    /// settings say that the card stays, this is the same as reset().
     void restart();
 
-    /// Stops it until the next restart(), with the indicator as it is.
+    /// Stops the countdown until the next restart() and leaves the indicator as it is.
     void stop();
 
-    /// The same with the indicator full.
+    /// Stops the countdown until the next restart() and fills the indicator.
     void reset();
 
-    /// Several drags may be under way: one may begin while another waits for its target's answer.
+    /// Drags may overlap: one can begin while another waits for its target's answer.
     void dragBegan();
     void dragEnded();
 
@@ -48,16 +48,16 @@ public:
     void shareMenuClosed();
     bool isShareMenuOpen() const { return isShareMenuOpen_; }
 
-    /// To be called once the state has a rubber band, and once it has none any more.
+    /// Both must be called after the state's `marquee` has been set or cleared.
     void marqueeBegan();
     void marqueeEnded();
 
 private:
     explicit Countdown(const Services& services);
 
-    /// Holds it where it is, if it runs.
+    /// Pauses the countdown if it is running.
     void pause();
-    /// Goes on with what was left when it was paused, and with enough to come back to the card.
+    /// Continues with the time that was left, and with enough time to return to the card.
     void resume();
     bool isInUse() const {
         return drags_ > 0 || isShareMenuOpen_ || services_.state.marquee.value();

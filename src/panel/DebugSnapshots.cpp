@@ -21,8 +21,8 @@ void DebugSnapshots::schedule(const std::string& path) {
 
 void DebugSnapshots::isDue(const std::string& path) {
     const bool isLast = --pending_ == 0;
-    // Each is a whole card. Of captures that come in a crowd there is nothing to see but the last
-    // one, and a program that draws them all answers nobody meanwhile.
+    // Each picture draws a whole card. If many captures come at once, only the last picture is of
+    // interest, and drawing them all would block the program.
     if (!isLast && last_ && scheduler_.now() - *last_ < interval) return;
     onDue(path);
     last_ = scheduler_.now();

@@ -9,17 +9,17 @@
 
 namespace vantle {
 
-/// When the pictures of the card are drawn that VANTLE_SNAPSHOT asks for. Main thread only.
+/// Schedules the pictures of the card that VANTLE_SNAPSHOT requests. Main thread only.
 class DebugSnapshots : public std::enable_shared_from_this<DebugSnapshots> {
 public:
-    /// `scheduler` outlives it.
+    /// `scheduler` must outlive the object.
     static std::shared_ptr<DebugSnapshots> create(Scheduler& scheduler);
 
-    /// To be drawn now, into a file at `path`.
+    /// Called when a picture must be drawn into a file at `path`.
     std::function<void(const std::string& path)> onDue = [](const std::string&) {};
 
-    /// Has one drawn a little later. Of many that are due within a second some are left out, but
-    /// never the last one.
+    /// Schedules a picture for a little later. If many are due within a second, some are left out,
+    /// but never the last one.
     void schedule(const std::string& path);
 
 private:

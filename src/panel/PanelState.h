@@ -13,31 +13,31 @@
 
 namespace vantle {
 
-/// What the panel shows: a plain holder. Only the controller and what it owns write it, but for
-/// `hovering`, which the card sets. Main thread only.
+/// Holds what the panel shows, as plain data. Only the controller and the objects that it owns
+/// write it, except for `hovering`, which the card sets. Main thread only.
 class PanelState {
 public:
     Published<std::vector<CapturePointer>> captures{{}};  ///< Oldest first.
     Published<std::set<UUID>> selected{{}};
     Published<std::set<UUID>> pinned{{}};
-    /// The rubber band while one is drawn, in the panel content's coordinates.
+    /// The rubber band, in the panel content's coordinates, while one is drawn.
     Published<std::optional<Rect>> marquee{std::nullopt};
     Published<bool> visible{false};
-    Published<bool> hovering{false};  ///< Whether the pointer is over the card.
-    /// Whose card shows that it was copied.
+    Published<bool> hovering{false};  ///< True while the pointer or the keyboard is on the card.
+    /// The capture whose tile shows that it was copied.
     Published<std::optional<UUID>> copiedID{std::nullopt};
-    /// Whose file was gone when it was to be used: its tile says so for a while.
+    /// The capture whose file was gone when it was needed. Its tile says so for a while.
     Published<std::optional<UUID>> missingID{std::nullopt};
     Published<double> progress{1.0};  ///< The part of the countdown that is left, 0 to 1.
 
-    /// Copied from the setting at each add; nobody observes it.
+    /// Copied from the setting whenever the panel is placed; cannot be observed.
     PanelCorner corner = PanelCorner::bottomRight;
 
-    /// The spring with which the change that is being announced is to be shown; absent outside
+    /// Returns the spring with which to show the change that is being announced; absent outside
     /// animated changes.
     const std::optional<Animation>& animation() const { return animation_; }
 
-    /// Makes `changes` with `animation` in force.
+    /// Runs `changes`; meanwhile animation() returns `animation`.
     template <typename Changes>
     void animate(const Animation& animation, Changes&& changes) {
         animation_ = animation;

@@ -6,7 +6,7 @@
 namespace vantle {
 namespace {
 
-// The springs of the card are at rest by then.
+// The springs of the card are at rest after this time.
 constexpr Seconds settling{1};
 
 }  // namespace
@@ -27,14 +27,14 @@ void PressGuard::contentChanges(Instant now, const std::optional<Point>& pointer
 void PressGuard::pointerEnters(const Point& point, const Target& target, Instant now) {
     rest_ = point;
     target_ = target;
-    // It may be the window that has come, and not the pointer.
+    // The window may have come to the pointer, not the pointer to the window.
     const bool hasMoved = pointerThen_ && !isNear(point, *pointerThen_);
     slidUnderAt_ = isSettling(now) && !hasMoved ? std::optional(now) : std::nullopt;
 }
 
 void PressGuard::pointerMoves(const Point& point, const Target& target) {
     target_ = target;
-    // A hand that clicks is never quite still.
+    // A hand that clicks is never quite still, so small movements do not count.
     if (rest_ && isNear(point, *rest_)) return;
     rest_ = point;
     slidUnderAt_.reset();

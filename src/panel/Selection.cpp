@@ -33,7 +33,7 @@ void Selection::selectTouched(const Rect& rect, const std::vector<VisibleThumbna
     for (const auto& [id, frame] : thumbnails) {
         const bool isSeen = frame.size.width > 0 && frame.size.height > 0;
         const auto isThat = [&wanted = id](const auto& capture) { return capture->id() == wanted; };
-        // A tile that is on its way out stands for no capture of the card.
+        // A tile that is leaving no longer has a capture on the card.
         if (isSeen && intersects(frame, rect) && std::ranges::any_of(captures, isThat))
             hits.insert(id);
     }

@@ -7,20 +7,20 @@
 
 namespace vantle {
 
-/// Which captures of the card are selected. Main thread only.
+/// The selected captures of the card. Main thread only.
 class Selection {
 public:
-    /// `state`, which keeps it, outlives it.
+    /// `state`, which holds the selection, must outlive the object.
     explicit Selection(PanelState& state) : state_(state) {}
 
-    /// Those that are on the card, oldest first.
+    /// Returns the selected captures that are on the card, oldest first.
     std::vector<CapturePointer> captures() const;
     bool contains(const CapturePointer& capture) const;
 
     void toggle(const CapturePointer& capture);
     void clear();
 
-    /// Selects the captures of the card whose thumbnails can be seen inside `rect`, and no other.
+    /// Selects the captures of the card whose visible thumbnails intersect `rect`, and no others.
     void selectTouched(const Rect& rect, const std::vector<VisibleThumbnail>& thumbnails);
 
 private:

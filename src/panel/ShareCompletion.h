@@ -7,7 +7,7 @@
 
 namespace vantle {
 
-/// Tells `done` whether a sharing service was chosen from the menu.
+/// Calls `done` when the share menu has closed, with true if a service was chosen.
 class ShareCompletion final : public SharingServicePickerDelegate {
 public:
     explicit ShareCompletion(std::function<void(bool wasChosen)> done) : done_(std::move(done)) {}

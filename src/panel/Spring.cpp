@@ -6,9 +6,9 @@
 
 namespace vantle {
 
-// Under unit mass the response is the period of the undamped motion, so the stiffness is the
-// square of 2π / response, and the damping 2 × fraction × 2π / response. A fraction above 1 is
-// taken as 1: the slower motion of an overdamped spring is asked for nowhere.
+// With unit mass the response is the period of the undamped motion. Therefore the stiffness is the
+// square of 2π / response, and the damping is 2 × fraction × 2π / response. A fraction above 1 is
+// treated as 1, because nothing needs the slower motion of an overdamped spring.
 Spring::Spring(const Animation& animation, State start, double target)
     : target_(target), distance_(start.value - target) {
     const double undamped = 2 * std::numbers::pi / animation.response;
@@ -36,8 +36,8 @@ double Spring::settlingTime(double tolerance) const {
     if (decay_ <= 0) return HUGE_VAL;
     const double swing = std::hypot(distance_, push_);
     if (frequency_ > 0) return std::max(0.0, std::log(swing / tolerance) / decay_);
-    // Without swinging the offset is (distance + push × t) e^(-decay t): the bound on its factor
-    // grows with the time itself, and a few rounds bring the two together.
+    // Without a swing the offset is (distance + push × t) e^(-decay t). The bound on its factor
+    // grows with the time itself, so the time is found by iteration.
     double seconds = 0;
     for (int round = 0; round < 8; ++round) {
         const double bound = std::abs(distance_) + std::abs(push_) * seconds;

@@ -4,32 +4,33 @@
 
 namespace vantle {
 
-/// The motion of a damped spring from where something is to where it shall be, in closed form:
-/// its place and speed at any time, however far apart the frames are. Lengths are in whatever unit
-/// the caller uses, times in seconds since the motion began. A motion that is interrupted goes on
-/// without a jump: a new spring begins with the place and the speed of the old one.
+/// The motion of a damped spring from a start to a target, in closed form: it gives the place and
+/// the speed at any time, however far apart the frames are. Lengths are in the caller's unit, times
+/// in seconds since the motion began. To interrupt a motion without a jump, begin a new spring with
+/// the place and the speed of the old one.
 class Spring {
 public:
-    /// Where it stands at some moment, and how fast it moves (units a second).
+    /// The place at one moment, and the speed in units a second.
     struct State {
         double value;
         double velocity;
     };
 
-    /// `animation.response` is above 0; a damping fraction of 1 or more does not swing.
+    /// `animation.response` must be above 0. The spring does not swing if the damping fraction is 1
+    /// or more.
     Spring(const Animation& animation, State start, double target);
 
     State at(double seconds) const;
 
-    /// When the motion stays within `tolerance` (above 0) of the target for good.
+    /// Returns the time after which the motion stays within `tolerance` (above 0) of the target.
     double settlingTime(double tolerance) const;
 
 private:
     double decay_;      ///< How fast the envelope of the motion falls.
-    double frequency_;  ///< Of the swinging, in radians a second; 0 when it does not swing.
+    double frequency_;  ///< Frequency of the swing in radians a second; 0 if there is none.
     double target_;
-    double distance_;  ///< From the target at the start.
-    double push_;      ///< What the speed at the start adds.
+    double distance_;  ///< Distance from the target at the start.
+    double push_;      ///< What the speed at the start adds to the offset.
 };
 
 }  // namespace vantle
