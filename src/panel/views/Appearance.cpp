@@ -81,7 +81,7 @@ QColor Appearance::accent() const {
 }
 
 QColor Appearance::windowBackground() const {
-    // The palette's own colour only where it is of the kind that the desktop asks for.
+    // The palette's own colour is used only if it is light or dark as the desktop requests.
     if (isDark() == isDarkPalette()) return QGuiApplication::palette().color(QPalette::Window);
     return isDark() ? QColor(40, 40, 43) : QColor(239, 239, 241);
 }

@@ -10,8 +10,8 @@
 
 namespace vantle {
 
-/// The colours of the card, light or dark as the desktop asks, else as its palette is. They follow
-/// both while the program runs.
+/// The colours of the card. They are light or dark according to the desktop's setting, or to its
+/// palette if there is no setting, and follow changes of both while the program runs.
 class Appearance : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -22,19 +22,20 @@ class Appearance : public QObject {
     Q_PROPERTY(QColor secondary READ secondary NOTIFY changed)
     Q_PROPERTY(QColor accent READ accent NOTIFY changed)
     Q_PROPERTY(QColor windowBackground READ windowBackground NOTIFY changed)
-    /// The translucent stuff of the plate where nothing blurs what is behind it.
+    /// The translucent material of the plate if nothing blurs what is behind it.
     Q_PROPERTY(QColor popoverMaterial READ popoverMaterial NOTIFY changed)
-    /// The same over a blur, which makes text legible by itself.
+    /// The material of the plate over a blur, which makes text legible by itself.
     Q_PROPERTY(QColor glassMaterial READ glassMaterial NOTIFY changed)
-    /// How much larger than ours the letters of the desktop are: 1 or more.
+    /// The size of the desktop's letters relative to the program's own, from 1 to 3.
     Q_PROPERTY(double textScale READ textScale NOTIFY changed)
-    /// Whether the user wants things to fade rather than to fly.
+    /// True if the user prefers fading to movement.
     Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY changed)
 
 public:
     explicit Appearance(QObject* parent = nullptr);
 
-    /// What all of them follow from now on besides the palette; null: nothing. It outlives them.
+    /// Makes objects that are created later follow `desktop` as well as the palette, or only the
+    /// palette if it is null. `desktop` must outlive these objects.
     static void follow(DesktopAppearance* desktop);
 
     bool isDark() const;
@@ -47,8 +48,9 @@ public:
     double textScale() const;
     bool reducesMotion() const { return look_.reducesMotion; }
 
-    /// What a font is to be told so that it is so many pixels large: fonts know whole pixels, or
-    /// typographic points by the resolution of the first screen, whichever they are drawn on.
+    /// Returns the point size of a font whose letters are `pixels` pixels high. Pixel sizes can
+    /// only be whole numbers, and points are converted by the resolution of the first screen,
+    /// whichever screen the font is drawn on.
     Q_INVOKABLE static double fontPoints(double pixels);
 
     bool eventFilter(QObject* object, QEvent* event) override;

@@ -9,7 +9,7 @@
 namespace vantle {
 namespace {
 
-/// Alone a capture's tile is at least as wide as the card's controls need.
+/// The tile of a single capture is at least as wide as the card's controls need.
 double tileWidth(const Capture& capture, int count) {
     return count == 1 ? CardLayout::singleWidth(capture)
                       : CardLayout::tileSize(count, capture).width;
@@ -80,7 +80,7 @@ void CaptureListModel::setCaptures(const std::vector<CapturePointer>& captures) 
     captures_ = captures;
     markLeaving();
     bringIntoOrder(laidOut());
-    // The size of a tile depends on how many there are, its place on those before it.
+    // The size of a tile depends on the number of tiles, its place on the tiles before it.
     announce({isLeavingRole, positionRole, tileXRole, tileWidthRole, thumbnailHeightRole});
 }
 
@@ -100,8 +100,8 @@ void CaptureListModel::markLeaving() {
     for (Row& row : rows_) row.isLeaving = positionOf(row.capture->id()) < 0;
 }
 
-/// Brings in the rows of those that stay, in their order; the others keep their places between
-/// them.
+/// Puts the rows of the captures that stay into their order. The rows that are leaving keep their
+/// places between them.
 void CaptureListModel::bringIntoOrder(std::vector<Row> staying) {
     int row = 0;
     for (Row& wanted : staying) {

@@ -12,9 +12,9 @@
 
 namespace vantle {
 
-/// The captures on the card as rows. Changes are told as inserts, removals and moves of single
-/// rows, by the captures' identifiers, so that views can animate them. A capture that is taken out
-/// keeps its row, where it was and as large as it was, until the view has shown it leaving.
+/// The captures on the card as rows. Changes are announced as inserts, removals and moves of single
+/// rows, matched by the captures' identifiers, so that views can animate them. A removed capture
+/// keeps its row, with its place and size, until the view has shown it leaving.
 class CaptureListModel : public QAbstractListModel {
     Q_OBJECT
     QML_NAMED_ELEMENT(CaptureList)
@@ -24,8 +24,8 @@ public:
     enum Role {
         captureIdRole = Qt::UserRole,
         fileNameRole,
-        positionRole,  ///< Among the captures that stay, from 0.
-        tileXRole,     ///< From the left edge of the row's first tile.
+        positionRole,  ///< Among the captures that stay, from 0; -1 for one that leaves.
+        tileXRole,     ///< Distance from the left edge of the row's first tile.
         tileWidthRole,
         thumbnailHeightRole,
         hasThumbnailRole,
@@ -34,7 +34,7 @@ public:
         isSelectedRole,
         isPinnedRole,
         isCopiedRole,
-        isMissingRole,  ///< Its file was gone when it was to be used.
+        isMissingRole,  ///< Its file was gone when it was needed.
         isLeavingRole,
     };
 
@@ -50,17 +50,18 @@ public:
     void setCopied(const std::optional<UUID>& copied);
     void setMissing(const std::optional<UUID>& missing);
 
-    /// Takes the row of a capture that has been shown leaving; nothing when it is back.
+    /// Removes the row of a capture that has been shown leaving. Does nothing if the capture is
+    /// back.
     void forget(const QString& captureId);
     void clear();
 
-    /// Null when no row has that identifier.
+    /// Returns null if no row has that identifier.
     CapturePointer capture(const QString& captureId) const;
-    /// The same; null as well for a capture that leaves.
+    /// The same, but also returns null for a capture that is leaving.
     CapturePointer present(const QString& captureId) const;
-    /// How many of those that stay are selected.
+    /// Returns how many of the captures that stay are selected.
     int selectedCount() const;
-    /// Those that stay.
+    /// Returns the captures that stay.
     const std::vector<CapturePointer>& captures() const { return captures_; }
 
 private:

@@ -19,7 +19,7 @@ namespace {
 const QSize windowSize(static_cast<int>(CardLayout::windowSize.width),
                        static_cast<int>(CardLayout::windowSize.height));
 
-/// Every item of that kind below `item`, depth first.
+/// Collects every item of type `Kind` below `item`, depth first.
 template <typename Kind>
 void collect(const QQuickItem& item, std::vector<const Kind*>& found) {
     for (const QQuickItem* child : item.childItems()) {
@@ -34,7 +34,7 @@ std::vector<const DragThumbnailView*> thumbnails(const QQuickWindow& window) {
     return found;
 }
 
-/// The part of it that nothing cuts off, in the scene.
+/// Returns the part of the item that nothing clips, in scene coordinates.
 QRectF visibleRect(const QQuickItem& item) {
     QRectF visible = item.mapRectToScene(item.boundingRect());
     for (const QQuickItem* above = item.parentItem(); above; above = above->parentItem())
@@ -42,7 +42,7 @@ QRectF visibleRect(const QQuickItem& item) {
     return visible;
 }
 
-/// The row in which it stands.
+/// Returns the row of tiles that contains the thumbnail.
 const QQuickItem* rowOf(const QQuickItem& thumbnail) {
     const QQuickItem* above = &thumbnail;
     while (above && above->objectName() != QStringLiteral("tileRow")) above = above->parentItem();
@@ -96,7 +96,7 @@ void CapturePanel::orderOut() {
 }
 
 void CapturePanel::releaseResources() {
-    // What draws the tiles goes with the next frame, and a window that is hidden has none.
+    // The tiles' graphics are freed with the next frame, which a hidden window never draws.
     const bool isDrawn = view_->handle() && DisplayServer::current().drawsHiddenWindows();
     if (isDrawn && view_->rendererInterface()->graphicsApi() == QSGRendererInterface::Software)
         view_->grabWindow();

@@ -11,8 +11,7 @@
 
 namespace vantle {
 
-/// The panel's window, with the card in it. Everything of the view toolkit is loaded with the first
-/// one that is made.
+/// The panel's window with the card in it. The first one that is made loads the whole view toolkit.
 class CapturePanel final : public PanelWindow {
 public:
     explicit CapturePanel(PanelModel::Context context);
@@ -34,8 +33,7 @@ public:
 
 private:
     std::unique_ptr<FirstMouseHostingView> makeView();
-    /// Nothing of what the user was doing with the card is left, and the keyboard goes back where
-    /// it came from.
+    /// Ends a rubber band and gives the keyboard back to the window that had it.
     void cardLeaves();
 
     PanelModel model_;

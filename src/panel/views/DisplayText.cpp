@@ -13,12 +13,12 @@ struct Unit {
     std::chrono::seconds length;
     const char* past;
     const char* future;
-    int least = 1;  ///< How many of them it takes to be told in this one.
+    int least = 1;  ///< The smallest count for which this unit is used.
 };
 
 using namespace std::chrono_literals;
 
-// The largest first. Only days are written out, so only they have a plural in English.
+// The largest unit comes first. Only days are written out, so only they have a plural in English.
 constexpr std::array units = {
     Unit{std::chrono::years(1), QT_TRANSLATE_N_NOOP("RelativeDate", "%n yr. ago"),
          QT_TRANSLATE_N_NOOP("RelativeDate", "in %n yr.")},

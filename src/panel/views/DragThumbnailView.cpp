@@ -13,12 +13,12 @@
 namespace vantle {
 namespace {
 
-constexpr double dragThreshold = 3;  // points; a drag is more than that
+constexpr double dragThreshold = 3;  // points; a drag moves farther
 constexpr double pileOffset = 6;     // points from each item of a pile to the next
 constexpr std::size_t maximumOffsets = 4;
 constexpr int iconSize = 256;  // pixels
 
-/// Stands for a file of which the desktop has no picture either.
+/// Returns the picture of a file for which the desktop has no icon.
 QImage blank() {
     QImage image(iconSize, iconSize, QImage::Format_ARGB32_Premultiplied);
     image.fill(QColor(128, 128, 132));

@@ -12,8 +12,9 @@
 
 namespace vantle {
 
-/// What takes the mouse on a capture's thumbnail: it tells a click from one with a modifier key and
-/// from a drag, and starts that. A drag is still told to the panel when the tile goes meanwhile.
+/// Receives the mouse on a capture's thumbnail. It distinguishes a click, a click with a modifier
+/// key and a drag, and starts the drag. The panel learns how a drag ended even if the tile has
+/// gone.
 class DragThumbnailView : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -27,15 +28,15 @@ public:
 
     const QString& captureId() const { return captureId_; }
 
-    /// The largest rectangle of that size's proportions in the middle of `bounds`; `bounds` where
-    /// the size has none.
+    /// Returns the largest rectangle with the proportions of `size`, centred in `bounds`. Returns
+    /// `bounds` if the size is empty.
     static QRectF fittedRect(const QSizeF& size, const QRectF& bounds);
 
 signals:
     void changed();
-    /// A double-click is one, too.
+    /// Emitted for a click, and once for a double-click.
     void click();
-    /// A click with the key that adds to a selection.
+    /// Emitted for a click with a key that adds to a selection (Control or Shift).
     void toggleSelect();
 
 protected:
@@ -54,9 +55,9 @@ private:
     PanelModel* panel_ = nullptr;
     QString captureId_;
     QString fileName_;
-    std::optional<QPointF> mouseDownPoint_;  ///< In the window; absent when nothing is pressed.
+    std::optional<QPointF> mouseDownPoint_;  ///< In the window; absent if nothing is pressed.
     bool dragging_ = false;
-    bool isSecondClick_ = false;  ///< The press that is going on is the second of a double-click.
+    bool isSecondClick_ = false;  ///< The current press is the second of a double-click.
 };
 
 }  // namespace vantle

@@ -16,7 +16,7 @@ Rect rectBetween(const QPointF& a, const QPointF& b) {
             {std::abs(a.x() - b.x()), std::abs(a.y() - b.y())}};
 }
 
-/// Whether something on the card holds the mouse since this press.
+/// Returns true if an item of the card grabbed the mouse with this press.
 bool isTaken(const QMouseEvent& event) {
     return event.exclusiveGrabber(event.points().front()) != nullptr;
 }
@@ -56,7 +56,7 @@ void FirstMouseHostingView::mouseDown(const QMouseEvent& event) {
 
 void FirstMouseHostingView::mouseDragged(const QMouseEvent& event) {
     if (!downPoint_) return;
-    // A window that was not there at the release was not told of it.
+    // The window misses a release that happens while it is not on the screen.
     if (!(event.buttons() & Qt::LeftButton)) return endMarquee();
     const QPointF way = event.scenePosition() - *downPoint_;
     if (!marqueeActive_ && !(std::hypot(way.x(), way.y()) > marqueeThreshold)) return;

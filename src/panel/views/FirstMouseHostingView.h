@@ -10,20 +10,20 @@
 
 namespace vantle {
 
-/// Hosts the card. It hands each mouse event on to the card first; a press that nothing there takes
-/// is one on the background, and a drag from it draws a rubber band.
+/// Hosts the card. The card receives each mouse event first. A press that no item takes is a press
+/// on the background, and a drag from there draws a rubber band.
 class FirstMouseHostingView final : public ViewWindow {
 public:
-    /// How far a press has to move before it draws a rubber band; exactly that is still a click.
+    /// A press that moves farther than this draws a rubber band; otherwise it is a click.
     static constexpr double marqueeThreshold = 6;  // points
 
-    /// Shows the card of `panel`, which outlives it.
+    /// Shows the card of `panel`, which must outlive the view.
     void loadCard(PanelModel& panel);
 
-    /// Ends the rubber band that is being drawn, if there is one, before the button is released.
+    /// Ends the rubber band, if one is being drawn, before the button is released.
     void endMarquee();
 
-    /// Called with the rubber band while one is drawn, and with nothing when it ends.
+    /// Called with the rubber band while one is drawn, and with std::nullopt when it ends.
     std::function<void(const std::optional<Rect>&)> onMarquee;
     /// Called when a click on the background ends.
     std::function<void()> onBackgroundClick;

@@ -6,15 +6,15 @@
 
 namespace vantle {
 
-/// The translucent plate on which the card's tiles stand. Clicks are caught exactly where it is, by
-/// the content above it: it takes none itself.
-class GlassBackdropView : public vantle::PlateView {  // in full: the linter reads it so
+/// The translucent plate below the card's tiles. It takes no clicks itself; the content above it
+/// takes those within the plate's frame.
+class GlassBackdropView : public vantle::PlateView {  // the linter needs the full name
     Q_OBJECT
     QML_ELEMENT
 
-    /// Whether the presses that it catches count; those on a card that leaves do not.
+    /// True if presses within the plate's frame count; false while the card is leaving.
     Q_PROPERTY(bool isSolid MEMBER isSolid_ NOTIFY isSolidChanged)
-    /// Whether the compositor blurs what is behind it; set by the window that it stands in.
+    /// True if the compositor blurs what is behind the plate. The plate's window sets it.
     Q_PROPERTY(bool isBlurred READ isBlurred NOTIFY isBlurredChanged)
 
 public:
@@ -28,8 +28,8 @@ public:
 
     bool contains(const QPointF&) const override { return false; }
 
-    /// Where it stands in its window, "{{x, y}, {w, h}}" in whole points from the top left;
-    /// "(no window)" while it is in none.
+    /// Returns the plate's frame in its window, "{{x, y}, {w, h}}" in whole points from the top
+    /// left, or "(no window)" if it is in none.
     QString debugFrameDescription() const;
 
 signals:

@@ -11,15 +11,15 @@
 namespace vantle {
 namespace {
 
-/// Where the corners end and what is stretched between them begins, in one direction.
+/// The borders between the corners and the stretched part, in one direction.
 using Cuts = std::array<double, 4>;
 
 Cuts cuts(double length, double corner) {
     return {0, corner, length - corner, length};
 }
 
-/// The same in points, for a length in points and a corner in pixels. All cuts stand on whole
-/// pixels: neighbours that round their common edge to different sides would leave a gap.
+/// Returns the cuts in points, for a length in points and a corner in pixels. All cuts are on whole
+/// pixels: neighbours that round their common edge differently would leave a gap.
 Cuts cutsInPoints(double length, int corner, double pixelsPerPoint) {
     Cuts inPoints = cuts(std::round(length * pixelsPerPoint), corner);
     for (double& cut : inPoints) cut /= pixelsPerPoint;
@@ -32,7 +32,7 @@ QRectF cell(const Cuts& across, const Cuts& down, std::size_t column, std::size_
 
 constexpr std::size_t middle = 4;
 
-/// Nine parts of one picture, or eight around nothing.
+/// Draws nine parts of one picture, or eight if the shape is hollow.
 class NinePartNode final : public QSGNode {
 public:
     NinePartNode(QQuickWindow& window, const QImage& picture, bool isHollow)
@@ -41,13 +41,13 @@ public:
             if (isHollow && &part == &parts_[middle]) continue;
             part = window.createImageNode();
             part->setTexture(texture_.get());
-            // What is stretched is one pixel wide: nothing of its neighbours may come in.
+            // The stretched parts are one pixel wide, so filtering would mix in their neighbours.
             part->setFiltering(QSGTexture::Nearest);
             appendChildNode(part);
         }
     }
 
-    /// The size in points, the corner in pixels.
+    /// `size` is in points, `corner` in pixels.
     void place(QSizeF size, int corner, double pixelsPerPoint) {
         const Cuts across = cutsInPoints(size.width(), corner, pixelsPerPoint);
         const Cuts down = cutsInPoints(size.height(), corner, pixelsPerPoint);

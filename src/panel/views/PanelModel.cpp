@@ -9,7 +9,7 @@
 namespace vantle {
 namespace {
 
-/// Of changes that do not bring a spring of their own.
+/// The spring of changes that have none of their own.
 constexpr Animation arrivalSpring{.response = 0.55, .dampingFraction = 0.8};
 
 }  // namespace
@@ -69,7 +69,7 @@ void PanelModel::observePresence() {
     subscriptions_.push_back(state.hovering.observe([this](bool hovering) {
         hovering_ = hovering;
         emit hoveringChanged();
-        // The age of a capture goes on while nothing else happens.
+        // The subtitle contains the capture's age, which grows while nothing else changes.
         emit subtitleChanged();
     }));
 }

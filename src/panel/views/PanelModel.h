@@ -19,50 +19,50 @@
 
 namespace vantle {
 
-/// The panel's state for the card: properties that follow it, and the card's requests as verbs. It
-/// keeps what it is told, because a change is announced before it is stored.
+/// The panel's state as properties for the card, and the card's requests as functions. It keeps the
+/// values that it receives, because a change is announced before it is stored.
 class PanelModel : public QObject, private QAccessible::ActivationObserver {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the panel")
 
     Q_PROPERTY(vantle::CaptureListModel* captures READ captures CONSTANT)
-    /// The captures on the card. A card that leaves because its last capture was taken still shows
-    /// that one.
+    /// The number of captures on the card. A card that leaves because its last capture was removed
+    /// still shows that capture.
     Q_PROPERTY(int count READ count NOTIFY countChanged)
     Q_PROPERTY(double contentWidth READ contentWidth NOTIFY countChanged)
-    /// The height of the thumbnails in a row of several; of the one when there is only one.
+    /// The height of the thumbnails in a row, or of the only thumbnail.
     Q_PROPERTY(double thumbnailHeight READ thumbnailHeight NOTIFY countChanged)
     Q_PROPERTY(bool overflows READ overflows NOTIFY countChanged)
     /// The spring of the latest change of the captures.
     Q_PROPERTY(double listResponse READ listResponse NOTIFY listAnimationChanged)
     Q_PROPERTY(double listDampingFraction READ listDampingFraction NOTIFY listAnimationChanged)
-    /// Under the name of the capture that is alone.
+    /// The text below the name of a single capture.
     Q_PROPERTY(QString subtitle READ subtitle NOTIFY subtitleChanged)
 
-    /// Whether there is a card: the panel is visible and has something to show.
+    /// True while there is a card: the panel is visible and not empty.
     Q_PROPERTY(bool isPresented READ isPresented NOTIFY isPresentedChanged)
     Q_PROPERTY(bool hovering READ isHovering NOTIFY hoveringChanged)
-    /// The captures on the card that are selected.
+    /// The number of selected captures on the card.
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectedCountChanged)
     Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
-    /// Whether captures of the card are being dragged at the moment.
+    /// True while captures of the card are being dragged.
     Q_PROPERTY(bool isDragging READ isDragging NOTIFY isDraggingChanged)
     Q_PROPERTY(bool hasMarquee READ hasMarquee NOTIFY marqueeChanged)
     Q_PROPERTY(QRectF marquee READ marquee NOTIFY marqueeChanged)
-    /// The corner in which the panel stands since it was shown last.
+    /// The corner in which the panel was last shown.
     Q_PROPERTY(bool atRight READ atRight NOTIFY cornerChanged)
     Q_PROPERTY(bool atBottom READ atBottom NOTIFY cornerChanged)
-    /// Whether captures are dismissed by a timer, which a pin is to stop.
+    /// True if a timer dismisses captures; a pin exempts a capture from it.
     Q_PROPERTY(bool hasTimer READ hasTimer NOTIFY hasTimerChanged)
     Q_PROPERTY(bool rendersPlain READ rendersPlain CONSTANT)
-    /// Whether an assistive program reads the card, and so needs all controls to be there.
+    /// True while an assistive program reads the card, which therefore needs all its controls.
     Q_PROPERTY(bool isAssisted READ isAssisted NOTIFY isAssistedChanged)
 
 public:
     enum class Rendering { glass, plain };
 
-    /// What it shows and is told by; all but the actions outlives it.
+    /// The objects that the model shows and calls. All references must outlive the model.
     struct Context {
         PanelState& state;
         Settings& settings;
@@ -98,28 +98,28 @@ public:
     bool isAssisted() const { return QAccessible::isActive(); }
     bool rendersPlain() const { return context_.rendering == Rendering::plain; }
 
-    /// The corner may have changed: the panel is about to be shown there.
+    /// Must be called before the panel is shown, because its corner may have changed.
     void readCorner();
-    /// The card is gone from the screen: lets go of what it showed.
+    /// Must be called when the card has gone from the screen. Drops the captures that it showed.
     void cardHasLeft();
 
-    /// On the clock that only moves forward.
+    /// Returns the time on the clock that only moves forward.
     Instant now() const { return context_.scheduler.now(); }
     DraggingSessions& draggingSessions() { return context_.dragging; }
-    /// What a drag from that capture carries; its own file at least, while its tile is there.
+    /// Returns the items of a drag from that capture: at least its own file, while its tile exists.
     std::vector<DragItem> dragItems(const QString& captureId) const;
     void dragBegan();
     void dragEnded(bool completed, const std::vector<Url>& urls);
 
     Q_INVOKABLE void setHovering(bool hovering);
-    /// The capture has been shown leaving. Its row goes as soon as its tile is not at work.
+    /// Removes the row of a capture that has been shown leaving, after the tile's current work.
     Q_INVOKABLE void forget(const QString& captureId);
     Q_INVOKABLE void close(const QString& captureId);
     Q_INVOKABLE void closeAll();
     Q_INVOKABLE void open(const QString& captureId);
     Q_INVOKABLE void copy(const QString& captureId);
     Q_INVOKABLE void reveal(const QString& captureId);
-    /// With the button's frame in the panel's content, to which the menu is to point.
+    /// `anchor` is the button's frame in the panel's content, to which the menu points.
     Q_INVOKABLE void share(const QString& captureId, const QRectF& anchor);
     Q_INVOKABLE void trash(const QString& captureId);
     Q_INVOKABLE void toggleSelect(const QString& captureId);
@@ -128,7 +128,7 @@ public:
     Q_INVOKABLE void copySelected();
     Q_INVOKABLE void trashSelected();
     Q_INVOKABLE void removeSelected();
-    /// One line in the debug log.
+    /// Writes one line to the debug log.
     Q_INVOKABLE void log(const QString& line) const;
 
 signals:
@@ -144,7 +144,7 @@ signals:
     void cornerChanged();
     void hasTimerChanged();
     void isAssistedChanged();
-    /// The card was pressed somewhere, by mouse or touch.
+    /// Emitted when the card is pressed anywhere, by mouse or touch.
     void pressed();
 
 private:
@@ -154,7 +154,8 @@ private:
     void observePresence();
     void setCaptures(const std::vector<CapturePointer>& captures);
     void setDragging(bool isDragging);
-    /// Null for one that has left or is leaving: nothing can be done with it any more.
+    /// Returns null if the capture has left or is leaving, because nothing can be done with it
+    /// then.
     CapturePointer present(const QString& captureId) const;
     void perform(const CardActions::OnCapture& action, const QString& captureId);
     const Capture* onlyCapture() const;

@@ -23,7 +23,7 @@ QRegion shapeOf(const GlassBackdropView& glass) {
     return {outline.toFillPolygon().toPolygon()};
 }
 
-/// The items in `item`, the topmost first.
+/// Returns the children of `item`, topmost first.
 QList<QQuickItem*> stackedChildren(const QQuickItem& item) {
     QList<QQuickItem*> children = item.childItems();
     std::ranges::stable_sort(children, {}, &QQuickItem::z);
@@ -31,10 +31,10 @@ QList<QQuickItem*> stackedChildren(const QQuickItem& item) {
     return children;
 }
 
-/// The topmost item below `item` that takes clicks at that point of the scene; null when there is
-/// none.
+/// Returns the topmost item below `item` that takes clicks at that point of the scene; null if
+/// there is none.
 QQuickItem* topmost(const QQuickItem& item, const QPointF& point) {
-    // Neither where an item is cut off.
+    // A clipping item hides its children outside its own bounds, so they take no clicks there.
     if (item.clip() && !item.contains(item.mapFromScene(point))) return nullptr;
     const auto children = stackedChildren(item);
     for (auto child = children.begin(); child != children.end(); ++child) {
@@ -62,7 +62,7 @@ void logPassThrough(const QPointF& point, const QRectF& card) {
 PassthroughContainerView::PassthroughContainerView(QQuickWindow& window)
     : window_(window), inputRegion_(DisplayServer::current().makeInputRegion(window)) {
     window.installEventFilter(this);
-    // Before each frame that is drawn: the region follows the glass while it moves.
+    // The region follows the glass while it moves, so it is set before each frame.
     connect(&window, &QQuickWindow::afterAnimating, this, [this] { follow(Repeat::whenChanged); });
     connect(&window, &QQuickWindow::frameSwapped, this, [this] { inputRegion_->frameDrawn(); });
 }
@@ -97,7 +97,7 @@ QQuickItem* PassthroughContainerView::hitTest(const QPointF& point) const {
 }
 
 bool PassthroughContainerView::eventFilter(QObject* object, QEvent* event) {
-    // A region set before the window is on the screen is lost with some window managers.
+    // Some window managers lose a region that is set before the window is on the screen.
     if (event->type() == QEvent::Expose && window_.isExposed()) follow(Repeat::always);
     if (event->type() == QEvent::MouseButtonPress) {
         const auto& press = static_cast<const QMouseEvent&>(*event);
@@ -111,7 +111,8 @@ void PassthroughContainerView::follow(Repeat repeat) {
     const QRect frame = glass ? frameOf(*glass).toAlignedRect() : QRect();
     if (!window_.isExposed() || (repeat == Repeat::whenChanged && frame == glassFrame_)) return;
     glassFrame_ = frame;
-    // Where a card leaves, the second click of a double-click is to reach nobody else.
+    // The region of a leaving card stays, so that the second click of a double-click reaches no
+    // other window.
     if (!glass || glass->isSolid()) inputRegion_->set(frame);
     const QRegion shape = glass ? shapeOf(*glass) : QRegion();
     cutOut(glass, shape);

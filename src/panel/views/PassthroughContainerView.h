@@ -11,27 +11,28 @@
 namespace vantle {
 
 /// Lets the clicks in a window fall through to what lies beneath, except inside its glass, and asks
-/// the compositor to blur what is behind that. Both follow the glass while it moves. Where nothing
-/// shows windows with their transparency, it cuts the window to the glass as well.
+/// the compositor to blur what is behind the glass. Both follow the glass while it moves. If
+/// windows are shown without transparency, it also cuts the window to the shape of the glass.
 class PassthroughContainerView final : public QObject {
 public:
-    /// `window` outlives this.
+    /// `window` must outlive the object.
     explicit PassthroughContainerView(QQuickWindow& window);
 
-    /// The first glass below `item`, depth first; null when there is none.
+    /// Returns the first glass below `item`, depth first; null if there is none.
     static GlassBackdropView* findGlass(const QQuickItem& item);
 
-    /// The glass that can be seen in the window; null when there is none.
+    /// Returns the glass that is visible in the window; null if there is none.
     GlassBackdropView* visibleGlass() const;
 
-    /// What takes a click at a point of the window; null where it falls through, and where a card
-    /// that leaves takes it and does nothing. It logs both while debugging.
+    /// Returns the item that takes a click at a point of the window. Returns null if the click
+    /// falls through, or if it hits a card that is leaving and therefore has no effect. Logs the
+    /// result in debug mode.
     QQuickItem* hitTest(const QPointF& point) const;
-    /// The same without a word in the log.
+    /// The same without logging.
     QQuickItem* itemAt(const QPointF& point) const;
 
 protected:
-    /// Drops the presses that fall through, where the window system delivers them nevertheless.
+    /// Drops the presses that should fall through but are delivered by the window system.
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:

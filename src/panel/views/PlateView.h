@@ -8,8 +8,8 @@
 
 namespace vantle {
 
-/// A plate with continuous corners, filled and edged; the border stands inside the edge.
-class PlateView : public vantle::NinePartView {  // in full: the linter reads it so
+/// A filled plate with continuous corners and a border inside its edge.
+class PlateView : public vantle::NinePartView {  // the linter needs the full name
     Q_OBJECT
     QML_ELEMENT
 

@@ -19,7 +19,7 @@ PressGuard::Limits limitsOfDesktop() {
             .distance = static_cast<double>(hints.mouseDoubleClickDistance())};
 }
 
-/// Where it is on the screen, if that is known while it is not over a window of ours.
+/// Returns the pointer's place on the screen, if it is known even outside the program's windows.
 std::optional<Point> pointer() {
     const auto place = DisplayServer::current().pointer();
     if (!place) return std::nullopt;

@@ -14,11 +14,10 @@ class QPointerEvent;
 
 namespace vantle {
 
-/// Keeps presses from the card that the user did not mean (PressGuard.h), with the mouse or by
-/// touch.
+/// Keeps presses that the user did not mean (PressGuard.h) from the card, by mouse or by touch.
 class PressFilter final : public QObject {
 public:
-    /// All outlive this. `container` knows what is where in the window.
+    /// All arguments must outlive the filter. `container` finds the item at a point of the window.
     PressFilter(QQuickWindow& window, const PassthroughContainerView& container, PanelModel& panel);
 
 protected:
@@ -26,18 +25,18 @@ protected:
 
 private:
     void followPointer(const QPointerEvent& event, bool enters);
-    /// What has slid under the pointer since the last frame.
+    /// Reports what has moved under the pointer since the last frame.
     void followFrame();
     bool isMeant(const QPointerEvent& event);
-    /// Names what a press there acts on: the capture, or else the control.
+    /// Returns a name for what a press there acts on: the capture, or else the control.
     std::string targetAt(const QPointF& point) const;
 
     QQuickWindow& window_;
     const PassthroughContainerView& container_;
     PanelModel& panel_;
     PressGuard guard_;
-    std::optional<QPointF> pointer_;  ///< In the window, while it is there.
-    bool isKept_ = false;             ///< The press that is going on is kept from the card.
+    std::optional<QPointF> pointer_;  ///< In the window; absent while the pointer is outside.
+    bool isKept_ = false;             ///< The current press is kept from the card.
 };
 
 }  // namespace vantle

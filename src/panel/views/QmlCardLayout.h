@@ -8,7 +8,7 @@
 
 namespace vantle {
 
-/// The constants of CardLayout that the card is drawn by: `CardLayout.padding` in QML.
+/// Gives QML the constants of CardLayout with which the card is drawn: `CardLayout.padding`.
 class QmlCardLayout : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(CardLayout)

@@ -11,19 +11,20 @@
 namespace vantle {
 namespace {
 
-// How much earlier than the arc the corner begins, where there is room.
+// The reach of a corner relative to the arc's radius, if there is room.
 constexpr double widestExtent = 1.3;
 constexpr int steps = 16;
 
-/// Of the superellipse that meets the arc in the corner's middle; without room for more than the
-/// arc it is the arc.
+/// Returns the exponent of the superellipse that meets the arc in the corner's middle. For an
+/// extent of 1 the superellipse is the arc itself.
 double exponent(double extent) {
     const double middle = 1 - 1 / std::numbers::sqrt2;
     return -std::numbers::ln2 / std::log(1 - middle / extent);
 }
 
-/// One box blur along rows: each value becomes the mean of the 2 × reach + 1 around it. Written
-/// transposed, so that a second call blurs the columns and turns the picture back.
+/// Blurs the rows once with a box: each value becomes the mean of the 2 × reach + 1 values around
+/// it. The result is transposed, so that a second call blurs the columns and turns the picture
+/// back.
 void blurAndTranspose(const std::vector<std::uint8_t>& from, std::vector<std::uint8_t>& to,
                       int width, int height, int reach) {
     const int window = 2 * reach + 1;

@@ -8,20 +8,21 @@
 
 namespace vantle {
 
-/// A bar on a small window of its own, over the item's place on the screen, where a compositor
-/// forgets the input region of a window with each frame: a bar that gets shorter all the time would
-/// take the card's clicks from what is beside it. Elsewhere there is no such window, and who uses
-/// the bar draws it. The pointer does not meet it.
+/// A bar on a small window of its own, over the item's place on the screen. It is for compositors
+/// that forget the input region of a window with each frame: a card that is redrawn for a shrinking
+/// bar would take the clicks beside it. With other display servers there is no separate window, and
+/// the parent item draws the bar. The bar takes no pointer input.
 class SeparateBarView : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
 
-    /// Whether it may come: while nothing but the bar changes.
+    /// True if the window may open, which must be only while nothing but the bar changes.
     Q_PROPERTY(bool isWanted MEMBER isWanted_ NOTIFY isWantedChanged)
-    /// In points from the item's left edge. The item's own width stays, or there would be a frame.
+    /// In points from the item's left edge. The item keeps its width, because a change would redraw
+    /// the card.
     Q_PROPERTY(double length MEMBER length_ NOTIFY looksChanged)
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY looksChanged)
-    /// Whether the bar is seen on the window.
+    /// True while the window shows the bar.
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
 
 public:
@@ -40,7 +41,7 @@ private:
 
     void openOrClose();
     void setOpen(bool isOpen);
-    /// On the screen, in points.
+    /// Returns the item's frame on the screen, in points.
     QRect frame() const;
 
     bool isWanted_ = false;

@@ -9,7 +9,7 @@
 namespace vantle {
 
 double ShadowView::cornerLength() const {
-    // Beyond the corner itself the blur reaches as far inwards as outwards.
+    // The blur reaches as far inwards from the corner as outwards.
     return margin() + blur_ + 1.5 * cornerRadius_;
 }
 

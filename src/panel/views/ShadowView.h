@@ -6,9 +6,9 @@
 
 namespace vantle {
 
-/// The black shadow around a rounded plate, which stands `margin` inside this item. There is none
-/// beneath the plate: one that lets light through is not to be darkened by its own shadow.
-class ShadowView : public vantle::NinePartView {  // in full: the linter reads it so
+/// The black shadow around a rounded plate, whose edges are `margin` inside this item. There is no
+/// shadow beneath the plate, because it would darken a translucent plate.
+class ShadowView : public vantle::NinePartView {  // the linter needs the full name
     Q_OBJECT
     QML_ELEMENT
 

@@ -6,7 +6,7 @@
 namespace vantle {
 namespace {
 
-/// What nobody sees: a twentieth of a point, or a small part of a short way.
+/// Returns a difference that cannot be seen: a twentieth of a point, or less for a short distance.
 double tolerance(double distance) {
     return std::min(0.05, std::max(std::abs(distance), 0.01) / 2000);
 }
@@ -76,7 +76,7 @@ void SpringValue::rest() {
     spring_.reset();
     state_ = {target_, 0};
     emit valueChanged();
-    // A listener may have set it going again.
+    // A listener may have started a new motion.
     if (!spring_) clock_.stop();
 }
 

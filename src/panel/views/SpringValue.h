@@ -11,8 +11,8 @@
 
 namespace vantle {
 
-/// A number that follows its target as a damped spring does, one step a frame. A target that
-/// changes on the way turns the motion without a jump. While nothing moves it costs nothing.
+/// A number that follows its target like a damped spring, one step a frame. A change of the target
+/// turns the motion without a jump. At rest it costs nothing.
 class SpringValue : public QObject, public QQmlParserStatus {
     Q_OBJECT
     QML_NAMED_ELEMENT(Spring)
@@ -20,13 +20,13 @@ class SpringValue : public QObject, public QQmlParserStatus {
 
     Q_PROPERTY(double target READ target WRITE setTarget NOTIFY targetChanged)
     Q_PROPERTY(double value READ value NOTIFY valueChanged)
-    /// Where it begins; at the target when this is not given.
+    /// The start value; the target if this is not set.
     Q_PROPERTY(double from READ from WRITE setFrom NOTIFY fromChanged)
     /// The period of the undamped motion in seconds.
     Q_PROPERTY(double response MEMBER response_ NOTIFY animationChanged)
-    /// 1 is critical. Both count from the next change of the target on.
+    /// 1 is critical. A change of `response` or of this applies from the next change of the target.
     Q_PROPERTY(double dampingFraction MEMBER dampingFraction_ NOTIFY animationChanged)
-    /// When it is not, the value is the target.
+    /// If false, the value follows a new target at once.
     Q_PROPERTY(bool enabled MEMBER enabled_ NOTIFY enabledChanged)
     Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
 
@@ -40,7 +40,7 @@ public:
     void setFrom(double from);
     bool isRunning() const { return clock_.state() == QAbstractAnimation::Running; }
 
-    /// Stands still at that value, which is the target from now on.
+    /// Stops at that value, which becomes the target.
     Q_INVOKABLE void jumpTo(double value);
 
     void classBegin() override {}
@@ -55,7 +55,7 @@ signals:
     void runningChanged();
 
 private:
-    /// Tells the time of each frame.
+    /// Reports the time of each frame to the spring.
     class FrameClock final : public QAbstractAnimation {
     public:
         explicit FrameClock(SpringValue& spring) : spring_(spring) {}
@@ -80,7 +80,7 @@ private:
     bool isComplete_ = false;
     Spring::State state_{0, 0};
     std::optional<Spring> spring_;
-    int begun_ = 0;  ///< When the motion began, in milliseconds on the clock.
+    int begun_ = 0;  ///< Start of the motion, in milliseconds on the clock.
     FrameClock clock_{*this};
 };
 

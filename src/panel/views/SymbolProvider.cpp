@@ -9,7 +9,7 @@ namespace vantle {
 namespace {
 
 constexpr auto folder = ":/symbols/";
-/// As every one of the files says it.
+/// The attribute as it is written in every file.
 constexpr auto strokeOfTheFiles = "stroke-width=\"1.5\"";
 
 QByteArray symbol(const QString& name, const QString& stroke) {

@@ -13,7 +13,7 @@ namespace {
 constexpr float groundOpacity = 0.25F;
 
 void drawFitted(QPainter& painter, const QImage& image, const QSize& target) {
-    // To the nearest pixel, as the tile's own size is: else a line of the ground would be left.
+    // The size is rounded as the tile's own size is; otherwise a line of the background would show.
     const QSize fitted =
         QSizeF(image.size()).scaled(target, Qt::KeepAspectRatio).toSize().expandedTo({1, 1});
     const QImage scaled = image.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -21,7 +21,7 @@ void drawFitted(QPainter& painter, const QImage& image, const QSize& target) {
                       (target.height() - fitted.height()) / 2, scaled);
 }
 
-/// Keeps only what lies inside the rounded corners. A clip path would leave stair-steps.
+/// Keeps only what lies inside the rounded corners. A clip path would leave jagged edges.
 void roundCorners(QImage& picture, double radius) {
     QImage mask(picture.size(), QImage::Format_ARGB32_Premultiplied);
     mask.fill(Qt::transparent);
@@ -45,7 +45,7 @@ QImage ThumbnailProvider::requestImage(const QString& id, QSize* size, const QSi
 
     QImage picture(requestedSize, QImage::Format_ARGB32_Premultiplied);
     picture.fill(QColor::fromRgbF(0, 0, 0, groundOpacity));
-    // A capture that left meanwhile is drawn as one without a picture.
+    // A capture that has left meanwhile is drawn without a picture.
     if (capture && capture->thumbnail()) {
         QPainter painter(&picture);
         drawFitted(painter, pixels(*capture->thumbnail()), requestedSize);

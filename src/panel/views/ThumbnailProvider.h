@@ -7,9 +7,9 @@
 
 namespace vantle {
 
-/// Thumbnails as they stand in their tiles: "image://thumbnail/ID/WIDTHxHEIGHT", with the tile's
-/// size in points. Fitted into the tile, on a dark ground where they leave some free, with rounded
-/// corners; scaled once, in the pixels that the scene asks for.
+/// Provides thumbnails as they appear in their tiles: "image://thumbnail/ID/WIDTHxHEIGHT", with the
+/// tile's size in points. A thumbnail is fitted into the tile, with rounded corners and a dark
+/// background where it leaves space. It is scaled once, to the pixels that the scene requests.
 class ThumbnailProvider final : public QQuickImageProvider {
 public:
     using Lookup = std::function<CapturePointer(const QString& captureId)>;

@@ -14,12 +14,12 @@ namespace vantle {
 namespace {
 
 void chooseRendering() {
-    // The software renderer, unless the user chose one: it takes a third of the memory.
+    // The software renderer takes a third of the memory. It is used unless the user chose another.
     const bool isChosen = qEnvironmentVariableIsSet("QT_QUICK_BACKEND") ||
                           qEnvironmentVariableIsSet("QSG_RHI_BACKEND");
     if (!isChosen) QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QQuickWindow::setDefaultAlphaBuffer(true);
-    // Letters look alike with every renderer, and sharp on ordinary screens.
+    // Native text looks the same with every renderer, and sharp on ordinary screens.
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 }
 
@@ -40,7 +40,7 @@ ViewWindow::ViewWindow() {
 void ViewWindow::load(const QString& file, const QVariantMap& properties) {
     setInitialProperties(properties);
     setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/") + file));
-    // Part of the program, or of what has to be installed with it.
+    // The view is part of the program or of its dependencies, so the installation is broken.
     if (!rootObject()) qFatal("cannot show %s", qUtf8Printable(file));
 }
 

@@ -4,21 +4,21 @@
 
 namespace vantle {
 
-/// Chooses how windows of Qt Quick are drawn. That has to be done before the first one is made.
+/// Chooses how Qt Quick draws windows, which must be done before the first window is made.
 class QuickRendering {
 protected:
     QuickRendering();
 };
 
-/// A translucent window with one of our views in it.
+/// A translucent window that shows one of the program's views.
 class ViewWindow : private QuickRendering, public QQuickView {
 protected:
     ViewWindow();
-    /// The view goes before the models that a derived class gave it, so that one has to call
-    /// unload() in its destructor.
+    /// The view must go before the models that a derived class gave it, so the derived class must
+    /// call unload() in its destructor.
     ~ViewWindow() override = default;
 
-    /// Shows the view of that file (below qrc:/qt/qml), whose properties are set first.
+    /// Sets the properties, then shows the view in that file (below qrc:/qt/qml/Vantle).
     void load(const QString& file, const QVariantMap& properties);
     void unload();
 };

@@ -15,7 +15,8 @@ namespace {
 constexpr double badgeHeight = 20;
 constexpr float opacity = 0.94F;
 
-/// The part of the image that has the frame's proportions: all items of a pile are alike in size.
+/// Returns the part of the image that has the frame's proportions: all items of a pile have the
+/// same size.
 QRectF filling(const QSize& image, const QSizeF& frame) {
     const QSizeF part = frame.scaled(image, Qt::KeepAspectRatio);
     return {QPointF((image.width() - part.width()) / 2, (image.height() - part.height()) / 2),
@@ -27,12 +28,12 @@ void drawItem(QPainter& painter, const DraggingItem& item, double radius) {
     QBrush brush(item.image);
     const QRectF part = filling(item.image.size(), item.frame.size());
     const double scale = item.frame.width() / part.width();
-    // A brush has smooth edges where a clip would have stair-steps.
+    // A brush has smooth edges; a clip would have jagged ones.
     brush.setTransform(
         QTransform()
             .translate(item.frame.x() - part.x() * scale, item.frame.y() - part.y() * scale)
             .scale(scale, scale));
-    // Pictures may let through, too.
+    // Pictures may be translucent.
     painter.fillPath(shape, QColor(150, 150, 154));
     painter.fillPath(shape, brush);
     painter.strokePath(continuousRoundedRect(item.frame.adjusted(0.5, 0.5, -0.5, -0.5), radius),
@@ -51,7 +52,7 @@ void drawBadge(QPainter& painter, const QRectF& frame, std::size_t count) {
     painter.drawText(frame, Qt::AlignCenter, QString::number(count));
 }
 
-/// Behind it one still sees where one is going.
+/// Makes the picture translucent, so that the target can be seen behind it.
 void letThrough(QPainter& painter, const QRect& all) {
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     painter.fillRect(all, QColor::fromRgbF(0, 0, 0, opacity));
@@ -66,7 +67,7 @@ DragPile dragPile(std::vector<DraggingItem> items, double pixelsPerPoint, DragPi
     const QRectF first = items.front().frame;
     const double radius =
         std::min({CardLayout::thumbnailCornerRadius, first.width() / 4, first.height() / 4});
-    // At the upper left corner, which nothing of the pile covers.
+    // The badge is at the upper left corner, which no other item covers.
     const double overhang = isSoft ? badgeHeight / 2 : -4;
     const QRectF badge(first.x() - overhang, first.y() - overhang,
                        badgeHeight + (count > 9 ? 8 : 0), badgeHeight);
@@ -80,7 +81,7 @@ DragPile dragPile(std::vector<DraggingItem> items, double pixelsPerPoint, DragPi
     QPainter painter(&picture);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.translate(-whole.topLeft());
-    // Of the items that stand on one place only the first can be seen.
+    // Only the first of several items at the same place can be seen.
     for (std::size_t i = items.size(); i-- > 0;)
         if (i == 0 || items[i].frame != items[i - 1].frame)
             drawItem(painter, items[i], isSoft ? radius : 0);

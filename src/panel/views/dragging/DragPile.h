@@ -8,16 +8,16 @@
 
 namespace vantle {
 
-/// The picture of a drag: its items as a pile with rounded corners, the first on top, and their
-/// number where there are several.
+/// The picture of a drag: its items as a pile with rounded corners, the first on top, and the
+/// number of items if there are several.
 struct DragPile {
     enum class Edges {
         soft,
-        opaque,  ///< The first item alone, for screens on which nothing shines through.
+        opaque,  ///< The first item alone, for screens without transparency.
     };
 
     QImage picture;
-    QRectF frame;  ///< Where it starts, in the window's points.
+    QRectF frame;  ///< The frame at the start, in the window's points.
 };
 
 DragPile dragPile(std::vector<DraggingItem> items, double pixelsPerPoint,

@@ -21,7 +21,7 @@ DragPile::Edges possibleEdges() {
                                                    : DragPile::Edges::opaque;
 }
 
-/// One drag, from its beginning to the answer of whoever it was dropped on.
+/// One drag, from its beginning to the answer of the program on which it was dropped.
 class Session final : public QObject {
 public:
     Session(QWindow& window, std::vector<DraggingItem> items, const QPointF& grip,
@@ -37,7 +37,8 @@ public:
         for (auto& item : items) urls_.push_back(std::move(item.url));
     }
 
-    /// Returns when the button was released or the drag was given up; events go on meanwhile.
+    /// Returns when the button was released or the drag was cancelled; events are handled
+    /// meanwhile.
     void run() {
         if (!window_) {
             finish(DragOperation::none);
@@ -50,7 +51,7 @@ public:
         drag->setHotSpot(hotSpot_);
         support_ =
             DisplayServer::current().supportDrag(*drag, {urls_, [this] { return contents(); }});
-        // Without the keyboard Escape would go to the window that has it.
+        // Without the grab, Escape would go to the window that has the keyboard.
         window_->setKeyboardGrabEnabled(true);
         const Qt::DropAction action = drag->exec(Qt::CopyAction);
         if (window_) window_->setKeyboardGrabEnabled(false);
@@ -64,7 +65,7 @@ public:
     }
 
 private:
-    /// The marks are those of the last ones.
+    /// Makes the contents of the drag and keeps their marks.
     std::unique_ptr<FileMimeData> contents() {
         auto made =
             std::make_unique<FileMimeData>(urls_, nullptr, FileMimeData::Use::drag, transfer_);
@@ -78,7 +79,7 @@ private:
         end(operation);
     }
 
-    /// Others may have come and gone on the card meanwhile, and the card may stand elsewhere.
+    /// Returns where the pile belongs now: the tiles and the card may have moved since the start.
     QPoint home() const {
         if (!window_) return start_;
         return window_->position() + (pile_.frame.topLeft() + moved_()).toPoint();
@@ -107,7 +108,7 @@ void QtDraggingSessions::begin(QWindow& window, std::vector<DraggingItem> items,
                                const QPointF& grip, Moved moved, Ended ended) {
     auto* session =
         new Session(window, std::move(items), grip, transfer_, std::move(moved), std::move(ended));
-    // Not inside the mouse event: a drag is an event loop of its own.
+    // A drag runs an event loop of its own, which must not be inside the mouse event.
     QMetaObject::invokeMethod(
         session, [session] { session->run(); }, Qt::QueuedConnection);
 }

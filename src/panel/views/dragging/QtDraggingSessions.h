@@ -8,7 +8,7 @@
 
 namespace vantle {
 
-/// Drags as the desktop's programs know them. Escape ends one.
+/// Drags that the desktop's programs understand. Escape cancels a drag.
 class QtDraggingSessions final : public DraggingSessions {
 public:
     /// `transfer` serves programs in a sandbox; it may be null.
