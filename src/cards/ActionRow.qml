@@ -3,8 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Panel
 
-// Under a capture that is alone: what it is called, how large and how old it is, and what can be
-// done with it.
+// The row below a single capture: its name, its size and age, and its actions.
 Item {
     id: row
 

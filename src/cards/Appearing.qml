@@ -1,14 +1,14 @@
 import QtQuick
 import Vantle.Panel
 
-// Something that comes and goes with a fade and, unless the user wants less motion, a scale.
+// An item that comes and goes with a fade and, unless the user prefers less motion, a scale.
 Item {
     id: appearing
 
     property bool isOffered: false
-    // 0 for what is made only when it is offered, and yet is to be seen coming.
+    // 0 for an item that is made only when it is offered, so that its arrival is animated.
     property alias from: presence.from
-    // Comes and goes as a selection does, and not by a spring.
+    // True for an item that comes and goes with the easing of a selection instead of a spring.
     property bool isEased: false
     property real eased: isOffered ? 1 : 0
     readonly property real shown: isEased ? eased : presence.value

@@ -1,27 +1,27 @@
 import QtQuick
 import Vantle.Panel
 
-// The whole content of the panel: one card in the panel's corner, on glass.
+// The whole content of the panel: one card on glass, in the panel's corner.
 FocusScope {
     id: view
 
     required property PanelModel panel
 
     readonly property real panelPadding: 14
-    // Around the row of tiles, which has a margin of its own inside.
+    // The padding around the row of tiles, which has a margin of its own inside.
     readonly property real sidePadding: CardLayout.padding - CardLayout.innerMargin
-    // Between the parts of the card, from top to bottom.
+    // The gap between the parts of the card, from top to bottom.
     readonly property real spacing: 10
-    // How far the card moves in from the near edge.
+    // The distance that the card moves in from the near edge.
     readonly property real travel: Appearance.reducesMotion ? 0 : (card.width + panelPadding) * (panel.atRight ? 1 : -1)
 
-    // The pointer is over the card, or the user works on it with the keyboard.
+    // True while the pointer is over the card or the panel has the keyboard.
     readonly property bool isAttended: panel.isPresented && (hover.hovered || Window.active)
 
     focus: true
     onIsAttendedChanged: panel.setHovering(isAttended)
 
-    // For a panel that takes the keyboard.
+    // Called when the panel takes the keyboard.
     function focusNewest() {
         row.focusTile(panel.count - 1);
     }
@@ -75,7 +75,7 @@ FocusScope {
             target: view.sidePadding + row.naturalHeight + card.actionsHeight + card.timerBarHeight + CardLayout.padding
         }
 
-        // A card that is not there has no size to change from.
+        // A card that comes back must not change from its earlier size.
         onVisibleChanged: {
             if (!visible || presence.value) return;
             widthSpring.jumpTo(widthSpring.target);

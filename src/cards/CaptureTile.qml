@@ -1,11 +1,11 @@
 import QtQuick
 import Vantle.Panel
 
-// A delegate's loaders cannot make bound components (Qt 6.4), so theirs name the ids around them.
+// Qt 6.4 cannot bind components in the loaders of a delegate, so they refer to the ids around them.
 // qmllint disable unqualified
 
-// One capture: its thumbnail with border and shadow, its marks and controls, and its name where
-// several stand in a row.
+// One capture: its thumbnail with border and shadow, its marks and controls, and its name if there
+// are several captures.
 FocusScope {
     id: tile
 
@@ -25,19 +25,19 @@ FocusScope {
     required property bool isMissing
     required property bool isLeaving
 
-    // Whether it is new in the row, and so grows into it.
+    // True if the tile is new in the row and must grow into it.
     required property bool arrives
     required property real nameGap
-    // The part of the row that can be seen, from the row's first tile.
+    // The visible part of the row, from the row's first tile.
     required property real seenFrom
     required property real seenTo
 
-    // Forty captures have no need of forty times six buttons that nobody looks for.
+    // Controls are made when first needed; otherwise forty captures would have 240 buttons.
     property bool hasControls
     readonly property bool compact: panel.count >= 2
     readonly property real nameHeight: Math.ceil(name.implicitHeight)
     readonly property bool hovering: bar.isHovered || closeHover.hovered || (hover.hovered && !isCovered)
-    // Whether the pointer is on another tile's actions, which reach over this one.
+    // True while the pointer is on another tile's actions, which extend over this one.
     property bool isCovered: false
     readonly property bool isActionsHovered: bar.isHovered
     readonly property bool isAttended: (hovering || activeFocus) && !isLeaving
@@ -170,7 +170,7 @@ FocusScope {
         readonly property bool isHovered: item && (item as HoverBar).hovering
         readonly property real natural: (tile.width - width) / 2
 
-        // Where a tile is narrower than its actions they stay in the part of the row that is seen.
+        // If a tile is narrower than its actions, they stay in the visible part of the row.
         x: Math.max(tile.seenFrom - tile.x, Math.min(natural, tile.seenTo - tile.x - width))
         y: heightSpring.value - height - 6
         active: tile.hasControls
@@ -183,8 +183,8 @@ FocusScope {
         }
     }
 
-    // The pointer on the disc that overhangs the tile is a pointer on the tile, also before the disc
-    // is there.
+    // The close button extends beyond the tile. A pointer in its circle counts as a pointer on the
+    // tile, even before the button exists.
     Item {
         x: -8
         y: -8

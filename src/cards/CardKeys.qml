@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// What keys do while the panel has the keyboard.
+// Handles the keys while the panel has the keyboard.
 QtObject {
     id: keys
 

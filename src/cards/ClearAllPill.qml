@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// The button at the card's corner that takes all captures off it.
+// The button at the card's corner that removes all captures from it.
 Appearing {
     id: pill
 

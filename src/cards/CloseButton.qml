@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// The round button that takes one capture off the card.
+// The round button that removes one capture from the card.
 Appearing {
     id: button
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// Tells that a capture is selected, or else that it is pinned.
+// Shows that a capture is selected, or otherwise that it is pinned.
 Appearing {
     id: mark
 
@@ -24,7 +24,7 @@ Appearing {
     Symbol {
         id: glyph
 
-        // While it goes it stays what it was.
+        // Keeps its value while the mark fades out.
         property bool isPin
 
         anchors.centerIn: parent

@@ -1,6 +1,6 @@
 import QtQuick
 
-// What lies inside a circle that touches both edges of an item: a mask for the pointer.
+// A mask for the pointer: a circle that touches the left and upper edges of an item.
 QtObject {
     required property real radius
 

@@ -10,7 +10,7 @@ Item {
     required property string fileName
     required property bool hasThumbnail
     required property bool isRecording
-    // What the picture is made for; while the tile changes its size, it is stretched.
+    // The size for which the picture is made. It is stretched while the tile changes its size.
     required property real pictureWidth
     required property real pictureHeight
 
@@ -26,7 +26,7 @@ Item {
         anchors.centerIn: parent
         active: !thumbnail.hasThumbnail
         sourceComponent: Symbol {
-            // A delegate cannot make bound components (Qt 6.4), so the id around this one is meant.
+            // Qt 6.4 cannot bind components in a delegate, so this refers to the id around it.
             name: thumbnail.isRecording ? "video.fill" : "photo" // qmllint disable unqualified
             fontSize: 22
             opacity: 0.7

@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// How long a recording is.
+// Shows the length of a recording.
 PlateView {
     property alias text: label.text
 

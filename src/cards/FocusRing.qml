@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// Shows where the keyboard is.
+// The ring around the item that has the keyboard.
 PlateView {
     property bool isShown: false
 

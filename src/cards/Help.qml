@@ -2,7 +2,7 @@ pragma Singleton
 
 import QtQuick
 
-// What the pointer rests on, and what there is to say about it: the innermost of what it is over.
+// Finds the innermost item under the pointer that has a help text.
 QtObject {
     id: help
 

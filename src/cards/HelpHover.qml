@@ -1,6 +1,6 @@
 import QtQuick
 
-// Tells what there is to say about its parent while the pointer is over it.
+// Reports the help text of its parent while the pointer is over it.
 HoverHandler {
     id: hover
 

@@ -1,11 +1,11 @@
 import QtQuick
 import Vantle.Panel
 
-// Says what the thing under the pointer is for, once the pointer has rested there.
+// Shows the help text of the item under the pointer, after the pointer has rested there.
 PlateView {
     id: tag
 
-    // Where the tag may not cover anything when it is about a whole thumbnail.
+    // The area that the tag must not cover if it describes a whole thumbnail.
     required property Item card
     required property PanelModel panel
     readonly property bool isInTheWay: panel.hasMarquee || panel.isDragging
@@ -24,7 +24,7 @@ PlateView {
 
     Behavior on opacity { NumberAnimation { duration: 120 } }
 
-    // What is pressed needs no explanation any more.
+    // A pressed item needs no explanation any more.
     Connections {
         target: tag.panel
 

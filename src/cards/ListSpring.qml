@@ -1,6 +1,6 @@
 import Vantle.Panel
 
-// Follows a change of the captures on the card.
+// A spring with the motion of the latest change of the captures on the card.
 Spring {
     required property PanelModel panel
 

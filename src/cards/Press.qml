@@ -1,7 +1,7 @@
 import QtQuick
 
-// What makes its parent a button: a tap on it, the key for it, or an assistive program. It is
-// cancelled by moving away 14 points or more before the release.
+// Makes its parent a button for the mouse, the keyboard and assistive programs. Moving 14 points or
+// more away before the release cancels a press.
 MouseArea {
     id: press
 

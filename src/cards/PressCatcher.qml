@@ -1,6 +1,6 @@
 import QtQuick
 
-// Keeps presses on a plate from what lies under it, between its buttons and around them.
+// Keeps presses between and around the buttons of a plate from what lies under the plate.
 MouseArea {
     anchors.fill: parent
     acceptedButtons: Qt.AllButtons

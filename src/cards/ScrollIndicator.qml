@@ -1,11 +1,11 @@
 import QtQuick
 import Vantle.Panel
 
-// Shows which part of a row that overflows is seen; it can be dragged.
+// Shows which part of an overflowing row is visible, and can be dragged.
 Item {
     id: indicator
 
-    // How far the row is scrolled, how far it can be, and the width of what is seen.
+    // How far the row is scrolled, how far it can be scrolled, and the width of its visible part.
     required property real scrolled
     required property real farthest
     required property real seen

@@ -1,12 +1,12 @@
 import QtQuick
 import Vantle.Panel
 
-// What can be done with all selected captures, on the card's upper edge.
+// The actions for all selected captures, on the card's upper edge.
 Item {
     id: bar
 
     required property PanelModel panel
-    // While it fades out it keeps its last number.
+    // Keeps the last number while the bar fades out.
     property int shownCount
 
     width: Math.ceil(row.width)

@@ -1,16 +1,16 @@
 import QtQuick
 
-// One of our own symbols, as large as letters of `fontSize` beside it, in one colour.
+// One of the program's symbols, in one colour and as large as letters of `fontSize` beside it.
 Image {
     id: symbol
 
     required property string name
     property real fontSize: 13
     property color color: "white"
-    // On the symbols' grid of 16 units.
+    // The width of the strokes on the symbols' grid of 16 units.
     property real strokeWidth: 1.5
 
-    // The grid is as much larger than the letters as letters are than their capitals.
+    // A symbol of 16 pixels goes with letters of 13 pixels.
     readonly property real side: Math.round(fontSize * 16 / 13)
 
     width: side

@@ -1,14 +1,14 @@
 import QtQuick
 import Vantle.Panel
 
-// A small button that is a symbol.
+// A small button with a symbol.
 Item {
     id: icon
 
     required property PanelModel panel
     required property string symbol
     required property string help
-    // What assistive programs call it.
+    // The name for assistive programs.
     property string name: help
     property bool isOnDark: false
     readonly property color baseColor: isOnDark ? "white" : Appearance.isDark ? "white" : "black"
@@ -37,12 +37,12 @@ Item {
         opacity: icon.pressed ? 0.16 : icon.hovering ? 0.08 : 0
     }
 
-    // One symbol becomes another without a jump.
+    // Fades out the former symbol while the new one fades in.
     Loader {
         anchors.centerIn: parent
         active: change.value < 1
         sourceComponent: Symbol {
-            // A delegate cannot make bound components (Qt 6.4), so the ids around this one are meant.
+            // Qt 6.4 cannot bind components in a delegate, so these refer to the ids around them.
             name: icon.formerSymbol // qmllint disable unqualified
             color: icon.baseColor // qmllint disable unqualified
             opacity: icon.ink * (1 - change.value) // qmllint disable unqualified

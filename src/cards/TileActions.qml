@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// What can be done with one capture.
+// The actions for one capture.
 Row {
     id: actions
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Vantle.Panel
 
-// What the capture of a tile is called, on one line.
+// The name of a tile's capture, on one line.
 Text {
     textFormat: Text.PlainText
     elide: Text.ElideMiddle

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Panel
 
-// The tiles side by side, the newest at the end; it scrolls when they are wider than the card.
+// The tiles side by side, the newest at the end. A row that is wider than the card scrolls.
 FocusScope {
     id: row
 
@@ -11,19 +11,19 @@ FocusScope {
 
     readonly property real nameGap: 6
     readonly property real nameHeight: panel.count >= 2 ? nameGap + tallestName : 0
-    // Some scripts have tall letters, and so have the fonts of some desktops.
+    // Some scripts have tall letters, and so do the fonts of some desktops.
     property real tallestName: 14
     readonly property real overflowMargin: panel.overflows ? 6 : 0
-    // Its size once nothing moves.
+    // The size of the row when nothing moves.
     readonly property real naturalWidth: Math.min(CardLayout.maxContentWidth, panel.contentWidth) + 2 * CardLayout.innerMargin
     readonly property real naturalHeight: CardLayout.innerMargin + panel.thumbnailHeight + nameHeight + overflowMargin
     readonly property real farthest: Math.max(0, panel.contentWidth + 2 * CardLayout.innerMargin - naturalWidth)
-    // Tiles that are there from the beginning do not arrive.
+    // Tiles that exist from the beginning do not grow into the row.
     property bool isComplete: false
     property bool isHovered: false
-    // The tile on whose actions the pointer is.
+    // The tile whose actions are under the pointer.
     property CaptureTile covering: null
-    // Where the tile is or was that has the keyboard.
+    // The position of the tile that has the keyboard, or had it last.
     property int focused: 0
 
     objectName: "tileRow"
@@ -41,7 +41,7 @@ FocusScope {
         scrolled.target = Math.min(Math.max(position, 0), farthest);
     }
 
-    // Scrolls only as far as it takes to see that tile.
+    // Scrolls only as far as needed to show the tile.
     function reveal(tile) {
         const right = tile.tileX + tile.tileWidth + 2 * CardLayout.innerMargin - naturalWidth;
         scrollTo(Math.min(Math.max(scrolled.target, right), tile.tileX));
@@ -71,7 +71,8 @@ FocusScope {
         reveal(tile);
     }
 
-    // The tile that has the keyboard, itself or one of its buttons; null when none has.
+    // Returns the tile that has the keyboard, itself or in one of its buttons; null if there is
+    // none.
     function focusedTile() {
         for (let position = 0; position < panel.count; ++position) {
             const tile = tileAt(position);
@@ -86,12 +87,12 @@ FocusScope {
         function onCountChanged() {
             if (row.panel.count === 0) return;
             row.measureNames();
-            // The newest is to be seen, whatever the user looked at before.
+            // The newest capture must be visible, whatever the user looked at before.
             if (row.panel.isPresented)
                 scrolled.target = row.farthest;
             else
                 scrolled.jumpTo(row.farthest);
-            // The keyboard of a tile that goes is its neighbour's.
+            // If the tile with the keyboard goes, its neighbour gets the keyboard.
             if (row.activeFocus && !row.focusedTile()) row.focusTile(row.focused);
         }
     }
@@ -118,7 +119,7 @@ FocusScope {
                 id: tile
 
                 panel: row.panel
-                // The first ones come with the card.
+                // The first tiles come with the card.
                 arrives: row.isComplete && row.panel.isPresented
                 nameGap: row.nameGap
                 seenFrom: scrolled.value - CardLayout.innerMargin + 4

@@ -1,18 +1,18 @@
 import QtQuick
 import Vantle.Panel
 
-// The part of the countdown that is left. It hides while the pointer is over the card, but keeps its
-// room: nothing may jump under a pointer that has just come.
+// Shows the part of the countdown that is left. It hides while the pointer is over the card, but
+// keeps its space so that nothing moves under the pointer.
 Item {
     id: bar
 
     required property PanelModel panel
-    // Whether the card stays where it is, and as large.
+    // True while the card keeps its place and size.
     required property bool isAtRest
 
     readonly property bool isShown: panel.progress < 1 && !panel.hovering
     readonly property real room: width - 2 * 16
-    // In whole pixels: what nobody sees is worth no frame.
+    // Rounded to whole pixels, because a smaller change is invisible and would still cost a frame.
     readonly property real length: Math.round(room * panel.progress * Screen.devicePixelRatio)
                                    / Screen.devicePixelRatio
     readonly property color tint: Appearance.isDark ? "white" : "black"
