@@ -3,14 +3,14 @@ import Vantle.Cards
 import Vantle.Menus
 import Vantle.Panel
 
-// A line of a menu: what can be chosen, what is only said, or a rule between two groups of that.
+// A line of a menu: an action, a label, or a separator between groups.
 Item {
     id: line
 
     required property MenuModel menu
     required property int index
     required property var modelData
-    // Where its title begins.
+    // The place where the title begins.
     required property real titleX
 
     readonly property bool isSeparator: modelData.isSeparator
@@ -49,7 +49,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         active: line.modelData.symbol !== ""
         sourceComponent: Symbol {
-            // A delegate cannot make bound components (Qt 6.4), so the id around this one is meant.
+            // Qt 6.4 cannot bind components in a delegate, so these refer to the id around them.
             name: line.modelData.symbol // qmllint disable unqualified
             color: line.ink // qmllint disable unqualified
         }
@@ -71,7 +71,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         text: line.modelData.title
         textFormat: Text.PlainText
-        // Names of screenshots differ at their ends.
+        // The names of screenshots differ at their ends.
         elide: line.hasPicture ? Text.ElideMiddle : Text.ElideRight
         color: line.ink
         opacity: line.modelData.isEnabled ? 1 : 0.5

@@ -7,7 +7,7 @@
 namespace vantle {
 namespace {
 
-/// As the desktop writes it, such as "Ctrl+Q".
+/// Returns the shortcut as the desktop writes it, for example "Ctrl+Q".
 QString shortcut(const MenuItem& item) {
     if (item.keyEquivalent.empty()) return {};
     return QKeySequence(QStringLiteral("Ctrl+") + QString::fromStdString(item.keyEquivalent))
@@ -74,7 +74,7 @@ void MenuModel::setCurrent(int line) {
 }
 
 void MenuModel::seek(int direction, const std::function<bool(const MenuItem&)>& fits) {
-    // Upwards from nowhere begins at the end.
+    // Going up without a current line begins at the end.
     int line = current_ == none && direction < 0 ? count() : current_;
     for (int tried = 0; tried < count(); ++tried) {
         line = (line + direction + count()) % count();

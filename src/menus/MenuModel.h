@@ -10,17 +10,17 @@
 
 namespace vantle {
 
-/// A menu for its view: its lines, and which of them is the current one.
+/// A menu for its view: its lines, and the current line.
 class MenuModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the menu's window")
 
-    /// Of each line: "title", "symbol", "isSeparator", "isEnabled", "shortcut" (for a person), and
-    /// "picture": the address of its picture and "pictureSize", where it has one.
+    /// Each line has "title", "symbol", "isSeparator", "isEnabled", "shortcut" (for display),
+    /// "picture" (an address, or empty if there is none) and "pictureSize".
     Q_PROPERTY(QVariantList lines READ lines NOTIFY linesChanged)
     Q_PROPERTY(QString title READ title NOTIFY linesChanged)
-    /// -1 while there is none.
+    /// The index of the current line; -1 if there is none.
     Q_PROPERTY(int current READ current WRITE setCurrent NOTIFY currentChanged)
 
 public:
@@ -31,19 +31,19 @@ public:
     QString title() const { return QString::fromStdString(menu_.title); }
 
     int current() const { return current_; }
-    /// Only one that can be chosen.
+    /// Makes `line` the current line if it can be chosen; otherwise no line is current.
     void setCurrent(int line);
-    /// To the next line that can be chosen, in steps of 1 or -1, around the end.
+    /// Moves to the next line that can be chosen and wraps around; `direction` is 1 or -1.
     void step(int direction);
-    /// To the next line that begins with that letter.
+    /// Moves to the next line that can be chosen and begins with that letter.
     void stepTo(QChar letter);
 
     Q_INVOKABLE void choose(int line);
-    /// Chooses the line whose key that is; false when there is none.
+    /// Chooses the line with that key. Returns false if there is none.
     bool chooseByKey(QChar key);
 
     const MenuItem& item(int line) const { return menu_.items[static_cast<std::size_t>(line)]; }
-    /// The picture of a line; null when it has none.
+    /// Returns the picture of a line; null if it has none.
     const MenuImage* image(int line) const;
 
 signals:
@@ -55,11 +55,11 @@ private:
     int count() const { return static_cast<int>(menu_.items.size()); }
     QVariantMap description(int line) const;
     bool isAction(int line) const;
-    /// Goes on from the current line, around the end, to the first that can be chosen and fits.
+    /// Moves from the current line to the next one that can be chosen and fits; wraps around.
     void seek(int direction, const std::function<bool(const MenuItem&)>& fits);
 
     Menu menu_;
-    int revision_ = 0;  ///< Of the pictures: another menu has others.
+    int revision_ = 0;  ///< In the pictures' addresses, because each menu has its own pictures.
     int current_ = none;
 };
 

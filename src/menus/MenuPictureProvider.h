@@ -9,7 +9,7 @@ namespace vantle {
 /// Draws the pictures of a menu's lines: "image://menu/REVISION/LINE".
 class MenuPictureProvider final : public QQuickImageProvider {
 public:
-    /// The model outlives it.
+    /// `model` must outlive the provider.
     explicit MenuPictureProvider(const MenuModel& model)
         : QQuickImageProvider(QQuickImageProvider::Image), model_(model) {}
 

@@ -7,12 +7,12 @@
 
 namespace vantle {
 
-/// What one menu is for.
+/// The purpose and the state of one menu.
 struct MenuSharingServicePicker::Request {
     std::vector<Url> items;
     Rect anchor;
     std::weak_ptr<SharingServicePickerDelegate> delegate;
-    std::vector<SharingOffer> offers;  ///< Of each line; nothing to perform at a separator.
+    std::vector<SharingOffer> offers;  ///< One for each line; a separator has nothing to perform.
     bool isEnded = false;
 };
 
@@ -31,13 +31,13 @@ void MenuSharingServicePicker::show(const std::vector<Url>& items, const Rect& a
     close();
     request_ = std::make_shared<Request>(Request{items, anchor, std::move(delegate), {}, false});
     source_->find([this, weak = std::weak_ptr(request_)](std::vector<SharingOffer> found) {
-        // Another menu may have been asked for meanwhile.
+        // Another menu may have been requested meanwhile.
         if (const auto request = weak.lock()) open(request, std::move(found));
     });
 }
 
 void MenuSharingServicePicker::close() {
-    // One that is open, or one for which others are still being asked.
+    // The menu may be open, or may still wait for the offers.
     if (window_) window_->closeMenu();
     if (request_) end(*request_, std::nullopt);
     request_.reset();

@@ -11,14 +11,14 @@
 
 namespace vantle {
 
-/// The share menu: what the source offers at the moment, then "Copy file" and "Reveal". Its window
-/// is made for the first menu.
+/// The share menu: what the source offers now, then "Copy file" and "Reveal". The window is made
+/// for the first menu.
 class MenuSharingServicePicker final : public SharingServicePicker {
 public:
-    /// What the menu points to stands on that overlay; it may return null.
+    /// Returns the overlay that contains what the menu points to; may return null.
     using Host = std::function<Overlay*()>;
 
-    /// The clipboard and the opener outlive it.
+    /// The clipboard and the opener must outlive the picker.
     MenuSharingServicePicker(std::unique_ptr<SharingSource> source, Pasteboard& pasteboard,
                              FileOpener& opener, Host host);
     ~MenuSharingServicePicker() override;
@@ -27,7 +27,7 @@ public:
               std::weak_ptr<SharingServicePickerDelegate> delegate) override;
     void close() override;
 
-    /// Null before the first menu.
+    /// Returns null before the first menu.
     MenuWindow* window() const { return window_.get(); }
 
 private:
@@ -42,7 +42,7 @@ private:
     FileOpener& opener_;
     const Host host_;
     std::unique_ptr<MenuWindow> window_;
-    std::shared_ptr<Request> request_;  ///< The last one.
+    std::shared_ptr<Request> request_;  ///< The latest one; null after close().
 };
 
 }  // namespace vantle

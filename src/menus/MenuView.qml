@@ -2,12 +2,12 @@ import QtQuick
 import Vantle.Menus
 import Vantle.Panel
 
-// A menu: its lines on a plate, with a shadow around it.
+// A menu: its lines on a plate with a shadow.
 Item {
     id: view
 
     required property MenuModel menu
-    // Room for the shadow.
+    // The room for the shadow on each side.
     readonly property real margin: shadow.margin
     readonly property real cornerRadius: 10
     readonly property real padding: 5
@@ -45,7 +45,7 @@ Item {
     Column {
         id: lines
 
-        // Known at once: the window takes its place before anything is laid out.
+        // Computed at once, because the window is placed before anything is laid out.
         readonly property size natural: {
             let size = Qt.size(0, 0);
             for (let i = 0; i < children.length; ++i) {
@@ -70,7 +70,7 @@ Item {
             model: view.menu.lines
 
             MenuLine {
-                // A delegate's component cannot be bound (Qt 6.4), so the ids around it are meant.
+                // Qt 6.4 cannot bind a delegate's component, so it refers to the ids around it.
                 menu: view.menu // qmllint disable unqualified
                 width: lines.width // qmllint disable unqualified
                 titleX: hasPicture ? 53 : lines.haveSymbols ? 34 : 12 // qmllint disable unqualified

@@ -43,7 +43,7 @@ QRect MenuWindow::plate() const {
 }
 
 void MenuWindow::cutOut() {
-    // Where nothing shines through there is no shadow.
+    // Without a compositor there is no transparency, so the mask removes the shadow.
     const double radius = rootObject()->property("cornerRadius").toReal();
     setMask(DisplayServer::current().isComposited()
                 ? QRegion()
@@ -106,7 +106,7 @@ bool MenuWindow::handleKey(const QKeyEvent& event) {
 }
 
 bool MenuWindow::chooseByKey(int key) {
-    // Keys that are no letters have numbers beyond those.
+    // Qt's codes of keys without a character are above the range of QChar.
     constexpr int lastLetter = 0xffff;
     return key <= lastLetter && model_.chooseByKey(QChar(key).toLower());
 }
@@ -115,7 +115,7 @@ void MenuWindow::end(std::optional<int> chosen) {
     const auto ended = std::exchange(ended_, nullptr);
     if (!ended) return;
     placement_->hide();
-    // What is done may open the menu again.
+    // The action is copied first, because `ended` may open the menu again.
     const auto action = chosen ? model_.item(*chosen).action : nullptr;
     ended(chosen);
     if (action) action();

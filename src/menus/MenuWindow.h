@@ -10,19 +10,19 @@
 
 namespace vantle {
 
-/// A menu that we draw ourselves, because the toolkit without its widgets has none. While it is
-/// open it has the pointer and the keyboard; a click beside it or Escape closes it.
+/// A menu that the program draws itself, because the toolkit has none without its widgets. While it
+/// is open it has the pointer and the keyboard. A click outside it or Escape closes it.
 class MenuWindow final : public ViewWindow {
 public:
-    /// With the line that was chosen, if one was.
+    /// `chosen` is the line that was chosen, if any.
     using Ended = std::function<void(std::optional<int> chosen)>;
 
     MenuWindow();
     ~MenuWindow() override;
 
-    /// Opens below `anchor`, or above it where there is no room. `ended` is called once, when it
-    /// has closed; then what was chosen does what it says. One that is open closes without a
-    /// choice.
+    /// Opens below `anchor`, or above it if there is no room below. A menu that is still open
+    /// closes first, without a choice. Calls `ended` once, when the menu has closed, and then
+    /// performs the action of the chosen line.
     void open(
         const Menu& menu, const MenuAnchor& anchor, Ended ended = [](std::optional<int>) {});
     void closeMenu() { end(std::nullopt); }
@@ -33,7 +33,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    /// Where the menu stands in the window, without its shadow.
+    /// Returns the frame of the menu in the window, without the shadow.
     QRect plate() const;
     void cutOut();
     bool handleKey(const QKeyEvent& event);
