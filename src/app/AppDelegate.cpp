@@ -124,7 +124,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     connectApplication();
     connectRequests();
     connectStatusBar();
-    updater();  // its schedule runs from here on
+    updater();  // starts its schedule
     if (platform_.environment("VANTLE_CHECK_UPDATES_NOW"))
         platform_.scheduler->after(updateCheckDelay, weakly(shared_from_this(), [](auto& self) {
                                        self.checkForUpdates();
@@ -231,7 +231,7 @@ void AppDelegate::watchRecordings() {
     const auto folder = isWanted && platform_.recordingsFolder
                             ? std::optional(platform_.recordingsFolder())
                             : std::nullopt;
-    // Where both are saved in one folder, that is watched already.
+    // If both are saved in one folder, that folder is watched already.
     if (folder && *folder != settings_.screenshotFolder.value())
         recordings_->start(*folder);
     else
@@ -239,7 +239,7 @@ void AppDelegate::watchRecordings() {
 }
 
 void AppDelegate::watchRecordingsSoon() {
-    // A change is announced before it is stored.
+    // Published announces a change before it stores it, so the settings are read later.
     platform_.scheduler->async(
         weakly(shared_from_this(), [](auto& self) { self.watchRecordings(); }));
 }
@@ -301,7 +301,7 @@ void AppDelegate::showOnboarding() {
 }
 
 void AppDelegate::present(Window& window, Size contentSize) {
-    // Each time: the screen may have become a smaller one.
+    // The size is fitted each time, because the screen may have become smaller.
     window.setContentSize(fit(contentSize));
     window.makeKeyAndOrderFront();
     platform_.application->activate();
@@ -322,7 +322,7 @@ void AppDelegate::finishOnboarding() {
 Size AppDelegate::fit(Size size) const {
     auto screen = platform_.screens->main();
     if (const auto all = platform_.screens->all(); !screen && !all.empty()) screen = all.front();
-    // Without any screen the margin still counts.
+    // Without a screen the margin is still subtracted.
     const Size available = screen ? screen->visibleFrame.size : size;
     return {std::min(size.width, available.width - screenMargin.width),
             std::min(size.height, available.height - screenMargin.height)};

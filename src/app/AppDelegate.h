@@ -23,32 +23,34 @@
 
 namespace vantle {
 
-/// Owns every long-lived component and connects them; has almost no logic of its own. The
-/// components are made with it and connected when launching has finished. Main thread only.
+/// Owns and connects every long-lived component; has almost no logic of its own. The components are
+/// made with it and connected in applicationDidFinishLaunching(). Main thread only.
 class AppDelegate : public std::enable_shared_from_this<AppDelegate> {
 public:
-    /// Makes what is seen.
+    /// Makes the panel and the windows.
     struct Views {
         CapturePanelController::PanelFactory makePanel;
-        /// They may be empty: then there are no settings to show, and nobody to be introduced.
+        /// The next two may be empty. Then there is no settings window, or no onboarding.
         std::function<std::unique_ptr<Window>(Settings& settings)> makeSettingsWindow;
         std::function<std::unique_ptr<Window>(Settings& settings, std::function<void()> finish)>
             makeOnboardingWindow;
     };
 
-    /// `platform` outlives the delegate.
+    /// `platform` must outlive the delegate.
     static std::shared_ptr<AppDelegate> create(Platform& platform, Views views);
 
-    /// Hands over to a copy that runs already: has that one do `request`, or brings it forward when
-    /// there is none, and terminates this one. Gives that one's answer then, as perform() does:
-    /// launching must not go on. Absent when no other copy runs.
+    /// Hands over to a copy of the program that is already running: has it perform `request`, or
+    /// brings it to the front if there is none, and terminates this copy. Returns the other copy's
+    /// answer, as perform() does; launching must not go on then. Returns nothing if no other copy
+    /// is running.
     std::optional<Result<std::string>> applicationWillFinishLaunching(
         const std::optional<ApplicationRequest>& request = {});
 
-    /// Connects the components and starts watching, or the onboarding on the first run.
+    /// Connects the components, then starts watching, or the onboarding on the first run.
     void applicationDidFinishLaunching();
 
-    /// The user opened the program again while it runs. Always true: it was handled.
+    /// Called when the user opens the program again while it runs. Always returns true: the event
+    /// was handled.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
 
     void showSettings();
@@ -58,10 +60,10 @@ public:
     /// Shows two sample captures.
     void showDemo();
 
-    /// Does what the launcher, a script or a second start asks for, and gives the answer.
+    /// Performs a request of the launcher, a script or a second start, and returns the answer.
     Result<std::string> perform(const ApplicationRequest& request);
 
-    /// `size` made to fit on the screen with a margin.
+    /// Returns `size`, reduced to fit on the screen with a margin.
     Size fit(Size size) const;
 
     Settings& settings() { return settings_; }
@@ -70,7 +72,8 @@ public:
     const CaptureWatcher& watcher() const { return *watcher_; }
     const RecordingsWatcher& recordings() const { return *recordings_; }
 
-    /// Newest first; of this run only. Their thumbnails are as small as a menu shows them.
+    /// Returns the captures of this run, newest first. Their thumbnails are as small as a menu
+    /// shows them.
     const std::vector<CapturePointer>& recent() const { return recent_.captures(); }
 
 private:
@@ -86,7 +89,7 @@ private:
     void connectNotifications();
     void startWatching();
     void stopWatching();
-    /// Starts or stops with the recorder's folder, by all that decides about it.
+    /// Starts or stops watching the recorder's folder, as the settings and the pause require.
     void watchRecordings();
     void watchRecordingsSoon();
     void finishOnboarding();
@@ -95,14 +98,14 @@ private:
     void captured(const CapturePointer& capture);
     void checkForUpdates();
 
-    /// Made on the first call; null where there is none.
+    /// Makes the updater on the first call. Returns null if the platform has none.
     Updater* updater();
 
     Platform& platform_;
     Views views_;
     Settings settings_;
     std::shared_ptr<CaptureWatcher> watcher_;
-    std::shared_ptr<RecordingsWatcher> recordings_;  ///< Of the desktop's recorder.
+    std::shared_ptr<RecordingsWatcher> recordings_;  ///< For the desktop's recorder.
     std::shared_ptr<CapturePanelController> panel_;
     StatusBarController statusBar_;
     RecentCaptures recent_;

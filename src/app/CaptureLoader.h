@@ -11,11 +11,11 @@
 
 namespace vantle {
 
-/// Loads captures in the background and shows them in the panel. A value, which holds the panel
-/// weakly. Its operations are to be called on the watcher's queue.
+/// Loads captures in the background and shows them in the panel. A value that holds the panel
+/// weakly. Its functions must be called on the watcher's queue.
 class CaptureLoader {
 public:
-    /// All outlive it.
+    /// All members must outlive the loader and its copies.
     struct Services {
         Scheduler& scheduler;
         const WallClock& clock;
@@ -26,11 +26,12 @@ public:
     CaptureLoader(const Services& services, const std::shared_ptr<CapturePanelController>& panel)
         : services_(services), panel_(panel) {}
 
-    /// A file as if it were saved now. What cannot be a capture is left out.
+    /// Loads and shows a file as if it had just been saved. Ignores a file that cannot be a
+    /// capture.
     void load(const Url& file) const;
 
-    /// A capture with the whole of its thumbnail, or with what is left of that when its file is
-    /// gone.
+    /// Loads and shows a capture with its whole thumbnail, or with the small one that it has if its
+    /// file is gone.
     void loadAgain(const CapturePointer& capture) const;
 
 private:

@@ -13,7 +13,7 @@ namespace {
 
 using Kind = CommandLine::Kind;
 
-/// What may stand behind an option.
+/// What may follow an option.
 enum class Takes { nothing, files, details };
 
 struct Option {
@@ -23,7 +23,7 @@ struct Option {
     Takes takes = Takes::nothing;
 };
 
-// In the order in which the help lists them.
+// The help lists them in this order.
 constexpr std::array options = {
     Option{"settings", Kind::start, marked("CommandLine", "open the settings")},
     Option{"pause", Kind::ask, marked("CommandLine", "stop watching until --resume")},
@@ -45,13 +45,13 @@ struct Detail {
     const char* help;
 };
 
-// Of the status.
+// They may follow --status.
 constexpr std::array details = {
     Detail{"verbose", marked("CommandLine", "with all that a report of a fault needs")},
     Detail{"with-paths", marked("CommandLine", "and with the paths in it")},
 };
 
-// For the desktop, not for people: the help does not list it.
+// The help does not list this option, because only the desktop uses it.
 constexpr auto desktopLaunch = "--dbus-activated";
 
 CommandLine wrong(const std::string& reason) {
@@ -93,7 +93,7 @@ CommandLine printed(std::string_view name) {
             name == "help" ? helpText() : std::string("Vantle ") + std::string(version)};
 }
 
-/// Of UTF-8, each of whose letters has one byte that is not a continuation.
+/// Counts the letters of UTF-8: each has one byte that is not a continuation.
 std::size_t lettersIn(std::string_view text) {
     return static_cast<std::size_t>(
         std::ranges::count_if(text, [](char byte) { return (byte & 0xc0) != 0x80; }));

@@ -9,25 +9,25 @@
 
 namespace vantle {
 
-/// What the program was started for.
+/// A command line and what it requests.
 struct CommandLine {
     enum class Kind {
-        start,  ///< To run: does `request`, if there is one, by itself or by the copy that runs.
-        ask,    ///< To have `request` done by the copy that runs; nothing to do without one.
-        print,  ///< To print `text`.
-        wrong,  ///< It cannot be made out; `text` says why.
+        start,  ///< Runs the program, and performs `request`, if any, here or in the running copy.
+        ask,    ///< Has the running copy perform `request`. It is an error if no copy is running.
+        print,  ///< Prints `text`.
+        wrong,  ///< The arguments are not valid; `text` says why.
     };
 
     Kind kind = Kind::start;
     std::optional<ApplicationRequest> request;
     std::string text;
-    bool launchedByDesktop = false;  ///< For a request that the desktop is going to deliver.
+    bool launchedByDesktop = false;  ///< The desktop delivers a request after the start.
 };
 
-/// Makes out the arguments (without the program's name). Relative paths count from `folder`.
+/// Parses the arguments (without the program's name). Relative paths start at `folder`.
 CommandLine parseCommandLine(const std::vector<std::string>& arguments, const Url& folder);
 
-/// What the program prints when it is asked for help.
+/// Returns the text that --help prints.
 std::string helpText();
 
 }  // namespace vantle

@@ -5,7 +5,7 @@
 
 namespace vantle {
 
-/// Brings the program to the front to ask, and returns the answer.
+/// Brings the program to the front, shows the alert, and returns the answer.
 inline int runInFront(const Alert& alert, Application& application, Alerts& alerts) {
     application.activate();
     return alerts.runModal(alert);

@@ -8,7 +8,8 @@
 namespace vantle {
 namespace {
 
-/// The desktop starts its panel and this program side by side when the user logs in.
+/// At login the desktop starts its panel and this program at the same time, so its tray may be
+/// late.
 constexpr Seconds timeout{30};
 
 constexpr auto explainedKey = "hasExplainedMissingTray";

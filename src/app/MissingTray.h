@@ -14,24 +14,25 @@
 
 namespace vantle {
 
-/// A desktop without a tray has no icon to click. Main thread only. Deferred work holds it weakly.
+/// Explains how to use the program on a desktop without a tray, where there is no icon to click.
+/// Main thread only. Deferred work holds the object weakly.
 class MissingTray : public std::enable_shared_from_this<MissingTray> {
 public:
-    /// All outlive it.
+    /// All members must outlive the object.
     struct Services {
         UserDefaults& defaults;
         Scheduler& scheduler;
         Application& application;
         Alerts& alerts;
         const StatusItem& statusItem;
-        /// What would bring a tray; may be empty.
+        /// Returns what would provide a tray; may be empty.
         const std::function<std::optional<TrayExtension>()>& trayExtension;
     };
 
     static std::shared_ptr<MissingTray> create(const Services& services);
 
-    /// Where no tray shows the icon after a while, tells the user once and for all how to reach the
-    /// program.
+    /// If no tray shows the icon after a while, tells the user how to reach the program. Does this
+    /// only once, even across restarts.
     void explain();
 
 private:

@@ -8,7 +8,7 @@
 namespace vantle {
 namespace {
 
-/// In the menu; on the densest screens three pixels make a point.
+/// Pixels per point in the menu on the densest screens.
 constexpr int pixelsPerPoint = 3;
 constexpr int pixelsWide =
     static_cast<int>(StatusBarController::thumbnailSize.width) * pixelsPerPoint;

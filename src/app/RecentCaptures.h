@@ -9,12 +9,12 @@
 
 namespace vantle {
 
-/// The latest captures of this run, newest first, and bringing one of them back. Main thread only.
+/// Keeps the latest captures of this run and can show them again. Main thread only.
 class RecentCaptures {
 public:
     static constexpr std::size_t maximum = 20;
 
-    /// All outlive it.
+    /// All members must outlive the object.
     struct Services {
         CapturePanelController& panel;
         SerialQueue& queue;
@@ -22,13 +22,13 @@ public:
 
     RecentCaptures(const Services& services, CaptureLoader loader);
 
-    /// Their thumbnails are as small as a menu shows them.
+    /// Returns the captures, newest first. Their thumbnails are as small as a menu shows them.
     const std::vector<CapturePointer>& captures() const { return captures_; }
 
-    /// Puts it first, also one that was there already.
+    /// Puts the capture first, even if it was there already.
     void add(const CapturePointer& capture);
 
-    /// Shows one of them in the panel, with the whole of its thumbnail.
+    /// Shows one of the captures in the panel, with its whole thumbnail.
     void show(const CapturePointer& recent) const;
 
 private:

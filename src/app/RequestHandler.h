@@ -15,10 +15,11 @@
 
 namespace vantle {
 
-/// Does what others ask of the program by name. Main thread only.
+/// Performs the actions that the command line, the launcher or a script requests by name. Main
+/// thread only.
 class RequestHandler {
 public:
-    /// All outlive it.
+    /// All members must outlive the handler.
     struct Services {
         Application& application;
         const FileManager& files;
@@ -33,8 +34,8 @@ public:
     std::function<void()> onSettings = [] {};
     std::function<void()> onSample = [] {};
 
-    /// Gives the answer for a person: lines for "status", else nothing. The actions and their
-    /// arguments are those of the command line.
+    /// Returns the answer for a person: lines for "status", otherwise nothing. The actions and
+    /// their arguments have the names of the command line.
     Result<std::string> perform(const ApplicationRequest& request);
 
 private:

@@ -25,7 +25,7 @@ Drawing secondSample() {
     return {{900, 1200}, {{0.98, 0.62, 0.30, 1.0}, {0.95, 0.30, 0.50, 1.0}, -60}, std::nullopt};
 }
 
-/// Absent when it could not be drawn or written.
+/// Returns nothing if the sample could not be drawn or written.
 std::optional<Url> writeSample(FileManager& files, const Canvas::Drawer& draw,
                                const std::string& name) {
     const auto folder = files.temporaryDirectory();
@@ -42,7 +42,7 @@ SampleCaptures::SampleCaptures(const Services& services, CaptureLoader loader)
     : services_(services), loader_(std::move(loader)) {}
 
 void SampleCaptures::show() const {
-    // Drawn on the queue: the main thread would stand still for as long.
+    // Drawn on the queue, because drawing would block the main thread.
     const auto drawFirst = services_.canvas.drawer(firstSample());
     const auto drawSecond = services_.canvas.drawer(secondSample());
     services_.queue.async([&files = services_.files, loader = loader_, drawFirst] {

@@ -8,11 +8,10 @@
 
 namespace vantle {
 
-/// Two pictures that show what the panel does without a screenshot having been taken. Main thread
-/// only.
+/// Shows what the panel does with two sample pictures, without a screenshot. Main thread only.
 class SampleCaptures {
 public:
-    /// All outlive it, and what it has under way.
+    /// All members must outlive the object and its deferred work.
     struct Services {
         Canvas& canvas;
         FileManager& files;
@@ -22,8 +21,8 @@ public:
 
     SampleCaptures(const Services& services, CaptureLoader loader);
 
-    /// The second one comes a little later. They go straight to the panel: not among the recent
-    /// ones, to the clipboard or the ears.
+    /// Shows the samples, the second one a little later. They go directly to the panel: they are
+    /// not added to the recent captures or copied to the clipboard, and no sound is played.
     void show() const;
 
 private:

@@ -23,7 +23,7 @@ MenuItem separator() {
     return {.kind = MenuItem::Kind::separator};
 }
 
-/// The whole picture in the middle of a room of that size.
+/// Returns the whole picture, centred in an area of that size.
 MenuImage fitted(const ImagePointer& picture, const Size& room) {
     const double scale =
         std::min(room.width / picture->size.width, room.height / picture->size.height);

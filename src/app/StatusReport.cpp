@@ -18,7 +18,7 @@ std::string localTime(std::chrono::system_clock::time_point time) {
     return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M:%S", &parts)};
 }
 
-/// Where a path begins: at a slash that no word stands before, as in "and/or".
+/// Returns the start of the first path: a slash that follows no word, unlike the one in "and/or".
 std::size_t startOfPath(std::string_view line) {
     const auto isOfWord = [](char letter) {
         return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') ||

@@ -16,13 +16,13 @@
 
 namespace vantle {
 
-/// Whether a report may name the user's folders and files.
+/// Decides if a report names the user's folders and files.
 enum class Paths { hidden, shown };
 
-/// What the program is doing, for a person. Main thread only.
+/// Reports what the program is doing, for a person. Main thread only.
 class StatusReport {
 public:
-    /// All outlive it; the functions may be empty.
+    /// All members must outlive the report; the functions may be empty.
     struct Sources {
         const Settings& settings;
         const FileManager& files;
@@ -37,8 +37,8 @@ public:
 
     explicit StatusReport(const Sources& sources) : sources_(sources) {}
 
-    /// In short; or "verbose", all that a report of a fault needs, without paths unless
-    /// "with-paths" is asked for as well.
+    /// Returns a short report. With "verbose", returns all that a bug report needs, without paths
+    /// unless "with-paths" is given as well.
     std::string text(const std::vector<std::string>& arguments) const;
 
 private:
@@ -49,18 +49,19 @@ private:
     Sources sources_;
 };
 
-/// Lines of "name: value".
+/// Returns lines of the form "name: value".
 std::string reportText(const std::vector<ReportLine>& lines);
 
-/// Where a folder is, told without its name where paths are hidden.
+/// Returns the path of a folder, or only where it is relative to the home directory if paths are
+/// hidden.
 std::string placeOf(const Url& folder, const FileManager& files, Paths paths);
 
-/// The messages with their times, or that there are none. Where paths are hidden, the reasons that
-/// were logged apart are still told.
+/// Returns the messages with their times, or a line that says that there are none. If paths are
+/// hidden, the reasons that were logged separately are still included.
 std::vector<ReportLine> logReport(const std::vector<LoggedMessage>& messages, Paths paths);
 
-/// The text up to the first path in it, which becomes "(path)" with all that follows: a path can
-/// hold anything, so nobody knows where it ends.
+/// Returns the text with its first path, and everything after that, replaced by "(path)". A path
+/// can contain any character, so its end cannot be found.
 std::string withoutPaths(std::string_view text);
 
 }  // namespace vantle

@@ -53,7 +53,7 @@ std::shared_ptr<WatchErrorHandler> WatchErrorHandler::create(const Services& ser
 }
 
 void WatchErrorHandler::handle(const WatchError& error) {
-    // The same failure is acted on once, even hours apart; a different one re-arms it.
+    // The same failure is handled only once, even hours later, unless another one came between.
     if (lastWatchError_ == error) return;
     lastWatchError_ = error;
     const Url folder = services_.settings.screenshotFolder.value();
@@ -89,9 +89,9 @@ void WatchErrorHandler::recreate(const Url& folder) {
         recreateOnServer(folder);
         return;
     }
-    // Whether it could be made shows in the next step.
+    // The next step shows if this has succeeded.
     (void)services_.files.createDirectory(folder);
-    // What is in one that has just come was saved since then.
+    // Everything in a folder that was just created is new.
     if (services_.watcher.start(folder, CaptureWatcher::Existing::isNew))
         offerSettings(missingAlert(folder));
     else

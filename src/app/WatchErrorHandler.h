@@ -16,17 +16,17 @@
 
 namespace vantle {
 
-/// What becomes of a watch error: an alert, and what the user answers to it; or a folder that is
-/// made again without a word. Main thread only. Deferred work holds it weakly, and it may go while
-/// an alert is shown.
+/// Handles a watch error: shows an alert and acts on the answer, or recreates a missing folder
+/// without an alert. Main thread only. Deferred work holds the handler weakly, and the handler may
+/// be destroyed while an alert is shown.
 class WatchErrorHandler : public std::enable_shared_from_this<WatchErrorHandler> {
 public:
-    /// All outlive it.
+    /// All members must outlive the handler.
     struct Services {
         const Settings& settings;
         CaptureWatcher& watcher;
         Scheduler& scheduler;
-        SerialQueue& servers;  ///< For folders that are remote.
+        SerialQueue& servers;  ///< For remote folders.
         FileManager& files;
         Application& application;
         Alerts& alerts;
@@ -35,11 +35,11 @@ public:
 
     static std::shared_ptr<WatchErrorHandler> create(const Services& services);
 
-    /// The user wants to choose another folder.
+    /// Called when the user wants to choose another folder.
     std::function<void()> onSettings = [] {};
 
-    /// Acts on the error, unless it is the one that it acted on last. Returns when the alert, if
-    /// there is one, was answered.
+    /// Handles the error, unless it is equal to the last one. Returns when the user has answered
+    /// the alert, if there is one.
     void handle(const WatchError& error);
 
 private:
