@@ -9,13 +9,13 @@
 
 namespace vantle {
 
-/// The corner of the screen in which the panel stands, in the order in which they are offered.
+/// The corner of the screen in which the panel stands. Corners are offered in this order.
 enum class PanelCorner { bottomRight, bottomLeft, topRight, topLeft };
 
 inline constexpr std::array allPanelCorners = {PanelCorner::bottomRight, PanelCorner::bottomLeft,
                                                PanelCorner::topRight, PanelCorner::topLeft};
 
-/// The text by which a corner is stored, and its identity in lists.
+/// Returns the text that stores a corner and identifies it in lists.
 constexpr std::string_view rawValue(PanelCorner corner) {
     switch (corner) {
         case PanelCorner::bottomRight:
@@ -30,7 +30,7 @@ constexpr std::string_view rawValue(PanelCorner corner) {
     return {};
 }
 
-/// What the settings screen calls it, in the user's language.
+/// Returns the name of a corner on the settings screen, in the user's language.
 inline std::string label(PanelCorner corner) {
     switch (corner) {
         case PanelCorner::bottomRight:
@@ -45,7 +45,7 @@ inline std::string label(PanelCorner corner) {
     return {};
 }
 
-/// The corner stored as `text`, compared case by case; absent for any other text.
+/// Returns the corner that is stored as exactly `text`; absent for any other text.
 constexpr std::optional<PanelCorner> panelCorner(std::string_view text) {
     for (const PanelCorner corner : allPanelCorners)
         if (rawValue(corner) == text) return corner;

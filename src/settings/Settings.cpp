@@ -85,7 +85,7 @@ void Settings::applyRecommendedDefaults() {
     corner.set(PanelCorner::bottomRight);
     showRecordings.set(true);
     setHideSystemThumbnail(true);
-    // What the user himself has switched off stays so, and the switch shows it.
+    // A login item that the user has switched off stays off, and the switch shows it.
     if (loginItem_.status() != LoginItem::Status::refused) setLaunchAtLogin(true);
 }
 
