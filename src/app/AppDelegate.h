@@ -105,7 +105,7 @@ private:
     Views views_;
     Settings settings_;
     std::shared_ptr<CaptureWatcher> watcher_;
-    std::shared_ptr<RecordingsWatcher> recordings_;  ///< For the desktop's recorder.
+    std::shared_ptr<RecordingsWatcher> recordings_;  ///< Watches the desktop's recorder.
     std::shared_ptr<CapturePanelController> panel_;
     StatusBarController statusBar_;
     RecentCaptures recent_;

@@ -59,7 +59,7 @@ private:
     void seek(int direction, const std::function<bool(const MenuItem&)>& fits);
 
     Menu menu_;
-    int revision_ = 0;  ///< In the pictures' addresses, because each menu has its own pictures.
+    int revision_ = 0;  ///< Part of the pictures' addresses: each menu has its own pictures.
     int current_ = none;
 };
 

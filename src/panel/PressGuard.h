@@ -8,7 +8,7 @@
 
 namespace vantle {
 
-/// Tells the presses that the user meant from those that hit something else. Something that has
+/// Distinguishes presses that the user meant from those that hit something else. Something that has
 /// moved under a pointer at rest takes no press until the pointer has moved or the time of a
 /// double-click has passed. The second click of a double-click counts only on the target of the
 /// first. The caller reports where the pointer is, in any coordinates that do not change, and what

@@ -30,7 +30,7 @@ private:
     double frequency_;  ///< Frequency of the swing in radians a second; 0 if there is none.
     double target_;
     double distance_;  ///< Distance from the target at the start.
-    double push_;      ///< What the speed at the start adds to the offset.
+    double push_;      ///< The part of the offset that the speed at the start adds.
 };
 
 }  // namespace vantle

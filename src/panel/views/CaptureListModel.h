@@ -57,7 +57,7 @@ public:
 
     /// Returns null if no row has that identifier.
     CapturePointer capture(const QString& captureId) const;
-    /// The same, but also returns null for a capture that is leaving.
+    /// Like capture(), but also returns null for a capture that is leaving.
     CapturePointer present(const QString& captureId) const;
     /// Returns how many of the captures that stay are selected.
     int selectedCount() const;

@@ -55,7 +55,7 @@ private:
     PanelModel* panel_ = nullptr;
     QString captureId_;
     QString fileName_;
-    std::optional<QPointF> mouseDownPoint_;  ///< In the window; absent if nothing is pressed.
+    std::optional<QPointF> mouseDownPoint_;  ///< The press in the window, if there is one.
     bool dragging_ = false;
     bool isSecondClick_ = false;  ///< The current press is the second of a double-click.
 };

@@ -35,8 +35,8 @@ protected:
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
 
 private:
-    double drawnPixelsPerPoint_ = 0;  ///< 0 if the picture must be drawn anew.
-    int drawnCorner_ = 0;             ///< In pixels.
+    double drawnPixelsPerPoint_ = 0;  ///< 0 if the picture must be redrawn.
+    int drawnCorner_ = 0;             ///< The side of a drawn corner, in pixels.
 };
 
 }  // namespace vantle

@@ -28,7 +28,7 @@ public:
     /// falls through, or if it hits a card that is leaving and therefore has no effect. Logs the
     /// result in debug mode.
     QQuickItem* hitTest(const QPointF& point) const;
-    /// The same without logging.
+    /// Does the same without logging.
     QQuickItem* itemAt(const QPointF& point) const;
 
 protected:

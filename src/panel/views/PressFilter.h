@@ -35,7 +35,7 @@ private:
     const PassthroughContainerView& container_;
     PanelModel& panel_;
     PressGuard guard_;
-    std::optional<QPointF> pointer_;  ///< In the window; absent while the pointer is outside.
+    std::optional<QPointF> pointer_;  ///< The place in the window; absent while outside.
     bool isKept_ = false;             ///< The current press is kept from the card.
 };
 

@@ -18,8 +18,8 @@ class SeparateBarView : public QQuickItem {
 
     /// True if the window may open, which must be only while nothing but the bar changes.
     Q_PROPERTY(bool isWanted MEMBER isWanted_ NOTIFY isWantedChanged)
-    /// In points from the item's left edge. The item keeps its width, because a change would redraw
-    /// the card.
+    /// The bar's length in points, from the item's left edge. The item keeps its width, because a
+    /// change would redraw the card.
     Q_PROPERTY(double length MEMBER length_ NOTIFY looksChanged)
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY looksChanged)
     /// True while the window shows the bar.

@@ -37,8 +37,7 @@ public:
         for (auto& item : items) urls_.push_back(std::move(item.url));
     }
 
-    /// Returns when the button was released or the drag was cancelled; events are handled
-    /// meanwhile.
+    /// Returns when the button was released or the drag was cancelled. Handles events until then.
     void run() {
         if (!window_) {
             finish(DragOperation::none);
