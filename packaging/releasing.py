@@ -1,4 +1,4 @@
-"""Makes what an update consists of: a release's archive, its signature, its place in the feed."""
+"""Makes the parts of an update: a release's archive, its signature, its entry in the feed."""
 
 import base64
 import datetime
@@ -21,13 +21,13 @@ def sparkle(name):
 
 
 def make_key(path):
-    """Makes a key pair; the secret one stands in the file, which only its owner can read."""
+    """Makes a key pair and writes the private key to a file that only its owner can read."""
     with open(os.open(path, os.O_WRONLY | os.O_CREAT | os.O_EXCL, 0o600), "wb") as file:
         file.write(_openssl("genpkey", "-algorithm", "ed25519"))
 
 
 def public_key(path):
-    """As Vantle is built with it: the bytes of the key in base64."""
+    """Returns the public key as the build of Vantle takes it: its bytes in base64."""
     whole = _openssl("pkey", "-in", path, "-pubout", "-outform", "DER")
     return base64.b64encode(whole[-32:]).decode()
 
@@ -41,7 +41,7 @@ def signature(contents, key):
 
 
 def describe_release(tree, version, platform, installation="tree"):
-    """Has a tree say what it is, so that it can be replaced by an update."""
+    """Writes into a tree what it is, so that an update can replace it."""
     folder = Path(tree, "share/vantle")
     folder.mkdir(parents=True, exist_ok=True)
     folder.joinpath("release").write_text(
@@ -50,7 +50,7 @@ def describe_release(tree, version, platform, installation="tree"):
 
 
 def write_manifest(tree):
-    """Names each file of a tree and its sum, as sha256sum does."""
+    """Lists each file of a tree and its checksum, as sha256sum does."""
     tree = Path(tree)
     manifest = tree / "share/vantle/manifest"
     files = sorted(path for path in tree.rglob("*") if path.is_file() and path != manifest)
@@ -63,7 +63,7 @@ def write_manifest(tree):
 
 
 def pack(tree, archive, date=0, effort=19):
-    """The same bytes for the same tree. `tree` is a folder called "vantle"."""
+    """Packs a tree, a folder named "vantle"; the same tree always gives the same bytes."""
     tree = Path(tree)
     subprocess.run(
         ["tar", "--create", "--file", str(archive),
@@ -75,7 +75,7 @@ def pack(tree, archive, date=0, effort=19):
 
 
 def date_of_package(changelog):
-    """When the newest version was made, by Debian's changelog; in seconds since 1970."""
+    """Returns the date of the newest version in Debian's changelog, in seconds since 1970."""
     text = Path(changelog).read_text()
     date = re.search(r"^ -- .*>  (.*)$", text, re.MULTILINE).group(1)
     return int(email.utils.parsedate_to_datetime(date).timestamp())
@@ -97,7 +97,7 @@ def repack(package, target, date):
 
 
 def installed_size(tree):
-    """In KiB, as Debian's policy counts: each file rounded up, everything else as one."""
+    """Returns KiB as Debian's policy counts: each file rounded up, everything else as one."""
     entries = [path for path in tree.rglob("*") if "DEBIAN" not in path.relative_to(tree).parts]
     return sum(
         -(-path.stat().st_size // 1024) if path.is_file() and not path.is_symlink() else 1
@@ -106,7 +106,7 @@ def installed_size(tree):
 
 
 def needed_system(tree):
-    """The version of the C library that the programs of a tree need."""
+    """Returns the version of the C library that the programs of a tree need."""
     versions = {(0,)}
     for path in Path(tree).rglob("*"):
         if path.is_file() and path.read_bytes()[:4] == b"\x7fELF":
@@ -117,7 +117,7 @@ def needed_system(tree):
 
 
 def add_item(feed, archive, address, key, version, platform, **details):
-    """Puts a release into a feed, which may be none yet, and gives the new one, signed.
+    """Adds a release to a feed, which may be empty, and returns the new feed, signed.
 
     `details`: display_version, minimum_system_version, channel, page, notes (HTML) and date.
     """
@@ -152,25 +152,26 @@ def add_item(feed, archive, address, key, version, platform, **details):
 
 
 def sign_feed(xml, key):
-    """The signature stands in a comment behind what it is for."""
+    """Appends a comment that holds the signature of everything before it."""
     return xml + (
         f"<!-- sparkle-signatures:\nedSignature: {signature(xml, key)}\nlength: {len(xml)}\n-->\n"
     ).encode()
 
 
 def _verified(feed, key):
-    """The feed without its signature; what is in a feed of somebody else is not to be signed."""
+    """Returns the feed without its signature. Refuses a feed that this key did not sign, because
+    its contents would be signed again."""
     if not feed:
         return feed
     xml = SIGNATURE_COMMENT.sub(b"", feed)
-    # Ed25519 gives the same signature for the same bytes.
+    # Ed25519 always gives the same signature for the same bytes, so signing again verifies it.
     if sign_feed(xml, key) != feed:
         raise ValueError("the feed was not signed with this key")
     return xml
 
 
 def _later(date, channel):
-    """Never before the feed that there was: it would be taken for one that somebody kept."""
+    """Returns a date after that of the old feed: updaters refuse a feed that is older."""
     before = channel.findtext("lastBuildDate")
     if not before:
         return date
