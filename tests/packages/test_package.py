@@ -14,7 +14,8 @@ IDENTIFIER = "org.vantle.Vantle"
 SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
 PROGRAMS = ["vantle", "vantle-decoder", "vantle-folder-dialog", "vantle-updater"]
 LANGUAGES = sorted(path.stem for path in (ROOT / "translations").glob("*.ts"))
-FORMATS = ["gif", "heic", "jpeg", "pdf", "png", "recording", "tiff", "webp"]
+FORMATS = sorted(path.parent.name
+                 for path in (ROOT / "src/decoder/formats").glob("*/CMakeLists.txt"))
 LIBRARIES = ["libvantle-core", "vantle-no-proxies", "vantle-views"]
 OF_ANY_COPY = [
     *(f"bin/{program}" for program in PROGRAMS),
