@@ -24,7 +24,7 @@ Profile opened(std::span<const std::uint8_t> bytes) {
     return Profile(cmsOpenProfileFromMem(bytes.data(), static_cast<cmsUInt32Number>(bytes.size())));
 }
 
-/// Null where the profile is not one for samples of this kind.
+/// Returns null if the profile is empty, damaged or not for this colour space.
 Transform transform(std::span<const std::uint8_t> bytes, cmsColorSpaceSignature space,
                     cmsUInt32Number samples) {
     const Profile source = opened(bytes);

@@ -7,15 +7,15 @@
 
 namespace vantle::decoder {
 
-/// Brings a picture from the colours that its ICC profile describes into those of a screen (sRGB).
-/// A profile that is empty, damaged, or not one for such pictures changes nothing.
+/// Converts a picture from the colours that its ICC profile describes to those of a screen (sRGB).
+/// Changes nothing if the profile is empty, damaged or not for RGB pictures.
 void convertToScreen(Picture& picture, std::span<const std::uint8_t> colorProfile);
 
-/// Whether 255 of a CMYK picture means full ink, or none.
+/// The meaning of 255 in a CMYK picture: full ink, or none.
 enum class InkSense { moreIsDarker, moreIsLighter };
 
-/// The same for a picture whose samples are cyan, magenta, yellow and black ink; without a usable
-/// profile by plain arithmetic.
+/// Does the same for a picture whose samples are cyan, magenta, yellow and black ink. Uses plain
+/// arithmetic if the profile is not usable.
 void convertInkToScreen(Picture& picture, InkSense sense, std::span<const std::uint8_t> profile);
 
 }  // namespace vantle::decoder

@@ -8,7 +8,7 @@ namespace vantle::decoder {
 
 std::uint32_t confine(std::span<const std::string> readable) {
     limitResources();
-    // Both guards below ask for it: no program that is started may have more rights.
+    // Both guards below require this: a program that is started cannot gain rights.
     prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
     prctl(PR_SET_DUMPABLE, 0);
     std::uint32_t missing = 0;

@@ -6,18 +6,19 @@
 
 namespace vantle::decoder {
 
-/// Gives up every right of this process but to compute and to use the descriptors that it has: no
-/// file system (Landlock), no other system calls than those of a list (seccomp: no network, no new
-/// processes, no new programs), limits on memory, processor time, output and descriptors. There is
-/// no way back. Threads that exist already keep their rights: to be called before any is made.
+/// Leaves this process only the rights to compute and to use the descriptors that it has: no file
+/// system (Landlock), only the system calls on a list (seccomp: no network, no new processes, no
+/// new programs), and limits on memory, processor time, output and descriptors. This cannot be
+/// undone. Threads that already exist keep their rights, so it must be called before any are
+/// started.
 ///
-/// The files at `readable`, which are the system's own, can still be opened for reading.
+/// The files at `readable`, which belong to the system, can still be opened for reading.
 ///
-/// Gives the guards that this system does not have, as Guard values added up; all others hold.
-/// Where the file system guard is missing, opening files is not on the list of system calls either.
+/// Returns the guards that this system does not have, as a sum of Guard values; all others are in
+/// force. If the file system guard is missing, the list of system calls excludes opening files.
 std::uint32_t confine(std::span<const std::string> readable = {});
 
-/// The parts of it. False where the system does not have the guard.
+/// The parts of confine(). They return false if the system does not have the guard.
 bool giveUpFileSystem(std::span<const std::string> readable);
 enum class FileOpening { guarded, refused };
 bool giveUpSystemCalls(FileOpening opening);

@@ -11,14 +11,14 @@
 namespace vantle::decoder {
 namespace {
 
-/// What a kernel may know of; headers of the system that builds may be older.
+/// The landlock_ruleset_attr of version 6; the kernel headers at build time may be older.
 struct Rights {
     std::uint64_t files;
     std::uint64_t network;
     std::uint64_t scopes;
 };
 
-/// All rights that the version of Landlock on this kernel can take away.
+/// Returns all rights that this version of Landlock can take away.
 Rights rightsOf(long version) {
     constexpr std::uint64_t always = (1U << 13) - 1;
     constexpr std::uint64_t refer = 1U << 13;          // since version 2
@@ -31,12 +31,13 @@ Rights rightsOf(long version) {
             version >= 4 ? bindAndConnect : 0, version >= 6 ? socketsAndSignals : 0};
 }
 
-/// Kernels before the version refuse what is longer than they know, unless it is zero.
+/// Returns how many bytes of Rights this version of Landlock has. A kernel refuses a longer
+/// structure unless the rest is zero.
 constexpr std::size_t sizeFor(long version) {
     return version >= 6 ? sizeof(Rights) : version >= 4 ? 16 : 8;
 }
 
-/// What is not there need not be allowed.
+/// Ignores a file that does not exist.
 void allowReading(int ruleset, const std::string& path) {
     const FileDescriptor file(open(path.c_str(), O_PATH | O_CLOEXEC));
     if (!file) return;
@@ -53,7 +54,7 @@ bool giveUpFileSystem(std::span<const std::string> readable) {
         syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
     if (version < 1) return false;
     const Rights rights = rightsOf(version);
-    // What no rule allows is refused.
+    // The ruleset refuses everything that no rule allows.
     const FileDescriptor ruleset(
         static_cast<int>(syscall(SYS_landlock_create_ruleset, &rights, sizeFor(version), 0)));
     if (!ruleset) return false;

@@ -13,13 +13,13 @@ constexpr rlim_t memory = RLIM_INFINITY;
 constexpr rlim_t memory = rlim_t{2} * 1024 * 1024 * 1024;
 #endif
 
-// A burst of the largest pictures; a decoder that has used it up is replaced by a new one.
+// Enough for a burst of the largest pictures. A decoder that uses it up is replaced by a new one.
 constexpr rlim_t processorSeconds = 60;
 constexpr rlim_t descriptors = 64;
 
 void limit(int resource, rlim_t value) {
     const rlimit both{value, value};
-    // What is lower already stays.
+    // This fails if the hard limit is already lower; the lower limit then stays in force.
     setrlimit(static_cast<__rlimit_resource_t>(resource), &both);
 }
 

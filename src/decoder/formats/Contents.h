@@ -7,7 +7,8 @@
 
 namespace vantle::decoder {
 
-/// The format that a file's first bytes tell, whatever its name says.
+/// Returns the format that a file's first bytes show, whatever its name says; std::nullopt if they
+/// show none.
 std::optional<Format> formatOf(const InputFile& file);
 
 }  // namespace vantle::decoder

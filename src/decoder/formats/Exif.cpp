@@ -5,7 +5,7 @@
 namespace vantle::decoder {
 namespace {
 
-/// Numbers within the data, in the byte order that they begin with; 0 past the end.
+/// Reads numbers in the byte order that the data begin with. Numbers past the end are 0.
 class Numbers {
 public:
     explicit Numbers(std::span<const std::uint8_t> data)
@@ -24,7 +24,7 @@ public:
         return value;
     }
 
-    /// Two numbers, the first divided by the second.
+    /// Returns the first of two numbers divided by the second; 0 if the second is 0.
     double ratioAt(std::size_t offset) const {
         const std::uint32_t divisor = at(offset + 4, 4);
         return divisor == 0 ? 0 : static_cast<double>(at(offset, 4)) / divisor;

@@ -9,13 +9,13 @@
 
 namespace vantle::decoder {
 
-/// What cameras and programs note beside a picture.
+/// The metadata that cameras and programs store with a picture.
 struct Exif {
     Orientation orientation = Orientation::upright;
     std::optional<Resolution> resolution;
 };
 
-/// Reads the TIFF structure that Exif data are. What is damaged is not said.
+/// Reads Exif data, which have the structure of a TIFF file. Damaged fields keep their defaults.
 Exif readExif(std::span<const std::uint8_t> data);
 
 }  // namespace vantle::decoder

@@ -8,17 +8,18 @@
 
 namespace vantle::decoder {
 
-/// A file that somebody else opened and keeps open: any number of readers, each at a place of its
-/// own, because the descriptor's own position is never used.
+/// A file that the caller opened and keeps open. Any number of readers can read at different
+/// positions, because the descriptor's own position is never used.
 class InputFile {
 public:
     explicit InputFile(int descriptor);
 
     int descriptor() const { return descriptor_; }
-    /// In bytes, as it was when the file was opened.
+    /// Returns the size in bytes when this object was created.
     std::int64_t size() const { return size_; }
 
-    /// Reads until `into` is full or the file ends; gives how many bytes were read.
+    /// Reads from `offset` until `into` is full, the file ends or reading fails. Returns the number
+    /// of bytes read.
     std::size_t read(std::int64_t offset, std::span<std::uint8_t> into) const;
 
 private:
@@ -26,7 +27,7 @@ private:
     std::int64_t size_ = 0;
 };
 
-/// Reads a file from its beginning to its end, or from any other place on.
+/// Reads a file in order through a buffer, from its beginning or from any other position.
 class InputStream {
 public:
     explicit InputStream(const InputFile& file, std::size_t bufferSize = std::size_t{128} * 1024);
@@ -34,18 +35,18 @@ public:
     std::int64_t position() const;
     void seek(std::int64_t position);
 
-    /// What is in memory from the position on, at least one byte unless the file has ended.
+    /// Returns bytes from the position on, at least one unless the file has ended.
     std::span<const std::uint8_t> peek();
-    /// Moves the position past bytes that peek() gave.
+    /// Moves the position past bytes that peek() returned.
     void consume(std::size_t count) { begin_ += count; }
 
-    /// Fills `into` or gives false.
+    /// Fills `into`; returns false if the file ends first.
     bool read(std::span<std::uint8_t> into);
 
 private:
     const InputFile& file_;
     std::vector<std::uint8_t> buffer_;
-    std::int64_t offset_ = 0;  ///< Of the buffer's first byte.
+    std::int64_t offset_ = 0;  ///< The position of the buffer's first byte in the file.
     std::size_t begin_ = 0;
     std::size_t end_ = 0;
 };

@@ -9,7 +9,7 @@
 
 namespace vantle::decoder {
 
-/// A file's bytes, for libraries that want them in memory: only what is looked at is read.
+/// Maps a file for libraries that need its bytes in memory. Only the pages they access are read.
 class MappedFile {
 public:
     explicit MappedFile(const InputFile& file) : size_(static_cast<std::size_t>(file.size())) {
@@ -23,7 +23,7 @@ public:
     MappedFile(const MappedFile&) = delete;
     MappedFile& operator=(const MappedFile&) = delete;
 
-    /// Empty when there are none, or too many to be mapped.
+    /// Returns an empty span if the file is empty or too large to be mapped.
     std::span<const std::uint8_t> bytes() const {
         return {static_cast<const std::uint8_t*>(bytes_), bytes_ ? size_ : 0};
     }

@@ -11,46 +11,49 @@
 
 namespace vantle::decoder {
 
-/// An image of one format, opened. Its sizes are those of the upright picture.
+/// An open image file. All its sizes refer to the upright picture.
 class StillImage {
 public:
     virtual ~StillImage() = default;
 
-    /// 0 × 0 for a vector image.
+    /// Returns 0 × 0 for a vector image.
     virtual PixelSize pixelSize() const = 0;
     virtual Size pointSize() const = 0;
 
-    /// The upright picture in `target` pixels, which are at least 1 × 1 and, unless the image is a
-    /// vector image, not more than it has. Absent when the contents are damaged or incomplete.
+    /// Draws the upright picture in `target` pixels, which must be at least 1 × 1 and, unless this
+    /// is a vector image, at most pixelSize(). Returns std::nullopt if the contents are damaged or
+    /// incomplete.
     virtual std::optional<Picture> draw(PixelSize target) = 0;
 };
 
-/// A recording, opened.
+/// An open recording.
 class Recording {
 public:
     virtual ~Recording() = default;
 
-    /// Seconds; not a number when the file does not say.
+    /// Returns the duration in seconds; not a number if the file does not say.
     virtual double duration() const = 0;
-    /// The upright natural size of the first video track.
+    /// Returns the upright natural size of the first video track; std::nullopt if there is none.
     virtual std::optional<Size> videoTrackSize() const = 0;
-    /// The upright frame at `time` seconds, shrunk where needed so that neither side exceeds
-    /// `maximumDimension`. A time that is not a number means the beginning.
+    /// Returns the upright frame at `time` seconds, shrunk if necessary so that neither side
+    /// exceeds `maximumDimension` pixels; std::nullopt if no frame can be decoded. A time that is
+    /// not a number means the beginning.
     virtual std::optional<Picture> frame(double time, double maximumDimension) = 0;
 };
 
-/// What one format's module offers. The functions may throw
-/// std::exception where memory or threads are short.
+/// The functions of one format's module. They may throw std::exception if memory or threads run
+/// out.
 struct FormatModule {
-    /// Called once, before the process gives up its rights; null when there is nothing to prepare.
-    /// Gives the paths of files that belong to the system and that the module has to read later.
+    /// Called once, before the process gives up its rights; null if there is nothing to prepare.
+    /// Returns the paths of system files that the module must read later.
     std::vector<std::string> (*prepare)();
-    /// Null when the file is no image of this format, or when this is a format of recordings.
+    /// Both functions return null if the file is not of this format. A module for recordings has no
+    /// openImage (null), a module for images no openRecording.
     std::unique_ptr<StillImage> (*openImage)(const InputFile& file);
     std::unique_ptr<Recording> (*openRecording)(const InputFile& file);
 };
 
-/// The name of the function by which a module gives its FormatModule.
+/// The name of the function that returns a module's FormatModule.
 constexpr auto moduleEntry = "vantleFormatModule";
 using ModuleEntry = const FormatModule* (*)();
 

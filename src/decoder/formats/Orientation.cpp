@@ -6,8 +6,8 @@
 namespace vantle::decoder {
 namespace {
 
-/// Where in the stored picture an upright pixel comes from: `origin`, and a step for each pixel to
-/// the right and each one down.
+/// The index of an upright pixel in the stored picture: `origin`, plus a step for each pixel to the
+/// right and a step for each pixel down.
 struct Walk {
     std::ptrdiff_t origin;
     std::ptrdiff_t across;

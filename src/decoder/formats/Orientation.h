@@ -5,29 +5,29 @@
 
 namespace vantle::decoder {
 
-/// What has to be done to the stored picture to see it upright; the numbers are those of Exif.
+/// The change that makes the stored picture upright, with the numbers that Exif uses.
 enum class Orientation {
     upright = 1,
     mirrored,
     turnedAround,
-    flipped,     ///< Upside down, by a mirror.
-    transposed,  ///< Rows are columns.
-    turnRight,   ///< By a quarter, as a clock turns.
+    flipped,     ///< Mirrored upside down.
+    transposed,  ///< Rows and columns change places.
+    turnRight,   ///< A quarter turn clockwise.
     transposedAround,
     turnLeft,
 };
 
-/// The orientation of that number; upright for any other.
+/// Returns the orientation with this Exif number; upright for any number that Exif does not have.
 constexpr Orientation orientationNumbered(unsigned number) {
     return number >= 1 && number <= 8 ? static_cast<Orientation>(number) : Orientation::upright;
 }
 
-/// Whether width and height change places.
+/// Returns true if width and height change places.
 constexpr bool swapsSides(Orientation orientation) {
     return orientation >= Orientation::transposed;
 }
 
-/// From the stored picture's size to that of the upright one, and back.
+/// Converts the stored picture's size to the upright picture's, or back.
 constexpr PixelSize turned(PixelSize size, Orientation orientation) {
     return swapsSides(orientation) ? PixelSize{size.height, size.width} : size;
 }
@@ -36,7 +36,7 @@ constexpr Size turned(Size size, Orientation orientation) {
     return swapsSides(orientation) ? Size{size.height, size.width} : size;
 }
 
-/// The stored picture made upright.
+/// Makes the stored picture upright.
 Picture turned(Picture picture, Orientation orientation);
 
 }  // namespace vantle::decoder

@@ -7,7 +7,7 @@
 
 namespace vantle::decoder {
 
-/// Dots an inch; 72 where a file does not say.
+/// Dots per inch; 72 if a file does not say.
 struct Resolution {
     double across = 72;
     double down = 72;
@@ -15,8 +15,9 @@ struct Resolution {
     static constexpr double metresInInch = 0.0254;
     static constexpr double centimetresInInch = 2.54;
 
-    /// Dots a unit of length, of which `unitsInInch` make an inch. Files keep rounded numbers of
-    /// what was a whole number of dots an inch; numbers without sense count as not said.
+    /// Converts dots per unit of length, with `unitsInInch` units to the inch. Rounds to whole dots
+    /// per inch, because files store rounded values of whole numbers. Returns the default if a
+    /// value is not sensible.
     static Resolution of(double across, double down, double unitsInInch) {
         const Resolution said{std::round(across * unitsInInch), std::round(down * unitsInInch)};
         return isSensible(said.across) && isSensible(said.down) ? said : Resolution{};

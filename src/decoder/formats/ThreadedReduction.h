@@ -10,22 +10,22 @@
 
 namespace vantle::decoder {
 
-/// Reduces on a second thread the rows that a decoder writes on this one.
+/// Reduces rows on a second thread while a decoder writes them on this one.
 class ThreadedReduction {
 public:
     ThreadedReduction(PixelSize source, PixelSize target, PixelLayout layout);
 
-    /// Room for the next row, uninitialised; its contents count once rowIsWritten() is called.
+    /// Returns uninitialised room for the next row. Call rowIsWritten() when the row is complete.
     std::uint8_t* row();
     void rowIsWritten();
 
-    /// The same for a row that stands elsewhere already.
+    /// Adds a copy of a row.
     void addRow(const void* row) {
         std::memcpy(this->row(), row, rowSize_);
         rowIsWritten();
     }
 
-    /// Absent when rows are missing.
+    /// Returns the reduced picture; std::nullopt if rows are missing.
     std::optional<Picture> take();
 
 private:
@@ -36,7 +36,7 @@ private:
     std::size_t used_ = 0;
 };
 
-/// Blocks of whole rows that are worth handing to another thread.
+/// Returns how many rows make a block that is worth handing to another thread; at least 1.
 constexpr std::size_t rowsInBlock(std::size_t rowSize) {
     constexpr std::size_t worthwhile = std::size_t{128} * 1024;
     return std::max<std::size_t>(1, worthwhile / rowSize);

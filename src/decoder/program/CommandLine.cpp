@@ -94,7 +94,8 @@ int runCommandLine(std::span<char*> arguments) {
         std::fputs(usage, stderr);
         return 2;
     }
-    // The decoder's time and memory are to be counted with ours: it ends before we do.
+    // This process adopts the decoder and waits for it, so that the decoder's time and memory are
+    // counted with ours.
     prctl(PR_SET_CHILD_SUBREAPER, 1);
     const int status = makeThumbnail(*wanted);
     while (wait(nullptr) > 0) continue;

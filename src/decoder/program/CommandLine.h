@@ -4,8 +4,9 @@
 
 namespace vantle::decoder {
 
-/// Makes the thumbnail of one file for a person or a script, through a confined decoder as the
-/// program does. Gives the exit status: 0, 1 when the file has no picture, 2 for wrong arguments.
+/// Makes the thumbnail of one file for a person or a script, with a confined decoder as Vantle
+/// does. Returns the exit status: 0, 1 if no thumbnail could be made or written, 2 for wrong
+/// arguments.
 int runCommandLine(std::span<char*> arguments);
 
 }  // namespace vantle::decoder

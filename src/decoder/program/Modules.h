@@ -5,8 +5,8 @@
 
 namespace vantle::decoder {
 
-/// Loads the module of one format, which stands in lib/vantle/modules beside this program's folder.
-/// Null, and a line on standard error, when it cannot be loaded. It stays loaded.
+/// Loads the module of one format from lib/vantle/modules beside this program's folder. Returns
+/// null and writes to the system log if it cannot be loaded. The module stays loaded.
 const FormatModule* loadModule(Format format);
 
 }  // namespace vantle::decoder

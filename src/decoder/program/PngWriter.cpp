@@ -26,7 +26,7 @@ Bytes bytes(std::string_view text) {
     return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
-/// A file that is being written; isGood() tells in the end whether all of it was.
+/// A file that is being written; close() returns true if all of it was written.
 class Output {
 public:
     explicit Output(const std::string& path) : file_(std::fopen(path.c_str(), "wb")) {}
@@ -58,8 +58,8 @@ private:
     bool isGood_ = true;
 };
 
-/// Compresses what it is given into chunks of picture data, little: this file is looked at, not
-/// kept.
+/// Compresses data into chunks of picture data. Compresses only lightly, because the file is looked
+/// at, not kept.
 class Compressor {
 public:
     explicit Compressor(Output& output) : output_(output) {
@@ -103,7 +103,7 @@ private:
     std::array<std::uint8_t, 65'536> chunk_{};
 };
 
-/// One row without padding, of three or four channels.
+/// Converts one row to three or four channels, without padding and not premultiplied.
 void writeRow(const std::uint8_t* rgba, std::span<std::uint8_t> row, std::size_t channels) {
     for (std::size_t out = 0; out < row.size(); out += channels, rgba += 4) {
         std::copy_n(rgba, channels, &row[out]);
@@ -131,7 +131,7 @@ bool writePng(const Image& image, const std::string& path) {
     writeHeader(output, image, channels);
     const auto compressor = std::make_unique<Compressor>(output);
     const auto width = static_cast<std::size_t>(image.pixelsWide);
-    // Each row stands behind the number of its filter, which is none.
+    // Each row follows the number of its filter, which is 0 for none.
     std::vector<std::uint8_t> row(1 + width * channels);
     for (std::size_t begin = 0; begin < image.rgba.size(); begin += width * 4) {
         writeRow(image.rgba.data() + begin, std::span(row).subspan(1), channels);

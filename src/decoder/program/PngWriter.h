@@ -6,7 +6,7 @@
 
 namespace vantle::decoder {
 
-/// Writes an image to a file, replacing what was there. False, with errno set, when it cannot.
+/// Writes an image to a file and replaces an existing one. Returns false and sets errno on failure.
 bool writePng(const Image& image, const std::string& path);
 
 }  // namespace vantle::decoder

@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
     using namespace vantle::decoder;
     if (argc == 3 && std::string_view(argv[1]) == "--serve") {
         const int status = runService(argv[2], loadModule);
-        // Without the endings of the libraries, which may ask for what is given up.
+        // This skips the exit handlers of the libraries, which may need rights that are given up.
         _exit(status);
     }
     return runCommandLine({argv, argv + argc});

@@ -10,7 +10,7 @@
 namespace vantle::decoder {
 namespace {
 
-/// Room for one descriptor beside a message.
+/// Room for one descriptor that is sent with a message.
 union Control {
     cmsghdr header;
     char bytes[CMSG_SPACE(sizeof(int))];

@@ -9,12 +9,12 @@
 
 namespace vantle::decoder {
 
-/// Sends one message, with a descriptor unless `descriptor` is -1. False when the other end is
-/// gone.
+/// Sends one message, with a descriptor unless `descriptor` is -1. Returns false if the other end
+/// is gone.
 bool sendBytes(int socket, std::span<const std::byte> message, int descriptor);
 
-/// Receives one message of just this size, and the descriptor that came with it, if any. False when
-/// the other end is gone, says something else, or says nothing within `timeout`.
+/// Receives one message of exactly this size, and the descriptor that came with it, if any. Returns
+/// false if the other end is gone, sends another size, or sends nothing within `timeout`.
 bool receiveBytes(int socket, std::span<std::byte> message, FileDescriptor& descriptor,
                   std::chrono::milliseconds timeout);
 

@@ -8,53 +8,53 @@
 #include "support/Geometry.h"
 #include "support/PixelSize.h"
 
-/// What the program and its decoder say to each other, over a Unix socket that keeps messages
-/// apart. Both ends are of one build, so the structures travel as they are.
+/// The messages between the program and its decoder, over a Unix socket that preserves message
+/// boundaries. Both ends come from the same build, so the structures are sent as they are.
 ///
 ///   decoder → program   Hello, with a descriptor of the process
 ///   decoder → program   Ready, when the decoder has given up its rights
 ///   program → decoder   Request
-///   decoder → program   Reply, but for close; and so on, nothing else is said
+///   decoder → program   Reply, except to close; then the next Request
 namespace vantle::decoder {
 
-/// Before anything else. Carries a pidfd, by which the decoder can be ended.
+/// The first message. It carries a pidfd with which the program can end the decoder.
 struct Hello {};
 
-/// A guard that this system does not have.
+/// A guard of confine() that a system may lack.
 enum class Guard : std::uint32_t { fileSystem = 1, systemCalls = 2 };
 
 struct Ready {
-    std::uint32_t missingGuards = 0;  ///< Of Guard, added up.
+    std::uint32_t missingGuards = 0;  ///< The sum of Guard values.
 };
 
 enum class Operation : std::uint32_t { openImage, openRecording, draw, frame, close };
 
-/// openImage and openRecording carry the descriptor of the file. If they are done the decoder keeps
-/// it until close, or until another one is opened; draw and frame are about that file. Nothing
-/// answers close.
+/// openImage and openRecording carry the descriptor of the file. If they succeed, the decoder keeps
+/// it until close, or until another file is opened; draw and frame apply to that file. There is no
+/// reply to close.
 struct Request {
     Operation operation = Operation::openImage;
-    PixelSize target;             ///< Of draw.
-    double time = 0;              ///< Of frame, in seconds.
-    double maximumDimension = 0;  ///< Of frame, in pixels.
+    PixelSize target;             ///< Used by draw.
+    double time = 0;              ///< Used by frame, in seconds.
+    double maximumDimension = 0;  ///< Used by frame, in pixels.
 };
 
 enum class Status : std::uint32_t {
     done,
-    failed,       ///< The file cannot be opened, or not be drawn.
-    otherFormat,  ///< The file's contents are those of `format`: ask its decoder.
+    failed,       ///< The file cannot be opened or drawn.
+    otherFormat,  ///< The file is in `format`, so that format's decoder must open it.
 };
 
-/// A reply to draw or frame that is done carries the descriptor of shared memory, sealed so that
-/// nobody can change it any more: premultiplied 8-bit red, green, blue, alpha, in rows from the top
-/// and without padding, of the size `picture`.
+/// A successful reply to draw or frame carries the descriptor of shared memory, which is sealed so
+/// that nobody can change it any more. It holds premultiplied 8-bit red, green, blue and alpha, in
+/// rows from the top without padding, of the size `picture`.
 struct Reply {
     Status status = Status::failed;
     Format format = Format::png;
-    PixelSize pixelSize;  ///< Of the opened image; 0 × 0 of a vector image.
-    Size size;            ///< Of the opened image in points, or of the recording's video track.
+    PixelSize pixelSize;  ///< The opened image's size; 0 × 0 for a vector image.
+    Size size;            ///< The opened image's size in points, or the video track's size.
     std::uint32_t hasVideoTrack = 0;
-    double duration = 0;  ///< Of the opened recording; not a number when unknown.
+    double duration = 0;  ///< The opened recording's duration in seconds; not a number if unknown.
     PixelSize picture;
 };
 
@@ -63,10 +63,10 @@ static_assert(std::is_trivially_copyable_v<Request> && std::is_trivially_copyabl
 /// The descriptor of the socket in a decoder's process.
 constexpr int decoderSocket = 3;
 
-/// A decoder ends this long after the last request, in seconds.
+/// Seconds after the last request at which a decoder ends.
 constexpr int decoderTimeout = 10;
 
-/// The most that one picture may take, in bytes.
+/// The largest size of one picture in bytes.
 constexpr std::int64_t maximumPictureBytes = std::int64_t{256} * 1024 * 1024;
 
 }  // namespace vantle::decoder

@@ -4,8 +4,8 @@
 #include <bit>
 #include <cstring>
 
-// Each loop is written once, for any vector unit, and compiled once for each kind of processor:
-// what a processor has is asked when the program runs.
+// Each loop is written once, for any vector unit, and compiled once for each kind of processor. The
+// program chooses between them when it runs.
 #define VANTLE_LOOP [[gnu::always_inline]] inline
 
 namespace vantle::decoder {
@@ -27,7 +27,7 @@ VANTLE_LOOP Float4 all(float value) {
     return Float4{value, value, value, value};
 }
 
-/// Between 0 and the maximum, to the nearest whole number.
+/// Rounds to the nearest whole number between 0 and the maximum.
 VANTLE_LOOP Int4 rounded(Float4 value, float maximum) {
     value = value + all(0.5F);
     value = value > all(0) ? value : all(0);
@@ -45,14 +45,14 @@ VANTLE_LOOP void widenRow(const std::uint8_t* __restrict row, std::uint16_t* __r
     for (std::size_t i = 0; i < count; ++i) wide[i] = static_cast<std::uint16_t>(row[i] << 8);
 }
 
-/// Four neighbouring samples, of which the first `channels` are a pixel's.
+/// Loads four neighbouring samples, also for a pixel that has fewer channels.
 VANTLE_LOOP Int4 loadPixel(const std::uint16_t* from) {
     Samples4 samples;
     std::memcpy(&samples, from, sizeof samples);
     return __builtin_convertvector(samples, Int4);
 }
 
-/// `known` is what `across` is known to be, or 0.
+/// `known` is the value of `across` if it is known at compile time, otherwise 0.
 template <int channels, int known>
 VANTLE_LOOP void averageColumns(const std::uint16_t* sums, std::uint16_t* averages, int pixels,
                                 int across, int rows) {
@@ -71,7 +71,7 @@ VANTLE_LOOP void averageColumns(const std::uint16_t* sums, std::uint16_t* averag
     if (pixels > 0) averageNext(pixels, scaleOf(pixels));
 }
 
-/// Those of a large screen are worth a loop of their own.
+/// The values of `across` for large screens are worth their own loops.
 template <int channels>
 VANTLE_LOOP void averageColumnsOf(const std::uint16_t* sums, std::uint16_t* averages, int pixels,
                                   int across, int rows) {
@@ -88,8 +88,8 @@ VANTLE_LOOP void averageColumnsOf(const std::uint16_t* sums, std::uint16_t* aver
     averageColumns<1, 0>(sums, averages, pixels, across, rows);
 }
 
-/// Adds sixteen samples, as far as they weigh. Two neighbours lie in one 32-bit number, and are
-/// taken apart without moving anything between the parts of a vector.
+/// Adds sixteen weighted samples. Each 32-bit number holds two neighbours, which are separated
+/// without moving anything between the lanes of a vector.
 VANTLE_LOOP void addWeighted(Float8& even, Float8& odd, float weight, const std::uint16_t* from) {
     static_assert(std::endian::native == std::endian::little);
     Int8 pairs;
@@ -110,7 +110,7 @@ VANTLE_LOOP void reduceDown(const std::uint16_t* const* rows, const float* weigh
     constexpr std::size_t half = 16;
     static_assert(Kernels::padding == 2 * half);
     for (std::size_t begin = 0; begin < count; begin += Kernels::padding) {
-        // Four sums at a time keep the processor busy, and stay in its registers.
+        // Four sums at a time keep the processor busy and fit into its registers.
         Float8 even{};
         Float8 odd{};
         Float8 nextEven{};
@@ -169,7 +169,7 @@ VANTLE_LOOP bool premultiply(const std::uint8_t* __restrict row, std::uint8_t* _
     return true;
 }
 
-// What makes one set of functions from the loops, for one kind of processor.
+// Makes one set of functions from the loops, for one kind of processor.
 
 // NOLINTBEGIN(bugprone-macro-parentheses): an attribute cannot stand in parentheses
 #define VANTLE_KERNELS(NAME, TARGET)                                                              \

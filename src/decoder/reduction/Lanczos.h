@@ -6,10 +6,11 @@
 
 namespace vantle::decoder {
 
-/// How each target sample of one axis is made of source samples by the Lanczos-3 filter.
+/// The weights by which the Lanczos-3 filter turns source samples into target samples on one axis.
 class Lanczos {
 public:
-    /// `extent` is how many source samples the target spans; it may end within the last one.
+    /// `extent` is the number of source samples that the target spans; it may end within the last
+    /// one.
     Lanczos(int sourceCount, double extent, int targetCount);
 
     const Taps& at(int target) const { return taps_[static_cast<std::size_t>(target)]; }

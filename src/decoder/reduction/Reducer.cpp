@@ -6,7 +6,7 @@
 namespace vantle::decoder {
 namespace {
 
-/// So many 8-bit samples fit into a 16-bit sum.
+/// This many 8-bit samples fit into a 16-bit sum.
 constexpr int maximumBlock = 256;
 
 int blockSide(int source, int target) {
@@ -81,7 +81,7 @@ void Reducer::addReducedRow() {
     finishTargets();
 }
 
-/// Makes each target row whose source rows have all arrived.
+/// Makes each target row for which all source rows have arrived.
 void Reducer::finishTargets() {
     while (nextTarget_ < target_.height) {
         const Taps& taps = down_.at(nextTarget_);
@@ -103,7 +103,7 @@ void Reducer::writeTarget(const std::uint8_t* samples) {
     for (int pixel = 0; pixel < target_.width; ++pixel, out += 4, samples += channels_) {
         const auto channel = [&](int index) { return samples[channels_ == 1 ? 0 : index]; };
         const std::uint8_t alpha = channels_ == 4 ? samples[3] : 255;
-        // Where the filter swings over an edge, colours may not exceed their alpha.
+        // The filter overshoots at edges, but colours must not exceed their alpha.
         const std::uint8_t maximum = layout_ == PixelLayout::cmyk ? 255 : alpha;
         for (int index = 0; index < 3; ++index) out[index] = std::min(channel(index), maximum);
         out[3] = alpha;

@@ -9,32 +9,32 @@
 
 namespace vantle::decoder {
 
-/// What the 8-bit samples of a row are.
+/// The meaning of the 8-bit samples of a row.
 enum class PixelLayout { gray, rgb, rgba, premultipliedRgba, cmyk };
 
 constexpr int channelCount(PixelLayout layout) {
     return layout == PixelLayout::gray ? 1 : layout == PixelLayout::rgb ? 3 : 4;
 }
 
-/// Shrinks a picture whose rows arrive one by one: first an average over whole blocks of pixels,
-/// down to at least twice the target, then the Lanczos-3 filter. The picture never stands in memory
-/// as a whole. All memory is taken by the constructor (std::bad_alloc).
+/// Shrinks a picture whose rows arrive one by one: averages whole blocks of pixels, down to at
+/// least twice the target, then applies the Lanczos-3 filter. The picture is never in memory as a
+/// whole. The constructor allocates all memory (std::bad_alloc).
 class Reducer {
 public:
     /// Both sizes are at least 1 × 1; the target is not larger than the source.
     Reducer(PixelSize source, PixelSize target, PixelLayout layout,
             const Kernels& kernels = Kernels::best());
 
-    /// The next row from the top. Rows beyond the last one are ignored.
+    /// Adds the next row from the top. Rows after the last one are ignored.
     void addRow(const std::uint8_t* row);
 
     bool isComplete() const { return nextTarget_ == target_.height; }
 
-    /// The result; of a CMYK source four plain samples a pixel, which stand for ink.
+    /// Returns the result. A CMYK source gives four samples of ink per pixel instead of RGBA.
     Picture take();
 
 private:
-    /// The average over `across` × `down` pixels.
+    /// Blocks of `across` × `down` pixels are averaged; `reduced` is the number of blocks.
     struct Blocks {
         int across = 1;
         int down = 1;
@@ -58,7 +58,7 @@ private:
     const Lanczos down_;
 
     std::vector<std::uint8_t> premultiplied_;
-    std::vector<std::uint16_t> sums_;  ///< Of the rows of the block that is being filled.
+    std::vector<std::uint16_t> sums_;  ///< The sums of the current block's rows.
     std::vector<std::uint16_t> ring_;  ///< The latest reduced rows.
     std::vector<const std::uint16_t*> window_;
     std::vector<float> column_;         ///< One target row, still as wide as the reduced rows.

@@ -12,24 +12,25 @@
 
 namespace vantle::decoder {
 
-/// Hands blocks of bytes to a second thread, in their order, while the first one fills the next.
+/// Hands blocks of bytes to a second thread, in order, while the first thread fills the next one.
 class RowPipeline {
 public:
-    /// Blocks are readable so many bytes past their end.
+    /// Blocks are readable this many bytes past their end.
     static constexpr std::size_t padding = 4;
 
-    /// `consume` runs on the second thread, for each block that was submitted. It may not throw.
+    /// `consume` runs on the second thread, for each block that is submitted. It must not throw.
     RowPipeline(std::size_t blockSize, std::function<void(std::span<const std::uint8_t>)> consume);
-    /// Waits for the blocks that were submitted.
+    /// Waits until all submitted blocks are consumed.
     ~RowPipeline();
     RowPipeline(const RowPipeline&) = delete;
     RowPipeline& operator=(const RowPipeline&) = delete;
 
-    /// A block to be filled; waits until one is free. The same one until it is submitted.
+    /// Waits until a block is free and returns it, to be filled. Returns the same block until it is
+    /// submitted.
     std::span<std::uint8_t> block();
-    /// Passes the first `used` bytes of the block on.
+    /// Passes on the first `used` bytes of the block.
     void submit(std::size_t used);
-    /// Waits until all is consumed; nothing may be submitted after it.
+    /// Waits until all submitted blocks are consumed. Nothing may be submitted afterwards.
     void finish();
 
 private:
@@ -46,7 +47,7 @@ private:
     std::size_t submitted_ = 0;
     std::size_t consumed_ = 0;
     bool isFinished_ = false;
-    std::jthread thread_;  // the last: it uses all of the above
+    std::jthread thread_;  // must be last: it uses all of the above
 };
 
 }  // namespace vantle::decoder

@@ -16,7 +16,8 @@
 namespace vantle::decoder {
 namespace {
 
-/// Memory that holds a picture and that nobody can change any more; none when there is no room.
+/// Returns memory that holds a picture and that nobody can change any more; an empty descriptor if
+/// there is not enough memory.
 FileDescriptor shared(const Picture& picture) {
     FileDescriptor memory(memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     if (!memory) return {};
@@ -48,8 +49,8 @@ public:
                 continue;
             }
             Answer answer;
-            // The limits stop what a file asks for: memory, or threads. The next file has all
-            // again.
+            // The file needs more memory or threads than the limits allow. All of them are free
+            // again for the next file.
             try {
                 answer = answerTo(received->message, std::move(received->descriptor));
             } catch (const std::exception&) {

@@ -5,7 +5,8 @@
 
 namespace vantle::decoder {
 
-/// Answers requests on `socket` until the other end goes or says nothing for `decoderTimeout`.
+/// Answers requests on `socket` until the other end closes it or sends nothing for
+/// `decoderTimeout`.
 void serve(int socket, Format format, const FormatModule& module);
 
 }  // namespace vantle::decoder

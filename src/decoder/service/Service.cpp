@@ -14,9 +14,9 @@
 namespace vantle::decoder {
 namespace {
 
-/// Goes on in a child, so that the program that started us has nothing to collect later, and tells
-/// it by which descriptor that child can be ended. Returns in the child only, and only when that
-/// has been said; false when it could not be.
+/// Continues in a child process, so that the program that started us need not wait for it later,
+/// and sends that program a pidfd with which it can end the child. Returns only in the child: true
+/// when the pidfd has been sent, false if it could not be sent.
 bool continueInChild() {
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return false;

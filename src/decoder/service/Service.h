@@ -7,11 +7,12 @@
 
 namespace vantle::decoder {
 
-/// Gives a format's module, or null when there is none.
+/// Returns a format's module; null if there is none.
 using LoadModule = const FormatModule* (*)(Format);
 
-/// Serves files of the format of that name on `decoderSocket`: in a child process, which nobody has
-/// to collect, with all rights given up before the first file. Gives the exit status, of both.
+/// Serves files of the named format on `decoderSocket`, in a child process for which nobody has to
+/// wait, and gives up all rights before the first file. Returns the exit status. The parent process
+/// exits inside this function when the child has started.
 int runService(std::string_view formatName, LoadModule load);
 
 }  // namespace vantle::decoder

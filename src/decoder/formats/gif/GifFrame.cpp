@@ -53,7 +53,7 @@ bool GifFrame::readExtension() {
 bool GifFrame::readColors() {
     const ColorMapObject* map = gif_->Image.ColorMap ? gif_->Image.ColorMap : gif_->SColorMap;
     if (!map) return false;
-    // What has no colour is black.
+    // Indexes without a colour are black.
     colors_.fill({0, 0, 0, 255});
     for (int i = 0; i < std::min(map->ColorCount, 256); ++i) {
         const GifColorType& color = map->Colors[i];
@@ -76,7 +76,7 @@ bool GifFrame::readRow(GifPixelType* indexes) {
     return DGifGetLine(gif_.get(), indexes, gif_->Image.Width) == GIF_OK;
 }
 
-/// The rows of an interlaced frame come in four passes.
+/// Reads the rows of an interlaced frame, which come in four passes.
 bool GifFrame::readInTurn(std::vector<GifPixelType>& indexes) {
     struct Pass {
         int first;

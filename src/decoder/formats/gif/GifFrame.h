@@ -11,13 +11,12 @@
 
 namespace vantle::decoder {
 
-/// The first frame of a GIF, read up to where its pixels begin. Nothing behind it is ever looked
-/// at.
+/// The first frame of a GIF, opened up to the beginning of its pixels. Later frames are never read.
 class GifFrame {
 public:
     static std::unique_ptr<GifFrame> open(const InputFile& file);
 
-    /// Of the whole picture, of which a frame may fill a part.
+    /// Returns the size of the whole picture; a frame may fill only part of it.
     PixelSize canvas() const;
 
     std::optional<Picture> draw(PixelSize target);

@@ -13,7 +13,7 @@ public:
     Size pointSize() const override { return Resolution{}.points(size_); }
 
     std::optional<Picture> draw(PixelSize target) override {
-        // The library reads a file once, so each drawing begins at its beginning.
+        // The library can read a file only once, so each drawing opens it again.
         const auto frame = GifFrame::open(file_);
         return frame ? frame->draw(target) : std::nullopt;
     }

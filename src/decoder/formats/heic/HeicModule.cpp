@@ -26,7 +26,7 @@ bool isDone(const heif_error& error) {
     return error.code == heif_error_Ok;
 }
 
-/// How libheif reads a file.
+/// Gives libheif access to a file.
 class HeicReader {
 public:
     explicit HeicReader(const InputFile& file) : file_(file) {}
@@ -73,7 +73,7 @@ public:
 
     bool open() {
         if (!context_) return false;
-        // What a file claims is not to be more than a decoder may use.
+        // A file must not make libheif use more than a decoder is allowed.
         heif_context_set_maximum_image_size_limit(context_.get(), maximumSide);
         heif_context_set_max_decoding_threads(context_.get(), threads);
         if (!isDone(heif_context_read_from_reader(context_.get(), HeicReader::operations(),
@@ -122,7 +122,7 @@ private:
         int stride = 0;
         const std::uint8_t* rows =
             heif_image_get_plane_readonly(&image, heif_channel_interleaved, &stride);
-        // The header may promise another size than the picture has.
+        // The header may state another size than the picture has.
         const PixelSize size{heif_image_get_width(&image, heif_channel_interleaved),
                              heif_image_get_height(&image, heif_channel_interleaved)};
         if (!rows || size != size_) return std::nullopt;
@@ -145,7 +145,7 @@ private:
         if (heif_image_handle_get_list_of_metadata_block_IDs(handle_.get(), "Exif", &id, 1) != 1)
             return {};
         std::vector<std::uint8_t> data(heif_image_handle_get_metadata_size(handle_.get(), id));
-        // The data begin with how far behind the next four bytes they really begin.
+        // The first four bytes hold the distance from their end to the Exif data.
         constexpr std::size_t start = 4;
         if (data.size() < start ||
             !isDone(heif_image_handle_get_metadata(handle_.get(), id, data.data())))
@@ -166,7 +166,7 @@ std::unique_ptr<StillImage> openImage(const InputFile& file) {
     return image->open() ? std::move(image) : nullptr;
 }
 
-/// Libheif looks for its decoders, which may be files of their own.
+/// Makes libheif load its decoders, which may be separate files.
 std::vector<std::string> prepare() {
     heif_init(nullptr);
     return {};

@@ -13,15 +13,15 @@ struct Freer {
     void operator()(JOCTET* bytes) const { free(bytes); }
 };
 
-/// Each scan goes over the whole picture; encoders write about ten, attackers thousands.
+/// Each scan covers the whole picture. Encoders write about ten; an attacker may write thousands.
 void refuseTooManyScans(j_common_ptr jpeg) {
     constexpr int maximumScans = 100;
     if (reinterpret_cast<j_decompress_ptr>(jpeg)->input_scan_number > maximumScans)
         jpeg->err->error_exit(jpeg);
 }
 
-/// Owns libjpeg's state. Its functions return false once libjpeg has jumped out of itself, so
-/// nothing with a destructor may live in them.
+/// Owns libjpeg's state. The functions that call setjmp return false if libjpeg reports an error by
+/// longjmp, which skips destructors: none of their local variables may have one.
 class Decompressor {
 public:
     explicit Decompressor(const InputFile& file) : source_(file) {
@@ -53,7 +53,7 @@ public:
         return jpeg_read_scanlines(&jpeg_, &row, 1) == 1;
     }
 
-    /// Whether the picture was whole.
+    /// Returns true if the picture was complete.
     bool finish() {
         if (setjmp(errors_.jump)) return false;
         return jpeg_finish_decompress(&jpeg_) && !errors_.isDamaged && !source_.hasEnded;
@@ -109,8 +109,8 @@ Resolution resolutionOf(const jpeg_decompress_struct& jpeg, const Exif& exif) {
     return exif.resolution.value_or(Resolution{});
 }
 
-/// Libjpeg can shrink while it decodes, well by halves. It leaves at least twice the target, so
-/// that the last step is a good filter.
+/// Makes libjpeg shrink the picture while it decodes, by a power of two, which it does well. Leaves
+/// at least twice the target size, so that a better filter does the last step.
 void shrinkWhileDecoding(jpeg_decompress_struct& jpeg, PixelSize target) {
     constexpr unsigned maximumDivisor = 8;
     const auto leavesTwice = [](JDIMENSION full, unsigned divisor, int wanted) {
@@ -159,7 +159,7 @@ std::optional<JpegHeader> readJpegHeader(const InputFile& file) {
         .resolution = resolutionOf(jpeg, exif),
         .orientation = exif.orientation,
         .isInk = jpeg.jpeg_color_space == JCS_CMYK || jpeg.jpeg_color_space == JCS_YCCK,
-        // Programs that leave this mark write ink the other way round.
+        // Programs that write the Adobe marker store ink inverted.
         .inkSense = jpeg.saw_Adobe_marker ? InkSense::moreIsLighter : InkSense::moreIsDarker,
         .colorProfile = decompressor.colorProfile()};
 }

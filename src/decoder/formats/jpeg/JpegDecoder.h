@@ -9,9 +9,9 @@
 
 namespace vantle::decoder {
 
-/// What a JPEG says about itself.
+/// The header data of a JPEG file.
 struct JpegHeader {
-    PixelSize size;  ///< As it is stored.
+    PixelSize size;  ///< The stored size, before `orientation` is applied.
     Resolution resolution;
     Orientation orientation = Orientation::upright;
     bool isInk = false;
@@ -21,7 +21,8 @@ struct JpegHeader {
 
 std::optional<JpegHeader> readJpegHeader(const InputFile& file);
 
-/// The picture as it is stored, in its own colours (ink, where the header says so).
+/// Draws the picture in its stored orientation and colours (ink if the header says so). Returns
+/// std::nullopt if the file is damaged or incomplete.
 std::optional<Picture> drawJpeg(const InputFile& file, PixelSize target);
 
 }  // namespace vantle::decoder

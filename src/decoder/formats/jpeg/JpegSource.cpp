@@ -11,8 +11,8 @@ void giveUp(j_common_ptr jpeg) {
     longjmp(static_cast<JpegErrors*>(jpeg->err)->jump, 1);
 }
 
-/// Libjpeg goes on after a warning. Some are about garbage between parts, which costs nothing;
-/// others say that the picture is not whole.
+/// Libjpeg continues after a warning. Some warnings concern garbage between parts, which is
+/// harmless; others mean that the picture is incomplete.
 void noteWarning(j_common_ptr jpeg, int level) {
     auto& errors = *static_cast<JpegErrors*>(jpeg->err);
     if (level < 0 && (errors.msg_code == JWRN_JPEG_EOF || errors.msg_code == JWRN_HIT_MARKER))
@@ -27,7 +27,7 @@ JpegSource& source(j_decompress_ptr jpeg) {
 }
 
 boolean fill(j_decompress_ptr jpeg) {
-    // Where a file ends too early, libjpeg is told that the picture does.
+    // If the file ends too early, libjpeg gets an end-of-image marker.
     static constexpr std::array<JOCTET, 2> endOfImage = {0xff, JPEG_EOI};
     auto& input = source(jpeg);
     auto bytes = input.stream.peek();

@@ -1,6 +1,6 @@
 #pragma once
 
-// jpeglib.h needs what stands before it.
+// jpeglib.h needs the headers before it.
 // clang-format off
 #include <cstddef>
 #include <cstdio>
@@ -13,11 +13,11 @@
 
 namespace vantle::decoder {
 
-/// How libjpeg tells what is wrong: it jumps out of whatever it was doing, to `jump`.
+/// Handles libjpeg's errors: libjpeg leaves its functions by a jump to `jump`.
 struct JpegErrors : jpeg_error_mgr {
     JpegErrors();
     jmp_buf jump{};
-    bool isDamaged = false;  ///< Something was missing, and libjpeg filled it up.
+    bool isDamaged = false;  ///< Data were missing, and libjpeg filled the gap.
 };
 
 /// Feeds a file to libjpeg.

@@ -9,7 +9,7 @@
 namespace vantle::decoder {
 namespace {
 
-/// Every reader of documents is expected to have these; the last one stands in for all others.
+/// The fonts that PDF readers are expected to have, and a last one that replaces all others.
 constexpr std::array standardFonts = {"Helvetica",
                                       "Helvetica:bold",
                                       "Helvetica:italic",
@@ -26,7 +26,7 @@ constexpr std::array standardFonts = {"Helvetica",
                                       "ZapfDingbats",
                                       "sans"};
 
-/// Where fontconfig keeps which name stands for which font.
+/// The folder of the rules by which fontconfig maps names to fonts.
 constexpr auto rules = "/etc/fonts/conf.d";
 
 struct Destroyer {
@@ -40,7 +40,7 @@ const FcChar8* text(const std::string& string) {
     return reinterpret_cast<const FcChar8*>(string.c_str());
 }
 
-/// Empty where there is no font at all.
+/// Returns the path of the font that matches `name` best; empty if there is no font at all.
 std::string fileOf(FcConfig* config, const std::string& name) {
     const Pattern wanted(FcNameParse(text(name)));
     if (!wanted) return {};

@@ -5,8 +5,8 @@
 
 namespace vantle::decoder {
 
-/// Chooses the few fonts that stand in for those which a document does not bring with it, and makes
-/// them all that the process knows of. Gives their paths: they are read when they are needed.
+/// Chooses the few fonts that replace those a document does not embed, and makes them the only
+/// fonts of this process. Returns their paths, because the files are read when they are needed.
 std::vector<std::string> usePdfFonts();
 
 }  // namespace vantle::decoder

@@ -54,7 +54,7 @@ public:
 private:
     static bool isSensible(double length) { return length > 0 && length < 1e6; }
 
-    /// Paper is opaque.
+    /// Converts a rendered page; the result is opaque, as paper is.
     static Picture picture(const poppler::image& image) {
         Picture picture{{image.width(), image.height()}, {}};
         const auto row = static_cast<std::size_t>(image.width()) * 4;

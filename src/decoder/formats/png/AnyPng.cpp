@@ -16,14 +16,15 @@ namespace {
 
 void ignore(png_structp, png_const_charp) {}
 
-/// What libpng's callbacks write to. It is made before libpng runs and freed after it, because
-/// libpng leaves by a jump that calls no destructor.
+/// Collects the rows from libpng's callbacks. It is created before libpng runs and freed
+/// afterwards, because libpng reports errors by longjmp, which calls no destructors.
 class Rows {
 public:
     Rows(const PngHeader& header, PixelSize target)
         : size_(header.size), isInterlaced_(header.isInterlaced), target_(target) {}
 
-    /// Once libpng knows what rows it will give.
+    /// Called as soon as libpng knows the format of the rows. Returns false if the number of
+    /// channels is not supported.
     bool begin(int channels) {
         if (channels != 1 && channels != 3 && channels != 4) return false;
         rowSize_ = static_cast<std::size_t>(size_.width) * static_cast<std::size_t>(channels);
@@ -35,7 +36,7 @@ public:
         return true;
     }
 
-    /// Passes over an interlaced picture complete the rows of the pass before.
+    /// In an interlaced picture, each pass adds pixels to the rows of the previous pass.
     void add(png_structp png, png_bytep row, std::size_t number) {
         if (!row) return;
         if (isInterlaced_) {
@@ -64,7 +65,7 @@ private:
     bool isComplete_ = false;
 };
 
-/// Asks for 8-bit gray, RGB or RGBA, and for the rows.
+/// Makes libpng deliver rows of 8-bit gray, RGB or RGBA.
 void chooseRows(png_structp png, png_infop info) {
     png_set_expand(png);
     png_set_scale_16(png);
@@ -79,7 +80,7 @@ void infoIsRead(png_structp png, png_infop info) {
     auto& rows = *static_cast<Rows*>(png_get_progressive_ptr(png));
     chooseRows(png, info);
     bool isPossible = false;
-    // Nothing may be thrown through libpng.
+    // Exceptions must not pass through libpng.
     try {
         isPossible = rows.begin(png_get_channels(png, info));
     } catch (const std::exception&) {
@@ -106,7 +107,8 @@ struct Png {
     Png(const Png&) = delete;
     Png& operator=(const Png&) = delete;
 
-    /// False once something is wrong. Nothing with a destructor may live in here.
+    /// Returns false on an error, after a longjmp, which skips destructors: no local variable may
+    /// have one.
     bool process(std::span<const std::uint8_t> bytes) {
         if (setjmp(png_jmpbuf(png))) return false;
         png_process_data(png, info, const_cast<png_bytep>(bytes.data()), bytes.size());
@@ -114,7 +116,8 @@ struct Png {
     }
 };
 
-/// Libpng sees one chunk of picture data, whose checksum was already compared.
+/// Returns the beginning of a chunk of picture data. Each piece of data is passed to libpng as a
+/// chunk without a valid checksum, because PngStream compares the real checksums.
 std::array<std::uint8_t, 8> dataChunkBeginning(std::size_t size) {
     const auto byte = [size](int shift) { return static_cast<std::uint8_t>(size >> shift); };
     return {byte(24), byte(16), byte(8), byte(0), 'I', 'D', 'A', 'T'};

@@ -10,7 +10,7 @@
 namespace vantle::decoder {
 namespace {
 
-/// Undoes the filters of rows as they come, and has them reduced on another thread.
+/// Undoes the filters of rows as they arrive, and reduces the rows on another thread.
 class FilteredRows {
 public:
     FilteredRows(const PngHeader& header, PixelSize target, std::size_t rowsInBlock)
@@ -28,14 +28,14 @@ public:
                static_cast<std::size_t>(bytesPerPixel(header));
     }
 
-    /// At most a block of rows, each behind the number of its filter.
+    /// Adds at most one block of rows, each preceded by the number of its filter.
     void add(std::span<const std::uint8_t> stored) {
         if (isDamaged_) return;
         const std::size_t count = stored.size() / (rowSize_ + 1);
         const auto rows = pipeline_.block().first(count * rowSize_);
         isDamaged_ =
             !undoPngFilters(stored.data(), above_, rows.data(), count, rowSize_, bytesPerPixel_);
-        // It stays as it is until all other blocks have been filled.
+        // This row does not change until all other blocks have been filled.
         above_ = &rows.back() + 1 - rowSize_;
         pipeline_.submit(rows.size());
     }
@@ -53,24 +53,24 @@ private:
 
     const int bytesPerPixel_;
     const std::size_t rowSize_;
-    const std::vector<std::uint8_t> first_;  ///< Zeros, which stand above the first row.
+    const std::vector<std::uint8_t> first_;  ///< The zeros above the first row.
     const std::uint8_t* above_;
     Reducer reducer_;
     RowPipeline pipeline_;
     bool isDamaged_ = false;
 };
 
-/// Unpacks the picture data.
+/// Decompresses the picture data.
 class Inflater {
 public:
     explicit Inflater(PngStream& stream) : stream_(stream) {
         isal_inflate_init(&state_);
-        // The chunks' checksums are compared: another one over the same data would tell nothing
-        // new.
+        // The checksums of the chunks are compared, so the checksum of the zlib stream would add
+        // nothing.
         state_.crc_flag = ISAL_DEFLATE;
     }
 
-    /// Passes over what a zlib stream begins with. False when this is no such stream.
+    /// Skips the header of the zlib stream. Returns false if it is not a valid one.
     bool begin() {
         const auto method = nextByte();
         const auto flags = nextByte();
@@ -80,7 +80,7 @@ public:
                (*method * 256 + *flags) % 31 == 0;
     }
 
-    /// Unpacks until `into` is full. False when the data end before, or make no sense.
+    /// Decompresses until `into` is full. Returns false if the data end first or are damaged.
     bool fill(std::span<std::uint8_t> into) {
         state_.next_out = into.data();
         state_.avail_out = static_cast<std::uint32_t>(into.size());

@@ -30,7 +30,8 @@ void appendChunk(std::vector<std::uint8_t>& bytes, const PngChunk& chunk,
     appendNumber(bytes, checksumOf(checksumOf(0, chunk.type), data));
 }
 
-/// The profile within an iCCP chunk: a name, a zero, the method, and compressed data.
+/// Returns the profile from an iCCP chunk, which consists of a name, a zero, the method and
+/// compressed data; empty if it is damaged or larger than 4 MiB.
 std::vector<std::uint8_t> colorProfile(std::span<const std::uint8_t> data) {
     constexpr std::size_t maximumSize = std::size_t{4} * 1024 * 1024;
     const auto nameEnd = std::ranges::find(data, 0);
@@ -73,7 +74,7 @@ bool readSizes(PngHeader& header, std::span<const std::uint8_t> data) {
     return data[10] == 0 && data[11] == 0 && data[12] <= 1;
 }
 
-/// Takes what a chunk before the picture says. False when the file is of no use.
+/// Reads a chunk before the picture data. Returns false if the file cannot be used.
 bool readChunk(PngHeader& header, PngChunks& chunks, const PngChunk& chunk) {
     constexpr std::size_t maximumProfile = std::size_t{4} * 1024 * 1024;
     constexpr std::size_t maximumTable = 768;
@@ -83,7 +84,7 @@ bool readChunk(PngHeader& header, PngChunks& chunks, const PngChunk& chunk) {
         return true;
     }
     const auto data = chunks.data(chunk, belongsToPicture ? maximumTable : maximumProfile);
-    // What only describes the picture may be damaged; what makes it may not.
+    // Chunks that only describe the picture may be damaged; the others may not.
     if (!data) return !belongsToPicture;
     if (belongsToPicture) appendChunk(header.picturePart, chunk, *data);
     if (chunk.is("tRNS")) header.hasTransparency = true;

@@ -6,12 +6,12 @@
 
 namespace vantle::decoder {
 
-/// Of a header that isPlain(). Row by row: unpacked on this thread, unfiltered on a second, reduced
-/// on a third one.
+/// Draws a picture whose header isPlain(), row by row: decompresses on this thread, undoes the
+/// filters on a second one and reduces on a third one.
 std::optional<Picture> drawPlainPng(const InputFile& file, const PngHeader& header,
                                     PixelSize target);
 
-/// Every other kind, through libpng.
+/// Draws any other PNG, with libpng.
 std::optional<Picture> drawAnyPng(const InputFile& file, const PngHeader& header, PixelSize target);
 
 }  // namespace vantle::decoder

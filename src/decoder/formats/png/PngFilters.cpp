@@ -18,7 +18,7 @@ VANTLE_LOOP void undoUp(const std::uint8_t* __restrict stored, const std::uint8_
 
 constexpr int maximumTogether = rowsUnfilteredTogether;
 
-/// What undoes the filters, for one kind of processor.
+/// The functions that undo the filters on one kind of processor.
 struct Loops {
     using Loop = void (*)(const Rows&);
     using ByCount = std::array<Loop, maximumTogether + 1>;
@@ -80,7 +80,7 @@ const Loops& loopsFor(Processor processor) {
     return Portable<size>::table;
 }
 
-/// How many of the next `left` rows are to be undone together: those that need the pixel before.
+/// Returns how many of the next `left` rows to undo together: those that need the previous pixel.
 int countTogether(const Rows& rows, std::size_t left) {
     const int maximum = static_cast<int>(std::min<std::size_t>(left, maximumTogether));
     const auto needsPixelBefore = [&](int row) {

@@ -5,16 +5,16 @@
 
 namespace vantle::decoder {
 
-/// It takes as many rows to be as quick as it can.
+/// undoPngFilters() reaches its full speed with this many rows.
 constexpr std::size_t rowsUnfilteredTogether = 8;
 
-/// For which processor: the one that runs this, or any, which is slower.
+/// The processor that the code is for: the current one, or any, which is slower.
 enum class Processor { thisOne, any };
 
-/// Undoes the filters of rows as a PNG stores them, each of `size` bytes behind the number of its
-/// filter. `rows` gets them one behind the other, `above` is the row above the first (zeros above
-/// the picture), `bytesPerPixel` is 3 or 4. False when there is no such filter. All that is read is
-/// readable four bytes past its end.
+/// Undoes the filters of rows as a PNG stores them, each of `size` bytes after the number of its
+/// filter. Writes the rows one after the other to `rows`. `above` is the row above the first (zeros
+/// at the top of the picture), `bytesPerPixel` is 3 or 4. Everything that is read must be readable
+/// four bytes past its end. Returns false if a filter number is not valid.
 bool undoPngFilters(const std::uint8_t* stored, const std::uint8_t* above, std::uint8_t* rows,
                     std::size_t rowCount, std::size_t size, int bytesPerPixel,
                     Processor processor = Processor::thisOne);

@@ -7,21 +7,20 @@
 #include <cstring>
 #include <type_traits>
 
-// Undoes the filters of rows of a PNG. Each loop is written once, for any vector unit, and compiled
-// by PngFilters.cpp once for each kind of processor.
+// Undoes the filters of PNG rows. Each loop is written once, for any vector unit, and compiled by
+// PngFilters.cpp once for each kind of processor.
 #define VANTLE_LOOP [[gnu::always_inline]] inline
 
 namespace vantle::decoder::png {
 
 enum class Filter : std::uint8_t { none, sub, up, average, paeth };
 
-/// The samples of four pixels, which are of four rows.
+/// The samples of four pixels, usually one from each of four rows.
 using Pixels = std::uint8_t __attribute__((vector_size(16)));
-/// The same, a number for each pixel.
+/// The same as one number per pixel.
 using Words = std::uint32_t __attribute__((vector_size(16)));
 
-/// Four bytes, of which the last is not a pixel's where that has three: one load is quicker than
-/// two.
+/// Reads four bytes, also for a pixel that has only three, because one load is faster than two.
 VANTLE_LOOP std::uint32_t word(const std::uint8_t* from) {
     std::uint32_t value = 0;
     std::memcpy(&value, from, sizeof value);
@@ -48,12 +47,12 @@ VANTLE_LOOP Pixels distance(Pixels one, Pixels other) {
     return larger(one, other) - smaller(one, other);
 }
 
-/// Whichever of the three neighbours is nearest to left + up - upLeft, in eight bits.
+/// Returns the neighbour that is nearest to left + up - upLeft, computed in eight bits.
 VANTLE_LOOP Pixels nearestNeighbour(Pixels left, Pixels up, Pixels upLeft) {
     const Pixels fromLeft = distance(up, upLeft);
     const Pixels fromUp = distance(left, upLeft);
-    // Where both are on one side of upLeft, it is further than either; else it is as far as they
-    // differ.
+    // If left and up are both above or both below upLeft, upLeft is farther away than either;
+    // otherwise its distance is the difference of the other two.
     const auto isOnOneSide = (larger(up, upLeft) == up) == (larger(left, upLeft) == left);
     const Pixels fromUpLeft = distance(fromLeft, fromUp) | reinterpret_cast<Pixels>(isOnOneSide);
     const Pixels least = smaller(smaller(fromLeft, fromUp), fromUpLeft);
@@ -61,17 +60,17 @@ VANTLE_LOOP Pixels nearestNeighbour(Pixels left, Pixels up, Pixels upLeft) {
     return least == fromLeft ? left : upOrUpLeft;
 }
 
-/// Half the sum, rounded down, without leaving eight bits.
+/// Returns half the sum, rounded down, computed in eight bits.
 VANTLE_LOOP Pixels halfway(Pixels left, Pixels up) {
     return (left & up) + ((left ^ up) >> 1);
 }
 
-/// Rows one below the other, of which each pixel needs the one before it.
+/// Consecutive rows in which each pixel depends on the one before it.
 struct Rows {
-    const std::uint8_t* stored;  ///< Behind the filter of the first.
+    const std::uint8_t* stored;  ///< The first row, after its filter number.
     const std::uint8_t* above;
     std::uint8_t* out;
-    std::ptrdiff_t size;  ///< Of one, in bytes.
+    std::ptrdiff_t size;  ///< The size of a row in bytes.
 
     Filter filter(int row) const { return static_cast<Filter>(*(storedRow(row) - 1)); }
     const std::uint8_t* storedRow(int row) const { return stored + row * (size + 1); }
@@ -89,7 +88,7 @@ inline int prediction(Filter filter, int left, int up, int upLeft) {
     return fromUp <= fromUpLeft ? up : upLeft;
 }
 
-/// Bytes `begin` to `end` of one of the rows, one by one.
+/// Undoes the filter of one row for the bytes from `begin` to `end`, one by one.
 inline void undoSome(const Rows& rows, int row, int size, std::ptrdiff_t begin,
                      std::ptrdiff_t end) {
     const std::uint8_t* stored = rows.storedRow(row);
@@ -124,7 +123,7 @@ struct OnlyPaeth {
 
 constexpr int lanes = 4;
 
-/// Each row by a filter of its own.
+/// Predicts each row by that row's filter.
 class AnyFilter {
 public:
     VANTLE_LOOP AnyFilter(const Rows& rows, int first, int count) {
@@ -148,10 +147,10 @@ private:
     Words paeth_{};
 };
 
-/// Whether a vector unit puts bytes into any order in one step.
+/// The speed of reordering bytes in a vector; quick means in one step.
 enum class Bytes { slow, quick };
 
-/// Four neighbouring pixels; reads four bytes beyond those of three bytes each.
+/// Returns four neighbouring pixels. Reads up to four bytes too many if pixels have three bytes.
 template <int size, Bytes bytes>
 VANTLE_LOOP Words fourPixels(const std::uint8_t* from) {
     constexpr std::ptrdiff_t step = size;
@@ -164,7 +163,7 @@ VANTLE_LOOP Words fourPixels(const std::uint8_t* from) {
         __builtin_shufflevector(some, some, 0, 1, 2, 3, 3, 4, 5, 6, 6, 7, 8, 9, 9, 10, 11, 12));
 }
 
-/// The same, to write them; writes as much beyond.
+/// Writes four neighbouring pixels, and up to four bytes too many if pixels have three bytes.
 template <int size, Bytes bytes>
 VANTLE_LOOP void write(Words four, std::uint8_t* to) {
     if constexpr (bytes == Bytes::slow) {
@@ -183,7 +182,7 @@ VANTLE_LOOP void write(Words four, std::uint8_t* to) {
 
 using FourWords = std::array<Words, lanes>;
 
-/// Makes the columns of what stands in rows, and the rows of what stands in columns.
+/// Turns rows into columns and columns into rows.
 VANTLE_LOOP FourWords transposed(const FourWords& of) {
     const Words upperLeft = __builtin_shufflevector(of[0], of[1], 0, 4, 1, 5);
     const Words upperRight = __builtin_shufflevector(of[0], of[1], 2, 6, 3, 7);
@@ -195,11 +194,12 @@ VANTLE_LOOP FourWords transposed(const FourWords& of) {
             __builtin_shufflevector(upperRight, lowerRight, 2, 3, 6, 7)};
 }
 
-/// Up to four rows from `first` on, each a pixel behind the one above it. Four steps are one round.
+/// Handles up to four rows from `first` on, each one pixel behind the row above it. Four steps are
+/// one round.
 template <int size, int first, int count, Bytes bytes, typename Prediction>
 class FourRows {
 public:
-    /// The first row stands before the pixel `at`.
+    /// Starts before the pixel `at` of the first row.
     VANTLE_LOOP FourRows(const Rows& rows, std::ptrdiff_t at)
         : prediction_(rows, first, count),
           stored_(rows.storedRow(first) + at * size),
@@ -225,10 +225,10 @@ public:
         stored_ += roundSize;
     }
 
-    /// The pixel of each row in which it stands.
+    /// Returns the latest pixel of each row.
     VANTLE_LOOP Words latest() const { return words(left_); }
 
-    /// The next pixel of each row; above the first row's is `above[index]`.
+    /// Makes the next pixel of each row; `above[index]` is the pixel above the first row's.
     template <int index>
     VANTLE_LOOP void step(std::size_t number, Words above) {
         const Pixels up = pixels(__builtin_shufflevector(above, words(left_), index, 4, 5, 6));
@@ -251,7 +251,7 @@ private:
 
     Pixels left_{};
     Pixels upLeft_{};
-    FourWords columns_{};  ///< Of this round: as they are stored, then as they are.
+    FourWords columns_{};  ///< This round's pixels: first as stored, then unfiltered.
     const Prediction prediction_;
     const std::uint8_t* stored_;
     std::uint8_t* out_;
@@ -259,7 +259,7 @@ private:
     const std::ptrdiff_t outStep_;
 };
 
-/// Up to eight rows.
+/// Handles up to eight rows.
 template <int size, int count, Bytes bytes, typename Prediction>
 class EightRows {
 public:
@@ -306,13 +306,13 @@ private:
     FourRows<size, 0, count, bytes, Prediction> rows_;
 };
 
-/// So many rows in one go, each a pixel behind the one above it: as each step waits for the one
-/// before it, eight rows take hardly longer than one.
+/// Undoes `count` rows at once, each one pixel behind the row above it. Each step must wait for the
+/// one before it, so eight rows take hardly longer than one.
 template <int size, int count, Bytes bytes, typename Prediction>
 VANTLE_LOOP void undoTogether(const Rows& rows) {
     const std::ptrdiff_t width = rows.size / size;
     const std::ptrdiff_t begin = std::min<std::ptrdiff_t>(count - 1, width);
-    // Rounds read and write up to four bytes too many, which have to be of the same row.
+    // Rounds read and write up to four bytes too many, which must belong to the same row.
     constexpr std::ptrdiff_t spare = 2;
     const std::ptrdiff_t rounds = std::max<std::ptrdiff_t>((width - spare - begin) / lanes, 0);
     const std::ptrdiff_t end = begin + rounds * lanes;

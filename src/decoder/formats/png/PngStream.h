@@ -6,16 +6,17 @@
 
 namespace vantle::decoder {
 
-/// The picture data of a PNG file, which any number of chunks hold.
+/// The picture data of a PNG file, which may be split into any number of chunks.
 class PngStream {
 public:
     PngStream(const InputFile& file, const PngHeader& header)
         : chunks_(file, header.dataPosition) {}
 
-    /// Some more of the data; empty at their end, or where the file is damaged.
+    /// Returns the next piece of the data; empty at their end or if the file is damaged.
     std::span<const std::uint8_t> next();
 
-    /// Reads what is left of the file. Whether it was whole, and its picture data undamaged.
+    /// Reads the rest of the file. Returns true if the file was complete and its picture data were
+    /// undamaged.
     bool endsWell();
 
 private:

@@ -15,10 +15,10 @@ namespace {
 
 constexpr int bufferSize = 64 * 1024;
 
-/// How far a recording is read to find out how long it is: some minutes of a screen.
+/// The most bytes to read in search of a recording's duration: some minutes of a screen recording.
 constexpr std::int64_t farthestLook = std::int64_t{512} * 1024 * 1024;
 
-/// What is later is no time, but a lie; it is one in any unit.
+/// Later times cannot be real in any unit.
 constexpr std::int64_t latestTime = std::numeric_limits<std::int64_t>::max() / 4;
 
 bool isMatroska(const InputFile& file) {
@@ -27,7 +27,7 @@ bool isMatroska(const InputFile& file) {
     return text(start) == "\x1a\x45\xdf\xa3";
 }
 
-/// The matrix by which pictures are turned before they are shown; null when they are not.
+/// Returns the matrix that turns pictures before they are shown; null if there is none.
 const std::int32_t* displayMatrix(const AVStream& track) {
 #if LIBAVFORMAT_VERSION_INT >= AV_VERSION_INT(60, 15, 100)
     const auto* data =
@@ -85,9 +85,9 @@ bool Demuxer::openFormat() {
     if (!format) return false;
     format->pb = input_;
     format->flags |= AVFMT_FLAG_CUSTOM_IO;
-    // One demuxer only: others open further files that a file names.
+    // Only this demuxer is used: others would open further files that the file names.
     const AVInputFormat* demuxer = av_find_input_format(isMatroska(file_) ? "matroska" : "mov");
-    // On failure it frees the context.
+    // On failure, this function frees the context.
     if (avformat_open_input(&format, nullptr, demuxer, nullptr) < 0) return false;
     format_.reset(format);
     return true;
@@ -98,7 +98,7 @@ void Demuxer::findDuration() {
     if (isMatroska(file_))
         findLastPacket();
     else
-        // Of a recording in fragments.
+        // This finds the duration of a fragmented recording.
         avformat_find_stream_info(format_.get(), nullptr);
 }
 
@@ -112,7 +112,7 @@ void Demuxer::findLastPacket() {
         const std::int64_t begin = packet->pts;
         const std::int64_t length = std::max<std::int64_t>(packet->duration, 0);
         av_packet_unref(packet.get());
-        // Too far to go on, so nothing is known.
+        // The file is too long to read on, so the duration stays unknown.
         if (position_ > farthestLook) return;
         if (begin < 0 || begin > latestTime || length > latestTime) continue;
         if (first == AV_NOPTS_VALUE) first = begin;
@@ -143,7 +143,7 @@ Orientation Demuxer::orientation(const AVStream& track) {
     const std::int32_t* matrix = displayMatrix(track);
     const double angle = matrix ? av_display_rotation_get(matrix) : 0;
     if (!std::isfinite(angle)) return Orientation::upright;
-    // The angle turns against the clock.
+    // The angle is counterclockwise.
     switch ((std::lround(-angle / 90) % 4 + 4) % 4) {
         case 1:
             return Orientation::turnRight;

@@ -17,25 +17,25 @@ struct PacketFreer {
 };
 using Packet = std::unique_ptr<AVPacket, PacketFreer>;
 
-/// A file of QuickTime, MPEG-4 or Matroska, open for reading its first video track.
+/// An open QuickTime, MPEG-4 or Matroska file, of which the first video track is read.
 class Demuxer {
 public:
-    /// Null when it cannot be opened.
+    /// Returns null if the file cannot be opened.
     static std::unique_ptr<Demuxer> open(const InputFile& file);
     ~Demuxer();
 
-    /// Seconds; not a number when the file does not say.
+    /// Returns the duration in seconds; not a number if it is unknown.
     double duration() const;
 
-    /// Null when there is no video track. A cover picture is none.
+    /// Returns null if there is no video track. A cover picture is not one.
     AVStream* videoTrack() { return videoTrack_; }
 
-    /// What has a picture to show: the video track, else a cover; null when there is neither.
+    /// Returns the video track, or else the cover picture's; null if there is neither.
     AVStream* pictureTrack() { return videoTrack_ ? videoTrack_ : cover_; }
 
-    /// How the pictures of a track are to be turned.
+    /// Returns how to turn the pictures of a track.
     static Orientation orientation(const AVStream& track);
-    /// The upright size at which they are meant to be seen.
+    /// Returns the upright size at which the pictures of a track are meant to be shown.
     static Size naturalSize(const AVStream& track);
 
     AVFormatContext* format() { return format_.get(); }
@@ -48,7 +48,7 @@ private:
     explicit Demuxer(const InputFile& file) : file_(file) {}
     bool openFormat();
     void chooseTracks();
-    /// Recorders that write as they go do not say at the beginning how long it will be.
+    /// Finds the duration if the header lacks it because the recorder wrote the header first.
     void findDuration();
     void findLastPacket();
 

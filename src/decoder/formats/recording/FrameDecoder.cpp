@@ -27,12 +27,12 @@ Codec openCodec(const AVStream& track) {
     return avcodec_open2(codec.get(), decoder, nullptr) < 0 ? nullptr : std::move(codec);
 }
 
-/// Half a second of 60 frames of 2560 × 1440, or of 30 frames of 3840 × 2160. Where the frame of a
-/// time is further from its key frame, the latest one so far stands for it: hardly anybody sees the
-/// difference, and everybody would wait.
+/// The most pixels to decode for one frame: half a second of 2560 × 1440 at 60 frames per second,
+/// or of 3840 × 2160 at 30. If the frame is further from its key frame, the latest frame so far
+/// replaces it: hardly anybody sees the difference, but everybody would have to wait.
 constexpr std::int64_t maximumPixels = std::int64_t{15} * 3840 * 2160;
 
-/// How long a frame is shown, in the units of its track; 0 when unknown.
+/// Returns how long a frame is shown, in the time units of its track; 0 if unknown.
 std::int64_t lengthOf(const AVFrame& frame) {
 #if LIBAVUTIL_VERSION_INT >= AV_VERSION_INT(57, 30, 100)
     return frame.duration;
@@ -41,7 +41,7 @@ std::int64_t lengthOf(const AVFrame& frame) {
 #endif
 }
 
-/// Goes through a track until the frame of a time has come.
+/// Decodes a track until it reaches the frame for a time.
 class Search {
 public:
     Search(Demuxer& demuxer, AVStream& track, double time)
@@ -59,14 +59,14 @@ public:
             if (packet_->stream_index == track_.index) decode(packet_.get());
             av_packet_unref(packet_.get());
         }
-        // What the decoder has kept back.
+        // This takes the frames that the decoder still holds.
         if (!isFound_) decode(nullptr);
         return std::move(latest_);
     }
 
 private:
     void decode(const AVPacket* packet) {
-        // A packet that is damaged is passed over; others may be whole.
+        // A damaged packet is skipped, because others may be intact.
         if (avcodec_send_packet(codec_.get(), packet) < 0) return;
         while (!isFound_) {
             Frame frame(av_frame_alloc());

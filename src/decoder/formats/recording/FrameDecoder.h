@@ -15,9 +15,9 @@ struct FrameFreer {
 };
 using Frame = std::unique_ptr<AVFrame, FrameFreer>;
 
-/// The frame that a track shows at `time` seconds: the last one that begins until then, or else the
-/// first one. Of very large recordings it may be one that begins a little earlier. Null when there
-/// is none that can be decoded.
+/// Returns the frame that a track shows at `time` seconds: the last one that begins by then, or
+/// else the first one. In very large recordings it may be a slightly earlier frame. Returns null if
+/// no frame can be decoded.
 Frame decodeFrame(Demuxer& demuxer, AVStream& track, double time);
 
 }  // namespace vantle::decoder

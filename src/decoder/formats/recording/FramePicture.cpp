@@ -17,8 +17,8 @@ struct ScalerFreer {
 };
 using Scaler = std::unique_ptr<SwsContext, ScalerFreer>;
 
-/// Recorders that do not say which colours they write have left that to a converter, whose custom
-/// is this one.
+/// Returns the colour matrix of a frame. Recorders that do not state it leave the choice to a
+/// converter, which by default uses this one.
 int matrixOf(const AVFrame& frame) {
     return frame.colorspace == AVCOL_SPC_UNSPECIFIED ? SWS_CS_DEFAULT : frame.colorspace;
 }

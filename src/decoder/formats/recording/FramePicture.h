@@ -7,7 +7,8 @@
 
 namespace vantle::decoder {
 
-/// A decoded frame in `target` pixels, as it is stored.
+/// Converts a decoded frame to `target` pixels, in its stored orientation. Returns std::nullopt on
+/// failure.
 std::optional<Picture> pictureOf(const AVFrame& frame, PixelSize target);
 
 }  // namespace vantle::decoder

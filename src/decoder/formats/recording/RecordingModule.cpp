@@ -9,7 +9,7 @@
 namespace vantle::decoder {
 namespace {
 
-/// Shrunk, where needed, so that neither side exceeds `maximumDimension`.
+/// Returns `size`, shrunk if necessary so that neither side exceeds `maximumDimension`.
 PixelSize fitting(Size size, double maximumDimension) {
     const double scale = std::min(1.0, maximumDimension / std::max(size.width, size.height));
     const auto side = [=](double length) {

@@ -16,7 +16,7 @@ public:
         constexpr int stopAtErrors = 1;
         isMade_ = TIFFRGBAImageOK(tiff, message) &&
                   TIFFRGBAImageBegin(&image_, tiff, stopAtErrors, message);
-        // Turning the thumbnail costs less.
+        // This keeps libtiff from turning the picture: turning the thumbnail costs less.
         if (isMade_) image_.req_orientation = image_.orientation;
     }
     ~Conversion() {
@@ -27,7 +27,7 @@ public:
 
     bool isMade() const { return isMade_; }
 
-    /// Rows of premultiplied pixels, each a number whose lowest byte is red.
+    /// Reads rows of premultiplied pixels, each a number whose lowest byte is red.
     bool read(int firstRow, int count, std::vector<std::uint32_t>& pixels) {
         image_.row_offset = firstRow;
         image_.col_offset = 0;

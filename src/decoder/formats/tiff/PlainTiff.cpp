@@ -10,7 +10,7 @@
 namespace vantle::decoder {
 namespace {
 
-/// Takes rows as they are stored, in their order.
+/// Takes rows as they are stored, in order.
 class RowSink {
 public:
     RowSink(const TiffHeader& header, TiffSamples samples, PixelSize target)
@@ -35,7 +35,7 @@ public:
         --left_;
     }
 
-    /// In the colours of a screen.
+    /// Returns the picture in the colours of a screen; std::nullopt if rows are missing.
     std::optional<Picture> take(std::span<const std::uint8_t> profile) {
         auto picture = reduction_.take();
         if (!picture) return std::nullopt;
@@ -67,7 +67,7 @@ private:
     int left_;
 };
 
-/// Brings samples into this machine's order of bytes.
+/// Converts samples to this machine's byte order.
 void putInOrder(TIFF* tiff, std::vector<std::uint8_t>& row, std::size_t sampleSize) {
     if (!TIFFIsByteSwapped(tiff)) return;
     const auto count = static_cast<tmsize_t>(row.size() / sampleSize);
@@ -77,14 +77,14 @@ void putInOrder(TIFF* tiff, std::vector<std::uint8_t>& row, std::size_t sampleSi
     if (sampleSize == 8) TIFFSwabArrayOfLong8(static_cast<std::uint64_t*>(samples), count);
 }
 
-/// Each row on its own, without libtiff, which would read a strip as a whole.
+/// Reads the rows one by one, without libtiff, which would read a whole strip at once.
 bool readUncompressed(TiffFile& file, RowSink& sink) {
     InputStream stream(file.file());
     std::vector<std::uint8_t> row(sink.storedRowSize());
     const int rowsInStrip = file.rowsInPart();
     for (std::uint32_t strip = 0; sink.left() > 0; ++strip) {
         const auto offset = static_cast<std::int64_t>(TIFFGetStrileOffset(file.tiff(), strip));
-        // No strip stands where the file begins: this one is missing.
+        // A strip cannot be at the beginning of the file, so this one is missing.
         if (offset <= 0) return false;
         stream.seek(offset);
         for (int i = 0; i < rowsInStrip && sink.left() > 0; ++i) {
@@ -122,15 +122,15 @@ bool isInPlanes(const TiffHeader& header) {
     return header.planes == PLANARCONFIG_SEPARATE && header.samplesPerPixel > 1;
 }
 
-/// Puts one sample of each pixel of a row into its place.
+/// Copies one sample of each pixel of a row to its place among the pixel's samples.
 void interleave(const std::uint8_t* plane, std::uint8_t* row, std::size_t pixels,
                 std::size_t sampleSize, std::size_t pixelSize) {
     for (std::size_t i = 0; i < pixels; ++i)
         std::memcpy(row + i * pixelSize, plane + i * sampleSize, sampleSize);
 }
 
-/// Samples that are stored in planes, each read by a reader of its own, because libtiff would begin
-/// a compressed strip anew whenever it is asked about another one.
+/// Reads samples that are stored in planes. Each plane has its own reader, because libtiff would
+/// start a compressed strip again whenever the plane changes.
 bool readPlanes(TiffFile& file, RowSink& sink) {
     const std::size_t sampleSize = sink.samples().sampleSize();
     const auto width = static_cast<std::size_t>(file.header().size.width);
@@ -153,7 +153,7 @@ bool readPlanes(TiffFile& file, RowSink& sink) {
     return true;
 }
 
-/// The tiles of a picture, of which a row is read at a time.
+/// Reads a tiled picture, one row of tiles at a time.
 class TileReader {
 public:
     TileReader(TiffFile& file, RowSink& sink) : file_(file), sink_(sink) {}
@@ -182,7 +182,7 @@ private:
         tileSize_ = static_cast<std::size_t>(TIFFTileSize(tiff));
         tileRowSize_ = static_cast<std::size_t>(TIFFTileRowSize(tiff));
         if (isInPlanes(file_.header())) planes_ = file_.header().samplesPerPixel;
-        // A tile may be many times the picture.
+        // A tile may be many times larger than the picture.
         constexpr std::size_t maximumSize = std::size_t{768} * 1024 * 1024;
         return isReasonableInMemory(std::int64_t{tileWidth_} * across_, tileHeight_) &&
                tileSize_ > 0 && tileSize_ <= maximumSize / across_ / planes_ &&
@@ -222,7 +222,7 @@ private:
     std::size_t tileSize_ = 0;
     std::size_t tileRowSize_ = 0;
     std::vector<std::uint8_t> tiles_;
-    std::vector<std::uint8_t> plane_;  ///< A row of one plane, or of the only one.
+    std::vector<std::uint8_t> plane_;  ///< A row of one plane, or of all samples if there are none.
     std::vector<std::uint8_t> row_;
 };
 

@@ -6,7 +6,7 @@
 namespace vantle::decoder {
 namespace {
 
-/// More than any picture that is reasonable has in one part.
+/// The limit of a single allocation; no reasonable picture has a larger part.
 constexpr tmsize_t maximumAllocation = tmsize_t{768} * 1024 * 1024;
 
 int ignore(TIFF*, void*, const char*, const char*, va_list) {
@@ -58,7 +58,7 @@ std::unique_ptr<TiffFile> TiffFile::open(const InputFile& file) {
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), ignore, nullptr);
     TIFFOpenOptionsSetWarningHandlerExtR(options.get(), ignore, nullptr);
     std::unique_ptr<TiffFile> opened(new TiffFile(file));
-    // "m": the file is read, not mapped, because somebody may cut it off meanwhile.
+    // "m" makes libtiff read the file instead of mapping it, because it may be truncated meanwhile.
     opened->tiff_.reset(TIFFClientOpenExt("", "rm", opened.get(), read, write, seek, close, size,
                                           nullptr, nullptr, options.get()));
     if (!opened->tiff_) return nullptr;

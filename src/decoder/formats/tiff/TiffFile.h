@@ -12,9 +12,9 @@
 
 namespace vantle::decoder {
 
-/// What a TIFF file says about its first page.
+/// The header data of a TIFF file's first page.
 struct TiffHeader {
-    PixelSize size;  ///< As it is stored.
+    PixelSize size;  ///< The stored size, before `orientation` is applied.
     std::uint16_t bitsPerSample = 1;
     std::uint16_t samplesPerPixel = 1;
     std::uint16_t photometric = 0;
@@ -23,7 +23,7 @@ struct TiffHeader {
     std::uint16_t sampleFormat = SAMPLEFORMAT_UINT;
     std::uint16_t fillOrder = FILLORDER_MSB2LSB;
     std::uint16_t inkSet = INKSET_CMYK;
-    std::optional<std::uint16_t> extraSample;  ///< What the first one beyond the colours means.
+    std::optional<std::uint16_t> extraSample;  ///< The meaning of the sample after the colours.
     Orientation orientation = Orientation::upright;
     Resolution resolution;
     std::vector<std::uint8_t> colorProfile;
@@ -32,12 +32,12 @@ struct TiffHeader {
 /// A TIFF file, open at its first page.
 class TiffFile {
 public:
-    /// Null when it cannot be opened.
+    /// Returns null if the file cannot be opened.
     static std::unique_ptr<TiffFile> open(const InputFile& file);
 
     const TiffHeader& header() const { return header_; }
     TIFF* tiff() { return tiff_.get(); }
-    /// How many rows are stored together, in a strip or a row of tiles; at least 1.
+    /// Returns how many rows are stored together, in a strip or a row of tiles; at least 1.
     int rowsInPart() const;
     const InputFile& file() const { return file_; }
 
@@ -49,7 +49,7 @@ private:
     explicit TiffFile(const InputFile& file) : file_(file) {}
     void readHeader();
 
-    // What libtiff reads and moves by.
+    // The functions with which libtiff accesses the file.
     static tmsize_t read(thandle_t handle, void* bytes, tmsize_t count);
     static tmsize_t write(thandle_t, void*, tmsize_t) { return -1; }
     static toff_t seek(thandle_t handle, toff_t offset, int origin);
@@ -62,12 +62,12 @@ private:
     TiffHeader header_;
 };
 
-/// Gray, RGB and CMYK of whole numbers or of numbers with a point: by strip, row or row of tiles.
+/// Returns true for gray, RGB and CMYK in integers or floating-point numbers.
 bool isPlain(const TiffHeader& header);
-/// Of a page that is plain, in the colours of a screen.
+/// Draws a page that isPlain(), in the colours of a screen. Reads it by strip, row or row of tiles.
 std::optional<Picture> drawPlainTiff(TiffFile& file, PixelSize target);
 
-/// Everything else that libtiff can turn into RGBA, in the colours of a screen.
+/// Draws any other page that libtiff can convert to RGBA, in the colours of a screen.
 std::optional<Picture> drawAnyTiff(TiffFile& file, PixelSize target);
 
 }  // namespace vantle::decoder

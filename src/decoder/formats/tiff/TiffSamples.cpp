@@ -9,14 +9,14 @@
 namespace vantle::decoder {
 namespace {
 
-/// The bits of a number with a point of 16 bits.
+/// The bits of a 16-bit floating-point number.
 struct Half {
     std::uint16_t bits;
 };
 
 template <typename Number>
 std::uint8_t eightBits(Number value) {
-    // What is no number is not greater either.
+    // NaN is not greater than 0, so it becomes 0.
     const Number within = value > 0 ? std::min(value, Number{1}) : Number{0};
     return static_cast<std::uint8_t>(within * 255 + Number{0.5});
 }
@@ -32,7 +32,7 @@ std::uint8_t eightBits(std::uint32_t value) {
 std::uint8_t eightBits(Half value) {
     constexpr std::uint32_t infinity = 0x7c00;
     constexpr float widerExponent = 0x1p112F;
-    // Negative ones and, beyond the greatest, what is no number.
+    // The bits of negative numbers and of NaN are greater than those of infinity.
     const bool isNothing = value.bits > infinity;
     const auto wide = std::bit_cast<float>(static_cast<std::uint32_t>(value.bits) << 13);
     return isNothing ? std::uint8_t{0} : eightBits(wide * widerExponent);
@@ -98,10 +98,11 @@ bool TiffSamples::chooseSamples(const TiffHeader& header) {
         case PHOTOMETRIC_MINISBLACK:
             if (perPixel_ > 1 && isTranslucent) chosen_ = {0, 0, 0, 1};
             layout_ = perPixel_ > 1 && isTranslucent ? translucent : PixelLayout::gray;
-            // An alpha is not turned round with the gray; nobody writes that.
+            // Inverted gray with alpha is not supported, because no program writes it: narrow()
+            // would invert the alpha as well.
             return !(isInverted_ && perPixel_ > 1);
         case PHOTOMETRIC_RGB:
-            // A fourth sample of which nothing is said is an alpha to all who write one.
+            // Programs that write a fourth sample without describing it mean an alpha.
             layout_ = perPixel_ > 3 ? translucent : PixelLayout::rgb;
             return perPixel_ >= 3;
         case PHOTOMETRIC_SEPARATED:

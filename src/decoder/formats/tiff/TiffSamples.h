@@ -10,27 +10,26 @@
 
 namespace vantle::decoder {
 
-/// Makes of the rows of a page, as they are stored, the eight bits a sample that a reduction takes.
-/// Numbers with a point count from 0 to 1; what is beyond is as if it were there, and what is no
-/// number is 0.
+/// Converts the stored rows of a page to the 8-bit samples that a reduction takes. Floating-point
+/// numbers are limited to the range from 0 to 1; NaN becomes 0.
 class TiffSamples {
 public:
-    /// Absent when the page holds something else than gray, RGB or CMYK in numbers of a usual size.
+    /// Returns std::nullopt unless the page holds gray, RGB or CMYK in numbers of a usual size.
     static std::optional<TiffSamples> of(const TiffHeader& header);
 
     PixelLayout layout() const { return layout_; }
-    /// Whether ink has an alpha, which a reduction of ink has no place for: convert() multiplies by
-    /// it.
+    /// Returns true if ink has an alpha. A reduction of ink has no channel for it, so convert()
+    /// multiplies the ink by it.
     bool hasAlphaOfInk() const { return alphaOfInk_.has_value(); }
 
-    /// Of all samples of a row, those of a pixel side by side, in bytes.
+    /// Returns the size in bytes of a row in which the samples of each pixel are side by side.
     std::size_t storedRowSize() const { return (count_ * bits_ + 7) / 8; }
-    /// Of one sample; none are smaller when they are stored in planes.
+    /// Returns the size of a sample in bytes; 0 for single bits, which are never stored in planes.
     std::size_t sampleSize() const { return bits_ / 8; }
 
-    /// `stored` is in this machine's order of bytes.
+    /// Converts one row. `stored` is in this machine's byte order.
     void convert(const std::uint8_t* stored, std::uint8_t* row);
-    /// The alpha of the ink of the row that was converted last.
+    /// Writes the alpha of the row of ink that was converted last.
     void writeAlphaOfInk(std::uint8_t* row) const;
 
 private:
@@ -43,13 +42,13 @@ private:
     std::size_t bits_;
     bool hasPoint_;
     bool isInverted_;
-    std::size_t perPixel_;  ///< As it is stored.
-    std::size_t count_;     ///< In a row, as it is stored.
+    std::size_t perPixel_;  ///< Stored samples per pixel.
+    std::size_t count_;     ///< Stored samples per row.
     PixelLayout layout_ = PixelLayout::gray;
-    std::array<std::size_t, 4> chosen_{};  ///< Which sample of a pixel each channel is.
+    std::array<std::size_t, 4> chosen_{};  ///< The index of each channel's sample in a pixel.
     std::optional<std::size_t> alphaOfInk_;
-    bool isInkMultiplied_ = false;        ///< As it is stored.
-    std::vector<std::uint8_t> narrowed_;  ///< All samples of a row.
+    bool isInkMultiplied_ = false;        ///< The stored ink is already multiplied by its alpha.
+    std::vector<std::uint8_t> narrowed_;  ///< All samples of a row, in 8 bits each.
 };
 
 }  // namespace vantle::decoder

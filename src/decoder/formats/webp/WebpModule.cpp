@@ -22,7 +22,7 @@ struct DemuxerDeleter {
 };
 using Demuxer = std::unique_ptr<WebPDemuxer, DemuxerDeleter>;
 
-/// What stands beside the picture under a name of four letters; empty when there is nothing.
+/// Returns the data of the chunk with this four-letter name; empty if there is none.
 std::vector<std::uint8_t> chunk(const WebPDemuxer* demuxer, const char* name) {
     WebPChunkIterator found{};
     if (WebPDemuxGetChunk(demuxer, name, 1, &found) == 0) return {};
@@ -33,12 +33,12 @@ std::vector<std::uint8_t> chunk(const WebPDemuxer* demuxer, const char* name) {
 
 Exif exifIn(std::span<const std::uint8_t> data) {
     using namespace std::string_view_literals;
-    // Some programs write it as into a JPEG.
+    // Some programs write the prefix that a JPEG file has.
     constexpr auto start = "Exif\0\0"sv;
     return readExif(text(data).starts_with(start) ? data.subspan(start.size()) : data);
 }
 
-/// The rows of a frame.
+/// The decoded rows of a frame.
 struct Rows {
     PixelSize size;
     std::size_t rowSize;
@@ -49,7 +49,7 @@ struct Rows {
     }
 };
 
-/// The first frame of a file; a picture that does not move has no other.
+/// The first frame of a file; a still picture has no other.
 class Frame {
 public:
     explicit Frame(const WebPDemuxer* demuxer) {
@@ -85,8 +85,9 @@ private:
         return needsAlpha() ? PixelLayout::premultipliedRgba : PixelLayout::rgb;
     }
 
-    /// The library can shrink while it decodes; what it leaves is at least twice the target. Where
-    /// pixels are translucent it would mix in the colours of those that cannot be seen.
+    /// Returns the size to decode to: libwebp can shrink while it decodes, down to at least twice
+    /// the target. It decodes translucent frames at full size, because it would mix in the colours
+    /// of invisible pixels.
     PixelSize decodedSize(PixelSize target) const {
         const PixelSize all{frame_.width, frame_.height};
         if (needsAlpha()) return all;
@@ -119,7 +120,8 @@ private:
         return reduction.take();
     }
 
-    /// A frame of an animation may be smaller than its canvas, on which there is nothing yet.
+    /// A frame of an animation may be smaller than its canvas; the rest of the canvas is
+    /// transparent.
     std::optional<Picture> reducedOnCanvas(const Rows& rows, PixelSize target) const {
         ThreadedReduction reduction(canvas_, target, layout());
         for (int y = 0; y < canvas_.height; ++y) {
@@ -143,7 +145,7 @@ class WebpImage final : public StillImage {
 public:
     explicit WebpImage(const InputFile& file) : file_(file) {}
 
-    /// Incomplete files are refused here.
+    /// Returns false if the file is damaged or incomplete.
     bool open() {
         const WebPData data{file_.bytes().data(), file_.bytes().size()};
         demuxer_.reset(WebPDemux(&data));
