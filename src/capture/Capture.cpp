@@ -62,7 +62,7 @@ void Capture::loadImage(MediaLoader& media, double maximumDimension) {
     const double scale = maximumDimension / std::max(points.width, points.height);
     const auto drawn = scale >= 1.0 ? file->draw(points)
                                     : file->draw({points.width * scale, points.height * scale});
-    // Only now is it known that the file could be loaded as a whole.
+    // A damaged file fails only here, so nothing is stored before.
     if (!drawn) return;
     thumbnail_ = drawn;
     const bool isVector = pixels->width == 0 && pixels->height == 0;
@@ -73,7 +73,8 @@ void Capture::loadRecording(MediaLoader& media, double maximumDimension) {
     const auto file = media.openRecording(url_);
     if (!file) return;
     duration_ = file->duration();
-    // Half a second in, or the middle of a shorter clip, never before its beginning.
+    // The poster is at half a second, or in the middle of a recording shorter than one second, but
+    // never before the beginning.
     const double posterTime = std::min(std::max(duration_ * 0.5, 0.0), 0.5);
     const auto frame = file->frame(posterTime, maximumDimension);
     if (!frame) return;

@@ -15,24 +15,25 @@
 
 namespace vantle {
 
-/// One screenshot or recording on disk. Made once, filled once by loadThumbnail() on one thread,
-/// then handed to the main thread, which only reads it. Deleting the file does not change it.
+/// One screenshot or recording on disk. It is created once, filled once by loadThumbnail() on one
+/// thread, and then passed to the main thread, which only reads it. Deleting the file does not
+/// change it.
 class Capture {
 public:
     static constexpr double defaultMaximumDimension = 800;
 
-    /// Of what every system's tools write: in lowercase, without the dot.
+    /// The extensions of files that the tools of every system write, in lowercase, without the dot.
     static constexpr auto imageExtensions =
         extensionsOf<CaptureKind::image, FileType::Origin::everySystem>();
     static constexpr auto videoExtensions =
         extensionsOf<CaptureKind::video, FileType::Origin::everySystem>();
 
-    /// The kind of the file, by its extension alone, whole and without regard to case; absent when
-    /// a file of that name cannot be a capture. `more` extensions count besides those of every
+    /// Returns the kind of the file by its whole extension alone, regardless of case; std::nullopt
+    /// if a file with this name cannot be a capture. `more` adds extensions to those of every
     /// system.
     static std::optional<CaptureKind> kind(const Url& url, const CaptureExtensions& more = {});
 
-    /// Null when the file's extension is not a capture's. Does not touch the file.
+    /// Returns null if the file's extension is not a capture's. Does not access the file.
     static std::shared_ptr<Capture> create(const Url& url, Date date,
                                            const CaptureExtensions& more = {});
 
@@ -41,23 +42,23 @@ public:
     Date date() const { return date_; }
     CaptureKind kind() const { return kind_; }
 
-    /// Null until loaded, and when loading failed.
+    /// Returns null until the thumbnail is loaded, and if loading failed.
     const ImagePointer& thumbnail() const { return thumbnail_; }
-    /// The full resolution, upright; zero until loaded.
+    /// Returns the full resolution of the upright picture; zero until loaded.
     Size pixelSize() const { return pixelSize_; }
-    /// Seconds; 0 for images and until loaded.
+    /// Returns the duration in seconds; 0 for images and until loaded.
     double duration() const { return duration_; }
 
-    /// The last component of the path, with its extension.
+    /// Returns the last component of the path, with its extension.
     std::string fileName() const { return std::string(url_.lastPathComponent()); }
 
     /// Reads the file and fills thumbnail(), pixelSize() and, for a recording, duration(). The
-    /// thumbnail's longer side is at most `maximumDimension` points. Blocks. On a failure the
-    /// fields that were not reached keep their values.
+    /// thumbnail's longer side is at most `maximumDimension` points. Blocks. On failure, the fields
+    /// that were not read keep their values.
     void loadThumbnail(MediaLoader& media, double maximumDimension = defaultMaximumDimension);
 
-    /// The same capture, for a list of many: its thumbnail has only as many pixels as fit into that
-    /// room.
+    /// Returns a copy for a list of many captures, with the thumbnail shrunk to fit into
+    /// `pixelsWide` × `pixelsHigh`.
     std::shared_ptr<const Capture> withSmallThumbnail(int pixelsWide, int pixelsHigh) const;
 
 private:
@@ -76,10 +77,10 @@ private:
     double duration_ = 0;
 };
 
-/// Read-only once delivered, and shared by all who show it.
+/// A delivered capture. It is read-only and shared by all views that show it.
 using CapturePointer = std::shared_ptr<const Capture>;
 
-/// The same file, whatever else.
+/// Returns true if both captures are of the same file.
 inline bool operator==(const Capture& a, const Capture& b) {
     return a.url() == b.url();
 }

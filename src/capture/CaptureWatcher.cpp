@@ -92,7 +92,7 @@ std::optional<WatchError> CaptureWatcher::begin(const Opening& opening, WatchNum
         return "watching " + folder.path() + " (fd " + std::to_string(source_->descriptor()) +
                ", " + std::to_string(existingFiles) + " existing files)";
     });
-    // What is known belongs to the queue. The scan finds what was saved after the listing and
+    // known_ belongs to the queue. The scan finds files that were saved after the listing and
     // before the source was open.
     const NameList known = existing == Existing::isKnown ? names : NameList();
     services_.queue.async(weakly(shared_from_this(), [folder, watch, known, existing](auto& self) {
@@ -148,7 +148,8 @@ CaptureWatcher::Look CaptureWatcher::consider(const Url& folder, std::string_vie
     if (pending_.contains(url.path())) return Look::done;
     if (!Capture::kind(url, services_.moreExtensions)) return Look::done;
     const auto values = services_.files.resourceValues(url);
-    // A system that tells of the end of a writing may do so before the writer has let go.
+    // While a program writes the file, it is not known to be a regular one. The event for the end
+    // of the writing may arrive before the program has closed the file.
     if (values && !values.value().isRegularFile) return Look::again;
     if (!values || values.value().isRegularFile != true) return Look::done;
 
@@ -173,7 +174,7 @@ void CaptureWatcher::waitUntilStable(const Url& url, int attempts, std::int64_t 
         done();
         return;
     }
-    // A file given up on stays pending, and so is never reported.
+    // The watcher gives up on this file. It stays pending and is never reported.
     if (attempts >= lastAttempt) return;
     services_.queue.after(
         pollingInterval,
@@ -185,14 +186,14 @@ void CaptureWatcher::waitUntilStable(const Url& url, int attempts, std::int64_t 
 
 void CaptureWatcher::settle(const Url& url, Date fileDate) {
     pending_.erase(url.path());
-    // Of another folder than the one watched by now, no listing would ever ask for it.
+    // If another folder is watched by now, its listings never contain this file.
     if (url.deletingLastPathComponent() == known_.folder()) known_.insert(url.lastPathComponent());
     settled_.push_back({url, fileDate});
     deliverNext();
 }
 
 void CaptureWatcher::deliverNext() {
-    // Each one that waits for the main thread holds a picture.
+    // Each capture that waits for the main thread keeps a picture in memory.
     if (settled_.empty() || onTheirWay_ >= maximumOnTheirWay) return;
     const Settled next = std::move(settled_.front());
     settled_.pop_front();

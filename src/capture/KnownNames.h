@@ -12,8 +12,8 @@
 
 namespace vantle {
 
-/// The files of one folder that must never be reported (again). Kept by name, since a folder of
-/// 100,000 known files is looked through at every change in it.
+/// The files of one folder that must never be reported (again). They are kept by name, because a
+/// folder of 100,000 known files is searched at every change in it.
 class KnownNames {
 public:
     KnownNames() = default;
@@ -27,8 +27,8 @@ public:
     bool contains(std::string_view name) const { return names_.contains(name); }
     void insert(std::string_view name) { names_.emplace(name); }
 
-    /// Calls `onUnknown` with each listed name that is not known, in order, and forgets the known
-    /// ones that are not listed. `onUnknown` may insert.
+    /// Calls `onUnknown` with each listed name that is not known, in order, and forgets known names
+    /// that are not listed. `onUnknown` may call insert().
     template <typename OnUnknown>
     void reconcile(const NameList& listed, OnUnknown onUnknown) {
         const std::size_t knownBefore = names_.size();
@@ -36,7 +36,7 @@ public:
         std::size_t place = 0;
         std::size_t lookUps = 0;
         for (std::size_t i = 0; i < listed.size(); ++i) {
-            // Of two listings the second is nearly the first: comparing costs less than looking up.
+            // A listing is nearly the same as the one before, so comparing saves most look-ups.
             bool isKnown = takeNear(place, listed[i]);
             if (!isKnown) {
                 ++lookUps;
@@ -62,7 +62,7 @@ private:
 
     static constexpr std::size_t tolerableLookUps = 500;
 
-    /// Whether `name` is the one at `place` of the last order; moves on when it is.
+    /// Returns true and advances `place` if `name` is at `place` of the last order.
     bool takeNear(std::size_t& place, std::string_view name) const {
         if (place >= ordered_.size() || ordered_[place] != name) return false;
         ++place;
@@ -86,7 +86,7 @@ private:
 
     Url folder_;
     Names names_;
-    NameList ordered_;  ///< Known names in the order of a listing; never one that is not known.
+    NameList ordered_;  ///< Known names only, in the order of a listing.
 };
 
 }  // namespace vantle

@@ -25,7 +25,7 @@ void RecordingsWatcher::connect() {
             watcher.onRecording(capture);
     });
     watcher_->onError = weakly(self, [](auto& watcher, const WatchError& error) {
-        // By now it may watch another folder, or wait.
+        // By now, this object may watch another folder or wait for one.
         if (error == WatchError::missing() && watcher.state() == State::failed)
             watcher.look(Existing::isNew);
     });
@@ -84,7 +84,7 @@ RecordingsWatcher::Place RecordingsWatcher::find(const Url& folder, Look look) {
         Url place = nearest(folder);
         if (place == folder) return {std::move(place), std::shared_ptr<DirectoryEventSource>()};
         auto source = services_.events.open(place, changed);
-        // The folder may have come before the source was open.
+        // The folder may have been created before the source was open.
         if (source && nearest(folder) != place) continue;
         return {std::move(place), std::move(source)};
     }

@@ -9,31 +9,31 @@
 
 namespace vantle {
 
-/// Finds what the desktop's recorder saves, where that has a folder of its own: watches the folder
-/// while it is there, and waits for it while it is not. Nobody has to be alerted of anything: a
-/// recorder makes its folder when it is used for the first time. What fails is logged.
+/// Finds what the desktop's recorder saves if it has its own folder: watches the folder while it
+/// exists, and waits for it while it does not. A missing folder is not an error, because a recorder
+/// creates its folder when it is first used. Failures are only logged.
 ///
-/// Only recordings are reported. What the user keeps beside them is none of the recorder's.
+/// Only recordings are reported, because other files in the folder are not the recorder's.
 ///
-/// Main thread only, as its callback.
+/// Main thread only, like its callback.
 class RecordingsWatcher : public std::enable_shared_from_this<RecordingsWatcher> {
 public:
     enum class State { stopped, waiting, watching, failed };
 
-    /// With the queue of the watcher for screenshots, captures of both come in the order in which
-    /// they settled.
+    /// If `services` contains the queue of the watcher for screenshots, the captures of both are
+    /// reported in the order in which they settled.
     static std::shared_ptr<RecordingsWatcher> create(const CaptureWatcher::Services& services);
 
-    /// A new, finished recording, with its thumbnail.
+    /// Called with each new, finished recording and its thumbnail.
     std::function<void(const CapturePointer&)> onRecording;
 
-    /// Watches or awaits `folder` from now on instead of any other. What is in it at that moment is
-    /// not reported; in a folder that comes later, all is new that is younger than two minutes.
-    /// Repeated for the same folder it looks whether that has come meanwhile; after a failure it
-    /// tries again.
+    /// Watches `folder`, or waits for it, from now on instead of any other. Files that are in it at
+    /// that moment are not reported. If the folder is created later, all files in it that are
+    /// younger than two minutes are reported. If called again for the same folder, it checks
+    /// whether the folder exists by now; after a failure it tries again.
     void start(const Url& folder);
 
-    /// Files that are settling at that moment may still be reported.
+    /// Stops watching and waiting. Files that are settling at that moment may still be reported.
     void stop();
 
     State state() const;
@@ -44,10 +44,10 @@ private:
     void connect();
     using Look = std::uint64_t;
 
-    /// Where the folder is, or is waited for.
+    /// The folder itself, or a folder above it in which to wait for it.
     struct Place {
         Url folder;
-        Result<std::shared_ptr<DirectoryEventSource>> source;  ///< None: it is there itself.
+        Result<std::shared_ptr<DirectoryEventSource>> source;  ///< Null for the folder itself.
     };
 
     void look(CaptureWatcher::Existing existing);
@@ -55,15 +55,15 @@ private:
     void stopWaiting();
     void placeChanged(Look look, bool isLost);
 
-    // Any thread. Both wait for the file system.
+    // These two run on any thread and wait for the file system.
     Place find(const Url& folder, Look look);
-    /// The folder itself, or the nearest one above it that is there.
+    /// Returns the folder itself, or the nearest one above it that exists.
     Url nearest(const Url& folder) const;
 
     CaptureWatcher::Services services_;
     std::shared_ptr<CaptureWatcher> watcher_;
     std::optional<Url> folder_;
-    Look look_ = 0;  ///< The number of the last one.
+    Look look_ = 0;  ///< The number of the latest look().
     bool isLooking_ = false;
     Url waitingIn_;
     std::shared_ptr<DirectoryEventSource> source_;

@@ -10,11 +10,11 @@ namespace vantle {
 namespace {
 
 constexpr std::size_t channels = 4;
-/// Of larger parts not every pixel is looked at: who waits for this has others to serve.
+/// Larger parts are only sampled, because this runs on the main thread.
 constexpr std::size_t maximumSamples = 4;  // in each direction
 using Sum = std::array<std::uint32_t, channels>;
 
-/// Where the part of `length` begins that becomes the pixel at `index` of `count`.
+/// Returns where the part of `length` begins that becomes the pixel at `index` of `count`.
 std::size_t begin(int index, int count, int length) {
     return static_cast<std::size_t>(index) * static_cast<std::size_t>(length) /
            static_cast<std::size_t>(count);
@@ -24,7 +24,7 @@ std::size_t stepOver(std::size_t length) {
     return (length + maximumSamples - 1) / maximumSamples;
 }
 
-/// The mean of a part of the image, which is not empty.
+/// Writes the mean of a part of the image. The part must not be empty.
 void writeMean(const Image& image, std::size_t left, std::size_t right, std::size_t top,
                std::size_t bottom, std::uint8_t* pixel) {
     const std::size_t across = stepOver(right - left);

@@ -4,8 +4,8 @@
 
 namespace vantle {
 
-/// The image in so few pixels that it fits into that room, whole and with the same size in points;
-/// the image itself when it has no more already.
+/// Returns the whole image, shrunk to fit into `pixelsWide` × `pixelsHigh`, with the same size in
+/// points; the image itself if it fits already.
 ImagePointer smallPicture(const ImagePointer& image, int pixelsWide, int pixelsHigh);
 
 }  // namespace vantle

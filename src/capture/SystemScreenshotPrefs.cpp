@@ -28,15 +28,15 @@ Url SystemScreenshotPrefs::location() const {
     const auto path = valueOfType<std::string>(preferences_, locationKey);
     if (!path || path->empty()) return defaultLocation();
     Url folder = expandingTilde(*path);
-    // A stale setting must never yield a folder that cannot be watched. Whether a server has it
-    // only shows when it is watched: nothing here can wait for the answer.
+    // A stale setting must never yield a folder that cannot be watched. A remote folder is checked
+    // only when it is watched, because this function must not wait for a server.
     if (files_.isRemote(folder)) return folder;
     if (files_.existence(folder) != FileManager::Existence::directory) return defaultLocation();
     return folder;
 }
 
 void SystemScreenshotPrefs::setLocation(const Url& folder) {
-    // Where the folder cannot be made, reading the location back shows that.
+    // If the folder cannot be created, reading the location back shows it.
     (void)files_.createDirectory(folder);
     preferences_.setValue(locationKey, folder.path());
     preferences_.synchronize();
@@ -81,7 +81,7 @@ std::string SystemScreenshotPrefs::thumbnailObstacle() const {
 }
 
 void SystemScreenshotPrefs::restartSystemUIServer() {
-    // A system without that service reads its preferences anew by itself.
+    // A system without this service reads changed preferences by itself.
     (void)launcher_.launch("/usr/bin/killall", {"SystemUIServer"});
 }
 

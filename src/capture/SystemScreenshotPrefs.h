@@ -11,44 +11,46 @@
 namespace vantle {
 
 /// The system's own screenshot preferences: where it saves captures and whether it shows its
-/// floating thumbnail. Keeps nothing: each call asks the preferences. Failures are silent; who
-/// needs to know whether a change took effect reads the value back. Main thread only.
+/// floating thumbnail. Every call reads the preferences again. Failures are silent; to find out
+/// whether a change took effect, read the value back. Main thread only.
 class SystemScreenshotPrefs {
 public:
     /// The preferences domain of the system's screenshot service.
     static constexpr auto domain = "com.apple.screencapture";
 
-    /// All three are borrowed and outlive this. `preferences` is the one of `domain`.
+    /// All three must outlive this object. `preferences` must be those of `domain`.
     SystemScreenshotPrefs(FileManager& files, PreferencesDomain& preferences,
                           ProcessLauncher& launcher)
         : files_(files), preferences_(preferences), launcher_(launcher) {}
 
-    /// The user's Desktop folder.
+    /// Returns the user's Desktop folder.
     Url defaultLocation() const;
 
-    /// Where captures are saved: a folder that exists, or defaultLocation().
+    /// Returns the folder in which captures are saved if it exists or is remote, otherwise
+    /// defaultLocation().
     Url location() const;
 
-    /// Makes the system save captures into `folder` from now on; creates it when it is missing.
+    /// Makes the system save captures in `folder` from now on. Creates the folder if it is missing.
     void setLocation(const Url& folder);
 
-    /// Why the system's location cannot be changed, as a sentence; empty when it can.
+    /// Returns why the system's location cannot be changed, as a sentence; empty if it can.
     std::string locationObstacle() const;
 
-    /// How location() came about, in English, for reports of faults.
+    /// Returns where location() comes from, in English, for fault reports.
     std::string locationOrigin() const;
 
-    /// Where captures were saved before setLocation(); absent when there is no way back.
+    /// Returns where captures were saved before setLocation(); std::nullopt if that location cannot
+    /// be restored.
     std::optional<Url> previousLocation() const;
     void restoreLocation();
 
     bool showsThumbnail() const;
     void setShowsThumbnail(bool shows);
 
-    /// Why the thumbnail cannot be switched on or off, as a sentence; empty when it can.
+    /// Returns why the thumbnail cannot be switched on or off, as a sentence; empty if it can.
     std::string thumbnailObstacle() const;
 
-    /// Makes the system service pick up changed preferences. Does not wait for it.
+    /// Makes the system service read changed preferences. Does not wait for it.
     void restartSystemUIServer();
 
 private:

@@ -11,7 +11,7 @@ struct Turns::Waiting {
 
     Scheduler& main;
     std::mutex mutex;
-    std::deque<Work> pieces;  ///< The first one may be at work.
+    std::deque<Work> pieces;  ///< The first one may be running.
 
     static void takeTurn(const std::shared_ptr<Waiting>& self) {
         self->main.async([self] {

@@ -6,13 +6,13 @@
 
 namespace vantle {
 
-/// Hands work to the main thread one piece a turn of its run loop, in the order in which it came:
-/// what else waits for that thread has its turn between two pieces. Any thread.
+/// Runs work on the main thread in the order in which it was added, one piece per turn of the run
+/// loop, so that other work can run between two pieces. Any thread.
 class Turns {
 public:
     using Work = Scheduler::Work;
 
-    /// `main` outlives all the work.
+    /// `main` must outlive all the work.
     explicit Turns(Scheduler& main);
 
     void add(Work work);
@@ -20,7 +20,7 @@ public:
 private:
     struct Waiting;
 
-    std::shared_ptr<Waiting> waiting_;  ///< Shared with the turn that is to come.
+    std::shared_ptr<Waiting> waiting_;  ///< Shared with the next turn.
 };
 
 }  // namespace vantle

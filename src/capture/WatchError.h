@@ -5,7 +5,7 @@
 
 namespace vantle {
 
-/// Why the screenshot folder is not watched.
+/// The reason why a folder is not watched.
 class WatchError {
 public:
     enum class Kind { other, accessDenied, missing };
@@ -15,10 +15,11 @@ public:
     static WatchError missing() { return {Kind::missing, {}}; }
 
     Kind kind() const { return kind_; }
-    /// The reason, of an `other`.
+    /// The reason if the kind is `other`, otherwise empty.
     const std::string& message() const { return message_; }
 
-    /// For log lines: the kind's name, with the reason of an `other` quoted in parentheses.
+    /// Returns text for log lines: the kind's name; for `other`, with the quoted reason in
+    /// parentheses.
     std::string text() const;
 
     friend bool operator==(const WatchError&, const WatchError&) = default;
