@@ -2,7 +2,7 @@
 
 namespace vantle {
 
-/// Whether a capture is a still image or a recording.
+/// The kind of a capture: a still image or a recording.
 enum class CaptureKind { image, video };
 
 }  // namespace vantle

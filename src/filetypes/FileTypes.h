@@ -11,12 +11,12 @@
 #include "filetypes/CaptureKind.h"
 #include "support/Lowercase.h"
 
-/// The types of files that can be captures, and all that is known about them: the watcher, the
-/// decoder, the clipboard and drags read it here. A new type is a row of fileTypes, and a Format
-/// where none of the decoder's modules opens it yet.
+/// The types of files that can be captures, with everything that the watcher, the decoder, the
+/// clipboard and drags need to know about them. A new type needs a row in fileTypes, and a Format
+/// if none of the decoder's modules opens it yet.
 namespace vantle {
 
-/// The formats that can be opened. The decoder has a module for each, which is loaded alone.
+/// The formats that can be opened. The decoder has a separate module for each.
 enum class Format : std::uint32_t { png, jpeg, gif, tiff, heic, webp, pdf, recording };
 
 constexpr std::array<std::string_view, 8> formatNames = {"png",  "jpeg", "gif", "tiff",
@@ -51,10 +51,11 @@ private:
 
 /// A row of the table.
 struct FileType {
-    /// Whose tools write captures of the type.
+    /// The tools that write captures of the type.
     enum class Origin { everySystem, linuxTools };
 
-    /// What a whole file has within so many of its last bytes: some tools add to it.
+    /// The text that a complete file has within its last `within` bytes. It need not be the very
+    /// end, because some tools append data.
     struct Ending {
         std::string_view text;
         std::size_t within = 0;
@@ -63,20 +64,20 @@ struct FileType {
     Format format;
     CaptureKind kind = CaptureKind::image;
     Origin origin = Origin::everySystem;
-    /// In lowercase, without the dot. A row without any only tells what is in files.
+    /// In lowercase, without the dot. A row without extensions only serves to recognise contents.
     ShortList extensions{};
-    /// Under which other programs are offered the file as it is. Absent where few of them could
-    /// read it: they get the picture in another type.
+    /// The media type under which other programs are offered the file as it is. Empty if few of
+    /// them could read it; they get the picture in another type.
     std::string_view mediaType{};
-    /// A file of the type begins with one of these, in which '?' is any byte.
+    /// A file of the type begins with one of these, in which '?' stands for any byte.
     ShortList signatures{};
-    /// Whether a signature may stand anywhere in the first `signatureReach` bytes.
+    /// True if a signature may be anywhere in the first `signatureReach` bytes.
     bool mayBeginLater = false;
-    /// Absent where nothing tells that a file breaks off.
+    /// Empty if the end of a file does not show whether it is complete.
     Ending ending{};
 };
 
-/// By the first row whose signature a file has, it is known what is in it.
+/// The contents of a file are of the first type whose signature it has.
 inline constexpr std::array fileTypes = {
     FileType{.format = Format::png,
              .extensions = {"png"},
@@ -98,7 +99,7 @@ inline constexpr std::array fileTypes = {
              .extensions = {"avif"},
              .mediaType = "image/avif",
              .signatures = {"????ftypavif"}},
-    // Sequences of such images.
+    // Sequences of the images above.
     FileType{.format = Format::heic,
              .signatures = {"????ftyphevc", "????ftyphevx", "????ftypmsf1", "????ftypavis"}},
     FileType{.format = Format::tiff,
@@ -122,26 +123,26 @@ inline constexpr std::array fileTypes = {
              .extensions = {"pdf"},
              .mediaType = "application/pdf",
              .signatures = {"%PDF-"}},
-    // Matroska, of which WebM is one kind.
+    // Matroska, including WebM.
     FileType{.format = Format::recording,
              .kind = CaptureKind::video,
              .origin = FileType::Origin::linuxTools,
              .extensions = {"webm", "mkv"},
              .signatures = {"\x1a\x45\xdf\xa3"}},
-    // Older recorders begin with other boxes than the one that names the brand.
+    // The files of older recorders do not begin with the box that names the brand.
     FileType{.format = Format::recording,
              .kind = CaptureKind::video,
              .extensions = {"mov", "mp4", "m4v"},
              .signatures = {"????ftyp????", "????moov????", "????mdat????", "????wide????",
                             "????free????", "????skip????"}},
-    // Other programs may write something before the header.
+    // Some programs write other bytes before the header.
     FileType{.format = Format::pdf, .signatures = {"%PDF-"}, .mayBeginLater = true},
 };
 
-/// So many bytes of a file's beginning tell its type.
+/// This many bytes of a file's beginning show its type.
 inline constexpr std::size_t signatureReach = 1024;
 
-/// The type that an extension promises, without regard to case. Null when it is no capture's.
+/// Returns the type with this extension, regardless of case; null if it is not a capture's.
 constexpr const FileType* fileTypeNamed(std::string_view extension) {
     const auto found = std::ranges::find_if(fileTypes, [extension](const FileType& type) {
         return std::ranges::any_of(type.extensions, [extension](std::string_view candidate) {
@@ -176,8 +177,8 @@ consteval std::size_t countExtensions(CaptureKind kind, FileType::Origin origin)
 
 }  // namespace filetypes
 
-/// The type of what is in a file, by its first `signatureReach` bytes, or by all of a shorter file.
-/// Null when that is no capture's.
+/// Returns the type of a file's contents. `start` is the first `signatureReach` bytes of the file,
+/// or all of a shorter file. Returns null if the type is not a capture's.
 constexpr const FileType* fileTypeOf(std::string_view start) {
     const auto found = std::ranges::find_if(fileTypes, [start](const FileType& type) {
         return filetypes::isOfType(start.substr(0, signatureReach), type);
@@ -185,7 +186,7 @@ constexpr const FileType* fileTypeOf(std::string_view start) {
     return found != fileTypes.end() ? &*found : nullptr;
 }
 
-/// The extensions of all these types, in the table's order.
+/// Returns the extensions of all types of this kind and origin, in the table's order.
 template <CaptureKind kind, FileType::Origin origin>
 consteval auto extensionsOf() {
     std::array<std::string_view, filetypes::countExtensions(kind, origin)> extensions;
