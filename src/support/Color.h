@@ -2,7 +2,7 @@
 
 namespace vantle {
 
-/// Parts of sRGB, 0 to 1, not premultiplied.
+/// A colour in sRGB: components from 0 to 1, not premultiplied.
 struct Color {
     double red = 0;
     double green = 0;

@@ -10,7 +10,8 @@ namespace vantle {
 /// The process-wide diagnostic switch.
 class Debug {
 public:
-    /// Whether the environment held VANTLE_DEBUG (any value) at the first call. Any thread.
+    /// Returns true if the environment had VANTLE_DEBUG (with any value) at the first call, or what
+    /// set() stored. Any thread.
     static bool on();
 
     /// Writes "Vantle[dbg]: " and the text that `message()` returns to the system log.
@@ -20,7 +21,7 @@ public:
         if (on()) systemLog("Vantle[dbg]: " + std::string(std::forward<Message>(message)()));
     }
 
-    /// Sets the switch, whatever the environment says; for tests.
+    /// Sets the switch regardless of the environment; for tests.
     static void set(bool on);
 };
 

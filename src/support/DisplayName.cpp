@@ -12,7 +12,7 @@ bool isBetween(unsigned char byte, unsigned first, unsigned last) {
     return byte >= first && byte <= last;
 }
 
-/// Of the picture of a control character, in UTF-8.
+/// Returns the visible symbol of a control character (U+2400 to U+2421), in UTF-8.
 std::string picture(unsigned char control) {
     constexpr unsigned char deleteCharacter = 0x7f;
     constexpr unsigned char pictureOfDelete = 0x21;
@@ -20,7 +20,8 @@ std::string picture(unsigned char control) {
     return std::string("\xE2\x90") + static_cast<char>(0x80 + which);
 }
 
-/// How many bytes of `rest` are a character that must not be shown: 0 for none.
+/// Returns the length in bytes of the first character of `rest` if it must not be shown, otherwise
+/// 0.
 std::size_t lengthOfForbidden(std::string_view rest) {
     const auto byte = [rest](std::size_t i) {
         return i < rest.size() ? static_cast<unsigned char>(rest[i])

@@ -4,10 +4,10 @@
 
 namespace vantle {
 
-/// The name of a file as it is shown: nothing in it can change the line, or hide how it ends.
-/// Control characters show as their pictures. What turns the direction of writing around, so that
-/// "gnp.exe" would read "exe.png", and what ends a line show as a character that is not known.
-/// UTF-8; bytes that are none stay as they are.
+/// Returns a file's name for display, in which nothing can break the line or disguise the
+/// extension. Control characters become visible symbols. Characters that reverse the direction of
+/// writing, so that "gnp.exe" would read "exe.png", and characters that end a line become the
+/// replacement character (U+FFFD). UTF-8; invalid bytes stay as they are.
 std::string displayName(const std::string& name);
 
 }  // namespace vantle

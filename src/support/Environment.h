@@ -6,11 +6,11 @@
 
 namespace vantle {
 
-/// Looks a variable up in the process environment: absent when it is not set, empty text when it
-/// is set to nothing.
+/// Looks up a variable in the process environment. Returns std::nullopt if it is not set, and an
+/// empty text if it is set to nothing.
 using Environment = std::function<std::optional<std::string>(const std::string& name)>;
 
-/// The real one.
+/// Returns the real environment.
 Environment processEnvironment();
 
 }  // namespace vantle

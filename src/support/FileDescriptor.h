@@ -6,7 +6,7 @@
 
 namespace vantle {
 
-/// Owns an open descriptor and closes it; -1 is none.
+/// Owns an open descriptor and closes it; -1 means none.
 class FileDescriptor {
 public:
     FileDescriptor() = default;

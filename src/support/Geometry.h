@@ -2,7 +2,7 @@
 
 namespace vantle {
 
-/// Lengths are points unless a name says pixels.
+/// All lengths are in points unless a name says pixels.
 struct Point {
     double x = 0;
     double y = 0;
@@ -27,14 +27,16 @@ struct Rect {
     friend bool operator==(const Rect&, const Rect&) = default;
 };
 
-/// Whether they share any point inside. A line inside the other rectangle counts.
+/// Returns true if the rectangles share any inner point. A rectangle without width or height counts
+/// if it is inside the other one.
 constexpr bool intersects(const Rect& a, const Rect& b) {
     return a.origin.x < b.origin.x + b.size.width && b.origin.x < a.origin.x + a.size.width &&
            a.origin.y < b.origin.y + b.size.height && b.origin.y < a.origin.y + a.size.height;
 }
 
-/// The point-in-rectangle test of coordinates whose y grows upwards: a rectangle owns its left
-/// and its top edge, so that of two screens that touch only one contains a point between them.
+/// Returns true if the rectangle contains the point, in coordinates whose y grows upwards. Only the
+/// left and top edges belong to a rectangle, so that a point between two adjacent screens belongs
+/// to one of them.
 constexpr bool containsUpwards(const Rect& rect, const Point& point) {
     return point.x >= rect.origin.x && point.x < rect.origin.x + rect.size.width &&
            point.y > rect.origin.y && point.y <= rect.origin.y + rect.size.height;

@@ -5,20 +5,21 @@
 
 namespace vantle {
 
-/// From one colour to another over a whole rectangle: they stand in two opposite corners.
+/// A gradient from one colour to another over a whole rectangle, between two opposite corners.
 struct LinearGradient {
     Color start;
     Color end;
-    double angle = 0;  ///< Degrees, counter-clockwise from the direction to the right.
+    double angle = 0;  ///< Degrees, counterclockwise; 0 points to the right.
 };
 
-/// Where a gradient begins and ends.
+/// The points at which a gradient begins and ends.
 struct GradientLine {
     Point start;
     Point end;
 };
 
-/// That of a gradient over a rectangle of `size` whose y grows downwards.
+/// Returns the line of a gradient over a rectangle of `size`, in coordinates whose y grows
+/// downwards.
 GradientLine gradientLine(const Size& size, double angle);
 
 }  // namespace vantle

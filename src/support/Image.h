@@ -8,11 +8,11 @@
 
 namespace vantle {
 
-/// Pixels that nobody changes any more; shared freely between threads as ImagePointer.
+/// Pixels that never change, so that threads can share them freely as ImagePointer.
 struct Image {
     int pixelsWide = 0;
     int pixelsHigh = 0;
-    Size size;  ///< In points: what the image measures when it is drawn.
+    Size size;  ///< The size in points at which the image is drawn.
     /// Premultiplied 8-bit red, green, blue, alpha; rows from the top, without padding:
     /// pixelsWide × pixelsHigh × 4 bytes.
     std::vector<std::uint8_t> rgba;

@@ -2,7 +2,7 @@
 
 namespace vantle {
 
-/// Of the letters that names of file formats are written in; any other character as it is.
+/// Returns a letter from A to Z in lowercase, and any other character as it is.
 constexpr char lowercase(char character) {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
                                                 : character;

@@ -9,7 +9,7 @@
 namespace vantle {
 namespace {
 
-/// How many digits were at the beginning, which are gone then.
+/// Removes the digits at the beginning and returns how many there were.
 std::size_t takeDigits(std::string_view& text) {
     const auto count = std::min(text.find_first_not_of("0123456789"), text.size());
     text.remove_prefix(count);
@@ -22,7 +22,8 @@ bool takeOneOf(std::string_view signs, std::string_view& text) {
     return true;
 }
 
-/// Whether it is "-1", "1.5", ".5", "1.5e-3" and the like. Streams take more, and not all the same.
+/// Returns true for "-1", "1.5", ".5", "1.5e-3" and the like. Streams accept more, and not all of
+/// them accept the same.
 bool isDecimal(std::string_view text) {
     takeOneOf("-", text);
     std::size_t digits = takeDigits(text);
@@ -37,12 +38,12 @@ bool isDecimal(std::string_view text) {
 
 std::optional<double> numberFromText(std::string_view text) {
     if (!isDecimal(text)) return std::nullopt;
-    // Not every library of C++ has from_chars() for these numbers.
+    // Not every C++ standard library has from_chars() for these numbers.
     std::istringstream stream{std::string(text)};
     stream.imbue(std::locale::classic());
     double value = 0;
     stream >> value;
-    // Of a number that is too small to be held exactly, some libraries say that it is out of range.
+    // Some libraries report that a number too small to be held exactly is out of range.
     const bool isTooLarge = !stream && std::abs(value) >= 1;
     return isTooLarge ? std::nullopt : std::optional(value);
 }

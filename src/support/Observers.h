@@ -30,7 +30,7 @@ public:
     }
 
     void notify(const Arguments&... arguments) const {
-        const auto list = list_;  // outlives an owner that goes away in a callback
+        const auto list = list_;  // outlives an owner that is destroyed in a callback
         ++list->notifying;
         for (std::size_t i = 0; i < list->observers.size(); ++i) {
             const auto observer = list->observers[i];

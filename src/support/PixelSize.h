@@ -2,7 +2,7 @@
 
 namespace vantle {
 
-/// Of a picture, in whole pixels.
+/// The size of a picture in whole pixels.
 struct PixelSize {
     int width = 0;
     int height = 0;

@@ -4,8 +4,8 @@
 
 namespace vantle {
 
-/// The file of the program that runs, links followed; empty where that cannot be had. Another file
-/// may stand at its path by now.
+/// Returns the path of the running program's file, with links resolved; empty if it is unknown.
+/// Another file may be at that path by now.
 std::filesystem::path programFile();
 
 }  // namespace vantle

@@ -7,12 +7,12 @@
 
 namespace vantle {
 
-/// An observable value. An assignment announces the new value to every observer first and
-/// stores it afterwards: inside a notification value() is still the old one. Every assignment
-/// is announced, also of an equal value.
+/// An observable value. set() first passes the new value to every observer and then stores it:
+/// inside a notification, value() is still the old one. It notifies observers of equal values too.
 ///
-/// Observers come and go during a notification as Observers says. One that is added then is
-/// told the old value as the current one and right after it the new one. One thread only.
+/// Observers can be added and removed during a notification, as Observers describes. One that
+/// observe() adds then receives the old value as the current one, and the new one right after it.
+/// One thread only.
 template <typename T>
 class Published {
 public:
@@ -39,7 +39,8 @@ public:
     /// Calls `observer` with every later value, not with the current one.
     Subscription observeChanges(Observer observer) { return observers_.add(std::move(observer)); }
 
-    /// What the owner of the value does after each store. Replaces an earlier one.
+    /// Sets the callback that runs after each store, for the owner of the value. Replaces an
+    /// earlier callback.
     void onStored(Observer didSet) { didSet_ = std::move(didSet); }
 
 private:

@@ -7,11 +7,11 @@
 
 namespace vantle {
 
-/// Why a service could not do what it was asked for.
+/// The reason why a service could not perform an operation.
 struct Failure {
-    int code = 0;         ///< The operating system's error number (errno); 0 when there is none.
-    std::string message;  ///< For a person: the system's own text for the error.
-    std::string path;     ///< What it was about; empty when it was not about a file.
+    int code = 0;         ///< The operating system's error number (errno); 0 if there is none.
+    std::string message;  ///< The system's own text for the error, for a person.
+    std::string path;     ///< The file concerned; empty if there is none.
 };
 
 /// The outcome of an operation that can fail: a value, or the Failure. Never thrown.
@@ -30,7 +30,7 @@ private:
     std::variant<T, Failure> outcome_;
 };
 
-/// The outcome of an operation that gives nothing: absent when it worked.
+/// The outcome of an operation that returns no value: std::nullopt if it succeeded.
 using Outcome = std::optional<Failure>;
 
 }  // namespace vantle

@@ -6,7 +6,7 @@
 
 namespace vantle {
 
-/// The parts of a text between separators, without the empty ones.
+/// Returns the parts of a text between separators, without empty ones.
 inline std::vector<std::string> split(const std::string& text, char separator) {
     std::vector<std::string> parts;
     std::istringstream stream(text);

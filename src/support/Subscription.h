@@ -5,8 +5,8 @@
 
 namespace vantle {
 
-/// Keeps an observer registered. Ends with its owner: destroying or assigning over a
-/// Subscription unregisters the observer, also from inside a notification.
+/// Keeps an observer registered. Destroying a Subscription, or assigning another one to it,
+/// unregisters the observer, even during a notification.
 class [[nodiscard]] Subscription {
 public:
     Subscription() = default;

@@ -7,7 +7,7 @@
 
 namespace vantle {
 
-/// The failure that the error number `error` stands for.
+/// Returns the failure for the error number `error`.
 inline Failure systemFailure(int error, const std::string& path = {}) {
     return Failure{error, std::generic_category().message(error), path};
 }

@@ -33,6 +33,6 @@ std::string UUID::text() const {
 
 std::size_t std::hash<vantle::UUID>::operator()(const vantle::UUID& id) const noexcept {
     std::size_t value = 0;
-    std::memcpy(&value, id.bytes_.data(), sizeof value);  // random already
+    std::memcpy(&value, id.bytes_.data(), sizeof value);  // already random
     return value;
 }

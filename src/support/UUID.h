@@ -10,10 +10,10 @@ namespace vantle {
 /// A random identifier (version 4).
 class UUID {
 public:
-    /// A fresh one. Any thread.
+    /// Returns a new identifier. Any thread.
     static UUID random();
 
-    /// 36 characters, lower case: 8-4-4-4-12.
+    /// Returns 36 characters in lowercase, grouped 8-4-4-4-12.
     std::string text() const;
 
     friend bool operator==(const UUID&, const UUID&) = default;

@@ -8,31 +8,32 @@
 namespace vantle {
 
 /// The address of a file. Holds the path as the file system's own bytes, which need not be
-/// valid UTF-8. Two are equal when their paths are equal byte for byte.
+/// valid UTF-8. Two are equal if their paths are equal byte for byte.
 class Url {
 public:
     Url() = default;
 
-    /// From an absolute path; slashes at its end are dropped (except of the root itself).
+    /// Returns the address of an absolute path. Slashes at its end are dropped, except the root's.
     static Url file(std::string path);
 
-    /// From a "file:" address, percent-encoded; absent when it is not one, names another host
-    /// than this one, or holds a broken percent escape or an encoded zero byte.
+    /// Reads a percent-encoded "file:" address. Returns std::nullopt if it is not one, names
+    /// another host than this one, or contains a broken percent escape or an encoded zero byte.
     static std::optional<Url> fromFileAddress(std::string_view address);
 
     const std::string& path() const { return path_; }
 
-    /// The name with its extension; "/" for the root.
+    /// Returns the name with its extension; "/" for the root.
     std::string_view lastPathComponent() const;
 
-    /// The text behind the last full stop of the last component, without the stop. Empty when
-    /// there is none, or when the stop is the name's first or last character.
+    /// Returns the text after the last full stop of the last component. Empty if there is no full
+    /// stop, or if it is the name's first or last character.
     std::string_view pathExtension() const;
 
     Url appending(std::string_view component) const;
     Url deletingLastPathComponent() const;
 
-    /// "file://" and the path, all bytes but unreserved characters and "/" percent-encoded.
+    /// Returns "file://" and the path, in which all bytes except unreserved characters and "/" are
+    /// percent-encoded.
     std::string address() const;
 
     friend bool operator==(const Url&, const Url&) = default;

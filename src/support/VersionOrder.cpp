@@ -13,7 +13,7 @@ bool isLetter(char character) {
     return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
 }
 
-/// Takes the next part off `rest`; empty at the end.
+/// Removes the next part from `rest` and returns it; empty at the end.
 std::string_view takePart(std::string_view& rest) {
     const auto start =
         std::ranges::find_if(rest, [](char each) { return isDigit(each) || isLetter(each); });
@@ -24,7 +24,7 @@ std::string_view takePart(std::string_view& rest) {
     return part;
 }
 
-/// No part is a 0.
+/// An empty part counts as 0.
 std::weak_ordering compareNumbers(std::string_view left, std::string_view right) {
     const auto withoutZeros = [](std::string_view digits) {
         digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));

@@ -5,8 +5,8 @@
 
 namespace vantle {
 
-/// A callback that holds `owner` weakly: it calls `function(owner, arguments...)` while the
-/// owner lives and does nothing afterwards.
+/// Returns a callback that holds `owner` weakly: it calls `function(owner, arguments...)` while the
+/// owner exists and does nothing afterwards.
 template <typename Owner, typename Function>
 auto weakly(const std::shared_ptr<Owner>& owner, Function function) {
     return
