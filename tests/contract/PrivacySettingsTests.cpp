@@ -3,6 +3,7 @@
 
 #include "contract/DesktopServices.h"
 #include "contract/EventLoop.h"
+#include "contract/PrivacySettingsContract.h"
 #include "contract/PrivateBus.h"
 #include "fakes/FakeFileOpener.h"
 #include "platform/freedesktop/DesktopPrivacySettings.h"
@@ -37,6 +38,22 @@ public slots:
         argument.endStructure();
     }
 };
+
+/// A file manager that shows the permissions of folders.
+struct PermissionsOfFolders {
+    bool waitUntilShown(const Url& folder) const {
+        const QStringList expected{QString::fromStdString(folder.address())};
+        return runUntil([&] { return manager.properties == expected; });
+    }
+
+    PrivateBus bus;
+    FileManagerService manager{bus.connect()};
+    fakes::FakeFileOpener opener;
+    DesktopPrivacySettings settings{"org.example.Program", opener, Sandbox::none, bus.connect()};
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(DesktopPrivacySettings, PrivacySettingsContract,
+                               PermissionsOfFolders);
 
 class PrivacySettingsTest : public testing::Test {
 protected:

@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
-#include <map>
+#include <filesystem>
+#include <functional>
 #include <optional>
 
 #include "contract/EventLoop.h"
 #include "contract/PrivateBus.h"
 #include "contract/SharingServices.h"
+#include "contract/SharingSourceContract.h"
 #include "contract/TemporaryFolder.h"
 #include "contract/TextFile.h"
 #include "fakes/CapturedLog.h"
@@ -27,16 +29,106 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-class SharingSourceTest : public testing::Test {
-protected:
-    SharingSourceTest() {
-        writeText(file, "picture");
+/// A desktop of its own, with a bus and a folder of programs.
+struct SharingDesktop {
+    SharingDesktop() {
         qputenv("PATH", QByteArray::fromStdString((place / "bin").path()));
         std::filesystem::create_directory((place / "bin").path());
     }
-    ~SharingSourceTest() override { qputenv("PATH", path); }
+    ~SharingDesktop() { qputenv("PATH", path); }
+    SharingDesktop(const SharingDesktop&) = delete;
+    SharingDesktop& operator=(const SharingDesktop&) = delete;
 
-    std::vector<SharingOffer> find(SharingSource& source) {
+    void install(const char* program) const {
+        const Url url = (place / "bin").appending(program);
+        writeText(url, "#!/bin/sh\n");
+        std::filesystem::permissions(url.path(), std::filesystem::perms::owner_all);
+    }
+
+    // What the contract asks of each desk.
+    static bool runUntil(const std::function<bool()>& condition) {
+        return vantle::runUntil(condition);
+    }
+    std::size_t programsStarted() const { return launcher.launched.size(); }
+
+    TemporaryFolder place;
+    const QByteArray path = qgetenv("PATH");
+    PrivateBus bus;
+    fakes::FakeProcessLauncher launcher;
+};
+
+struct PhoneOfKde : SharingDesktop {
+    void addTarget() {
+        service.emplace(bus.connect());
+        service->daemon.names = {{QStringLiteral("b1"), QStringLiteral("Phone")}};
+    }
+
+    std::optional<KdeConnectService> service;
+    KdeConnectSharing source{bus.connect()};
+};
+
+struct PhoneOfGnome : SharingDesktop {
+    void addTarget() {
+        manager.objects[QDBusObjectPath(QStringLiteral("/phone"))]
+                       [QStringLiteral("org.gnome.Shell.Extensions.GSConnect.Device")] = {
+            {QStringLiteral("Name"), QStringLiteral("Phone")},
+            {QStringLiteral("Connected"), true},
+            {QStringLiteral("Paired"), true}};
+    }
+
+    ObjectManager manager{bus.connect(), "org.gnome.Shell.Extensions.GSConnect",
+                          "/org/gnome/Shell/Extensions/GSConnect"};
+    GsConnectSharing source{bus.connect()};
+};
+
+struct BluetoothAdapter : SharingDesktop {
+    void addTarget() {
+        install("bluetooth-sendto");
+        plugIn();
+    }
+    void plugIn() {
+        manager.objects[QDBusObjectPath(QStringLiteral("/org/bluez/hci0"))]
+                       [QStringLiteral("org.bluez.Adapter1")] = {};
+    }
+
+    ObjectManager manager{bus.connect(), "org.bluez", "/"};
+    BluetoothSharing source{launcher, bus.connect()};
+};
+
+struct MailProgram : SharingDesktop {
+    MailProgram() {
+        std::filesystem::create_directories((place / "data/applications").path());
+        environment["XDG_CONFIG_HOME"] = (place / "configuration").path();
+        environment["XDG_CONFIG_DIRS"] = (place / "none").path();
+        environment["XDG_DATA_HOME"] = (place / "none").path();
+        environment["XDG_DATA_DIRS"] = (place / "none").path() + ":" + (place / "data").path();
+    }
+    void addTarget() {
+        install("xdg-email");
+        installMailProgram();
+    }
+    void installMailProgram() const {
+        writeText(place / "data/applications/mimeinfo.cache",
+                  "[MIME Cache]\ntext/plain=editor.desktop;\n"
+                  "x-scheme-handler/mailto=mail.desktop;\n");
+    }
+
+    fakes::FakeEnvironment environment;
+    MailSharing source{launcher, environment, bus.connect()};
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(KdeConnectSharing, SharingSourceContract, PhoneOfKde);
+INSTANTIATE_TYPED_TEST_SUITE_P(GsConnectSharing, SharingSourceContract, PhoneOfGnome);
+INSTANTIATE_TYPED_TEST_SUITE_P(BluetoothSharing, SharingSourceContract, BluetoothAdapter);
+INSTANTIATE_TYPED_TEST_SUITE_P(MailSharing, SharingSourceContract, MailProgram);
+
+/// Tests what one source does on its desktop.
+template <typename Desktop>
+class SharingSourceTestOn : public testing::Test, protected Desktop {
+protected:
+    SharingSourceTestOn() { writeText(file, "picture"); }
+
+    static std::vector<SharingOffer> find(SharingSource& source) {
         std::optional<std::vector<SharingOffer>> offers;
         source.find([&](auto found) { offers = std::move(found); });
         EXPECT_TRUE(runUntil([&] { return offers.has_value(); }));
@@ -47,28 +139,14 @@ protected:
         for (const auto& offer : offers) titles.push_back(offer.title);
         return titles;
     }
-    void install(const char* program) {
-        const Url url = (place / "bin").appending(program);
-        writeText(url, "#!/bin/sh\n");
-        std::filesystem::permissions(url.path(), std::filesystem::perms::owner_all);
-    }
 
-    TemporaryFolder place;
-    const Url file = place / "a shot.png";
-    const QByteArray path = qgetenv("PATH");
-    PrivateBus bus;
-    fakes::FakeProcessLauncher launcher;
+    const Url file = this->place / "a shot.png";
     fakes::CapturedLog log;
 };
 
-TEST_F(SharingSourceTest, ADesktopWithoutAnybodyOffersNothing) {
-    KdeConnectSharing kde(bus.connect());
-    GsConnectSharing gnome(bus.connect());
-    BluetoothSharing bluetooth(launcher, bus.connect());
-    EXPECT_THAT(find(kde), IsEmpty());
-    EXPECT_THAT(find(gnome), IsEmpty());
-    EXPECT_THAT(find(bluetooth), IsEmpty());
-}
+using SharingSourceTest = SharingSourceTestOn<SharingDesktop>;
+using BluetoothSharingTest = SharingSourceTestOn<BluetoothAdapter>;
+using MailSharingTest = SharingSourceTestOn<MailProgram>;
 
 TEST_F(SharingSourceTest, WithoutABusNothingIsOffered) {
     const QDBusConnection none(QStringLiteral("none"));
@@ -123,17 +201,6 @@ TEST_F(SharingSourceTest, GsConnectOffersDevicesThatArePairedAndConnected) {
     EXPECT_THAT(phone.received, ElementsAre(QString::fromStdString(file.address())));
 }
 
-class BluetoothSharingTest : public SharingSourceTest {
-protected:
-    void plugIn() {
-        manager.objects[QDBusObjectPath(QStringLiteral("/org/bluez/hci0"))]
-                       [QStringLiteral("org.bluez.Adapter1")] = {};
-    }
-
-    ObjectManager manager{bus.connect(), "org.bluez", "/"};
-    BluetoothSharing source{launcher, bus.connect()};
-};
-
 TEST_F(BluetoothSharingTest, NeedsAnAdapterAndAProgram) {
     EXPECT_THAT(find(source), IsEmpty());
     install("bluetooth-sendto");
@@ -153,25 +220,6 @@ TEST_F(BluetoothSharingTest, StartsWhatTheDesktopHas) {
     EXPECT_THAT(launcher.launched[1].executable, HasSubstr("/blueman-sendto"));
     EXPECT_THAT(launcher.launched[1].arguments, ElementsAre(file.path()));
 }
-
-class MailSharingTest : public SharingSourceTest {
-protected:
-    MailSharingTest() {
-        std::filesystem::create_directories((place / "data/applications").path());
-        environment["XDG_CONFIG_HOME"] = (place / "configuration").path();
-        environment["XDG_CONFIG_DIRS"] = (place / "none").path();
-        environment["XDG_DATA_HOME"] = (place / "none").path();
-        environment["XDG_DATA_DIRS"] = (place / "none").path() + ":" + (place / "data").path();
-    }
-    void installMailProgram() {
-        writeText(place / "data/applications/mimeinfo.cache",
-                  "[MIME Cache]\ntext/plain=editor.desktop;\n"
-                  "x-scheme-handler/mailto=mail.desktop;\n");
-    }
-
-    fakes::FakeEnvironment environment;
-    MailSharing source{launcher, environment, bus.connect()};
-};
 
 TEST_F(MailSharingTest, NeedsAProgramThatTakesMailAddresses) {
     install("xdg-email");
@@ -212,34 +260,20 @@ TEST_F(MailSharingTest, AttachesTheFileByThePortalWhereThereIsOne) {
     EXPECT_THAT(launcher.launched, IsEmpty());
 }
 
-/// Answers with one title, at once or when it is told to.
-class PreparedSource final : public SharingSource {
-public:
-    explicit PreparedSource(std::string title) : title_(std::move(title)) {}
-    void find(Found found) override { found_ = std::move(found); }
-    void answer() { found_({SharingOffer{title_, "", {}}}); }
-
-private:
-    std::string title_;
-    Found found_;
-};
-
 TEST(SharingSourcesTest, GiveTheirOffersInOrderOnceAllHaveAnswered) {
-    auto first = std::make_unique<PreparedSource>("first");
-    auto second = std::make_unique<PreparedSource>("second");
-    PreparedSource* const one = first.get();
-    PreparedSource* const two = second.get();
+    fakes::FakeSharingSource::Script one{.offers = {{"first", "", {}}}, .isQuick = false};
+    fakes::FakeSharingSource::Script two{.offers = {{"second", "", {}}}, .isQuick = false};
     std::vector<std::unique_ptr<SharingSource>> list;
-    list.push_back(std::move(first));
-    list.push_back(std::move(second));
+    list.push_back(std::make_unique<fakes::FakeSharingSource>(one));
+    list.push_back(std::make_unique<fakes::FakeSharingSource>(two));
     SharingSources sources(std::move(list));
     std::vector<std::string> titles;
     sources.find([&](const auto& offers) {
         for (const auto& offer : offers) titles.push_back(offer.title);
     });
-    two->answer();
+    two.answer();
     EXPECT_THAT(titles, IsEmpty());
-    one->answer();
+    one.answer();
     EXPECT_THAT(titles, ElementsAre("first", "second"));
 }
 

@@ -42,7 +42,9 @@ public:
         return {{frame.origin.x + inContent.origin.x, frame.origin.y + frame.size.height - bottom},
                 inContent.size};
     }
-    void takeKeyboard() override { ++record_.timesKeyboardTaken; }
+    void takeKeyboard() override {
+        if (record_.isOnScreen) ++record_.timesKeyboardTaken;
+    }
     Outcome writeSnapshot(const std::string& path) override {
         record_.snapshots.push_back(path);
         return record_.snapshotOutcome;

@@ -43,11 +43,15 @@ void CardStage::recordRequests() {
     actions.removeSelected = onPanel("remove selected");
 }
 
-void CardStage::makeCard() {
+CapturePanel& CardStage::preparedCard() {
     panel.reset();
     panel = std::make_unique<CapturePanel>(
         PanelModel::Context{state, settings, clock, scheduler, dragging, actions, rendering});
-    panel->orderFrontRegardless();
+    return *panel;
+}
+
+void CardStage::makeCard() {
+    preparedCard().orderFrontRegardless();
     if (!QTest::qWaitForWindowExposed(&window())) throw std::runtime_error("no window came up");
     rest();
 }

@@ -22,6 +22,8 @@ class CardStage : public fakes::SettingsOnFakes {
 public:
     CardStage();
 
+    /// A panel over the state as it is that is not on the screen yet.
+    CapturePanel& preparedCard();
     /// A card over the state as it is, at rest.
     void makeCard();
     /// Changes the captures and lets everything come to rest.

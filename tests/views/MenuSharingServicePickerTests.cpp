@@ -7,6 +7,7 @@
 #include "contract/SharingServicePickerContract.h"
 #include "fakes/FakeFileOpener.h"
 #include "fakes/FakePasteboard.h"
+#include "fakes/FakeSharingSource.h"
 #include "fakes/SettingsOnFakes.h"
 #include "menus/MenuSharingServicePicker.h"
 
@@ -15,32 +16,14 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Offers what a test says, when it says so.
-class PreparedSource final : public SharingSource {
-public:
-    void find(Found found) override {
-        pending = std::move(found);
-        if (isQuick) answer();
-    }
-    void answer() { std::exchange(pending, nullptr)(offers); }
-
-    std::vector<SharingOffer> offers;
-    bool isQuick = true;
-    Found pending;
-};
-
 struct RealMenu {
     fakes::SettingsOnFakes surroundings;
     fakes::FakePasteboard pasteboard{surroundings.files};
     fakes::FakeFileOpener opener;
-    PreparedSource* source = nullptr;
-    MenuSharingServicePicker picker{makeSource(), pasteboard, opener, [] { return nullptr; }};
+    fakes::FakeSharingSource::Script source;
+    MenuSharingServicePicker picker{std::make_unique<fakes::FakeSharingSource>(source), pasteboard,
+                                    opener, [] { return nullptr; }};
 
-    std::unique_ptr<SharingSource> makeSource() {
-        auto made = std::make_unique<PreparedSource>();
-        source = made.get();
-        return made;
-    }
     void press(Qt::Key key) { QTest::keyClick(picker.window(), key); }
     void choose(int line = 0) {
         for (int i = 0; i <= line; ++i) press(Qt::Key_Down);
@@ -62,7 +45,7 @@ protected:
 };
 
 TEST_F(MenuSharingServicePickerTest, OffersWhatWasFoundThenItsOwn) {
-    menu.source->offers = {{"Mail…", "envelope", [](const auto&) {}}};
+    menu.source.offers = {{"Mail…", "envelope", [](const auto&) {}}};
     show(listener);
     EXPECT_THAT(titles(), ElementsAre("Mail…", "", "Copy file", "Reveal"));
 }
@@ -74,7 +57,7 @@ TEST_F(MenuSharingServicePickerTest, WhereNothingWasFoundThereIsNoRule) {
 
 TEST_F(MenuSharingServicePickerTest, WhatIsChosenIsDoneWithTheFiles) {
     std::vector<Url> sent;
-    menu.source->offers = {{"Phone", "phone", [&](const auto& files) { sent = files; }}};
+    menu.source.offers = {{"Phone", "phone", [&](const auto& files) { sent = files; }}};
     show(listener);
     menu.choose();
     EXPECT_THAT(sent, ElementsAre(shot));
@@ -96,14 +79,14 @@ TEST_F(MenuSharingServicePickerTest, RevealShowsTheFile) {
 }
 
 TEST_F(MenuSharingServicePickerTest, AnAnswerToAnEarlierQuestionOpensNothing) {
-    menu.source->isQuick = false;
+    menu.source.isQuick = false;
     show(listener);
-    const auto first = std::exchange(menu.source->pending, nullptr);
+    const auto first = std::exchange(menu.source.pending, nullptr);
     const auto second = std::make_shared<SharingListener>();
     show(second);
     first({{"Late", "phone", [](const auto&) {}}});
     EXPECT_EQ(menu.picker.window(), nullptr);
-    menu.source->answer();
+    menu.source.answer();
     EXPECT_THAT(titles(), ElementsAre("Copy file", "Reveal"));
     menu.close();
     EXPECT_THAT(second->told, ElementsAre(""));

@@ -84,8 +84,9 @@ public:
     int finished = 0;
     int samples = 0;
 
-private:
     SettingsModel::Context settingsContext();
+
+private:
     void open(std::unique_ptr<ScreenWindow> window, Size size);
 
     UpdaterDelegate updaterDelegate_{platform.environment};
