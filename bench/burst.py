@@ -1,13 +1,14 @@
 #!/usr/bin/python3
-"""Saves hundreds of screenshots at once, and measures how long the program takes to answer
-meanwhile, on a private desktop.
+"""Measures how long the program takes to answer while hundreds of screenshots are saved at once, on
+a private desktop.
 
   bench/burst.py [--binary build/release/bin/vantle] [--files 500] [--size 2560x1440]
                  [--seconds 20] [--json FILE] [--plot FILE.svg]
 
-Two things are timed over and over while the pointer wanders over the card: a question over the bus,
-which waits for the same thread as the pointer's moves, and `vantle --dismiss`, as a whole process.
-Where others use the machine, what the thread itself has worked until the answer tells more.
+While the pointer moves over the card, two things are timed again and again: a question over the
+bus, which waits for the same thread as the pointer's moves, and `vantle --dismiss`, as a whole
+process. On a machine that is busy with other things, the processor time that the thread has used
+until the answer tells more.
 """
 
 import argparse
@@ -77,7 +78,7 @@ class Burst:
         self.points[kind].append((begin - self._begin, seconds * 1000))
 
     def _worked(self):
-        """Seconds for which its main thread has had a processor."""
+        """Returns the seconds that the program's main thread has run on a processor."""
         pid = str(self._vantle.pid)
         statistics_of_thread = pathlib.Path("/proc", pid, "task", pid, "schedstat").read_text()
         return int(statistics_of_thread.split()[0]) / 1e9
@@ -97,7 +98,7 @@ class Burst:
             self._note("command", begin, time.monotonic() - begin)
 
     def _wander(self):
-        """Over the card's tiles, as somebody does who looks for one."""
+        """Moves the pointer over the card's tiles, like a person who looks for one of them."""
         screen = Screen(self._desktop.environment["DISPLAY"])
         area = screen.work_area()
         step = 0

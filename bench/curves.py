@@ -37,7 +37,8 @@ def band(label, points, widest, top, limit=None):
 
 
 def picture(bands, axis):
-    """bands: (label, points, limit or None), their points (x, y) in the order of x."""
+    """Returns the SVG. A band is (label, points, limit or None); its points (x, y) are sorted by
+    x."""
     widest = max(points[-1][0] for _, points, _ in bands) or 1
     bottom = TOP + len(bands) * (HIGH + GAP)
     parts = [

@@ -31,7 +31,8 @@ IDLE_SECONDS = 10
 
 
 def screenshot_like(size, colour):
-    """A PNG of one strong colour with noisy bands, so that it is neither tiny nor unusual."""
+    """Returns a PNG of one strong colour with noisy bands, so that its size is that of a usual
+    file."""
     image = Image.new("RGB", size, colour)
     noise = Image.frombytes("RGB", (size[0], 16), random.Random(1).randbytes(size[0] * 16 * 3))
     for y in range(0, size[1] - 16, 160):
@@ -98,7 +99,7 @@ class Figures:
 
     def _measure_rest(self, when):
         vantle = self._vantle
-        # They end once, half a minute after the last picture.
+        # Qt's pooled threads end once, half a minute after the last picture.
         wait_until(lambda: not vantle.has_thread("Thread (pooled)"), "Qt's threads end", limit=60)
         wait_until_still(vantle.voluntary_switches, "the program", readings=20)
         before = vantle.voluntary_switches()
@@ -108,7 +109,7 @@ class Figures:
         self._add(f"memory (PSS), {when}", f"{vantle.proportional_memory() / 1024:.1f} MiB")
 
     def _save(self, colour):
-        """Saves a picture and returns the moment in which it was complete."""
+        """Saves a picture and returns the time at which the file was complete."""
         content = screenshot_like(self._arguments.size, colour)
         self._saved += 1
         with open(self._folder / f"shot {self._saved}.png", "wb") as file:

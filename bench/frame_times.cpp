@@ -1,6 +1,7 @@
-// How long the card's frames take on this display: its arrival, a tile's, a removal, and a row of
-// 40 tiles that scrolls. For each: the work of a frame (from its animations to its last pixel
-// handed over), the time between frames, and the processor time of the whole process.
+// Measures how long the card's frames take on this display when the card appears, when a tile
+// appears, when one is removed, and while a row of 40 tiles scrolls. Prints for each: the work of a
+// frame (from its animations until its last pixel is handed over), the time between frames, and the
+// processor time of the whole process.
 
 #include <sys/resource.h>
 
@@ -45,7 +46,7 @@ struct Series {
     }
 };
 
-/// A panel on the display and the frames that it draws.
+/// A panel on the display, and the times of the frames that it draws.
 class Stage : public fakes::SettingsOnFakes {
 public:
     Stage() {
@@ -60,7 +61,7 @@ public:
         clock_.start();
     }
 
-    /// Measures what `change` sets going, until no frame comes any more.
+    /// Makes `change` and measures the frames that follow, until no more are drawn.
     void measure(const char* what, const std::function<void()>& change) {
         work_.values.clear();
         intervals_.values.clear();

@@ -1,11 +1,12 @@
 #!/usr/bin/python3
-"""Measures what the program keeps in memory after a card that has left, and how soon it gives the
-rest back, on a private desktop with the software renderer.
+"""Measures how much memory the program keeps after a card has left, and how soon it gives back the
+rest, on a private desktop with the software renderer.
 
   bench/memory_after_use.py [--binary build/release/bin/vantle] [--sizes 2560x1440,3840x2160]
                             [--tiles 1,40] [--rounds 2] [--moments 1,5,20]
 
-Nothing else that stands on Qt should run meanwhile: what it shares is said with each figure.
+No other program that uses Qt should run meanwhile: each figure is printed with the memory that is
+shared with others.
 """
 
 import argparse
@@ -30,7 +31,7 @@ def numbers(text):
 
 
 class Measurement:
-    """One start of the program, with pictures of one size."""
+    """One run of the program, with pictures of one size."""
 
     def __init__(self, arguments, desktop, size_of_pictures):
         self._arguments = arguments
@@ -41,7 +42,7 @@ class Measurement:
         self._first_frames = []
 
     def run(self):
-        # The card stays until it is dismissed.
+        # With this setting the card stays until it is dismissed.
         self._vantle.write_settings(dismissAfter="0")
         self._vantle.start_watching()
         try:
@@ -73,7 +74,8 @@ class Measurement:
     def _save(self):
         picture = self._pictures[self._saved % len(self._pictures)]
         self._saved += 1
-        # Complete at once: how soon it is seen to be so is none of what is measured here.
+        # The file is renamed when it is complete, so that the time the program takes to notice this
+        # is not measured.
         complete = self._desktop.home / "complete.png"
         complete.write_bytes(picture)
         complete.rename(self._desktop.home / "Desktop" / f"shot {self._saved}.png")

@@ -1,4 +1,4 @@
-// The shortest way to a thumbnail that Qt offers: qt_thumbnail IN OUT.png SIDE
+// Makes a thumbnail in the shortest way that Qt offers: qt_thumbnail IN OUT.png SIDE
 
 #include <QImageReader>
 

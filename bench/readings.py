@@ -1,4 +1,4 @@
-"""What the kernel says of a process, and what stands in the way of measuring it alone."""
+"""Reads what the kernel says about a process, and finds the processes that distort it."""
 
 import os
 import pathlib
@@ -10,7 +10,7 @@ MEMORY_KINDS = {
 
 
 def memory(pid):
-    """The proportional memory in MiB: all of it, and what it is made of."""
+    """Returns the proportional memory in MiB: the total and its parts."""
     found = {}
     for line in pathlib.Path("/proc", str(pid), "smaps_rollup").read_text().splitlines():
         name, _, value = line.partition(":")
@@ -28,25 +28,25 @@ def threads(pid):
 
 
 def watches(pid):
-    """How many inotify watches it has."""
+    """Returns the number of its inotify watches."""
     count = 0
     for entry in pathlib.Path("/proc", str(pid), "fdinfo").iterdir():
         try:
             count += entry.read_text().count("\ninotify wd:")
         except FileNotFoundError:
-            # Closed meanwhile.
+            # The descriptor was closed meanwhile.
             continue
     return count
 
 
 def descendants(pid):
-    """How many processes it has started that run."""
+    """Returns the number of its running child processes."""
     children = pathlib.Path("/proc", str(pid), "task").glob("*/children")
     return sum(len(entry.read_text().split()) for entry in children)
 
 
 def sharers(pid, library="libQt6Core"):
-    """The numbers of the other processes that have the library in memory, and so a share of it."""
+    """Returns the other processes that have the library in memory, and so share its pages."""
     found = []
     for name in filter(str.isdigit, os.listdir("/proc")):
         if int(name) == pid:
@@ -54,7 +54,7 @@ def sharers(pid, library="libQt6Core"):
         try:
             text = pathlib.Path("/proc", name, "maps").read_text()
         except (FileNotFoundError, ProcessLookupError, PermissionError):
-            # It ended meanwhile, or belongs to somebody else.
+            # The process ended meanwhile, or belongs to another user.
             continue
         if re.search(library, text):
             found.append(int(name))

@@ -22,7 +22,7 @@ namespace {
 
 using namespace vantle;
 
-/// Calls the watcher's handler when asked to, in the place of a change in the folder.
+/// Calls the watcher's handler on request, in place of a real change in the folder.
 class Trigger final : public DirectoryEvents {
 public:
     Result<std::shared_ptr<DirectoryEventSource>> open(const Url&, Handler handler) override {

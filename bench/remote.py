@@ -1,4 +1,5 @@
-"""Asks the program on a private desktop over its bus, without a process for each question."""
+"""Talks to the program on a private desktop over the bus, without starting a process for each
+call."""
 
 import re
 import time
@@ -25,13 +26,13 @@ class Remote:
         return answer.unpack()[0]
 
     def ask(self, action):
-        """What it answers, and how long that took in seconds."""
+        """Returns the answer, and how many seconds it took."""
         begin = time.monotonic()
         answer = self._call((NAME, PATH, INTERFACE), "Ask", GLib.Variant("(saay)", (action, [])))
         return answer, time.monotonic() - begin
 
     def captures(self):
-        """How many stand on the card."""
+        """Returns the number of captures on the card."""
         return int(re.search(r"^captures: (\d+)$", self.ask("status")[0], re.MULTILINE)[1])
 
     def wait_until_watching(self):
@@ -39,14 +40,15 @@ class Remote:
             try:
                 return "state: watching" in self.ask("status")[0]
             except GLib.Error:
-                # Its name is not on the bus yet.
+                # The program's name is not on the bus yet.
                 return False
 
         wait_until(is_watching, "it watches")
         time.sleep(0.5)
 
     def names_of(self, pid):
-        """How many names on the bus belong to that process, those of its connections included."""
+        """Returns how many names on the bus belong to that process, including those of its
+        connections."""
         names = self._call(BUS, "ListNames", None)
         return sum(self._process_of(name) == pid for name in names)
 
@@ -54,5 +56,5 @@ class Remote:
         try:
             return self._call(BUS, "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))
         except GLib.Error:
-            # It left meanwhile.
+            # The connection was closed meanwhile.
             return None

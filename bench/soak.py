@@ -1,11 +1,12 @@
 #!/usr/bin/python3
-"""Runs the program through thousands of captures and everything that is done with them, on a
-private desktop, and says whether what it takes stays the same after the first hundred.
+"""Tells whether the program uses more and more resources while it handles thousands of captures, on
+a private desktop. Does with them everything that a user can do, and compares its use of resources
+after the first hundred with that at the end.
 
   bench/soak.py [--binary build/release/bin/vantle] [--captures 20000] [--minutes 600]
                 [--json FILE] [--plot FILE.svg]
 
-It ends with the captures or the minutes, whichever comes first, and at once with the program.
+It ends after so many captures or minutes, whichever comes first, or at once if the program ends.
 """
 
 import argparse
@@ -30,7 +31,7 @@ from remote import Remote  # noqa: E402
 from using import press_button, select_all, tile_of  # noqa: E402
 
 COUNTDOWN = 5  # seconds
-PIN = 138  # from the card's right edge, as using.BUTTONS has the others
+PIN = 138  # from the card's right edge, like the positions in using.BUTTONS
 RELEASED = 3.0  # seconds after the card has left
 WARM_UP = 100
 KINDS = {
@@ -38,7 +39,7 @@ KINDS = {
     "descriptors": "descriptors", "threads": "threads", "watches": "inotify watches",
     "names": "names on the bus", "processes": "processes that it started",
 }  # fmt: skip
-# How much more the last quarter may take than the first.
+# How much more the last quarter may use than the first; 0 for kinds that are not listed.
 ALLOWED = {"MiB": 2.0, "anonymous": 2.0}
 
 
@@ -87,7 +88,7 @@ class Soak:
         try:
             wait_until(is_gone, "the card leaves", limit=15)
         except WaitTimeout:
-            # On a busy machine a hand that does not look misses a tile now and then.
+            # On a busy machine a blind click sometimes misses its tile.
             self.missed.append(action)
             self._remote.ask("dismiss")
             wait_until(is_gone, f"the card that {action} has left is dismissed", limit=60)
@@ -107,7 +108,7 @@ class Soak:
         return True
 
     def _card(self):
-        """At rest: as large as it is going to be."""
+        """Returns the card when it has reached its final size."""
         time.sleep(0.8)
         panel = wait_until(self._desktop.screen.panel, "the panel stands")
         return card_of(self._desktop, panel)
@@ -134,14 +135,14 @@ class Soak:
         self._remote.ask("dismiss")
 
     def drag(self):
-        """Onto the desktop, which does not take it: it flies back."""
+        """Drags a capture onto the desktop, which refuses it, so that it flies back."""
         start = tile_of(self._card())
         self._desktop.screen.pointer.drag(start, (400, 300), steps=30)
         time.sleep(1)
         self._remote.ask("dismiss")
 
     def trash_selected(self):
-        """So many that all of them are seen."""
+        """Selects and deletes captures, few enough that all of them are visible."""
         self._select()
         self._desktop.screen.keyboard.press("Delete")
 
@@ -186,7 +187,8 @@ class Soak:
 
 
 def verdict(samples, kind):
-    """Whether the last quarter takes no more than the first one after the first hundred."""
+    """Tells whether the last quarter uses no more than the first one, counted after WARM_UP
+    captures."""
     values = [one[kind] for one in samples if one["captures"] > WARM_UP]
     quarter = max(1, len(values) // 4)
     first, last = statistics.median(values[:quarter]), statistics.median(values[-quarter:])

@@ -1,4 +1,4 @@
-"""Makes the files that are measured: screens as every format, and recordings of them."""
+"""Makes the files that are measured: screens in every image format, and recordings of them."""
 
 import random
 import struct
@@ -15,7 +15,7 @@ WORDS = ("the quick brown fox jumps over a lazy dog while const auto values retu
 
 
 def photograph(size, random_numbers):
-    """Smooth shapes of many colours, under the grain of a sensor."""
+    """Returns smooth shapes of many colours, with the grain of a sensor."""
     small = Image.frombytes("RGB", (24, 16), random_numbers.randbytes(24 * 16 * 3))
     picture = small.resize(size, Image.BICUBIC)
     grain = Image.effect_noise(size, 14).convert("RGB").filter(ImageFilter.GaussianBlur(0.7))
@@ -23,7 +23,7 @@ def photograph(size, random_numbers):
 
 
 def write_page(draw, box, scale, random_numbers, dark):
-    """A window full of text, in the colours of an editor."""
+    """Draws a window full of text, in the colours of an editor."""
     left, top, right, bottom = box
     font = ImageFont.truetype(FONT, round(13 * scale))
     draw.rectangle(box, fill=(32, 34, 42) if dark else (252, 252, 252))
@@ -40,7 +40,8 @@ def write_page(draw, box, scale, random_numbers, dark):
 
 
 def screen(size):
-    """A desktop: a photograph as wallpaper, two windows of text, a third one with a picture."""
+    """Returns a desktop: a photograph as wallpaper, two windows of text, a third one with a
+    picture."""
     random_numbers = random.Random(size[0])
     wide, high = size
     scale = wide / 1920
@@ -81,7 +82,8 @@ def ffmpeg(*arguments):
 
 
 def save_recordings(folder, name, minutes=10):
-    """The picture rolling by: 0.4 s, 10 s, some minutes, and 10 s to be turned by a quarter."""
+    """Saves recordings of the picture as it scrolls by, for 0.4 s, 10 s and some minutes, and one
+    of 10 s that is turned by 90 degrees."""
     rolling = ("-loop", "1", "-framerate", "30", "-i", folder / f"{name}.png", "-vf",
                "scroll=vertical=0.002", "-pix_fmt", "yuv420p", "-preset", "veryfast")
     ffmpeg(*rolling, "-t", "0.4", folder / f"{name}-short.mov")
@@ -89,7 +91,7 @@ def save_recordings(folder, name, minutes=10):
     ffmpeg("-stream_loop", 6 * minutes - 1, "-i", folder / f"{name}-10s.mp4", "-c", "copy",
            folder / f"{name}-{minutes}min.mp4")
     ffmpeg("-i", folder / f"{name}-10s.mp4", "-c", "copy", folder / f"{name}-10s.mkv")
-    # As recorders write it while they record.
+    # These settings are those of programs that record live.
     live = ("-b:v", "8M", "-deadline", "realtime", "-cpu-used", "8")
     ffmpeg("-i", folder / f"{name}-10s.mp4", "-c:v", "libvpx", *live, folder / f"{name}-vp8.webm")
     ffmpeg("-i", folder / f"{name}-10s.mp4", "-c:v", "libvpx-vp9", *live,
@@ -98,7 +100,7 @@ def save_recordings(folder, name, minutes=10):
 
 
 def save_turned(upright, turned):
-    """The matrix of the track says to turn it by a quarter."""
+    """Copies the recording with a display matrix that says to turn it by 90 degrees."""
     data = bytearray(upright.read_bytes())
     start = data.index(b"tkhd") + 44
     data[start:start + 36] = struct.pack(">9i", 0, -1 << 16, 0, 1 << 16, 0, 0, 0, 0, 1 << 30)
@@ -106,7 +108,7 @@ def save_turned(upright, turned):
 
 
 def text_document(path):
-    """Letters of a standard font that is not in the file, as vectors."""
+    """Returns a page of text in a standard font that the file does not embed."""
     content = b"BT /F1 11 Tf 50 790 Td 14 TL\n"
     random_numbers = random.Random(1)
     for _ in range(52):
@@ -131,7 +133,7 @@ def text_document(path):
 
 
 def make(folder):
-    """Makes what is not there yet."""
+    """Makes the files that do not exist yet."""
     folder = Path(folder)
     done = folder / "complete"
     if done.exists():

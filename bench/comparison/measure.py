@@ -10,7 +10,7 @@ from .peers import KINDS
 
 
 def run_once(command, out):
-    """Milliseconds; None when the program made no picture."""
+    """Returns the milliseconds that the command takes, or None if it makes no picture."""
     Path(out).unlink(missing_ok=True)
     begin = time.perf_counter()
     result = subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
@@ -20,8 +20,8 @@ def run_once(command, out):
 
 
 def peak_memory(command, folder):
-    """In KiB, of the largest of a program's processes. A small program starts it, because a process
-    counts as its own what its parent took before it."""
+    """Returns the peak memory, in KiB, of the largest of the command's processes. A small program
+    starts it, because a process inherits the peak of the process that started it."""
     report = folder / "memory"
     subprocess.run(["/usr/bin/time", "-f", "%M", "-o", report, *command], stdin=subprocess.DEVNULL,
                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
@@ -29,8 +29,8 @@ def peak_memory(command, folder):
 
 
 def medians(commands, out, rounds):
-    """Of each command, run alternately after one round that only warms up; None when one of them
-    made no picture."""
+    """Returns each command's median milliseconds. Runs the commands in turn, after one round to
+    warm up. Returns None if one of them makes no picture."""
     times = [[] for _ in commands]
     for number in range(rounds + 1):
         for command, list_of_times in zip(commands, times):

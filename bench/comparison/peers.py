@@ -1,4 +1,4 @@
-"""The programs that are measured, and what each of them opens."""
+"""The programs that are measured, and the kinds of files that each of them opens."""
 
 import shutil
 from dataclasses import dataclass
@@ -16,7 +16,7 @@ MOST = 800
 class Peer:
     name: str
     kinds: frozenset
-    command: object  # of the file and the path to write to, a list of words
+    command: object  # takes the file and the output path, returns the command as a list of words
     program: str
 
     def is_installed(self):
@@ -29,7 +29,7 @@ def ours(decoder):
 
 
 def peers(qt_reader):
-    """All write a PNG of at most MOST pixels a side."""
+    """Returns the other programs; each writes a PNG of at most MOST pixels a side."""
     side = str(MOST)
     return [
         Peer("vipsthumbnail", IMAGES | {"pdf"},

@@ -1,4 +1,4 @@
-"""The figures as a table and as a picture."""
+"""Prints the measurements as a table and draws them as a picture."""
 
 from xml.sax.saxutils import escape
 
@@ -28,7 +28,7 @@ def table(results):
 
 
 def position(ratio):
-    """On an axis of powers of two from 1/2 on."""
+    """Returns the x of a ratio, on a logarithmic axis that begins at 1/2."""
     import math
     steps = math.log2(2 * MOST_RATIO)
     return LEFT + WIDE * (math.log2(min(max(ratio, 0.5), MOST_RATIO)) + 1) / steps
@@ -58,7 +58,7 @@ def legend(peers):
 
 
 def plot(results):
-    """An SVG: for each file, how many times as long as ours each peer takes."""
+    """Returns an SVG that shows, for each file, the ratio of each program's time to ours."""
     files = list(dict.fromkeys(one["file"] for one in results))
     peers = list(dict.fromkeys(one["peer"] for one in results))
     bottom = TOP + ROW * len(files)
