@@ -1,4 +1,4 @@
-# The Debian package, as "packaging/release package" makes it.
+# The Debian package that "packaging/release package" makes.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME vantle)
 set(CPACK_PACKAGE_CONTACT "The Vantle authors <maintainers@vantle.org>")
@@ -17,7 +17,7 @@ recording, taken with whatever tool, appears as a tile on a small card in
 the corner of the screen, from where it can be dragged into other programs,
 copied, opened, shared, or moved to the Trash.")
 
-# Linked libraries are found in the programs. Modules of QML are loaded by name.
+# dpkg-shlibdeps finds the linked libraries. QML modules are loaded by name and must be listed.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 file(STRINGS scripts/packages/run.list modules REGEX "^qml6-module-")
 list(TRANSFORM modules REPLACE " .*" "")

@@ -9,9 +9,9 @@ target_compile_options(
             -Wconversion
             -Wshadow
             -Wnon-virtual-dtor
-            # Designated initializers leave the rest at their defaults on purpose.
+            # Designated initializers deliberately leave the other members at their defaults.
             -Wno-missing-field-initializers
-            # GCC 12 sees overlaps in std::string where there are none, once all is inlined.
+            # GCC 12 reports overlaps in std::string that do not exist when everything is inlined.
             $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
             $<$<BOOL:${VANTLE_WARNINGS_AS_ERRORS}>:-Werror>)
 
@@ -22,7 +22,7 @@ function(vantle_add_library name)
   target_link_libraries(vantle_${name} PUBLIC ${arg_LINKS} PRIVATE vantle_warnings)
 endfunction()
 
-# Puts all of these libraries of ours into a shared one, and not only what that itself refers to.
+# Puts all objects of these libraries into a shared one, not only those that it refers to.
 function(vantle_add_parts shared)
   foreach(part IN LISTS ARGN)
     target_sources(${shared} PRIVATE $<TARGET_OBJECTS:vantle_${part}>)
@@ -30,42 +30,44 @@ function(vantle_add_parts shared)
   endforeach()
 endfunction()
 
-# Others see of this shared library what the version script `exports` names, which is less to bind when
-# it is loaded.
+# Exports only the symbols that the version script `exports` names, so that less must be bound when
+# the library is loaded.
 function(vantle_export_only shared exports)
   cmake_path(ABSOLUTE_PATH exports)
   target_link_options(${shared} PRIVATE -Wl,--version-script=${exports} -Wl,-z,defs)
   set_property(TARGET ${shared} APPEND PROPERTY LINK_DEPENDS ${exports})
 endfunction()
 
-# Most of the program waits for people: there small code counts, which is memory that stays. This is
-# for a library that works through many files or pixels.
+# Most of the program waits for people; small code counts there, because it stays in memory. This
+# function is for libraries that process many files or pixels.
 function(vantle_optimize_for_speed library)
   target_compile_options(vantle_${library} PRIVATE $<$<CONFIG:Release>:-O2>)
 endfunction()
 
-# An argument of qt_add_qml_module: compiling QML ahead takes a while, and the sanitizers see nothing
-# in it.
+# An argument of qt_add_qml_module: compiling QML ahead of time takes a while, and the sanitizers
+# cannot see anything in it.
 if(VANTLE_SANITIZE)
   set(VANTLE_QML_COMPILATION NO_CACHEGEN)
 endif()
 
-# QML becomes bytecode when Vantle is built: what the toolkit would compile at run time it keeps in the
-# user's home, and takes for this version's later, because all files in the program carry one date.
-# What its compiler makes of the bindings in C++ differs from folder to folder; its bytecode does not.
+# QML becomes bytecode when Vantle is built. If the toolkit compiled it at run time, it would cache
+# the result in the user's home and use that for later versions, because all files in the program
+# have the same date. The C++ that the compiler makes of bindings differs from folder to folder; the
+# bytecode does not.
 function(vantle_compile_qml target)
   set_target_properties(${target} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
 endfunction()
 
-# Reads headers of others once for all files of a target. Only under the sanitizers, where whole
-# builds are the rule: elsewhere each file is to prove that it includes what it uses.
+# Precompiles the headers of other libraries for all files of a target. Only under the sanitizers,
+# where everything is built anyway: in other builds each file must prove that it includes what it
+# uses.
 function(vantle_precompile target)
   if(VANTLE_SANITIZE)
     vantle_precompile_tests(${target} ${ARGN})
   endif()
 endfunction()
 
-# The same for tests, in every build: they are half of what there is to compile.
+# Does the same for tests in every build, because tests are half of all that is compiled.
 function(vantle_precompile_tests target)
   target_precompile_headers(${target} PRIVATE ${ARGN})
 endfunction()

@@ -1,6 +1,6 @@
 include(GoogleTest)
 
-# GoogleTest stands on a library of C++: where that is not the system's, it is built like the rest.
+# GoogleTest needs a C++ library. If that is not the system's, GoogleTest is built from source.
 macro(vantle_find_googletest)
   if(VANTLE_GOOGLETEST)
     add_subdirectory(${VANTLE_GOOGLETEST} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
@@ -9,9 +9,9 @@ macro(vantle_find_googletest)
   endif()
 endmacro()
 
-# vantle_discover_tests(TARGET PROPERTIES...): ctest runs each test of a program of GoogleTest. One
-# that is not built is left out, so that ctest can follow the build of a single target; where
-# VANTLE_REQUIRE_ALL_TESTS is set, as ./test does, it is a test that fails.
+# vantle_discover_tests(TARGET PROPERTIES...): ctest runs each test of a GoogleTest program. If the
+# program is not built, its tests are left out, so that ctest can run after the build of a single
+# target; if VANTLE_REQUIRE_ALL_TESTS is set, as ./test does, they are one test that fails.
 function(vantle_discover_tests target)
   get_directory_property(before TEST_INCLUDE_FILES)
   gtest_discover_tests(${target} PROPERTIES ${ARGN} DISCOVERY_TIMEOUT 60)
