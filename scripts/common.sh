@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Functions that ./run, ./test and .ci/run share. To be sourced by bash.
+# Functions that ./run, ./test and .ci/run share. Bash scripts source this file.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 logs=$root/build/logs
@@ -12,14 +12,14 @@ fi
 
 say() { printf '%s==>%s %s\n' "$bold" "$plain" "$*"; }
 
-# explain_if_asked ARGUMENTS...: for --help it shows the comment at the top of the script, and ends.
+# explain_if_asked ARGUMENTS...: for --help, shows the comment at the top of the script and exits.
 explain_if_asked() {
   if [[ ${1-} != --help && ${1-} != -h ]]; then return; fi
   sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$0"
   exit 0
 }
 
-# The first argument says what is wrong; each further one is a line about what to do.
+# Prints an error and exits. The first argument says what is wrong, the others what to do about it.
 fail() {
   printf '%sError:%s %s\n' "$red" "$plain" "$1" >&2
   shift
@@ -27,7 +27,7 @@ fail() {
   exit 1
 }
 
-# Ends with a failure that shows the end of a log file.
+# Prints the end of a log file, then fails with the other arguments.
 fail_with_log() {
   local log=$1
   shift
@@ -39,7 +39,7 @@ fail_with_log() {
   fail "$@"
 }
 
-# package_lines LIST...: the lines "name reason" of the lists, without comments.
+# package_lines LIST...: prints the lines "name reason" of the lists, without comments.
 package_lines() {
   local list
   for list in "$@"; do
@@ -51,11 +51,11 @@ is_installed() {
   [[ $(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
 }
 
-# is_known PACKAGE: whether this release has it, by the package lists of the latest update.
+# is_known PACKAGE: succeeds if the package lists of the latest update have the package.
 is_known() { apt-cache show "$1" >/dev/null 2>&1; }
 
-# missing_packages LIST...: the lines "name reason" of what the lists name and this machine lacks.
-# A name with a question mark counts only where the release has the package.
+# missing_packages LIST...: prints the lines "name reason" of listed packages that are not
+# installed. A package whose name ends with a question mark counts only if this release has it.
 missing_packages() {
   local name reason
   while read -r name reason; do
@@ -65,7 +65,7 @@ missing_packages() {
   done < <(package_lines "$@")
 }
 
-# Runs a command as root, by sudo where needed. Without a terminal sudo must not ask.
+# Runs a command as root, with sudo if needed. Without a terminal sudo must not ask.
 as_root() {
   if ((EUID == 0)); then
     "$@"
@@ -91,8 +91,8 @@ require_root() {
     "As root, run:  apt-get update && apt-get install --no-install-recommends $*"
 }
 
-# Reads what apt-get writes, keeps it in a log, and shows every quarter of its status lines
-# ("pmstatus:package:percent:text").
+# Reads what apt-get writes, keeps it in a log, and shows every quarter of the progress in its
+# status lines ("pmstatus:package:percent:text").
 follow_apt() {
   local log=$1 line kind percent stage='' shown=-1 quarter
   while IFS= read -r line; do
@@ -121,7 +121,7 @@ run_apt_install() {
     -o DPkg::Lock::Timeout=300 -o APT::Status-Fd=1 "$@" 2>&1 </dev/null | follow_apt "$log"
 }
 
-# install_missing LIST...: installs what the lists name and this machine lacks.
+# install_missing LIST...: installs the listed packages that are not installed.
 install_missing() {
   if [[ -n ${VANTLE_SKIP_PACKAGES-} ]]; then return; fi
   require_apt
@@ -131,7 +131,7 @@ install_missing() {
 
   require_root "${lines[@]%% *}"
   update_package_lists
-  # Only now is it sure what this release has.
+  # Only after the update is it certain which packages this release has.
   mapfile -t lines < <(missing_packages "$@")
   say "Installing what is missing here (${#lines[@]} packages and what they depend on):"
   printf '    %s\n' "${lines[@]}"
@@ -145,7 +145,7 @@ install_packages() {
 
 update_package_lists() {
   mkdir -p "$logs"
-  # A mirror that fails here need not be one that the packages come from: the install decides.
+  # The mirror that failed may not be one that has these packages: the installation decides.
   as_root apt-get update -q >"$logs/apt-update.log" 2>&1 </dev/null ||
     say "apt-get update failed; trying with the package lists of last time."
 }
@@ -171,8 +171,8 @@ require_cmake() {
   fi
 }
 
-# build PRESET [ARGUMENTS...]: configures and builds a preset of CMakePresets.json; the arguments go
-# to the build.
+# build PRESET [ARGUMENTS...]: configures and builds a preset of CMakePresets.json; passes the
+# arguments to the build.
 build() {
   local preset=$1 started=$SECONDS log=$logs/$1-configure.log
   shift

@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Writes docs/pictures/tray-menu.png: the menu in a tray, with the program as it is built."""
+"""Writes docs/pictures/tray-menu.png: the open menu of the tray icon, with the program as it is
+built."""
 
 import pathlib
 import sys

@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Starts Vantle on a private desktop, takes a screenshot there, and writes what is to be seen."""
+"""Starts Vantle on a private desktop, takes a screenshot there, and saves a picture of the
+screen."""
 
 import argparse
 import pathlib
@@ -23,7 +24,7 @@ INTERRUPTED_EXIT_STATUS = 130
 
 
 class Interrupted(BaseException):
-    """Somebody wants us to end."""
+    """Raised when the user or the system asks us to end."""
 
 
 def interrupt(*_):
@@ -42,7 +43,7 @@ def take_screenshot(desktop):
 
 
 def wait_for_tile(desktop, vantle):
-    """Waits until the panel stands, shows something, and no longer moves."""
+    """Waits until the panel is there, shows something, and no longer moves."""
 
     def panel():
         if not vantle.is_running():

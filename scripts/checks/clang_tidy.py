@@ -1,7 +1,7 @@
-"""What clang-tidy says about C++, by the checks of .clang-tidy.
+"""Runs clang-tidy on the C++ files, with the checks of .clang-tidy.
 
-One file takes five to twenty seconds, mostly for the headers of Qt and of the tests' framework. So
-usually it looks at the files that changed last: first those that are not committed, then those of
+One file takes five to twenty seconds, mostly for the headers of Qt and of the test framework.
+Therefore it usually looks at the files that changed last: first the uncommitted ones, then those of
 the newest commits.
 """
 
@@ -19,14 +19,15 @@ REPAIR = ("by hand; where clang-tidy is wrong, // NOLINT(CHECK) with the reason;
 TOOL = "clang-tidy-14"
 USUAL_NUMBER = 5
 COMPLAINT = re.compile(r"^(/.+?):(\d+):\d+: (?:error|warning): (.*)$", re.MULTILINE)
-# The compiler's flags are meant for gcc, whose warnings the build makes errors.
+# The compiler's flags are meant for gcc, whose warnings are errors in the build.
 FLAGS = ("--quiet", "--extra-arg=-Wno-unknown-warning-option", "--extra-arg=-Wno-error")
-# The analyzer follows the ways through a function; those through the macros of tests take minutes.
+# The analyzer follows every path through a function; the macros of tests make that take minutes.
 WITHOUT_ANALYZER = "--checks=-clang-analyzer-*"
 
 
 def commands():
-    """How each source is compiled, once; clang-tidy would look at it for each target."""
+    """Returns the compile command of each source. Keeps one per source, since clang-tidy would
+    otherwise look at a source once for each of its targets."""
     entries = json.loads((BUILD / "compile_commands.json").read_text())
     by_path = {}
     for entry in entries:
@@ -40,7 +41,8 @@ def commands():
 
 
 def changed_last():
-    """All files, those that are not committed first, then from the newest commit to the oldest."""
+    """Returns all files: first the uncommitted ones, then those of the newest to the oldest
+    commit."""
     changed = git("ls-files", "--modified", "--others", "--exclude-standard") or []
     changed += git("diff", "--cached", "--name-only") or []
     changed += git("log", "--format=", "--name-only", "--no-renames") or []
@@ -57,7 +59,8 @@ def sources_that_include(header):
 
 
 def source_of(path, compiled):
-    """The source with which a file is looked at: a header's own, else one that includes it."""
+    """Returns the source that clang-tidy compiles to look at a file: a header's own source, or else
+    one that includes the header."""
     if path in compiled:
         return path
     if not path.endswith(".h") or not (ROOT / path).is_file():
@@ -79,7 +82,7 @@ def newest(compiled):
 
 
 def moc(path, command):
-    """Some sources include what moc makes of them: all that the build would have to be run for."""
+    """Makes the moc file that the source includes, if any: nothing else would have to be built."""
     name = os.path.basename(path).removesuffix(".cpp") + ".moc"
     if not any(text == f'#include "{name}"' for _, text in lines_of(path)):
         return

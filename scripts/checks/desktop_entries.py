@@ -1,4 +1,4 @@
-"""Desktop entries as the desktops' validator wants them."""
+"""Validates the desktop entries with desktop-file-validate."""
 
 from .repository import Problem, files, output_of, require
 
@@ -11,7 +11,7 @@ def problems(_everything, note):
     paths = files("*.desktop", "*.desktop.in")
     note(f"looked at {', '.join(paths) or 'none'}")
     for path in paths:
-        # Warnings and hints count as well: nothing else says that launchers will ignore a key.
+        # Warnings and hints count as well: nothing else reports keys that launchers will ignore.
         output, status = output_of("desktop-file-validate", path)
         lines = [line.removeprefix(f"{path}: ") for line in output.splitlines()]
         for line in lines or (["is refused"] if status else []):

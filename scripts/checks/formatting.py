@@ -1,4 +1,4 @@
-"""C++ stands as .clang-format says, bash as shfmt does it."""
+"""Checks that C++ is formatted as .clang-format says, and bash as shfmt formats it."""
 
 import re
 
@@ -7,7 +7,7 @@ from .repository import MissingTool, Problem, files, output_of, require, scripts
 WHAT = "C++ by clang-format 14, bash by shfmt"
 REPAIR = "clang-format-14 -i FILE for C++, shfmt -i 2 -w FILE for bash"
 
-# Other versions put lines elsewhere, so that two people would reformat each other's files.
+# Other versions break lines elsewhere, so two people would keep reformatting each other's files.
 FORMATTER = "clang-format-14"
 COMPLAINT = re.compile(r"^(.+?):(\d+):\d+: error: ", re.MULTILINE)
 HUNK = re.compile(r"^--- (?P<path>.+?)(?:\.orig)?$|^@@ -(?P<line>\d+)", re.MULTILINE)

@@ -1,8 +1,9 @@
-"""Each folder of the sources uses only those that the picture of the architecture lets it use.
+"""Checks that each folder of the sources uses only the folders that the picture of the architecture
+allows.
 
-A room is a folder of src that is a target of its own; what stands in a folder below it without
-being one belongs to it. It uses what its files include, and the modules that its QML imports. The
-picture is the block "layers" in docs/architecture.md.
+A room is a folder of src that has a CMakeLists.txt; its subfolders without one belong to it. A room
+uses the rooms whose headers its files include and whose modules its QML imports. The picture is the
+block "layers" in docs/architecture.md.
 """
 
 import pathlib
@@ -25,7 +26,7 @@ def rooms():
 
 
 def room_of(path, all_rooms):
-    """The one in which a file of src stands; None where it stands in none."""
+    """Returns the room that contains a file of src, or None."""
     for folder in map(str, pathlib.PurePath(path).parents):
         if folder in all_rooms:
             return folder
@@ -33,7 +34,7 @@ def room_of(path, all_rooms):
 
 
 def drawn():
-    """The arrows of the picture: for each room its line, and the rooms that it may use."""
+    """Returns the arrows of the picture: for each room its line, and the rooms that it may use."""
     arrows = {}
     is_inside = False
     for number, line in lines_of(PICTURE):
@@ -46,13 +47,13 @@ def drawn():
 
 
 def modules(all_rooms):
-    """The rooms that are modules of QML, by the names by which they are imported."""
+    """Returns the rooms that are QML modules, by the names under which they are imported."""
     texts = {room: text_of(f"src/{room}/CMakeLists.txt") for room in all_rooms}
     return {name: room for room, text in texts.items() for name in MODULE.findall(text)}
 
 
 def used(all_rooms):
-    """The arrows of the sources, each with the first line that makes it."""
+    """Returns the arrows in the sources, each with the first line that makes it."""
     module_rooms = modules(all_rooms)
     arrows = {}
     for path in files("src/*.h", "src/*.cpp", "src/*.qml"):
@@ -69,7 +70,7 @@ def used(all_rooms):
 
 
 def circle(arrows):
-    """Rooms that use each other in a circle; none where there is no circle."""
+    """Returns the rooms that use each other in a circle, or an empty list."""
     left = {room: set(others) for room, (_, others) in arrows.items()}
     while left:
         free = {room for room, others in left.items() if not others & left.keys()}

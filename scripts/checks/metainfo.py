@@ -1,4 +1,4 @@
-"""What software centres show of Vantle, as their validator wants it."""
+"""Validates with appstreamcli what software centres show about Vantle."""
 
 from .repository import Problem, files, output_of, require
 
@@ -14,7 +14,7 @@ def problems(_everything, note):
     require("appstreamcli", "appstream")
     for path in paths:
         output, status = output_of("appstreamcli", "validate", "--strict", "--no-net",
-                                   "--override=unknown-tag=pedantic",  # as <developer> is here
+                                   "--override=unknown-tag=pedantic",  # <developer> on Debian 12
                                    "--no-color", path)
         if status:
             yield Problem(path, None, output.strip())

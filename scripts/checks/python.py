@@ -1,4 +1,5 @@
-"""Python without unused or undefined names, in the layout that its style guide asks for."""
+"""Checks Python for unused and undefined names, and its layout for what the style guide
+requires."""
 
 import re
 
@@ -8,11 +9,11 @@ WHAT = "Python by pyflakes and pycodestyle, 100 columns"
 REPAIR = "by hand; where it is meant so, # noqa: NUMBER (REASON) at the end of the line"
 
 COMPLAINT = re.compile(r"^(.+?):(\d+):(?:\d+:?)? (.*)$", re.MULTILINE)
-# What is not asked for:
-#   E203       white space stands around the colon of a slice where its parts are long
-#   E402       imports below code: a script sets its search path before it imports what is there
-#   E731       a lambda with a name says in one line what it is
-#   W503 W504  an operator may stand at either side of a break
+# Rules that are switched off:
+#   E203       white space around the colon of a slice with long parts
+#   E402       imports below code: a script sets its search path before it imports from there
+#   E731       a lambda with a name, which describes itself in one line
+#   W503 W504  an operator may stand on either side of a line break
 NOT_ASKED_FOR = "E203,E402,E731,W503,W504"
 
 
@@ -27,7 +28,7 @@ def complaints(*command):
 
 
 def is_excused(path, line):
-    """pyflakes does not know this mark of its successors."""
+    """Returns true if the line has a mark that excuses it; pyflakes does not know this mark."""
     return "# noqa" in text_of(path).split("\n")[line - 1]
 
 

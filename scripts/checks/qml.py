@@ -1,7 +1,7 @@
-"""What qmllint says about the QML files.
+"""Runs qmllint on the QML files.
 
-It has to know the types that C++ gives to QML. The build would tell, once it has built everything;
-here moc reads them from the headers of each module, as the build does.
+qmllint needs the types that C++ provides to QML. A build would write them only when everything is
+built; here moc reads them from the headers of each module, as the build does.
 """
 
 import json
@@ -29,14 +29,14 @@ def tool(name):
 
 
 def modules():
-    """The folder of each QML module, and its name."""
+    """Yields the folder and the name of each QML module."""
     for resources in sorted(BUILD.glob("src/**/.rcc/qmake_*.qrc")):
         name = resources.stem.removeprefix("qmake_").replace("_", ".")
         yield resources.parent.parent.relative_to(BUILD), name
 
 
 def include_flags():
-    """Those of a source that uses Qt Quick."""
+    """Returns the include flags of a source that uses Qt Quick."""
     commands = json.loads((BUILD / "compile_commands.json").read_text())
     command = next(entry["command"] for entry in commands if "-DQT_QUICK_LIB" in entry["command"])
     words = shlex.split(command)
@@ -45,7 +45,7 @@ def include_flags():
 
 
 def describe(headers, name, flags):
-    """Writes the types that the headers give to the module, as qmllint reads them."""
+    """Writes the types that the headers provide to the module, in the form that qmllint reads."""
     folder = BUILD / "qml" / name.replace(".", "/")
     described = []
     for header in headers:

@@ -1,4 +1,4 @@
-"""What all checks share: the files of the repository, its tools, and how a problem is told."""
+"""Shared by all checks: the files of the repository, its tools, and how a problem is reported."""
 
 import fnmatch
 import functools
@@ -33,14 +33,14 @@ def require(tool, package):
 
 
 def output_of(*command, **options):
-    """What a command writes, to either stream, and its exit status."""
+    """Returns what a command writes to both streams, and its exit status."""
     done = subprocess.run(command, cwd=ROOT, text=True, stdout=subprocess.PIPE,
                           stderr=subprocess.STDOUT, errors="replace", check=False, **options)
     return done.stdout, done.returncode
 
 
 def checked(*command, **options):
-    """What a command writes that has to succeed."""
+    """Returns what a command writes; raises MissingTool if it fails."""
     output, status = output_of(*command, **options)
     if status:
         raise MissingTool(f"{command[0]} failed: {output.strip()}")
@@ -48,10 +48,10 @@ def checked(*command, **options):
 
 
 def git(*arguments):
-    """The lines of a command of Git; None where there is no repository, as in an archive."""
+    """Returns the lines of a Git command, or None if there is no repository, as in an archive."""
     if not shutil.which("git"):
         return None
-    # A checkout that belongs to another user, as in a container, is only read.
+    # Git refuses to read a checkout of another user, as in a container, without safe.directory.
     command = ["git", "-c", f"safe.directory={ROOT}", "-c", "core.quotePath=false", *arguments]
     done = subprocess.run(command, cwd=ROOT, text=True, capture_output=True, check=False)
     return done.stdout.splitlines() if done.returncode == 0 else None
@@ -66,7 +66,7 @@ def walked():
 
 @functools.lru_cache(maxsize=None)
 def all_files():
-    """Those that Git knows, and new ones that it is not told to ignore."""
+    """Returns the files that Git tracks, and the new ones that it does not ignore."""
     known = git("ls-files", "--cached", "--others", "--exclude-standard")
     there = walked() if known is None else known
     return sorted({path for path in there if (ROOT / path).is_file()})
@@ -79,7 +79,7 @@ def files(*patterns):
 
 @functools.lru_cache(maxsize=None)
 def text_of(path):
-    """None for a picture or another file that is no text."""
+    """Returns the text of a file, or None if it is a picture or another binary file."""
     try:
         return (ROOT / path).read_bytes().decode()
     except UnicodeDecodeError:
@@ -91,7 +91,8 @@ def lines_of(path):
 
 
 def scripts_for(interpreter, *patterns):
-    """Files of these patterns, and those without an ending that begin with the interpreter."""
+    """Returns the files of these patterns, and those without a suffix that begin with the
+    interpreter."""
     def is_script(path):
         first = (text_of(path) or "").split("\n", 1)[0]
         return first.startswith("#!") and interpreter in first
@@ -105,7 +106,7 @@ def side_by_side(function, values):
 
 
 def configure():
-    """Configures build/checks, which is never built, and gives the problem there is with it."""
+    """Configures build/checks, which is never built. Returns the problem if that fails."""
     require("cmake", "cmake")
     output, status = output_of("cmake", "--preset", "checks")
     if status:

@@ -1,4 +1,4 @@
-"""What shellcheck says about the bash scripts."""
+"""Runs shellcheck on the bash scripts."""
 
 import re
 
@@ -7,7 +7,7 @@ from .repository import Problem, output_of, require, scripts_for
 WHAT = "bash by shellcheck"
 REPAIR = "follow https://www.shellcheck.net/wiki/ and the number of the warning"
 
-# gcc's notation: path:line:column: kind: text [number]
+# shellcheck writes in gcc's notation: path:line:column: kind: text [number]
 COMPLAINT = re.compile(r"^(.+?):(\d+):\d+: \w+: (.*)$", re.MULTILINE)
 
 

@@ -1,6 +1,6 @@
-"""English as it is spelled in Britain or in America, in what users and developers read.
+"""Checks the English spelling, British or American, of what users and developers read.
 
-hunspell looks at prose: the texts of the program, documents, manual pages, what launchers and
+hunspell checks prose: the texts of the program, documents, manual pages, and what launchers and
 software centres show. codespell looks for common misspellings everywhere, in code as well.
 """
 
@@ -16,12 +16,12 @@ REPAIR = f"by hand; a word that is right and ours goes into {WORDS}"
 
 WORD = re.compile(r"[^\W\d_]+(?:['’][^\W\d_]+)*")
 FENCE = re.compile(r"^\s*```")
-# What is code in prose: `code`, targets of links, addresses, tags, paths, options, file names.
+# Code in prose: `code`, targets of links, addresses, tags, paths, options, file names.
 CODE = re.compile(r"`[^`]*`|\]\([^)]*\)|\w+://\S+|</?[\w!][^>]*>|&\w+;|\S*[/_~$@=\\]\S*"
                   r"|(?<!\w)--?[a-z][\w-]*|\b\w+\.\w+\b|%n|%\d|\b\d\w*")
 NO_PROSE = re.compile(r"\s*<(id|url|image|launchable|binary)\b|.*xml:lang=")
 ENTRY = re.compile(r"^(Name|GenericName|Comment|Keywords)=(.*)$")
-# Names, and what the launcher's entry and the metainfo say in other languages.
+# Names, and texts of the launcher's entry and the metainfo in other languages.
 NOT_ENGLISH = r"\b[a-z]+[A-Z]\w*|\\[nt]|\w+\[[a-z]{2}\]=.*|xml:lang=.*"
 MISSPELLING = re.compile(r"^(?:\./)?(.+?):(\d+): (.+ ==> .+)$", re.MULTILINE)
 
@@ -36,7 +36,8 @@ def prose_of_markdown(path):
 
 
 def prose_of_manual(path):
-    """Without the requests, and the words that are to be typed or replaced."""
+    """Yields the lines of a manual page without requests and without the words to be typed or
+    replaced."""
     for line, text in lines_of(path):
         if not re.match(r"^[.'](?!SH|SS|TP|IP|PP)", text):
             yield path, line, re.sub(r"\\f[BI].*?\\f[RP]|\\[-&e]|\\\([a-z]{2}|^\.\w+", " ", text)
@@ -49,14 +50,14 @@ def prose_of_entry(path):
 
 
 def prose_of_metainfo(path):
-    """Without names, addresses, and what is marked as of another language."""
+    """Yields the lines of the metainfo without names, addresses and texts in other languages."""
     for line, text in lines_of(path):
         if not NO_PROSE.match(text):
             yield path, line, text
 
 
 def prose():
-    """All of it, as path, line and text."""
+    """Yields all prose, as path, line and text."""
     kinds = ((prose_of_markdown, ("*.md",)), (prose_of_entry, ("*.desktop", "*.desktop.in")),
              (prose_of_manual, ("*.[1-8]", "*.[1-8].in")),
              (prose_of_metainfo, ("*.metainfo.xml", "*.metainfo.xml.in")))
@@ -68,7 +69,8 @@ def prose():
 
 
 def words_of(text):
-    """Without names of types and abbreviations, which have capitals inside."""
+    """Yields the words of a text. Leaves out names of types and abbreviations, which have capitals
+    inside."""
     for word in WORD.findall(CODE.sub(" ", text).replace("’", "'")):
         if word[1:] == word[1:].lower():
             yield word.removesuffix("'s")

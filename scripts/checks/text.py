@@ -1,4 +1,5 @@
-"""Each line ends where its text ends, and no file knows the machine that it was written on."""
+"""Checks that lines and files end properly, and that no file mentions the machine that it was
+written on."""
 
 import os
 import re
@@ -9,13 +10,14 @@ WHAT = "ends of lines and files, paths of somebody's machine"
 REPAIR = ("sed -i 's/[[:space:]]*$//' FILE takes away what stands at the ends of lines; "
           "paths are to be relative")
 
-# Homes are samples in tests, and nowhere else.
+# Paths of home folders may appear in tests, as samples, and nowhere else.
 HOME = re.compile(r"(?<![\w.~$}])/(?:home|Users)/[A-Za-z]")
 CONFLICT = re.compile(r"(<<<<<<<|>>>>>>>) ")
 
 
 def own_paths():
-    """Where this checkout and its user are, if that is not too short a path to mean anything."""
+    """Returns the paths of this checkout and of the user's home, unless they are too short to mean
+    anything."""
     paths = (str(ROOT), os.path.expanduser("~"))
     return [path for path in paths if path.count("/") > 1]
 

@@ -1,12 +1,12 @@
-"""The texts of the program that users read, as the sources hold them."""
+"""Finds the texts that users read in the sources."""
 
 import re
 from typing import NamedTuple
 
 from .repository import files, text_of
 
-# A call that gives a text, and the literals that it is made of: C++ joins them by white space,
-# QML by a plus.
+# Matches a call with a text, and the literals of that text: C++ joins them by white space, QML by a
+# plus.
 LITERAL = r'"((?:[^"\\\n]|\\.)*)"'
 JOINED = rf"{LITERAL}(?:[\s+]*{LITERAL})*"
 IN_CPP = re.compile(rf"\b(?:(?:localized|marked|translate|QT_TRANSLATE_NOOP)\(\s*{LITERAL},|tr\()"

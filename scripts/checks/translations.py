@@ -1,5 +1,6 @@
-"""Each text of the program is translated, with the same placeholders, and no other is; and what a
-user of Linux reads speaks of nothing that only another system has."""
+"""Checks that every text of the program is translated with the same placeholders, that no other
+text is, and that what a user of Linux reads does not mention things that only another system
+has."""
 
 import os
 import re
@@ -11,9 +12,9 @@ WHAT = "translations: complete, placeholders as in the source, true on Linux"
 REPAIR = "scripts/update_translations, then translate what is new"
 
 PLACEHOLDER = re.compile(r"%(?:L?\d|n)")
-# The sources are English. Its file has only what Linux says otherwise.
+# The sources are in English. This file holds only texts that differ on Linux.
 AS_WRITTEN = "translations/vantle_en.ts"
-# What the sources say of another system, in any language.
+# Words in the sources, in any language, for things that only another system has.
 ELSEWHERE = re.compile(
     r"\b(?:mac ?os|mac|apple|finder|dock|notch|menu bar|privacy|cmd|command key)\b|⌘|⇧|⌥"
     r"|menüleiste|datenschutz|befehlstaste|barre des menus|confidentialité|encoche"
@@ -24,7 +25,7 @@ UNFINISHED = {"unfinished": "is not translated", "vanished": "is not in the sour
 
 
 def line_of(path, source):
-    """Where a text stands in the file, by its first words."""
+    """Returns the line of a text in the file, found by its first words."""
     start = xml.tostring(with_text(source), encoding="unicode")[3:-4].split("\n")[0][:40]
     at = (text_of(path) or "").replace("&quot;", '"').replace("&apos;", "'").find(start)
     return text_of(path).count("\n", 0, at) + 1 if at >= 0 else None
@@ -37,7 +38,7 @@ def with_text(text):
 
 
 def translated(message):
-    """The translation, or that for each number of things."""
+    """Returns the translation, or the one for each number of things."""
     translation = message.find("translation")
     forms = [form.text or "" for form in translation.findall("numerusform")]
     return forms or [translation.text or ""]
@@ -59,7 +60,7 @@ def faults(message, may_be_as_written):
     for form in translated(message):
         if not form.strip():
             yield "has an empty translation"
-        # "one file" needs no number.
+        # A form for one thing, such as "one file", needs no number.
         elif set(PLACEHOLDER.findall(form)) - {"%n"} != wanted - {"%n"}:
             yield f"has other placeholders in its translation: {form}"
 
@@ -79,7 +80,7 @@ def foreign_words():
 
 
 def outdated():
-    """What the tool says that brings the files up to date, and here only compares."""
+    """Reports what scripts/update_translations would change; here it only compares."""
     output, status = output_of("scripts/update_translations", "--check",
                                env={**os.environ, "VANTLE_SKIP_PACKAGES": "1"})
     if status:

@@ -1,7 +1,8 @@
-"""Which faults can be put into a source: constants, comparisons and calls that are dropped.
+"""Finds the faults that can be put into a source: changed constants and comparisons, and dropped
+calls.
 
-A source is taken apart into tokens and not understood: what does not compile is left to the
-compiler.
+It splits a source into tokens and does not understand it: the compiler rejects what does not
+compile.
 """
 
 import itertools
@@ -26,7 +27,7 @@ REPLACED_OPERATORS = {
 }
 REPLACED_WORDS = {"true": "false", "false": "true"}
 OPENING, CLOSING = "([{", ")]}"
-# What stands before a statement on the same line, with what it asks for in parentheses.
+# Keywords that may stand, with a condition in parentheses, before a statement on the same line.
 CONDITIONS = ("if", "for", "while", "switch")
 
 
@@ -47,7 +48,8 @@ class Fault(NamedTuple):
     old: str
     new: str
     line: int
-    # What stands there, and the how manieth of its like in the file it is: lines may move.
+    # The text at the fault, and how many of the same kind come before it, plus one. A line number
+    # would change too often.
     text: str
     ordinal: int = 1
 
@@ -66,7 +68,7 @@ def tokens(source):
 
 
 def closing(found, opening):
-    """The position of the token that closes the one at that position."""
+    """Returns the position of the token that closes the one at `opening`."""
     depth = 0
     for position in range(opening, len(found)):
         if found[position].kind == "operator":
@@ -78,7 +80,7 @@ def closing(found, opening):
 
 
 def without_diagnostics(found):
-    """Leaves out what is only logged for developers, and what the compiler checks by itself."""
+    """Leaves out log calls for developers, and what the compiler checks by itself."""
     left, position = [], 0
     while position < len(found):
         texts = [token.text for token in found[position:position + 4]]
@@ -102,7 +104,7 @@ def changed_number(text):
 
 
 def replaced_tokens(source, found):
-    """Each as its kind, where it begins, what stands there and what is put there."""
+    """Yields the kind, the start, the old text and the new text of each replacement."""
     for token in found:
         if token.kind == "number":
             yield "constant", token.start, token.text, changed_number(token.text)
@@ -111,7 +113,7 @@ def replaced_tokens(source, found):
         elif token.kind == "operator" and token.text in REPLACED_OPERATORS:
             around = source[token.start - 1], source[token.end]
             is_negation = token.text == "!" and not around[1].isspace()
-            # Without spaces it is the bracket of a template, or a reference.
+            # Without spaces around it, it is a template's bracket or a reference.
             if is_negation or (around[0].isspace() and around[1].isspace()):
                 yield "comparison", token.start, token.text, REPLACED_OPERATORS[token.text]
 
@@ -132,7 +134,8 @@ def begins_statement(found, position):
 
 
 def dropped_call(found, position):
-    """The token that ends the call that begins at that position; None where none begins."""
+    """Returns the token that ends the call that begins at `position`, or None if none begins
+    there."""
     first = position + (found[position].text == "emit")
     end, callee_ends = first, False
     while end < len(found) and found[end].text not in (";", "=", "}", ")", "{"):
@@ -160,7 +163,7 @@ def dropped_calls(source, found):
 
 
 def faults_of(path, source):
-    """All faults of a source, in its order."""
+    """Returns all faults of a source, in order."""
     found = without_diagnostics(tokens(source))
     changes = list(replaced_tokens(source, found))
     if path.endswith(".cpp"):
@@ -176,18 +179,19 @@ def faults_of(path, source):
 
 
 def place_of(path):
-    """The part of the sources that has as large a share of a sample as every other part."""
+    """Returns the part of the sources that the path belongs to. Each part gets an equal share of a
+    sample."""
     return "/".join(path.split("/")[:3] if "/views/" in path else path.split("/")[:2])
 
 
 def in_turn(lists):
-    """The first of each list, then the second of each, and so on."""
+    """Returns the first item of each list, then the second of each, and so on."""
     return [item for turn in itertools.zip_longest(*lists) for item in turn if item]
 
 
 def sample(faults, count, seed):
-    """So many of them: in turn from each part of the sources, and there from each kind in each
-    file."""
+    """Returns `count` faults, chosen in turn from each part of the sources, and in each part in
+    turn from each kind in each file."""
     chance = random.Random(seed)
     groups = {}
     for fault in faults:

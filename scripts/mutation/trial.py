@@ -1,4 +1,4 @@
-"""Tries faults in a copy of the sources with a build of its own."""
+"""Tries faults in a copy of the sources that has its own build."""
 
 import os
 import shutil
@@ -12,7 +12,7 @@ from checks.repository import ROOT, all_files
 FOLDER = ROOT / "build/mutate"
 SOURCES, BUILD = FOLDER / "sources", FOLDER / "build"
 KILLED, SURVIVED, UNCOMPILED = "killed", "survived", "did not compile"
-# A fault may let a test wait for ever.
+# A fault may make a test wait for ever, so each run has a limit.
 PATIENCE = 4
 LEAST_LIMIT = 30
 BUILD_LIMIT = 1800
@@ -33,13 +33,13 @@ class BrokenBuild(Exception):
 
 
 def target_of(path):
-    """What sees a fault in that file first."""
+    """Returns the test program that would find a fault in that file first."""
     is_view = "/views/" in path or path.startswith(("src/cards/", "src/menus/"))
     return "views_tests" if is_view else "logic_tests"
 
 
 def run(command, limit, **options):
-    """Its output and its status; None as status where it took too long."""
+    """Returns the command's output and status; the status is None if it took too long."""
     with subprocess.Popen(command, text=True, errors="replace", stdout=subprocess.PIPE,
                           stderr=subprocess.STDOUT, start_new_session=True, **options) as process:
         try:
@@ -52,7 +52,8 @@ def run(command, limit, **options):
 
 
 def copy_sources():
-    """Files that did not change keep their time, so that they are not compiled again."""
+    """Copies the sources. Files that did not change keep their time, so that they are not compiled
+    again."""
     wanted = {path for path in all_files()}
     for path in wanted:
         source, copied = ROOT / path, SOURCES / path
@@ -84,7 +85,8 @@ def failed_test(output):
 
 
 class Trial:
-    """Tries one fault after another. What is right is built and measured when it is needed."""
+    """Tries one fault after another. Builds and measures the correct sources when it first needs
+    them."""
 
     def __init__(self):
         copy_sources()

@@ -1,4 +1,4 @@
-"""A calm hand on the mouse, and a picture of the screen with the pointer in it."""
+"""Moves the mouse calmly, and takes screenshots that show the pointer."""
 
 import time
 
@@ -11,7 +11,7 @@ from privatedesktop import wait_until
 
 
 class Hand:
-    """Moves the pointer as a person does: it sets out slowly and arrives slowly."""
+    """Moves the pointer as a person does: it starts slowly and arrives slowly."""
 
     def __init__(self, desktop, start):
         self._pointer = desktop.screen.pointer
@@ -19,7 +19,7 @@ class Hand:
         self._pointer.move(*start)
 
     def glide(self, goal, seconds, bend=0.0):
-        """Goes there in an arc, whose height is a part of the way."""
+        """Moves to the goal in an arc; `bend` is the arc's height as a part of the distance."""
         start, begun = self._place, time.monotonic()
         across = (start[1] - goal[1]) * bend, (goal[0] - start[0]) * bend
         part = 0.0
@@ -34,7 +34,8 @@ class Hand:
         self._place = goal
 
     def hold_until(self, condition, what):
-        """Stays there: a program is asked what it would take while the pointer moves a little."""
+        """Jiggles the pointer until the condition is true: a program decides whether it takes a
+        drag only while the pointer moves."""
         turn = 0
 
         def holds():
@@ -53,7 +54,7 @@ class Hand:
 
 
 def screenshot_with_pointer(desktop):
-    """What is on the screen, with the pointer as the server draws it on a real one."""
+    """Returns a picture of the screen, with the pointer as a real server draws it."""
     picture = desktop.screen.screenshot()
     connection = display.Display(desktop.environment["DISPLAY"])
     connection.xfixes_query_version()

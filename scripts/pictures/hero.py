@@ -3,7 +3,7 @@
 
 import time
 
-# First of all: it says where the others are.
+# This import must come first: it sets the search path for the others.
 from stage import BINARY, PICTURES, furnish, private_desktop
 
 from hand import Hand, screenshot_with_pointer
@@ -14,7 +14,7 @@ from privatedesktop import Program, Rectangle, wait_until, wait_until_still
 SIZE, SCALE = (1280, 800), 2
 WEBSITE = Rectangle(40, 84, 800, 610)
 CHAT = Rectangle(876, 84, 364, 440)
-# What is taken of the website: its header.
+# The part of the website that is captured: its header.
 HEADER = Rectangle(40, 84, 800, 400)
 COMPOSER = (1130, 488)
 CAPTURES = (("visitors", (1280, 800)), ("cabins", (500, 844)), ("map", (1200, 800)))

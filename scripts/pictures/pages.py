@@ -1,4 +1,4 @@
-"""The pages of the folder beside this file, in windows of a browser."""
+"""Shows the pages in the folder beside this file in windows of a browser."""
 
 import functools
 import http.server
@@ -14,7 +14,8 @@ PAGES = pathlib.Path(__file__).with_name("pages")
 
 
 class Pages:
-    """The pages of this folder, served while the with statement lasts, in windows of a browser."""
+    """Serves the pages of this folder, and shows them in a browser, while the with statement
+    lasts."""
 
     def __init__(self, desktop, scale=1):
         self._desktop = desktop
@@ -43,7 +44,7 @@ class Pages:
         self._server.server_close()
 
     def wait_for(self, what):
-        """Waits until a page tells that."""
+        """Waits until a page reports `what`."""
         wait_until(lambda: "/" + what in self._told, f"the page tells that it is {what}")
 
     def _address(self, page):
@@ -59,14 +60,14 @@ class Pages:
         ]  # fmt: skip
 
     def open(self, page, title, area):
-        """Opens a page in a window of its own, which fills the area, given in points."""
+        """Opens a page in its own window, which fills the area, given in points."""
         self._desktop.start(*self._browser("browser", self._scale), f"--app={self._address(page)}",
                             f"--window-size={area.width},{area.height}")
         number = wait_until(lambda: find_window(self._desktop, title), f"{title} opens", limit=60)
         place(self._desktop, number, scaled(area, self._scale))
 
     def picture(self, page, size, path):
-        """Saves what a page looks like, at twice the scale of its size."""
+        """Saves a picture of a page at a scale of 2; the size is in points."""
         self._desktop.run(
             *self._browser("photographer", scale=2), "--headless", f"--screenshot={path}",
             f"--window-size={size[0]},{size[1]}", self._address(page),
@@ -86,7 +87,7 @@ def find_window(desktop, title):
 
 
 def place(desktop, number, area):
-    """Lets the window manager put a window there, and waits until it stands."""
+    """Makes the window manager put a window there, and waits until it stays."""
     connection = display.Display(desktop.environment["DISPLAY"])
     root = connection.screen().root
     static_gravity_and_all_four = 10 | 0xF << 8 | 2 << 12
@@ -99,7 +100,7 @@ def place(desktop, number, area):
     def stands():
         if desktop.screen.area(number) == area:
             return True
-        # A browser that is just opening its window may put it elsewhere once more.
+        # A browser that is opening its window may move it again.
         root.send_event(message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
         connection.sync()
         return False

@@ -1,9 +1,10 @@
 #!/usr/bin/python3
-"""Writes docs/pictures/drag.gif: a capture is taken, arrives, and goes into a chat."""
+"""Writes docs/pictures/drag.gif: a capture is taken, appears on the card, and is dragged into a
+chat."""
 
 import time
 
-# First of all: it says where the others are.
+# This import must come first: it sets the search path for the others.
 from stage import BINARY, PICTURES, furnish, private_desktop
 
 from hand import Hand
@@ -15,7 +16,7 @@ from using import tile_of
 
 FRAMES_PER_SECOND = 25
 REST = (600, 640)
-# What is dragged is above the line that asks for it.
+# The dragged capture must not cover the input line of the chat.
 ABOVE_COMPOSER = (1064, 385)
 
 
@@ -42,7 +43,7 @@ def main():
 
 
 def show_and_dismiss_one(desktop, vantle):
-    """The first card of all takes longer to come: it is the second one that is typical."""
+    """Shows and dismisses a card, because the very first one takes longer to appear than usual."""
     desktop.run("scrot", screenshot_name(), cwd=desktop.home / "Desktop")
     wait_until(desktop.screen.panel, "the panel appears")
     wait_until_still(lambda: desktop.screen.screenshot().tobytes(), "the card")
@@ -79,7 +80,7 @@ def play(desktop, vantle, pages, hand):
 
 
 def take_capture(desktop, vantle, hand):
-    """Selects the header of the website with a real screenshot tool."""
+    """Captures the header of the website with a real screenshot tool."""
     desktop.start(
         "scrot", "--select", "--line", "mode=edge,width=3,color=white", screenshot_name(),
         cwd=desktop.home / "Desktop",
@@ -92,7 +93,7 @@ def take_capture(desktop, vantle, hand):
 
 
 def write_animation(desktop, recording, seconds):
-    """Of so many seconds of its end: it began before there was something to see."""
+    """Writes the last `seconds` of the recording, which began before there was something to see."""
     colours = (
         "split[all][once];[once]palettegen=stats_mode=full[palette];"
         "[all][palette]paletteuse=dither=sierra2_4a:diff_mode=rectangle"

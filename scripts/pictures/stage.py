@@ -1,4 +1,4 @@
-"""A desktop for the pictures: how its windows are framed, its wallpaper and its panel."""
+"""A desktop for the pictures: its window frames, its wallpaper and its panel."""
 
 import os
 import pathlib
@@ -20,7 +20,7 @@ PANEL_HEIGHT = 28
 
 _SKY = ((46, 108, 158), (120, 184, 206), (246, 226, 200))
 _RIDGES = (
-    # height from the top, how steep, its colour, what its foot fades to
+    # height from the top, steepness, colour, colour at the foot
     (0.50, 0.060, (126, 178, 196), (190, 212, 210)),
     (0.60, 0.055, (82, 146, 172), (150, 192, 198)),
     (0.70, 0.060, (46, 110, 144), (104, 160, 176)),
@@ -92,12 +92,12 @@ _PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 
 
 def private_desktop(size, scale):
-    """One with a compositor that blurs what is behind the glass; the size is in points."""
+    """Returns a desktop whose compositor blurs what is behind the glass; the size is in points."""
     return PrivateDesktop(
         size=(size[0] * scale, size[1] * scale),
         compositor=False,
         tray=False,
-        # Its title bars are as high as their letters.
+        # The height of the title bars follows the font size.
         window_manager=["env", f"QT_FONT_DPI={80 * scale}", "kwin_x11"],
         environment={
             "KWIN_COMPOSE": "O2",
@@ -112,7 +112,7 @@ def private_desktop(size, scale):
 
 
 def wallpaper(size):
-    """Ridges of hills in the mist, one behind the other."""
+    """Returns ridges of hills in the mist, one behind the other."""
     width, height = size
     rows = numpy.linspace(0, 1, height)[:, None]
     columns = numpy.linspace(0, 1, width)[None, :]
@@ -122,7 +122,7 @@ def wallpaper(size):
             numpy.sin(columns * (5.1 + number) + number * 2.3)
             + 0.45 * numpy.sin(columns * (11.7 + 2 * number) + number * 4.1)
         )
-        # One pixel of the edge is half there, so that it is smooth.
+        # One pixel of the edge is half transparent, so that the edge is smooth.
         cover = numpy.clip((rows - line) * height, 0, 1)[..., None]
         hill = _between((colour, foot), numpy.clip((rows - line) / 0.17, 0, 1))
         picture = picture * (1 - cover) + hill * cover
@@ -130,7 +130,7 @@ def wallpaper(size):
 
 
 def _between(colours, part):
-    """The colours along a gradient, for each part of its way from 0 to 1."""
+    """Returns the colours along a gradient, for each part of its way from 0 to 1."""
     places = numpy.linspace(0, 1, len(colours))
     return numpy.stack(
         [numpy.interp(part, places, channel) for channel in zip(*colours)], axis=-1
@@ -144,7 +144,8 @@ def write_configuration(desktop, name, text):
 
 
 def show_wallpaper(desktop):
-    """In a window of its own, as desktops do: not every compositor draws the root window."""
+    """Shows the wallpaper in its own window, as desktops do: not every compositor draws the root
+    window."""
     connection = display.Display(desktop.environment["DISPLAY"])
     screen = connection.screen()
     pixmap = screen.root.create_pixmap(*desktop.size, screen.root_depth)
@@ -161,7 +162,7 @@ def show_wallpaper(desktop):
 
 
 def furnish(desktop):
-    """The wallpaper, and a panel with a tray along the upper edge."""
+    """Shows the wallpaper, and a panel with a tray along the upper edge."""
     write_configuration(desktop, "gtk-3.0/settings.ini", _GTK)
     write_configuration(desktop, "xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml",
                         _PANEL.format(height=PANEL_HEIGHT))

@@ -1,6 +1,6 @@
-"""A private X desktop of its own, and eyes and hands for it.
+"""A private X desktop, with functions to look at it and to use it.
 
-./run starts Vantle on it where there is no display, and the desktop tests drive Vantle on it.
+./run starts Vantle on it if there is no display, and the desktop tests drive Vantle on it.
 """
 
 from .desktop import DesktopFailure, PrivateDesktop

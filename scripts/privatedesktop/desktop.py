@@ -12,7 +12,7 @@ from .screen import Screen
 from .waiting import WaitTimeout, wait_until
 
 _MARK = "VANTLE_PRIVATE_DESKTOP"
-# Not the language: what the program says is compared.
+# The language is not kept, because the tests compare what the program says.
 _KEPT_VARIABLES = ("PATH", "USER", "LOGNAME", "TZ")
 _KEPT_PREFIXES = ("VANTLE_", "ASAN_", "UBSAN_", "LSAN_", "TSAN_")
 BAR_HEIGHT = 26
@@ -32,11 +32,12 @@ class DesktopFailure(RuntimeError):
 
 
 class PrivateDesktop:
-    """Starts on entering a with statement and is gone, with all its processes, after it."""
+    """A desktop that starts on entering a with statement, and ends with all its processes after
+    it."""
 
     def __init__(self, size=(1440, 900), compositor=True, tray=True, window_manager=("openbox",),
                  environment=None, configuration=None):
-        """configuration: the contents of files in XDG_CONFIG_HOME, by their names."""
+        """configuration maps file names in XDG_CONFIG_HOME to contents."""
         self.size = size
         self.screen = None
         self.environment = {}
@@ -112,7 +113,7 @@ class PrivateDesktop:
         }
 
     def _choose_font(self):
-        """The letters of a real desktop, where they are installed."""
+        """Sets the font of a real desktop, which is used if it is installed."""
         settings = pathlib.Path(self.environment["XDG_CONFIG_HOME"], "fontconfig/fonts.conf")
         settings.parent.mkdir(parents=True)
         settings.write_text(FONT_SETTINGS)
@@ -123,7 +124,7 @@ class PrivateDesktop:
             (folder / name).write_text(text)
 
     def start(self, *arguments, **options):
-        """Starts a program on this desktop; it is ended with the desktop at the latest."""
+        """Starts a program on this desktop; it ends with the desktop at the latest."""
         log = self.log_folder / (pathlib.Path(arguments[0]).name + ".log")
         try:
             process = processes.start(arguments, self.environment, log, **options)
@@ -151,7 +152,7 @@ class PrivateDesktop:
         )
 
     def _require(self, condition, what, process):
-        """Waits for a condition that a process of the desktop has to bring about."""
+        """Waits for a condition that a process of the desktop must bring about."""
         try:
             return wait_until(lambda: condition() or self._fail_if_ended(process, what), what)
         except WaitTimeout as error:
@@ -169,7 +170,7 @@ class PrivateDesktop:
     def _start_server(self):
         width, height = self.size
         read_end, write_end = os.pipe()
-        # The server picks a free display number itself, so that desktops can run side by side.
+        # The server picks a free display number itself, so that several desktops can run at once.
         server = self._server = self.start(
             "Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{width}x{height}x24",
             "-nolisten", "tcp", "-noreset", "-dpi", "96",
@@ -206,7 +207,8 @@ class PrivateDesktop:
         self._require(self.screen.is_composited, "the compositor composes", compositor)
 
     def _start_tray(self):
-        # On a busy machine it sometimes asks for its edge before anybody listens, and never again.
+        # On a busy machine the tray sometimes asks for its edge before anybody listens, and never
+        # again.
         tray = self._launch_tray()
         try:
             wait_until(self._has_bar, "the tray takes its edge of the screen", limit=8.0)
@@ -225,7 +227,7 @@ class PrivateDesktop:
         return self._tray_process
 
     def kill_server(self):
-        """Takes the display server away, as a crash does."""
+        """Kills the display server, as a crash would."""
         self._server.kill()
         self._server.wait()
         self.screen = None
@@ -235,7 +237,7 @@ class PrivateDesktop:
         self._bus.wait()
 
     def restart_tray(self):
-        """Ends the tray and starts it again, as a panel does that crashed."""
+        """Ends the tray and starts it again, like a panel that crashed."""
         processes.end(self._tray_process)
         self._start_tray()
 

@@ -1,4 +1,4 @@
-"""Starting processes that end with us, and ending them by their process number."""
+"""Starts processes that end with us, and ends processes by their number."""
 
 import ctypes
 import os
@@ -15,7 +15,7 @@ def _end_with_parent():
 
 
 def start(arguments, environment, log, **options):
-    """Starts a process in a session of its own (Ctrl-C reaches only us), writing to a log file."""
+    """Starts a process in its own session (Ctrl-C reaches only us), which writes to a log file."""
     with open(log, "ab") as output:
         return subprocess.Popen(
             arguments,
@@ -30,7 +30,7 @@ def start(arguments, environment, log, **options):
 
 
 def end(process, limit=5.0):
-    """Asks a process to end and insists after the limit. Returns its exit status."""
+    """Asks a process to end, and kills it after the limit. Returns its exit status."""
     if process.poll() is None:
         process.terminate()
         try:
@@ -41,7 +41,7 @@ def end(process, limit=5.0):
 
 
 def marked(variable, value):
-    """The numbers of all processes that inherited variable=value in their environment."""
+    """Returns the numbers of all processes that inherited variable=value in their environment."""
     wanted = f"{variable}={value}".encode()
     found = []
     for name in os.listdir("/proc"):
@@ -52,19 +52,20 @@ def marked(variable, value):
                 if wanted in file.read().split(b"\0"):
                     found.append(int(name))
         except OSError:
-            # It ended meanwhile, or belongs to somebody else.
+            # The process ended meanwhile, or belongs to another user.
             continue
     return found
 
 
 def running(program, home):
-    """The numbers of the processes that are that program, on the desktop with that home."""
+    """Returns the numbers of the processes of that program on the desktop with that home."""
     path = os.path.realpath(program)
     return [number for number in marked("HOME", home) if _executable(number) == path]
 
 
 def end_marked(variable, value, limit=3.0):
-    """Ends what others started on our behalf: services of the session bus, background helpers."""
+    """Ends processes that others started on our behalf: services of the session bus, background
+    helpers."""
     for number in (signal.SIGTERM, signal.SIGKILL):
         end_time = time.monotonic() + limit
         while found := marked(variable, value):
@@ -82,5 +83,5 @@ def _executable(number):
     try:
         return os.readlink(f"/proc/{number}/exe")
     except OSError:
-        # It ended meanwhile.
+        # The process ended meanwhile.
         return None

@@ -10,7 +10,7 @@ from . import processes
 from .waiting import wait_until, wait_until_still
 
 _DEBUG = "Vantle[dbg]: "
-# Whatever screenshot tools are installed, the folder is its own to choose.
+# Otherwise the folder would be that of the installed screenshot tool.
 _SETTINGS_KEYS_AT_HAND = {"hasCompletedOnboarding": "true", "screenshotTool": "none"}
 
 
@@ -24,7 +24,7 @@ class Program:
         self._desktop = desktop
         self._command = [binary] if isinstance(binary, (str, os.PathLike)) else list(binary)
         wanted = {**desktop.environment, "VANTLE_DEBUG": "1", **(environment or {})}
-        # None takes a variable away.
+        # A value of None removes the variable.
         self._environment = {name: text for name, text in wanted.items() if text is not None}
         self._log = desktop.log_folder / f"{name}.log"
         self._process = None
@@ -46,7 +46,8 @@ class Program:
         return self._log
 
     def write_settings(self, **values):
-        """Writes the settings that the program finds at its next start; None leaves one out."""
+        """Writes the settings that the program reads at its next start; None leaves a setting
+        out."""
         lines = {**_SETTINGS_KEYS_AT_HAND, **values}
         text = "".join(f"{key}={value}\n" for key, value in lines.items() if value is not None)
         self.config_folder.mkdir(parents=True, exist_ok=True)
@@ -57,7 +58,7 @@ class Program:
         return self
 
     def command(self, *arguments, limit=60.0, environment=None):
-        """Starts it with arguments, waits for its end and returns (exit status, what it said)."""
+        """Starts it with arguments, waits for its end, and returns (exit status, output)."""
         wanted = {**self._environment, **(environment or {})}
         ended = subprocess.run(
             [*self._command, *arguments],
@@ -71,9 +72,10 @@ class Program:
         return ended.returncode, ended.stdout.decode("utf-8", "replace")
 
     def start_watching(self, limit=20.0):
-        """Starts it and waits until files saved from now on are new to it.
+        """Starts it and waits until it treats newly saved files as new.
 
-        The launch may begin to watch more than once; what is saved in between counts as old.
+        The program may begin to watch more than once during its start; files saved in between count
+        as old.
         """
         self.start()
         self.wait_for_log(r"^Vantle\[dbg\]: watching ", limit=limit)
@@ -92,11 +94,12 @@ class Program:
         return self.log_text().splitlines()
 
     def exit_status(self):
-        """None while it runs; a negative number is the signal that ended it."""
+        """Returns None while it runs; a negative number is the signal that ended it."""
         return self._process.poll()
 
     def wait_for_log(self, pattern, times=1, limit=20.0):
-        """Waits until the pattern stands in the log so many times; fails at once if it ended."""
+        """Waits until the pattern is in the log so many times; fails at once if the program
+        ended."""
         expression = re.compile(pattern, re.MULTILINE)
 
         def stands_there():
@@ -110,18 +113,18 @@ class Program:
         return f"Vantle ended with status {self.exit_status()}, its log says:\n{self.log_text()}"
 
     def captured(self):
-        """The names of the captures taken in so far, in order."""
+        """Returns the names of the captures added so far, in order."""
         start = _DEBUG + "captured "
         return [line[len(start) :] for line in self.log_lines() if line.startswith(start)]
 
     def shown_counts(self):
-        """How many captures the panel held after each one that was added."""
+        """Returns how many captures the panel held after each one that was added."""
         shows = r"^Vantle\[dbg\]: panel shows (\d+) capture"
         found = re.findall(shows, self.log_text(), re.MULTILINE)
         return [int(number) for number in found]
 
     def voluntary_switches(self):
-        """How often its threads have waited for something so far."""
+        """Returns how often its threads have waited for something so far."""
         total = 0
         for task in self._threads():
             for line in (task / "status").read_text().splitlines():
@@ -136,7 +139,7 @@ class Program:
         return pathlib.Path("/proc", str(self.pid), "task").iterdir()
 
     def proportional_memory(self):
-        """PSS in KiB."""
+        """Returns the PSS in KiB."""
         for line in pathlib.Path("/proc", str(self.pid), "smaps_rollup").read_text().splitlines():
             if line.startswith("Pss:"):
                 return int(line.split()[1])
@@ -150,7 +153,7 @@ class Program:
         self._process.wait()
 
     def wait_for_end(self, limit=20.0):
-        """Its exit status."""
+        """Waits for its end and returns its exit status."""
         wait_until(lambda: not self.is_running(), "Vantle ends", limit)
         return self.exit_status()
 

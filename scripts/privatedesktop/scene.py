@@ -33,7 +33,7 @@ def _sky(width, height):
 
 
 def _ridge(heights, width, height):
-    """A smooth line through the given heights, as a polygon down to the bottom."""
+    """Returns a smooth line through the given heights, as a polygon down to the bottom."""
     points = []
     for x in range(width + 1):
         place = x / width * (len(heights) - 1)

@@ -1,4 +1,4 @@
-"""What is on the screen of an X server, and real pointer and keyboard events for it."""
+"""Reads the screen of an X server, and sends real pointer and keyboard events to it."""
 
 import dataclasses
 
@@ -31,7 +31,7 @@ class Rectangle:
 
     @property
     def box(self):
-        """As PIL wants it for crop()."""
+        """Returns the rectangle as PIL's crop() takes it."""
         return self.x, self.y, self.right, self.bottom
 
     def moved(self, x, y):
@@ -127,7 +127,7 @@ class Screen:
         self._display.close()
 
     def screenshot(self, area=None):
-        """The picture on the screen, or of a Rectangle of it, as a PIL image."""
+        """Returns a PIL image of the screen, or of a Rectangle of it."""
         area = area or Rectangle(0, 0, *self.size)
         raw = self._root.get_image(
             area.x, area.y, area.width, area.height, X.ZPixmap, 0xFFFFFFFF
@@ -139,7 +139,7 @@ class Screen:
         try:
             answer = window.get_full_property(self._display.intern_atom(name), kind)
         except error.BadWindow:
-            # It was destroyed while we asked.
+            # The window was destroyed meanwhile.
             return None
         return answer.value if answer else None
 
@@ -153,7 +153,7 @@ class Screen:
         return self.owns("_NET_SYSTEM_TRAY_S0")
 
     def owns(self, selection):
-        """Whether some program stands for that selection."""
+        """Returns true if a program owns that selection."""
         return bool(self._display.get_selection_owner(self._display.intern_atom(selection)))
 
     def work_area(self):
@@ -161,15 +161,15 @@ class Screen:
         return Rectangle(*values[:4]) if values else Rectangle(0, 0, *self.size)
 
     def client_list(self):
-        """The windows that a taskbar or a pager shows."""
+        """Returns the windows that a taskbar or a pager shows."""
         return list(self.root_property("_NET_CLIENT_LIST") or [])
 
     def stacked(self):
-        """The same windows, lowest first."""
+        """Returns the same windows, lowest first."""
         return list(self.root_property("_NET_CLIENT_LIST_STACKING") or [])
 
     def dialogs(self):
-        """Vantle's windows that the window manager manages."""
+        """Returns Vantle's windows that the window manager manages."""
         return [w for w in self.client_list() if "vantle" in self._class_names(w)]
 
     def _class_names(self, window_number):
@@ -177,7 +177,7 @@ class Screen:
         try:
             return [name.lower() for name in window.get_wm_class() or ()]
         except error.XError:
-            # It was destroyed while we asked.
+            # The window was destroyed meanwhile.
             return []
 
     def active_window(self):
@@ -199,8 +199,8 @@ class Screen:
         )
 
     def switch_workspace(self, number):
-        """Asks until the window manager is there: one that has just activated a window may come
-        back to that."""
+        """Repeats the request until the workspace changes: a window manager that has just activated
+        a window may switch back to it."""
 
         def is_there():
             if self.current_workspace() == number:
@@ -217,13 +217,13 @@ class Screen:
         self._send_to_root("_NET_WM_STATE", window, [action, atom, 0, 1, 0])
 
     def ask_to_move(self, window_number, x, y):
-        """As the window's own program does."""
+        """Asks the window manager to move the window, as the window's own program would."""
         window = self._display.create_resource_object("window", window_number)
         window.configure(x=x, y=y)
         self._display.sync()
 
     def ask_to_close(self, window_number):
-        """As the button in a window's title bar does."""
+        """Asks the window to close, as the button in its title bar does."""
         window = self._display.create_resource_object("window", window_number)
         self._send_to_root("_NET_CLOSE_WINDOW", window, [X.CurrentTime, 1, 0, 0, 0])
 
@@ -236,13 +236,13 @@ class Screen:
         self._display.sync()
 
     def windows(self):
-        """The children of the root window, lowest first."""
+        """Returns the children of the root window, lowest first."""
         found = []
         for window in self._root.query_tree().children:
             try:
                 found.append(self._describe(window))
             except error.XError:
-                # It was destroyed while we asked.
+                # The window was destroyed meanwhile.
                 continue
         return found
 
@@ -258,7 +258,7 @@ class Screen:
         )
 
     def _own_windows(self):
-        """Vantle's windows on the screen that no window manager manages."""
+        """Returns Vantle's windows on the screen that no window manager manages."""
         return [
             window
             for window in self.windows()
@@ -268,11 +268,11 @@ class Screen:
         ]
 
     def panels(self):
-        """Vantle's panels on the screen: there should be at most one."""
+        """Returns Vantle's panels on the screen; there should be at most one."""
         return [window for window in self._own_windows() if window.frame.width > 700]
 
     def menu(self):
-        """The menu that Vantle draws, if it is open."""
+        """Returns the menu that Vantle draws, if it is open."""
         menus = [w for w in self._own_windows() if w.frame.width <= 700 and w.frame.height > 60]
         return menus[0] if menus else None
 
@@ -281,7 +281,7 @@ class Screen:
         return panels[0] if panels else None
 
     def input_areas(self, window_number):
-        """The parts of a window that take clicks, in screen coordinates."""
+        """Returns the parts of a window that take clicks, in screen coordinates."""
         window = self._display.create_resource_object("window", window_number)
         geometry = window.get_geometry()
         answer = window.shape_get_rectangles(shape.SK.Input)
@@ -291,13 +291,13 @@ class Screen:
         ]
 
     def set_root_property(self, name):
-        """Marks the root window as a compositor does that offers something."""
+        """Sets a property of the root window, as a compositor does to announce a feature."""
         atom = self._display.intern_atom(name)
         self._root.change_property(atom, Xatom.CARDINAL, 32, [0])
         self._display.sync()
 
     def area(self, window_number):
-        """Where a window stands on the screen, without what its manager puts around it."""
+        """Returns the area of a window on the screen, without its frame."""
         window = self._display.create_resource_object("window", window_number)
         geometry = window.get_geometry()
         place = window.translate_coords(self._root, 0, 0)
@@ -311,12 +311,12 @@ class Screen:
         return self._display.get_atom_name(atom)
 
     def states(self, window_number):
-        """The names of a window's _NET_WM_STATEs."""
+        """Returns the names of a window's _NET_WM_STATEs."""
         atoms = self.window_property(window_number, "_NET_WM_STATE") or []
         return {self.atom_name(atom) for atom in atoms}
 
     def title(self, window_number):
         window = self._display.create_resource_object("window", window_number)
-        # The older name holds Latin letters alone.
+        # The older property holds Latin letters only.
         return self._property(window, "_NET_WM_NAME") or self._property(window, "WM_NAME",
                                                                         Xatom.STRING)

@@ -1,10 +1,10 @@
-"""Waiting for conditions instead of for a fixed time."""
+"""Waits for conditions instead of for a fixed time."""
 
 import time
 
 
 class WaitTimeout(AssertionError):
-    """A condition did not come true within its limit."""
+    """A condition did not become true within its limit."""
 
 
 def wait_until(condition, what, limit=20.0, interval=0.02):
@@ -29,7 +29,7 @@ def ensure_never(condition, what, seconds, interval=0.02):
 
 
 def wait_until_still(read, what, readings=6, limit=20.0, interval=0.1):
-    """Returns the value of read() once it was the same several times in a row."""
+    """Returns the value of read() when it has been the same several times in a row."""
     same = 0
     last = read()
 
