@@ -31,8 +31,8 @@ from remote import Remote  # noqa: E402
 
 WANTED = 0.1  # seconds
 KINDS = {
-    "bus": "a question over the bus, ms",
-    "work": "what the main thread worked until that answer, ms",
+    "bus": "call over the bus, ms",
+    "work": "processor time of the main thread during the call, ms",
     "command": "vantle --dismiss as a process, ms",
 }
 
@@ -111,19 +111,19 @@ class Burst:
 def summary(points):
     times = sorted(value for _, value in points)
     if not times:
-        return "never asked"
+        return "not measured"
     late = sum(value > WANTED * 1000 for value in times)
     nearly_all = times[int(0.95 * (len(times) - 1))]
     return (f"median {statistics.median(times):.0f} ms, 95 % {nearly_all:.0f} ms, "
-            f"worst {times[-1]:.0f} ms; {late} of {len(times)} later than {WANTED * 1000:.0f} ms")
+            f"worst {times[-1]:.0f} ms; {late} of {len(times)} took over {WANTED * 1000:.0f} ms")
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--binary", default=str(REPOSITORY / "build/release/bin/vantle"))
     parser.add_argument("--files", type=int, default=500)
-    parser.add_argument("--size", type=size, default=(2560, 1440), help="of the screenshots")
-    parser.add_argument("--seconds", type=float, default=20, help="how long it asks")
+    parser.add_argument("--size", type=size, default=(2560, 1440), help="size of the screenshots")
+    parser.add_argument("--seconds", type=float, default=20, help="how long to measure")
     parser.add_argument("--json", type=pathlib.Path)
     parser.add_argument("--plot", type=pathlib.Path)
     arguments = parser.parse_args()

@@ -168,7 +168,7 @@ def size(text):
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--binary", default=str(REPOSITORY / "build/release/bin/vantle"))
-    parser.add_argument("--size", type=size, default=(2560, 1600), help="of the screenshots")
+    parser.add_argument("--size", type=size, default=(2560, 1600), help="size of the screenshots")
     parser.add_argument("--rounds", type=int, default=10)
     arguments = parser.parse_args()
     with PrivateDesktop() as desktop:

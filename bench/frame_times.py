@@ -29,7 +29,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--binary", default=str(REPOSITORY / "build/dev/bin/frame_times"))
     parser.add_argument("--scales", default="1,2")
-    parser.add_argument("--renderer", help="another than the software renderer")
+    parser.add_argument("--renderer", help="a renderer other than the software renderer")
     arguments = parser.parse_args()
     for scale in arguments.scales.split(","):
         print(measure(arguments, scale))

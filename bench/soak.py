@@ -103,7 +103,7 @@ class Soak:
 
     def _is_running(self):
         if not self._vantle.is_running():
-            sys.exit(f"the program has ended with status {self._vantle.exit_status()}:\n"
+            sys.exit(f"The program ended with status {self._vantle.exit_status()}:\n"
                      + self._vantle.log_text()[-2000:])
         return True
 
@@ -193,7 +193,7 @@ def verdict(samples, kind):
     quarter = max(1, len(values) // 4)
     first, last = statistics.median(values[:quarter]), statistics.median(values[-quarter:])
     word = "flat" if last - first <= ALLOWED.get(kind, 0) else "GROWS"
-    return f"{word:<6} {KINDS[kind]}: {first:.1f}, in the end {last:.1f}"
+    return f"{word:<6} {KINDS[kind]}: {first:.1f}, at the end {last:.1f}"
 
 
 def bands(samples):
@@ -206,8 +206,8 @@ def main():
     parser.add_argument("--binary", default=str(REPOSITORY / "build/release/bin/vantle"))
     parser.add_argument("--captures", type=int, default=20000)
     parser.add_argument("--minutes", type=float, default=600)
-    parser.add_argument("--crowd", type=int, default=200, help="how many come at once, each round")
-    parser.add_argument("--size", type=size, default=(1280, 800), help="of the screenshots")
+    parser.add_argument("--crowd", type=int, default=200, help="captures at once in each round")
+    parser.add_argument("--size", type=size, default=(1280, 800), help="size of the screenshots")
     parser.add_argument("--json", type=pathlib.Path)
     parser.add_argument("--plot", type=pathlib.Path)
     arguments = parser.parse_args()

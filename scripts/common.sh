@@ -78,14 +78,14 @@ as_root() {
 
 require_apt() {
   if command -v apt-get >/dev/null && command -v dpkg-query >/dev/null; then return; fi
-  fail "Packages can be installed only on Debian and Ubuntu: there is no apt-get here." \
+  fail "Packages can be installed only on Debian and Ubuntu: this system has no apt-get." \
     "Install your system's counterparts of the packages named in scripts/packages/*.list," \
     "then start again with VANTLE_SKIP_PACKAGES=1."
 }
 
 require_root() {
   if ((EUID == 0)); then return; fi
-  command -v sudo >/dev/null || fail "Installing needs root rights, and there is no sudo here." \
+  command -v sudo >/dev/null || fail "Installing needs root rights, and this system has no sudo." \
     "As root, run:  apt-get update && apt-get install --no-install-recommends $*"
   as_root true || fail "sudo did not give root rights." \
     "As root, run:  apt-get update && apt-get install --no-install-recommends $*"
@@ -133,7 +133,7 @@ install_missing() {
   update_package_lists
   # Only after the update is it certain which packages this release has.
   mapfile -t lines < <(missing_packages "$@")
-  say "Installing what is missing here (${#lines[@]} packages and what they depend on):"
+  say "Installing ${#lines[@]} missing packages and their dependencies:"
   printf '    %s\n' "${lines[@]}"
   install_known "${lines[@]%% *}"
 }
@@ -147,14 +147,14 @@ update_package_lists() {
   mkdir -p "$logs"
   # The mirror that failed may not be one that has these packages: the installation decides.
   as_root apt-get update -q >"$logs/apt-update.log" 2>&1 </dev/null ||
-    say "apt-get update failed; trying with the package lists of last time."
+    say "apt-get update failed; trying with the previous package lists."
 }
 
 install_known() {
   local log=$logs/apt.log started=$SECONDS
   : >"$log"
   if ! run_apt_install "$log" "$@"; then
-    fail_with_log "$log" "apt-get could not install what is missing." \
+    fail_with_log "$log" "apt-get could not install the missing packages." \
       "Check the network connection and /etc/apt/sources.list, then run this again." \
       "Vantle needs Debian 12, Debian 13, Ubuntu 24.04 or newer."
   fi

@@ -65,16 +65,16 @@ def wait_for_tile(desktop, vantle):
 def write_picture(desktop, path):
     path.parent.mkdir(parents=True, exist_ok=True)
     desktop.screen.screenshot().save(path)
-    say(f"The screen is in {path}")
+    say(f"The picture of the screen is in {path}")
 
 
 def keep_running(desktop, vantle):
-    say("Vantle keeps running on the private desktop; Ctrl-C ends it.")
+    say("Vantle keeps running on the private desktop. Ctrl-C ends it.")
     say(f"  its display: DISPLAY={desktop.environment['DISPLAY']}")
     say(f"  the folder it watches: {desktop.home / 'Desktop'}")
     while vantle.is_running():
         time.sleep(1)
-    raise DesktopFailure("Vantle ended by itself")
+    raise DesktopFailure("Vantle ended unexpectedly")
 
 
 def show(desktop, vantle, arguments):

@@ -13,8 +13,8 @@ from .repository import (BUILD, ROOT, Problem, checked, configure, files, git, l
                          require, side_by_side)
 
 WHAT = "C++ by clang-tidy 14"
-REPAIR = ("by hand; where clang-tidy is wrong, // NOLINT(CHECK) with the reason; "
-          "a check that is wrong in general, in .clang-tidy with its reason")
+REPAIR = ("by hand; if clang-tidy is wrong, // NOLINT(CHECK) with the reason; "
+          "if a check is wrong in general, switch it off in .clang-tidy and say why")
 
 TOOL = "clang-tidy-14"
 USUAL_NUMBER = 5
@@ -110,9 +110,9 @@ def problems(everything, note):
     if everything:
         note(f"looks at all {len(chosen)} sources and the headers that they include")
     else:
-        note(f"looks at {len(chosen)} of {len(compiled)} sources, those that changed last, and "
-             "without the analyzer;")
-        note("scripts/check --all clang-tidy looks at all with all. These are:")
+        note(f"looks at the {len(chosen)} sources of {len(compiled)} that changed last, without "
+             "the analyzer;")
+        note("scripts/check --all clang-tidy looks at all of them with it. The sources:")
         for path in chosen:
             note(f"  {path}")
     for path in chosen:

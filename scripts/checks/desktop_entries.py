@@ -3,7 +3,7 @@
 from .repository import Problem, files, output_of, require
 
 WHAT = "desktop entries by desktop-file-validate"
-REPAIR = "by hand, as the text says"
+REPAIR = "by hand, as the message says"
 
 
 def problems(_everything, note):

@@ -17,7 +17,7 @@ def require_formatter():
     require(FORMATTER, FORMATTER)
     version, _ = output_of(FORMATTER, "--version")
     if " version 14." not in version:
-        raise MissingTool(f"{FORMATTER} should be of version 14, but is: {version.strip()}")
+        raise MissingTool(f"{FORMATTER} must be version 14, but is: {version.strip()}")
 
 
 def cpp_problems(note):
@@ -29,7 +29,7 @@ def cpp_problems(note):
     if status and not places:
         yield Problem(".clang-format", None, output.strip())
     for path, line in places:
-        yield Problem(path, line, "is not how clang-format 14 writes it")
+        yield Problem(path, line, "clang-format 14 formats this differently")
 
 
 def bash_problems(note):
@@ -42,7 +42,7 @@ def bash_problems(note):
         if status and not lines:
             yield Problem(path, None, output.strip())
         for line in lines:
-            yield Problem(path, line, "below this line shfmt writes it in another way")
+            yield Problem(path, line, "shfmt formats the lines below differently")
 
 
 def problems(_everything, note):

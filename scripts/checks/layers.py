@@ -12,7 +12,7 @@ import re
 from .repository import Problem, files, lines_of, text_of
 
 WHAT = "includes between the folders of src, against docs/architecture.md"
-REPAIR = "by hand: put what both need lower, or draw the arrow, if the picture is right with it"
+REPAIR = "by hand: move what both need to a lower folder, or draw the arrow if it is right"
 
 PICTURE = "docs/architecture.md"
 INCLUDE = re.compile(r'#include "([^"]+)"')

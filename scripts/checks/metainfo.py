@@ -2,7 +2,7 @@
 
 from .repository import Problem, files, output_of, require
 
-WHAT = "metainfo by appstreamcli, without asking the network"
+WHAT = "metainfo by appstreamcli, without the network"
 REPAIR = "appstreamcli explain TAG, then by hand"
 
 

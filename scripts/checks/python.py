@@ -6,7 +6,7 @@ import re
 from .repository import Problem, output_of, require, scripts_for, text_of
 
 WHAT = "Python by pyflakes and pycodestyle, 100 columns"
-REPAIR = "by hand; where it is meant so, # noqa: NUMBER (REASON) at the end of the line"
+REPAIR = "by hand; if it is intended, # noqa: NUMBER (REASON) at the end of the line"
 
 COMPLAINT = re.compile(r"^(.+?):(\d+):(?:\d+:?)? (.*)$", re.MULTILINE)
 # Rules that are switched off:
@@ -36,7 +36,7 @@ def problems(_everything, note):
     require("pyflakes3", "pyflakes3")
     require("pycodestyle", "pycodestyle")
     paths = scripts_for("python", "*.py")
-    note(f"looked at {len(paths)} files of Python")
+    note(f"looked at {len(paths)} Python files")
     if paths:
         yield from complaints("pyflakes3", *paths)
         yield from complaints("pycodestyle", "--max-line-length=100", f"--ignore={NOT_ASKED_FOR}",

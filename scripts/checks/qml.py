@@ -13,7 +13,7 @@ from .repository import (BUILD, ROOT, MissingTool, Problem, checked, configure, 
                          require)
 
 WHAT = "QML by qmllint; unused imports count as well"
-REPAIR = "by hand; where qmllint is wrong, // qmllint disable KIND at the end of the line"
+REPAIR = "by hand; if qmllint is wrong, // qmllint disable KIND at the end of the line"
 
 COMPLAINT = re.compile(r"^(?:Warning|Error|Info): (.+?):(\d+):\d+: (.*)$", re.MULTILINE)
 

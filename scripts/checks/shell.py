@@ -5,7 +5,7 @@ import re
 from .repository import Problem, output_of, require, scripts_for
 
 WHAT = "bash by shellcheck"
-REPAIR = "follow https://www.shellcheck.net/wiki/ and the number of the warning"
+REPAIR = "by hand; https://www.shellcheck.net/wiki/NUMBER explains each warning"
 
 # shellcheck writes in gcc's notation: path:line:column: kind: text [number]
 COMPLAINT = re.compile(r"^(.+?):(\d+):\d+: \w+: (.*)$", re.MULTILINE)

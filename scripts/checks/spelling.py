@@ -12,7 +12,7 @@ from .texts import all_texts
 
 WHAT = "English in texts of the program, documents and code"
 WORDS = "scripts/checks/words.txt"
-REPAIR = f"by hand; a word that is right and ours goes into {WORDS}"
+REPAIR = f"by hand; add a word that is right to {WORDS}"
 
 WORD = re.compile(r"[^\W\d_]+(?:['’][^\W\d_]+)*")
 FENCE = re.compile(r"^\s*```")

@@ -6,9 +6,9 @@ import re
 
 from .repository import ROOT, Problem, all_files, lines_of, text_of
 
-WHAT = "ends of lines and files, paths of somebody's machine"
-REPAIR = ("sed -i 's/[[:space:]]*$//' FILE takes away what stands at the ends of lines; "
-          "paths are to be relative")
+WHAT = "ends of lines and files, paths of the author's machine"
+REPAIR = ("sed -i 's/[[:space:]]*$//' FILE removes white space at the ends of lines; "
+          "make paths relative")
 
 # Paths of home folders may appear in tests, as samples, and nowhere else.
 HOME = re.compile(r"(?<![\w.~$}])/(?:home|Users)/[A-Za-z]")
@@ -27,7 +27,7 @@ def problems_of_line(path, line, text):
         what = "ends with a carriage return" if text.endswith("\r") else "ends with white space"
         yield Problem(path, line, what)
     if CONFLICT.match(text):
-        yield Problem(path, line, "a conflict of Git that was not solved")
+        yield Problem(path, line, "an unresolved Git conflict")
     if any(own in text for own in own_paths()):
         yield Problem(path, line, "names the folder of this checkout, or your home")
     elif HOME.search(text) and not path.startswith("tests/"):

@@ -8,8 +8,8 @@ import xml.etree.ElementTree as xml
 
 from .repository import ROOT, Problem, files, output_of, text_of
 
-WHAT = "translations: complete, placeholders as in the source, true on Linux"
-REPAIR = "scripts/update_translations, then translate what is new"
+WHAT = "translations: complete, with the placeholders of the source, right for Linux"
+REPAIR = "scripts/update_translations, then translate the new texts"
 
 PLACEHOLDER = re.compile(r"%(?:L?\d|n)")
 # The sources are in English. This file holds only texts that differ on Linux.
