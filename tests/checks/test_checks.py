@@ -1,6 +1,7 @@
-"""Each check of scripts/check finds what it is for, says where, and is content without it.
+"""Each check of scripts/check finds its problems, says where they are, and accepts a repository
+without them.
 
-They look at a repository of their own: a copy of the checks, and one file.
+The tests use a repository that has a copy of the checks and one other file.
 """
 
 import pathlib
@@ -49,7 +50,7 @@ public:
     int count() const { return 1; }
 };
 """
-# A check, a file, what is wrong with it, and what is right.
+# A check, a file, a faulty text for it, a right one, and the start of the message.
 SAMPLES = (
     ("text", "a.md", "good\nbad \n", "good\nbad\n", "a.md:2: ends with white space"),
     ("text", "a.md", "good", "good\n", "a.md:1: the last line has no end"),
@@ -75,7 +76,7 @@ SAMPLES = (
 
 @pytest.fixture
 def repository(tmp_path):
-    """One without a file of its own."""
+    """Returns a repository that has only the checks."""
     shutil.copytree(ROOT / "scripts/checks", tmp_path / "scripts/checks",
                     ignore=shutil.ignore_patterns("__pycache__"))
     shutil.copy(ROOT / "scripts/check", tmp_path / "scripts/check")

@@ -1,4 +1,4 @@
-"""What ctest makes of a program of tests that is not built."""
+"""What ctest does with a test program that is not built."""
 
 import os
 import pathlib
@@ -24,7 +24,7 @@ TEST = "#include <gtest/gtest.h>\nTEST(NAME, IsRun) {}\n"
 
 
 def output(*command, environment=()):
-    """What it writes, and whether it succeeds."""
+    """Returns what the command writes, and whether it succeeds."""
     done = subprocess.run(command, env={**os.environ, **dict(environment)}, text=True, check=False,
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     return done.stdout, done.returncode == 0

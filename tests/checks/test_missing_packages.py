@@ -1,4 +1,4 @@
-"""Which packages scripts/common.sh finds missing, on a system that is told to it."""
+"""Which packages scripts/common.sh finds missing, on a simulated system."""
 
 import pathlib
 import subprocess
@@ -12,7 +12,8 @@ KNOWN = ("g++", "cmake", "codec")
 
 @pytest.fixture
 def system(tmp_path):
-    """A folder of programs that speak of another system, and a list of packages beside it."""
+    """Returns a folder with programs that simulate another system, and room for a list of
+    packages."""
     programs = {
         "dpkg-query": f'case " {" ".join(INSTALLED)} " in *" ${{!#}} "*) echo -n installed; esac',
         "apt-cache": f'case " {" ".join(KNOWN)} " in *" $2 "*) exit 0; esac; exit 100',

@@ -8,8 +8,8 @@
 
 namespace vantle {
 
-/// Each desk runs an alert and presses the button of that number, or goes without having pressed
-/// one.
+/// The fake as a desk. A desk runs an alert and presses the button of that number, or closes the
+/// alert without pressing one.
 struct RecordedAlerts {
     int runAndPress(const Alert& asked, std::size_t button) {
         alerts.answer = [button](const Alert&) {

@@ -9,7 +9,7 @@
 namespace vantle {
 
 struct FakeStart {
-    /// What a start finds that has, or has not, a copy before it.
+    /// Returns what a copy does at its start, with or without another copy that runs already.
     static std::string start(bool anotherRuns) {
         fakes::FakeApplication application;
         application.otherCopyRuns = anotherRuns;

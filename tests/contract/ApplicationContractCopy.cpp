@@ -1,5 +1,5 @@
-// A copy of the program for the suite of Application. It says on standard output what happens to
-// it, and ends when its standard input does.
+// A copy of the program for the suite of Application. It prints what happens to it on standard
+// output, and ends when its standard input closes.
 #include <unistd.h>
 
 #include <QGuiApplication>

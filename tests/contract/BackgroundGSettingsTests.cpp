@@ -21,7 +21,7 @@ using testing::IsEmpty;
 constexpr auto schema = "org.vantle.test";
 constexpr auto key = "folder";
 
-// It stands in for the desktop below.
+// The tests below use this fake.
 INSTANTIATE_TYPED_TEST_SUITE_P(FakeGSettings, GSettingsContract, GSettingsInMemory);
 
 class BackgroundGSettingsTest : public testing::Test {
@@ -72,7 +72,7 @@ TEST_F(BackgroundGSettingsTest, TellsWhenAllIsHeardThatWasAskedFor) {
 TEST_F(BackgroundGSettingsTest, WhatIsSetCountsAtOnceAndIsNotTakenBackByAnOlderAnswer) {
     (void)text();
     time.settle();
-    (void)text();  // asked before it is set, answered afterwards
+    (void)text();  // asked for before it is set, answered afterwards
     EXPECT_FALSE(settings->setText(schema, key, "/c").has_value());
     EXPECT_EQ(text(), "/c");
     EXPECT_EQ(desktop->texts[name], "/a");

@@ -12,11 +12,10 @@
 
 namespace vantle {
 
-/// Red, green, and blue.
+/// Red, green and blue.
 using CanvasColor = std::array<int, 3>;
 
-/// Each desk has canvases for screens of any density, and reads a PNG file with the points that it
-/// says it has.
+/// Each desk has canvases for screens of any density, and reads a PNG file with its size in points.
 template <typename Desk>
 class CanvasContract : public testing::Test {
 protected:
@@ -29,7 +28,7 @@ protected:
         const auto pixel = static_cast<std::size_t>(y * image.pixelsWide + x) * 4;
         return {image.rgba.at(pixel), image.rgba.at(pixel + 1), image.rgba.at(pixel + 2)};
     }
-    /// Where there is white, as part of the whole.
+    /// Returns the area that contains all white pixels, as fractions of the picture's size.
     static Rect whitePart(const Image& image) {
         int left = image.pixelsWide;
         int top = image.pixelsHigh;
@@ -77,7 +76,7 @@ TYPED_TEST_P(CanvasContract, AGradientRunsFromCornerToCorner) {
     const CanvasColor middle = this->colorAt(image, 200, 100);
     EXPECT_NEAR(middle[0], 127, 2);
     EXPECT_NEAR(middle[2], 127, 2);
-    // It goes more to the right than down.
+    // The gradient goes more to the right than down.
     EXPECT_GT(this->colorAt(image, 399, 0)[2], this->colorAt(image, 0, 199)[2]);
 }
 

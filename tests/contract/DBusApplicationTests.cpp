@@ -20,7 +20,7 @@ namespace {
 
 constexpr int limit = 30'000;  // milliseconds
 
-/// A program whose lines are read one by one.
+/// A running program, whose lines are read one by one.
 class RunningProgram {
 public:
     RunningProgram(const QString& program, const QStringList& arguments,
@@ -33,7 +33,7 @@ public:
         process_.waitForFinished(limit);
     }
 
-    /// The next line on standard output; empty when there is none any more.
+    /// Returns the next line on standard output, or an empty string if there is none.
     std::string line() {
         while (!process_.canReadLine() && process_.waitForReadyRead(limit)) {
         }
@@ -59,7 +59,7 @@ private:
 
 using Program = std::unique_ptr<RunningProgram>;
 
-/// A session of its own for the copies of the program.
+/// A private session for the copies of the program.
 class Session {
 public:
     Session() {
@@ -144,7 +144,7 @@ TEST_P(CopiesMeet, EachLaterCopyReopensTheFirst) {
     }
 }
 
-/// What the copy that runs answers to another one.
+/// Returns what the running copy answers to another one.
 std::string answerOf(const Session& session, const QStringList& request) {
     const auto asking = session.startCopy(QStringList{QStringLiteral("--action")} + request);
     std::string answer = asking->line();
@@ -167,7 +167,7 @@ TEST_P(CopiesMeet, ALaterCopyAsksTheFirstAndIsAnswered) {
 
 TEST_P(CopiesMeet, WithoutACopyThatRunsThereIsNobodyToAsk) {
     EXPECT_EQ(answerOf(session, {QStringLiteral("pause")}), "refused: Vantle is not running");
-    // Asking did not make it one that others find.
+    // Asking did not make the asking copy one that others find.
     EXPECT_EQ(session.startCopy()->line(), "first");
 }
 
@@ -225,8 +225,8 @@ TEST(DBusApplicationTest, ASignalEndsItInOrder) {
         const auto copy = session.startCopy();
         ASSERT_EQ(copy->line(), "first");
         copy->send(signal);
-        // The thread sanitizer holds a signal back until the next system call; a second one is
-        // that.
+        // The thread sanitizer holds a signal back until the next system call; a second signal
+        // causes one.
         constexpr int timeout = 5'000;
         if (!copy->saysSomething(timeout)) copy->send(signal);
         EXPECT_EQ(copy->line(), "ended");
@@ -234,7 +234,7 @@ TEST(DBusApplicationTest, ASignalEndsItInOrder) {
     }
 }
 
-/// Calls a method of the first copy as a launcher would.
+/// Calls a method of the first copy, as a launcher would.
 QDBusMessage call(const Session& session, const QString& method, const QVariantList& arguments,
                   const QString& interface = QStringLiteral("org.freedesktop.Application")) {
     const QString name = QStringLiteral("tests");
@@ -252,7 +252,7 @@ QDBusMessage click(const Session& session) {
     return call(session, QStringLiteral("Activate"), {QVariantMap{}});
 }
 
-/// A copy that the bus has started.
+/// Starts a copy as the bus does.
 Program startForCall(const Session& session) {
     auto copy = session.startCopy({QStringLiteral("--for-call")});
     EXPECT_EQ(copy->line(), "first");

@@ -6,7 +6,8 @@
 
 namespace vantle {
 
-/// Each desk is set by its user, and has an appearance that follows it from connect() on.
+/// Each desk has a user who chooses the settings, and an appearance that follows them after
+/// connect().
 template <typename Desk>
 class DesktopAppearanceContract : public testing::Test {
 protected:

@@ -114,7 +114,7 @@ TEST_F(DesktopFileOpenerTest, ShowingNothingAsksNobody) {
     EXPECT_THAT(desktop.revealed(1), ElementsAre(file));
 }
 
-/// In a sandbox, where only the portal can be asked.
+/// In a sandbox, where only the portal is available.
 class SandboxedFileOpenerTest : public DesktopFileOpenerTest {
 protected:
     SandboxedFileOpenerTest() {

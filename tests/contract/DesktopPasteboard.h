@@ -33,7 +33,7 @@ inline void saveBytes(const Url& file, const QByteArray& bytes) {
     EXPECT_TRUE(out.open(QFile::WriteOnly) && out.write(bytes) == bytes.size());
 }
 
-/// The toolkit's clipboard, and files to put there.
+/// The toolkit's clipboard, and files to put on it.
 struct DesktopPasteboard {
     TemporaryFolder folder;
     std::shared_ptr<fakes::FakeMediaLoader> media = std::make_shared<fakes::FakeMediaLoader>();

@@ -15,7 +15,7 @@
 
 namespace vantle {
 
-/// A file manager, as far as others ask it to show files.
+/// The part of a file manager that shows files for other programs.
 class FileManagerService final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
@@ -28,7 +28,7 @@ public:
     }
 
     QStringList shown;
-    QStringList properties;  ///< Of what they were shown.
+    QStringList properties;  ///< The properties of the shown files.
 
 public slots:
     void ShowItemProperties(const QStringList& addresses, const QString&) {
@@ -49,7 +49,7 @@ public:
         bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
     }
 
-    /// The paths of what was passed.
+    /// The paths of the files, folders and pages that were opened.
     QStringList opened;
     QStringList openedFolders;
     QStringList openedPages;
@@ -78,7 +78,7 @@ private:
     }
 };
 
-/// The document portal, as far as files are passed to programs in a sandbox.
+/// The part of the document portal that passes files to programs in a sandbox.
 class DocumentPortal final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileTransfer")
@@ -91,8 +91,8 @@ public:
         bus.registerService(QStringLiteral("org.freedesktop.portal.Documents"));
     }
 
-    QMap<QString, QStringList> transfers;  ///< The paths, by their keys.
-    int maximumMessage = 0;                ///< The most files in one.
+    QMap<QString, QStringList> transfers;  ///< The paths by their keys.
+    int maximumMessage = 0;                ///< The highest number of files in one message.
 
 public slots:
     QString StartTransfer(const QVariantMap& options) {

@@ -17,7 +17,7 @@ namespace {
 
 const FolderRequest request = someFolderRequest();
 
-/// A program that writes down its arguments and waits for what it is to say.
+/// A program that writes down its arguments and waits for the answer that it must print.
 class ScriptedProgram {
 public:
     ScriptedProgram() {

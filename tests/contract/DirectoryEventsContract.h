@@ -15,7 +15,7 @@
 
 namespace vantle {
 
-/// What one source told. Any thread.
+/// The changes that one source reported. Any thread may use it.
 class ChangeRecord {
 public:
     DirectoryEvents::Handler handler() {
@@ -39,7 +39,7 @@ public:
         const std::lock_guard lock(mutex_);
         return seen_;
     }
-    /// What was told since the last call of this.
+    /// Returns what was reported since the last call.
     DirectoryChange take() {
         const std::lock_guard lock(mutex_);
         return std::exchange(seen_, {});
@@ -52,7 +52,7 @@ private:
     DirectoryChange seen_;
 };
 
-/// On a disk (FakeDisk.h) with one folder to work in.
+/// A disk (FakeDisk.h) with one folder to work in.
 template <typename Disk>
 class DirectoryEventsContract : public testing::Test {
 protected:
@@ -72,7 +72,7 @@ protected:
     bool sees(ChangeRecord& which) {
         return disk.waitUntil([&] { return which.seen().contents; });
     }
-    /// Goes through the queue once, behind all that was told until now.
+    /// Waits until the queue has handled all events reported so far.
     void letPass() {
         ChangeRecord marker;
         (void)disk.files.createDirectory(disk.place.appending("marker"));
@@ -86,7 +86,7 @@ protected:
     }
     Url file(std::string_view name) const { return disk.folder.appending(name); }
 
-    // Before the disk: nothing is told any more when they go.
+    // Declared before the disk, which reports nothing after its end.
     ChangeRecord record;
     ChangeRecord other;
     Disk disk;

@@ -6,7 +6,8 @@
 
 namespace vantle {
 
-/// Whether the condition comes true within a generous limit, while events are handled.
+/// Handles events until the condition becomes true. Returns false if that takes longer than the
+/// limit.
 [[nodiscard]] inline bool runUntil(const std::function<bool()>& condition) {
     const QDeadlineTimer limit(20'000);
     while (!condition() && !limit.hasExpired())

@@ -19,7 +19,7 @@ public:
     void rename(const Url& from, const Url& to) { files.rename(from, to); }
     void removeFolder(const Url& which) { files.removeDirectory(which); }
     void moveFolder(const Url& from, const Url& to) { files.moveDirectory(from, to); }
-    /// Nothing can be created in it any more.
+    /// Prevents that anything is created in the folder from now on.
     int lock(const Url& which) {
         files.makeReadOnly(which);
         return 0;

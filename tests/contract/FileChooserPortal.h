@@ -9,7 +9,7 @@
 
 namespace vantle {
 
-/// A desktop's portal, as far as it shows file choosers. Somebody has to answer in its place.
+/// The part of a desktop's portal that shows file choosers. The test answers in the user's place.
 class FileChooserPortal final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
@@ -36,7 +36,7 @@ public:
     bool refuses = false;
     QString title;
     QVariantMap options;
-    QString handle;  ///< Of the one that was asked for last.
+    QString handle;  ///< The handle of the latest request.
 
 public slots:
     QDBusObjectPath OpenFile(const QString&, const QString& asked, const QVariantMap& wished) {

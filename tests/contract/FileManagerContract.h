@@ -12,7 +12,7 @@
 
 namespace vantle {
 
-/// On a disk (FakeDisk.h) with one folder to work in.
+/// A disk (FakeDisk.h) with one folder to work in.
 template <typename Disk>
 class FileManagerContract : public testing::Test {
 protected:

@@ -94,7 +94,7 @@ TEST_F(FileMimeDataTest, WhoAsksForTheListOfAddressesHasReadIt) {
 
 TEST_F(FileMimeDataTest, ADragCarriesAddressesOnly) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
-    // The second has nothing in it.
+    // The second format has no contents.
     EXPECT_THAT(data.formats(), ElementsAre("text/uri-list", "application/x-kio-metadata"));
 }
 

@@ -10,7 +10,7 @@
 
 namespace vantle {
 
-/// Each desktop says what its opener was asked for, once that is as many.
+/// The fake as a desktop. A desktop returns what its opener was asked for, after so many requests.
 struct RecordedOpener {
     fakes::FakeFileOpener opener;
 

@@ -17,7 +17,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// With a document portal, on a thread of its own: whoever asks it waits.
+/// Has a document portal on its own thread, because its callers wait for answers.
 class FileTransferPortalTest : public testing::Test {
 protected:
     FileTransferPortalTest() {

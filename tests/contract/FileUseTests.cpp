@@ -20,7 +20,7 @@ protected:
         use.emplace(std::vector{first, second});
     }
 
-    /// Nothing without an answer.
+    /// Returns std::nullopt if there is no answer.
     std::optional<bool> wait(std::chrono::milliseconds timeout) {
         std::optional<bool> answer;
         use->wait(timeout, [&](bool wasUsed) { answer = wasUsed; });

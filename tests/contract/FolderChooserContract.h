@@ -14,8 +14,8 @@ inline FolderRequest someFolderRequest() {
     return {Url::file("/home/user/My Shots"), "Use This Folder", "Choose it."};
 }
 
-/// Each desk shows the chooser, knows whether it is open, answers in the user's place, and runs
-/// until a condition comes true.
+/// The fake as a desk. A desk tells whether the chooser is open, answers in the user's place, and
+/// runs until a condition becomes true.
 struct RecordedChooser {
     bool isOpen() const { return chooser.isOpen(); }
     void answer(const std::optional<Url>& folder) { chooser.close(folder); }
@@ -29,7 +29,7 @@ struct RecordedChooser {
     fakes::FakeFolderChooser chooser{scheduler};
 };
 
-/// What came back, once something did.
+/// Records the chosen folder, and how often the chooser answered.
 struct FolderAnswer {
     FolderChooser::Chosen taker() {
         return [this](const std::optional<Url>& chosen) {

@@ -16,7 +16,7 @@
 namespace vantle {
 namespace {
 
-/// Only what other threads ask of a run loop.
+/// A run loop that only runs work from other threads.
 class PostedWork final : public Scheduler {
 public:
     Instant now() const override { return {}; }
@@ -73,7 +73,7 @@ TEST(FreedesktopTrashTest, EndsWithoutAnswerWhenNobodyWaitsAnyMore) {
         FreedesktopTrash trash(disk.scheduler, disk.environment);
         trash.recycle({disk.folder.appending("shot.png")}, [](const Outcome&) { FAIL(); });
     }
-    // Moved or not when it ended, it is whole.
+    // The file may have been moved or not, but it exists exactly once.
     EXPECT_NE(disk.exists(disk.folder.appending("shot.png")),
               disk.exists(disk.place / "data/Trash/files/shot.png"));
 }

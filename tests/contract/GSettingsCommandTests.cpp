@@ -18,7 +18,7 @@ namespace {
 constexpr auto schema = "org.vantle.test";
 constexpr auto key = "folder";
 
-/// Variables of the environment, as they were before, afterwards.
+/// Changes environment variables, and restores them at its end.
 class ChangedEnvironment {
 public:
     explicit ChangedEnvironment(const std::map<const char*, std::string>& values) {
@@ -39,7 +39,7 @@ private:
     std::map<const char*, std::optional<QByteArray>> before_;
 };
 
-/// The real command with a schema of its own, keeping what is set in a file.
+/// The real command with its own schema, which keeps the settings in a file.
 struct Command {
     Command() {
         writeText(folder / "org.vantle.test.gschema.xml",

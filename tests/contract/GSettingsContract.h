@@ -10,7 +10,7 @@
 
 namespace vantle {
 
-/// Each store has one key, with an empty text by default.
+/// The fake as a store. A store has one key, whose default is an empty text.
 struct GSettingsInMemory {
     GSettingsInMemory() { settings.texts["org.vantle.test folder"] = ""; }
 

@@ -260,7 +260,7 @@ TEST_F(IniFileTest, ChangesOfOthersToOtherKeysStay) {
     EXPECT_EQ(IniUserDefaults(file).number("theirs"), 7);
 }
 
-/// Writes one setting after the other and says so with a byte for each, until it is killed.
+/// Writes one setting after another, and a byte to `said` after each, until it is killed.
 [[noreturn]] void writeForEver(const Url& file, int said) {
     IniUserDefaults defaults(file);
     for (double number = 1;; ++number) {

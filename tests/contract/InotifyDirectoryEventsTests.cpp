@@ -19,7 +19,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(InotifyDirectoryEvents, DirectoryEventsContract, 
 
 class InotifyDirectoryEventsTest : public DirectoryEventsContract<RealDisk> {
 protected:
-    /// Nothing else of this process opens descriptors here.
+    /// Returns the number of open descriptors; nothing else in this process changes it meanwhile.
     static std::size_t openDescriptors() {
         const std::filesystem::directory_iterator all("/proc/self/fd");
         return static_cast<std::size_t>(std::distance(begin(all), end(all)));
@@ -37,7 +37,7 @@ TEST_F(InotifyDirectoryEventsTest, AnOverflowOfTheKernelsQueueIsAChangeOfTheCont
 
     const auto source = open(disk.folder, record);
     ASSERT_NE(source, nullptr);
-    // Equal events one after the other would count as one.
+    // Otherwise the kernel would merge equal events into one.
     for (std::size_t i = 0; i <= limit; ++i) chmod((i % 2 ? a : b).path().c_str(), 0600);
     disk.save(file("after.png"));
     source->resume();
@@ -65,7 +65,7 @@ TEST_F(InotifyDirectoryEventsTest, AnUnmountedFolderIsLostOnce) {
 TEST_F(InotifyDirectoryEventsTest, AFolderInWhichSomebodyStandsIsLostWhenItIsRemoved) {
     const auto source = watch(disk.folder, record);
     ASSERT_NE(source, nullptr);
-    // As a shell does that stands in it, or who reads a file of it.
+    // A shell in the folder, or a program that reads a file in it, also keeps it open.
     const FileDescriptor inside(::open(disk.folder.path().c_str(), O_RDONLY | O_DIRECTORY));
     ASSERT_TRUE(inside);
     std::filesystem::remove_all(disk.folder.path());

@@ -7,7 +7,7 @@
 namespace vantle {
 namespace {
 
-/// The text after a key was set.
+/// Returns the text after a key was set.
 std::string withSet(std::string_view before, std::string_view group, std::string_view key,
                     std::string_view value) {
     KeyFile file(before);

@@ -12,9 +12,8 @@ namespace vantle {
 
 enum class End { killed, done };
 
-/// Runs `work` in a process of its own, lets that make `stops` stops at system calls, two for each,
-/// and kills it at the last. `work` gives whether it succeeded; where it comes to its end it has
-/// to.
+/// Runs `work` in its own process, and kills it after `stops` stops. Each system call makes two
+/// stops. `work` returns whether it succeeded; if it is not killed, it must succeed.
 inline End runAndKill(const std::function<bool()>& work, int stops) {
     const pid_t child = fork();
     if (child == 0) {

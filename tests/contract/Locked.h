@@ -10,8 +10,9 @@
 
 namespace vantle {
 
-/// A file or folder with fewer permissions while it lives. Meanwhile this thread touches files as
-/// an ordinary user, who owns it: root may do everything, and a test would prove nothing.
+/// Reduces the permissions of a file or folder during its lifetime. Meanwhile this thread accesses
+/// files as an ordinary user, who owns the file: root may do everything, so a test would prove
+/// nothing.
 class Locked {
 public:
     Locked(const Url& file, std::filesystem::perms kept) : path_(file.path()) {

@@ -8,8 +8,8 @@
 
 namespace vantle {
 
-/// Each desktop has an item that is not registered, and forbids any change while what forbid()
-/// gives lives.
+/// The fake as a desktop. A desktop has an item that is not registered, and forbids changes during
+/// the lifetime of what forbid() returns.
 struct RememberedItem {
     fakes::FakeLoginItem item;
 

@@ -9,7 +9,7 @@
 
 namespace vantle {
 
-/// What the sample files of these names measure. Each kind of media has them, and a loader.
+/// The sizes of the sample files with these names. Each kind of media has such files and a loader.
 struct SampleMedia {
     static constexpr Size usual{64, 48};
     static constexpr Size denseInPixels{2940, 1912};

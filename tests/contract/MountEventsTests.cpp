@@ -11,7 +11,7 @@
 namespace vantle {
 namespace {
 
-/// Mounts that nobody else sees. False where that is not allowed.
+/// Enters a private mount namespace. Returns false if that is not allowed.
 bool enterMountsOfItsOwn() {
     return unshare(CLONE_NEWNS) == 0 &&
            mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;

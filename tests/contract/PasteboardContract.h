@@ -23,7 +23,7 @@ struct MemoryPasteboard {
         files.write(folder.appending(name), 1, fakes::VirtualClock::epoch);
         return folder.appending(name);
     }
-    /// "image" for a picture, the path of a file.
+    /// Returns "image" for a picture, and the path of a file.
     std::vector<std::string> contents() {
         std::vector<std::string> contents;
         for (const auto& one : pasteboard.contents())

@@ -1,4 +1,4 @@
-// What the portal tells about how programs shall look, asked over a real bus.
+// The appearance that the portal reports, over a real bus.
 #include <gtest/gtest.h>
 
 #include <QDBusArgument>

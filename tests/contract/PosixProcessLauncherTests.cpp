@@ -22,7 +22,7 @@ namespace {
 
 using Arguments = std::vector<std::string>;
 
-/// Starts a shell that writes its arguments down, one behind a zero byte each.
+/// Starts a shell that writes its arguments to a file, each followed by a zero byte.
 struct RealLauncher {
     TemporaryFolder folder;
     PosixProcessLauncher launcher;
@@ -49,7 +49,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(PosixProcessLauncher, ProcessLauncherContract, Re
 
 class PosixProcessLauncherTest : public testing::Test {
 protected:
-    /// What a shell script, run with the folder as its working folder, leaves in the file "out".
+    /// Runs a shell script in the folder, and returns what it writes to the file "out".
     std::string outputOf(const std::string& script) { return outputOf(script, launcher); }
 
     std::string outputOf(const std::string& script, PosixProcessLauncher& starter) {

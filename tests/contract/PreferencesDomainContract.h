@@ -11,8 +11,8 @@
 
 namespace vantle {
 
-/// Each store has a domain in which nothing stands, and is changed by others as well. It keeps the
-/// keys of ScreenshotPreferences.h at the least, and folders that exist.
+/// The fake as a store. A store has an empty domain that others change as well. It keeps at least
+/// the keys of ScreenshotPreferences.h, and paths of folders that exist.
 struct MemoryDomain {
     fakes::FakePreferencesDomain domain;
 

@@ -14,7 +14,7 @@ namespace {
 using testing::ElementsAre;
 using Sandbox = DesktopFileOpener::Sandbox;
 
-/// The settings of GNOME, as far as they show a page.
+/// The part of GNOME's settings that shows a page.
 class SettingsService final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")

@@ -8,8 +8,8 @@
 
 namespace vantle {
 
-/// A message bus of its own, for as long as it lives. It starts none of the services that this
-/// system has installed.
+/// A private message bus, which ends with this object. It starts none of the services that are
+/// installed on this system.
 class PrivateBus {
 public:
     PrivateBus() {
@@ -30,7 +30,7 @@ public:
         process_.waitForFinished();
     }
 
-    /// A connection of its own each time.
+    /// Returns a new connection each time.
     QDBusConnection connect() const {
         return QDBusConnection::connectToBus(address_, QUuid::createUuid().toString());
     }

@@ -42,7 +42,7 @@ int whitePixels(const QImage& image) {
     return count;
 }
 
-/// How many pixels are white of the letters "HHH" in that weight, as many pixels high.
+/// Returns how many pixels are white in the letters "HHH" of that weight and height in pixels.
 int whitePixels(QFont::Weight weight, int pixels) {
     QImage image(400, 200, QImage::Format_RGB32);
     image.fill(Qt::black);

@@ -1,8 +1,8 @@
-# The suites of the backends on Qt. They bring displays and a message bus of their own.
+# The suites of the backends that use Qt. They start their own displays and message bus.
 add_executable(application_copy ${CMAKE_CURRENT_LIST_DIR}/ApplicationContractCopy.cpp)
 target_link_libraries(application_copy PRIVATE vantle_platform_freedesktop vantle_warnings)
 
-# Also used by the desktop tests.
+# The desktop tests use it as well.
 add_executable(settings-portal ${CMAKE_CURRENT_LIST_DIR}/SettingsPortalProgram.cpp
                                ${CMAKE_CURRENT_LIST_DIR}/SettingsPortal.h)
 set_target_properties(settings-portal PROPERTIES AUTOMOC ON)

@@ -32,7 +32,8 @@ public:
     void rename(const Url& from, const Url& to) { std::filesystem::rename(from.path(), to.path()); }
     void removeFolder(const Url& which) { std::filesystem::remove_all(which.path()); }
     void moveFolder(const Url& from, const Url& to) { rename(from, to); }
-    /// While what it returns lives, only what `kept` allows can be done in it.
+    /// Only what `kept` permits can be done in the folder during the lifetime of the returned
+    /// object.
     Locked lock(const Url& which, std::filesystem::perms kept = readable) {
         return Locked(which, kept);
     }

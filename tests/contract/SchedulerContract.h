@@ -24,7 +24,7 @@ struct VirtualRunLoop {
     }
 };
 
-/// What ran, in order.
+/// Records the order in which work runs.
 class SchedulerRecord {
 public:
     Scheduler::Work note(const std::string& name) {

@@ -22,7 +22,7 @@ inline bool overlap(const Rect& left, const Rect& right) {
            right.minY() < left.maxY();
 }
 
-/// On a desktop with at least one screen.
+/// A desktop with at least one screen.
 template <typename Desktop>
 class ScreensContract : public testing::Test {
 protected:

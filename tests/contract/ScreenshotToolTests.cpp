@@ -69,15 +69,15 @@ protected:
     ToolPreferencesDomain domain(const std::string& tool, const Url& memory) const {
         return {description(tool), home, memory};
     }
-    /// The folder that its recordings are found to be saved into.
+    /// Returns the name of the folder that the tool saves recordings into.
     std::string recordingsFolderOf(const std::string& tool) const {
         const auto recordings = description(tool).recordingsFolder;
         if (!recordings) return "none";
         return std::filesystem::path(recordings().path()).lexically_relative(home.path());
     }
-    /// Spectacle as it was until it stood on Qt 6.
+    /// Installs Spectacle in its last version for Qt 5.
     void installSpectacleForQt5() const { writeIn("share/knotifications5/spectacle.notifyrc", ""); }
-    /// The name of the folder that the tool is found to save into.
+    /// Returns the name of the folder that the tool saves into.
     std::string folderOf(const std::string& tool) const {
         const auto path = domain(tool).value(location);
         if (!path) return "none";
@@ -103,7 +103,7 @@ const std::vector<std::string> allTools{
     "spectacle", "xfce4-screenshooter", "gnome-screenshot", "mate-screenshot", "flameshot",
     "ksnip",     "screengrab",          "gnome-shell"};
 
-/// Where those with a settings file keep their folder.
+/// The settings file and the key in which each of these tools keeps its folder.
 const std::map<std::string, std::pair<std::string, std::string>> files{
     {"spectacle", {".config/spectaclerc", "[ImageSave]\nimageSaveLocation"}},
     {"xfce4-screenshooter", {".config/xfce4/xfce4-screenshooter", "screenshot_dir"}},
@@ -341,7 +341,7 @@ TEST_F(ScreenshotToolTest, AnotherSpellingOfTheToolsOwnIsNoChange) {
     makeFolder("old");
     writeIn(".config/xfce4/xfce4-screenshooter", "screenshot_dir=file:~/old\n");
     setFolder("xfce4-screenshooter", makeFolder("a b"));
-    // As the tool writes it after its next screenshot.
+    // The tool writes its settings like this after its next screenshot.
     writeIn(".config/xfce4/xfce4-screenshooter", "screenshot_dir=file:~/a b\n");
     EXPECT_EQ(domain("xfce4-screenshooter").previousValue(location),
               PreferenceValue(inHome("old").path()));

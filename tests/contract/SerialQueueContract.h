@@ -22,7 +22,7 @@ struct VirtualQueue {
     }
 };
 
-/// What ran, in order. Any thread.
+/// Records the order in which work runs. Any thread may use it.
 class QueueRecord {
 public:
     SerialQueue::Work note(const std::string& name) {
@@ -48,7 +48,7 @@ private:
 template <typename Queue>
 class SerialQueueContract : public testing::Test, public QueueRecord {
 protected:
-    // Behind the record: no work outlives it.
+    // Declared after the record, so that no work outlives the record.
     Queue made;
     SerialQueue& queue = made.queue;
 };

@@ -8,7 +8,7 @@
 
 namespace vantle {
 
-/// A desktop's settings portal, as far as programs read how they shall look.
+/// The part of a desktop's settings portal that tells programs how to look.
 class SettingsPortal final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")

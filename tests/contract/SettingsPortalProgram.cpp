@@ -1,5 +1,6 @@
-// The settings portal as a program, for tests of the whole desktop. It reads "color-scheme 1" or
-// "reduced-motion 1" from standard input, line by line, and answers "ok"; it ends with its input.
+// The settings portal as a program, for tests of the whole desktop. It reads lines like
+// "color-scheme 1" or "reduced-motion 1" from standard input and answers "ok" to each; it ends when
+// its input closes.
 #include <unistd.h>
 
 #include <QCoreApplication>

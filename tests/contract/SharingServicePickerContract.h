@@ -11,7 +11,7 @@
 
 namespace vantle {
 
-/// Keeps what it is told: the titles of chosen services, "" for a menu that closed.
+/// Records the titles of chosen services, or "" for a menu that closed.
 class SharingListener final : public SharingServicePickerDelegate {
 public:
     void sharingServicePickerDidChoose(const SharingService* service) override {

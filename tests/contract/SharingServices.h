@@ -10,7 +10,8 @@
 
 #include "platform/freedesktop/sharing/ManagedObjects.h"
 
-// What programs that take files offer on the message bus, as far as others use it.
+// Programs that accept files, with the parts of their interfaces on the message bus that others
+// use.
 namespace vantle {
 
 class KdeConnectDaemon final : public QObject {
@@ -53,7 +54,7 @@ public:
     KdeConnectDevice device;
 };
 
-/// Tells what a service has.
+/// Lists the objects of a service.
 class ObjectManager final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.DBus.ObjectManager")
@@ -77,7 +78,7 @@ class GsConnectDevice final : public QObject {
     Q_CLASSINFO("D-Bus Interface", "org.gtk.Actions")
 
 public:
-    /// Addresses; a file that is to be opened at the other end has a "!" in front.
+    /// The received addresses; those to be opened at the other end have a "!" in front.
     QStringList received;
 
 public slots:
@@ -106,7 +107,7 @@ public:
     }
     uint version() const { return 3; }
 
-    QList<QByteArray> attached;  ///< The contents.
+    QList<QByteArray> attached;  ///< The contents of the files.
 
 public slots:
     QDBusObjectPath ComposeEmail(const QString&, const QVariantMap& options) {

@@ -1,4 +1,4 @@
-// Who takes files, asked over a real bus.
+// Finds the programs that accept files, over a real bus.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

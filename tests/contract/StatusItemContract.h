@@ -11,8 +11,8 @@
 
 namespace vantle {
 
-/// Each tray comes and goes, opens the menu of its item as people see it (a rule is "-"), and
-/// chooses from it.
+/// The fake as a tray. A tray can appear and go, opens the item's menu and returns it as people see
+/// it (a separator is "-"), and chooses from it.
 struct RecordedTray {
     fakes::FakeStatusItem item;
 

@@ -10,7 +10,7 @@
 
 namespace vantle {
 
-/// A folder of one test, which goes with it.
+/// A temporary folder, which is removed with this object.
 class TemporaryFolder {
 public:
     TemporaryFolder() {

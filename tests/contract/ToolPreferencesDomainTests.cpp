@@ -12,7 +12,7 @@
 namespace vantle {
 namespace {
 
-/// What a screenshot tool keeps; only of its folder, and only one that exists.
+/// The settings of a screenshot tool. They hold only the tool's folder, which must exist.
 struct ToolDomain {
     TemporaryFolder folder;
     fakes::FakeEnvironment environment{{"HOME", folder.url().path()}};

@@ -45,7 +45,7 @@ protected:
         return file;
     }
     Outcome move(const Url& file) { return moveToTrash(file, data); }
-    /// The path that the information of a trashed file has.
+    /// Returns the original path that the .trashinfo file of a trashed file holds.
     static std::string storedPath(const Url& trash, const std::string& name) {
         const std::string text = readText(trash.appending("info/" + name + ".trashinfo"));
         std::smatch match;
@@ -197,9 +197,9 @@ protected:
         writeText(file, contents);
         return file;
     }
-    /// A Trash of the volume's own cannot be made any more.
+    /// Prevents that the volume gets its own Trash.
     void preventTrash() { writeText(own, "in the way"); }
-    /// Leaves no room for contents on a volume.
+    /// Fills a volume so that no contents fit on it.
     static void fill(const Url& folder) {
         const std::string block(4096, 'x');
         const Url file = folder.appending("filler");
@@ -323,7 +323,8 @@ TEST_F(VolumeTrashTest, ABoundFolderHasATrashOfItsOwn) {
 /// Kills a process that moves a file, at each of its system calls in turn.
 class KilledMoveTest : public VolumeTrashTest {
 protected:
-    /// The file is whole where it was, or whole in the Trash with its information.
+    /// Expects the complete file at its old place, or in the Trash together with its .trashinfo
+    /// file.
     void expectSafe(const Url& file, const Url& where, const std::string& stored) {
         const bool stayed = exists(file) && readText(file) == contents;
         bool arrived = false;
@@ -333,7 +334,8 @@ protected:
         EXPECT_TRUE(stayed || arrived);
     }
 
-    /// Until one comes through, beside a file of that name that is in the Trash already.
+    /// Repeats the move, killed one stop later each time, until it succeeds. The Trash already has
+    /// a file of that name.
     void killAtEveryStep(const Url& file, const Url& where, const std::string& stored) {
         fs::create_directories(where.appending("files").path());
         fs::create_directories(where.appending("info").path());
@@ -348,7 +350,7 @@ protected:
             expectSafe(file, where, stored);
             EXPECT_EQ(readText(where.appending("files/shot.png")), "of somebody");
         }
-        // It did make system calls that could be stopped at.
+        // The process stopped at system calls, so it was killed in the middle of its work.
         EXPECT_GT(calls, 20);
     }
 };

@@ -13,7 +13,7 @@
 
 namespace vantle {
 
-/// A tray, as far as it shows items over D-Bus and draws their menus.
+/// The part of a tray that shows items over D-Bus and draws their menus.
 class TrayService final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
@@ -36,18 +36,18 @@ public:
         item_.clear();
     }
 
-    /// Shows the item of another tray, too.
+    /// Also shows the item of another tray.
     void share(const TrayService& other) { item_ = other.item_; }
-    /// Is gone from the bus without a word, as a program that crashes.
+    /// Leaves the bus abruptly, like a program that crashes.
     void die() {
         QDBusConnection::disconnectFromBus(bus_.name());
-        bus_ = QDBusConnection(QStringLiteral("none"));  // the last that holds it
+        bus_ = QDBusConnection(QStringLiteral("none"));  // drops the last reference
     }
     int layoutUpdates() const { return layoutUpdates_; }
 
     bool hasItem() const { return !item_.isEmpty(); }
     bool hasHost() const { return hasHost_; }
-    /// Whether anybody shows what is registered.
+    /// Sets whether anybody shows the registered items.
     void setHost(bool hasHost) {
         hasHost_ = hasHost;
         if (hasHost)
@@ -56,7 +56,7 @@ public:
             emit StatusNotifierHostUnregistered();
     }
 
-    /// The reply to a call to the item, or to its menu.
+    /// Returns the reply to a call to the item or to its menu.
     QDBusMessage call(const QString& object, const QString& interface, const QString& method,
                       const QVariantList& arguments) {
         auto message = QDBusMessage::createMethodCall(item_, object, interface, method);
@@ -77,7 +77,7 @@ public:
         return reply.arguments().value(0).value<QDBusVariant>().variant();
     }
 
-    /// Opens the menu as trays do.
+    /// Opens the menu, as trays do.
     BusMenuLayout open() {
         callMenu(QStringLiteral("AboutToShow"), {0});
         return layout();

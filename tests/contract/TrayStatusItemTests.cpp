@@ -52,7 +52,8 @@ struct BusTray {
         return vantle::runUntil(condition);
     }
 
-    /// As a tray shows it: an underscore marks the letter behind it, two are one.
+    /// Returns the label as a tray shows it: an underscore marks the letter after it, two are one
+    /// underscore.
     static std::string label(const BusMenuLayout& line) {
         QString text = line.properties.value(QStringLiteral("label")).toString();
         for (qsizetype i = text.indexOf(u'_'); i >= 0; i = text.indexOf(u'_', i + 1))
@@ -255,7 +256,8 @@ TEST(TrayWithoutHostTest, RegisteringIsNotBeingShown) {
     tray.start();
     tray.item.show();
     ASSERT_TRUE(runUntil([&] { return tray.tray.hasItem(); }));
-    // What was asked first is answered first: then it knows that there is no host.
+    // Calls are answered in order: after this answer, the item has also learned that there is no
+    // host.
     EXPECT_EQ(tray.tray.property(QStringLiteral("Status")), QStringLiteral("Active"));
     EXPECT_FALSE(tray.item.isShown());
 }

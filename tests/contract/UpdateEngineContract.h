@@ -23,7 +23,7 @@ inline UpdateItem someUpdate() {
             .signature = "a+/="};
 }
 
-/// A fake that is told what to report.
+/// A fake that reports what the test tells it to report.
 struct ToldEngine {
     fakes::FakeUpdateEngine::Record record;
     std::unique_ptr<UpdateEngine> engine = std::make_unique<fakes::FakeUpdateEngine>(record);

@@ -20,7 +20,7 @@ using testing::ElementsAre;
 
 const UpdateItem item = someUpdate();
 
-/// A program that prints what a file holds.
+/// A program that prints the contents of a file.
 struct ProgramEngine {
     ProgramEngine() { setScript("cat \"$0.reports\""); }
 
@@ -54,7 +54,7 @@ protected:
         EXPECT_TRUE(runUntil([&] { return last.has_value(); }));
         return *last;
     }
-    /// The arguments that the program writes into a file, once they are there.
+    /// Waits until the program has written its arguments into a file, and returns them.
     std::vector<std::string> arguments() {
         QFile file(desk.program + QStringLiteral(".arguments"));
         EXPECT_TRUE(runUntil([&] { return file.size() > 0; }));

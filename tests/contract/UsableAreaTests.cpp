@@ -1,4 +1,4 @@
-// What the panels of a desktop leave free on each of several screens.
+// The areas of several screens that the panels of a desktop leave free.
 
 #include <gtest/gtest.h>
 
@@ -31,14 +31,15 @@ TEST(UsableAreaTest, EachEdgeCanBeTaken) {
 }
 
 TEST(UsableAreaTest, AStrutReachesToAScreenThatEndsBeforeTheOthers) {
-    // The panel at the lower edge of the smaller screen: the strut counts from the larger one's.
+    // A panel at the lower edge of the smaller screen. Its strut is counted from the larger
+    // screen's edge.
     const std::vector<Strut> struts{{QRect(1920, 690, 1280, 30), QRect(1920, 690, 1280, 390)}};
     EXPECT_EQ(withoutStruts(right, struts), QRect(1920, 0, 1280, 690));
     EXPECT_EQ(withoutStruts(left, struts), left);
 }
 
 TEST(UsableAreaTest, APanelBetweenTwoScreensTakesNothingFromTheOther) {
-    // At the left edge of the right screen: the strut reaches across the whole left one.
+    // A panel at the left edge of the right screen. Its strut reaches across the whole left screen.
     const std::vector<Strut> struts{{QRect(1920, 0, 48, 720), QRect(0, 0, 1968, 720)}};
     EXPECT_EQ(withoutStruts(left, struts), left);
     EXPECT_EQ(withoutStruts(right, struts), QRect(1968, 0, 1232, 720));

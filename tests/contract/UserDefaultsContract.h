@@ -13,7 +13,7 @@ struct MemoryDefaults {
     fakes::FakeUserDefaults defaults;
 };
 
-/// In a store in which nothing stands.
+/// An empty store.
 template <typename Store>
 class UserDefaultsContract : public testing::Test {
 protected:

@@ -6,7 +6,7 @@
 
 namespace vantle {
 
-/// Whether the condition comes true within a generous limit; looks again and again.
+/// Checks the condition again and again. Returns false if it is not true within the limit.
 inline bool waitUntil(const std::function<bool()>& condition) {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
     while (!condition()) {

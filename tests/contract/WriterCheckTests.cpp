@@ -68,12 +68,13 @@ TEST_F(WriterCheckTest, AWriterInAnotherProcessCountsUntilItEnds) {
     close(ready[1]);
 }
 
-/// As another user than the file's owner, to whom the kernel gives no lease: bit 0 tells whether a
-/// writer was found while this process was one, bit 1 whether one was found afterwards.
+/// Runs as a user who does not own the file, so the kernel gives no lease. Bit 0 of the result
+/// tells whether a writer was found while this process had the file open for writing, bit 1 whether
+/// one was found after it had closed the file.
 int foundByAnotherUser(const Url& file) {
     constexpr uid_t nobody = 65534;
     if (setgid(nobody) != 0 || setuid(nobody) != 0) return -1;
-    prctl(PR_SET_DUMPABLE, 1);  // a change of user hides a process from itself
+    prctl(PR_SET_DUMPABLE, 1);  // readable again after the change of user
     FileDescriptor writer(::open(file.path().c_str(), O_WRONLY));
     if (!writer) return -1;
     const int during = hasWriter(file) ? 1 : 0;

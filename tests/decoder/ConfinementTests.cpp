@@ -43,7 +43,7 @@ TEST_P(ConfinementWithout, StillOpensFilesAndSaysSoOnce) {
     if (!hasLandlock()) GTEST_SKIP() << "this kernel lacks Landlock anyway";
     fakes::CapturedLog log;
     ConfinedMediaLoader loader(GetParam().decoder, one);
-    // Two formats, so that two decoders are started.
+    // Two formats, so that two decoders start.
     for (const auto* name : {"rgb.png", "baseline.jpg"}) {
         const auto image = loader.openImage(file(name));
         ASSERT_NE(image, nullptr);
@@ -89,7 +89,7 @@ std::string outputOf(const char* command) {
     return output;
 }
 
-// The program and its views, with all that they are linked with.
+// The program and its views, with all libraries that they link.
 class LinkedLibraries : public testing::TestWithParam<const char*> {
 protected:
     std::string all() const { return outputOf((std::string("ldd ") + GetParam()).c_str()); }
@@ -101,7 +101,7 @@ protected:
 TEST_P(LinkedLibraries, HoldNoCodec) {
     const std::string libraries = all();
     EXPECT_NE(libraries.find("libQt6Gui"), std::string::npos);
-    // Not libpng, which Qt brings with it for its own icons.
+    // libpng is missing here, because Qt uses it for its own icons.
     for (const auto* codec :
          {"libisal", "libjpeg", "libturbojpeg", "libtiff", "libgif", "libheif", "libde265",
           "libdav1d", "libaom", "libwebp", "libpoppler", "libavcodec", "libavformat", "libswscale",

@@ -158,7 +158,7 @@ class ProfiledImage : public testing::TestWithParam<const char*> {};
 TEST_P(ProfiledImage, IsShownInTheColorsOfAScreen) {
     const auto image = drawn(GetParam());
     ASSERT_NE(image, nullptr);
-    // Stored as red and green, by a profile in which the two have changed places.
+    // The file stores red and green exchanged, with a profile that exchanges them back.
     EXPECT_THAT(quarters(*image), IsAbout(std::array{green, red, blue, yellow}, 12));
 }
 
@@ -181,7 +181,7 @@ TEST(PdfTest, LettersOfAFontThatIsNotInTheFileAreDrawn) {
     ASSERT_NE(image, nullptr);
     const auto dark = std::count_if(image->rgba.begin(), image->rgba.end(),
                                     [](std::uint8_t part) { return part < 64; });
-    // Three large letters, of three parts a pixel.
+    // The letters have more than 300 dark pixels of three parts each.
     EXPECT_GT(dark, 3 * 300);
     EXPECT_THAT(only(colorAt(*image, 1, 1)), IsAbout(only(white), 0));
 }

@@ -13,7 +13,7 @@ namespace {
 
 using namespace samples;
 
-/// A folder is gone for good, and whoever watches it is told, once nobody holds a file of it.
+/// The kernel reports a deleted folder as gone only when nobody holds a file in it.
 class HeldFile : public testing::Test {
 protected:
     HeldFile() {
@@ -30,7 +30,8 @@ protected:
     bool isFolderGoneWhenItIsRemoved() {
         std::filesystem::remove_all(folder.path());
         pollfd said{watch.get(), POLLIN, 0};
-        // The decoder's end would let go of everything, but is not to be waited for.
+        // The end of the decoder would release everything, so the test waits for less than that
+        // time.
         constexpr int milliseconds = decoder::decoderTimeout * 1000 / 2;
         return poll(&said, 1, milliseconds) > 0;
     }

@@ -31,7 +31,7 @@ bool isRecording(const std::string& name) {
     return std::ranges::any_of(extensions, [&](auto* each) { return name.ends_with(each); });
 }
 
-/// Opens whatever it is told to, and shows after it that the next good file still gets its picture.
+/// Opens a file, and expects that the decoder still draws a good file afterwards.
 class HostileFile : public testing::Test {
 protected:
     void open(const Url& url) {
@@ -60,7 +60,7 @@ protected:
     Loader loader;
 };
 
-// The sanitizers look closer, and take many times as long.
+// The sanitizers find more, and take many times as long.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr std::uintmax_t places = 20;
 constexpr int times = 200;
@@ -74,7 +74,7 @@ class CutOff : public HostileFile, public testing::WithParamInterface<const char
 TEST_P(CutOff, EverySampleAtManyPlacesHarmsNobody) {
     int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(VANTLE_SAMPLES)) {
-        // These take as long as anybody lets them, wherever they are cut off.
+        // These use all the time that they are allowed, wherever they are cut off.
         const bool isLong =
             entry.path().stem() == "endless" || entry.path().stem() == "many_scans" ||
             entry.path().stem() == "large_progressive" || entry.path().stem() == "large_frames";
@@ -143,7 +143,7 @@ INSTANTIATE_TEST_SUITE_P(Samples, Flipped, testing::ValuesIn(ofEachKind));
 
 class Bomb : public testing::TestWithParam<const char*> {
 protected:
-    /// What making the thumbnail takes, in the decoder or out of it, in KiB.
+    /// Returns the peak memory in KiB that a thumbnail takes, inside and outside the decoder.
     long peakMemory(const Url& url) {
         const Url out = folder / "out.png";
         std::string program = VANTLE_DECODER;
@@ -227,7 +227,7 @@ TEST_F(HostileFile, AFileThatGrowsOrShrinksMeanwhileHarmsNobody) {
     std::filesystem::copy_file(file("letters.pdf").path(), copy.path());
     const auto image = loader.openImage(copy);
     ASSERT_NE(image, nullptr);
-    // The decoder has it mapped.
+    // The decoder has mapped the file into memory.
     std::filesystem::resize_file(copy.path(), 0);
     EXPECT_EQ(image->draw(usual), nullptr);
     expectGoodFileWorks();

@@ -19,7 +19,7 @@ namespace {
 using namespace samples;
 using namespace std::chrono_literals;
 
-/// Decoders are nobody's children; here they become this process's, so that it sees them end.
+/// Decoders have no living parent. This process becomes their parent, so that it sees them end.
 class DecoderLifetime : public testing::Test {
 protected:
     DecoderLifetime() { prctl(PR_SET_CHILD_SUBREAPER, 1); }
@@ -36,7 +36,7 @@ protected:
         return children;
     }
 
-    /// How the next decoder to end ends.
+    /// Waits for the next decoder that ends, and returns its status.
     static int statusOfEnded() {
         int status = -1;
         EXPECT_TRUE(waitUntil([&] { return waitpid(-1, &status, WNOHANG) > 0; }));
@@ -87,7 +87,7 @@ TEST_F(DecoderLifetime, ItGoesWhenNothingIsAskedOfItAndComesBack) {
     const auto image = loader.openImage(file("rgb.png"));
     ASSERT_NE(image, nullptr);
     ASSERT_EQ(decoders().size(), 1U);
-    // After ten seconds, by itself.
+    // A decoder ends by itself after ten seconds.
     EXPECT_EQ(statusOfEnded(), 0);
     EXPECT_THAT(decoders(), testing::IsEmpty());
     EXPECT_NE(image->draw(usual), nullptr);
@@ -127,7 +127,7 @@ TEST_F(DecoderLifetime, OneThatDiedBetweenRequestsCostsNothing) {
     EXPECT_NE(image->draw(usual), nullptr);
 }
 
-/// The probe dies over its second file, as one may for what the first has done to it.
+/// The probe dies at its second file, as a decoder may that the first file has damaged.
 TEST_F(DecoderLifetime, OneThatDiesOverTheNextFileIsReplaced) {
     ConfinedMediaLoader loader(VANTLE_PROBE_DECODER, [] { return 1.0; });
     for (int i = 0; i < 3; ++i) EXPECT_NE(loader.openImage(file("rgb.png")), nullptr) << i;

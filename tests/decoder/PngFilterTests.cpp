@@ -11,7 +11,7 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// Four bytes more than there are, as undoPngFilters() wants it.
+/// undoPngFilters() needs four bytes more than the rows have.
 constexpr std::size_t spare = 4;
 
 struct StoredRows {
@@ -37,7 +37,7 @@ int prediction(int filter, int left, int up, int upLeft) {
     return fromUp <= fromUpLeft ? up : upLeft;
 }
 
-/// As the standard has it, byte by byte.
+/// Undoes the filters as the standard defines them, byte by byte.
 Bytes undoneByTheBook(const StoredRows& rows) {
     Bytes result;
     for (std::size_t row = 0; row < rows.count; ++row) {
@@ -57,7 +57,7 @@ Bytes undoneByTheBook(const StoredRows& rows) {
 }
 
 Bytes undone(const StoredRows& rows, Processor processor) {
-    // What stands behind the rows is not touched.
+    // undoPngFilters() does not change the bytes after the rows.
     constexpr std::uint8_t untouched = 0xa5;
     Bytes result(rows.size() * rows.count + spare, untouched);
     EXPECT_TRUE(undoPngFilters(rows.stored.data(), rows.above.data(), result.data(), rows.count,
@@ -71,7 +71,7 @@ Bytes undone(const StoredRows& rows, Processor processor) {
 
 class PngFilters : public testing::TestWithParam<Processor> {
 protected:
-    /// `filters` is what each row's is chosen from.
+    /// The filter of each row is chosen from `filters`.
     StoredRows rows(std::size_t pixels, std::size_t count, std::size_t bytesPerPixel,
                     const Bytes& filters) {
         StoredRows made{pixels, count, bytesPerPixel, {}, {}};
@@ -86,8 +86,8 @@ protected:
     }
 
 private:
-    /// Of few values at times: where neighbours are equal or at the ends of what a byte holds, it
-    /// matters which of them is taken.
+    /// Returns random bytes, half of the time of a few values only: if neighbours are equal or at
+    /// the limits of a byte, the choice between them matters.
     Bytes noise(std::size_t count) {
         const bool isOfFew = random_() % 2 == 0;
         Bytes bytes(count);

@@ -1,6 +1,6 @@
-// A decoder that tries, over every file that it is asked to open, what a decoder may not do. The
-// "picture" that it then reports is as wide as the number of attempts that succeeded, and as high
-// as the number of those that the system refused. It dies over its second file.
+// A decoder that tries everything that a decoder may not do, for each file that it must open. It
+// reports a "picture" whose width is the number of attempts that succeeded, and whose height is the
+// number of attempts that the system refused. It dies at its second file.
 
 #include <fcntl.h>
 #include <linux/sched.h>

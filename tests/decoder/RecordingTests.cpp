@@ -38,7 +38,7 @@ TEST_P(RecordingOfColors, ShowsTheFrameOfTheTime) {
     EXPECT_THAT(colorAtTime(0.4), IsAbout(only(green), 6));
     EXPECT_THAT(colorAtTime(0.5), IsAbout(only(green), 6));
     EXPECT_THAT(colorAtTime(5), IsAbout(only(blue), 6));
-    // In any order, and behind the end.
+    // The times are in any order, and some lie beyond the end.
     EXPECT_THAT(colorAtTime(0.5), IsAbout(only(green), 6));
     EXPECT_THAT(colorAtTime(100), IsAbout(only(blue), 6));
     EXPECT_THAT(colorAtTime(-1), IsAbout(only(red), 6));

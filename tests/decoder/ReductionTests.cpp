@@ -60,7 +60,7 @@ TEST(Reducer, KeepsOneColorAtAnySize) {
             }
 }
 
-/// A wave that is slow enough to survive the reduction.
+/// Returns the value of a wave that is slow enough to survive the reduction.
 std::uint8_t wave(double x, double y) {
     return static_cast<std::uint8_t>(std::lround(127.5 + 100 * std::sin(x * 2 * std::numbers::pi) *
                                                              std::cos(y * 4 * std::numbers::pi)));
@@ -91,7 +91,7 @@ TEST(Reducer, NeverGivesMoreColorThanAlpha) {
 }
 
 TEST(Reducer, ColorsOfNothingDoNotSpread) {
-    // Bright red that cannot be seen, beside black that can.
+    // Transparent bright red, beside opaque black.
     Bytes rows;
     for (int i = 0; i < 64 * 64; ++i) {
         const Bytes pixel = i % 64 < 32 ? Bytes{255, 0, 0, 0} : Bytes{0, 0, 0, 255};
@@ -143,7 +143,7 @@ TEST(ThreadedReduction, GivesNothingWhereRowsAreMissing) {
     EXPECT_FALSE(reduction.take());
 }
 
-/// The numbers 1 to 6 in two rows of three, as the red of a picture.
+/// Returns a picture with the numbers 1 to 6 in two rows of three, as its red values.
 Picture numbered() {
     Picture picture{{3, 2}, {}};
     for (std::uint8_t number = 1; number <= 6; ++number)

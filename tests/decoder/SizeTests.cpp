@@ -59,14 +59,16 @@ INSTANTIATE_TEST_SUITE_P(
         SizedSample{"tall_dots.png", usual, {32, 48}}, SizedSample{"no_dots.png", usual, usual},
         SizedSample{"baseline.jpg", usual, usual}, SizedSample{"dense.jpg", usual, {32, 24}},
         SizedSample{"centimetres.jpg", usual, {64 * 72.0 / 71, 48 * 72.0 / 71}},
-        // Stored on its side, with twice the dots across as it is stored.
+        // rotated.jpg is stored turned by 90 degrees, and has twice the density along its stored
+        // width.
         SizedSample{"rotated.jpg", usual, {64, 24}}, SizedSample{"animated.gif", usual, usual},
         SizedSample{"raw.tiff", usual, usual}, SizedSample{"dense.tif", usual, {32, 24}},
         SizedSample{"centimetres.tif", usual, {32, 24}}, SizedSample{"turned.tif", usual, usual},
         SizedSample{"large.heic", {1000, 750}, {1000, 750}},
         SizedSample{"large.avif", {1000, 750}, {1000, 750}},
         SizedSample{"large.webp", {2000, 1501}, {2000, 1501}},
-        // Stored on its side, with twice the dots across as it is stored.
+        // rotated.webp is stored turned by 90 degrees, and has twice the density along its stored
+        // width.
         SizedSample{"rotated.webp", usual, {64, 24}}, SizedSample{"quarters.pdf", {0, 0}, usual},
         SizedSample{"turned.pdf", {0, 0}, usual}));
 

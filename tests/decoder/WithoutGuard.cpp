@@ -1,5 +1,5 @@
-// Starts the decoder as on a system that lacks the guards which the macros name: the system calls
-// that make them fail as if they did not exist.
+// Starts the decoder as on a system without the guards that the macros name: the system calls that
+// create them fail as if they did not exist.
 
 #include <linux/seccomp.h>
 #include <seccomp.h>

@@ -1,4 +1,5 @@
-"""Thumbnails, sizes and durations against what the programs of others say of the same files."""
+"""Compares thumbnails, sizes and durations with those that other programs report for the same
+files."""
 
 import os
 import re
@@ -39,7 +40,7 @@ def output_of(*command):
 
 @pytest.fixture(scope="module")
 def folder(tmp_path_factory):
-    """A screen of each size as every format, and recordings of one."""
+    """Returns a folder with a screen of each size in every format, and recordings of one screen."""
     made = tmp_path_factory.mktemp("corpus")
     for name, size in SIZES.items():
         corpus.save_images(made, name, corpus.screen(size))
@@ -53,7 +54,7 @@ def file_named(folder, name, kind):
 
 
 def thumbnail(file):
-    """Our picture, the size we print, and the duration, if any."""
+    """Returns our picture, the size that we print, and the duration, if any."""
     out = file.with_suffix(".ours.png")
     words = output_of(DECODER, "--thumbnail", file, out, "--max", MOST).split()
     duration = float(words[3]) if len(words) > 3 else None
@@ -61,7 +62,7 @@ def thumbnail(file):
 
 
 def decoded(file):
-    """All pixels, by a decoder that is not ours."""
+    """Returns all pixels, decoded by another program."""
     if file.suffix not in (".heic", ".avif"):
         return Image.open(file).convert("RGB")
     whole = file.with_suffix(".whole.png")
@@ -70,7 +71,7 @@ def decoded(file):
 
 
 def likeness(one, other):
-    """The peak signal-to-noise ratio in dB."""
+    """Returns the peak signal-to-noise ratio in dB."""
     difference = numpy.asarray(one, dtype=float) - numpy.asarray(other, dtype=float)
     error = (difference**2).mean()
     return 99.0 if error == 0 else 10 * numpy.log10(255**2 / error)
@@ -136,7 +137,7 @@ def test_recordings(folder, name):
     assert duration == pytest.approx(float(said), abs=0.001)
     time = min(duration / 2, 0.5)
     frame = file.with_suffix(".frame.png")
-    # The frame that is shown at the time: the last one that begins until then.
+    # The frame that is shown at that time is the last one that begins at or before it.
     output_of("ffmpeg", "-nostdin", "-loglevel", "error", "-y", "-i", file, "-to", time + 1, "-vf",
               f"select='lte(t,{time + 0.001})'", "-vsync", "passthrough", "-update", 1, frame)
     theirs = Image.open(frame).convert("RGB")
