@@ -10,7 +10,7 @@
 
 namespace vantle::fakes {
 
-/// Keeps what goes to the system log while it lives; with the debug switch as asked for.
+/// Captures the system log during its lifetime, with debug output switched on or off.
 class CapturedLog {
 public:
     enum class DebugSwitch { off, on };

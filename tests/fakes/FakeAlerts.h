@@ -7,7 +7,7 @@
 
 namespace vantle::fakes {
 
-/// Records the alerts and answers them as the test says; by itself with the last button.
+/// Records the alerts and answers them as the test says; without an answer, with the last button.
 class FakeAlerts final : public Alerts {
 public:
     int runModal(const Alert& alert) override {
@@ -16,7 +16,7 @@ public:
     }
 
     std::vector<Alert> shown;
-    /// Gives the answer; runs while the alert is open.
+    /// Returns the number of the pressed button; runs while the alert is open.
     std::function<int(const Alert&)> answer;
 };
 

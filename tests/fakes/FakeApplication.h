@@ -7,7 +7,7 @@
 
 namespace vantle::fakes {
 
-/// Records what the program asks of the desktop, and of another copy.
+/// Records what the program requests from the desktop, and from another copy.
 class FakeApplication final : public Application {
 public:
     void setActivationPolicy(ActivationPolicy policy) override { policies.push_back(policy); }

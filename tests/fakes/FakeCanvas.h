@@ -7,7 +7,7 @@
 
 namespace vantle::fakes {
 
-/// Records the drawings; what it gives are no pictures.
+/// Records the drawings; the texts that it returns are not pictures.
 class FakeCanvas final : public Canvas {
 public:
     Drawer drawer(const Drawing& drawing) override {

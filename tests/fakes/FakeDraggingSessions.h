@@ -7,7 +7,7 @@
 
 namespace vantle::fakes {
 
-/// Drags that a test ends.
+/// Records drags; the test ends them.
 class FakeDraggingSessions final : public DraggingSessions {
 public:
     void begin(QWindow&, std::vector<DraggingItem> items, const QPointF& grip, Moved howFar,

@@ -10,8 +10,8 @@
 
 namespace vantle::fakes {
 
-/// Variables that a test sets. What it is converted to answers with them as they are then, and may
-/// outlive it.
+/// Environment variables that a test sets. The Environment that it converts to sees later changes
+/// too, and may outlive it.
 class FakeEnvironment {
 public:
     using Variables = std::map<std::string, std::string>;

@@ -16,8 +16,8 @@
 
 namespace vantle::fakes {
 
-/// A file system in memory: answers as FileManager and tells its changes as DirectoryEvents, on
-/// the queue that it is made with. Folders list their entries in the order of creation.
+/// A file system in memory. Implements FileManager, and DirectoryEvents on the queue that it is
+/// made with. Folders list their entries in the order of creation.
 class FakeFileSystem final : public FileManager, public DirectoryEvents {
 public:
     explicit FakeFileSystem(SerialQueue& queue);
@@ -38,35 +38,35 @@ public:
     void write(const Url& file, std::int64_t size, Date modified);
     /// Changes a file's entry in place and reports the change in its folder.
     void change(const Url& file, const std::function<void(Entry&)>& edit);
-    /// The same without a report.
+    /// Changes a file's entry in place without a report.
     void changeSilently(const Url& file, const std::function<void(Entry&)>& edit);
     void remove(const Url& file);
     void rename(const Url& from, const Url& to);
 
     void removeDirectory(const Url& folder);
     void moveDirectory(const Url& from, const Url& to);
-    /// Takes the folder away as an unmount does.
+    /// Removes the folder, as an unmount does.
     void revoke(const Url& folder);
     /// Reports a change although nothing changed.
     void touch(const Url& folder);
-    /// Tells of an overflow of the event queue: a change, with the events in between lost.
+    /// Reports an overflow of the event queue: a change, with the events in between lost.
     void overflow(const Url& folder) { touch(folder); }
 
-    /// From now on listing the folder fails with `error`; 0 makes it work again.
+    /// Makes listing the folder fail with `error` from now on; 0 makes it work again.
     void failListing(const Url& folder, int error);
     void failOpening(const Url& folder, int error);
     void makeRemote(const Url& folder) { remote_.insert(folder.path()); }
-    /// From now on nothing can be created below `folder`.
+    /// Prevents that anything is created below `folder` from now on.
     void makeReadOnly(const Url& folder);
 
     void setHome(const Url& home) { home_ = home; }
     void setDesktop(std::optional<Url> desktop) { desktop_ = std::move(desktop); }
 
-    /// What write() put into a file; empty when it did not.
+    /// Returns what write() put into a file, or an empty string if it did not.
     std::string contents(const Url& file) const;
 
     std::size_t openSources() const;
-    /// How often a folder was listed / a file's size or values were read.
+    /// How often any folder was listed, and how often the size or values of any file were read.
     int listings() const { return listings_; }
     int inspections() const { return inspections_; }
 

@@ -8,7 +8,7 @@
 
 namespace vantle::fakes {
 
-/// Records what is asked for; the test answers with close().
+/// Records the requests; the test answers with close().
 class FakeFolderChooser final : public FolderChooser {
 public:
     explicit FakeFolderChooser(Scheduler& scheduler) : scheduler_(scheduler) {}

@@ -8,8 +8,8 @@
 
 namespace vantle::fakes {
 
-/// The settings of a GNOME-like desktop in memory. Keys are "schema key"; only those in `texts` are
-/// known.
+/// The settings of a GNOME-like desktop in memory. Keys are "schema key"; only keys in `texts`
+/// exist.
 class FakeGSettings final : public GSettings {
 public:
     Result<std::string> text(const std::string& schema, const std::string& key) const override {

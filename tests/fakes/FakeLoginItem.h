@@ -4,7 +4,7 @@
 
 namespace vantle::fakes {
 
-/// A login item that is only remembered.
+/// A login item that exists only in memory.
 class FakeLoginItem final : public LoginItem {
 public:
     Status status() const override { return current; }
@@ -12,7 +12,7 @@ public:
     Outcome unregisterItem() override { return change(Status::notRegistered); }
 
     Status current = Status::notRegistered;
-    Outcome failure;  ///< When set, nothing changes and this is the outcome.
+    Outcome failure;  ///< If set, nothing changes and this is the outcome.
 
 private:
     Outcome change(Status status) {

@@ -10,17 +10,17 @@
 
 namespace vantle::fakes {
 
-/// Opens the files that a test names, and records what is asked of them.
+/// Opens the files that a test adds, and records the calls.
 class FakeMediaLoader final : public MediaLoader {
 public:
     void addImage(const Url& url, std::optional<Size> pixelSize, Size pointSize) {
         images_[url.path()] = {pixelSize, pointSize};
     }
-    /// It opens, and then turns out to be damaged.
+    /// Adds an image that opens, but turns out to be damaged when it is drawn.
     void addDamagedImage(const Url& url, std::optional<Size> pixelSize, Size pointSize) {
         images_[url.path()] = {pixelSize, pointSize, Condition::damaged};
     }
-    /// Without `frameSize` no frame can be read.
+    /// Adds a recording. Without `frameSize` no frame can be read.
     void addRecording(const Url& url, double duration, std::optional<Size> trackSize,
                       std::optional<Size> frameSize) {
         recordings_[url.path()] = {duration, trackSize, frameSize};

@@ -8,7 +8,7 @@
 
 namespace vantle::fakes {
 
-/// A panel that stands nowhere: records what it was asked for. Outlived by its record.
+/// A panel without a window. Records the calls; the record must outlive it.
 class FakePanelWindow final : public PanelWindow {
 public:
     struct Record {
@@ -21,7 +21,7 @@ public:
         Outcome snapshotOutcome;
         std::vector<VisibleThumbnail> thumbnails;
         int timesKeyboardTaken = 0;
-        FakePanelWindow* window = nullptr;  ///< The one that writes here.
+        FakePanelWindow* window = nullptr;  ///< The window that writes to this record.
     };
 
     explicit FakePanelWindow(Record& record) : record_(record) { record.window = this; }

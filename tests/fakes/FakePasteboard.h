@@ -10,8 +10,7 @@
 
 namespace vantle::fakes {
 
-/// A clipboard that nobody else sees. Every file that is there holds a picture, but for those in
-/// `damaged`.
+/// A private clipboard. Every file that exists counts as a picture, except those in `damaged`.
 class FakePasteboard final : public Pasteboard {
 public:
     explicit FakePasteboard(const FileManager& files) : files_(files) {}
@@ -33,7 +32,7 @@ public:
         return std::make_shared<Picture>(url);
     }
 
-    /// What is on it, in order: "image /a.png" for a picture, "file /a.png" for a file.
+    /// Returns its contents in order: "image /a.png" for a picture, "file /a.png" for a file.
     std::vector<std::string> contents() const {
         std::vector<std::string> contents;
         for (const auto& object : objects_) {

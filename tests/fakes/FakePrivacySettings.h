@@ -6,7 +6,7 @@
 
 namespace vantle::fakes {
 
-/// Records for which folders the settings would have been opened.
+/// Records the folders for which the settings would have been opened.
 class FakePrivacySettings final : public PrivacySettings {
 public:
     void open(const Url& folder) override { opened.push_back(folder); }

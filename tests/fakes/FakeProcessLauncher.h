@@ -8,7 +8,7 @@
 
 namespace vantle::fakes {
 
-/// Records what would have been started.
+/// Records the processes that would have been started.
 class FakeProcessLauncher final : public ProcessLauncher {
 public:
     struct Launch {

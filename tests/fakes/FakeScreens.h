@@ -7,7 +7,7 @@
 
 namespace vantle::fakes {
 
-/// Displays as a test sets them; one of 1440 × 900 to begin with.
+/// Displays that a test sets; at first there is one of 1440 × 900.
 class FakeScreens final : public Screens {
 public:
     std::vector<Screen> all() const override { return screens; }

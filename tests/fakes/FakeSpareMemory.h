@@ -4,7 +4,7 @@
 
 namespace vantle::fakes {
 
-/// Counts how often it is asked to give back.
+/// Counts the calls of giveBack().
 class FakeSpareMemory final : public SpareMemory {
 public:
     void giveBack() override { ++timesGivenBack; }

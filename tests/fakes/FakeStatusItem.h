@@ -8,7 +8,7 @@
 
 namespace vantle::fakes {
 
-/// Records what stands in the tray; a test opens its menu and chooses from it.
+/// Records what the tray shows; a test opens its menu and chooses from it.
 class FakeStatusItem final : public StatusItem {
 public:
     bool setImage(const std::string& name, const std::string& said) override {
@@ -24,7 +24,7 @@ public:
     void setAppearsDisabled(bool disabled) override { appearsDisabled = disabled; }
     void menuChanged() override { ++menuChanges; }
 
-    /// The titles of the menu that opens now; of a separator "-".
+    /// Opens the menu and returns its titles; a separator is "-".
     std::vector<std::string> open() {
         menu = menuNeedsUpdate();
         std::vector<std::string> titles;
@@ -33,8 +33,8 @@ public:
         return titles;
     }
 
-    /// Chooses a line of the menu that was opened last; false when it has none of that title that
-    /// can be chosen.
+    /// Chooses a line of the menu that was opened last. Returns false if the menu has no enabled
+    /// line with that title.
     bool choose(const std::string& wanted) const {
         for (const auto& item : menu.items) {
             if (item.title != wanted || !item.isEnabled || !item.action) continue;

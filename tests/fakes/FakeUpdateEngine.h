@@ -9,10 +9,10 @@
 
 namespace vantle::fakes {
 
-/// Reports what a test has it report.
+/// Reports what a test tells it to report.
 class FakeUpdateEngine final : public UpdateEngine {
 public:
-    /// What happened, and what is to happen; outlives the engine.
+    /// What was called, and what to return; must outlive the engine.
     struct Record {
         std::vector<Query> checks;
         std::vector<UpdateItem> prepared;
@@ -22,7 +22,7 @@ public:
         std::optional<report::RolledBack> rolledBack;
         bool isOnTrial = false;
         Outcome relaunchFailure;
-        OnReport onReport;  ///< While something is under way.
+        OnReport onReport;  ///< Set while a check or a preparation is under way.
     };
 
     explicit FakeUpdateEngine(Record& record) : record_(record) {}

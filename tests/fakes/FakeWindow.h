@@ -9,10 +9,10 @@
 
 namespace vantle::fakes {
 
-/// Writes down what happens to it, with its name in front.
+/// Records its events, each with its name in front.
 class FakeWindow final : public Window {
 public:
-    /// What is written into; outlives the windows.
+    /// Where windows record; must outlive them.
     struct Record {
         std::vector<std::string>& events;
         std::vector<Size>& sizes;

@@ -20,8 +20,8 @@
 
 namespace vantle::fakes {
 
-/// A panel controller on virtual time with a panel that stands nowhere, and the state and actions
-/// that its card would have.
+/// A panel controller on virtual time with a panel that has no window, and with the state and
+/// actions that its card would use.
 class PanelFixture : public testing::Test, protected SettingsOnFakes {
 protected:
     static CapturePointer capture(const std::string& name) {
@@ -37,14 +37,14 @@ protected:
     }
     void releaseController() { controller_.reset(); }
 
-    /// Shows captures of these names and lets the panel come up.
+    /// Shows captures of these names and waits until the panel appears.
     std::vector<CapturePointer> show(const std::vector<std::string>& names) {
         std::vector<CapturePointer> shown;
         for (const auto& name : names) shown.push_back(capture(name));
         showAll(shown);
         return shown;
     }
-    /// The same with captures; their files are there, too.
+    /// Shows these captures in the same way; their files exist, too.
     void showAll(const std::vector<CapturePointer>& captures) {
         for (const auto& capture : captures) {
             files.write(capture->url(), 1000, VirtualClock::epoch);
@@ -74,8 +74,8 @@ protected:
 
     FakePanelWindow::Record panel;
     int panelsMade = 0;
-    PanelState* state = nullptr;  ///< Of the controller, once it has shown something.
-    CardActions actions;          ///< As its card has them.
+    PanelState* state = nullptr;  ///< The controller's state, set when it first shows a capture.
+    CardActions actions;          ///< The actions that the controller gives to its card.
 
 private:
     std::shared_ptr<CapturePanelController> makeController() {

@@ -6,7 +6,7 @@
 
 namespace vantle::fakes {
 
-/// While it lives, every text that asks for a translation stands in brackets.
+/// Puts brackets around every text that requests a translation, during its lifetime.
 class Pseudolanguage {
 public:
     Pseudolanguage() {

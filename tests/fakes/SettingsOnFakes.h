@@ -11,7 +11,7 @@
 
 namespace vantle::fakes {
 
-/// Settings, and stand-ins for all that they ask.
+/// Settings, and fakes for everything that they use.
 struct SettingsOnFakes {
     VirtualTime time;
     ManualQueue queue{time};

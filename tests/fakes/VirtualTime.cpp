@@ -6,7 +6,7 @@
 namespace vantle::fakes {
 namespace {
 
-// More than a test does in a day of its time.
+// More than a test runs in a virtual day.
 constexpr int maximumPieces = 5'000'000;
 
 class ManualTimer final : public Timer, public std::enable_shared_from_this<ManualTimer> {

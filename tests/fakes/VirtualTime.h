@@ -12,8 +12,8 @@
 
 namespace vantle::fakes {
 
-/// Owns time in tests: nothing runs until a test advances it, and then everything runs on the
-/// test's own thread, in the order in which it falls due.
+/// The time of a test. Nothing runs until the test advances it; then everything runs on the test's
+/// own thread, in the order in which it is due.
 class VirtualTime {
 public:
     using Work = std::function<void()>;
@@ -24,14 +24,14 @@ public:
     std::uint64_t schedule(Seconds delay, Work work);
     void cancel(std::uint64_t key);
 
-    /// Runs all that falls due within the next `duration`, also what that work schedules. Throws
-    /// where that has no end.
+    /// Runs everything that is due within the next `duration`, including work scheduled meanwhile.
+    /// Throws if there is no end to it.
     void advance(Seconds duration);
 
-    /// Runs what is due now, and what that brings due now.
+    /// Runs what is due now, and what that schedules for now.
     void settle() { advance(Seconds(0)); }
 
-    /// Work that is waiting, repeated timers included.
+    /// The number of waiting pieces of work, including repeated timers.
     std::size_t pending() const { return waiting_.size(); }
 
 private:
@@ -74,7 +74,7 @@ private:
     VirtualTime& time_;
 };
 
-/// A wall clock that follows virtual time, from a fixed date on.
+/// A wall clock that follows virtual time from a fixed date on.
 class VirtualClock final : public WallClock {
 public:
     explicit VirtualClock(VirtualTime& time) : time_(time), start_(time.now()) {}

@@ -1,4 +1,4 @@
-// Opens and draws whatever bytes the fuzzer thinks of, as one format's module does it.
+// Opens and draws the fuzzer's bytes with one format's module.
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -52,7 +52,7 @@ void open(const InputFile& file) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const FileDescriptor descriptor = fileOf(data, size);
     const InputFile file(descriptor.get());
-    // As in the decoder, a file that asks for too much is a file without a picture.
+    // Like the decoder, this treats a file that needs too much as one without a picture.
     try {
         open(file);
     } catch (const std::exception&) {

@@ -30,7 +30,7 @@ namespace vantle {
 
 inline const Url folder = Url::file("/home/user/Desktop");
 
-/// What happened, in order, across services.
+/// What happened in all services, in order.
 using Events = std::vector<std::string>;
 
 class RecordingSounds final : public SoundPlayer {
@@ -97,7 +97,7 @@ protected:
         defaults->stored["hasCompletedOnboarding"] = true;
     }
 
-    /// The fake file system is two services in one.
+    /// Forwards to the fake file system, which is two services in one object.
     class EventsOf final : public DirectoryEvents {
     public:
         explicit EventsOf(DirectoryEvents& events) : events_(events) {}

@@ -11,7 +11,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// What becomes of captures that are used, with both settings that say so, or one of them, or none.
+/// What happens to captures that are used, with both settings for this, with one of them, or with
+/// none.
 class CaptureUseTest : public fakes::PanelFixture {
 protected:
     CaptureUseTest() {
@@ -35,7 +36,7 @@ protected:
         settings.deleteAfterUse.set(true);
     }
 
-    /// Whether a card leaves after this many seconds, not before, and its file stays.
+    /// Expects that the card leaves after exactly this many seconds.
     void expectRemovalAfter(double seconds) {
         if (seconds > 0) {
             wait(seconds - 0.01);
@@ -44,7 +45,7 @@ protected:
         }
         EXPECT_FALSE(controller().isVisible());
     }
-    /// Whether so many files go to the Trash five seconds from now, not before.
+    /// Expects that so many files go to the Trash exactly five seconds from now.
     void expectTrashInFiveSeconds(std::size_t count) {
         wait(4.99);
         EXPECT_THAT(trash.trashed, IsEmpty());
@@ -237,7 +238,7 @@ TEST_F(CaptureUseTest, TheCountdownWaitsForTheDragThoughThePointerLeavesTheCard)
     hover(false);
     wait(60);
     EXPECT_TRUE(controller().isVisible());
-    // One that is taken meanwhile waits as well.
+    // A screenshot that is taken meanwhile waits as well.
     show({"b"});
     wait(60);
     EXPECT_TRUE(controller().isVisible());

@@ -145,7 +145,7 @@ TEST_F(CaptureWatcherTest, HiddenFilesAndOtherExtensionsAreNeverReportedAndNever
     save("notes.txt");
     wait(1);
     EXPECT_THAT(captured, IsEmpty());
-    // Not known: under a capture's name the same file is new.
+    // Because they are not known, the same files are new under names of captures.
     files.rename(url(".hidden.png"), url("shown.png"));
     files.rename(url("notes.txt"), url("notes.png"));
     wait(1);
@@ -277,7 +277,7 @@ TEST_F(CaptureWatcherTest, AWriterThatLetsGoAfterItWasToldIsNotWaitedForInVain) 
     save("recording.mp4");
     files.change(url("recording.mp4"), [](auto& entry) { entry.isRegularFile.reset(); });
     time.settle();
-    // Nothing tells of it.
+    // No event reports this change.
     files.changeSilently(url("recording.mp4"), [](auto& entry) { entry.isRegularFile = true; });
     wait(1);
     EXPECT_THAT(captured, ElementsAre("recording.mp4"));
@@ -428,7 +428,7 @@ TEST_F(CaptureWatcherTest, AnEventInAFolderThatIsNotThereMeansThatItIsMissing) {
     (void)files.createDirectory(deep);
     ASSERT_EQ(watcher->start(deep), std::nullopt);
     time.settle();
-    // Only the one above it is told that it moves.
+    // Only the folder above gets an event for this move.
     files.moveDirectory(Url::file("/above"), Url::file("/elsewhere"));
     files.touch(deep);
     wait(1);
@@ -441,7 +441,7 @@ TEST_F(CaptureWatcherTest, ALossThatIsToldOnceAnotherFolderWasChosenIsNoLoss) {
     const Url other = Url::file("/other");
     (void)files.createDirectory(other);
     files.removeDirectory(folder);
-    // Between the queue's word of the loss and its arrival.
+    // The queue has noticed the loss, but the main thread does not know of it yet.
     queue.async([&] { EXPECT_EQ(watcher->start(other), std::nullopt); });
     wait(1);
     EXPECT_THAT(errors, IsEmpty());

@@ -27,7 +27,7 @@ TEST(CommandLineTest, WithoutArgumentsTheProgramStarts) {
     EXPECT_FALSE(line.request);
 }
 
-/// Of UTF-8.
+/// Returns the number of letters in UTF-8 text.
 long lettersIn(const std::string& text) {
     return std::ranges::count_if(text, [](char byte) { return (byte & 0xc0) != 0x80; });
 }

@@ -112,7 +112,8 @@ TEST_F(CountdownTest, PausingWithOneSecondLeftSavesOneAndAHalf) {
     show({"a"});
     wait(9);
     hover(true);
-    // What was saved shows when the resume does not raise it: it stays saved while it cannot run.
+    // The saved time can be seen only if the resume does not raise it. It is kept while no
+    // countdown can run.
     settings.dismissAfter.set(0);
     hover(false);
     EXPECT_EQ(time.pending(), 0u);

@@ -38,7 +38,7 @@ TEST_F(DebugSnapshotsTest, OfACrowdAreFewAndTheLastOneAlways) {
         wait(0.01);
     }
     wait(1.19);
-    EXPECT_EQ(drawn.size(), 4u);  // one a second, and that of the last one
+    EXPECT_EQ(drawn.size(), 4u);  // one each second, and one of the last capture
     EXPECT_EQ(drawn.back(), "300");
     wait(10);
     EXPECT_EQ(drawn.size(), 4u);

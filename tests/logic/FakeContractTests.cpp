@@ -1,4 +1,4 @@
-// The stand-ins keep the contracts of what they stand in for. The suites are in tests/contract.
+// The fakes keep the contracts of the services. The suites are in tests/contract.
 #include "contract/AlertsContract.h"
 #include "contract/ApplicationContract.h"
 #include "contract/DirectoryEventsContract.h"

@@ -15,7 +15,7 @@ using namespace std::string_literals;
 using testing::Contains;
 using testing::ElementsAre;
 
-/// The row of the table, counted from 0; -1 when it is none.
+/// Returns the row of the table, counted from 0, or -1 if there is none.
 std::ptrdiff_t row(const FileType* type) {
     return type ? type - fileTypes.data() : -1;
 }

@@ -1,4 +1,4 @@
-// Every text for people asks for a translation, and what fills it is put in afterwards.
+// Every text that users read requests a translation before its placeholders are filled.
 
 #include <algorithm>
 

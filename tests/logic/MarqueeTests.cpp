@@ -53,7 +53,7 @@ TEST_F(MarqueeTest, ACardThatLeavesHasNone) {
     EXPECT_THAT(selected(), IsEmpty());
 }
 
-/// The same with a countdown of three seconds.
+/// The same row with a countdown of three seconds.
 class MarqueeCountdownTest : public MarqueeTest {
 protected:
     MarqueeCountdownTest() {

@@ -308,7 +308,7 @@ TEST_F(PanelControllerTest, NothingRunsOnceItHasGone) {
     releaseController();
     wait(10);
     EXPECT_EQ(time.pending(), 0u);
-    EXPECT_TRUE(panel.isOnScreen);  // nobody was left to order it out
+    EXPECT_TRUE(panel.isOnScreen);  // the controller that would have hidden it is gone
 }
 
 }  // namespace

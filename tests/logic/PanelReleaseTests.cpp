@@ -3,7 +3,7 @@
 namespace vantle {
 namespace {
 
-/// When the panel gives back what the card took.
+/// When the panel releases the resources of the card.
 class PanelReleaseTest : public fakes::PanelFixture {
 protected:
     PanelReleaseTest() { settings.dismissAfter.set(0); }

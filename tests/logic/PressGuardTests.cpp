@@ -5,7 +5,7 @@
 namespace vantle {
 namespace {
 
-/// A pointer that rests on the first of two neighbours, the card being at rest for long.
+/// A pointer that rests on the first of two neighbours, on a card that has not changed for long.
 class PressGuardTest : public testing::Test {
 protected:
     static constexpr Point place{100, 100};
@@ -19,7 +19,7 @@ protected:
     bool press(const std::string& target, const Point& point = place) {
         return guard.allowsPress(point, target, now);
     }
-    /// The first one leaves, and its neighbour is under the pointer a little later.
+    /// The first target leaves, and its neighbour slides under the pointer a little later.
     void slideSecondUnder(double after = 0.1) {
         guard.contentChanges(now);
         wait(after);
@@ -114,7 +114,7 @@ TEST_F(PressGuardTest, ACardThatComesUnderAPointerWhosePlaceIsKnownTakesNoPressA
 TEST_F(PressGuardTest, APressElsewhereIsOneOfAPointerThatHasMoved) {
     slideSecondUnder();
     EXPECT_TRUE(press("second", {300, 100}));
-    // And from now on it rests there.
+    // From now on the pointer rests there.
     guard.contentChanges(now);
     wait(0.1);
     guard.targetBecomes("third", now);
@@ -142,7 +142,7 @@ TEST_F(PressGuardTest, ACardThatStandsTakesThePressOfAPointerThatComes) {
 TEST_F(PressGuardTest, TheSecondClickOfADoubleClickIsNeverOneOnSomethingElse) {
     EXPECT_TRUE(press("first"));
     wait(0.2);
-    // Nothing has told that the content changes.
+    // No change of the content was reported.
     EXPECT_FALSE(press("second", {102, 100}));
 }
 

@@ -9,7 +9,7 @@ using testing::SizeIs;
 
 class RecentCapturesTest : public AppFixture {
 protected:
-    /// Launches and takes in one screenshot, which leaves the card again.
+    /// Launches, adds one screenshot, and waits until it has left the card.
     CapturePointer takeAndDismiss() {
         launch();
         media->addImage(url, Size{2560, 1440}, {2560, 1440});

@@ -1,4 +1,4 @@
-// The folder of the desktop's recorder in the program as a whole.
+// The folder of the desktop's recorder, tested in the whole program.
 
 #include "AppFixture.h"
 

@@ -175,7 +175,7 @@ TEST_F(RecordingsWatcherTest, OnceStoppedNothingIsOpen) {
 
 TEST_F(RecordingsWatcherTest, AFolderThatCameJustBeforeItWasStoppedIsNotWatched) {
     start();
-    // What the queue has heard is still on its way to the main thread.
+    // What the queue has noticed is still on its way to the main thread.
     (void)files.createDirectory(folder);
     scheduler.async([this] { watcher->stop(); });
     time.settle();

@@ -13,7 +13,7 @@ using testing::Not;
 
 class RequestHandlerTest : public AppFixture {
 protected:
-    /// The answer, or "failed: " and why.
+    /// Returns the answer, or "failed: " and the reason.
     std::string ask(const std::string& action, std::vector<std::string> arguments = {}) {
         const auto answer = application->onRequest({action, std::move(arguments)});
         time.settle();

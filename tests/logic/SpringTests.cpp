@@ -12,7 +12,7 @@ constexpr Animation swinging{.response = 0.5, .dampingFraction = 0.82};
 constexpr Animation critical{.response = 0.5, .dampingFraction = 1};
 constexpr double tolerance = 0.001;
 
-/// The farthest beyond 1 that a motion from 0 to 1 goes.
+/// Returns the farthest point beyond 1 of a motion from 0 to 1.
 double overshoot(const Animation& animation) {
     const Spring spring(animation, {0, 0}, 1);
     double farthest = 0;
@@ -46,7 +46,7 @@ TEST(Spring, FollowsTheEquationOfADampedSpring) {
 }
 
 TEST(Spring, OvershootsAsItsDampingSays) {
-    // The theory's exp(-π ζ / √(1 - ζ²)).
+    // In theory this is exp(-π ζ / √(1 - ζ²)).
     EXPECT_NEAR(overshoot({.response = 0.5, .dampingFraction = 0.82}), 0.0111, 5e-4);
     EXPECT_NEAR(overshoot({.response = 0.3, .dampingFraction = 0.7}), 0.0460, 5e-4);
     EXPECT_LE(overshoot(critical), 0);

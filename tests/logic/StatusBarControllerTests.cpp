@@ -23,7 +23,8 @@ protected:
         return *controller;
     }
 
-    /// A capture whose thumbnail has that size; without one when it is empty.
+    /// Adds a capture whose thumbnail has that size, or a capture without a thumbnail if it is
+    /// empty.
     CapturePointer add(const std::string& name, Size size = {}) {
         const Url url = Url::file("/shots/" + name);
         if (size != Size{}) media.addImage(url, size, size);
@@ -147,7 +148,7 @@ TEST_F(StatusBarControllerTest, ACaptureIsShownThatTheLineWasMadeFor) {
     controller->onShow = [&](const CapturePointer& capture) { shown.push_back(capture); };
     const auto first = add("a.png");
     item.open();
-    // One that comes while the menu is open.
+    // A capture that arrives while the menu is open.
     captures.insert(captures.begin(), Capture::create(Url::file("/shots/b.png"), Date{}));
     EXPECT_TRUE(item.choose("a.png"));
     EXPECT_THAT(shown, ElementsAre(first));

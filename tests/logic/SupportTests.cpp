@@ -158,7 +158,8 @@ TEST(Debug, BuildsItsMessageOnlyWhenItIsOn) {
     EXPECT_THAT(log.lines(), ElementsAre("Vantle[dbg]: ready"));
 }
 
-/// What a process of this program says that begins in these surroundings.
+/// Returns 1 if a process that starts with this value of VANTLE_DEBUG has debug output, otherwise
+/// 0.
 int debugOf(const char* value) {
     if (value)
         setenv("VANTLE_DEBUG", value, 1);
@@ -168,7 +169,7 @@ int debugOf(const char* value) {
 }
 
 TEST(Debug, IsOnWhereItsVariableIsThereAlsoAnEmptyOne) {
-    // In a process of its own each: it is looked for once.
+    // Each runs in its own process, because the variable is read only once.
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     EXPECT_EXIT(std::_Exit(debugOf("1")), testing::ExitedWithCode(1), "");
     EXPECT_EXIT(std::_Exit(debugOf("")), testing::ExitedWithCode(1), "");

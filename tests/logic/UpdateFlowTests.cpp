@@ -49,10 +49,10 @@ protected:
                                 }});
         return *flow;
     }
-    /// As in the second launch: a check is due a minute later.
+    /// Sets the defaults of a second launch: a check is due a minute later.
     void beDue() { defaults.stored[UpdateSchedule::lastCheck] = 1.0; }
     void report(const UpdateReport& told) {
-        // The last one may bring the next thing to do.
+        // A copy, because the report may start something that replaces the handler.
         const auto onReport = engine.onReport;
         ASSERT_TRUE(onReport);
         onReport(told);
@@ -365,7 +365,7 @@ TEST_F(UpdateFlowTest, TheDateOfTheNewestFeedIsKept) {
 TEST_F(UpdateFlowTest, TheDateOfTheNewestFeedNeverGoesBack) {
     defaults.stored["newestUpdateFeed"] = 1'800'000'500.0;
     make().checkForUpdates();
-    // The clock of this machine is behind both.
+    // The clock of this machine is earlier than both dates.
     report(report::FeedLoaded{1, 1'800'000'900});
     make().checkForUpdates();
     EXPECT_EQ(engine.checks.back().newestFeed, 1'800'000'500);

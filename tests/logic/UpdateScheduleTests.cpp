@@ -21,7 +21,7 @@ protected:
             if (!isWindowOpen) schedule->noteCheck();
         });
     }
-    /// A first launch that was long enough, some time ago.
+    /// Simulates a first launch that was long enough, `ago` before now.
     void haveLaunchedBefore(Seconds ago = hours(48)) {
         launch();
         time.advance(minutes(1));
@@ -34,7 +34,7 @@ protected:
     fakes::VirtualClock clock{time};
     fakes::FakeUserDefaults defaults;
     int checks = 0;
-    bool isWindowOpen = false;  ///< Then nothing is checked.
+    bool isWindowOpen = false;  ///< While it is open, nothing is checked.
     std::unique_ptr<UpdateSchedule> schedule;
 };
 

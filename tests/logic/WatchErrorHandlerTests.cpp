@@ -11,7 +11,7 @@ class WatchErrorHandlerTest : public AppFixture {
 protected:
     void report(const WatchError& error) { delegate->handleWatchError(error); }
 
-    /// Answers with the button of that title from now on.
+    /// Answers alerts with the button of that title from now on.
     void answer(const std::string& title) {
         alerts->answer = [this, title](const Alert& alert) {
             events.push_back("alert");
@@ -144,7 +144,7 @@ TEST_F(WatchErrorHandlerTest, AnErrorInBetweenArmsTheFirstOneAgain) {
 
 TEST_F(WatchErrorHandlerTest, AMissingFolderIsMadeAgainSilently) {
     launch();
-    for (int round = 0; round < 2; ++round) {  // the first loss is not remembered
+    for (int round = 0; round < 2; ++round) {  // the first loss is forgotten
         files->removeDirectory(folder);
         time.settle();
         EXPECT_EQ(files->existence(folder), FileManager::Existence::directory);
@@ -220,7 +220,7 @@ TEST_F(WatchErrorHandlerTest, AnAnswerAfterTheDelegateHasGoneIsSkipped) {
             delegate.reset();
             return Alerts::firstButton;
         };
-        // A second reference would keep it.
+        // `delegate` must stay the only reference: a second one would keep the object.
         if (delegate) delegate->handleWatchError(error);
         EXPECT_EQ(delegate, nullptr);
         EXPECT_THAT(events, IsEmpty());

@@ -1,4 +1,4 @@
-"""Fixtures of the package tests: the Debian package of the build, and what is in it."""
+"""Fixtures of the package tests: the Debian package of the build, and its contents."""
 
 import os
 import subprocess
@@ -12,7 +12,7 @@ sys.path.insert(0, str(ROOT / "packaging"))
 
 
 def run(*command, **options):
-    """What a program says on both its outputs; it has to succeed."""
+    """Runs a program that must succeed, and returns what it writes to both outputs."""
     ended = subprocess.run(
         [str(part) for part in command], text=True, stdin=subprocess.DEVNULL,
         stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False, **options,
@@ -22,7 +22,7 @@ def run(*command, **options):
 
 
 def release(kind, folder, **options):
-    """Makes the package or the tree of the build; its path."""
+    """Makes the package or the tree of the build, and returns its path."""
     build = os.environ["VANTLE_BUILD"]
     run(ROOT / "packaging/release", kind, "--build", build, "--out", folder, **options)
     [made] = folder.glob("vantle[-_]*")
@@ -36,7 +36,7 @@ def package(tmp_path_factory):
 
 @pytest.fixture(scope="session")
 def installed(package, tmp_path_factory):
-    """The folder usr/ of the package."""
+    """Returns the folder usr/ of the package."""
     folder = tmp_path_factory.mktemp("installed")
     run("dpkg-deb", "--extract", package, folder)
     return folder / "usr"

@@ -1,4 +1,4 @@
-"""The Debian package: what is in it, and that a system understands each file."""
+"""The contents of the Debian package, each of which must work on a Debian system."""
 
 import os
 import platform
@@ -61,7 +61,7 @@ def test_what_is_installed(package, installed):
         executable = mode.startswith("d") or name.startswith("./usr/bin/")
         assert mode[1:] == ("rwxr-xr-x" if executable else "rw-r--r--"), name
         assert owner == "root/root"
-    # Nothing is run when it is installed.
+    # The package has no scripts that run at its installation.
     assert re.findall(r"\* +(\w+)", run("dpkg-deb", "--info", package)) == []
 
 
@@ -77,7 +77,7 @@ def test_the_checker_of_debian_has_no_complaint(package):
 
 
 def test_the_same_build_makes_the_same_bytes(package, tmp_path):
-    # On another file system, which gives folders another size.
+    # Another file system gives folders other sizes.
     elsewhere = {**os.environ, "TMPDIR": "/dev/shm"}
     again = release("package", tmp_path, umask=0o077, env=elsewhere)
     assert again.read_bytes() == package.read_bytes()
@@ -111,7 +111,7 @@ def test_what_is_loaded_by_name_is_depended_upon(package):
     depends = [part.split()[0] for part in field(package, "Depends").split(", ")]
     assert set(modules) < set(depends)
     assert {"libqt6quick6", "libc6"} < set(depends)
-    # Its number is the release's.
+    # The number in the package's name depends on the release.
     assert any(name.startswith("libpoppler-cpp") for name in depends)
 
 
@@ -122,7 +122,7 @@ def test_the_desktop_understands_its_entries(installed):
     service = (installed / f"share/dbus-1/services/{IDENTIFIER}.service").read_text()
     assert f"Name={IDENTIFIER}\n" in service
     assert "Exec=/usr/bin/vantle --dbus-activated\n" in service
-    # The tool of Debian 12 does not know <developer>, that of Debian 13 asks for it.
+    # The tool of Debian 12 does not know <developer>; the one of Debian 13 requires it.
     run("appstreamcli", "validate", "--strict", "--no-net", "--override=unknown-tag=pedantic",
         installed / f"share/metainfo/{IDENTIFIER}.metainfo.xml")  # fmt: skip
 
@@ -145,7 +145,7 @@ def test_each_program_has_a_manual(installed, program):
                    "GROFF_NO_SGR": "1"}
     said = run("man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", page, env=environment)
     assert "warning" not in said and "mdoc" not in said
-    # Bold letters are struck twice.
+    # Bold letters appear twice, with a backspace in between.
     assert re.search(rf"^NAME\n +{program} —", re.sub(".\b", "", said), re.MULTILINE)
 
 
@@ -154,7 +154,7 @@ def options_of(vantle):
 
 
 def details_of(vantle):
-    """What may stand behind --status."""
+    """Returns the options that may follow --status."""
     return re.findall(r"^    (--[a-z-]+)", run(vantle, "--help"), re.MULTILINE)
 
 

@@ -17,7 +17,7 @@ inline Url file(const std::string& name) {
     return Url::file(std::string(VANTLE_SAMPLES) + "/" + name);
 }
 
-/// The decoder that was built, for a screen of so many pixels a point.
+/// The decoder of this build, for a screen with that many pixels per point.
 class Loader final : public MediaLoader {
 public:
     explicit Loader(double pixelsPerPoint = 1, DecodingTimeouts timeout = {})
@@ -34,17 +34,17 @@ private:
     ConfinedMediaLoader loader_;
 };
 
-/// Whether this kernel can take the file system from a decoder. Tests of what goes only with that
-/// are skipped elsewhere.
+/// Returns true if this kernel has Landlock, which takes the file system from the decoder. Tests
+/// that need it are skipped otherwise.
 inline bool hasLandlock() {
     constexpr unsigned askForVersion = 1;
     return syscall(SYS_landlock_create_ruleset, nullptr, 0, askForVersion) > 0;
 }
 
-/// What most samples measure, in pixels and in points.
+/// The size of most samples, in pixels and in points.
 constexpr Size usual{64, 48};
 
-/// Null when the file has no picture.
+/// Returns the drawn picture, or null if the file has none.
 inline ImagePointer drawn(const Url& url, Size size = usual, double pixelsPerPoint = 1) {
     Loader loader(pixelsPerPoint);
     const auto image = loader.openImage(url);
@@ -71,12 +71,12 @@ inline Color colorAt(const Image& image, int x, int y) {
     return color;
 }
 
-/// For IsAbout(), where there is one colour to be compared.
+/// Makes one colour comparable with IsAbout().
 constexpr std::array<Color, 1> only(Color color) {
     return {color};
 }
 
-/// In the middle of each quarter, from the top left.
+/// Returns the colours in the middle of each quarter, from the top left.
 inline std::array<Color, 4> quarters(const Image& image) {
     const int left = image.pixelsWide / 4;
     const int top = image.pixelsHigh / 4;
@@ -86,7 +86,7 @@ inline std::array<Color, 4> quarters(const Image& image) {
 
 constexpr std::array usualQuarters{red, green, blue, yellow};
 
-/// Each part of each colour within `tolerance`: what a lossy format may lose.
+/// Each part of each colour differs by at most `tolerance`, which a lossy format may lose.
 MATCHER_P2(IsAbout, expected, tolerance, "") {
     for (std::size_t i = 0; i < expected.size(); ++i)
         for (std::size_t part = 0; part < 4; ++part)

@@ -1,4 +1,4 @@
-"""TIFF samples of ink, of numbers with a point, and of more samples than colours take."""
+"""TIFF samples with inks, with floating-point numbers, and with more samples than a colour has."""
 
 import itertools
 import math
@@ -13,13 +13,13 @@ POINT = 3
 TILES = {"t322": TILE, "t323": TILE}
 STRIP = {"t278": HEIGHT}
 STRAIGHT_ALPHA = 2
-# Numbers that are to stand for none and for all of a colour.
+# Numbers that must be shown as none and as all of a colour.
 NOTHING = itertools.cycle((0.0, -0.0, -1.0, -60000.0, -math.inf, math.nan))
 EVERYTHING = itertools.cycle((1.0, 2.0, 60000.0, math.inf))
 
 
 def packed(letter, order="<"):
-    """Packs a colour as numbers with a point."""
+    """Packs a colour as floating-point numbers."""
     return lambda color: b"".join(struct.pack(order + letter, part / 255) for part in color)
 
 
@@ -45,15 +45,15 @@ def ink_tags(bits=16, samples=4, **others):
 
 
 def planes(parts, size, samples=3):
-    """Samples of `size` bytes that stand side by side, taken apart: the parts of one plane behind
-    those of the other."""
+    """Separates samples of `size` bytes that are stored pixel by pixel into planes, one after the
+    other."""
     return [b"".join(part[at:at + size] for at in range(i * size, len(part), samples * size))
             for i in range(samples) for part in parts]
 
 
 def predicted(data, high=HEIGHT):
-    """Rows of numbers of 32 bits as a predictor stores them: the first bytes of all, the second
-    bytes of all, and so on; of these the differences."""
+    """Returns rows of 32-bit numbers as a predictor stores them: the first bytes of all numbers,
+    then the second bytes, and so on, stored as differences between pixels."""
     size = len(data) // high
     stored = b""
     for start in range(0, len(data), size):
@@ -96,7 +96,7 @@ def of_ink():
         "deep_cmyk_planes.tif": tiff(planes([deep], 2, 4), ink_tags(t284=2, **STRIP)),
         "float_cmyk.tif": tiff([rows(lambda color: packed("f")(ink(color)))],
                                tags(32, 4, SEPARATED, t339=[POINT] * 4, **STRIP)),
-        # A fifth ink, of which nobody knows the colour.
+        # A fifth ink whose colour is unknown.
         "five_inks.tif": tiff([rows(lambda color: ink(color) + b"\xff")],
                               ink_tags(8, 5, t338=0, **STRIP)),
     }
@@ -123,7 +123,7 @@ def of_more():
 
 
 def gray(values):
-    """Four quarters of grays between 0 and 1."""
+    """Returns four quarters of grays between 0 and 1."""
     def pixel(x, y):
         return struct.pack("<f", values[(x >= WIDTH // 2) + 2 * (y >= HEIGHT // 2)])
     data = b"".join(pixel(x, y) for y in range(HEIGHT) for x in range(WIDTH))

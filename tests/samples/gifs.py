@@ -14,7 +14,7 @@ def gif(**options):
 
 
 def of_many_frames(count):
-    """The frame of a small GIF again and again."""
+    """Repeats the frame of a small GIF."""
     file = io.BytesIO()
     Image.new("P", (2, 2)).save(file, "GIF")
     small = file.getvalue()
@@ -23,7 +23,7 @@ def of_many_frames(count):
 
 
 def one_quarter():
-    """A frame of one colour in the upper left of a canvas that is transparent elsewhere."""
+    """Returns one colour in the upper left of a canvas that is transparent elsewhere."""
     file = io.BytesIO()
     Image.new("P", (WIDTH // 2, HEIGHT // 2), 1).save(file, "GIF", palette=bytes([0, 0, 0, *RED]))
     data = bytearray(file.getvalue())
@@ -32,7 +32,7 @@ def one_quarter():
 
 
 def transparent():
-    """Blue is no colour here."""
+    """Makes blue the transparent colour."""
     image = Image.new("P", (WIDTH, HEIGHT))
     order = [RED, GREEN, BLUE, YELLOW]
     image.putpalette(b"".join(map(bytes, order)))

@@ -35,7 +35,8 @@ def write_damaged(folder, codec):
 
 
 def write_heifs(folder):
-    """After the samples of profiles, of which one is encoded."""
+    """Writes the samples; must run after the samples of profiles, because it encodes one of
+    them."""
     for codec in CODECS:
         write_honest(folder, codec)
         write_damaged(folder, codec)

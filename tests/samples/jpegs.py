@@ -14,20 +14,20 @@ def jpeg(image, **options):
 
 
 def lying_on_its_side():
-    """The picture turned to the left, with the order to turn it to the right."""
+    """Returns the picture turned to the left, with an orientation that turns it back."""
     exif = Image.Exif()
     exif[0x0112] = 6
     return jpeg(quarters().transpose(Image.Transpose.ROTATE_90), exif=exif, dpi=(144, 72))
 
 
 def per_centimetre(data):
-    """72 dots an inch, 28.3 a centimetre: the nearest whole number is 28."""
+    """Changes 72 dots per inch to dots per centimetre: 28.3, rounded to 28."""
     start = data.index(b"JFIF\0") + 7
     return data[:start] + struct.pack(">BHH", 2, 28, 28) + data[start + 5:]
 
 
 def of_size(data, side):
-    """The same bytes claiming another size in their frame header."""
+    """Returns the same bytes with another size in the frame header."""
     for marker in (b"\xff\xc0", b"\xff\xc2"):
         if marker in data:
             start = data.index(marker) + 5

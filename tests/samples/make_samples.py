@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Writes the sample files of the tests into the folder that is its argument.
 
-The honest ones show four quarters: red, green (above), blue, yellow (below).
+The valid samples show four quarters: red, green (above), blue, yellow (below).
 """
 
 import sys
@@ -28,7 +28,7 @@ def others():
 
 
 def write_profiled(folder):
-    """Pictures whose stored colours are not those that a screen is to show."""
+    """Writes pictures whose stored colours differ from those that a screen must show."""
     translucent = quarters().convert("RGBA")
     translucent.putalpha(128)
     translucent.save(folder / "profile_translucent.png", icc_profile=swapped_profile())

@@ -4,7 +4,7 @@ from picture import BLUE, GREEN, HEIGHT, RED, WIDTH, YELLOW
 
 
 def pdf(*objects):
-    """The first object is the catalog."""
+    """Returns a PDF of these objects; the first one is the catalog."""
     data, offsets = b"%PDF-1.4\n", []
     for number, content in enumerate(objects, 1):
         offsets.append(len(data))
@@ -37,20 +37,20 @@ def fill(color, left, bottom, wide=WIDTH // 2, high=HEIGHT // 2):
 
 
 def quarters():
-    """The origin is at the lower left."""
+    """Draws the quarters; the origin is at the lower left."""
     return (fill(RED, 0, HEIGHT // 2) + fill(GREEN, WIDTH // 2, HEIGHT // 2) + fill(BLUE, 0, 0) +
             fill(YELLOW, WIDTH // 2, 0))
 
 
 def turned_quarters():
-    """Lying on its left side."""
+    """Draws the quarters for a page that lies on its left side."""
     wide, high = HEIGHT // 2, WIDTH // 2
     return (fill(RED, 0, 0, wide, high) + fill(GREEN, 0, high, wide, high) +
             fill(BLUE, wide, 0, wide, high) + fill(YELLOW, wide, high, wide, high))
 
 
 def letters():
-    """Large black letters of a font that is not in the file."""
+    """Returns large black letters of a font that the file does not embed."""
     return page(b"BT /F1 40 Tf 4 8 Td (HHH) Tj ET", wide=100, high=48,
                 extra=b"/Resources << /Font << /F1 5 0 R >> >>")
 
@@ -62,7 +62,7 @@ def recursive_pages():
 
 
 def recursive_form():
-    """A page that draws a form, which draws itself twice."""
+    """Returns a page that draws a form, which draws itself twice."""
     content = b"/X Do /X Do"
     form = b"<< /Type /XObject /Subtype /Form /BBox [0 0 64 48] /Resources << /XObject " \
            b"<< /X 5 0 R >> >> /Length %d >>\nstream\n%s\nendstream" % (len(content), content)
@@ -72,7 +72,7 @@ def recursive_form():
 
 
 def endless_work():
-    """More to draw than anybody waits for."""
+    """Returns a page that takes longer to draw than the decoder's time limit."""
     return page(b"0 0 1 RG " + b"0 0 m 64 48 l S " * 3_000_000)
 
 

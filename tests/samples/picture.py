@@ -1,4 +1,4 @@
-"""What the honest samples show: four quarters, red and green above blue and yellow."""
+"""What the valid samples show: four quarters, red and green above blue and yellow."""
 
 import struct
 
@@ -22,7 +22,7 @@ def quarters(width=WIDTH, height=HEIGHT):
 
 
 def swapped_profile():
-    """Describes colours whose red and green have changed places: sRGB, with two tags renamed."""
+    """Returns a profile of colours with red and green exchanged: sRGB with two tags renamed."""
     data = bytearray(ImageCms.ImageCmsProfile(ImageCms.createProfile("sRGB")).tobytes())
     red, green = data.index(b"rXYZ"), data.index(b"gXYZ")
     data[red:red + 4], data[green:green + 4] = b"gXYZ", b"rXYZ"
@@ -30,9 +30,9 @@ def swapped_profile():
 
 
 def encoded_lab(color):
-    """A colour of a screen as an ICC profile stores it, under the light of paper."""
+    """Returns a screen colour as an ICC profile stores it, under the standard light for paper."""
     red, green, blue = ((part / 255) for part in color)
-    # Parts of 0 and 255 are the same in any curve.
+    # For parts of 0 and 255 the transfer curve does not matter.
     x = (0.4361 * red + 0.3851 * green + 0.1431 * blue) / 0.9642
     y = 0.2225 * red + 0.7169 * green + 0.0606 * blue
     z = (0.0139 * red + 0.0971 * green + 0.7141 * blue) / 0.8249
@@ -42,7 +42,7 @@ def encoded_lab(color):
 
 
 def swapped_ink_profile():
-    """Describes inks of which cyan and magenta have changed places, by a table of their corners."""
+    """Returns a profile of inks with cyan and magenta exchanged, as a table of its corners."""
     corners = b""
     for number in range(16):
         magenta, cyan, yellow, black = ((number >> bit) & 1 for bit in (3, 2, 1, 0))

@@ -7,7 +7,7 @@ import zlib
 from picture import BLUE, GREEN, HEIGHT, HUGE, RED, WIDTH, YELLOW, color_at
 
 SIGNATURE = b"\x89PNG\r\n\x1a\n"
-# Where each of the seven passes of an interlaced PNG begins, and its steps: x, y, dx, dy.
+# The start and the steps of each of the seven passes of an interlaced PNG: x, y, dx, dy.
 PASSES = [(0, 0, 8, 8), (4, 0, 8, 8), (0, 4, 4, 8), (2, 0, 4, 4), (0, 2, 2, 4), (1, 0, 2, 2),
           (0, 1, 1, 2)]
 
@@ -26,7 +26,7 @@ def png(ihdr, rows, *before):
 
 
 def rows(pixel, width=WIDTH, height=HEIGHT):
-    """The rows of a picture whose pixels `pixel` encodes from their colour."""
+    """Returns the rows of a picture; `pixel` encodes each pixel from its colour."""
     return [b"".join(pixel(color_at(x, y, width, height)) for x in range(width))
             for y in range(height)]
 
@@ -77,7 +77,7 @@ def damaged_pngs():
 
 
 def hostile_pngs():
-    # Each text unfolds to just what the decoder would still take.
+    # Each text unpacks to almost as much as the decoder accepts.
     text = chunk(b"zTXt", b"Comment\0\0" + zlib.compress(b"a" * 7_900_000, 9))
     return {
         "huge.png": png(header(HUGE, HUGE), [b"\0" * 100]),
@@ -85,11 +85,11 @@ def hostile_pngs():
     }
 
 
-# Every other kind.
+# All other kinds.
 
 
 def packed(indexes, bits):
-    """A row of numbers of less than eight bits."""
+    """Packs a row of numbers of less than eight bits."""
     number = 0
     for index in indexes:
         number = number << bits | index
@@ -104,7 +104,7 @@ def index_rows(bits):
 
 
 def gray_rows(bits):
-    """Black at the left, white at the right."""
+    """Returns rows that are black at the left and white at the right."""
     most = (1 << bits) - 1
     row = [0 if x < WIDTH / 2 else most for x in range(WIDTH)]
     if bits == 16:
@@ -118,7 +118,7 @@ def paeth(left, up, up_left):
 
 
 def filtered(row, above, kind, pixel):
-    """A row as a PNG stores it."""
+    """Returns a row as a PNG stores it."""
     def neighbours(i):
         left = row[i - pixel] if i >= pixel else 0
         up_left = above[i - pixel] if i >= pixel else 0
@@ -132,7 +132,7 @@ def filtered(row, above, kind, pixel):
 
 
 def filtered_png(color, pixel, noise, kinds):
-    """Rows of each kind of filter, in runs of odd and even length."""
+    """Returns a PNG whose rows have these kinds of filters in turn."""
     plain = rows(pixel)
     size = len(plain[0]) // WIDTH
     plain = [bytes(min(255, part + noise.randrange(3)) if part < 255 else part for part in row)
@@ -146,7 +146,7 @@ def filtered_png(color, pixel, noise, kinds):
 
 
 def animated():
-    """An APNG whose second frame is black."""
+    """Returns an APNG whose second frame is black."""
     control = chunk(b"acTL", struct.pack(">II", 2, 0))
     frame = struct.pack(">IIIIHHBB", WIDTH, HEIGHT, 0, 0, 1, 10, 0, 0)
     black = zlib.compress(b"".join(b"\0" + bytes(3 * WIDTH) for _ in range(HEIGHT)))

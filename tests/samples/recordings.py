@@ -15,7 +15,7 @@ def ffmpeg(*arguments):
 
 
 def changing_colors(folder):
-    """10 s: red, from 0.4 s green, from 0.8 s blue; one key frame."""
+    """Writes 10 s with one key frame: red, green from 0.4 s on, blue from 0.8 s on."""
     inputs = []
     for color, seconds in COLORS.items():
         inputs += ["-f", "lavfi", "-i", f"color={color}:s={WIDTH}x{HEIGHT}:r={RATE}:d={seconds}"]
@@ -32,7 +32,8 @@ def still(folder, name, seconds, *options):
 
 
 def turned(folder):
-    """Stored lying on its left side, with the order to turn it upright: the matrix of its track."""
+    """Writes a recording that lies on its left side, with a display matrix that turns it
+    upright."""
     still(folder, "lying.mov", 1, "-vf", "transpose=cclock")
     data = bytearray((folder / "lying.mov").read_bytes())
     start = data.index(b"tkhd") + 44
@@ -45,7 +46,7 @@ def sound(folder):
 
 
 def without_duration(folder):
-    """Fragments, and a header that does not know how many will come."""
+    """Writes fragments with a header that does not know how many will follow."""
     still(folder, "fragments.mp4", 2, "-movflags", "frag_keyframe+empty_moov+default_base_moof")
 
 
@@ -55,7 +56,7 @@ AV1 = ("-c:v", "libaom-av1", "-b:v", "2M", "-usage", "realtime", "-cpu-used", "8
 
 
 def matroska(folder):
-    """What recorders of Wayland desktops write, and how each codec stands in it."""
+    """Writes what recorders of Wayland desktops write, with each codec that they use."""
     still(folder, "vp8.webm", 10, *VP8)
     still(folder, "vp9.webm", 0.5, *VP9)
     still(folder, "translucent.webm", 0.5, *VP9, "-pix_fmt", "yuva420p")
@@ -67,8 +68,8 @@ def matroska(folder):
 
 
 def live(folder):
-    """A header that says no duration and no place of anything, as for one that is sent while it is
-    recorded; and the same as its recorder left it when it was killed."""
+    """Writes a recording whose header has no duration and no index, as if it were streamed live,
+    and the same file as it is left when the recorder is killed."""
     still(folder, "live.webm", 2, *VP8, "-g", 10, "-live", 1)
     data = (folder / "live.webm").read_bytes()
     (folder / "killed.webm").write_bytes(data[:len(data) * 3 // 4])
@@ -76,8 +77,8 @@ def live(folder):
 
 
 def lying_frames(folder):
-    """Key frames that claim another size than their track: one that nobody opens, and one that
-    takes much memory for little data."""
+    """Writes key frames that claim another size than their track: one that no decoder opens, and
+    one that takes much memory for little data."""
     data = (folder / "vp8.webm").read_bytes()
     start = b"\x9d\x01\x2a"
     usual = start + struct.pack("<HH", WIDTH, HEIGHT)
@@ -87,7 +88,7 @@ def lying_frames(folder):
 
 
 def lying_index(folder):
-    """The table of where the frames are points behind the end of the file."""
+    """Writes an index that points beyond the end of the file."""
     data = bytearray((folder / "ten_seconds.mp4").read_bytes())
     start = data.index(b"stco") + 8
     count = struct.unpack(">I", data[start:start + 4])[0]
@@ -98,7 +99,7 @@ def lying_index(folder):
 
 
 def long_index(folder):
-    """The table of sizes says that there are four thousand million frames."""
+    """Writes a table of sizes that claims four thousand million frames."""
     data = bytearray((folder / "ten_seconds.mp4").read_bytes())
     start = data.index(b"stsz") + 12
     data[start:start + 4] = b"\xff\xff\xff\xff"

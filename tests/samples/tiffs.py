@@ -1,4 +1,4 @@
-"""TIFF samples; those that Pillow does not write, byte by byte."""
+"""TIFF samples; those that Pillow cannot write are written byte by byte."""
 
 import io
 import struct
@@ -19,7 +19,7 @@ def saved(image, **options):
 
 
 def tiff(parts, tags, order="<"):
-    """A file of one page: `tags` by number, `parts` its strips or tiles."""
+    """Returns a file of one page: `tags` by number, and its strips or tiles in `parts`."""
     tiled = 322 in tags
     offsets_tag, counts_tag = (324, 325) if tiled else (273, 279)
     data = b"".join(parts)
@@ -73,7 +73,7 @@ def strips(pixel=bytes, high=7):
 
 
 def bilevel():
-    """White at the left, black at the right: 1 is black."""
+    """Returns white at the left and black at the right; 1 is black."""
     return tiff([(b"\0" * (WIDTH // 16) + b"\xff" * (WIDTH // 16)) * HEIGHT],
                 tags(1, 1, WHITE_IS_ZERO, t278=HEIGHT))
 
@@ -85,7 +85,8 @@ def planar():
 
 
 def lying(good):
-    """The directory of a good file, pointing to itself as the next page and to far away data."""
+    """Returns a good file whose directory names itself as the next page, and data far beyond the
+    end."""
     return good[:4] + struct.pack("<I", len(good) - 4) + good[8:]
 
 

@@ -1,4 +1,4 @@
-"""WebP samples: pictures by Pillow, in containers that are written byte by byte."""
+"""WebP samples: pictures by Pillow, in containers written byte by byte."""
 
 import io
 import struct
@@ -34,7 +34,7 @@ def header(flags, wide=WIDTH, high=HEIGHT):
 
 
 def picture_chunk(image, **options):
-    """Of a file that holds nothing else."""
+    """Returns the chunks of a file that holds only this picture."""
     return webp(image, **options)[12:]
 
 
@@ -48,13 +48,13 @@ def animation(*frames, flags=ANIMATED | ALPHA, wide=WIDTH, high=HEIGHT):
 
 
 def one_quarter():
-    """The first frame is the lower right of a canvas on which there is nothing else."""
+    """Returns an animation whose first frame fills only the lower right of an empty canvas."""
     return animation(frame(Image.new("RGB", (WIDTH // 2, HEIGHT // 2), YELLOW), WIDTH // 2,
                            HEIGHT // 2), frame(quarters()))
 
 
 def lying_on_its_side(start=b""):
-    """The picture turned to the left, with the order to turn it to the right."""
+    """Returns the picture turned to the left, with an orientation that turns it back."""
     exif = Image.Exif()
     exif[0x0112], exif[0x011a], exif[0x011b] = 6, 144.0, 72.0
     notes = exif.tobytes().removeprefix(b"Exif\0\0")
@@ -64,7 +64,7 @@ def lying_on_its_side(start=b""):
 
 
 def of_size(data, side):
-    """The same bytes claiming another size: of a lossless picture, and of one that is not."""
+    """Returns the same bytes with another size, for lossless and lossy pictures."""
     if b"VP8L" in data:
         start = data.index(b"VP8L") + 9
         return data[:start] + struct.pack("<I", side - 1 | side - 1 << 14) + data[start + 4:]

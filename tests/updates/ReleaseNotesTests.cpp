@@ -68,7 +68,7 @@ TEST(ReleaseNotesLimitTest, WhatIsTooDeepIsLeftOut) {
     EXPECT_THAT(shown, HasSubstr("A"));
 }
 
-/// Whatever comes in, what comes out has only tags from the list, without attributes.
+/// For any input, the output has only listed tags, and only links have an attribute.
 TEST(ReleaseNotesLimitTest, NothingElseGetsThrough) {
     static const std::regex harmless(
         "</?(p|h[1-4]|ul|ol|li|b|i|strong|em|u|s|code|pre)>|<br>|</a>|<a "

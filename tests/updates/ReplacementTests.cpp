@@ -22,7 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
-/// A tree of some files, and another one beside it.
+/// A tree of some files, and another tree beside it.
 class ReplacementTest : public testing::Test {
 protected:
     ReplacementTest() {
@@ -37,7 +37,7 @@ protected:
             writeText(Url::file(path / name), contents);
         }
     }
-    /// What all of its files hold; empty when one of them is missing or another one.
+    /// Returns what all of its files contain, or an empty string if one is missing or differs.
     static std::string contentsOf(const fs::path& path) {
         std::string all;
         for (const auto* name : {"bin/vantle", "lib/vantle/a.so", "share/vantle/release"}) {
@@ -129,7 +129,7 @@ TEST_F(ReplacementTest, KilledAtAnyStopAWholeTreeStandsThere) {
         const std::string now = contentsOf(tree);
         EXPECT_TRUE(now == "old" || now == "new") << now;
         if (now == "new") ++replaced;
-        // What is not the whole of something is never called so.
+        // An incomplete tree never has one of these names.
         for (const auto* name : {"next", "previous"})
             EXPECT_EQ(fs::exists(folder / name), !contentsOf(folder / name).empty()) << name;
     }
@@ -173,7 +173,7 @@ TEST_F(ReplacementTest, KilledWhileItIsPreparedNothingHalfIsTakenForTheNextOne) 
     EXPECT_TRUE(fs::exists(folder / "next"));
 }
 
-/// On a disk of its own.
+/// Runs on its own disk.
 class FullDiskTest : public ReplacementTest {
 protected:
     void SetUp() override {
@@ -191,7 +191,7 @@ TEST_F(FullDiskTest, UnpackingEndsWithAMessageWhereverTheDiskIsFull) {
     const Staging staging = std::move(Staging::open(small).value());
     bool hasFailed = false;
     bool hasSucceeded = false;
-    // From no room at all to room for all of it.
+    // From a full disk to one with room for everything.
     for (int filled = 1000; filled >= 0; filled -= 20) {
         fs::create_directory(staging.unpacking());
         const Url filler = volume.appending("filler");

@@ -28,7 +28,7 @@ def running_server(tmp_path_factory):
 
 @pytest.fixture
 def server(running_server):
-    """With no files of other tests."""
+    """Returns the server without files of other tests."""
     for path in running_server.files.iterdir():
         path.unlink()
     return running_server
@@ -42,20 +42,21 @@ def publisher(server, key, tmp_path):
 
 
 class Copy:
-    """An installed copy of the program, whose version is OLD, and what its updater says."""
+    """An installed copy of version OLD of the program, and what its updater reports."""
 
     def __init__(self, folder, certificates):
         self.updater = Path(os.environ["VANTLE_UPDATER"])
         self.place = folder
         self.log = folder.parent / "log"
         self.tree = make_tree(folder / "app", OLD, self.programs("echo old", self.updater))
-        # In English, whatever the developer speaks.
+        # The messages are compared in English, whatever the developer's language is.
         self._environment = {**os.environ, "LANGUAGE": "", "LC_ALL": "C.UTF-8",
                              "SSL_CERT_FILE": str(certificates), "VANTLE_TEST_LOG": str(self.log)}
 
     @staticmethod
     def programs(script, updater="#!/bin/sh\nexit 1\n"):
-        """With a shell script as the program itself; the real updater only where it is needed."""
+        """Returns the programs of a tree, with a script as the program itself; only some tests need
+        the real updater."""
         return {"bin/vantle": f"#!/bin/sh\n{script}\n", "bin/vantle-updater": updater}
 
     @property
@@ -66,7 +67,7 @@ class Copy:
         return (self.tree / "share/vantle/release").read_text().split("\n")[0].split("=")[1]
 
     def snapshot(self):
-        """All that is in the place, without the staging folder."""
+        """Returns all files in the place, except the staging folder."""
         return {
             str(path.relative_to(self.place)): path.read_bytes() if path.is_file() else None
             for path in sorted(self.place.rglob("*"))
@@ -74,7 +75,7 @@ class Copy:
         }
 
     def run(self, command, *arguments, descriptors=(), **environment):
-        """The reports, one list of fields each."""
+        """Runs the updater and returns its reports, each as a list of fields."""
         ended = subprocess.run(
             [self.tree / "bin/vantle-updater", command, *arguments],
             env={**self._environment, **environment}, stdout=subprocess.PIPE,
@@ -88,7 +89,8 @@ class Copy:
         return [line.split("\t") for line in ended.stdout.decode().splitlines()]
 
     def relaunch(self, version, process=2**22 - 1):
-        """When that process has ended; without one at once. True if the updater said it goes on."""
+        """Relaunches when that process has ended, or at once without one. Returns true if the
+        updater said that it goes on."""
         answer, tell = os.pipe()
         with open(answer, "rb") as reader, open(tell, "wb") as writer:
             self.run("relaunch", f"--version={version}", f"--process={process}",
@@ -97,7 +99,7 @@ class Copy:
             return reader.read() == b"r"
 
     def wait_for_log(self):
-        """What was started may still be writing."""
+        """Waits for the log, because the started program may still be writing it."""
         deadline = time.monotonic() + 20
         while not (self.log.exists() and self.log.read_text()) and time.monotonic() < deadline:
             time.sleep(0.01)
@@ -107,7 +109,7 @@ class Copy:
         return self.run("check", f"--feed={feed}", f"--version={version}", *arguments)
 
     def prepare(self, found, **environment):
-        """Of an item as it was reported."""
+        """Prepares an item as it was reported."""
         _, version, _, _, page, address, length, signature, _ = found
         return self.run(
             "prepare", f"--version={version}", f"--address={address}", f"--length={length}",

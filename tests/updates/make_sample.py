@@ -1,4 +1,4 @@
-"""Makes a release of a few hundred kilobytes that does not get smaller by being packed."""
+"""Makes a release of a few hundred kilobytes that compression does not reduce."""
 
 import random
 import sys

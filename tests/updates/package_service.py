@@ -1,7 +1,7 @@
-"""Stands for the system's package installer: PackageKit's interface, on the bus given.
+"""Replaces the system's package installer: PackageKit's interface, on the given bus.
 
-It says what it was asked for, a line each, and ends a transaction as the first argument says:
-"success", "refuse" (with a message), "silent-failure", "vanish" or "refuse-method".
+It prints each call on a line, and ends a transaction as the first argument says: "success",
+"refuse" (with a message), "silent-failure", "vanish" or "refuse-method".
 """
 
 import hashlib

@@ -1,4 +1,4 @@
-"""Releases to update to, and feeds that offer them, good and bad."""
+"""Makes releases to update to, and feeds that offer them, valid and invalid ones."""
 
 import datetime
 import io
@@ -27,7 +27,8 @@ def compressed(archive):
 
 
 def make_tree(folder, version, programs):
-    """A tree called `folder`, with programs by their places: paths of those to copy, or a text."""
+    """Makes a tree called `folder`. `programs` maps places to the path of a file to copy, or to a
+    text."""
     folder = Path(folder)
     for place, program in programs.items():
         target = folder / place
@@ -43,7 +44,7 @@ def make_tree(folder, version, programs):
 
 
 def make_archive(folder, version, programs, change=None):
-    """The bytes of a release; `change` is called with its tree before that is packed."""
+    """Returns the bytes of a release; `change` is called with its tree before it is packed."""
     tree = make_tree(Path(folder, "vantle"), version, programs)
     if change:
         change(tree)
@@ -56,7 +57,7 @@ def make_archive(folder, version, programs, change=None):
 
 
 def hand_made_archive(*entries):
-    """An archive of tarfile.TarInfo with their contents."""
+    """Returns an archive of (tarfile.TarInfo, contents) pairs."""
     memory = io.BytesIO()
     with tarfile.open(fileobj=memory, mode="w", format=tarfile.PAX_FORMAT) as archive:
         for info, contents in entries:
@@ -74,7 +75,7 @@ def entry(name, contents=b"", kind=tarfile.REGTYPE, link=""):
 
 
 class Publisher:
-    """Puts releases onto a server, signed with a key."""
+    """Puts signed releases onto a server."""
 
     def __init__(self, server, key, folder):
         self._server = server
@@ -88,7 +89,7 @@ class Publisher:
         return path
 
     def feed(self, archive, version, feed=b"", address=None, **details):
-        """The bytes of a feed with one more item."""
+        """Returns the bytes of a feed with one more item."""
         details.setdefault("date", NOW)
         path = self.save(archive)
         return releasing.add_item(
@@ -97,7 +98,7 @@ class Publisher:
         )
 
     def publish(self, *arguments, **details):
-        """Saves such a feed onto the server, and gives its address."""
+        """Saves a feed with that release onto the server, and returns its address."""
         return self.save_feed(self.feed(*arguments, **details))
 
     def save_feed(self, contents):
@@ -108,7 +109,7 @@ class Publisher:
         return releasing.sign_feed(xml, self._key)
 
     def changed(self, feed, old, new):
-        """The feed with something changed in it, signed again."""
+        """Returns the feed with a change in it, signed again."""
         xml = releasing.SIGNATURE_COMMENT.sub(b"", feed)
         assert old in xml
         return self.signed(xml.replace(old, new))

@@ -1,4 +1,4 @@
-"""A web server on this machine that can misbehave: nginx, with a certificate made for it."""
+"""A local web server that can misbehave: nginx, with its own certificate."""
 
 import shutil
 import socket
@@ -65,7 +65,7 @@ def make_certificate(folder, name):
 
 
 class Server:
-    """Serves what is saved into `files`; ends with close()."""
+    """Serves the files in `files`, until close()."""
 
     def __init__(self, folder):
         self._folder = Path(folder)
@@ -81,7 +81,7 @@ class Server:
             folder=self._folder, secure=self._secure, plain=self._plain, stranger=self._stranger,
             cut=self._cutting.getsockname()[1],
         ))
-        # Not on everybody's path.
+        # nginx is in a folder that is not on every user's path.
         program = shutil.which("nginx", path="/usr/sbin:/usr/bin:/usr/local/sbin:/usr/local/bin")
         assert program, "nginx is not installed"
         self._process = subprocess.Popen(
@@ -91,7 +91,8 @@ class Server:
 
     @property
     def certificates(self):
-        """What a client has to trust; the stranger's is not among them."""
+        """Returns the certificates that a client must trust; the stranger's certificate is not
+        among them."""
         return self._folder / "server.pem"
 
     def address(self, path):
@@ -107,7 +108,7 @@ class Server:
         (self.files / name).write_bytes(contents)
 
     def requests(self):
-        """The paths that were asked for."""
+        """Returns the paths that were requested."""
         log = self._folder / "access.log"
         return [line.split('"')[1].split()[1] for line in log.read_text().splitlines()]
 

@@ -1,7 +1,7 @@
-"""What is fetched and unpacked, and which archives are refused, each with its message.
+"""Which archives are unpacked, and which are refused with which message.
 
-Whatever happens, the copy that is installed stays as it is, and nothing appears beside it but the
-staging folder.
+In every case the installed copy stays as it is, and nothing appears beside it except the staging
+folder.
 """
 
 import fcntl
@@ -23,7 +23,7 @@ def nothing_else_changes(copy):
 
 @pytest.fixture
 def archive(copy, tmp_path):
-    """A good one."""
+    """Returns a good archive."""
     return make_archive(tmp_path / "made", NEW, copy.programs("echo new"))
 
 
@@ -34,7 +34,7 @@ def message_of(reports):
 
 def refuse(copy, publisher, contents, version=NEW):
     message = message_of(copy.check_and_prepare(publisher.publish(contents, version)))
-    # Nothing of it stays where it could be taken for a version.
+    # No part of it stays where it could be mistaken for a version.
     assert not copy.staging.exists() or set(
         path.name for path in copy.staging.iterdir()
     ) <= {"lock"}

@@ -1,4 +1,4 @@
-"""What is found in feeds, and which are refused, each with its message."""
+"""What is found in feeds, and which feeds are refused with which message."""
 
 import datetime
 import os
@@ -285,7 +285,7 @@ def test_other_addresses_are_refused(copy, address):
     "127.0.0.1", "127.255.255.254", "[::1]", "localhost",
 ])
 def test_each_name_of_this_machine_may_do_without_https(copy, host):
-    # Nobody listens there.
+    # No server listens there.
     message = failure(copy.check(f"http://{host}:1/appcast.xml"))
     assert message.startswith("The server could not be asked: ")
 
@@ -298,7 +298,7 @@ def test_without_another_feed_it_is_the_one_that_was_built_in(copy):
 
 
 def test_a_release_has_the_feed_of_the_project_built_in():
-    """Unless whoever builds it names another one."""
+    """The feed is the project's, unless the build names another one."""
     configuration = (ROOT / "src/updater/CMakeLists.txt").read_text()
     default = re.search(r'set\(VANTLE_UPDATE_FEED "(.*?)" CACHE', configuration)[1]
     assert default == "https://vantle.org/updates/appcast.xml"

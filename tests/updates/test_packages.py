@@ -1,4 +1,4 @@
-"""A copy that was installed as a package: the system's package installer gets the file."""
+"""Updates of a copy that was installed as a package: the system's installer gets the file."""
 
 import hashlib
 import os
@@ -21,7 +21,7 @@ BUS = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration
 
 @pytest.fixture
 def bus(tmp_path):
-    """The address of a system bus of our own."""
+    """Returns the address of a private system bus."""
     configuration = tmp_path / "bus.conf"
     configuration.write_text(BUS.format(folder=tmp_path))
     daemon = subprocess.Popen(
@@ -35,7 +35,7 @@ def bus(tmp_path):
 
 @pytest.fixture
 def service(bus):
-    """Starts the installer that ends as it is told to."""
+    """Returns a function that starts an installer, which ends as it is told to."""
     started = []
 
     def start(ending):
@@ -61,7 +61,7 @@ def cache(tmp_path):
 
 @pytest.fixture
 def prepare(copy, publisher, bus, cache):
-    """The reports of preparing a package that was found."""
+    """Returns the reports of preparing a package that was found."""
     releasing.describe_release(copy.tree, OLD, f"{SYSTEM}-deb", "package")
     feed = publisher.publish(PACKAGE, NEW, platform=f"{SYSTEM}-deb")
 
@@ -87,7 +87,7 @@ def test_a_package_is_handed_to_the_system(copy, service, prepare, cache):
     call = installer.stdout.readline()
     assert call.startswith(f"InstallFiles 0 ['{cache}/vantle/update/vantle.deb']")
     assert installer.stdout.readline().split()[1] == hashlib.sha256(PACKAGE).hexdigest()
-    # What was fetched goes, and nothing was changed by ourselves.
+    # The download is removed, and the updater has not changed anything itself.
     assert not list((cache / "vantle").iterdir())
     assert copy.snapshot() == before
     assert not copy.staging.exists()

@@ -1,4 +1,4 @@
-"""How a version that was prepared is put in place, started, and taken back where it fails."""
+"""How a prepared version is put in place and started, and taken back if it fails."""
 
 import os
 import signal
@@ -15,7 +15,8 @@ OLD_COMES_UP = 'echo "old $VANTLE_UPDATE_OUTCOME" >> "$VANTLE_TEST_LOG"'
 
 @pytest.fixture
 def ready(copy, publisher, tmp_path):
-    """Prepares a version whose program is a script; the old one writes that it was started."""
+    """Returns a function that prepares a version whose program is a script; the old program logs
+    its start."""
     def prepare(script):
         (copy.tree / "bin/vantle").write_text(f"#!/bin/sh\n{OLD_COMES_UP}\n")
         contents = make_archive(tmp_path / "new", NEW, copy.programs(script, copy.updater))
@@ -89,7 +90,7 @@ def test_one_that_ends_by_itself_before_it_says_anything_is_taken_back(copy, rea
 
 
 def test_one_that_hands_over_to_a_copy_that_runs_has_come_up(copy, ready):
-    # As if somebody had started it while the updater did.
+    # Simulates a user who starts the program while the updater does.
     ready('cp /bin/sleep "$0.x"; mv "$0.x" "$0"; '
           'eval "\\"$0\\" 600 $VANTLE_UPDATE_READY>&- > /dev/null 2>&1 &"; exit 0')
     relaunch(copy)
@@ -106,7 +107,7 @@ def running(program):
             if os.readlink(f"/proc/{name}/exe") == str(program):
                 found.append(int(name))
         except OSError:
-            # It ended meanwhile, or belongs to somebody else.
+            # The process ended meanwhile, or belongs to another user.
             continue
     return found
 
@@ -149,7 +150,7 @@ def has_handle_of_process(process):
             if "pidfd" in os.readlink(f"/proc/{process.pid}/fd/{descriptor}"):
                 return True
         except OSError:
-            # It was closed meanwhile.
+            # The descriptor was closed meanwhile.
             continue
     return False
 
@@ -162,7 +163,7 @@ def test_nothing_happens_before_the_old_one_has_ended(copy, ready):
          f"--process={running.pid}", "--tell=1"],
         env={**os.environ, "VANTLE_TEST_LOG": str(copy.log)}, stdout=subprocess.DEVNULL,
     )
-    # It has the handle by which it waits.
+    # When it holds this handle, it waits for the process.
     while not has_handle_of_process(waiting):
         assert waiting.poll() is None
     assert copy.version() == OLD

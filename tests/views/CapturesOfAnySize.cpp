@@ -11,7 +11,7 @@
 namespace vantle {
 namespace {
 
-/// A sky, a sun and two hills, in colours that follow from the name.
+/// Returns a sky, a sun and two hills, in colours that depend on the name.
 ImagePointer landscape(const std::string& name, Size size) {
     const int hue = name.empty() ? 0 : static_cast<unsigned char>(name.front()) * 47 % 360;
     QImage picture(static_cast<int>(size.width), static_cast<int>(size.height),

@@ -6,11 +6,11 @@
 
 namespace vantle {
 
-/// A capture of a picture that is not on any disk: `pixels` large, a little landscape of its own
-/// colours. An empty size leaves the capture without a picture, as a file that cannot be read does.
+/// Returns a capture without a file, whose picture is a small landscape of `pixels` in its own
+/// colours. With an empty size it has no picture, like a file that cannot be read.
 CapturePointer capture(const std::string& name, Size pixels = {}, Date date = {});
 
-/// The same for a recording.
+/// Returns the same for a recording.
 CapturePointer recording(const std::string& name, double seconds, Size pixels = {}, Date date = {});
 
 }  // namespace vantle

@@ -109,7 +109,7 @@ QRectF CardStage::frame(const QQuickItem& item) const {
 }
 
 void CardStage::hover(const QPointF& point) {
-    // Qt tells of a pointer only when it moves.
+    // Qt reports a pointer only when it moves.
     QTest::mouseMove(&window(), {1, 1});
     QTest::mouseMove(&window(), point.toPoint());
     rest();

@@ -16,15 +16,15 @@
 
 namespace vantle {
 
-/// A panel with its card, on a screen that nobody sees and under a clock that the test turns, and a
-/// record of what it asks for.
+/// A panel with its card, on an invisible screen and a clock that the test advances, with a record
+/// of its requests.
 class CardStage : public fakes::SettingsOnFakes {
 public:
     CardStage();
 
-    /// A panel over the state as it is that is not on the screen yet.
+    /// Makes a panel for the current state that is not on the screen yet.
     CapturePanel& preparedCard();
-    /// A card over the state as it is, at rest.
+    /// Makes a card for the current state, and lets it come to rest.
     void makeCard();
     /// Changes the captures and lets everything come to rest.
     void show(const std::vector<CapturePointer>& captures);
@@ -36,13 +36,13 @@ public:
     QQuickWindow& window() const { return panel->window(); }
     QRectF glassFrame() const;
 
-    /// All items whose QML type has that name, depth first.
+    /// Returns all items of that QML type, depth first.
     std::vector<QQuickItem*> items(const char* type, QQuickItem* below = nullptr) const;
-    /// The first of them, which has to be there.
+    /// Returns the first of these items, which must exist.
     QQuickItem* item(const char* type, QQuickItem* below = nullptr) const;
-    /// The button of that name, which has to be there.
+    /// Returns the button of that name, which must exist.
     QQuickItem* button(const char* name, QQuickItem* below = nullptr) const;
-    /// The symbols of the buttons that can be seen, in order.
+    /// Returns the symbols of the visible buttons, in order.
     std::vector<std::string> symbols(QQuickItem* below) const;
     QQuickItem* tile(std::size_t position) const { return items("CaptureTile").at(position); }
     static QRectF frameIn(const QQuickItem& item, const QQuickItem& other);
@@ -67,7 +67,7 @@ public:
     fakes::ManualScheduler scheduler{time};
     PanelState state;
     fakes::FakeDraggingSessions dragging;
-    std::vector<DragItem> dragItems;  ///< What a drag carries; empty: what it started from.
+    std::vector<DragItem> dragItems;  ///< A drag's items; if empty, the one it started from.
     CardActions actions;
     std::vector<std::string> asked;  ///< "copy a.png", "clear selection", ...
     Rect shareAnchor;

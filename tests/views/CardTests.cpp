@@ -1,4 +1,4 @@
-// The card: where it stands, how large it is, and when its parts are seen.
+// The card: its place, its size, and when its parts are visible.
 
 #include <gmock/gmock.h>
 
@@ -397,7 +397,7 @@ TEST_F(SnapshotTest, SaysWhyItCannotBeWritten) {
     const auto failure = panel->writeSnapshot("/none/card.png");
     ASSERT_TRUE(failure.has_value());
     EXPECT_FALSE(failure->message.empty());
-    // A disk that is full.
+    // This device behaves like a full disk.
     EXPECT_TRUE(panel->writeSnapshot("/dev/full").has_value());
 }
 

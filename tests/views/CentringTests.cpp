@@ -1,4 +1,4 @@
-// What stands in the middle of something else.
+// Which things are centred in others.
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ QPoint middleOfScreen() {
     return QGuiApplication::primaryScreen()->availableGeometry().center();
 }
 
-/// But for the frame that this platform puts around a window, and the half pixels of odd sizes.
+/// Tolerates the frame that this platform puts around a window, and half pixels of odd sizes.
 void expectNear(const QPointF& one, const QPointF& other) {
     EXPECT_NEAR(one.x(), other.x(), 3);
     EXPECT_NEAR(one.y(), other.y(), 3);
@@ -29,7 +29,7 @@ protected:
     double middle() const { return view_().width() / 2; }
     QRectF of(const char* name) { return frame(named(QString::fromLatin1(name))); }
 
-    /// The texts that stand in the middle; the others begin at the left.
+    /// Expects that these texts are centred, and that they exist.
     void expectCentred(const QStringList& expected) {
         for (const QQuickItem* item : textItems()) {
             const QString shown = item->property("text").toString();
@@ -80,7 +80,7 @@ TEST_F(CentredScreenTest, TheStepsOfTheOnboardingStandInTheMiddle) {
     rest();
     expectCentred({QStringLiteral("You're all set"), QStringLiteral("Vantle lives in your")});
     EXPECT_NEAR(of("Show me a sample").center().x(), middle(), 0.5);
-    // From the symbol at its top to the button at its end.
+    // The content reaches from the symbol at its top to the button at its end.
     const auto* content = view().findChild<QQuickItem*>(QStringLiteral("content"));
     const QRectF room = frame(*content);
     const double above = frame(*content->childItems().front()->childItems().back()).top();
@@ -160,7 +160,8 @@ TEST_F(CentredCardTest, WhatMarksATileStandsInTheMiddleOfItsPlate) {
     expectWhollyInTheMiddleOf(*item("Symbol", mark), *mark);
     expectWhollyInTheMiddleOf(*item("QQuickRectangle", mark), *mark);
     auto* badge = item("DurationBadge", tile(0));
-    // The plate has a whole width, and its row begins at a whole place; letters have neither.
+    // The plate has a whole width and its row begins at a whole place, but letters have fractional
+    // sizes.
     const QPointF middle = frame(*item("QQuickRow", badge)).center();
     EXPECT_NEAR(middle.x(), frame(*badge).center().x(), 1);
     EXPECT_NEAR(middle.y(), frame(*badge).center().y(), 1);

@@ -1,4 +1,4 @@
-// Dragging a thumbnail away, and what is seen of it.
+// Dragging a thumbnail away, and what is visible of it.
 
 #include <gmock/gmock.h>
 
@@ -33,7 +33,7 @@ protected:
     }
     QPointF middle(std::size_t position = 0) const { return frame(*thumbnail(position)).center(); }
 
-    /// Mouse events between whole points, which the test library has none of.
+    /// Sends a mouse event at a fractional position, which the test library does not support.
     void send(QEvent::Type type, const QPointF& point, Qt::KeyboardModifiers modifiers = {}) {
         const bool isDown = type != QEvent::MouseButtonRelease;
         QMouseEvent event(type, point, window().mapToGlobal(point), Qt::LeftButton,
@@ -221,7 +221,7 @@ TEST_F(DragTest, WithoutAPictureTheFilesIconIsDragged) {
     EXPECT_EQ(dragging.dragged[0].frame.center(), bounds.center());
 }
 
-/// A desktop that has red icons for pictures.
+/// A desktop with red icons for pictures.
 class RedIcons {
 public:
     RedIcons() : paths_(QIcon::themeSearchPaths()), name_(QIcon::themeName()) {

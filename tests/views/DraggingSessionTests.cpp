@@ -1,4 +1,4 @@
-// Real drags, as far as they need no desktop, and the way back of what nobody took.
+// Real drags, as far as they need no desktop, and the flight back of a drag that was refused.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@
 namespace vantle {
 namespace {
 
-/// The picture that is on its way; null when there is none.
+/// Returns the picture that flies back, or null if there is none.
 QWindow* flying() {
     for (QWindow* window : QGuiApplication::topLevelWindows())
         if (dynamic_cast<FlyBack*>(window) && window->isVisible()) return window;
@@ -46,7 +46,7 @@ TEST(FlyBackTest, ItSlowsDownOnItsWayHomeAndIsGoneThere) {
         EXPECT_LE((flying()->position() - expected).manhattanLength(), 2) << time;
     }
     frames.advance(56);
-    // What deletes itself is deleted by the event loop.
+    // The window deletes itself, which takes a turn of the event loop.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(flying());
 }
@@ -60,11 +60,12 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     }
 
-    /// Drags and lets go where nobody takes anything; `moved` is how far the tile has gone since.
+    /// Drags and drops where no window accepts anything; `moved` is how far the tile has moved
+    /// meanwhile.
     void dragInVain(const QPointF& moved) {
         const DraggingItem item{Url::file("/folder/a.png"), picture({160, 100}),
                                 QRectF(20, 15, 160, 100)};
-        // What is dragged ends with an event loop of its own.
+        // A drag runs its own event loop, so the release must come from a timer.
         QTimer release;
         QObject::connect(&release, &QTimer::timeout, [this] {
             QTest::mouseRelease(&window, Qt::LeftButton, {}, QPoint(250, 180));
@@ -89,7 +90,7 @@ TEST_F(DraggingSessionTest, WhatNobodyTakesFliesBackToWhereItsTileIs) {
     QCursor::setPos(500, 400);
     dragInVain({40, 7});
     ASSERT_TRUE(flying());
-    // Gripped 10 from its corner.
+    // The grip is 10 points from the picture's corner.
     EXPECT_EQ(flying()->position(), QPoint(490, 390));
     frames.advance(272);
     ASSERT_TRUE(flying());

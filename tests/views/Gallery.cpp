@@ -1,8 +1,8 @@
 // gallery FOLDER [LANGUAGE]
 //
-// Writes sheets of pictures, at the scale that QT_SCALE_FACTOR says: each scene of the card, light
-// and dark, over a light and a dark wallpaper; the steps of the onboarding and the settings, light
-// and dark.
+// Writes sheets of pictures at the scale in QT_SCALE_FACTOR: each scene of the card, light and
+// dark, over a light and a dark wallpaper; the steps of the onboarding and the settings, light and
+// dark.
 #include <QFont>
 #include <QGuiApplication>
 #include <QLinearGradient>
@@ -20,7 +20,7 @@ namespace {
 using namespace vantle;
 
 constexpr int columns = 3;
-// What of the panel is worth showing, in points.
+// The part of the panel to show, in points.
 constexpr QRect part(100, 20, 700, 310);
 
 enum class Wallpaper { light, dark };
@@ -29,7 +29,7 @@ const char* name(Wallpaper wallpaper) {
     return wallpaper == Wallpaper::light ? "light" : "dark";
 }
 
-/// A soft landscape, with edges that show how much of it comes through the plate.
+/// Returns a soft landscape, with edges that show how far the plate is translucent.
 QImage paper(Wallpaper wallpaper, const QSize& size) {
     QImage picture(size, QImage::Format_RGB32);
     QPainter painter(&picture);
@@ -89,7 +89,7 @@ std::vector<QImage> screens() {
     return all;
 }
 
-/// The screens side by side.
+/// Returns the screens side by side.
 QImage screenSheet(double scale) {
     const auto all = screens();
     const int gap = qRound(20 * scale);

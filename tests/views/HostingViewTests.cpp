@@ -24,7 +24,7 @@ protected:
     }
     void showTwo() { showAndListen({capture("a"), capture("b")}); }
 
-    /// On the card, but on nothing that takes a click.
+    /// Returns a place on the card where nothing takes a click.
     QPointF background() const { return glassFrame().bottomLeft() + QPointF(100, -6); }
     void press(const QPointF& point) {
         QTest::mousePress(&window(), Qt::LeftButton, {}, point.toPoint());
@@ -145,7 +145,7 @@ TEST_F(HostingViewTest, AMarqueeEndsWithTheCard) {
 TEST_F(HostingViewTest, APressWhoseReleaseNobodyTellsDrawsNoMarquee) {
     showTwo();
     press(background());
-    // As when the window was not on the screen at the release: the button is up.
+    // The window was not on the screen at the release, so the button is up without an event.
     const QPointF to = background() + QPointF(60, -60);
     QMouseEvent moved(QEvent::MouseMove, to, window().mapToGlobal(to), Qt::NoButton, Qt::NoButton,
                       Qt::NoModifier);

@@ -1,4 +1,4 @@
-// What keys do while the panel has the keyboard, and what assistive programs find.
+// What keys do while the panel has the keyboard focus, and what assistive programs find.
 
 #include <gmock/gmock.h>
 
@@ -24,7 +24,7 @@ protected:
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(&window(), key, modifiers);
     }
-    /// The position of the tile that has the keyboard; -1 when none has.
+    /// Returns the position of the tile that has the keyboard focus, or -1 if none has.
     int focused() const {
         const auto tiles = items("CaptureTile");
         for (std::size_t i = 0; i < tiles.size(); ++i)
@@ -133,7 +133,7 @@ TEST_F(KeyboardTest, TheKeyboardOfATileThatGoesIsItsNeighbours) {
 
 class AccessibilityTest : public CardFixture {
 protected:
-    /// "role name" of everything below the window, depth first.
+    /// Appends "role name" of everything below the window, depth first.
     static void describe(QAccessibleInterface* item, std::vector<std::string>& lines) {
         for (int i = 0; i < item->childCount(); ++i) {
             QAccessibleInterface* child = item->child(i);

@@ -1,4 +1,4 @@
-// What a person reads in the windows and on the card is in their language, and has its room there.
+// All texts in the windows and on the card are in the user's language, and fit.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,8 +21,8 @@ namespace {
 
 using testing::IsEmpty;
 
-/// Brackets around every text that asks the toolkit for a translation, which is written from right
-/// to left.
+/// Puts brackets around every text that requests a translation from the toolkit; the language is
+/// written from right to left.
 class PseudoTranslator final : public QTranslator {
 public:
     PseudoTranslator() { QCoreApplication::installTranslator(this); }
@@ -37,7 +37,7 @@ public:
     }
 };
 
-/// The texts of a tree of items that did not ask for a translation.
+/// Collects the texts in a tree of items that did not request a translation.
 void collectUntranslated(const QQuickItem& item, QStringList& found) {
     if (!item.isVisible()) return;
     if (item.inherits("QQuickText")) {
@@ -49,7 +49,7 @@ void collectUntranslated(const QQuickItem& item, QStringList& found) {
     for (const QQuickItem* child : item.childItems()) collectUntranslated(*child, found);
 }
 
-/// But for those that hold what is nobody's to translate.
+/// Returns the untranslated texts, except those that contain a text that must not be translated.
 std::vector<std::string> untranslated(const QQuickItem& view, const QStringList& foreign) {
     QStringList found;
     collectUntranslated(view, found);
@@ -125,7 +125,7 @@ private:
                                {QString::fromLatin1(GetParam())}};
 };
 
-/// Names of files are the only texts that may be cut off on the card. These scenes have all others.
+/// On the card only names of files may be cut off. These scenes have all other texts.
 TEST_P(LanguageTest, TheTextsOfTheCardHaveTheirRoom) {
     const std::set<std::string> wanted{"one-hovered", "hovered", "selected", "recording"};
     for (const Scene& scene : allScenes()) {

@@ -7,7 +7,7 @@
 
 namespace vantle {
 
-/// The frame clock of all animations, turned by hand: nothing moves but by advance().
+/// A clock for all animations that only advance() moves.
 class ManualFrames final : public QAnimationDriver {
 public:
     static constexpr int frame = 16;  // milliseconds
@@ -16,8 +16,7 @@ public:
         install();
         heartbeat_.start();
         beginWhatWaits();
-        // Up to 50 ms of the clock that ran before are still to come: nobody but the heartbeat gets
-        // them.
+        // Up to 50 ms of the previous clock are still due. This way only the heartbeat gets them.
         advanceAnimation();
     }
     ~ManualFrames() override { uninstall(); }
@@ -33,11 +32,11 @@ public:
         }
     }
 
-    /// Until everything stands still.
+    /// Advances far enough for all animations to end.
     void settle() { advance(4000); }
 
 private:
-    /// Without any animation that runs, Qt would turn to a clock of its own.
+    /// Keeps this clock in use: without a running animation, Qt would switch to its own clock.
     class Heartbeat final : public QAbstractAnimation {
     public:
         int duration() const override { return -1; }
@@ -46,7 +45,7 @@ private:
         void updateCurrentTime(int) override {}
     };
 
-    /// Animations begin by an event, and their timers by another.
+    /// Animations begin with one event, and their timers with another.
     static void beginWhatWaits() {
         for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
     }

@@ -1,4 +1,4 @@
-// What marks a tile and the card: their colours, and what they say where there is nothing to say.
+// The marks of a tile and of the card: their colours, and their texts if there is nothing to show.
 
 #include <gmock/gmock.h>
 

@@ -21,11 +21,11 @@ protected:
             ++timesEnded;
             chosen = line;
         });
-        // Lays the lines out.
+        // Rendering lays the lines out.
         window.grabWindow();
     }
     void press(Qt::Key key) { QTest::keyClick(&window, key); }
-    /// Of the menu without its shadow, on the screen.
+    /// Returns the menu's area on the screen, without its shadow.
     QRect plate() {
         const int margin = qRound(window.rootObject()->property("margin").toReal());
         return window.geometry().marginsRemoved({margin, margin, margin, margin});

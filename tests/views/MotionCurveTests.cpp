@@ -1,5 +1,5 @@
-// The curves along which things move: each against the closed form of the spring that it should
-// have, at several times on its way.
+// Compares the curves along which things move with the closed form of the intended spring, at
+// several times.
 
 #include <gtest/gtest.h>
 
@@ -13,10 +13,10 @@
 namespace vantle {
 namespace {
 
-constexpr int sampled = 48;  // milliseconds from one look to the next
+constexpr int sampled = 48;  // milliseconds between two samples
 constexpr int looks = 8;
 
-/// A spring's way from a value at rest to its target.
+/// A spring's motion from a value at rest to its target.
 struct Course {
     Animation animation;
     double from;
@@ -26,7 +26,7 @@ struct Course {
     double clampedAt(double seconds) const { return std::clamp(at(seconds), 0.0, 1.0); }
 };
 
-/// Lets time pass, and looks with the seconds that have passed since the beginning.
+/// Lets time pass, and calls `look` with the seconds since the beginning.
 void eachLook(ManualFrames& frames, const std::function<void(double seconds)>& look) {
     for (int i = 1; i <= looks; ++i) {
         frames.advance(sampled);
@@ -39,7 +39,7 @@ protected:
     QQuickItem* card() const {
         return PassthroughContainerView::findGlass(*window().contentItem())->parentItem();
     }
-    /// How far the row is scrolled.
+    /// Returns how far the row is scrolled.
     double scrolled() const { return 10 - tile(0)->parentItem()->x(); }
     std::vector<CapturePointer> captures(int count) const {
         std::vector<CapturePointer> made;

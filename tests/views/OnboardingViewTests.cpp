@@ -155,7 +155,7 @@ TEST_F(OnboardingViewTest, ClosedAndShownAgainItKeepsItsStep) {
     window().makeKeyAndOrderFront();
     settle();
     EXPECT_TRUE(has(QStringLiteral("Set up Vantle")));
-    // It says so, therefore it is so.
+    // The window shows this corner, so it must be the setting.
     EXPECT_EQ(settings->corner.value(), PanelCorner::bottomRight);
 }
 

@@ -14,7 +14,7 @@ private:
     int& count_;
 };
 
-/// An item of which can be seen whether what draws it is still there.
+/// An item that counts its scene graph nodes, so that a test sees whether they still exist.
 class DrawnItem final : public QQuickItem {
 public:
     explicit DrawnItem(int& nodes) : nodes_(nodes) { setFlag(ItemHasContents); }

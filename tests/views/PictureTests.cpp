@@ -1,7 +1,7 @@
-// The card and the other windows as people see them, against pictures that somebody has looked at.
-// A picture that differs is left in the working folder; when it is right, VANTLE_WRITE_REFERENCES=1
-// makes it the new one. Inter 4 has letters of another form than the version before it: what looks
-// different for that alone has a second reference.
+// Compares the card and the other windows with pictures that a person has checked. A picture that
+// differs is left in the working folder; if it is right, VANTLE_WRITE_REFERENCES=1 makes it the new
+// reference. Version 4 of Inter has letters of another form than version 3: pictures that differ
+// for this reason alone have a second reference.
 
 #include <gtest/gtest.h>
 
@@ -35,10 +35,11 @@
 namespace vantle {
 namespace {
 
-// Letters of other versions of the font libraries differ a little at their edges, but nowhere a
-// mark as large as this square can come, go or change its colour.
+// Other versions of the font libraries draw the edges of letters slightly differently. These limits
+// allow that, but no mark as large as this square can appear, vanish or change its colour
+// unnoticed.
 constexpr int toleratedDifference = 24;
-constexpr int side = 10;  // of the square, in pixels
+constexpr int side = 10;  // the square's side in pixels
 constexpr int toleratedInSquare = 25;
 
 struct Look {
@@ -47,7 +48,7 @@ struct Look {
     QColor wallpaper;
 };
 
-/// What there is to see, without what is behind it.
+/// The visible part of a scene, without its background.
 struct Subject {
     std::string name;
     std::function<QImage()> draw;
@@ -171,10 +172,10 @@ bool isVisible(QRgb one, QRgb other) {
                      std::abs(qBlue(one) - qBlue(other))}) > toleratedDifference;
 }
 
-/// The most pixels that differ visibly in any square. The sizes are equal.
+/// Returns the highest number of visibly different pixels in any square. The sizes must be equal.
 int difference(const QImage& a, const QImage& b) {
     const int width = a.width() + 1;
-    // Of each pixel, how many differ to the left of and above it.
+    // Holds for each pixel how many differ to its left and above.
     std::vector<int> sums(static_cast<std::size_t>(width * (a.height() + 1)));
     const auto sum = [&](int x, int y) -> int& {
         return sums[static_cast<std::size_t>(y * width + x)];
@@ -199,7 +200,7 @@ QFont fontOfReferences() {
     return QFont(QStringLiteral("Inter"));
 }
 
-/// The first number of the version that the font says of itself in its table "head".
+/// Returns the major version of the font in its table "head".
 int majorVersion(const QFont& font) {
     const QByteArray head = QRawFont::fromFont(font).fontTable("head");
     return head.size() < 8 ? 0 : qFromBigEndian<qint16>(head.constData() + 4);
@@ -218,7 +219,7 @@ QString referenceInUse(const QString& file) {
                                                               : reference(file);
 }
 
-/// There is a second one only where the first does not hold for both.
+/// Writes a reference. A second one is written only if the first does not fit both versions.
 bool writeReference(const QImage& taken, const QString& file) {
     if (majorVersion(fontOfReferences()) < 4) return taken.save(reference(file));
     QFile::remove(referenceOfInter4(file));
@@ -249,7 +250,7 @@ protected:
     DesktopAppearance desktop;
 
 private:
-    /// As a user of this system reads it.
+    /// The texts as a user of this system reads them.
     Translations english_{QStringLiteral(VANTLE_TRANSLATIONS), {QStringLiteral("en")}};
 };
 

@@ -1,4 +1,4 @@
-// Clicks that come in a row while what is under the pointer changes.
+// Clicks in quick succession while the target under the pointer changes.
 
 #include <gmock/gmock.h>
 
@@ -17,7 +17,7 @@ protected:
     CapturePointer c = capture("c");
 
     void showThree() {
-        // There the next tile moves to the place of the first.
+        // In this corner the next tile moves to the place of the first.
         state.corner = PanelCorner::bottomLeft;
         show({a, b, c});
         makeCard();
@@ -26,14 +26,14 @@ protected:
         time.advance(Seconds(seconds));
         frames.advance(static_cast<int>(seconds * 1000));
     }
-    /// The capture leaves as after it was used or dismissed.
+    /// Removes the capture, as if it was used or dismissed.
     void take(const CapturePointer& taken) {
         auto left = state.captures.value();
         std::erase(left, taken);
         state.captures.set(left);
     }
     void clickHere() { QTest::mouseClick(&window(), Qt::LeftButton, {}, pointer.toPoint()); }
-    /// On the first tile's picture, above its buttons.
+    /// Returns a place on the first tile's picture, above its buttons.
     QPointF onFirst() const { return frame(*tile(0)).topLeft() + QPointF(60, 30); }
     void moveTo(const QPointF& point) {
         pointer = point;

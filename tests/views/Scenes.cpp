@@ -7,7 +7,7 @@ namespace {
 
 constexpr Size screen{2880, 1800};
 
-/// Screenshots as a person takes them, of several shapes.
+/// Returns screenshots of several shapes, as people take them.
 std::vector<CapturePointer> shots(CardStage& stage, int count) {
     constexpr std::array sizes = {screen,           Size{1200, 1600}, Size{1600, 900},
                                   Size{1000, 1000}, Size{2200, 1300}, Size{1920, 1080}};

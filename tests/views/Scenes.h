@@ -8,16 +8,16 @@
 
 namespace vantle {
 
-/// One state of the card that is worth a picture.
+/// One state of the card, for a picture.
 struct Scene {
     std::string name;
     std::function<void(CardStage&)> set;
 };
 
-/// All of them, in the order in which they are shown.
+/// Returns all scenes, in the order in which they are shown.
 const std::vector<Scene>& allScenes();
 
-/// The panel as it stands, on nothing.
+/// Returns the panel as it is, without a background.
 QImage drawn(CardStage& stage);
 
 }  // namespace vantle

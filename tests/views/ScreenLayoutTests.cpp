@@ -1,6 +1,6 @@
-// Nothing is cut off and nothing lies over something else, however large the window and its
-// letters are, in each language, and from whichever side it is read. VANTLE_KEEP_PICTURES=1 leaves
-// a picture of each in the working folder.
+// Nothing is cut off and nothing overlaps, for any size of the window and its letters, in each
+// language, and in both writing directions. VANTLE_KEEP_PICTURES=1 leaves a picture of each window
+// in the working folder.
 
 #include <gtest/gtest.h>
 
@@ -47,7 +47,8 @@ protected:
         return a.adjusted(1, 1, -1, -1).intersects(b.adjusted(1, 1, -1, -1));
     }
 
-    /// What cuts off the item; a scrolled text does not lie over what stands beside its area.
+    /// Returns the item that clips this one. A scrolled text cannot overlap what is beside its
+    /// area.
     static const QQuickItem* area(const QQuickItem& item) {
         const QQuickItem* above = item.parentItem();
         while (above && !above->clip()) above = above->parentItem();
@@ -59,7 +60,7 @@ protected:
         EXPECT_GE(place.left(), 0) << shown(text);
         EXPECT_LE(place.right(), window().width()) << shown(text);
         EXPECT_LE(text.property("contentWidth").toDouble(), text.width() + 1) << shown(text);
-        // A path may be longer than any window.
+        // A path may be longer than any window is wide.
         const bool isPath = shown(text).starts_with("~/");
         EXPECT_FALSE(text.property("truncated").toBool() && !isPath) << shown(text);
     }
@@ -71,7 +72,7 @@ protected:
 
     void expectOrder() {
         settle();
-        // Rows of buttons are laid out with the next frame, which a busy machine may be late with.
+        // Rows of buttons get their layout with the next frame, which a busy machine may draw late.
         for (auto* item : view().findChildren<QQuickItem*>()) item->ensurePolished();
         settle();
         const auto texts = textItems();

@@ -6,7 +6,7 @@
 namespace vantle {
 namespace {
 
-/// The items below this one in the order in which they are drawn, itself first.
+/// Visits this item and its visible descendants in the order in which they are drawn.
 void visit(QQuickItem& item, const std::function<void(QQuickItem&)>& visitor) {
     if (!item.isVisible()) return;
     visitor(item);
@@ -97,7 +97,7 @@ void ScreenStage::openUpdate(const UpdateState& state) {
                             .observer = updaterDelegate_,
                             .engine = std::make_unique<fakes::FakeUpdateEngine>(updates),
                             .version = "1.0",
-                            // The one that is looked at is made here.
+                            // openUpdate() makes the window that the test looks at itself.
                             .makeWindow = [this](UpdateFlow&) {
                                 return std::make_unique<fakes::FakeWindow>(
                                     fakes::FakeWindow::Record{windowEvents, windowSizes}, "update");
@@ -148,7 +148,7 @@ QRectF ScreenStage::frame(const QQuickItem& item) const {
 
 void ScreenStage::click(const QString& name) {
     QQuickItem& item = named(name);
-    // As a user scrolls to it.
+    // Focus scrolls to the item, as a user would.
     item.forceActiveFocus(Qt::MouseFocusReason);
     QTest::mouseClick(window_.get(), Qt::LeftButton, {}, frame(item).center().toPoint());
     settle();

@@ -29,15 +29,15 @@
 
 namespace vantle {
 
-/// The settings' window or the onboarding's on a screen that nobody sees, over stand-ins.
+/// The window of the settings, the onboarding or an update on an invisible screen, with fakes.
 class ScreenStage {
 public:
     ScreenStage();
 
-    /// Each opens its window with that size of its content.
+    /// Opens the window with that size of its content.
     void openSettings(Size size = {480, 860});
     void openOnboarding(int step = 0, Size size = {600, 900});
-    /// As high as it wants to be.
+    /// Opens the window as high as its content.
     void openUpdate(const UpdateState& state);
 
     void close() { window_.reset(); }
@@ -46,18 +46,18 @@ public:
     QQuickItem& view() { return *window_->rootObject(); }
     QImage picture();
 
-    /// The item that an assistive program knows by that name and that can be seen or scrolled to;
-    /// it has to be there.
+    /// Returns the item with that accessible name that is visible or can be scrolled to; it must
+    /// exist.
     QQuickItem& named(const QString& name);
     bool has(const QString& name);
-    /// All texts that are drawn, from the top to the bottom of the tree.
+    /// Returns all texts that are drawn, from the top to the bottom of the tree.
     QStringList texts();
     std::vector<QQuickItem*> textItems();
 
     QRectF frame(const QQuickItem& item) const;
     void click(const QString& name);
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    /// Handles what is on the event loop, and on the virtual one.
+    /// Handles all events of the event loop and of virtual time.
     void settle();
     /// Lets all motion come to rest.
     void rest() { frames.settle(); }

@@ -16,7 +16,7 @@ const QString slider = QStringLiteral("Otherwise dismiss after");
 
 class SettingsViewTest : public testing::Test, protected ScreenStage {
 protected:
-    /// Once the slider has rested.
+    /// Returns the stored value after the slider has rested.
     double storedSeconds() {
         time.advance(Seconds(1));
         return settings->dismissAfter.value();
@@ -227,7 +227,7 @@ TEST_F(SettingsViewTest, AChangeFromElsewhereIsShown) {
     EXPECT_FALSE(isOn(QStringLiteral("Also show screen recordings")));
     EXPECT_TRUE(has(QStringLiteral("Top Left")));
     EXPECT_TRUE(has(QStringLiteral("/data/shots")));
-    // Also after the user has touched it.
+    // This also works after the user has changed the control.
     click(QStringLiteral("Also show screen recordings"));
     settings->showRecordings.set(false);
     settle();
@@ -304,7 +304,7 @@ TEST_F(SettingsViewTest, ADockThatCannotBeChosenSaysWhy) {
 TEST_F(SettingsViewTest, AThumbnailThatComesBackTakesItsSwitchBack) {
     openSettings();
     const QString hide = QStringLiteral("Hide the built-in macOS thumbnail");
-    // As a tool whose settings turn out to be read-only.
+    // Simulates a tool whose settings turn out to be read-only.
     preferences->obstacles["show-thumbnail"] = "They are read-only.";
     click(hide);
     EXPECT_FALSE(isOn(hide));
@@ -414,7 +414,7 @@ TEST_F(SettingsViewTest, ASnapshotIsDrawnOffscreenAtItsScale) {
     ASSERT_TRUE(png);
     const QImage drawn = QImage::fromData(QByteArray::fromStdString(*png), "PNG");
     EXPECT_EQ(drawn.size(), QSize(960, 1720));
-    // The same picture but for the edges of letters.
+    // The pictures are equal except for the edges of letters.
     const QImage small = drawn.scaled(shown.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                              .convertToFormat(QImage::Format_RGB32);
     double sum = 0;

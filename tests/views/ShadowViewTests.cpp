@@ -38,7 +38,7 @@ protected:
             .convertToFormat(QImage::Format_Grayscale8);
     }
 
-    /// How much of each pixel the plate covers.
+    /// Returns how much of each pixel the plate covers.
     static QImage covered(QSize size, QSize plate) {
         QImage mask(size, QImage::Format_Alpha8);
         mask.fill(0);
@@ -50,7 +50,7 @@ protected:
         return mask;
     }
 
-    /// The greatest difference from a shadow made in one piece.
+    /// Returns the greatest difference from a shadow drawn in one piece.
     int difference(QSize size) {
         const QImage found = drawn(size);
         const QSize plate = size - 2 * QSize(margin, margin);
@@ -59,7 +59,8 @@ protected:
         int greatest = 0;
         for (int y = 0; y < size.height(); ++y)
             for (int x = 0; x < size.width(); ++x) {
-                // It falls `drop` lower, and the picture of it begins `blur` above and beside.
+                // The shadow is `drop` lower than the plate, and its picture begins `blur` above
+                // and beside it.
                 const QPoint at(x - drop, y - 2 * drop);
                 const double shade =
                     whole.rect().contains(at) ? whole.constScanLine(at.y())[at.x()] : 0;

@@ -16,7 +16,7 @@ QImage symbol(const QString& name, int side, const QString& color = QStringLiter
                                  {side, side});
 }
 
-/// The part of the picture that is drawn on, 0 to 1.
+/// Returns the part of the picture that is drawn on, from 0 to 1.
 double coverage(const QImage& picture) {
     double sum = 0;
     for (int y = 0; y < picture.height(); ++y)

@@ -28,7 +28,7 @@ protected:
     void select(const CapturePointer& capture) { state.selected.set({capture->id()}); }
     QQuickItem* mark(std::size_t position) const { return item("CornerMark", tile(position)); }
 
-    /// Whether a control of that kind can be seen on the tile.
+    /// Returns true if a control of that kind is visible on the tile.
     bool isSeen(const char* type, std::size_t position) const {
         const auto found = items(type, tile(position));
         return !found.empty() && found.front()->isVisible();
@@ -139,7 +139,7 @@ TEST_F(TileTest, TallLettersKeepTheRoomBelowThem) {
         return glassFrame().bottom() - frame(*item("TileName", tile(0))).bottom();
     };
     EXPECT_GE(room(), 12);
-    // Several marks above each other, in a script that has them.
+    // These scripts put several marks above each other.
     show({capture("ကြွေးကြော်သံ ཧཱུྃ"), capture("ภาพหน้าจอ")});
     EXPECT_GE(room(), 12);
 }
@@ -377,7 +377,7 @@ TEST_F(TileTest, WhatIsSaidAboutATileGoesWithIt) {
     hover(*button("Dismiss", tile(0)));
     const auto* tag = item("HelpTag");
     ASSERT_EQ(tag->opacity(), 1);
-    // The card of one is so narrow that nothing of it is where the pointer is.
+    // A card with one tile is so narrow that it does not reach the pointer.
     show({b});
     EXPECT_EQ(tag->opacity(), 0);
 }

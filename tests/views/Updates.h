@@ -7,7 +7,7 @@
 
 namespace vantle {
 
-/// A version to look at.
+/// An update to show.
 inline UpdateItem offeredItem() {
     return {.version = "1.2",
             .displayVersion = "1.2",
@@ -24,7 +24,7 @@ inline UpdateItem offeredItem() {
             .installation = UpdateItem::Installation::tree};
 }
 
-/// All that an update can look like, by name.
+/// Returns all states of an update that look different, by name.
 inline std::vector<std::pair<std::string, UpdateState>> updateStates() {
     using Stage = UpdateState::Stage;
     UpdateItem elsewhere = offeredItem();

@@ -12,11 +12,11 @@
 namespace vantle {
 namespace {
 
-/// Real alerts, with hands for them.
+/// Real alerts, and functions that use them as a user would.
 struct ShownAlerts {
     using Act = std::function<void(QQuickView& window)>;
 
-    /// Runs the alert; `act` happens once it is open. Gives the answer.
+    /// Runs the alert and calls `act` when it is open. Returns the answer.
     int run(const Alert& asked, Act act) {
         const QWindow* below = topmost();
         QTimer timer;
@@ -28,7 +28,7 @@ struct ShownAlerts {
         timer.start(1);
         return alerts.runModal(asked);
     }
-    /// The alert that was opened last; null without one.
+    /// Returns the alert that was opened last, or null if there is none.
     static QQuickView* topmost() {
         QQuickView* last = nullptr;
         for (QWindow* window : QGuiApplication::topLevelWindows())

@@ -7,11 +7,11 @@
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
-    // Sanitized, QML is not compiled ahead, and what the toolkit kept of an earlier build counts as
-    // this one's: all files in the program carry one date.
+    // Sanitizer builds do not compile QML ahead of time. The toolkit would mistake its cache of an
+    // earlier build for this one's, because all files in the program have the same date.
     qputenv("QML_DISABLE_DISK_CACHE", "1");
     const QGuiApplication application(argc, argv);
-    // The same letters on every machine, for the pictures that are compared.
+    // The pictures are compared, so every machine must use the same letters.
     QFont font(QStringLiteral("Inter"));
     font.setPixelSize(13);
     QGuiApplication::setFont(font);
