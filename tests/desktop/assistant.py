@@ -1,4 +1,4 @@
-"""A screen reader for the tests: what it finds on Vantle's windows, and what it does there."""
+"""A screen reader for the tests: reads Vantle's windows and operates them."""
 
 import json
 import pathlib
@@ -7,12 +7,12 @@ import subprocess
 from privatedesktop import wait_until
 
 _PROGRAM = pathlib.Path(__file__).with_name("assistive_program.py")
-# The program offers itself to screen readers only where one runs, or where it is told to.
+# Without this, the program offers itself to screen readers only if one runs.
 ENVIRONMENT = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
 
 class Assistant:
-    """It is started with the first question, and ends with the desktop."""
+    """Starts its program with the first question; the program ends with the desktop."""
 
     def __init__(self, desktop):
         self._desktop = desktop
@@ -39,11 +39,12 @@ class Assistant:
         return answers[-1]
 
     def found(self):
-        """What is on the windows; each thing has a name, role, description, states and actions."""
+        """Returns what is on the windows; each thing has a name, role, description, states and
+        actions."""
         return self._read("list")
 
     def find(self, name):
-        """The things of that name."""
+        """Returns the things of that name."""
         return self._read("find", name)
 
     def wait_for(self, name):
@@ -53,7 +54,7 @@ class Assistant:
         return self._read("names")
 
     def in_state(self, state):
-        """The names of the captures in that state."""
+        """Returns the names of the captures in that state."""
         return [
             item["name"]
             for item in self.found()

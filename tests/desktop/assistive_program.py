@@ -1,13 +1,13 @@
 #!/usr/bin/python3
-"""Reads and operates Vantle as a screen reader does, over AT-SPI. It runs on the private desktop.
+"""Reads and operates Vantle over AT-SPI, as a screen reader does. Runs on the private desktop.
 
-It reads commands from standard input, each a JSON list on a line, and answers each with a line:
+It reads commands from standard input, each a JSON list on a line, and prints an answer to each:
   ["list"]               every accessible thing
   ["names"]              their names, which takes less time
   ["find", NAME]         the things of that name
-  ["act", NAME, ACTION]  does an action of the thing of that name; answers whether it could
-  ["set", NAME, VALUE]   sets the value of the thing of that name; answers whether it could
-The answer is null when something left the window while it was looked at.
+  ["act", NAME, ACTION]  does an action of the thing of that name; answers whether that worked
+  ["set", NAME, VALUE]   sets the value of the thing of that name; answers whether that worked
+The answer is null if something left the window meanwhile.
 """
 
 import json
@@ -17,7 +17,7 @@ import warnings
 import gi
 
 gi.require_version("Atspi", "2.0")
-# The names of the bindings that Debian 12 has are old ones for newer releases.
+# Newer releases warn about the names that Debian 12's bindings use.
 warnings.simplefilter("ignore")
 from gi.repository import Atspi, GLib  # noqa: E402
 
@@ -29,13 +29,13 @@ STATES = {
     "checked": Atspi.StateType.CHECKED,
     "read only": Atspi.StateType.READ_ONLY,
 }
-# What older releases call otherwise.
+# Roles that older releases name differently.
 ROLES = {"push button": "button", "push button menu": "button"}
 
 
 def program():
     desktop = Atspi.get_desktop(0)
-    # What Qt puts into the cache holds no children.
+    # Qt's cached items have no children.
     desktop.set_cache_mask(Atspi.Cache.NONE)
     for index in range(desktop.get_child_count()):
         child = desktop.get_child_at_index(index)
@@ -58,7 +58,7 @@ def actions(item):
 
 
 def frame(item):
-    """On the screen: left, top, width, height."""
+    """Returns the item's frame on the screen: left, top, width, height."""
     place = Atspi.Component.get_extents(item, Atspi.CoordType.SCREEN)
     return [place.x, place.y, place.width, place.height]
 

@@ -1,4 +1,4 @@
-"""Copies of the program that a test may change."""
+"""Makes copies of the program that a test may change."""
 
 import pathlib
 import shutil
@@ -7,7 +7,8 @@ _PARTS = ("bin/vantle*", "lib/vantle/*/*", "share/vantle/*/*")
 
 
 def copy_program(binary, folder):
-    """Vantle with all that it starts and loads; the path of the copy's program."""
+    """Copies Vantle with everything that it starts and loads, and returns the path of the
+    program."""
     build = pathlib.Path(binary).parents[1]
     for part in (path for parts in _PARTS for path in build.glob(parts)):
         copy = folder / part.relative_to(build)

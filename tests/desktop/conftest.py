@@ -16,7 +16,7 @@ from screens import Screens  # noqa: E402
 from watched_folder import WatchedFolder  # noqa: E402
 from web_page import WebPage  # noqa: E402
 
-# ctest is told that this exit status means "skipped".
+# For ctest this exit status means "skipped".
 SKIPPED_EXIT_STATUS = 77
 
 
@@ -33,7 +33,7 @@ def pytest_configure(config):
 @pytest.hookimpl(hookwrapper=True)
 def pytest_runtest_makereport(item, call):
     report = (yield).get_result()
-    # One that failed as it was expected to was not skipped.
+    # A test that failed as expected was not skipped.
     failed_as_expected = report.skipped and hasattr(report, "wasxfail")
     if report.skipped and not failed_as_expected:
         item.config.skipped_tests += 1
@@ -50,7 +50,7 @@ def pytest_sessionfinish(session, exitstatus):
 
 
 def keep_evidence(item):
-    """A failed test leaves the picture of its screen and the logs of its programs."""
+    """Keeps the picture of the screen and the logs of the programs of a failed test."""
     folder = os.environ.get("VANTLE_FAILURES")
     desktop = item.funcargs.get("desktop")
     if not folder or desktop is None:
@@ -63,8 +63,8 @@ def keep_evidence(item):
 
 
 def require_peer(tool, package=None):
-    """Skips the test where a heavy peer is missing, unless none may be missing. One of a package
-    that only some releases have may be missing in the others."""
+    """Skips the test if a heavy program is missing, or fails it if none may be missing. A program
+    whose package only some releases have may be missing in the others."""
     if shutil.which(tool):
         return
     if os.environ.get("VANTLE_REQUIRE_ALL_PEERS") and (package is None or is_offered(package)):
@@ -73,7 +73,7 @@ def require_peer(tool, package=None):
 
 
 def is_offered(package):
-    """Whether this release has it, installed or not."""
+    """Returns true if this release has the package, installed or not."""
     shown = subprocess.run(["apt-cache", "show", package], capture_output=True, check=False)
     return shown.returncode == 0
 
@@ -95,7 +95,7 @@ def binary():
 
 @pytest.fixture
 def vantle(desktop, binary):
-    """The program, not started yet; with settings as after the first run."""
+    """The program, not started yet, with the settings that follow the onboarding."""
     program = Program(binary, desktop)
     program.write_settings()
     yield program
@@ -110,7 +110,7 @@ def folder(desktop, vantle):
 
 @pytest.fixture
 def card(desktop, vantle, folder):
-    """With one capture on it, which leaves when it is used."""
+    """The card with one capture on it, which leaves when it is used."""
     vantle.write_settings(removeAfterUse="true", deleteAfterUse="false")
     vantle.start_watching()
     return wait_for_card(desktop, show_one(desktop, folder))
@@ -118,13 +118,13 @@ def card(desktop, vantle, folder):
 
 @pytest.fixture
 def screens(desktop, vantle):
-    """Its windows, for a program that offers itself to assistive programs."""
+    """Vantle's windows, for a program that offers itself to assistive programs."""
     return Screens(desktop, vantle)
 
 
 @pytest.fixture
 def page(desktop):
-    """A browser with a page on which things can be dropped and pasted."""
+    """A browser with a page that accepts drops and pastes."""
     opened = WebPage(desktop)
     yield opened
     opened.close()

@@ -1,4 +1,4 @@
-"""A folder of a server that never answers."""
+"""A folder on a server that never answers."""
 
 import contextlib
 import ctypes
@@ -10,8 +10,9 @@ _DETACH = 2
 
 @contextlib.contextmanager
 def mounted_on(path):
-    """Whether that is permitted. Until the end whoever looks at `path` waits."""
-    # The kernel passes each question on, and nobody ever reads it.
+    """Mounts it on `path`, and yields true if that is permitted. Until the end every access to
+    `path` blocks."""
+    # The kernel passes each request on, and nobody ever reads it.
     device = os.open("/dev/fuse", os.O_RDWR) if os.access("/dev/fuse", os.W_OK) else -1
     options = f"fd={device},rootmode=40000,user_id=0,group_id=0".encode()
     target = os.fsencode(path)
@@ -22,4 +23,4 @@ def mounted_on(path):
         if is_mounted:
             _LIBC.umount2(target, _DETACH)
         if device >= 0:
-            os.close(device)  # whoever waits gets an error
+            os.close(device)  # blocked accesses fail

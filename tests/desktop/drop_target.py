@@ -1,4 +1,4 @@
-"""A window of another program on which things can be dropped, which behaves as it is told."""
+"""A window of another program that accepts drops and behaves as the test says."""
 
 import contextlib
 import threading
@@ -12,11 +12,11 @@ _VERSION = 5
 class DropTarget:
     """Takes one type of data. `behaviour`:
 
-    "take"    takes what it is given
-    "deny"    promises to take it, and says afterwards that it has not
-    "early"   asks as soon as it hears of the drag, by no time, and takes what it was given
-    "ignore"  says that it has taken it, and has read nothing
-    "die"     promises to take it, and is gone when it is dropped
+    "take"    takes the data
+    "deny"    promises to take the data, but reports afterwards that it did not
+    "early"   requests the data when the drag enters, without a time, and takes it
+    "ignore"  reports that it took the data, but reads nothing
+    "die"     promises to take the data, and is gone at the drop
     "refuse"  promises nothing
     """
 
@@ -43,7 +43,7 @@ class DropTarget:
         return self._display.intern_atom(name)
 
     def serve(self):
-        """Answers what has come; to be called again and again."""
+        """Answers the events that have arrived; must be called again and again."""
         while self._display.pending_events():
             self._handle(self._display.next_event())
 
@@ -107,14 +107,14 @@ class DropTarget:
         self._display.sync()
 
     def die(self):
-        """Goes away while something is over it."""
+        """Vanishes while something is dragged over it."""
         self._window.destroy()
         self._display.sync()
 
 
 @contextlib.contextmanager
 def served(target):
-    """The target answers by itself in here."""
+    """The target answers by itself during the with statement."""
     ended = threading.Event()
 
     def serve():

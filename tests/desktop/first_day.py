@@ -1,4 +1,4 @@
-"""The first day: from the onboarding to a capture that has come back from the Trash."""
+"""A user's first day: from the onboarding to a capture that comes back from the Trash."""
 
 import colorsys
 
@@ -9,7 +9,7 @@ from using import BUTTONS, press_with_control
 
 _STEPS = 3
 _MARGIN = 14  # between the card and the edges of the screen
-_BUTTON_FROM_MIDDLE = 240  # of the window, which stands in the screen's middle
+_BUTTON_FROM_MIDDLE = 240  # from the middle of the window, which is the middle of the screen
 
 
 def _is_strong(colour):
@@ -18,7 +18,7 @@ def _is_strong(colour):
 
 
 def _forward_button(desktop):
-    """Its place: the lowest strong colour on the onboarding's grey; None while there is none."""
+    """Returns the button's place: the lowest strong colour on the onboarding's grey, or None."""
     width, height = desktop.screen.size
     x = width // 2 + _BUTTON_FROM_MIDDLE
     column = desktop.screen.screenshot(Rectangle(x, height // 2, 1, height // 2))
@@ -34,7 +34,7 @@ def _forward_button(desktop):
 
 
 def go_through_onboarding(desktop, vantle):
-    """By mouse, and with what it recommends."""
+    """Clicks through the onboarding with the mouse, with the recommended settings."""
     for _ in range(_STEPS):
         wait_until_still(lambda: desktop.screen.screenshot().tobytes(), "the step")
         place = wait_until(lambda: _forward_button(desktop), "there is a button to go on")
@@ -45,7 +45,7 @@ def go_through_onboarding(desktop, vantle):
 
 
 class Card:
-    """The only capture on it, in the corner that the onboarding recommends."""
+    """The card with a single capture, in the corner that the onboarding recommends."""
 
     def __init__(self, desktop):
         area = getattr(desktop, "work_area", desktop.screen.work_area)()
@@ -65,18 +65,18 @@ def wait_for_copy(original, copy):
 
 
 def paste_into_editor(desktop, editor, file, text):
-    """Until the file that the editor opens holds that text."""
+    """Pastes and saves until the file that the editor opens contains that text."""
     file.touch()
     if hasattr(desktop, "give_to_user"):
         desktop.give_to_user()
 
     before = desktop.screen.screenshot()
     process = editor(file)
-    # Before its window has the keyboard the desktop itself would take what is pasted.
+    # Before the window has the keyboard, the paste would go to the desktop itself.
     wait_until(lambda: is_large_part(desktop.screen.screenshot(), before), "the editor opens")
 
     def is_saved():
-        # A shell may miss a short press.
+        # A shell may miss a short key press.
         press_with_control(desktop, "v")
         press_with_control(desktop, "s")
         return text in file.read_text()
@@ -86,13 +86,13 @@ def paste_into_editor(desktop, editor, file, text):
 
 
 def is_large_part(picture, before):
-    """Whether they differ over a large part of the screen, as when a window opens."""
+    """Returns true if the pictures differ over a large part, as when a window opens."""
     change = ImageChops.difference(picture.convert("L"), before.convert("L"))
     return change.histogram()[0] < 0.9 * picture.width * picture.height
 
 
 def move_to_trash_and_back(desktop, card, file):
-    """Back as a file manager does it."""
+    """Moves the file to the Trash, and restores it as a file manager does."""
     content = file.read_bytes()
     card.press("trash")
     wait_until(lambda: not file.exists(), "it is in the Trash")

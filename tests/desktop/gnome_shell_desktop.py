@@ -1,6 +1,6 @@
 """The whole GNOME Shell as a Wayland desktop inside a private one, with XWayland.
 
-Its system bus is one of our own, with a stand-in for logind: without that no session starts.
+It has its own system bus with a mock of logind, because no session starts without that.
 """
 
 import re
@@ -26,7 +26,7 @@ EXTENSION = "ubuntu-appindicators@ubuntu.com"
 _BLACK = (0, 0, 0)
 _SOCKET = "wayland-of-gnome"
 _SETTINGS = {
-    # The window manager of the private desktop has Print.
+    # The window manager of the private desktop uses Print itself.
     "org.gnome.shell.keybindings show-screenshot-ui": "['F12']",
     "org.gnome.shell welcome-dialog-last-shown-version": "'99'",
     "org.gnome.desktop.session idle-delay": "0",
@@ -35,7 +35,7 @@ _SETTINGS = {
 
 
 class GnomeShellDesktop(WaylandDesktop):
-    """With the extension that shows icons of the tray, unless it is told otherwise."""
+    """Has the extension that shows tray icons, unless `extensions` says otherwise."""
 
     name = "GNOME"
 
@@ -75,7 +75,7 @@ class GnomeShellDesktop(WaylandDesktop):
         )
 
     def _write_settings(self):
-        # That it cannot lock the screen has been told.
+        # Marks the warning that the screen cannot be locked as shown.
         warned = self.home / ".local/share/gnome-shell/lock-warning-shown"
         warned.parent.mkdir(parents=True)
         warned.touch()
@@ -95,13 +95,14 @@ class GnomeShellDesktop(WaylandDesktop):
 
     def _wait_for_shell(self):
         wait_until(self._shows_overview, "the shell shows its overview", limit=60)
-        # Before its start is over the shell takes no input, on 48 never again if it got some.
+        # Until its start is complete the shell ignores input; version 48 ignores it for ever if it
+        # got any.
         wait_until_still(self._picture, "the shell", limit=60)
         self.leave_overview()
         self._wake_pointer()
 
     def leave_overview(self):
-        """To the windows, which the shell does not show at first. It may come back at the start."""
+        """Leaves the overview, which the shell shows first and may show again during its start."""
 
         def is_left():
             self.screen.keyboard.press("Escape")
@@ -117,14 +118,14 @@ class GnomeShellDesktop(WaylandDesktop):
         return self.screen.screenshot().tobytes()
 
     def _bar(self):
-        """The colour of the bar along the top; None before it is drawn."""
+        """Returns the colour of the bar along the top, or None if it is not drawn yet."""
         bar = self.screen.screenshot(Rectangle(0, 0, self.screen.size[0], 30))
         has_clock = bar.convert("L").getextrema()[1] > 180
         return bar.getpixel((200, 3)) if has_clock else None
 
 
 class GnomeShellOnX11(GnomeShellDesktop):
-    """The window manager of the private desktop itself."""
+    """GNOME Shell as the window manager of the private desktop."""
 
     toolkit_backend = "x11"
 

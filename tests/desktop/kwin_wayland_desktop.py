@@ -5,7 +5,7 @@ import shutil
 
 from wayland_desktop import WaylandDesktop
 
-# KWin takes a program to start, but no arguments for it.
+# KWin accepts a program to start, but no arguments for it.
 _TELL_NAMES = """#!/bin/sh
 echo $DISPLAY $WAYLAND_DISPLAY > $HOME/told
 """
@@ -19,15 +19,15 @@ class KWinDesktop(WaylandDesktop):
         super().__init__(host)
 
     def _start_compositor(self):
-        # The installed one has a right of its own, and does not start where nobody may have it. A
-        # copy has none.
+        # The installed program has a capability, and does not start if that cannot be granted. A
+        # copy does not have it.
         kwin = shutil.copy(shutil.which("kwin_wayland"), self.folder)
         teller = self.folder / "tell-names"
         teller.write_text(_TELL_NAMES)
         teller.chmod(0o755)
         self._write_scale()
         width, height = self.screen.size
-        # Painted by Qt: the X server has not all that KWin needs of OpenGL.
+        # Qt paints it, because the X server lacks some of the OpenGL that KWin needs.
         self._compositor = self.start(
             "env", "KWIN_COMPOSE=Q",
             kwin, "--x11-display", self.environment["DISPLAY"], "--xwayland",
@@ -36,7 +36,7 @@ class KWinDesktop(WaylandDesktop):
         self._wait_for_names("DISPLAY", "WAYLAND_DISPLAY")
 
     def _write_scale(self):
-        """Where KWin 6 looks for it; 5 has an option."""
+        """Writes the scale where KWin 6 reads it; KWin 5 has an option for it."""
         output = {"connectorName": "X11-0", "scale": self._scale}
         place = {"outputIndex": 0, "enabled": True, "position": {"x": 0, "y": 0}, "priority": 0}
         setup = {"lidClosed": False, "outputs": [place]}

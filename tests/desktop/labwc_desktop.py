@@ -19,7 +19,7 @@ _CONFIGURATION = """
 
 
 class LabwcDesktop(WaylandDesktop):
-    """Each output is a window of the private desktop. A single one fills its screen."""
+    """Each output is a window of the private desktop. A single one fills the screen."""
 
     name = "labwc"
 
@@ -60,7 +60,7 @@ class LabwcDesktop(WaylandDesktop):
         )  # fmt: skip
 
     def area_of(self, output):
-        """Where the output with that name is on the private desktop."""
+        """Returns the area of the output with that name on the private desktop."""
         return self.screen.area(window_titled(self, output))
 
     def close_output(self, name):

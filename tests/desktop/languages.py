@@ -1,8 +1,9 @@
-"""Languages, as a system has them on which they are installed."""
+"""Installs languages as a system has them."""
 
 
 def compile_locale(desktop, language):
-    """Installs it for the desktop's user, and gives the folder for $LOCPATH. "xx_XX" stays away."""
+    """Installs the locale for the desktop's user, and returns the folder for $LOCPATH. "xx_XX" is
+    never installed."""
     name, charset = language.split(".")
     folder = desktop.home / "locale"
     if name != "xx_XX":

@@ -1,13 +1,13 @@
 """GNOME's compositor as a Wayland desktop inside a private one, with XWayland.
 
-Its shell is drawn by Mutter, too, but needs services of a whole system, which windows do not.
+Mutter also draws GNOME's shell, but that needs services of a whole system, and windows do not.
 """
 
 import re
 
 from wayland_desktop import WaylandDesktop
 
-# Mutter ends when this ends.
+# Mutter ends when this script ends.
 _TELL_NAMES = """
 echo $DISPLAY $WAYLAND_DISPLAY $XAUTHORITY > $HOME/told
 echo $$ > $HOME/pid
@@ -20,7 +20,7 @@ _FIRST_OUTPUT = "[(0, 0, 1.0, 0, true, [('LVDS1', '%dx%d@60.000', {})])]"
 
 
 class MutterDesktop(WaylandDesktop):
-    """Its outputs stand side by side in one window, and share it alike."""
+    """Its outputs share one window equally, side by side."""
 
     name = "GNOME"
 
@@ -29,7 +29,7 @@ class MutterDesktop(WaylandDesktop):
         super().__init__(host)
 
     def _start_compositor(self):
-        # Without a shell nobody makes workspaces when they are needed.
+        # Without a shell nothing creates workspaces dynamically.
         self.run("gsettings", "set", "org.gnome.mutter", "dynamic-workspaces", "false")
         width, height = self._size_of_output()
         self.start("env", f"MUTTER_DEBUG_DUMMY_MODE_SPECS={width}x{height}",
@@ -42,7 +42,7 @@ class MutterDesktop(WaylandDesktop):
         return width // self._outputs, height
 
     def keep_first_output(self):
-        """Turns the others off."""
+        """Turns the other outputs off."""
         told = self._ask_displays("GetCurrentState")
         serial = re.match(r"\(uint32 (\d+),", told).group(1)
         only = _FIRST_OUTPUT % self._size_of_output()

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""A window of GTK that tells on its standard output which clicks, keys and files reach it."""
+"""A GTK window that prints which clicks, keys and files reach it."""
 
 import sys
 import warnings
@@ -19,7 +19,7 @@ def tell(kind, *values):
 def on_event(_, event):
     if event.type == Gdk.EventType.BUTTON_PRESS:
         tell("click", round(event.x), round(event.y))
-        # Or the window tries it a second time, as one on its frame.
+        # Otherwise GTK handles the event a second time, as a click on the window's frame.
         return True
     if event.type == Gdk.EventType.KEY_PRESS:
         tell("key", Gdk.keyval_name(event.keyval))
@@ -27,7 +27,7 @@ def on_event(_, event):
 
 
 def refuse(_, context, x, y, time):
-    """What it has promised to take."""
+    """Refuses the drop that it has promised to take."""
     tell("refused", x, y)
     Gtk.drag_finish(context, False, False, time)
     return True

@@ -1,4 +1,4 @@
-"""A notification service that shows nothing and prints what it is asked to show, a line each."""
+"""A notification service that shows nothing, and prints a line for each notification."""
 
 import sys
 
@@ -36,7 +36,8 @@ def _answer(connection, _sender, _path, _interface, method, parameters, invocati
         print("notified by", parameters.unpack()[0], flush=True)
     invocation.return_value(_ANSWERS[method])
     if method == "Notify":
-        # Some tools stay until then, and may not know the number yet when they are told first.
+        # Some tools wait for this signal before they end. The first one may come before they know
+        # the notification's number, so it is repeated.
         GLib.timeout_add(250, _close, connection)
 
 

@@ -1,4 +1,4 @@
-"""Windows of another program, which note what keys and clicks reach them."""
+"""Windows of another program, which record the keys and clicks that reach them."""
 
 from Xlib import X, XK, Xatom, Xutil, display
 
@@ -36,7 +36,7 @@ class OtherWindow:
                    "the other window has the focus")
 
     def paint_stripes(self, width=12, colours=(0x1E285A, 0xF0C850)):
-        """Fills it with upright stripes."""
+        """Fills it with vertical stripes."""
         size = self._window.get_geometry()
         pattern = self._window.create_pixmap(2 * width, 1, size.depth)
         brush = pattern.create_gc()

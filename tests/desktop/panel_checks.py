@@ -1,4 +1,4 @@
-"""What has to be true of the panel under every window manager."""
+"""What must be true of the panel under every window manager."""
 
 import io
 
@@ -17,7 +17,7 @@ def encoded(image):
 
 
 def show_one(desktop, folder, name="shot.png"):
-    """Saves a screenshot and waits until its tile stands. Returns the panel."""
+    """Saves a screenshot, waits until its tile is on the screen, and returns the panel."""
     folder.save(name, encoded(pattern()))
     folder.wait_for(name)
     panel = wait_until(desktop.screen.panel, "the panel appears")
@@ -34,12 +34,12 @@ def shows_tile(desktop, frame):
 
 
 def is_on_top(desktop, panel):
-    """Whether what stands at the tile's place on the screen is the tile."""
+    """Returns true if the tile is visible at its place on the screen."""
     return area_of(desktop.screen.screenshot(panel.frame), RED) > 3000
 
 
 def card_of(desktop, panel):
-    """The part of the panel that takes clicks."""
+    """Returns the part of the panel that takes clicks."""
     areas = desktop.screen.input_areas(panel.number)
     assert len(areas) >= 1
     return Rectangle(
@@ -55,7 +55,7 @@ def wait_for_card(desktop, panel):
 
 
 def show_several(desktop, folder, count):
-    """Takes so many screenshots in a row; returns the card that shows them, once it stands."""
+    """Takes so many screenshots in a row, and returns the card when it shows them all."""
     for number in range(1, count + 1):
         folder.save(f"{number}.png", encoded(pattern()))
         folder.wait_for(f"{number}.png")
@@ -116,7 +116,8 @@ def check_on_every_workspace(desktop, vantle, folder):
 
 
 def check_focus_stays_where_one_types(desktop, vantle, folder):
-    """Typing goes on while the panel appears and after a click on it; no letter is lost."""
+    """Checks that typing goes on while the panel appears and after a click on it, without losing a
+    letter."""
     vantle.start_watching()
     other = OtherWindow(desktop, Rectangle(200, 200, 300, 200))
     typed = ""
@@ -132,7 +133,7 @@ def check_focus_stays_where_one_types(desktop, vantle, folder):
     panel = wait_until(type_and_look_for_panel, "the panel appears while typing")
     wait_until(lambda: type_and_look_for_panel() and shows_tile(desktop, panel.frame), "the tile")
     card = wait_for_card(desktop, panel)
-    # Beside the tile: on the glass itself.
+    # Below the tile, on the glass itself.
     desktop.screen.pointer.click(card.centre[0], card.bottom - 4)
     desktop.screen.keyboard.type(WORDS)
     typed += WORDS
@@ -161,7 +162,7 @@ def check_clicks_beside_the_card_pass_through(desktop, vantle, folder):
     on_card = [(card.x + 30, card.bottom - 4), (card.right - 30, card.bottom - 4)]
     for point in on_card:
         desktop.screen.pointer.click(*point)
-    # A last click beside the card: when it has arrived, the others would have, too.
+    # When this last click beside the card has arrived, the ones before must have arrived, too.
     desktop.screen.pointer.click(*beside[0])
     wait_until(lambda: other.clicks()[-1:] == [beside[0]] and len(other.clicks()) > 4, "last click")
     assert other.clicks() == beside + [beside[0]]

@@ -1,4 +1,4 @@
-"""A picture that can be recognised again when it is small, and the recognising."""
+"""A picture that can be recognised when it is small, and functions that recognise it."""
 
 from PIL import Image, ImageChops
 
@@ -7,7 +7,7 @@ NEUTRAL = (128, 128, 128)
 
 
 def pattern(size=(1440, 900)):
-    """Four quarters: red, green, blue, yellow."""
+    """Returns a picture of four quarters: red, green, blue, yellow."""
     width, height = size
     image = Image.new("RGB", size, RED)
     image.paste(GREEN, (width // 2, 0, width, height // 2))
@@ -21,7 +21,7 @@ def plain(size=(1440, 900), colour=NEUTRAL):
 
 
 def mask_of(image, colour, tolerance=45):
-    """White where the picture has that colour."""
+    """Returns a mask that is white where the picture has that colour."""
     mask = None
     for channel, wanted in zip(image.split(), colour):
         near = channel.point(
@@ -31,12 +31,12 @@ def mask_of(image, colour, tolerance=45):
 
 
 def area_of(image, colour):
-    """How many pixels have that colour."""
+    """Returns how many pixels have that colour."""
     return mask_of(image, colour).histogram()[255]
 
 
 def _runs(mask):
-    """How many separate stretches of columns hold a good deal of white."""
+    """Returns the number of separate stretches of columns with much white."""
     width, height = mask.size
     columns = mask.resize((width, 1), Image.BOX).tobytes()
     needed = 255 * 25 / height
@@ -48,12 +48,12 @@ def _runs(mask):
 
 
 def count_patterns(image):
-    """How many small copies of pattern() stand side by side in the picture."""
+    """Returns how many small copies of pattern() stand side by side in the picture."""
     return _runs(mask_of(image, RED))
 
 
 def is_one_pattern(image):
-    """Whether the picture shows pattern() once: right way up, not mirrored, in proportion."""
+    """Returns true if the picture shows pattern() once: upright, not mirrored, in proportion."""
     boxes = [mask_of(image, colour).getbbox() for colour in (RED, GREEN, BLUE, YELLOW)]
     if None in boxes or count_patterns(image) != 1:
         return False

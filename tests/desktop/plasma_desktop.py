@@ -6,7 +6,7 @@ import shutil
 from kwin_wayland_desktop import KWinDesktop
 from privatedesktop import Rectangle, wait_until, wait_until_still
 
-# Nothing on it looks like what is looked for on the screen.
+# A plain desktop, with nothing that could be mistaken for Vantle.
 _PLAIN_DESKTOP = """
 for (const desktop of desktops()) {
     desktop.wallpaperPlugin = "org.kde.color";
@@ -22,7 +22,7 @@ _IS_6 = shutil.which("kded6") is not None
 
 class PlasmaShell:
     def __init__(self, desktop, platform):
-        """platform: which of Qt's its programs use."""
+        """platform: the Qt platform that its programs use."""
         self._desktop = desktop
         self._platform = platform
         desktop.environment.update(
@@ -49,7 +49,7 @@ class PlasmaShell:
         wait_until_still(lambda: screen.screenshot().tobytes(), "the shell", readings=20)
 
     def _call(self, service, path, method, *arguments):
-        """What it answers, as gdbus prints it."""
+        """Returns the answer as gdbus prints it."""
         return self._desktop.run(
             "gdbus", "call", "--session", "--dest", service, "--object-path", path,
             "--method", method, *arguments, check=False, text=True,
@@ -66,13 +66,13 @@ class PlasmaShell:
         )  # fmt: skip
 
     def panel_height(self):
-        """Of the panel at the lower edge; None while there is none."""
+        """Returns the height of the panel at the lower edge, or None if there is none."""
         found = re.search(r"'(\d+)", self._run_script("print(panels()[0].height)"))
         return int(found[1]) if found else None
 
 
 class PlasmaDesktop(KWinDesktop):
-    """On Wayland."""
+    """Plasma on Wayland."""
 
     def __init__(self, host):
         super().__init__(host)
@@ -84,7 +84,7 @@ class PlasmaDesktop(KWinDesktop):
         super()._start_compositor()
 
     def run_program(self, *command):
-        """As the shell starts those of KDE."""
+        """Starts a program as the shell starts those of KDE."""
         return self._shell.run_program(*command)
 
     def panel_height(self):

@@ -1,4 +1,4 @@
-"""The settings' window and the onboarding's, found by the names that assistive programs know."""
+"""The windows of the settings and the onboarding, found by their accessible names."""
 
 import re
 
@@ -7,11 +7,11 @@ from privatedesktop import Rectangle, wait_until, wait_until_still
 
 _CONTROLS = {"button", "check box", "radio button", "slider", "menu item"}
 _WHEEL_DOWN = 5
-_BAR = 80  # what stands below the steps of the onboarding
+_BAR = 80  # the height of the bar below the steps of the onboarding
 
 
 class Screens:
-    """What is on the windows of Vantle, with real hands for it."""
+    """Vantle's windows, read by accessibility and used with a real mouse."""
 
     def __init__(self, desktop, vantle):
         self._desktop = desktop
@@ -19,7 +19,7 @@ class Screens:
         self.assistant = Assistant(desktop)
 
     def found(self, name):
-        """The control of that name; None while there is none."""
+        """Returns the control of that name, or None."""
         for item in self.assistant.find(name):
             if item["role"] in _CONTROLS and "showing" in item["states"]:
                 return item
@@ -45,7 +45,8 @@ class Screens:
         return self._desktop.screen.screenshot().tobytes()
 
     def _scroll_to(self, name):
-        """Turns the wheel until the control is in its window's middle, or as near as can be."""
+        """Turns the wheel until the control is above the lower bar, or the window scrolls no
+        further."""
         windows = self._desktop.screen.dialogs()
         if not windows or self._desktop.screen.menu():
             return
@@ -57,13 +58,13 @@ class Screens:
             before, frame = frame, self.frame(name)
 
     def choose(self, button, line):
-        """Opens the menu of a button and takes a line of it, with the mouse."""
+        """Opens the menu of a button and clicks a line of it."""
         self.click(button)
         self.click(line)
         wait_until(lambda: self._desktop.screen.menu() is None, "the menu closes")
 
     def setting(self, key, default=None):
-        """What stands in the settings file."""
+        """Returns a value of the settings file."""
         text = self._vantle.settings_file.read_text()
         found = re.search(rf"^{key}=(.*)$", text, re.MULTILINE)
         return found.group(1) if found else default
@@ -72,7 +73,7 @@ class Screens:
         wait_until(lambda: self.setting(key) == value, f"{key} is {value}")
 
     def thumbnail_is_shown(self):
-        """Whether the screenshot tool is to show its own."""
+        """Returns true unless the screenshot tool is set to hide its own thumbnail."""
         path = self._vantle.config_folder / "com.apple.screencapture.conf"
         return "show-thumbnail=false" not in path.read_text() if path.exists() else True
 

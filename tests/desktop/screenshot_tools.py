@@ -1,4 +1,4 @@
-"""The screenshot tools of the desktops, as people use them: each takes one and saves it."""
+"""The screenshot tools of the desktops, used as people do: each takes a screenshot and saves it."""
 
 import pathlib
 import shutil
@@ -7,12 +7,12 @@ import subprocess
 from privatedesktop import wait_until
 from using import find_window, press_with_control, window_titled
 
-# As the desktops write it for a German.
+# The file that desktops write for a German user.
 USER_FOLDERS = 'XDG_DESKTOP_DIR="$HOME/Desktop"\nXDG_PICTURES_DIR="$HOME/Bilder"\n'
 
 
 class ScreenshotTool:
-    """One that saves by itself. Waits for its end."""
+    """A tool that saves by itself; take() waits for its end."""
 
     def __init__(self, *command):
         self._command = command
@@ -22,8 +22,8 @@ class ScreenshotTool:
 
 
 class AskingTool:
-    """One that opens windows with these titles, one after the other, to each of which Return is
-    the answer."""
+    """A tool that opens windows with these titles, one after the other. Return accepts each of
+    them."""
 
     def __init__(self, *command, titles):
         self._command = command
@@ -37,9 +37,9 @@ class AskingTool:
 
 
 class Editor:
-    """One that shows the screenshot in a window and saves it by Ctrl+S.
+    """A tool that shows the screenshot in a window and saves it on Ctrl+S.
 
-    Then it asks in a dialog, to which Return is the answer, or has the file's name in its title.
+    It then either opens a dialog, which Return accepts, or shows the file's name in its title.
     """
 
     def __init__(self, *command, window, dialog=None):
@@ -69,7 +69,7 @@ def answer(desktop, title):
 
 
 def press_until(desktop, title, press, is_done):
-    """Presses in that window while it has the keyboard, now and then: it may not listen yet."""
+    """Presses repeatedly while that window has the keyboard, because it may not listen yet."""
 
     def attempt():
         if is_done():
@@ -92,9 +92,9 @@ KSNIP_EDITOR = Editor("ksnip", "-f", window="ksnip")
 
 
 class Notifications:
-    """The desktop's notifications; counts what is notified by a tool.
+    """The desktop's notifications; counts those of a tool.
 
-    Where they are missing, but the system knows a program for them that does not come up on this
+    If there is no such service, but the system has a program for it that does not start on this
     desktop, a tool that notifies waits for that before it ends.
     """
 
@@ -112,13 +112,13 @@ class Notifications:
 
 
 def spectacle_is_for_qt5():
-    """Whether the one that is installed is of the time before KDE Gear 24.02."""
+    """Returns true if the installed Spectacle is older than KDE Gear 24.02."""
     program = shutil.which("spectacle")
     libraries = subprocess.run(["ldd", program], capture_output=True, text=True, check=True).stdout
     return "libQt5Core" in libraries
 
 
 def pictures_in(folder):
-    """The names of the screenshots in a folder."""
+    """Returns the names of the screenshots in a folder."""
     kinds = {".png", ".jpg"}
     return sorted(file.name for file in pathlib.Path(folder).glob("*") if file.suffix in kinds)

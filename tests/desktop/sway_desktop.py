@@ -29,5 +29,5 @@ class SwayDesktop(WaylandDesktop):
         self._wait_for_names(*_NAMES)
 
     def message(self, *words):
-        """Asks Sway something, or tells it to do something, and returns what it answers."""
+        """Sends Sway a request or a command, and returns the answer."""
         return json.loads(self.run("swaymsg", "--raw", *words).stdout)

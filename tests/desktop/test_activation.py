@@ -1,4 +1,4 @@
-"""Started by the session bus, for the click on its icon in a launcher."""
+"""The session bus starts the program, as for a click on its icon in a launcher."""
 
 import pathlib
 
@@ -13,7 +13,7 @@ INSTALLED = "/usr/bin/vantle"
 
 
 class Launcher:
-    """What a desktop's launcher asks the bus for."""
+    """Makes the calls on the bus that a desktop's launcher makes."""
 
     def __init__(self, desktop):
         self._desktop = desktop
@@ -36,7 +36,7 @@ class Launcher:
 
 
 class ActivatedProgram(Program):
-    """A program that the bus has started, or nobody yet."""
+    """A program that the bus starts."""
 
     def __init__(self, binary, desktop):
         super().__init__(binary, desktop)
@@ -49,14 +49,14 @@ class ActivatedProgram(Program):
         return len(self._find())
 
     def settle(self):
-        """Waits until it has started and has done what it was started for."""
+        """Waits until the program has started and has handled the request that started it."""
         wait_until(lambda: "watching " in self.log_text(), "it watches")
         wait_until_still(self.log_text, "the launch", interval=0.3)
 
 
 @pytest.fixture
 def vantle(desktop, binary):
-    """Known to the bus by the file that the package installs, and not started yet."""
+    """The bus knows the program by the file that the package installs; it is not started yet."""
     program = ActivatedProgram(binary, desktop)
     program.write_settings()
     start = desktop.home / "start"

@@ -1,4 +1,4 @@
-"""What the program asks the user about, on the screen."""
+"""The program's alerts on the screen."""
 
 import pathlib
 
@@ -14,7 +14,7 @@ NOWHERE = "/proc/nothing/Shots"
 
 @pytest.fixture
 def alert(desktop, vantle):
-    """The alert about a folder that cannot be made; there is a window of another program, too."""
+    """The alert about a folder that cannot be made. There is also a window of another program."""
     OtherWindow(desktop, Rectangle(400, 250, 700, 400), colour=0x101010)
     configuration = pathlib.Path(desktop.environment["XDG_CONFIG_HOME"], "user-dirs.dirs")
     configuration.write_text(f'XDG_DESKTOP_DIR="{NOWHERE}"\n')
@@ -29,7 +29,7 @@ def is_closed(desktop, alert):
 def test_it_comes_to_the_front_with_the_keyboard(desktop, vantle, alert):
     wait_until(lambda: desktop.screen.active_window() == alert, "it has the keyboard")
     assert "_NET_WM_STATE_ABOVE" in desktop.screen.states(alert)
-    # Once for three failures to start: they are the same one.
+    # The three failed starts have the same cause, so there is only one alert.
     desktop.screen.keyboard.press("Escape")
     wait_until(lambda: is_closed(desktop, alert), "it closes")
     assert desktop.screen.dialogs() == []

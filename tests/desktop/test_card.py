@@ -1,4 +1,4 @@
-"""The card under real mouse and keys, and as a screen reader finds it."""
+"""The card, used with a real mouse and keyboard, and by a screen reader."""
 
 import os
 import subprocess
@@ -45,7 +45,7 @@ def test_marquee_selects_shrinks_and_ends(desktop, vantle, folder, assistant):
     card = show_several(desktop, folder, 3)
     before = look(desktop)
     pointer = desktop.screen.pointer
-    # The lower edge of the card is background; three tiles of 160 stand 10 apart.
+    # The lower edge of the card is background; three tiles of 160 are 10 apart.
     start = (card.x + 4, card.bottom - 5)
     pointer.move(*start)
     pointer.press()
@@ -58,7 +58,7 @@ def test_marquee_selects_shrinks_and_ends(desktop, vantle, folder, assistant):
     pointer.move(20, 400)
     wait_until_still(lambda: look(desktop), "the card")
     assert selected(assistant) == ["1.png"]
-    # A click on the background ends the selection, and nothing of the marquee is left.
+    # A click on the background ends the selection, and the marquee is gone.
     pointer.click(*start)
     wait_for_selection(assistant)
     pointer.move(20, 400)
@@ -84,7 +84,7 @@ def test_what_is_scrolled_out_is_never_selected(desktop, vantle, folder, assista
     card = show_several(desktop, folder, 8)
     pointer = desktop.screen.pointer
     pointer.drag((card.x + 4, card.bottom - 5), (card.right - 4, card.y + 20))
-    # Of eight tiles the row shows the last three, and a part of one more.
+    # Of eight tiles the row shows the last three and a part of another.
     wait_for_selection(assistant, "5.png", "6.png", "7.png", "8.png")
 
 
@@ -102,7 +102,7 @@ def test_the_wheel_scrolls(desktop, vantle, folder, assistant):
 
 
 def come_from_outside(desktop, x, y):
-    """As a hand does: in steps, the last ones small."""
+    """Moves like a hand: in steps, with small ones at the end."""
     pointer = desktop.screen.pointer
     start = (x + 400, y - 300)
     for part in (0, 0.5, 0.8, 0.93, 0.98, 1):
@@ -119,24 +119,24 @@ def test_a_double_click_on_a_close_button_closes_one(desktop, vantle, folder, ga
     vantle.start_watching()
     card = show_several(desktop, folder, 4)
     pointer = desktop.screen.pointer
-    # On the part of the disc that overhangs the first tile. The next tile takes its place.
+    # The part of the disc that overhangs the first tile. The next tile moves to its place.
     come_from_outside(desktop, card.x + 8, card.y + 13)
     wait_until_still(lambda: look(desktop), "the card")
     pointer.press()
     pointer.release()
-    time.sleep(gap)  # Between the two clicks of a hand.
+    time.sleep(gap)  # the time between the two clicks of a hand
     pointer.press()
     pointer.release()
     wait_until_still(lambda: look(desktop), "the card")
     assert captures_on(vantle) == 3
-    time.sleep(0.5)  # That is no double-click any more.
+    time.sleep(0.5)  # too late for a double click
     pointer.press()
     pointer.release()
     wait_until(lambda: captures_on(vantle) == 2, "the next click closes the next")
 
 
 def test_a_double_click_on_the_last_capture_is_one(desktop, vantle, folder):
-    """What lies under the card is not meant by the second click."""
+    """The second click must not reach the window below the card."""
     vantle.start_watching()
     other = OtherWindow(desktop, Rectangle(0, 100, *desktop.size))
     card = wait_for_card(desktop, show_one(desktop, folder))
@@ -162,7 +162,7 @@ def test_first_click_works_and_the_focus_stays(desktop, vantle, folder, assistan
     desktop.screen.keyboard.let_go("Control_L")
     wait_for_selection(assistant, "1.png")
     assert desktop.screen.focused_window() == other.number
-    # The last button of the bar on the card's upper edge dismisses the selected.
+    # The last button of the bar on the card's upper edge dismisses the selected captures.
     desktop.screen.pointer.click(card.centre[0] + 48, card.y + 6)
     wait_until(lambda: "1.png" not in assistant.names(), "the selected capture is dismissed")
     assert desktop.screen.focused_window() == other.number

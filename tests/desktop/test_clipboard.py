@@ -1,4 +1,4 @@
-"""What a copied capture is on the clipboard, and how other programs paste it."""
+"""What the clipboard holds after a copy, and how other programs paste it."""
 
 import io
 
@@ -13,14 +13,14 @@ from using import press_button, press_with_control, select_all, window_titled
 
 @pytest.fixture
 def card(desktop, vantle, folder):
-    """With one capture on it, which stays when it is used."""
+    """The card with one capture on it, which stays when it is used."""
     vantle.write_settings(removeAfterUse="false", deleteAfterUse="false")
     vantle.start_watching()
     return wait_for_card(desktop, show_one(desktop, folder))
 
 
 def paste(desktop, target):
-    """The clipboard's content of that type; empty while there is none."""
+    """Returns the clipboard's content of that type, or nothing if there is none."""
     done = desktop.run("xclip", "-selection", "clipboard", "-t", target, "-o", check=False)
     return done.stdout if done.returncode == 0 else b""
 
@@ -37,7 +37,7 @@ def copy(desktop, card):
 def test_one_screenshot_is_offered_as_picture_and_as_file(desktop, vantle, folder, card):
     copy(desktop, card)
     file = folder.path / "shot.png"
-    # That one is there where a portal is installed.
+    # This type is offered only if a portal is installed.
     kinds = [kind for kind in targets(desktop) if kind != "application/vnd.portal.filetransfer"]
     assert kinds[:4] == ["image/png", "image/jpeg", "image/bmp", "text/uri-list"]
     assert paste(desktop, "image/png") == file.read_bytes()
@@ -91,7 +91,7 @@ def test_a_manager_keeps_it_when_the_program_ends(desktop, vantle, folder, card)
 def test_an_automatic_copy_replaces_what_was_copied_since(desktop, vantle, folder):
     vantle.write_settings(copyOnCapture="true", removeAfterUse="false")
     vantle.start_watching()
-    # Nobody has touched Vantle since, so it knows only an older time than that of this copy.
+    # Nobody has used Vantle since, so its newest input event is older than this copy.
     desktop.run("sh", "-c", "printf earlier | xclip -selection clipboard >/dev/null 2>&1")
     assert paste(desktop, "UTF8_STRING") == b"earlier"
     show_one(desktop, folder)
@@ -126,7 +126,7 @@ def test_pasted_into_a_web_page_it_is_a_file_and_in_its_text_field_the_path(
 
 
 def test_pasted_into_an_image_editor_it_is_a_picture(desktop, vantle, folder, card):
-    # Into a picture with all colours: this editor starts with one of few.
+    # A picture with all colours, because this editor starts with one of few.
     paper = desktop.home / "paper.png"
     plain((640, 400)).save(paper)
     desktop.start("mtpaint", str(paper))
@@ -138,9 +138,10 @@ def test_pasted_into_an_image_editor_it_is_a_picture(desktop, vantle, folder, ca
 
 
 def paste_into_editor(desktop):
-    """Whether it is pasted. An editor that is still busy loses keys: the menu is asked again."""
+    """Pastes, and returns true if that worked. A busy editor loses keys, so the caller tries
+    again."""
     keyboard = desktop.screen.keyboard
-    # Edit, Import Clipboard from System.
+    # Menu: Edit, Import Clipboard from System.
     keyboard.hold("Alt_L")
     keyboard.press("e")
     keyboard.let_go("Alt_L")

@@ -1,4 +1,4 @@
-"""The command line, as scripts and launchers use it on a program that runs."""
+"""The command line, as scripts and launchers use it with a running program."""
 
 import pathlib
 import re
@@ -161,7 +161,7 @@ def test_version_and_help(vantle):
 
 
 def test_actions_of_the_launcher(desktop, vantle):
-    """Each action in the desktop entry is one that the program knows."""
+    """The program accepts each action in the desktop entry."""
     entry = pathlib.Path(__file__).resolve().parents[2] / "packaging/org.vantle.Vantle.desktop"
     desktop.run("desktop-file-validate", str(entry))
     text = entry.read_text()

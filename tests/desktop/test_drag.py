@@ -1,4 +1,4 @@
-"""Tiles dragged into other programs with a real pointer, and what arrived there."""
+"""Tiles are dragged into other programs with a real pointer; the tests check what arrives there."""
 
 from drop_target import DropTarget, served
 from panel_checks import is_dismissed, show_one, show_several, wait_for_card
@@ -9,7 +9,7 @@ TARGET = Rectangle(200, 200, 300, 300)
 
 
 def check_nothing_happened(desktop, folder):
-    """The tile is there, and so is the file, and nothing is in the Trash."""
+    """Checks that the tile and the file are still there, and that nothing is in the Trash."""
     ensure_never(lambda: is_dismissed(desktop), "the tile leaves", 1.0)
     assert (folder.path / "shot.png").exists()
     assert not (desktop.home / ".local/share/Trash").exists()
@@ -39,8 +39,8 @@ def test_a_selection_of_seven_into_a_web_page(desktop, vantle, folder, page):
     vantle.write_settings(removeAfterUse="true")
     vantle.start_watching()
     card = show_several(desktop, folder, 7)
-    # The row of seven is longer than the card: a marquee over what is seen selects four of them, a
-    # click with the key for it the others.
+    # The row of seven is longer than the card: a marquee over the visible part selects four of
+    # them, and Ctrl-clicks select the others.
     pointer, keyboard = desktop.screen.pointer, desktop.screen.keyboard
     select_all(desktop, card)
     pointer.move(*tile_of(card))
@@ -102,7 +102,7 @@ def test_escape_ends_a_drag(desktop, vantle, folder, card):
         assert not drag.was_taken()
         desktop.screen.pointer.release()
         check_nothing_happened(desktop, folder)
-        # And the next one works.
+        # The next drag works.
         assert Drag(desktop, vantle, tile_of(card)).hold_over(*TARGET.centre).drop()
 
 

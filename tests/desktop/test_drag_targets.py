@@ -1,4 +1,4 @@
-"""A tile dragged into the programs that people have, which all get the file under its own name."""
+"""A tile is dragged into common programs, which all get the file under its own name."""
 
 import pytest
 
@@ -51,7 +51,7 @@ def test_into_gimp(desktop, vantle, folder, tile):
     desktop.start("gimp", "--no-splash", "--new-instance")
     window = window_titled(desktop, "GNU Image Manipulation Program", limit=60)
     wait_until_drawn(desktop)
-    # Some versions greet whoever starts them for the first time.
+    # Some versions show a welcome window at their first start.
     if greeting := find_window(desktop, "Welcome to GIMP"):
         desktop.screen.ask_to_close(greeting)
         wait_until(lambda: not find_window(desktop, "Welcome to GIMP"), "the greeting goes")

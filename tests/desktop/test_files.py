@@ -7,9 +7,9 @@ from watched_folder import jpeg, png
 
 
 def grow_until_captured(vantle, folder, name):
-    """Lets a file grow until the watcher takes it anyway, which is when its patience ends.
+    """Lets a file grow until the watcher reports it, which is when its patience ends.
 
-    Every file that was first seen before this one has then been polled to the end as well.
+    By then every file that was seen before this one has also been polled to the end.
     """
     with open(folder.path / name, "ab", buffering=0) as file:
 
@@ -107,7 +107,7 @@ def test_same_name_again(vantle, folder):
     folder.wait_for_capture("shot.png", times=2)
     folder.wait_for_marker()
     assert folder.captured() == ["shot.png", "shot.png"]
-    # The second one takes the place of the first.
+    # The second capture replaces the first.
     assert folder.shown_count() == 1
 
 

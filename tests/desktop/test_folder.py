@@ -16,7 +16,7 @@ WATCHING = r"^Vantle\[dbg\]: watching "
 
 
 def wait_until_watching_again(vantle, folder, starts_before):
-    """The program makes the folder anew and watches it, without a word to the user."""
+    """Waits until the program has made the folder again and watches it, without an alert."""
     vantle.wait_for_log(WATCHING, times=starts_before + 1)
     wait_until(folder.path.is_dir, "the folder is there again")
 
@@ -62,7 +62,7 @@ def test_moved_away(vantle, folder):
 
 
 def test_replaced_by_another(vantle, folder):
-    """Deleted and made again before the program can: the new folder is the one that counts."""
+    """The folder is replaced before the program can make it again; the new folder counts."""
     vantle.start_watching()
     before = count_starts(vantle)
     folder.path.rename(folder.path.with_name("Elsewhere"))
@@ -96,7 +96,7 @@ def test_unmounted(vantle, folder):
         folder.wait_for("before.png")
         before = count_starts(vantle)
     finally:
-        # While somebody reads from it, it is busy.
+        # The folder is busy while a program reads from it.
         wait_until(lambda: unmount(folder.path), "the folder is unmounted")
     wait_until_watching_again(vantle, folder, before)
     folder.save("after.png")
@@ -130,7 +130,7 @@ def test_removed_and_made_again_while_somebody_stands_in_it(desktop, vantle, fol
 
 
 def test_saved_as_soon_as_it_is_watched(vantle, folder):
-    """Starting, the program begins to watch twice."""
+    """During its start the program begins to watch twice."""
     vantle.start()
     vantle.wait_for_log("watching ")
     folder.save("early.png")
@@ -138,7 +138,7 @@ def test_saved_as_soon_as_it_is_watched(vantle, folder):
 
 
 def test_on_a_server_that_never_answers(desktop, vantle, folder):
-    """Windows, commands and the end wait for nobody; another folder can be chosen."""
+    """Windows, commands and the end of the program do not wait; another folder can be chosen."""
     with mounted_on(folder.path) as is_mounted:
         if not is_mounted:
             pytest.skip("mounting is not permitted here")

@@ -10,7 +10,7 @@ from privatedesktop import wait_until
 
 
 def encode(name, folder):
-    """The pattern in the format of that name, made where nobody watches."""
+    """Writes the pattern in the format of that name, outside the watched folder."""
     path, picture = folder / name, folder / "picture.png"
     if path.suffix in (".heic", ".avif", ".mov", ".mp4", ".m4v", ".webm", ".mkv"):
         pattern().save(picture)

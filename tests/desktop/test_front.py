@@ -1,4 +1,4 @@
-"""Which of the program's own windows is in front, and has the keyboard, when one is asked for."""
+"""Which of the program's windows is in front with the keyboard when one is requested."""
 
 import pathlib
 
@@ -32,7 +32,7 @@ def wait_for_front(desktop, window):
 
 
 def titled(desktop, title):
-    """The window with exactly that title."""
+    """Returns the window with exactly that title."""
 
     def found():
         return [w for w in desktop.screen.dialogs() if desktop.screen.title(w) == title.encode()]
@@ -48,7 +48,7 @@ def test_settings_come_before_the_onboarding(desktop, vantle, manager):
     wait_for_front(desktop, onboarding)
     assert vantle.command("--settings") == (0, "")
     wait_for_front(desktop, titled(desktop, "Vantle Settings"))
-    # A second start means the onboarding until it is finished.
+    # Until the onboarding is finished, a second start shows it.
     assert vantle.command() == (0, "")
     wait_for_front(desktop, onboarding)
     assert vantle.command("--settings") == (0, "")

@@ -1,6 +1,6 @@
 """The card and the tray in the whole GNOME Shell, with the extension that shows tray icons.
 
-Each test runs in its Wayland session and in the one on X11.
+Each test runs in GNOME's Wayland session and in its X11 session.
 """
 
 import pathlib
@@ -63,9 +63,9 @@ def place_of_icon(gnome):
 
 
 def take_screenshot(gnome, vantle):
-    """By the shell's own key; returns the file once it is on the card."""
+    """Takes a screenshot with the shell's own key, and returns the file when it is on the card."""
     captured = len(vantle.captured())
-    # Not all of the card: how much time is left changes.
+    # Only a part of the card, because the bar with the remaining time changes.
     x, y = Card(gnome).tile
 
     def tile():
@@ -86,12 +86,12 @@ def take_screenshot(gnome, vantle):
 
 
 class Menu:
-    """Of the icon, as the shell draws it below its bar."""
+    """The icon's menu, as the shell draws it below its bar."""
 
     def __init__(self, gnome, place, button=1):
         self._gnome = gnome
         x, y = place
-        # The menu before may still fade.
+        # The previous menu may still fade out.
         before = wait_until_still(gnome.screen.screenshot, "the screen")
         gnome.screen.pointer.move(x - 3, y)
         gnome.screen.pointer.click(x, y, button)
@@ -117,7 +117,7 @@ def test_clicks_beside_the_card_reach_the_window_underneath(gnome, vantle):
 
 
 def test_clicks_beside_the_card_pass_while_its_time_runs(gnome, binary):
-    # The shell of GNOME 43 is told by timing which clicks pass, and may miss it while it is busy.
+    # GNOME 43's shell learns by timing which clicks pass, and may miss it while it is busy.
     is_told_by_timing = type(gnome) is GnomeShellDesktop and shell_version().startswith("43.")
     check_clicks_pass_while_time_runs(gnome, binary, tries=2 if is_told_by_timing else 1)
 

@@ -1,4 +1,4 @@
-"""GNOME's own screenshots: their folder has a name in the user's language, for good."""
+"""GNOME's own screenshots: their folder has a name in the user's language, and keeps it."""
 
 import gettext
 
@@ -15,14 +15,14 @@ LANGUAGES = (
     "de_DE.UTF-8",
     "fr_FR.UTF-8",
     "ja_JP.UTF-8",
-    "xx_XX.UTF-8",  # is not installed: GNOME speaks English then, too
+    "xx_XX.UTF-8",  # not installed, so GNOME speaks English
 )
 GNOME = {"XDG_CURRENT_DESKTOP": "ubuntu:GNOME"}
 
 
 @pytest.fixture
 def make_vantle(desktop, binary):
-    """Makes one that speaks a language."""
+    """Returns a function that makes a program with a language."""
     made = []
 
     def make(language):
@@ -41,7 +41,7 @@ def make_vantle(desktop, binary):
 
 
 def name_in(language, text):
-    """What the shell that is installed calls it: its translators change their minds."""
+    """Returns the installed shell's translation, because translators change them."""
     catalogue = gettext.translation("gnome-shell", "/usr/share/locale", [language], fallback=True)
     return catalogue.gettext(text)
 

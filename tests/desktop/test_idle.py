@@ -1,4 +1,4 @@
-"""While nothing happens the program does nothing."""
+"""While nothing happens, the program does nothing."""
 
 import time
 
@@ -8,7 +8,7 @@ MEASURED_SECONDS = 10
 
 
 def switches_while_idle(desktop, vantle):
-    """How often any of its threads woke up in ten seconds of which nothing was asked of it."""
+    """Returns how often any of its threads woke up in ten seconds without input."""
     desktop.screen.pointer.move(20, 400)
     wait_until_still(vantle.voluntary_switches, "the program", readings=20)
     before = vantle.voluntary_switches()

@@ -130,7 +130,7 @@ def switch_to_new_workspace(kwin):
 
 
 def second_workspace(kwin):
-    """The name by which KWin knows it."""
+    """Returns KWin's name of the second workspace."""
     told = kwin.run("busctl", "--user", "--json=short", "get-property", "org.kde.KWin",
                     "/VirtualDesktopManager", "org.kde.KWin.VirtualDesktopManager", "desktops",
                     text=True).stdout  # fmt: skip

@@ -42,7 +42,7 @@ pytestmark = pytest.mark.desktop(tray=False, compositor=False)
 
 
 def two_outputs(test):
-    """Their windows have room side by side."""
+    """Uses two outputs, whose windows fit side by side."""
     room = pytest.mark.desktop(size=(2880, 900), tray=False, compositor=False)
     return room(pytest.mark.labwc(outputs=2)(test))
 
@@ -157,7 +157,7 @@ def shows_card(labwc, output):
 
 
 def show_on(labwc, output, name):
-    """Saves a screenshot while the pointer is there."""
+    """Saves a screenshot while the pointer is on that output."""
     labwc.screen.pointer.move(*labwc.area_of(output).centre)
     save(labwc, name)
     wait_until(lambda: shows_card(labwc, output), f"the card comes to {output}")

@@ -97,7 +97,7 @@ def test_ends_with_the_display_server(desktop, vantle, folder):
     folder.save("shot.png")
     wait_until(desktop.screen.panel, "the panel appears")
     desktop.kill_server()
-    # It failed, and it was no accident: a signal would be a negative number.
+    # The program failed, but did not crash: a signal would be a negative number.
     assert vantle.wait_for_end(limit=5.0) == 1
 
 
@@ -183,7 +183,8 @@ def test_without_debug_the_log_is_silent(desktop, folder, vantle, binary):
     numbers = itertools.count()
 
     def save_one_more_and_look():
-        # Without its log nobody can tell when it begins to watch: save until it has seen one.
+        # Without a log it is unknown when it begins to watch, so this saves until it has seen a
+        # file.
         folder.save(f"shot {next(numbers)}.png")
         return desktop.screen.panel()
 

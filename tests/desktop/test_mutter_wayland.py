@@ -143,7 +143,7 @@ def test_escape_ends_a_drag(mutter, vantle):
 
 
 def pasted(mutter, *arguments):
-    """What a native program is given by the clipboard. It needs the focus for it, for a moment."""
+    """Returns what a native program pastes; it takes the focus for a moment."""
     file = pathlib.Path(mutter.environment["TMPDIR"], "pasted")
     process = mutter.start("sh", "-c", f'wl-paste "$@" > "{file}"', "sh", *arguments)
     process.wait(20)

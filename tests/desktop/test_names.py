@@ -1,4 +1,4 @@
-"""File names that programs get wrong."""
+"""File names that programs often handle wrongly."""
 
 import os
 

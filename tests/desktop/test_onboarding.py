@@ -1,4 +1,4 @@
-"""The first meeting, from a fresh home directory on."""
+"""The onboarding, in a fresh home directory."""
 
 import pytest
 from PIL import Image
@@ -34,7 +34,7 @@ def test_from_a_fresh_home_to_the_first_tile_by_mouse(desktop, vantle, folder, s
     screens.wait_for_text("Welcome to Vantle")
     folder.save("unseen.png")
     assert "state: not watching" in state(vantle)
-    # Merely opening it has applied the recommended settings.
+    # Opening the step has already applied the recommended settings.
     assert screens.setting("removeAfterUse") == "true"
     assert screens.setting("corner") == "bottomRight"
     assert screens.starts_at_login() and not screens.thumbnail_is_shown()
@@ -64,7 +64,7 @@ def test_by_keyboard(desktop, vantle, screens):
     screens.wait_for_text("Welcome to Vantle")
     keyboard.press("Return")
     screens.wait_for_text("Set up Vantle")
-    # From the forward button around to the row about the folder, and on to the first toggle.
+    # From the forward button past the row of the folder to the first toggle.
     for key in ("Tab", "Tab", "space"):
         keyboard.press(key)
     screens.wait_for_setting("dismissAfter", "10")
@@ -122,7 +122,7 @@ def test_it_is_moved_by_its_background(desktop, vantle):
     turn = 0
 
     def is_moved():
-        # The window manager takes over at some moment on the way.
+        # The window manager takes over the drag somewhere on the way.
         nonlocal turn
         turn += 1
         pointer.move(before.x + 20 + min(100, 10 * turn) + turn % 3, before.y + 20)

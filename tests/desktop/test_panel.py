@@ -76,7 +76,7 @@ def test_clicks_beside_the_card_reach_the_window_underneath(desktop, vantle, fol
 
 
 def test_transparent_beside_the_card(desktop, vantle, folder):
-    """Nothing of the window is to be seen but the card and its shadow."""
+    """Only the card and its shadow are visible in the window."""
     desktop.paint(plain())
     vantle.start_watching()
     panel = show_one(desktop, folder)
@@ -104,7 +104,8 @@ def test_no_black_rectangle_without_a_compositor(desktop, vantle, folder):
 
 @pytest.mark.desktop(size=(2880, 1200))
 def test_screens_of_different_scales(desktop, binary):
-    """The panel goes to the screen with the pointer, and is as large there as its scale says."""
+    """The panel appears on the screen with the pointer, in the size that this screen's scale
+    requires."""
     desktop.run("xrandr", "--setmonitor", "left", "1280/300x1200/300+0+0", "screen")
     desktop.run("xrandr", "--setmonitor", "right", "1600/300x1200/300+1280+0", "none")
     vantle = Program(binary, desktop, environment={"QT_SCREEN_SCALE_FACTORS": "left=1;right=2"})
@@ -131,7 +132,7 @@ def test_screens_of_different_scales(desktop, binary):
 @pytest.mark.parametrize("edge, corner", [("bottom", "bottomRight"), ("top", "topRight")])
 @pytest.mark.desktop(size=(2400, 900), tray=False)
 def test_a_panel_on_one_of_two_screens(desktop, vantle, folder, edge, corner):
-    """It keeps its room on that screen, and none on the other."""
+    """The desktop's panel takes room on its own screen only."""
     desktop.run("xrandr", "--setmonitor", "left", "1200/300x900/300+0+0", "screen")
     desktop.run("xrandr", "--setmonitor", "right", "1200/300x700/300+1200+0", "none")
     left, right = Rectangle(0, 0, 1200, 900), Rectangle(1200, 0, 1200, 700)
@@ -149,7 +150,7 @@ def test_a_panel_on_one_of_two_screens(desktop, vantle, folder, edge, corner):
 
 
 def xfce_bar(desktop):
-    """Where the bar of Xfce's panel stands; None while it is not there."""
+    """Returns the frame of Xfce's panel, or None if it is not there."""
     for window in desktop.screen.client_list():
         if desktop.screen.window_property(window, "_NET_WM_STRUT_PARTIAL") is not None:
             return desktop.screen.area(window)

@@ -1,4 +1,4 @@
-"""Vantle on the whole Plasma, as its user meets it."""
+"""Vantle on the whole Plasma desktop, as its user sees it."""
 
 import pytest
 from PIL import ImageChops
@@ -49,7 +49,7 @@ def icon(plasma, vantle):
 
 @pytest.fixture
 def dolphin(plasma):
-    """The empty folder that a window of it shows in the middle of the screen."""
+    """The empty folder in the middle of a Dolphin window that is centred on the screen."""
     require_peer("dolphin")
     folder = plasma.home / "target"
     folder.mkdir()
@@ -61,13 +61,13 @@ def dolphin(plasma):
 
 
 def still_picture(plasma):
-    """Of the screen without the panel, whose clock goes on."""
+    """Returns a still picture of the screen without the panel, whose clock changes."""
     area = plasma.work_area()
     return wait_until_still(lambda: plasma.screen.screenshot(area), "the screen", readings=8)
 
 
 def opened_menu(plasma, icon, button):
-    """Clicks the icon; returns the menu's frame and its picture."""
+    """Clicks the icon, and returns the menu's frame and its picture."""
     before = still_picture(plasma)
     plasma.screen.pointer.click(*icon.middle, button=button)
 
@@ -97,10 +97,10 @@ def test_the_menu_of_its_icon_opens_above_the_card(plasma, vantle, icon, button)
     show_one(plasma, vantle)
     menu, picture = opened_menu(plasma, icon, button)
     assert menu.height > 200
-    # Of the tile behind it nothing is seen, but the thumbnail is: a larger one in our own menu,
-    # which the left button opens.
+    # The tile behind the menu is not visible, but the menu's thumbnail is. It is larger in our own
+    # menu, which the left button opens.
     assert (150 if button == 1 else 20) < area_of(picture, GREEN) < 2500
-    # Its last line, which lies over the card.
+    # The last line, which covers the card.
     last = menu.centre[0], menu.bottom - 20
     assert last[1] > corner(plasma).y
     plasma.screen.pointer.click(*last)
@@ -118,7 +118,7 @@ def test_a_capture_of_the_menu_is_shown_again(plasma, vantle, icon):
 
 
 def test_the_settings_open_in_front_with_the_keyboard(plasma, vantle, icon, dolphin):
-    """In front of the window that had it."""
+    """The settings open in front of the window that had the keyboard."""
     middle = Rectangle(plasma.size[0] // 2 - 100, 150, 200, 400)
 
     def picture():
@@ -139,13 +139,14 @@ def test_dragged_into_a_web_page(plasma, vantle):
 
 
 def in_dolphin(plasma):
-    """A point of the folder in its window, below the words that it is empty: those take nothing."""
+    """Returns a point of Dolphin's folder, below the words that it is empty, which accept no
+    drops."""
     width, height = plasma.screen.size
     return width // 2 + 150, height * 2 // 3
 
 
 def drop_on_dolphin(plasma, vantle, tile):
-    """Drops the tile; Dolphin asks what to do with it."""
+    """Drops the tile, for which Dolphin opens a menu."""
     drag = Drag(plasma, vantle, tile.centre).hold_over(*in_dolphin(plasma))
     before = still_picture(plasma)
     plasma.screen.pointer.release()

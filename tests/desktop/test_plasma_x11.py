@@ -1,4 +1,4 @@
-"""Vantle on the whole Plasma on X11."""
+"""Vantle on the whole Plasma desktop on X11."""
 
 import contextlib
 
@@ -21,7 +21,7 @@ from web_page import WebPage, start_firefox
 
 pytestmark = pytest.mark.desktop(
     tray=False, compositor=False, window_manager=["kwin_x11"],
-    # The list of programs by which it knows Spectacle is not made in a session of minutes.
+    # KWin allows Spectacle by a list of programs, which such a short session does not have.
     environment={"KWIN_SCREENSHOT_NO_PERMISSION_CHECKS": "1"},
 )  # fmt: skip
 
@@ -77,7 +77,7 @@ def test_spectacle_is_noticed(desktop, vantle, shell):
 
 
 def take_screenshot(desktop, vantle):
-    """With Spectacle; returns the file once it is on the card."""
+    """Takes a screenshot with Spectacle, and returns the file when it is on the card."""
     captured = len(vantle.captured())
     desktop.run("spectacle", "--background", "--nonotify", "--fullscreen")
     [name] = wait_until(lambda: vantle.captured()[captured:], "it is captured")

@@ -1,4 +1,4 @@
-"""A recording is a capture when it has ended, and not before."""
+"""A recording becomes a capture when it has ended, and not before."""
 
 import signal
 
@@ -18,7 +18,8 @@ def start_recording(desktop, path):
 
 
 def record(desktop, folder, name, seconds):
-    """Records for a while, looking all the time that no tile appears. Ends as Ctrl-C would."""
+    """Records for a while, checks that no tile appears meanwhile, and ends the recorder as Ctrl-C
+    would."""
     path = folder.path / name
     recorder = start_recording(desktop, path)
     wait_until(path.exists, "the recording begins")
@@ -43,7 +44,7 @@ def test_ffmpeg_gives_one_tile_after_its_end(desktop, vantle, folder, name):
 
 @pytest.mark.parametrize("name", ["clip.mp4", "clip.webm", "clip.mkv"])
 def test_open_recording_waits_for_its_writer(vantle, folder, name):
-    """Without any recorder: a file that stays open for writing and does not grow."""
+    """Without a recorder: a file stays open for writing and does not grow."""
     vantle.start_watching()
     with open(folder.path / name, "wb") as file:
         file.write(b"\0" * 4096)
@@ -69,7 +70,7 @@ def test_recordings_switched_off(desktop, vantle, folder):
     configuration={"user-dirs.dirs": 'XDG_VIDEOS_DIR="$HOME/Filme"\n'},
 )
 def test_a_recorder_that_makes_its_own_folder_gives_one_tile(desktop, binary):
-    """As the recorder of GNOME does at its first use, while screenshots go elsewhere."""
+    """GNOME's recorder makes its folder at its first use, and screenshots go to another folder."""
     vantle = Program(binary, desktop, environment=ENVIRONMENT)
     vantle.write_settings(screenshotTool=None)
     (desktop.home / "Filme").mkdir()
@@ -91,7 +92,7 @@ def test_a_recorder_that_makes_its_own_folder_gives_one_tile(desktop, binary):
 
 
 def record_beside(desktop, path, screenshots):
-    """Records for some seconds, looking all the time that no tile of it appears."""
+    """Records for some seconds, and checks that no tile of it appears meanwhile."""
     recorder = start_recording(desktop, path)
     wait_until(path.exists, "the recording begins")
     for _ in range(3):

@@ -1,4 +1,4 @@
-"""The folder of each desktop's own screenshot tool is found, changed and given back."""
+"""The folder of each desktop's screenshot tool is found, changed and restored."""
 
 import re
 
@@ -13,7 +13,7 @@ from watched_folder import WatchedFolder
 
 
 def on_desktop(name):
-    """That desktop, as a German uses it."""
+    """Marks a test to run on that desktop with a German user's folders."""
     return pytest.mark.desktop(
         environment={"XDG_CURRENT_DESKTOP": name}, configuration={"user-dirs.dirs": USER_FOLDERS}
     )
@@ -29,7 +29,7 @@ def vantle(desktop, binary):
 
 
 def take(desktop, vantle, tool, folder):
-    """The tool saves one more picture, into that folder, and it is on the card."""
+    """Saves one more picture with the tool into that folder, and waits for it on the card."""
     before, shown = pictures_in(folder), len(vantle.shown_counts())
     tool.take(desktop)
     wait_until(lambda: len(pictures_in(folder)) == len(before) + 1, f"it is saved in {folder}")
@@ -39,7 +39,7 @@ def take(desktop, vantle, tool, folder):
 
 
 def check_folder(desktop, vantle, screens, tool, default):
-    """By default, after a change in the settings, and after that was taken back."""
+    """Checks the default folder, a change in the settings, and the restored default."""
     folder, changed = desktop.home / default, desktop.home / "Screenshots"
     vantle.start_watching()
     take(desktop, vantle, tool, folder)
@@ -48,7 +48,7 @@ def check_folder(desktop, vantle, screens, tool, default):
     vantle.wait_for_log(f"watching {changed} ")
     take(desktop, vantle, tool, changed)
     assert len(pictures_in(folder)) == 1
-    # The launch may have begun to watch it more than once.
+    # The start may have begun to watch it more than once.
     before = vantle.log_text().count(f"watching {folder} ")
     screens.choose("Change", "Restore " + (f"~/{default}" if default else "~"))
     vantle.wait_for_log(f"watching {folder} ", times=before + 1)
@@ -57,12 +57,13 @@ def check_folder(desktop, vantle, screens, tool, default):
 
 
 def folder_of_spectacle(name="Screenshots"):
-    """Its default. Later versions have one of their own, with a name in the user's language."""
+    """Returns Spectacle's default folder. Later versions have their own, named in the user's
+    language."""
     return "Bilder" if screenshot_tools.spectacle_is_for_qt5() else f"Bilder/{name}"
 
 
 def setting_of_spectacle():
-    """Where it keeps a folder that was chosen."""
+    """Returns where Spectacle stores a chosen folder."""
     if screenshot_tools.spectacle_is_for_qt5():
         return "[Save]\ndefaultSaveLocation"
     return "[ImageSave]\nimageSaveLocation"
@@ -87,7 +88,7 @@ def test_spectacle_in_another_language(desktop, binary):
     desktop.environment.update({name: text for name, text in speaking.items() if text})
     take(desktop, vantle, screenshot_tools.SPECTACLE, folder)
     vantle.stop()
-    # In another language it stays the folder that the tool has written down.
+    # In another language it stays the folder that the tool has stored.
     vantle = Program(binary, desktop, environment={"LANG": "C.UTF-8"}, name="vantle-english")
     vantle.start_watching()
     vantle.wait_for_log(f"watching {folder} ")

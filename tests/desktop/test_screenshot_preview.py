@@ -1,4 +1,4 @@
-"""The previews of the desktops' own screenshot tools are hidden, and come back as they were."""
+"""The previews of the desktops' screenshot tools are hidden, and restored as they were."""
 
 import pytest
 
@@ -20,7 +20,7 @@ def vantle(desktop, binary):
 
 
 def check_preview(desktop, vantle, screens, tool, name, folder="Bilder"):
-    """It notifies by default, not while that is hidden, and again afterwards."""
+    """Checks that the tool notifies by default, not while that is hidden, and again afterwards."""
     notifications = Notifications(desktop)
     vantle.start_watching()
     tool.take(desktop)
@@ -33,7 +33,7 @@ def check_preview(desktop, vantle, screens, tool, name, folder="Bilder"):
     screens.click(HIDE)
     wait_until(lambda: not screens.is_on(HIDE), "it is shown")
     tool.take(desktop)
-    # What the second one would have sent has come before this.
+    # A notification of the second screenshot would have arrived before this one.
     wait_until(lambda: notifications.count(name) == 2, "it notifies again")
     vantle.wait_for_log("captured ", times=3)
     assert len(pictures_in(desktop.home / folder)) == 3

@@ -1,4 +1,4 @@
-"""The settings' window, as a person uses it: what it changes in the file and on the desktop."""
+"""The settings window, used as people do: what it changes in the file and on the desktop."""
 
 import pytest
 
@@ -69,7 +69,7 @@ def test_every_setting_by_mouse(desktop, vantle, folder, screens):
     screens.wait_for_setting("dismissAfter", "120")
     screens.choose("Show panel in", "Top Left")
     screens.wait_for_setting("corner", "topLeft")
-    # All of it holds for the next capture.
+    # All settings apply to the next capture.
     panel = show_one(desktop, folder)
     assert panel.frame == expected_frame(desktop.screen.work_area(), "topLeft")
     wait_until(lambda: "Pin" in " ".join(screens.assistant.names()), "it can be pinned")
@@ -181,7 +181,7 @@ def test_the_folder_chooser(desktop, vantle, screens):
     screens.wait_for_text("~/Desktop")
     dialog = choose_other_folder(desktop, screens)
     wait_until(lambda: desktop.screen.active_window() == dialog, "it has the keyboard")
-    # It starts in the folder around that one.
+    # The dialog starts in the folder that contains this one.
     desktop.screen.keyboard.type("shots")
     desktop.screen.keyboard.press("Return")
     vantle.wait_for_log(f"watching {other} ")
@@ -236,7 +236,7 @@ def test_a_small_screen(desktop, vantle, screens):
     work = desktop.screen.work_area()
     area = desktop.screen.area(window)
     assert area.width == 480 and area.height == work.height - 60
-    # What has the keyboard is scrolled to.
+    # The window scrolls to the control that has the keyboard focus.
     for _ in range(12):
         desktop.screen.keyboard.press("Tab")
     wait_until(

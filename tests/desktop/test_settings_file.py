@@ -1,4 +1,4 @@
-"""The settings file survives what happens to it."""
+"""The settings file survives damage and crashes."""
 
 import configparser
 import time
@@ -21,7 +21,7 @@ KEYS = {
 
 
 def check_readable(path):
-    """Either nothing was written yet, or every line of it makes sense."""
+    """Checks that the file is missing or that every line of it is valid."""
     if not path.exists():
         return
     parser = configparser.ConfigParser(interpolation=None)
@@ -35,12 +35,13 @@ def check_readable(path):
 
 
 def test_killed_while_it_writes(desktop, binary):
-    """Killed at ever later moments of a first start, which writes the recommended settings."""
+    """The program is killed at ever later moments of a first start, which writes the recommended
+    settings."""
     for moment in range(16):
         program = Program(binary, desktop, name=f"vantle-{moment}")
         program.settings_file.unlink(missing_ok=True)
         program.start()
-        # No condition to wait for: the moments are to be spread over the start.
+        # There is no condition to wait for: the moments must be spread over the start.
         time.sleep(moment * 0.025)
         program.kill()
         check_readable(program.settings_file)
@@ -70,13 +71,13 @@ def test_killed_while_running(desktop, vantle, binary):
         again.stop()
 
 
-# It knows no more that there is no screenshot tool; that of MATE saves to the Desktop.
+# Without its settings the program takes MATE's screenshot tool, which saves to the Desktop.
 @pytest.mark.desktop(environment={"XDG_CURRENT_DESKTOP": "MATE"})
 def test_a_file_of_which_nothing_can_be_read_means_defaults(desktop, vantle, folder):
     damaged = b"\x00\xff[Gen\x00eral\ncorner\x01=topLeft\n\x80\x81=\x00" + bytes(range(256))
     vantle.settings_file.write_bytes(damaged)
     vantle.start()
-    # It knows no more that it was introduced.
+    # Without its settings the program shows the onboarding again.
     window = wait_until(desktop.screen.dialogs, "the onboarding opens")[0]
     wait_until(lambda: desktop.screen.active_window() == window, "it has the keyboard")
     for _ in range(3):
@@ -95,7 +96,7 @@ def test_a_file_of_which_nothing_can_be_read_means_defaults(desktop, vantle, fol
 
 @pytest.mark.parametrize("odd", ["no sense", "[General", "<<<<<<< HEAD", "text=\x00", ""])
 def test_an_odd_line_costs_that_line(desktop, vantle, folder, odd):
-    """Or, where the file was emptied, nothing: the copy of it counts."""
+    """Only the odd line is lost. An empty file loses nothing, because its copy is used."""
     vantle.write_settings(corner="topLeft")
     autostart = desktop.home / ".config/autostart/org.vantle.Vantle.desktop"
     vantle.start_watching()

@@ -9,7 +9,7 @@ RATE = 44_100
 
 
 class Ear:
-    """A sound server whose only loudspeaker is recorded."""
+    """A sound server with one loudspeaker, which is recorded."""
 
     def __init__(self, desktop):
         self._file = desktop.home / "heard.raw"

@@ -71,7 +71,7 @@ def vantle(sway, binary):
 
 
 def picture_around(sway, tile):
-    """Without the line below it, which tells how long ago that was."""
+    """Returns a picture without the line below the tile, which shows how old the capture is."""
     around = Rectangle(tile.x - 30, tile.y - 60, tile.width + 50, tile.height + 60)
     return wait_until_still(lambda: sway.screen.screenshot(around).tobytes(), "the card")
 
@@ -303,7 +303,7 @@ def shows_card(sway, output):
 
 
 def close_output(sway, window):
-    """An output of the nested Sway is a window."""
+    """Closes an output of the nested Sway, which is a window."""
     before = outputs(sway)
     sway.screen.ask_to_close(window)
     wait_until(lambda: outputs(sway) != before, "the output goes")
@@ -343,7 +343,7 @@ def test_it_survives_the_outputs_that_it_stands_on(sway, vantle):
 def test_the_menu_of_its_icon_in_the_bar(sway, vantle):
     vantle.start_watching()
     width, height = sway.screen.size
-    # The bar draws no menus, and leaves them to the program.
+    # The bar draws no menus itself; the program does.
     beside = Rectangle(width - 220, height - 250, 200, 200)
     empty = sway.screen.screenshot(beside).tobytes()
 

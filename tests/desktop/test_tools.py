@@ -1,4 +1,4 @@
-"""Each screenshot tool, as people really use it, gives exactly one tile with the right picture."""
+"""Each screenshot tool, as people use it, gives exactly one tile with the right picture."""
 
 import subprocess
 
@@ -17,7 +17,7 @@ def check_one_tile(desktop, vantle, folder, take):
     desktop.paint(pattern())
     take()
     vantle.wait_for_log("captured ")
-    # The panel lets the wallpaper shine through: only a tile may show the pattern from here on.
+    # The panel is translucent, so the wallpaper must not show the pattern from here on.
     desktop.paint(plain())
     wait_until(lambda: is_one_pattern(panel_picture(desktop)), "one tile shows the screenshot")
     folder.wait_for_marker()
@@ -82,7 +82,7 @@ def test_ten_screenshots_at_once(desktop, vantle, folder):
         assert process.wait(60) == 0
     folder.wait_for(*names)
     desktop.paint(plain())
-    # The row scrolls to its end: of ten tiles about four can be seen.
+    # The row scrolls to its end: about four of ten tiles are visible.
     wait_until(lambda: count_patterns(panel_picture(desktop)) >= 3, "the last tiles can be seen")
     folder.wait_for_marker()
     assert sorted(folder.captured()) == sorted(names)
@@ -91,7 +91,7 @@ def test_ten_screenshots_at_once(desktop, vantle, folder):
 
 
 def test_growing_file_waits_for_its_end(desktop, vantle, folder):
-    """A tool that writes slowly gives its tile only when it has finished, and only one."""
+    """A tool that writes slowly gives one tile, and only when it has finished."""
     picture = folder.path / "slow.png"
     vantle.start_watching()
     writer = desktop.start(

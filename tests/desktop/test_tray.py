@@ -1,4 +1,4 @@
-"""The icon in real trays and its menu, by real clicks and keys."""
+"""The icon in real trays and its menu, with real clicks and keys."""
 
 import pytest
 
@@ -26,7 +26,7 @@ def dismiss(desktop, vantle):
 
 
 def start_with_one_capture(desktop, vantle, folder, edge):
-    """Its icon; the card has gone again."""
+    """Starts, shows and dismisses one capture, and returns the icon."""
     vantle.start_watching()
     icon = Icon(desktop, edge)
     icon.wait()
@@ -93,7 +93,7 @@ def test_a_click_beside_our_menu_closes_it_after_a_long_press(desktop, vantle):
 def test_menu_in_the_panel_of_lxqt(desktop, vantle, folder):
     start_lxqt_panel(desktop)
     icon = start_with_one_capture(desktop, vantle, folder, "bottom")
-    # The heading cannot be chosen: the capture, its folder, then what pauses.
+    # The heading cannot be chosen, so the lines are: the capture, its folder, pause.
     open_menu_of_tray(desktop, icon)
     choose_by_keys(desktop, 3)
     wait_until(lambda: state(vantle) == "state: paused", "it is paused")
@@ -115,7 +115,7 @@ def test_menu_in_the_panel_of_xfce(desktop, vantle, folder):
     choose_by_keys(desktop, 3)
     wait_until(lambda: state(vantle) == "state: paused", "it is paused")
     wait_until(icon.is_dim, "the icon is dimmed")
-    # From the end: the line that ends the program.
+    # Up goes to the last line, which quits the program.
     open_menu_of_tray(desktop, icon)
     desktop.screen.keyboard.press("Up")
     desktop.screen.keyboard.press("Return")

@@ -1,4 +1,4 @@
-"""An update of the real program by itself: from the check to the version that runs afterwards."""
+"""The real program updates itself: from the check to the version that runs afterwards."""
 
 import os
 import signal
@@ -40,7 +40,8 @@ def publisher(server, tmp_path):
 
 
 def programs(binary, main):
-    """All that it takes, with another main program; the decoder for what is saved in the tests."""
+    """Returns the files of a tree with `main` as the program; of the decoder only what the tests
+    need."""
     build = Path(binary).parents[1]
     modules = ["libvantle-core", "vantle-decoder-png", "vantle-no-proxies", "vantle-views"]
     places = ["bin/vantle-decoder", "bin/vantle-folder-dialog",
@@ -54,7 +55,8 @@ def programs(binary, main):
 
 @pytest.fixture
 def later(binary, tmp_path):
-    """Makes the archive of a later version, whose main program may be another one."""
+    """Returns a function that makes the archive of a later version, with another main program if
+    given."""
     return lambda main=Path(os.environ["VANTLE_LATER"]): make_archive(
         tmp_path / "later", LATER, programs(binary, main)
     )
@@ -62,13 +64,13 @@ def later(binary, tmp_path):
 
 @pytest.fixture
 def tree(desktop, binary):
-    """Where the program is installed, in the user's home folder."""
+    """The installed program, in the user's home folder."""
     version = Program(binary, desktop).command("--version")[1].split()[-1]
     return make_tree(desktop.home / "Apps/vantle", version, programs(binary, Path(binary)))
 
 
 class UpdatingProgram(Program):
-    """A program that may be followed by another copy, which writes to the same log."""
+    """A program that another copy may follow, which writes to the same log."""
 
     def __init__(self, tree, desktop, environment):
         super().__init__(str(tree / "bin/vantle"), desktop, environment=environment)
@@ -113,7 +115,7 @@ def updaters(desktop, tree):
 
 
 def chosen(vantle):
-    """What the user has set: all but what updates keep for themselves."""
+    """Returns the user's settings, without those that updates keep for themselves."""
     lines = vantle.settings_file.read_text().splitlines()
     return [line for line in lines if "Update" not in line]
 
@@ -139,7 +141,7 @@ def test_update_to_the_next_version(desktop, vantle, folder, tree, screens, publ
     log = vantle.log_text()
     assert f"sparkle: found {LATER} ({LATER})" in log
     assert f"sparkle: installing {LATER}" in log
-    # It is the same program to its user.
+    # For the user it is the same program.
     assert chosen(vantle) == settings
     panel = show_one(desktop, folder)
     assert panel.frame == expected_frame(desktop.screen.work_area(), "topLeft")
@@ -203,7 +205,7 @@ def test_an_updater_that_is_killed_is_told(desktop, vantle, tree, screens, serve
     os.kill(wait_until(lambda: updaters(desktop, tree), "something is fetched")[0], signal.SIGKILL)
     screens.wait_for_text("Vantle could not be updated")
     assert vantle.is_running()
-    # And again, now to the end.
+    # The next try succeeds.
     screens.click("OK")
     vantle.command("--quit")
     wait_for_end_of_first(vantle)
@@ -226,7 +228,7 @@ def test_a_check_from_the_menu_of_the_tray(desktop, vantle, screens, publisher, 
     publisher.publish(later(), version_of(vantle))
     vantle.start_watching()
     screens.wait_for_text("Vantle is up to date")
-    # It can be read before it has the keyboard.
+    # The text can be read before the window has the keyboard.
     wait_until(
         lambda: desktop.screen.active_window() == find_window(desktop, TITLE), "it is active"
     )

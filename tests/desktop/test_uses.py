@@ -1,4 +1,4 @@
-"""Opening, showing, sharing and throwing away, with the desktop's own programs."""
+"""Opening, showing, sharing and trashing captures, with the desktop's own programs."""
 
 import os
 
@@ -7,12 +7,12 @@ from pictures import pattern
 from privatedesktop import ensure_never, wait_until, wait_until_still
 from using import press_button, press_with_control, select_all, tile_of, window_titled
 
-# The height of a line of the share menu.
+# The height of a line in the share menu.
 MENU_LINE = 28
 
 
 def trashed(desktop):
-    """The names of what the desktop's own tool finds in the Trash."""
+    """Returns the names that the desktop's own tool lists in the Trash."""
     lines = desktop.run("gio", "trash", "--list").stdout.decode().splitlines()
     return sorted(line.split("\t")[0].rsplit("/", 1)[-1] for line in lines)
 
@@ -22,7 +22,7 @@ def restore(desktop, name):
 
 
 def menus(desktop):
-    """The windows of open menus of ours."""
+    """Returns Vantle's open menus."""
     return [
         window
         for window in desktop.screen.windows()
@@ -52,7 +52,7 @@ def test_a_click_opens_the_file_with_its_default_application(desktop, vantle, fo
 
 def test_reveal_shows_the_file_in_the_file_manager(desktop, vantle, folder, card):
     press_button(desktop, card, "reveal")
-    # A file manager that ran before nobody asked for it.
+    # The file manager was not running before.
     window_titled(desktop, "Desktop")
     wait_until(lambda: is_dismissed(desktop), "the used capture leaves")
 
@@ -89,11 +89,11 @@ def restore_all_by_file_manager(desktop, is_done):
     pointer = desktop.screen.pointer
 
     def select_and_restore():
-        """In vain while the file manager is still listing."""
+        """Fails while the file manager is still listing, so the caller repeats it."""
         pointer.click(area.right - 20, area.bottom - 120)
         press_with_control(desktop, "a")
         wait_until_still(lambda: desktop.screen.screenshot(area).tobytes(), "the selection")
-        # "Restore Selected Items".
+        # The button "Restore Selected Items".
         pointer.click(area.right - 299, area.bottom - 50)
         wait_until_still(lambda: desktop.screen.screenshot(area).tobytes(), "the list")
         return is_done()
@@ -131,7 +131,7 @@ def test_copying_counts_as_use_with_its_delays(desktop, vantle, folder):
     card = wait_for_card(desktop, show_one(desktop, folder))
     press_button(desktop, card, "copy")
     wait_until(lambda: is_dismissed(desktop), "the used capture leaves")
-    # Long after the card has gone.
+    # This is long after the card has gone.
     assert (folder.path / "shot.png").exists()
     wait_until(lambda: trashed(desktop) == ["shot.png"], "its file goes to the Trash")
 
@@ -170,7 +170,7 @@ def test_the_countdown_waits_for_the_share_menu(desktop, vantle, folder):
     vantle.write_settings(dismissAfter="3")
     vantle.start_watching()
     card = wait_for_card(desktop, show_one(desktop, folder))
-    # A fifth button stands before the others where there is a timer; these are from the right.
+    # With a countdown there is a fifth button before the others, whose places count from the right.
     open_share_menu(desktop, card)
     desktop.screen.pointer.move(300, 300)
     ensure_never(lambda: is_dismissed(desktop), "the countdown goes on", 4.0)

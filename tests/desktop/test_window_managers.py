@@ -1,4 +1,4 @@
-"""The panel under other window managers than the one of the other tests."""
+"""The panel under window managers other than the one in the other tests."""
 
 import pytest
 
@@ -25,7 +25,7 @@ def check_drags_into_a_file_manager(desktop, vantle, folder):
     vantle.start_watching()
     card = panel_checks.wait_for_card(desktop, panel_checks.show_one(desktop, folder))
     area = desktop.screen.area(window)
-    # In the middle of its files; none of that is under the card.
+    # In the middle of its files, which the card does not cover.
     goal = area.x + area.width // 2, area.y + area.height // 2
     assert Drag(desktop, vantle, tile_of(card)).hold_over(*goal).drop()
     copy, original = target / "shot.png", folder.path / "shot.png"
@@ -50,7 +50,7 @@ def test_xfwm4(desktop, vantle, folder, check):
     check(desktop, vantle, folder)
 
 
-# The next two compose the screen themselves.
+# The next two window managers are also compositors.
 @every_check
 @pytest.mark.desktop(window_manager=["kwin_x11"], compositor=False)
 def test_kwin(desktop, vantle, folder, check):
@@ -80,7 +80,7 @@ def test_kwin_blurs_what_is_behind_the_glass(desktop, vantle, folder):
     vantle.start_watching()
     panel = panel_checks.show_one(desktop, folder)
     card = panel_checks.wait_for_card(desktop, panel)
-    # Under the tile, left of its actions, there is nothing but glass; beside the card, stripes.
+    # Below the tile, left of its buttons, there is only glass; beside the card there are stripes.
     glass = Rectangle(card.x + 30, card.bottom - 7, 200, 3)
     beside = glass.moved(-300, 0)
 

@@ -37,7 +37,7 @@ _XFCE = """<?xml version="1.0" encoding="UTF-8"?>
 """
 
 
-# The left end of an edge has a number there.
+# The numbers under which Xfce knows the left ends of the edges.
 _XFCE_PLACES = {"top": "p=6;x=720;y=16", "bottom": "p=8;x=720;y=885"}
 
 
@@ -48,7 +48,8 @@ def _write(desktop, name, text):
 
 
 def start_lxqt_panel(desktop):
-    """On a busy machine its bar sometimes never comes, whoever else is there; a second one does."""
+    """Starts the panel. On a busy machine its bar sometimes never appears; a second panel's bar
+    does."""
     _write(desktop, "lxqt/panel.conf", _LXQT)
     panel = desktop.start("lxqt-panel")
     try:
@@ -80,7 +81,7 @@ class Icon:
         self._bar = Rectangle(left, top, width - left, height)
 
     def _pixels(self, least_saturation):
-        """The places of the icon's colours, which nothing else in a bar has."""
+        """Returns the places of the icon's colours, which nothing else in a bar has."""
         picture = self._desktop.screen.screenshot(self._bar)
         found = []
         for number, (red, green, blue) in enumerate(picture.getdata()):
@@ -96,12 +97,12 @@ class Icon:
         return len(self._pixels(0.4)) < 20
 
     def places(self):
-        """How many icons there are: groups of columns with its colours."""
+        """Returns the number of icons: groups of columns with its colours."""
         columns = sorted({x for x, _ in self._pixels(0.4)})
         return sum(1 for i, x in enumerate(columns) if i == 0 or x - columns[i - 1] > 4)
 
     def wait(self):
-        """Returns where its middle is, once it is there."""
+        """Waits for the icon and returns its middle."""
         wait_until(self.is_bright, "the icon is in the tray")
         pixels = wait_until_still(lambda: self._pixels(0.4), "the icon", readings=3)
         columns, rows = [x for x, _ in pixels], [y for _, y in pixels]
@@ -125,14 +126,14 @@ class OwnMenu:
         self.frame = window.frame
 
     def line(self, heights, number):
-        """Where the line of that number is in a menu whose lines have these heights."""
+        """Returns the place of a line, by its number, in a menu with lines of these heights."""
         height = sum(heights) + 2 * self.EDGE
         shadow = (self.frame.height - height) // 2
         y = self.frame.y + shadow + self.EDGE + sum(heights[:number]) + heights[number] // 2
         return self.frame.centre[0], y
 
     def choose(self, captures, title):
-        """Clicks a line of the menu as it is with so many captures."""
+        """Clicks a line of the menu, which lists that many captures."""
         heights = [self.LINE]
         if captures:
             heights += [self.CAPTURE] * captures + [self.RULE, self.LINE]
@@ -144,7 +145,7 @@ class OwnMenu:
 
 
 def open_menu_of_tray(desktop, icon):
-    """Lets the tray draw the menu; returns a picture of the screen with it."""
+    """Makes the tray draw the menu, and returns a picture of the screen with it."""
     before = desktop.screen.screenshot().tobytes()
     desktop.screen.pointer.click(*icon.middle, button=3)
     wait_until(lambda: desktop.screen.screenshot().tobytes() != before, "the tray's menu opens")

@@ -1,13 +1,13 @@
-"""Programs that may not do everything, although root runs the tests."""
+"""Starts programs without root's rights, although root runs the tests."""
 
 import os
 
-# Root reads everything, unless it gives up the right to.
+# Root can read everything unless it drops these capabilities.
 _RIGHTS = "-dac_override,-dac_read_search"
 
 
 def unprivileged(binary):
-    """The command that starts the binary as one whom permissions hold back."""
+    """Returns the command that starts the binary so that file permissions apply to it."""
     if os.geteuid() != 0:
         return binary
     return ["setpriv", "--bounding-set", _RIGHTS, "--inh-caps", _RIGHTS, binary]

@@ -1,10 +1,10 @@
-"""What a person does with a tile: presses its buttons, drags it away."""
+"""What a user does with a tile: presses its buttons, drags it away."""
 
 import re
 
 from privatedesktop import wait_until, wait_until_still
 
-# Of a card with one capture of the pattern, from its right and its upper edge, in points.
+# On a card with one capture of the pattern, from its right and its upper edge, in points.
 BUTTONS = {"copy": 110, "share": 82, "reveal": 54, "trash": 26}
 _BUTTONS_BELOW_EDGE = 227
 _TILE = (164, 100)
@@ -15,19 +15,20 @@ def press_button(desktop, card, name):
 
 
 def tile_of(card):
-    """A point on the first tile."""
+    """Returns a point on the first tile."""
     return card.x + min(_TILE[0], card.width // 2), card.y + _TILE[1]
 
 
 def select_all(desktop, card):
-    """Draws a marquee over all that the card shows, and waits for the bar of the selection."""
+    """Draws a marquee over everything visible on the card, and waits for the bar of the
+    selection."""
     desktop.screen.pointer.drag((card.x + 4, card.bottom - 5), (card.right - 4, card.y + 20))
     panel = desktop.screen.panel().frame
     wait_until_still(lambda: desktop.screen.screenshot(panel).tobytes(), "the card")
 
 
 class Drag:
-    """A drag of the tile at `start`, begun by being made; the button is held until drop()."""
+    """A drag of the tile at `start`. It begins at once; the button is held until drop()."""
 
     def __init__(self, desktop, vantle, start):
         self._pointer = desktop.screen.pointer
@@ -48,12 +49,12 @@ class Drag:
         return self
 
     def hold_over(self, x, y):
-        """Waits there until the program under the pointer promises to take what is dragged."""
+        """Waits there until the program under the pointer promises to take the drag."""
         self.move(x, y)
         turn = 0
 
         def is_promised():
-            # Nobody is asked while the pointer rests.
+            # The target is asked only while the pointer moves.
             nonlocal turn
             turn += 1
             self._pointer.move(x + turn % 3, y)
@@ -67,7 +68,7 @@ class Drag:
         return self.was_taken()
 
     def was_taken(self):
-        """Whether whoever it was dropped on has taken it, once that is known."""
+        """Waits for the end of the drag. Returns true if the target took it."""
         ends = wait_until(
             lambda: re.findall(r"thumb drag ended op=(\d)", self._log()), "the drag ends", limit=30
         )
@@ -75,7 +76,7 @@ class Drag:
 
 
 def find_window(desktop, text):
-    """The number of a window whose title has that text in it; None when there is none."""
+    """Returns the number of a window whose title contains that text, or None."""
     for number in desktop.screen.client_list():
         if text in (desktop.screen.title(number) or b"").decode("utf-8", "replace"):
             return number
@@ -83,7 +84,7 @@ def find_window(desktop, text):
 
 
 def window_titled(desktop, text, limit=20.0):
-    """The same, once there is one."""
+    """Waits for such a window and returns its number."""
     what = f"a window has {text} in its title"
     return wait_until(lambda: find_window(desktop, text), what, limit)
 

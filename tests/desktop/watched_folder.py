@@ -1,4 +1,4 @@
-"""Files for the watched folder, and what Vantle made of them."""
+"""Files for the watched folder, and the captures that Vantle made of them."""
 
 import io
 import os
@@ -30,12 +30,13 @@ class WatchedFolder:
         self._staging = path.parent / "staging"
 
     def save(self, name, content=None):
-        """Writes a file as most tools do: created, filled and closed in place."""
+        """Writes a file as most tools do: creates, fills and closes it in place."""
         with open(os.path.join(os.fsencode(self.path), os.fsencode(name)), "wb") as file:
             file.write(png() if content is None else content)
 
     def move_in(self, name, content=None, age=0.0, temporary_name=None):
-        """Renames a finished file into place: from another folder, or from a name in this one."""
+        """Renames a finished file into place, from another folder or from another name in this
+        one."""
         if temporary_name:
             source = self.path / temporary_name
         else:
@@ -52,8 +53,8 @@ class WatchedFolder:
     def wait_for_marker(self):
         """Saves one more capture and waits for it.
 
-        Whatever the watcher saw before it has been looked at when the marker arrives, so after this
-        "nothing came" is a fact and not a matter of patience.
+        When the marker arrives, everything that the watcher saw before has been handled, so after
+        this "nothing came" is a fact and not a matter of patience.
         """
         self._markers += 1
         name = f"{_MARKER}{self._markers}.png"
@@ -68,10 +69,11 @@ class WatchedFolder:
         self._vantle.wait_for_log(rf"^Vantle\[dbg\]: captured {re.escape(name)}$", times, limit)
 
     def captured(self):
-        """The names of the captures so far, without the markers, in order."""
+        """Returns the names of the captures so far, without the markers, in order."""
         return [name for name in self._vantle.captured() if not name.startswith(_MARKER)]
 
     def shown_count(self):
-        """How many captures the panel holds, without the markers (which are never removed)."""
+        """Returns how many captures the panel holds, without the markers (which are never
+        removed)."""
         counts = self._vantle.shown_counts()
         return (counts[-1] if counts else 0) - self._markers

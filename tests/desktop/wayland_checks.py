@@ -1,4 +1,4 @@
-"""What tests of the card on Wayland desktops share."""
+"""Shared by tests of the card on Wayland desktops."""
 
 import contextlib
 import time
@@ -20,7 +20,7 @@ _BUTTONS_BELOW_TILE = 26
 
 @contextlib.contextmanager
 def program_on(desktop, binary, environment=None, name="vantle", **settings):
-    """Vantle, not started yet, as the desktop's user starts it."""
+    """Yields Vantle, not started yet, to be started as the desktop's user."""
     command = desktop.as_user(desktop.lend_build(binary))
     program = Program(command, desktop, environment, name)
     program.write_settings(
@@ -42,13 +42,13 @@ def save(desktop, name):
 
 
 def down_to_tile(picture):
-    """What is below it may change all the time: how much is left of it."""
+    """Cuts off what is below the tile, because the remaining time changes there."""
     end = mask_of(picture, YELLOW).getbbox()
     return picture.crop((0, 0, picture.width, end[3] if end else picture.height))
 
 
 def show_one(desktop, vantle, name="shot.png"):
-    """Returns where its tile stands on the screen."""
+    """Saves a screenshot, and returns the area of its tile on the screen."""
     save(desktop, name)
     vantle.wait_for_log(f"captured {name}")
     frame = corner(desktop)
@@ -69,7 +69,7 @@ def press(desktop, tile, button):
 
 
 def on_glass(tile):
-    """A point of the card, and not of its tile."""
+    """Returns a point of the card beside its tile."""
     return tile.centre[0], tile.y - 5
 
 
@@ -80,8 +80,8 @@ def click_on_glass(desktop, vantle, tile):
 
 
 def click_through(desktop, window, points, tries=1):
-    """Clicks there, and waits until the window underneath has got all of them, and no others. Each
-    click is tried so often before it counts as lost."""
+    """Clicks at the points, and checks that the window underneath gets these clicks and no others.
+    Each click is tried up to `tries` times."""
     for number, point in enumerate(points, start=1):
         for left in reversed(range(tries)):
             desktop.screen.pointer.click(*point)
@@ -96,7 +96,7 @@ def click_through(desktop, window, points, tries=1):
 
 
 def pasted(desktop, *arguments):
-    """What wl-paste prints; nothing that counts while the clipboard is empty."""
+    """Returns what wl-paste prints; the output is meaningless while the clipboard is empty."""
     return desktop.run("wl-paste", *arguments, check=False, text=True).stdout
 
 
@@ -126,7 +126,7 @@ def check_corner(desktop, vantle):
 
 
 def check_stands_in(desktop, binary, area, side):
-    """In that corner of that part of the screen, without reaching out of it."""
+    """Checks that the card is in that corner of that area and inside it."""
     with program_on(desktop, binary, name=side, corner=side) as vantle:
         vantle.start_watching()
         save(desktop, f"{side}.png")
@@ -137,13 +137,13 @@ def check_stands_in(desktop, binary, area, side):
         _, _, right, bottom = mask_of(picture, YELLOW).getbbox()
         across = frame.width - right if side.endswith("Right") else left
         down = frame.height - bottom if side.startswith("bottom") else top
-        # Below it there is a line of buttons.
+        # There is a line of buttons below the tile.
         least, most = (50, 90) if side.startswith("bottom") else (10, 40)
         assert 10 < across < 40 and least < down < most
 
 
 def wait_for_bar(desktop, edge):
-    """Until there is a bar at that edge. Returns the part of the screen that it leaves free."""
+    """Waits for a bar at that edge, and returns the part of the screen that it leaves free."""
     width, total = desktop.screen.size
     strip = Rectangle(700, 0 if edge == "top" else total - 100, 1, 100)
 
@@ -171,7 +171,7 @@ def check_on_every_workspace(desktop, vantle, switch):
 
 
 def check_scaled_by_a_half(desktop, vantle):
-    """On an output with one and a half pixels a point."""
+    """Checks the card on an output with one and a half pixels per point."""
     vantle.start_watching()
     save(desktop, "shot.png")
     width, height = desktop.screen.size
@@ -213,31 +213,32 @@ def outside_panel(frame, _):
 
 
 def beside_card(frame, tile):
-    """Inside the panel's frame."""
+    """Returns points beside the card, inside the panel's frame."""
     return [(frame.x + 60, frame.y + 60), (tile.x - 24, tile.centre[1]), (tile.x, frame.y + 10)]
 
 
 def check_clicks_pass(desktop, vantle, *places, tries=1):
-    """Also after the card has been drawn again."""
+    """Checks that clicks pass through the panel, also after the card has been drawn again."""
     window = NativeWindow(desktop)
     vantle.start_watching()
     tile = show_one(desktop, vantle)
     click_on_glass(desktop, vantle, tile)
     frame = corner(desktop)
-    # A compositor that forgets with each frame what takes clicks is told after the last one.
+    # A compositor that forgets with each frame which parts take clicks is told again after the last
+    # one.
     wait_until_still(lambda: down_to_tile(desktop.screen.screenshot(frame)), "it", readings=20)
     points = [point for where in places for point in where(frame, tile)]
     click_through(desktop, window, points, tries)
 
 
 def check_clicks_pass_while_time_runs(desktop, binary, tries=1):
-    """Its bar gets shorter by a pixel every tenth of a second."""
+    """Checks it while the countdown's bar gets shorter by a pixel every tenth of a second."""
     with program_on(desktop, binary, dismissAfter="30") as vantle:
         check_clicks_pass(desktop, vantle, *[beside_card] * 4, tries=tries)
 
 
 def check_clicks_count_under_a_pointer_at_rest(desktop, vantle):
-    """Of card after card that comes to where the pointer is."""
+    """Checks that clicks count on each of several cards that appear under a resting pointer."""
     vantle.start_watching()
     for number in range(3):
         tile = show_one(desktop, vantle, f"{number}.png")
@@ -285,7 +286,7 @@ def check_dragged_into_a_native_window(desktop, vantle):
 
 
 def check_dragged_into_a_web_page(desktop, vantle):
-    """Of Firefox, which fills the screen and speaks Wayland."""
+    """Drags a tile into Firefox, which fills the screen and uses Wayland."""
     with contextlib.closing(WebPage(desktop, start_firefox)) as page:
         vantle.start_watching()
         tile = show_one(desktop, vantle)
@@ -309,7 +310,7 @@ def check_dragged_into_a_native_file_manager(desktop, vantle):
 
 
 def opened_file_manager(desktop, folder):
-    """Returns where on the screen its window with that folder stands."""
+    """Opens that folder in a file manager, and returns the area of its window."""
 
     def picture():
         return wait_until_still(lambda: desktop.screen.screenshot(), "the screen")
@@ -321,8 +322,9 @@ def opened_file_manager(desktop, folder):
 
 
 def check_flies_back(desktop, vantle, *places, comes_back=False):
-    """Dropped there, where nobody takes it; and the next click counts. The pointer comes back where
-    the compositor may not tell the end of the drag."""
+    """Drops a tile at places where nothing takes it, and checks that the next click counts. With
+    `comes_back` the pointer returns first, for compositors that may not report the end of a
+    drag."""
     vantle.start_watching()
     tile = show_one(desktop, vantle)
     card = corner(desktop)

@@ -1,7 +1,7 @@
 """A Wayland desktop inside a private one: a compositor in a window that fills it, with XWayland.
 
-So the pointer and the keyboard of the private desktop are real ones for the compositor, and what
-its screen shows is what the compositor shows.
+For the compositor the pointer and the keyboard of the private desktop are real, and the private
+desktop's screen shows what the compositor draws.
 """
 
 import contextlib
@@ -18,13 +18,13 @@ _CHECKOUT = pathlib.Path(__file__).resolve().parents[2]
 
 
 class WaylandDesktop:
-    """Has what Program and WatchedFolder need of a desktop. It ends with the private desktop.
+    """Provides what Program and WatchedFolder need of a desktop. It ends with the private desktop.
 
-    A subclass names itself as XDG_CURRENT_DESKTOP does, and starts its compositor.
+    A subclass sets its name as in XDG_CURRENT_DESKTOP, and starts its compositor.
     """
 
     name = None
-    # Which display server its native windows speak to, as GTK calls it.
+    # GTK's name of the display server that native windows use.
     toolkit_backend = "wayland"
 
     def __init__(self, host):
@@ -44,7 +44,7 @@ class WaylandDesktop:
         (self.home / "Desktop").mkdir(parents=True)
         (self.folder / "runtime").mkdir(mode=0o700)
         (self.folder / "lent").mkdir()
-        # Its user has to get through.
+        # The desktop's user must be able to enter this folder.
         self._host.home.parent.chmod(0o755)
         self.give_to_user()
 
@@ -67,42 +67,44 @@ class WaylandDesktop:
         }
 
     def work_area(self):
-        """The part of the screen that is left to windows."""
+        """Returns the part of the screen that windows can use."""
         return Rectangle(0, 0, *self.screen.size)
 
     def as_user(self, *command):
-        """Compositors refuse to be root's, and only who started XWayland may use it."""
+        """Returns the command for an ordinary user: compositors refuse root, and only the user who
+        started XWayland may use it."""
         if os.geteuid() != 0:
             return list(command)
         self._require_reachable(command)
         return ["setpriv", f"--reuid={_NOBODY}", f"--regid={_NOBODY}", "--clear-groups", *command]
 
     def _require_reachable(self, command):
-        """Where only root gets, this would fail in another way, and elsewhere not at all."""
+        """Fails early: a program that only root can read would fail in a confusing way, and not on
+        every machine."""
         for word in command:
             if _CHECKOUT in pathlib.Path(word).parents:
                 raise DesktopFailure(f"{word} has to be lent to the desktop's user")
 
     def lend(self, path):
-        """A file of the checkout where its user reaches it: the checkout may lie where only root
-        gets."""
+        """Copies a file of the checkout to where the desktop's user can read it, because the
+        checkout may be in a folder that only root can enter."""
         if os.geteuid() != 0:
             return path
         return shutil.copy(path, self.folder / "lent")
 
     def lend_build(self, binary):
-        """The same for Vantle, with all that it starts and loads."""
+        """Does the same for Vantle, with everything that it starts and loads."""
         if os.geteuid() != 0:
             return binary
         return copy_program(binary, self.folder / "lent")
 
     def give_to_user(self):
-        """What was written so far is its user's. What is in the runtime folder is that already, and
-        a file system of theirs may stand there, which is closed to others."""
+        """Gives the files written so far to the desktop's user. Leaves out the runtime folder: its
+        files belong to that user already, and a file system in it may be closed to others."""
         if os.geteuid() != 0:
             return
         for path in (self.folder, *self.folder.iterdir(), *self.home.rglob("*")):
-            # What its programs write for a moment may have gone meanwhile.
+            # Temporary files of the user's programs may vanish meanwhile.
             with contextlib.suppress(FileNotFoundError):
                 shutil.chown(path, _NOBODY, _NOBODY)
 
@@ -111,11 +113,12 @@ class WaylandDesktop:
         return self.as_user("env", *variables, *map(str, command))
 
     def start(self, *command):
-        """Starts a program of its user's."""
+        """Starts a program as the desktop's user."""
         return self._host.start(*self._command(command))
 
     def run(self, *command, **options):
-        """Runs a program of its user's to its end and returns what subprocess.run returns."""
+        """Runs a program as the desktop's user to its end, and returns what subprocess.run
+        returns."""
         return self._host.run(*self._command(command), **options)
 
     def _start_bus(self):
@@ -124,24 +127,27 @@ class WaylandDesktop:
         wait_until((self.folder / "runtime/bus").exists, "the session bus listens")
 
     def _start_compositor(self):
-        """Starts it and sets in the environment by which names programs find it."""
+        """Starts the compositor, and sets the environment variables by which programs find it."""
         raise NotImplementedError
 
     def _wait_for_names(self, *names):
-        """Until a program of the compositor's has told these variables, which then are set."""
+        """Waits until a program that the compositor started has written these variables, and sets
+        them."""
         told = self.home / "told"
         texts = wait_until(lambda: told.exists() and told.read_text().split(),
                            f"the compositor of {self.name} starts")
         self.environment.update(zip(names, texts, strict=True))
 
     def go_to_next_workspace(self):
-        """By the keys of GNOME, which others are told to use as well."""
+        """Presses GNOME's keys for this, which the other compositors are configured to use as
+        well."""
         self.screen.keyboard.hold("Super_L")
         self.screen.keyboard.press("Page_Down")
         self.screen.keyboard.let_go("Super_L")
 
     def _wake_pointer(self):
-        """To Mutter, what opens under a pointer that has not moved yet stays hidden from it."""
+        """Moves the pointer, because Mutter does not see what opens under a pointer that has not
+        moved yet."""
         width, height = self.screen.size
         for x in (width // 2, width // 2 + 20):
             self.screen.pointer.move(x, height // 3)
@@ -155,7 +161,7 @@ class WaylandDesktop:
 
 
 class NativeWindow:
-    """A window of the desktop's own kind, which tells what reaches it. It fills the screen."""
+    """A native window of this desktop that records what reaches it. It fills the screen."""
 
     def __init__(self, desktop, *options):
         program = desktop.lend(pathlib.Path(__file__).with_name("native_window.py"))
@@ -170,7 +176,7 @@ class NativeWindow:
         try:
             wait_until(self.has_focus, "the native window has the keyboard")
         except WaitTimeout as error:
-            # Not what a test may expect to wait for in vain.
+            # A WaitTimeout could be mistaken for one that a test expects.
             raise DesktopFailure(str(error)) from error
 
     def _told(self):
@@ -187,11 +193,11 @@ class NativeWindow:
         return "".join(self._all("key"))
 
     def is_asked(self):
-        """Whether something is dragged over it."""
+        """Returns true if something has been dragged over it."""
         return bool(self._all("drag"))
 
     def hang(self):
-        """It answers nobody from now on."""
+        """Stops answering from now on."""
         self._process.send_signal(signal.SIGSTOP)
 
     def dropped(self):
@@ -201,6 +207,7 @@ class NativeWindow:
         return "blur" in self._told()
 
     def has_focus(self):
-        """Whether it has it now; to have lost it is to have been without it for a moment."""
+        """Returns true if it has the focus now; has_lost_focus() also counts a loss for a
+        moment."""
         changes = [line for line in self._told().splitlines() if line in ("focus", "blur")]
         return changes[-1:] == ["focus"]

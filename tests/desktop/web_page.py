@@ -1,4 +1,4 @@
-"""A browser with a page that tells what is dropped and pasted on it."""
+"""A browser with a page that reports what is dropped and pasted on it."""
 
 import base64
 import http.server
@@ -54,7 +54,7 @@ def start_chromium(desktop, address):
 def start_firefox(desktop, address):
     profile = desktop.home / "browser"
     profile.mkdir()
-    # It tells nobody that it is here, and asks nothing at its first start.
+    # The browser must not report itself, and must not ask questions at its first start.
     (profile / "user.js").write_text(
         'user_pref("datareporting.policy.dataSubmissionEnabled", false);\n'
         'user_pref("browser.aboutwelcome.enabled", false);\n'
@@ -74,7 +74,7 @@ class File:
 
 
 class WebPage:
-    """Open in a window of its own while it lives; `middle` is where to drop."""
+    """The page in its own browser window, until close(); `middle` is where to drop."""
 
     middle = (420, 420)
     _text = (120, 130)
@@ -109,7 +109,7 @@ class WebPage:
         return wait_until(lambda: self._told.get("/" + what), f"the page tells of {what}", limit=60)
 
     def focus_text(self):
-        """Clicks into the text field until it has the keyboard."""
+        """Clicks into the text field until it has the keyboard focus."""
 
         def is_focused():
             self._desktop.screen.pointer.click(*self._text)
