@@ -37,12 +37,13 @@ TYPED_TEST_P(AlertsContract, EachButtonHasItsNumber) {
     EXPECT_EQ(this->desk.runAndPress(this->alert, 2), 1002);
 }
 
-TYPED_TEST_P(AlertsContract, WithoutAnAnswerItIsTheLastOne) {
+TYPED_TEST_P(AlertsContract, ReturnsTheLastButtonWithoutAnAnswer) {
     EXPECT_EQ(this->desk.runUnanswered(this->alert), 1002);
     const Alert single{Alert::Style::informational, "Message", "", {"OK"}};
     EXPECT_EQ(this->desk.runUnanswered(single), 1000);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(AlertsContract, EachButtonHasItsNumber, WithoutAnAnswerItIsTheLastOne);
+REGISTER_TYPED_TEST_SUITE_P(AlertsContract, EachButtonHasItsNumber,
+                            ReturnsTheLastButtonWithoutAnAnswer);
 
 }  // namespace vantle

@@ -67,7 +67,7 @@ TEST_F(AutostartLoginItemTest, AnEntryThatTheUserSwitchedOffIsRefused) {
     }
 }
 
-TEST_F(AutostartLoginItemTest, WhatIsNoDesktopEntryIsNotRegistered) {
+TEST_F(AutostartLoginItemTest, AFileThatIsNoDesktopEntryIsNotRegistered) {
     for (const auto& text : {std::string(), std::string("\0\xff", 2), std::string(1 << 20, 'x')}) {
         writeText(entry, text);
         EXPECT_EQ(item.status(), Status::notRegistered);
@@ -102,7 +102,7 @@ TEST_F(AutostartLoginItemTest, AnEntryThatWouldStartNothingIsNotRegistered) {
     EXPECT_EQ(statusOf("\"/bin/sh\" -c true"), Status::enabled);
 }
 
-TEST_F(AutostartLoginItemTest, APathWithSignsOfItsOwnIsFoundAgain) {
+TEST_F(AutostartLoginItemTest, APathWithSpecialCharactersIsReadBack) {
     for (const char* name : {"a b", "100%", "$HOME`\"", "a\\b", "%%f"}) {
         const Url program = folder / name;
         writeText(program, "#!/bin/sh\n");
@@ -132,7 +132,7 @@ protected:
     AutostartLoginItem item{{user.url(), system.url()}, "org.example.Program", "/bin/sh"};
 };
 
-TEST_F(ShadowedLoginItemTest, TheSystemsEntryCountsWithoutOneOfTheUser) {
+TEST_F(ShadowedLoginItemTest, TheSystemsEntryCountsIfTheUserHasNone) {
     writeText(entryIn(system), entry);
     EXPECT_EQ(item.status(), Status::enabled);
 }
@@ -154,7 +154,7 @@ TEST_F(ShadowedLoginItemTest, UnregisteringHidesTheSystemsEntryAndLeavesIt) {
     EXPECT_EQ(item.status(), Status::enabled);
 }
 
-TEST_F(ShadowedLoginItemTest, WhereTheFolderCannotBeWrittenTheStateStaysTheRealOne) {
+TEST_F(ShadowedLoginItemTest, ReportsTheRealStateIfTheFolderCannotBeWritten) {
     writeText(entryIn(system), entry);
     std::filesystem::permissions(system.url().path(), std::filesystem::perms::group_exec,
                                  std::filesystem::perm_options::add);

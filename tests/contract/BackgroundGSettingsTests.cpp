@@ -46,7 +46,7 @@ protected:
     int changes = 0;
 };
 
-TEST_F(BackgroundGSettingsTest, AnswersWhatWasHeardAndAsksAnew) {
+TEST_F(BackgroundGSettingsTest, ReturnsTheKnownValueAndReadsItAgain) {
     EXPECT_EQ(text(), "unknown");
     EXPECT_TRUE(settings->isWritable(schema, key));
     time.settle();
@@ -60,7 +60,7 @@ TEST_F(BackgroundGSettingsTest, AnswersWhatWasHeardAndAsksAnew) {
     EXPECT_EQ(changes, 2) << "the same again is no change";
 }
 
-TEST_F(BackgroundGSettingsTest, TellsWhenAllIsHeardThatWasAskedFor) {
+TEST_F(BackgroundGSettingsTest, ReportsWhenAllPendingValuesAreRead) {
     std::string heard = "not yet";
     (void)text();
     settings->whenHeard([&] { heard = text(); });
@@ -69,7 +69,7 @@ TEST_F(BackgroundGSettingsTest, TellsWhenAllIsHeardThatWasAskedFor) {
     EXPECT_EQ(heard, "/a");
 }
 
-TEST_F(BackgroundGSettingsTest, WhatIsSetCountsAtOnceAndIsNotTakenBackByAnOlderAnswer) {
+TEST_F(BackgroundGSettingsTest, ASetValueCountsAtOnceAndAnOlderAnswerDoesNotReplaceIt) {
     (void)text();
     time.settle();
     (void)text();  // asked for before it is set, answered afterwards
@@ -85,7 +85,7 @@ TEST_F(BackgroundGSettingsTest, WhatIsSetCountsAtOnceAndIsNotTakenBackByAnOlderA
     EXPECT_EQ(desktop->texts[name], "");
 }
 
-TEST_F(BackgroundGSettingsTest, WhatCouldNotBeSetIsLoggedAndHeardAgain) {
+TEST_F(BackgroundGSettingsTest, AFailureToSetIsLoggedAndTheValueIsReadAgain) {
     (void)text();
     time.settle();
     desktop->locked = true;
@@ -98,7 +98,7 @@ TEST_F(BackgroundGSettingsTest, WhatCouldNotBeSetIsLoggedAndHeardAgain) {
     EXPECT_TRUE(settings->setText(schema, key, "/c").has_value()) << "that is known by now";
 }
 
-TEST_F(BackgroundGSettingsTest, AnUnknownKeyFailsOnceThatIsHeard) {
+TEST_F(BackgroundGSettingsTest, AnUnknownKeyFailsOnceItIsKnownToBeUnknown) {
     desktop->texts.clear();
     EXPECT_EQ(text(), "unknown");
     time.settle();
@@ -108,7 +108,7 @@ TEST_F(BackgroundGSettingsTest, AnUnknownKeyFailsOnceThatIsHeard) {
     EXPECT_EQ(changes, 1);
 }
 
-TEST_F(BackgroundGSettingsTest, AnAnswerAfterItsEndIsNobodys) {
+TEST_F(BackgroundGSettingsTest, IgnoresAnAnswerAfterItsEnd) {
     (void)text();
     (void)settings->setText(schema, key, "/c");
     settings.reset();

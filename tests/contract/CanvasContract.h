@@ -53,7 +53,7 @@ protected:
 
 TYPED_TEST_SUITE_P(CanvasContract);
 
-TYPED_TEST_P(CanvasContract, APictureHasAPixelForAPointTimesTheScale) {
+TYPED_TEST_P(CanvasContract, APictureHasAsManyPixelsAsPointsTimesTheScale) {
     for (const double scale : {1.0, 1.5, 2.0}) {
         const Image image = this->drawn(this->gradient, scale);
         EXPECT_EQ(image.pixelsWide, 400 * scale);
@@ -61,7 +61,7 @@ TYPED_TEST_P(CanvasContract, APictureHasAPixelForAPointTimesTheScale) {
     }
 }
 
-TYPED_TEST_P(CanvasContract, APictureSaysHowLargeItIsInPoints) {
+TYPED_TEST_P(CanvasContract, APictureStoresItsSizeInPoints) {
     for (const double scale : {1.0, 1.5, 2.0}) {
         const Image image = this->drawn(this->gradient, scale);
         EXPECT_NEAR(image.size.width, 400, 0.3);
@@ -80,7 +80,7 @@ TYPED_TEST_P(CanvasContract, AGradientRunsFromCornerToCorner) {
     EXPECT_GT(this->colorAt(image, 399, 0)[2], this->colorAt(image, 0, 199)[2]);
 }
 
-TYPED_TEST_P(CanvasContract, ATextStandsInTheMiddle) {
+TYPED_TEST_P(CanvasContract, ATextIsCentred) {
     Drawing drawing = this->gradient;
     drawing.text = CenteredText{"HHH", 60};
     const Rect letters = this->whitePart(this->drawn(drawing));
@@ -91,8 +91,8 @@ TYPED_TEST_P(CanvasContract, ATextStandsInTheMiddle) {
     EXPECT_NEAR(dense.size.width, letters.size.width, 0.02);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(CanvasContract, APictureHasAPixelForAPointTimesTheScale,
-                            APictureSaysHowLargeItIsInPoints, AGradientRunsFromCornerToCorner,
-                            ATextStandsInTheMiddle);
+REGISTER_TYPED_TEST_SUITE_P(CanvasContract, APictureHasAsManyPixelsAsPointsTimesTheScale,
+                            APictureStoresItsSizeInPoints, AGradientRunsFromCornerToCorner,
+                            ATextIsCentred);
 
 }  // namespace vantle

@@ -22,7 +22,7 @@ struct DecodedMedia {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(ConfinedMediaLoader, MediaLoaderContract, DecodedMedia);
 
-TEST(ConfinedMediaLoaderTest, AFileThatIsHeldStaysWhatItWasAndIsOpenedLate) {
+TEST(ConfinedMediaLoaderTest, AHeldFileKeepsItsContentsAndIsOpenedLate) {
     const TemporaryFolder folder;
     const Url copy = folder / "a.png";
     std::filesystem::copy_file(file("rgb.png").path(), copy.path());

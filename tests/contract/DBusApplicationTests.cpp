@@ -153,7 +153,7 @@ std::string answerOf(const Session& session, const QStringList& request) {
     return answer;
 }
 
-TEST_P(CopiesMeet, ALaterCopyAsksTheFirstAndIsAnswered) {
+TEST_P(CopiesMeet, ALaterCopyGetsAnAnswerFromTheFirst) {
     const auto first = session.startCopy();
     ASSERT_EQ(first->line(), "first");
     EXPECT_EQ(answerOf(session, {QStringLiteral("pause")}), "done pause");
@@ -165,13 +165,13 @@ TEST_P(CopiesMeet, ALaterCopyAsksTheFirstAndIsAnswered) {
     EXPECT_EQ(answerOf(session, {QStringLiteral("forbidden")}), "refused: it is forbidden");
 }
 
-TEST_P(CopiesMeet, WithoutACopyThatRunsThereIsNobodyToAsk) {
+TEST_P(CopiesMeet, ReportsThatNoOtherCopyRuns) {
     EXPECT_EQ(answerOf(session, {QStringLiteral("pause")}), "refused: Vantle is not running");
     // Asking did not make the asking copy one that others find.
     EXPECT_EQ(session.startCopy()->line(), "first");
 }
 
-TEST_P(CopiesMeet, ACopyThatHangsDoesNotHangWhoAsks) {
+TEST_P(CopiesMeet, ACopyThatHangsDoesNotBlockARequest) {
     const auto hanging = session.startCopy();
     ASSERT_EQ(hanging->line(), "first");
     hanging->send(SIGSTOP);
@@ -179,7 +179,7 @@ TEST_P(CopiesMeet, ACopyThatHangsDoesNotHangWhoAsks) {
               "refused: the copy that runs does not answer");
 }
 
-TEST_P(CopiesMeet, AKilledCopyStandsInNobodysWay) {
+TEST_P(CopiesMeet, AKilledCopyDoesNotPreventTheNextStart) {
     const auto killed = session.startCopy();
     ASSERT_EQ(killed->line(), "first");
     killed->send(SIGKILL);
@@ -191,7 +191,7 @@ TEST_P(CopiesMeet, AKilledCopyStandsInNobodysWay) {
     EXPECT_EQ(next->line(), "reopened without windows");
 }
 
-TEST_P(CopiesMeet, ACopyThatEndedStandsInNobodysWay) {
+TEST_P(CopiesMeet, ACopyThatEndedDoesNotPreventTheNextStart) {
     const auto ended = session.startCopy();
     ASSERT_EQ(ended->line(), "first");
     ended->closeInput();
@@ -200,7 +200,7 @@ TEST_P(CopiesMeet, ACopyThatEndedStandsInNobodysWay) {
     EXPECT_EQ(session.startCopy()->line(), "first");
 }
 
-TEST_P(CopiesMeet, ACopyThatHangsDoesNotHangTheNext) {
+TEST_P(CopiesMeet, ACopyThatHangsDoesNotBlockTheNextStart) {
     const auto hanging = session.startCopy();
     ASSERT_EQ(hanging->line(), "first");
     hanging->send(SIGSTOP);
@@ -209,7 +209,7 @@ TEST_P(CopiesMeet, ACopyThatHangsDoesNotHangTheNext) {
     EXPECT_EQ(next->result(), 0);
 }
 
-TEST(DBusApplicationTest, WithoutBusAndRuntimeFolderACopyStartsAndSaysSo) {
+TEST(DBusApplicationTest, StartsWithAMessageIfThereIsNoBusAndNoRuntimeFolder) {
     Session session;
     session.takeRuntimeFolder();
     const auto copy = session.startCopy();
@@ -219,7 +219,7 @@ TEST(DBusApplicationTest, WithoutBusAndRuntimeFolderACopyStartsAndSaysSo) {
                 testing::HasSubstr("Vantle: no session bus; a second start cannot be detected\n"));
 }
 
-TEST(DBusApplicationTest, ASignalEndsItInOrder) {
+TEST(DBusApplicationTest, ASignalEndsItCleanly) {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         const Session session;
         const auto copy = session.startCopy();
@@ -291,7 +291,7 @@ TEST(DBusApplicationTest, AClickLongAfterALaunchWithoutOneReopensIt) {
     EXPECT_EQ(copy->line(), "reopened without windows");
 }
 
-TEST(DBusApplicationTest, WhatTheBusStartedInVainLeavesTheCallToTheBus) {
+TEST(DBusApplicationTest, ACopyThatTheBusStartedInVainLeavesTheCallToTheBus) {
     Session session;
     session.startBus();
     const auto first = session.startCopy();
@@ -303,7 +303,7 @@ TEST(DBusApplicationTest, WhatTheBusStartedInVainLeavesTheCallToTheBus) {
     EXPECT_FALSE(first->saysSomething(timeout));
 }
 
-TEST(DBusApplicationTest, ALauncherIsAnswered) {
+TEST(DBusApplicationTest, ALauncherGetsAnAnswer) {
     Session session;
     session.startBus();
     const auto copy = session.startCopy();
@@ -323,7 +323,7 @@ TEST(DBusApplicationTest, ALauncherIsAnswered) {
     }
 }
 
-TEST(DBusApplicationTest, ALauncherIsToldWhatCannotBeDone) {
+TEST(DBusApplicationTest, ALauncherGetsTheReasonForAFailure) {
     Session session;
     session.startBus();
     const auto copy = session.startCopy();

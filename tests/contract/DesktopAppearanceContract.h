@@ -20,7 +20,7 @@ protected:
 
 TYPED_TEST_SUITE_P(DesktopAppearanceContract);
 
-TYPED_TEST_P(DesktopAppearanceContract, TellsWhatIsSetAtTheStart) {
+TYPED_TEST_P(DesktopAppearanceContract, ReportsTheSettingsOfTheStart) {
     this->desk.choose(ColorScheme::dark);
     this->desk.connect();
     EXPECT_EQ(this->desk.look(), DesktopLook{}) << "it does not wait";
@@ -36,6 +36,7 @@ TYPED_TEST_P(DesktopAppearanceContract, FollowsEachChange) {
     }
 }
 
-REGISTER_TYPED_TEST_SUITE_P(DesktopAppearanceContract, TellsWhatIsSetAtTheStart, FollowsEachChange);
+REGISTER_TYPED_TEST_SUITE_P(DesktopAppearanceContract, ReportsTheSettingsOfTheStart,
+                            FollowsEachChange);
 
 }  // namespace vantle

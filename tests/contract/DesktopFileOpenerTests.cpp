@@ -72,21 +72,21 @@ protected:
     fakes::CapturedLog log;
 };
 
-TEST_F(DesktopFileOpenerTest, WithoutAFileManagerTheFolderIsOpened) {
+TEST_F(DesktopFileOpenerTest, OpensTheFolderIfThereIsNoFileManager) {
     const PrivateBus empty;
     DesktopFileOpener opener(desktop.launcher, DesktopFileOpener::Sandbox::none, empty.connect());
     opener.reveal({file});
     EXPECT_THAT(desktop.opened(1), ElementsAre(Url::file("/folder")));
 }
 
-TEST_F(DesktopFileOpenerTest, WithoutABusTheFolderIsOpened) {
+TEST_F(DesktopFileOpenerTest, OpensTheFolderIfThereIsNoBus) {
     DesktopFileOpener opener(desktop.launcher, DesktopFileOpener::Sandbox::none,
                              QDBusConnection(QStringLiteral("none")));
     opener.reveal({file});
     EXPECT_THAT(desktop.opened(1), ElementsAre(Url::file("/folder")));
 }
 
-TEST_F(DesktopFileOpenerTest, WithoutAnOpenerAnotherOneIsTaken) {
+TEST_F(DesktopFileOpenerTest, UsesAnotherOpenerIfTheFirstIsMissing) {
     QFile::remove(desktop.programs.filePath(QStringLiteral("xdg-open")));
     desktop.install("gio");
     desktop.opener.open(file);
@@ -95,7 +95,7 @@ TEST_F(DesktopFileOpenerTest, WithoutAnOpenerAnotherOneIsTaken) {
     EXPECT_THAT(desktop.launcher.launched[0].arguments, ElementsAre("open", file.path()));
 }
 
-TEST_F(DesktopFileOpenerTest, WithoutAnyOpenerThatIsLogged) {
+TEST_F(DesktopFileOpenerTest, LogsThatThereIsNoOpener) {
     QFile::remove(desktop.programs.filePath(QStringLiteral("xdg-open")));
     desktop.opener.open(file);
     EXPECT_THAT(log.lines(), ElementsAre("Vantle: cannot open /folder/50% of it.png: "
@@ -108,7 +108,7 @@ TEST_F(DesktopFileOpenerTest, AProgramThatCannotBeStartedIsLogged) {
     EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("Permission denied")));
 }
 
-TEST_F(DesktopFileOpenerTest, ShowingNothingAsksNobody) {
+TEST_F(DesktopFileOpenerTest, ShowingNoFilesCallsNothing) {
     desktop.opener.reveal({});
     desktop.opener.reveal({file});
     EXPECT_THAT(desktop.revealed(1), ElementsAre(file));
@@ -129,7 +129,7 @@ protected:
                              desktop.bus.connect()};
 };
 
-TEST_F(SandboxedFileOpenerTest, AsksThePortalWithTheFileItself) {
+TEST_F(SandboxedFileOpenerTest, PassesTheFileItselfToThePortal) {
     opener.open(shot);
     EXPECT_TRUE(runUntil([this] { return !portal.opened.isEmpty(); }));
     EXPECT_THAT(portal.opened, ElementsAre(QString::fromStdString(shot.path())));
@@ -138,7 +138,7 @@ TEST_F(SandboxedFileOpenerTest, AsksThePortalWithTheFileItself) {
     EXPECT_THAT(desktop.launcher.launched, IsEmpty());
 }
 
-TEST_F(SandboxedFileOpenerTest, AsksThePortalForAPage) {
+TEST_F(SandboxedFileOpenerTest, OpensAPageThroughThePortal) {
     opener.openPage("https://vantle.example");
     EXPECT_TRUE(runUntil([this] { return !portal.openedPages.isEmpty(); }));
     EXPECT_THAT(portal.openedPages, ElementsAre(QStringLiteral("https://vantle.example")));
@@ -151,7 +151,7 @@ TEST_F(SandboxedFileOpenerTest, ARefusalIsLogged) {
     EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("not allowed")));
 }
 
-TEST_F(SandboxedFileOpenerTest, AFileThatHasGoneIsLogged) {
+TEST_F(SandboxedFileOpenerTest, AMissingFileIsLogged) {
     QFile::remove(QString::fromStdString(shot.path()));
     opener.open(shot);
     EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("No such file")));

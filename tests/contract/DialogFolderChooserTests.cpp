@@ -69,7 +69,7 @@ struct DialogDesk {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(DialogFolderChooser, FolderChooserContract, DialogDesk);
 
-TEST(DialogFolderChooserTest, TheDialogIsToldWhatToAskFor) {
+TEST(DialogFolderChooserTest, TheDialogGetsTheRequest) {
     const ScriptedProgram program;
     DialogFolderChooser chooser(program.path());
     chooser.choose(request, [](const auto&) {});
@@ -78,7 +78,7 @@ TEST(DialogFolderChooserTest, TheDialogIsToldWhatToAskFor) {
               QStringLiteral("/home/user/My Shots\nUse This Folder\nChoose it.\n"));
 }
 
-TEST(DialogFolderChooserTest, ADialogThatCannotBeShownIsLoggedAndGivesNothing) {
+TEST(DialogFolderChooserTest, ADialogThatCannotBeShownIsLoggedAndReturnsNothing) {
     fakes::CapturedLog log;
     DialogFolderChooser chooser(QStringLiteral("/nowhere/dialog"));
     FolderAnswer answer;

@@ -94,7 +94,7 @@ protected:
 
 TYPED_TEST_SUITE_P(DirectoryEventsContract);
 
-TYPED_TEST_P(DirectoryEventsContract, ComingGoingAndRenamingAreChangesOfTheContents) {
+TYPED_TEST_P(DirectoryEventsContract, CreatingDeletingAndRenamingFilesChangesTheContents) {
     const auto source = this->watch(this->disk.folder, this->record);
     ASSERT_NE(source, nullptr);
     const std::vector<std::function<void()>> changes{
@@ -111,7 +111,7 @@ TYPED_TEST_P(DirectoryEventsContract, ComingGoingAndRenamingAreChangesOfTheConte
     }
 }
 
-TYPED_TEST_P(DirectoryEventsContract, MovingInAndOutAreChangesOfTheContents) {
+TYPED_TEST_P(DirectoryEventsContract, MovingFilesInAndOutChangesTheContents) {
     const auto source = this->watch(this->disk.folder, this->record);
     ASSERT_NE(source, nullptr);
     const Url outside = this->disk.place.appending("outside.png");
@@ -124,7 +124,7 @@ TYPED_TEST_P(DirectoryEventsContract, MovingInAndOutAreChangesOfTheContents) {
     EXPECT_TRUE(this->sees(this->record));
 }
 
-TYPED_TEST_P(DirectoryEventsContract, NothingIsToldBeforeResumeAndNothingIsMissedAfterIt) {
+TYPED_TEST_P(DirectoryEventsContract, ReportsNothingBeforeResumeAndMissesNothingAfterIt) {
     const auto source = this->open(this->disk.folder, this->record);
     ASSERT_NE(source, nullptr);
     this->disk.save(this->file("a.png"));
@@ -134,7 +134,7 @@ TYPED_TEST_P(DirectoryEventsContract, NothingIsToldBeforeResumeAndNothingIsMisse
     EXPECT_TRUE(this->sees(this->record));
 }
 
-TYPED_TEST_P(DirectoryEventsContract, NothingIsToldAfterCancel) {
+TYPED_TEST_P(DirectoryEventsContract, ReportsNothingAfterCancel) {
     const auto source = this->watch(this->disk.folder, this->record);
     ASSERT_NE(source, nullptr);
     source->cancel();
@@ -144,7 +144,7 @@ TYPED_TEST_P(DirectoryEventsContract, NothingIsToldAfterCancel) {
     EXPECT_EQ(this->record.calls(), 0);
 }
 
-TYPED_TEST_P(DirectoryEventsContract, NothingIsToldAfterTheSourceIsGone) {
+TYPED_TEST_P(DirectoryEventsContract, ReportsNothingAfterTheSourceIsGone) {
     auto source = this->watch(this->disk.folder, this->record);
     ASSERT_NE(source, nullptr);
     source.reset();
@@ -153,7 +153,7 @@ TYPED_TEST_P(DirectoryEventsContract, NothingIsToldAfterTheSourceIsGone) {
     EXPECT_EQ(this->record.calls(), 0);
 }
 
-TYPED_TEST_P(DirectoryEventsContract, SourcesAreTheirOwn) {
+TYPED_TEST_P(DirectoryEventsContract, SourcesAreIndependent) {
     const auto first = this->watch(this->disk.folder, this->record);
     const auto second = this->watch(this->disk.folder, this->other);
     ASSERT_NE(first, nullptr);
@@ -165,7 +165,7 @@ TYPED_TEST_P(DirectoryEventsContract, SourcesAreTheirOwn) {
     EXPECT_EQ(this->record.calls(), 0);
 }
 
-TYPED_TEST_P(DirectoryEventsContract, WhatHappensInSubfoldersIsNotTold) {
+TYPED_TEST_P(DirectoryEventsContract, ChangesInSubfoldersAreNotReported) {
     const Url inner = this->file("inner");
     (void)this->disk.files.createDirectory(inner);
     const auto source = this->watch(this->disk.folder, this->record);
@@ -175,7 +175,7 @@ TYPED_TEST_P(DirectoryEventsContract, WhatHappensInSubfoldersIsNotTold) {
     EXPECT_EQ(this->record.calls(), 0);
 }
 
-TYPED_TEST_P(DirectoryEventsContract, ADeletedFolderIsLostOnceAlsoWhenItComesBack) {
+TYPED_TEST_P(DirectoryEventsContract, ADeletedFolderIsLostOnceEvenIfItComesBack) {
     const auto source = this->watch(this->disk.folder, this->record);
     ASSERT_NE(source, nullptr);
     this->disk.save(this->file("a.png"));
@@ -203,18 +203,19 @@ TYPED_TEST_P(DirectoryEventsContract, AFolderThatIsMovedAwayIsLostOnce) {
     EXPECT_EQ(this->record.losses(), 1);
 }
 
-TYPED_TEST_P(DirectoryEventsContract, OnlyAFolderThatIsThereCanBeOpened) {
+TYPED_TEST_P(DirectoryEventsContract, OnlyAnExistingFolderCanBeOpened) {
     this->disk.save(this->file("a.png"));
     EXPECT_EQ(this->failureOfOpening(this->file("nothing")), ENOENT);
     EXPECT_EQ(this->failureOfOpening(this->file("a.png")), ENOTDIR);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(DirectoryEventsContract, ComingGoingAndRenamingAreChangesOfTheContents,
-                            MovingInAndOutAreChangesOfTheContents,
-                            NothingIsToldBeforeResumeAndNothingIsMissedAfterIt,
-                            NothingIsToldAfterCancel, NothingIsToldAfterTheSourceIsGone,
-                            SourcesAreTheirOwn, WhatHappensInSubfoldersIsNotTold,
-                            ADeletedFolderIsLostOnceAlsoWhenItComesBack,
-                            AFolderThatIsMovedAwayIsLostOnce, OnlyAFolderThatIsThereCanBeOpened);
+REGISTER_TYPED_TEST_SUITE_P(DirectoryEventsContract,
+                            CreatingDeletingAndRenamingFilesChangesTheContents,
+                            MovingFilesInAndOutChangesTheContents,
+                            ReportsNothingBeforeResumeAndMissesNothingAfterIt,
+                            ReportsNothingAfterCancel, ReportsNothingAfterTheSourceIsGone,
+                            SourcesAreIndependent, ChangesInSubfoldersAreNotReported,
+                            ADeletedFolderIsLostOnceEvenIfItComesBack,
+                            AFolderThatIsMovedAwayIsLostOnce, OnlyAnExistingFolderCanBeOpened);
 
 }  // namespace vantle

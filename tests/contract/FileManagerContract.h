@@ -35,7 +35,7 @@ protected:
 
 TYPED_TEST_SUITE_P(FileManagerContract);
 
-TYPED_TEST_P(FileManagerContract, TellsFilesFromFoldersFromNothing) {
+TYPED_TEST_P(FileManagerContract, DistinguishesFilesFoldersAndMissingOnes) {
     this->disk.save(this->file("a.png"));
     EXPECT_EQ(this->disk.files.existence(this->file("a.png")), FileManager::Existence::file);
     EXPECT_EQ(this->disk.files.existence(this->disk.folder), FileManager::Existence::directory);
@@ -79,14 +79,14 @@ TYPED_TEST_P(FileManagerContract, AFolderIsNoRegularFile) {
     EXPECT_EQ(values.value().isRegularFile, false);
 }
 
-TYPED_TEST_P(FileManagerContract, WhatHasGoneCannotBeDescribed) {
+TYPED_TEST_P(FileManagerContract, AMissingFileCannotBeDescribed) {
     const auto values = this->disk.files.resourceValues(this->file("nothing"));
     ASSERT_FALSE(values);
     EXPECT_EQ(values.failure().code, ENOENT);
     EXPECT_EQ(this->disk.files.fileSize(this->file("nothing")), std::nullopt);
 }
 
-TYPED_TEST_P(FileManagerContract, TellsTheSizeOfAFile) {
+TYPED_TEST_P(FileManagerContract, ReturnsTheSizeOfAFile) {
     this->disk.save(this->file("a.png"), 0);
     EXPECT_EQ(this->disk.files.fileSize(this->file("a.png")), 0);
     this->disk.save(this->file("a.png"), 70'000);
@@ -100,21 +100,21 @@ TYPED_TEST_P(FileManagerContract, MakesAFolderWithItsParents) {
     EXPECT_EQ(this->disk.files.createDirectory(deep), std::nullopt);
 }
 
-TYPED_TEST_P(FileManagerContract, MakesNoFolderWhereAFileStands) {
+TYPED_TEST_P(FileManagerContract, MakesNoFolderInPlaceOfAFile) {
     this->disk.save(this->file("a.png"));
     const auto failure = this->disk.files.createDirectory(this->file("a.png"));
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(failure->code, EEXIST);
 }
 
-TYPED_TEST_P(FileManagerContract, MakesNoFolderWhereItMayNot) {
+TYPED_TEST_P(FileManagerContract, MakesNoFolderWithoutPermission) {
     [[maybe_unused]] const auto locked = this->disk.lock(this->disk.folder);
     const auto failure = this->disk.files.createDirectory(this->file("a").appending("b"));
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(failure->code, EACCES);
 }
 
-TYPED_TEST_P(FileManagerContract, WritesAFileInThePlaceOfAnother) {
+TYPED_TEST_P(FileManagerContract, ReplacesAFile) {
     EXPECT_EQ(this->disk.files.write("four", this->file("a.png")), std::nullopt);
     EXPECT_EQ(this->disk.files.fileSize(this->file("a.png")), 4);
     EXPECT_EQ(this->disk.files.write("longer", this->file("a.png")), std::nullopt);
@@ -122,7 +122,7 @@ TYPED_TEST_P(FileManagerContract, WritesAFileInThePlaceOfAnother) {
     EXPECT_THAT(this->names(), testing::ElementsAre("a.png"));
 }
 
-TYPED_TEST_P(FileManagerContract, WritesNothingWhereItMayNot) {
+TYPED_TEST_P(FileManagerContract, WritesNoFileWithoutPermission) {
     [[maybe_unused]] const auto locked = this->disk.lock(this->disk.folder);
     const auto failure = this->disk.files.write("four", this->file("a.png"));
     ASSERT_TRUE(failure.has_value());
@@ -130,12 +130,12 @@ TYPED_TEST_P(FileManagerContract, WritesNothingWhereItMayNot) {
     EXPECT_EQ(this->disk.files.existence(this->file("a.png")), FileManager::Existence::none);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(FileManagerContract, TellsFilesFromFoldersFromNothing,
+REGISTER_TYPED_TEST_SUITE_P(FileManagerContract, DistinguishesFilesFoldersAndMissingOnes,
                             ListsAllNamesButHiddenOnes, ListingFailsWithTheReason,
                             DescribesAFileWithoutOpeningIt, AFolderIsNoRegularFile,
-                            WhatHasGoneCannotBeDescribed, TellsTheSizeOfAFile,
-                            MakesAFolderWithItsParents, MakesNoFolderWhereAFileStands,
-                            MakesNoFolderWhereItMayNot, WritesAFileInThePlaceOfAnother,
-                            WritesNothingWhereItMayNot);
+                            AMissingFileCannotBeDescribed, ReturnsTheSizeOfAFile,
+                            MakesAFolderWithItsParents, MakesNoFolderInPlaceOfAFile,
+                            MakesNoFolderWithoutPermission, ReplacesAFile,
+                            WritesNoFileWithoutPermission);
 
 }  // namespace vantle

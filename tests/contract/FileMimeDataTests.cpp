@@ -29,7 +29,7 @@ protected:
     const Url other = Url::file("/folder/other.mov");
 };
 
-TEST_F(FileMimeDataTest, APictureThatBreaksOffIsNone) {
+TEST_F(FileMimeDataTest, AnIncompletePictureIsNotOffered) {
     const Url file = desktop.folder / "cut";
     desktop.media->addImage(file, Size{40, 30}, Size{40, 30});
     for (const char* format : {"PNG", "JPG"}) {
@@ -46,7 +46,7 @@ TEST_F(FileMimeDataTest, APictureThatBreaksOffIsNone) {
     }
 }
 
-TEST_F(FileMimeDataTest, FilesAreOfferedAsEachFileManagerTakesThem) {
+TEST_F(FileMimeDataTest, FilesAreOfferedInTheTypesOfEachFileManager) {
     const FileMimeData data({odd, other}, nullptr, FileMimeData::Use::clipboard);
     EXPECT_THAT(data.formats(), ElementsAre("text/uri-list", "x-special/gnome-copied-files",
                                             "x-special/mate-copied-files",
@@ -60,7 +60,7 @@ TEST_F(FileMimeDataTest, FilesAreOfferedAsEachFileManagerTakesThem) {
     EXPECT_EQ(get(data, "text/plain"), "/folder/50% \xff of\nit.png\n/folder/other.mov");
 }
 
-TEST_F(FileMimeDataTest, TheToolkitFindsTheSameFilesInIt) {
+TEST_F(FileMimeDataTest, TheToolkitReadsTheSameFiles) {
     for (const auto use : {FileMimeData::Use::clipboard, FileMimeData::Use::drag}) {
         const FileMimeData data({odd, other}, nullptr, use);
         std::vector<std::string> addresses;
@@ -69,12 +69,12 @@ TEST_F(FileMimeDataTest, TheToolkitFindsTheSameFilesInIt) {
     }
 }
 
-TEST_F(FileMimeDataTest, TheToolkitFindsThePathsAsTextInIt) {
+TEST_F(FileMimeDataTest, TheToolkitReadsThePathsAsText) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::clipboard);
     EXPECT_EQ(data.text(), QStringLiteral("/folder/other.mov"));
 }
 
-TEST_F(FileMimeDataTest, NobodyHasReadItBeforeHeGotSomething) {
+TEST_F(FileMimeDataTest, OnlyReadingContentsCountsAsRead) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
     const auto wasRead = data.marks().wasRead;
     (void)data.formats();
@@ -85,7 +85,7 @@ TEST_F(FileMimeDataTest, NobodyHasReadItBeforeHeGotSomething) {
     EXPECT_TRUE(*wasRead);
 }
 
-TEST_F(FileMimeDataTest, WhoAsksForTheListOfAddressesHasReadIt) {
+TEST_F(FileMimeDataTest, ReadingTheListOfAddressesCountsAsRead) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
     const auto wasRead = data.marks().wasRead;
     (void)data.urls();
@@ -118,7 +118,7 @@ TEST_F(FileMimeDataTest, APictureIsOfferedInItsOwnTypeByItsOwnBytes) {
     EXPECT_THAT(desktop.media->drawnSizes, IsEmpty());
 }
 
-TEST_F(FileMimeDataTest, OtherTypesAreMadeWhenSomebodyAsks) {
+TEST_F(FileMimeDataTest, OtherTypesAreMadeOnRequest) {
     const Url file = desktop.saveImage("shot.jpg", "JPEG");
     const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
     EXPECT_THAT(data.formats().mid(0, 4),
@@ -130,14 +130,14 @@ TEST_F(FileMimeDataTest, OtherTypesAreMadeWhenSomebodyAsks) {
     EXPECT_THAT(desktop.media->drawnSizes, ElementsAre(Size{40, 30}, Size{40, 30}));
 }
 
-TEST_F(FileMimeDataTest, WhatLetsThroughStandsOnWhiteWhereATypeCannotSayIt) {
+TEST_F(FileMimeDataTest, TransparencyBecomesWhiteInTypesWithoutIt) {
     const Url file = desktop.saveImage("shot.png");
     const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
     for (const auto* type : {"image/jpeg", "image/bmp"})
         EXPECT_EQ(QImage::fromData(get(data, type)).pixelColor(5, 5), QColor(Qt::white)) << type;
 }
 
-TEST_F(FileMimeDataTest, ThePictureLastsWhenItsFileIsMoved) {
+TEST_F(FileMimeDataTest, ThePictureRemainsWhenItsFileIsMoved) {
     const Url file = desktop.saveImage("shot.png");
     const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
     QFile::remove(QString::fromStdString(file.path()));
@@ -171,7 +171,7 @@ TEST_F(FileMimeDataTest, APictureWithoutPixelsIsDrawnForADenseScreen) {
     EXPECT_EQ(QImage::fromData(get(data, "image/png")).size(), QSize(100, 140));
 }
 
-TEST_F(FileMimeDataTest, ADamagedPictureGivesNothing) {
+TEST_F(FileMimeDataTest, ADamagedPictureHasNoContents) {
     const Url file = desktop.folder / "shot.tiff";
     saveBytes(file, "II*");
     desktop.media->addDamagedImage(file, Size{40, 30}, Size{40, 30});
@@ -181,7 +181,7 @@ TEST_F(FileMimeDataTest, ADamagedPictureGivesNothing) {
     EXPECT_FALSE(*wasRead);
 }
 
-TEST_F(FileMimeDataTest, AFileOfAnotherKindHoldsNoPicture) {
+TEST_F(FileMimeDataTest, AFileOfAnotherKindHasNoPicture) {
     const Url file = desktop.folder / "notes.png";
     saveBytes(file, "no picture");
     EXPECT_EQ(open(file), nullptr);

@@ -68,7 +68,7 @@ TEST_F(FileTransferPortalTest, ManyFilesArePassedInSeveralMessages) {
     EXPECT_EQ(portal->maximumMessage, 16);
 }
 
-TEST_F(FileTransferPortalTest, WhereThereIsNoneNothingIsOffered) {
+TEST_F(FileTransferPortalTest, OffersNothingWithoutAPortal) {
     const PrivateBus empty;
     EXPECT_FALSE(FileTransferPortal(empty.connect()).isThere());
     EXPECT_FALSE(FileTransferPortal(QDBusConnection(QStringLiteral("none"))).isThere());

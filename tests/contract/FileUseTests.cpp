@@ -35,17 +35,17 @@ protected:
     std::optional<FileUse> use;
 };
 
-TEST_F(FileUseTest, WhoReadsAFileUsesIt) {
+TEST_F(FileUseTest, ReadingAFileUsesIt) {
     EXPECT_EQ(readText(second), "contents");
     EXPECT_EQ(wait(1min), true);
 }
 
-TEST_F(FileUseTest, WhoMovesAFileUsesIt) {
+TEST_F(FileUseTest, MovingAFileUsesIt) {
     std::filesystem::rename(first.path(), (folder / "moved.png").path());
     EXPECT_EQ(wait(1min), true);
 }
 
-TEST_F(FileUseTest, WhoLooksAtAFileOrLinksToItDoesNot) {
+TEST_F(FileUseTest, InspectingOrLinkingAFileDoesNotUseIt) {
     EXPECT_EQ(std::filesystem::file_size(first.path()), 8U);
     std::filesystem::create_symlink(first.path(), (folder / "link.png").path());
     EXPECT_EQ(wait(50ms), false);

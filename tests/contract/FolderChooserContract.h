@@ -56,7 +56,7 @@ protected:
 
 TYPED_TEST_SUITE_P(FolderChooserContract);
 
-TYPED_TEST_P(FolderChooserContract, WhatIsChosenComesBack) {
+TYPED_TEST_P(FolderChooserContract, ReturnsTheChosenFolder) {
     FolderAnswer answer;
     this->open(answer);
     const Url folder = Url::file("/data/Größe 1\n%20");
@@ -65,7 +65,7 @@ TYPED_TEST_P(FolderChooserContract, WhatIsChosenComesBack) {
     EXPECT_EQ(answer.folder, folder);
 }
 
-TYPED_TEST_P(FolderChooserContract, ACancelledOneGivesNothing) {
+TYPED_TEST_P(FolderChooserContract, ReturnsNothingIfItIsCancelled) {
     FolderAnswer answer;
     this->open(answer);
     this->desk.answer(std::nullopt);
@@ -73,7 +73,7 @@ TYPED_TEST_P(FolderChooserContract, ACancelledOneGivesNothing) {
     EXPECT_EQ(answer.folder, std::nullopt);
 }
 
-TYPED_TEST_P(FolderChooserContract, WhoAsksMeanwhileGetsNothing) {
+TYPED_TEST_P(FolderChooserContract, ReturnsNothingWhileAnotherChooserIsOpen) {
     FolderAnswer first;
     FolderAnswer second;
     this->open(first);
@@ -87,7 +87,7 @@ TYPED_TEST_P(FolderChooserContract, WhoAsksMeanwhileGetsNothing) {
     EXPECT_EQ(first.folder, Url::file("/data"));
 }
 
-REGISTER_TYPED_TEST_SUITE_P(FolderChooserContract, WhatIsChosenComesBack, ACancelledOneGivesNothing,
-                            WhoAsksMeanwhileGetsNothing);
+REGISTER_TYPED_TEST_SUITE_P(FolderChooserContract, ReturnsTheChosenFolder,
+                            ReturnsNothingIfItIsCancelled, ReturnsNothingWhileAnotherChooserIsOpen);
 
 }  // namespace vantle

@@ -66,7 +66,7 @@ struct DiskTrash {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(FreedesktopTrash, TrashContract, DiskTrash);
 
-TEST(FreedesktopTrashTest, EndsWithoutAnswerWhenNobodyWaitsAnyMore) {
+TEST(FreedesktopTrashTest, EndsWithoutAnAnswerAfterTheCallerHasGone) {
     DiskTrash disk;
     disk.save(disk.folder.appending("shot.png"));
     {

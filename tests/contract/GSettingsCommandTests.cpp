@@ -61,7 +61,7 @@ struct Command {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(GSettingsCommand, GSettingsContract, Command);
 
-TEST(GSettingsCommandTest, AnotherTypeThanTextIsAFailure) {
+TEST(GSettingsCommandTest, AValueThatIsNoTextIsAFailure) {
     const Command store;
     EXPECT_FALSE(store.settings.text(schema, "number"));
 }

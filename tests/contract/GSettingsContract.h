@@ -47,7 +47,7 @@ TYPED_TEST_P(GSettingsContract, ResetGoesBackToTheDefault) {
     EXPECT_EQ(this->settings.text(this->schema, this->key).value(), "");
 }
 
-TYPED_TEST_P(GSettingsContract, WhatIsNotThereIsAFailureAndNotTheEnd) {
+TYPED_TEST_P(GSettingsContract, AMissingKeyIsAFailureAndDoesNotEndTheProgram) {
     for (const auto& [unknown, unknownKey] :
          {std::pair("org.vantle.nowhere", this->key), std::pair(this->schema, "nothing")}) {
         EXPECT_FALSE(this->settings.text(unknown, unknownKey));
@@ -61,6 +61,6 @@ TYPED_TEST_P(GSettingsContract, WhatIsNotThereIsAFailureAndNotTheEnd) {
 }
 
 REGISTER_TYPED_TEST_SUITE_P(GSettingsContract, TextIsReadBackAsItWasSet, ResetGoesBackToTheDefault,
-                            WhatIsNotThereIsAFailureAndNotTheEnd);
+                            AMissingKeyIsAFailureAndDoesNotEndTheProgram);
 
 }  // namespace vantle

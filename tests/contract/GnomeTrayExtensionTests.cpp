@@ -27,7 +27,7 @@ protected:
     TemporaryFolder folder;
 };
 
-TEST_F(GnomeTrayExtensionTest, TheShellHasATrayByAnExtension) {
+TEST_F(GnomeTrayExtensionTest, TheShellGetsATrayFromAnExtension) {
     for (const auto* desktop : {"GNOME", "ubuntu:GNOME", "GNOME-Classic:GNOME"}) {
         const auto extension = on(desktop);
         ASSERT_TRUE(extension) << desktop;
@@ -41,17 +41,17 @@ TEST_F(GnomeTrayExtensionTest, OtherDesktopsHaveATray) {
         EXPECT_FALSE(on(desktop)) << desktop;
 }
 
-TEST_F(GnomeTrayExtensionTest, IsFoundWhereTheUserHasPutIt) {
+TEST_F(GnomeTrayExtensionTest, IsFoundInTheUsersFolder) {
     install("own", "appindicatorsupport@rgcjonas.gmail.com");
     EXPECT_TRUE(on("GNOME")->isInstalled);
 }
 
-TEST_F(GnomeTrayExtensionTest, IsFoundWhereTheSystemHasIt) {
+TEST_F(GnomeTrayExtensionTest, IsFoundInTheSystemsFolder) {
     install("second", "ubuntu-appindicators@ubuntu.com");
     EXPECT_TRUE(on("GNOME")->isInstalled);
 }
 
-TEST_F(GnomeTrayExtensionTest, AnotherExtensionIsNone) {
+TEST_F(GnomeTrayExtensionTest, AnotherExtensionIsNotATray) {
     install("first", "clock@example.org");
     EXPECT_FALSE(on("GNOME")->isInstalled);
 }

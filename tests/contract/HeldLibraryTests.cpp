@@ -33,7 +33,7 @@ protected:
     const std::string path = (folder / "library.so").path();
 };
 
-TEST_F(HeldLibraryTest, GivesWhatTheLibraryHas) {
+TEST_F(HeldLibraryTest, ReturnsTheFunctionsOfTheLibrary) {
     const HeldLibrary library(path);
     EXPECT_TRUE(library.isThere());
     const Handle loaded = load(library);
@@ -41,20 +41,20 @@ TEST_F(HeldLibraryTest, GivesWhatTheLibraryHas) {
     EXPECT_NE(dlsym(loaded.get(), VANTLE_SOME_FUNCTION), nullptr);
 }
 
-TEST_F(HeldLibraryTest, IsTheOneThatWasThereWhenItWasMade) {
+TEST_F(HeldLibraryTest, KeepsTheLibraryThatExistedWhenItWasMade) {
     const HeldLibrary library(path);
     putIntoItsPlace("the next version");
     EXPECT_EQ(load(HeldLibrary(path)), nullptr);
     EXPECT_NE(load(library), nullptr) << dlerror();
 }
 
-TEST_F(HeldLibraryTest, OneThatHasGoneIsStillLoaded) {
+TEST_F(HeldLibraryTest, LoadsALibraryThatWasDeletedMeanwhile) {
     const HeldLibrary library(path);
     fs::remove(path);
     EXPECT_NE(load(library), nullptr) << dlerror();
 }
 
-TEST_F(HeldLibraryTest, SaysWhyNothingIsLoaded) {
+TEST_F(HeldLibraryTest, ReportsWhyNothingIsLoaded) {
     fs::remove(path);
     const HeldLibrary nothing(path);
     EXPECT_FALSE(nothing.isThere());

@@ -29,7 +29,7 @@ std::optional<PreferenceValue> valueIn(std::string_view text, std::string_view k
     return IniDocument::parse(text).value(key);
 }
 
-TEST(IniDocumentTest, TypesAreTold) {
+TEST(IniDocumentTest, DistinguishesTypes) {
     EXPECT_EQ(valueIn("[General]\nkey=true\n"), PreferenceValue(true));
     EXPECT_EQ(valueIn("[General]\nkey=false\n"), PreferenceValue(false));
     EXPECT_EQ(valueIn("[General]\nkey=10\n"), PreferenceValue(10.0));
@@ -41,7 +41,7 @@ TEST(IniDocumentTest, TypesAreTold) {
         EXPECT_EQ(valueIn("[General]\nkey=" + std::string(text)), PreferenceValue(text));
 }
 
-TEST(IniDocumentTest, OtherProgramsWaysOfWritingAreRead) {
+TEST(IniDocumentTest, ReadsTheNotationsOfOtherPrograms) {
     EXPECT_EQ(valueIn("\xef\xbb\xbf[General]\r\nkey=1\r\n"), PreferenceValue(1.0));
     EXPECT_EQ(valueIn("[General]\n  key  =  a  \n"), PreferenceValue("a"));
     EXPECT_EQ(valueIn("# comment\n; comment\n\n[General]\nkey=1"), PreferenceValue(1.0));
@@ -50,7 +50,7 @@ TEST(IniDocumentTest, OtherProgramsWaysOfWritingAreRead) {
     EXPECT_EQ(valueIn("[General]\nkey=a=b\n"), PreferenceValue("a=b"));
 }
 
-TEST(IniDocumentTest, ALineThatMakesNoSenseCostsThatLineOnly) {
+TEST(IniDocumentTest, AnInvalidLineLosesOnlyThatLine) {
     for (const auto line : {std::string_view("[General"), std::string_view("no value"),
                             std::string_view("<<<<<<< HEAD"), std::string_view("======="),
                             std::string_view("key=\0", 5), std::string_view("key=\x01"),
@@ -67,7 +67,7 @@ TEST(IniDocumentTest, ALineThatMakesNoSenseCostsThatLineOnly) {
     EXPECT_TRUE(IniDocument::parse("").isEmpty());
 }
 
-TEST(IniDocumentTest, EverythingThatWasSetIsReadBack) {
+TEST(IniDocumentTest, ReadsBackEverythingThatWasSet) {
     constexpr auto least = std::numeric_limits<double>::denorm_min();
     const std::array<PreferenceValue, 14> values{true,
                                                  false,
@@ -90,7 +90,7 @@ TEST(IniDocumentTest, EverythingThatWasSetIsReadBack) {
     }
 }
 
-TEST(IniDocumentTest, WhatIsNotAskedForStaysAsItIsWritten) {
+TEST(IniDocumentTest, OtherLinesStayAsTheyWereWritten) {
     const std::string before =
         "# Mine\n[Other]\na=1\n\n[General]\nkey = old ; not a comment\n; note\nb=2\n\n[Last]\nc=3";
     auto document = IniDocument::parse(before);
@@ -113,7 +113,7 @@ protected:
     Url file = folder / "vantle.conf";
 };
 
-TEST_F(IniFileTest, SettingsAreThereTheNextTime) {
+TEST_F(IniFileTest, KeepsSettingsForTheNextStart) {
     IniUserDefaults(file).set("shown", true);
     EXPECT_TRUE(isShown(file));
     EXPECT_THAT(log.lines(), IsEmpty());
@@ -125,7 +125,7 @@ TEST_F(IniFileTest, MissingFoldersAreMade) {
     EXPECT_TRUE(isShown(deep));
 }
 
-TEST_F(IniFileTest, OfADamagedFileCountsWhatCanBeReadAndTheRestIsKeptAside) {
+TEST_F(IniFileTest, ReadsTheValidLinesOfADamagedFileAndKeepsACopy) {
     const std::string damage("[General]\nshown=true\n\0\0\0", 24);
     writeText(file, damage);
     EXPECT_TRUE(isShown(file));
@@ -139,7 +139,7 @@ TEST_F(IniFileTest, OfADamagedFileCountsWhatCanBeReadAndTheRestIsKeptAside) {
     EXPECT_EQ(log.lines().size(), 1u) << "nobody meets the same damage twice";
 }
 
-TEST_F(IniFileTest, AFileThatWasEmptiedIsTakenFromItsCopy) {
+TEST_F(IniFileTest, AnEmptiedFileIsRestoredFromItsCopy) {
     IniUserDefaults(file).set("shown", true);
     for (const auto* emptied : {"", "\n", "only one odd line", "[General]\n"}) {
         writeText(file, emptied);
@@ -150,7 +150,7 @@ TEST_F(IniFileTest, AFileThatWasEmptiedIsTakenFromItsCopy) {
     EXPECT_FALSE(isShown(file)) << "one that was taken away is to be forgotten";
 }
 
-TEST_F(IniFileTest, WhoHasNoMemoryKeepsWhatCanBeReadOfADamagedFile) {
+TEST_F(IniFileTest, WithoutACopyTheValidLinesOfADamagedFileCount) {
     writeText(file, "[General]\nshown=true\nno sense\n");
     IniPreferencesDomain domain(file);
     domain.setValue("other", 1.0);
@@ -159,7 +159,7 @@ TEST_F(IniFileTest, WhoHasNoMemoryKeepsWhatCanBeReadOfADamagedFile) {
     EXPECT_EQ(domain.value("other"), PreferenceValue(1.0));
 }
 
-TEST_F(IniFileTest, AFileThatIsDamagedMeanwhileIsWrittenAgainFromMemory) {
+TEST_F(IniFileTest, AFileDamagedMeanwhileIsWrittenAgainFromMemory) {
     IniUserDefaults defaults(file);
     defaults.set("shown", true);
     defaults.set("number", 7.0);
@@ -211,7 +211,7 @@ TEST_F(IniFileTest, AFileThatCannotBeReadIsNeverOverwritten) {
     EXPECT_EQ(readText(file), "[General]\nshown=false\n");
 }
 
-TEST_F(IniFileTest, WhatCouldNotBeWrittenGoesWithTheNextWrite) {
+TEST_F(IniFileTest, AFailedWriteIsRepeatedWithTheNextOne) {
     IniUserDefaults defaults(file);
     {
         const Locked locked(
@@ -239,7 +239,7 @@ TEST_F(IniFileTest, AFullDiskLeavesTheOldFile) {
     EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("cannot write")));
 }
 
-TEST_F(IniFileTest, ALinkStaysALinkAndTheModeStays) {
+TEST_F(IniFileTest, KeepsALinkAndTheMode) {
     const Url real = folder / "real.conf";
     writeText(real, "");
     std::filesystem::permissions(
@@ -252,7 +252,7 @@ TEST_F(IniFileTest, ALinkStaysALinkAndTheModeStays) {
               std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
 }
 
-TEST_F(IniFileTest, ChangesOfOthersToOtherKeysStay) {
+TEST_F(IniFileTest, KeepsChangesOfOthersToOtherKeys) {
     IniUserDefaults ours(file);
     ours.set("shown", true);
     IniUserDefaults(file).set("theirs", 7.0);

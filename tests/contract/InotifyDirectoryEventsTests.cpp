@@ -26,7 +26,7 @@ protected:
     }
 };
 
-TEST_F(InotifyDirectoryEventsTest, AnOverflowOfTheKernelsQueueIsAChangeOfTheContents) {
+TEST_F(InotifyDirectoryEventsTest, AnOverflowOfTheKernelsQueueChangesTheContents) {
     const Url a = file("a.png");
     const Url b = file("b.png");
     disk.save(a);
@@ -62,7 +62,7 @@ TEST_F(InotifyDirectoryEventsTest, AnUnmountedFolderIsLostOnce) {
     EXPECT_EQ(record.losses(), 1);
 }
 
-TEST_F(InotifyDirectoryEventsTest, AFolderInWhichSomebodyStandsIsLostWhenItIsRemoved) {
+TEST_F(InotifyDirectoryEventsTest, AFolderInUseIsLostWhenItIsRemoved) {
     const auto source = watch(disk.folder, record);
     ASSERT_NE(source, nullptr);
     // A shell in the folder, or a program that reads a file in it, also keeps it open.
@@ -97,7 +97,7 @@ TEST_F(InotifyDirectoryEventsTest, AFolderIsLostWhenALinkToItLeadsElsewhere) {
     EXPECT_TRUE(disk.waitUntil([this] { return record.seen().lost; }));
 }
 
-TEST_F(InotifyDirectoryEventsTest, WhatHappensBesideTheFolderIsNotTold) {
+TEST_F(InotifyDirectoryEventsTest, ChangesBesideTheFolderAreNotReported) {
     const auto source = watch(disk.folder, record);
     ASSERT_NE(source, nullptr);
     disk.save(disk.place.appending("beside.png"));
@@ -113,7 +113,7 @@ TEST_F(InotifyDirectoryEventsTest, AnUnreadableFolderFailsWithPermissionDenied) 
     EXPECT_EQ(failureOfOpening(disk.folder), EACCES);
 }
 
-TEST_F(InotifyDirectoryEventsTest, AFileThatIsWrittenAnewIsAChangeOfTheContents) {
+TEST_F(InotifyDirectoryEventsTest, RewritingAFileChangesTheContents) {
     disk.save(file("a.png"));
     const auto source = watch(disk.folder, record);
     ASSERT_NE(source, nullptr);
@@ -122,7 +122,7 @@ TEST_F(InotifyDirectoryEventsTest, AFileThatIsWrittenAnewIsAChangeOfTheContents)
     EXPECT_FALSE(record.seen().lost);
 }
 
-TEST_F(InotifyDirectoryEventsTest, AFileThatGrowsIsToldWhenItIsClosed) {
+TEST_F(InotifyDirectoryEventsTest, AGrowingFileIsReportedWhenItIsClosed) {
     const auto source = watch(disk.folder, record);
     ASSERT_NE(source, nullptr);
     {
@@ -138,7 +138,7 @@ TEST_F(InotifyDirectoryEventsTest, AFileThatGrowsIsToldWhenItIsClosed) {
     EXPECT_TRUE(sees(record));
 }
 
-TEST_F(InotifyDirectoryEventsTest, ItsDescriptorIsGivenBack) {
+TEST_F(InotifyDirectoryEventsTest, ClosesItsDescriptor) {
     letPass();
     const auto before = openDescriptors();
     for (int i = 0; i < 100; ++i) {

@@ -15,7 +15,7 @@ std::string withSet(std::string_view before, std::string_view group, std::string
     return file.text();
 }
 
-TEST(KeyFileTest, GroupsAndKeysAreTold) {
+TEST(KeyFileTest, ReadsGroupsAndKeys) {
     const KeyFile file("first=0\n[A]\nkey = 1 \n[B]\nkey=2\n[A]\nother=a=b\n");
     EXPECT_EQ(file.value("", "first"), "0");
     EXPECT_EQ(file.value("A", "key"), "1");
@@ -32,20 +32,20 @@ TEST(KeyFileTest, TheLastOfTwoKeysCountsAndIsSet) {
     EXPECT_EQ(withSet("[A]\nk=1\nk=2\n", "A", "k", "3"), "[A]\nk=1\nk=3\n");
 }
 
-TEST(KeyFileTest, FlagsAreNoPartOfTheNameAndStay) {
+TEST(KeyFileTest, FlagsAreNotPartOfTheNameAndStay) {
     EXPECT_EQ(KeyFile("[A]\nk[$e]=$HOME\n").value("A", "k"), "$HOME");
     EXPECT_EQ(withSet("[A]\nk[$e]=$HOME\n", "A", "k", "x"), "[A]\nk[$e]=x\n");
     EXPECT_EQ(KeyFile("[A]\nk[de]=x\n").value("A", "k"), std::nullopt);
 }
 
-TEST(KeyFileTest, ANewKeyComesAtTheEndOfItsGroup) {
+TEST(KeyFileTest, ANewKeyIsAddedAtTheEndOfItsGroup) {
     EXPECT_EQ(withSet("[A]\na=1\n\n[B]\nb=2\n", "A", "k", "v"), "[A]\na=1\nk=v\n\n[B]\nb=2\n");
     EXPECT_EQ(withSet("[A]\n\n[B]\nb=2\n", "A", "k", "v"), "[A]\nk=v\n\n[B]\nb=2\n");
     EXPECT_EQ(withSet("a=1\n[B]\n", "", "k", "v"), "a=1\nk=v\n[B]\n");
     EXPECT_EQ(withSet("[B]\nb=2\n", "", "k", "v"), "k=v\n[B]\nb=2\n");
 }
 
-TEST(KeyFileTest, ANewGroupComesAtTheEndOfTheFile) {
+TEST(KeyFileTest, ANewGroupIsAddedAtTheEndOfTheFile) {
     EXPECT_EQ(withSet("", "A", "k", "v"), "[A]\nk=v\n");
     EXPECT_EQ(withSet("[B]\nb=2\n", "A", "k", "v"), "[B]\nb=2\n\n[A]\nk=v\n");
     EXPECT_EQ(withSet("[B]\nb=2", "A", "k", "v"), "[B]\nb=2\n\n[A]\nk=v\n");
@@ -62,7 +62,7 @@ TEST(KeyFileTest, EveryOtherByteStays) {
     EXPECT_EQ(withSet(odd, "A", "new", "1"), odd + "\r\nnew=1\r\n");
 }
 
-TEST(KeyFileTest, AKeyIsTakenAwayWhereverItStands) {
+TEST(KeyFileTest, AKeyIsRemovedWhereverItIs) {
     KeyFile file("[A]\nk=1\na=2\n[B]\nk=3\n[A]\nk[$e]=4");
     file.remove("A", "k");
     EXPECT_EQ(file.text(), "[A]\na=2\n[B]\nk=3\n[A]\n");
@@ -70,7 +70,7 @@ TEST(KeyFileTest, AKeyIsTakenAwayWhereverItStands) {
     EXPECT_EQ(file.text(), "[A]\na=2\n[B]\nk=3\n[A]\n");
 }
 
-TEST(KeyFileTest, LinesThatAreNothingAreTold) {
+TEST(KeyFileTest, ReportsInvalidLines) {
     EXPECT_TRUE(KeyFile("# a\n; b\n\n[A]\nk=\n").isWellFormed());
     for (const auto* text : {"[A\nk=1", "no value", "=1"})
         EXPECT_FALSE(KeyFile(text).isWellFormed()) << text;

@@ -28,12 +28,12 @@ protected:
     }
 };
 
-TEST_F(LinuxFileManagerTest, KnowsTheHomeDirectoriesOfOthers) {
+TEST_F(LinuxFileManagerTest, FindsTheHomeDirectoriesOfOthers) {
     EXPECT_EQ(disk.files.homeDirectory("root"), Url::file("/root"));
     EXPECT_EQ(disk.files.homeDirectory("no such user"), std::nullopt);
 }
 
-TEST_F(LinuxFileManagerTest, ALinkIsDescribedItself) {
+TEST_F(LinuxFileManagerTest, DescribesALinkItself) {
     disk.save(file("a.png"), 10);
     std::filesystem::create_symlink(file("a.png").path(), file("link.png").path());
     EXPECT_EQ(isRegularFile(file("link.png")), false);
@@ -43,7 +43,7 @@ TEST_F(LinuxFileManagerTest, ALinkIsDescribedItself) {
     EXPECT_EQ(disk.files.existence(file("broken.png")), Existence::none);
 }
 
-TEST_F(LinuxFileManagerTest, APipeNamedLikeARecordingIsNoFileAndHoldsNobodyUp) {
+TEST_F(LinuxFileManagerTest, APipeNamedLikeARecordingIsNoFileAndDoesNotBlock) {
     ASSERT_EQ(mkfifo(file("x.mp4").path().c_str(), 0600), 0);
     EXPECT_EQ(isRegularFile(file("x.mp4")), false);
 }
@@ -61,7 +61,7 @@ TEST_F(LinuxFileManagerTest, AnImageDoesNotWaitForItsWriter) {
     EXPECT_EQ(isRegularFile(file("a.png")), true);
 }
 
-TEST_F(LinuxFileManagerTest, AReaderDoesNotHoldUpARecording) {
+TEST_F(LinuxFileManagerTest, AReaderDoesNotDelayARecording) {
     disk.save(file("a.mp4"));
     const std::ifstream reader(file("a.mp4").path());
     EXPECT_EQ(isRegularFile(file("a.mp4")), true);
@@ -76,7 +76,7 @@ TEST_F(LinuxFileManagerTest, AFileOfAnUnreadableFolderCannotBeDescribed) {
     EXPECT_EQ(values.failure().code, EACCES);
 }
 
-TEST_F(LinuxFileManagerTest, DatesFarFromTodayAreDates) {
+TEST_F(LinuxFileManagerTest, ReadsDatesFarFromToday) {
     disk.save(file("a.png"));
     for (const time_t seconds : {-10'000'000'000L, -1L, 0L, 10'000'000'000L}) {
         const std::array<timespec, 2> times{timespec{seconds, 0}, timespec{seconds, 0}};
@@ -98,7 +98,7 @@ protected:
     LinuxFileManager files{environment, RealDisk::isRecording};
 };
 
-TEST_F(TemporaryDirectoryTest, IsThisUsersAlone) {
+TEST_F(TemporaryDirectoryTest, BelongsToThisUserAlone) {
     for (int i = 0; i < 2; ++i) {
         const auto folder = files.temporaryDirectory();
         ASSERT_TRUE(folder);
@@ -121,7 +121,7 @@ TEST_F(TemporaryDirectoryTest, IsNotTakenFromOthers) {
     EXPECT_FALSE(files.temporaryDirectory());
 }
 
-TEST_F(TemporaryDirectoryTest, CannotBeHadWhereNothingCanBeWritten) {
+TEST_F(TemporaryDirectoryTest, FailsIfNothingCanBeWritten) {
     const Locked locked(shared.url(), RealDisk::readable);
     EXPECT_FALSE(files.temporaryDirectory());
 }

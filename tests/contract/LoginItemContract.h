@@ -42,12 +42,12 @@ TYPED_TEST_P(LoginItemContract, IsRegisteredAndUnregistered) {
     }
 }
 
-TYPED_TEST_P(LoginItemContract, UnregisteringWhatIsNotRegisteredIsASuccess) {
+TYPED_TEST_P(LoginItemContract, UnregisteringAnUnregisteredItemSucceeds) {
     EXPECT_EQ(this->item.unregisterItem(), std::nullopt);
     EXPECT_EQ(this->item.status(), LoginItem::Status::notRegistered);
 }
 
-TYPED_TEST_P(LoginItemContract, AFailureIsToldAndChangesNothing) {
+TYPED_TEST_P(LoginItemContract, ReportsAFailureAndChangesNothing) {
     [[maybe_unused]] const auto forbidden = this->desktop.forbid();
     const auto failure = this->item.registerItem();
     ASSERT_TRUE(failure.has_value());
@@ -56,7 +56,7 @@ TYPED_TEST_P(LoginItemContract, AFailureIsToldAndChangesNothing) {
 }
 
 REGISTER_TYPED_TEST_SUITE_P(LoginItemContract, IsNotRegisteredAtFirst, IsRegisteredAndUnregistered,
-                            UnregisteringWhatIsNotRegisteredIsASuccess,
-                            AFailureIsToldAndChangesNothing);
+                            UnregisteringAnUnregisteredItemSucceeds,
+                            ReportsAFailureAndChangesNothing);
 
 }  // namespace vantle

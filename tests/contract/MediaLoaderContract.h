@@ -44,7 +44,7 @@ protected:
 
 TYPED_TEST_SUITE_P(MediaLoaderContract);
 
-TYPED_TEST_P(MediaLoaderContract, WhatIsNotThereCannotBeOpened) {
+TYPED_TEST_P(MediaLoaderContract, AMissingFileCannotBeOpened) {
     EXPECT_EQ(this->loader.openImage(this->file("nothing.png")), nullptr);
     EXPECT_EQ(this->loader.openRecording(this->file("nothing.mov")), nullptr);
 }
@@ -57,7 +57,7 @@ TYPED_TEST_P(MediaLoaderContract, ARecordingIsNoImage) {
     EXPECT_EQ(this->loader.openImage(this->file("ten_seconds.mp4")), nullptr);
 }
 
-TYPED_TEST_P(MediaLoaderContract, AnImageTellsItsSizesInPixelsAndInPoints) {
+TYPED_TEST_P(MediaLoaderContract, AnImageHasSizesInPixelsAndInPoints) {
     const auto plain = this->loader.openImage(this->file("rgb.png"));
     ASSERT_NE(plain, nullptr);
     EXPECT_EQ(plain->pixelSize(), this->usual);
@@ -76,7 +76,7 @@ TYPED_TEST_P(MediaLoaderContract, AVectorImageHasPointsButNoPixels) {
     EXPECT_EQ(image->pointSize(), this->usual);
 }
 
-TYPED_TEST_P(MediaLoaderContract, ADrawingHasTheSizeAskedForAndAllItsPixels) {
+TYPED_TEST_P(MediaLoaderContract, ADrawingHasTheRequestedSizeAndAllItsPixels) {
     const auto image = this->loader.openImage(this->file("dense.png"));
     ASSERT_NE(image, nullptr);
     const auto drawn = image->draw({320, 208});
@@ -116,7 +116,7 @@ TYPED_TEST_P(MediaLoaderContract, ADamagedImageIsNotDrawn) {
     EXPECT_EQ(image->draw(this->usual), nullptr);
 }
 
-TYPED_TEST_P(MediaLoaderContract, AHeldImageIsTheSameWhenItIsAskedFor) {
+TYPED_TEST_P(MediaLoaderContract, AHeldImageStaysTheSame) {
     EXPECT_EQ(this->loader.holdImage(this->file("nothing.png")), nullptr);
     const auto image = this->loader.holdImage(this->file("dense.png"));
     ASSERT_NE(image, nullptr);
@@ -125,7 +125,7 @@ TYPED_TEST_P(MediaLoaderContract, AHeldImageIsTheSameWhenItIsAskedFor) {
     EXPECT_NE(image->draw({32, 24}), nullptr);
 }
 
-TYPED_TEST_P(MediaLoaderContract, ARecordingTellsItsDurationAndItsTracksSize) {
+TYPED_TEST_P(MediaLoaderContract, ARecordingHasADurationAndTheSizeOfItsTrack) {
     const auto recording = this->loader.openRecording(this->file("ten_seconds.mp4"));
     ASSERT_NE(recording, nullptr);
     EXPECT_NEAR(recording->duration(), 10, 0.001);
@@ -143,14 +143,13 @@ TYPED_TEST_P(MediaLoaderContract, ARecordingOfSoundHasNoTrackAndNoFrame) {
     EXPECT_EQ(recording->frame(0.5, 800), nullptr);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(MediaLoaderContract, WhatIsNotThereCannotBeOpened, AnImageIsNoRecording,
-                            ARecordingIsNoImage, AnImageTellsItsSizesInPixelsAndInPoints,
+REGISTER_TYPED_TEST_SUITE_P(MediaLoaderContract, AMissingFileCannotBeOpened, AnImageIsNoRecording,
+                            ARecordingIsNoImage, AnImageHasSizesInPixelsAndInPoints,
                             AVectorImageHasPointsButNoPixels,
-                            ADrawingHasTheSizeAskedForAndAllItsPixels,
+                            ADrawingHasTheRequestedSizeAndAllItsPixels,
                             AFileCanBeDrawnAgainAtAnotherSize,
                             FilesCanBeOpenAtOnceAndDrawnInAnyOrder, ADamagedImageIsNotDrawn,
-                            AHeldImageIsTheSameWhenItIsAskedFor,
-                            ARecordingTellsItsDurationAndItsTracksSize,
+                            AHeldImageStaysTheSame, ARecordingHasADurationAndTheSizeOfItsTrack,
                             ARecordingOfSoundHasNoTrackAndNoFrame);
 
 }  // namespace vantle

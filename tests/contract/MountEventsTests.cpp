@@ -17,7 +17,7 @@ bool enterMountsOfItsOwn() {
            mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
-TEST(MountEventsTest, TellsOfWhatIsMountedAndUnmounted) {
+TEST(MountEventsTest, ReportsMountsAndUnmounts) {
     if (!enterMountsOfItsOwn()) GTEST_SKIP() << "only root may mount";
     const TemporaryFolder folder;
     int changes = 0;

@@ -35,7 +35,7 @@ protected:
     Url expected = folder / "fstab";
 };
 
-TEST_F(MountTableTest, WhatIsExpectedAndNotThereIsUnmounted) {
+TEST_F(MountTableTest, AnExpectedMountThatIsMissingIsUnmounted) {
     EXPECT_TRUE(isUnmounted("/mnt/other"));
     EXPECT_TRUE(isUnmounted("/mnt/other/Pictures/Screenshots"));
     EXPECT_FALSE(isUnmounted("/mnt/otherwise"));
@@ -45,7 +45,7 @@ TEST_F(MountTableTest, WhatIsExpectedAndNotThereIsUnmounted) {
     EXPECT_FALSE(isUnmounted("/"));
 }
 
-TEST_F(MountTableTest, WhatAServerOrAProgramAnswersIsRemote) {
+TEST_F(MountTableTest, FileSystemsOfServersAndProgramsAreRemote) {
     EXPECT_TRUE(isRemote("/mnt/nas"));
     EXPECT_TRUE(isRemote("/mnt/nas/Pictures"));
     EXPECT_TRUE(isRemote("/mnt/later"));
@@ -55,7 +55,7 @@ TEST_F(MountTableTest, WhatAServerOrAProgramAnswersIsRemote) {
     EXPECT_FALSE(isRemote("/home/me"));
 }
 
-TEST_F(MountTableTest, ALinkIsWhereItLeads) {
+TEST_F(MountTableTest, ALinkBelongsToTheMountOfItsTarget) {
     std::filesystem::create_symlink("/mnt/other/Pictures", (folder / "far").path());
     std::filesystem::create_symlink("far/deeper", (folder / "Pictures").path());
     std::filesystem::create_symlink("round", (folder / "round").path());
@@ -63,7 +63,7 @@ TEST_F(MountTableTest, ALinkIsWhereItLeads) {
     EXPECT_FALSE(isUnmounted((folder / "round").path()));
 }
 
-TEST_F(MountTableTest, WithoutTablesEverythingIsAtHand) {
+TEST_F(MountTableTest, WithoutTablesEverythingIsLocal) {
     std::filesystem::remove(present.path());
     std::filesystem::remove(expected.path());
     EXPECT_FALSE(isRemote("/mnt/nas"));
@@ -71,7 +71,7 @@ TEST_F(MountTableTest, WithoutTablesEverythingIsAtHand) {
     EXPECT_FALSE(MountTable().isUnmounted(folder.url()));
 }
 
-TEST_F(MountTableTest, NoFolderIsMadeWhereNothingIsMounted) {
+TEST_F(MountTableTest, MakesNoFolderAtAMissingMount) {
     const Url point = folder / "point";
     std::filesystem::create_directory(point.path());
     writeText(expected, "server:/y " + point.path() + " nfs4 noauto 0 0\n");

@@ -23,13 +23,13 @@ TEST(NotationTest, QtEscapesOfBothVersionsAreRead) {
     EXPECT_EQ(fromQtEscapes("C:\\\\x"), "C:\\x");
 }
 
-TEST(NotationTest, BrokenQtEscapesAreNoHarm) {
+TEST(NotationTest, BrokenQtEscapesAreHarmless) {
     for (const auto* text : {"\\", "\\x", "a\\xzz", "\\xd83d", "\\xdcf7\\xd83d", "\"", "\\x0", ""})
         (void)fromQtEscapes(text);
     EXPECT_EQ(fromQtEscapes("a\\xd83d/b"), "a/b");
 }
 
-TEST(NotationTest, QtEscapesReadBackWhatTheyWrote) {
+TEST(NotationTest, QtEscapesAreReadBackAsWritten) {
     for (const auto* text : {"/home/anna", "/Bild ö %41", "/aéa1f/é0", "/スクリーンショット",
                              "/📷 a", "/a,b;c=d", "/ \"quoted\" \\ ", "/new\nline\ttab"}) {
         const auto written = toQtEscapes(text);
@@ -52,7 +52,7 @@ TEST(NotationTest, VariablesAreExpanded) {
     EXPECT_EQ(expandingVariables("$HOMEWARD/$", variable), "/$");
 }
 
-TEST(NotationTest, AddressesAreReadAsEachToolWritesThem) {
+TEST(NotationTest, ReadsTheAddressesOfEachTool) {
     const auto xfce = addressOfXfce();
     EXPECT_EQ(xfce.read("file:/home/anna/a"), "/home/anna/a");
     EXPECT_EQ(xfce.read("file:///home/anna/a%20b"), "/home/anna/a b");

@@ -58,7 +58,7 @@ TYPED_TEST_P(PasteboardContract, OffersFilesInOrder) {
     EXPECT_THAT(this->kind.contents(), testing::ElementsAre(a.path(), b.path()));
 }
 
-TYPED_TEST_P(PasteboardContract, NothingIsLeftOnceItIsCleared) {
+TYPED_TEST_P(PasteboardContract, IsEmptyAfterItIsCleared) {
     this->pasteboard.writeObjects({this->kind.saveImage("shot.png")});
     this->pasteboard.clearContents();
     EXPECT_THAT(this->kind.contents(), testing::IsEmpty());
@@ -72,12 +72,12 @@ TYPED_TEST_P(PasteboardContract, ALaterContentReplacesTheEarlier) {
     EXPECT_THAT(this->kind.contents(), testing::ElementsAre(file.path()));
 }
 
-TYPED_TEST_P(PasteboardContract, AFileThatIsNotThereHoldsNoPicture) {
+TYPED_TEST_P(PasteboardContract, AMissingFileHasNoPicture) {
     EXPECT_EQ(this->pasteboard.loadImage(Url::file("/folder/gone.png")), nullptr);
 }
 
 REGISTER_TYPED_TEST_SUITE_P(PasteboardContract, OffersAPictureBeforeItsFile, OffersFilesInOrder,
-                            NothingIsLeftOnceItIsCleared, ALaterContentReplacesTheEarlier,
-                            AFileThatIsNotThereHoldsNoPicture);
+                            IsEmptyAfterItIsCleared, ALaterContentReplacesTheEarlier,
+                            AMissingFileHasNoPicture);
 
 }  // namespace vantle

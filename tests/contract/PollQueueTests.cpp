@@ -26,7 +26,7 @@ struct RealQueue {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(PollQueue, SerialQueueContract, RealQueue);
 
-TEST(PollQueueTest, WorkRunsOnOneThreadOfItsOwn) {
+TEST(PollQueueTest, WorkRunsOnASingleSeparateThread) {
     PollQueue queue("contract");
     std::promise<std::thread::id> first;
     std::promise<std::thread::id> second;
@@ -47,7 +47,7 @@ TEST(PollQueueTest, NothingRunsBeforeItsTime) {
     }
 }
 
-TEST(PollQueueTest, ManyThreadsMayGiveWork) {
+TEST(PollQueueTest, ManyThreadsMayAddWork) {
     QueueRecord record;
     {
         PollQueue queue("contract");
@@ -62,7 +62,7 @@ TEST(PollQueueTest, ManyThreadsMayGiveWork) {
     EXPECT_EQ(record.ran().size(), 1000U);
 }
 
-TEST(PollQueueTest, ItsEndWaitsForThePieceThatRuns) {
+TEST(PollQueueTest, ItsEndWaitsForTheRunningWork) {
     QueueRecord record;
     std::promise<void> begun;
     std::promise<void> goOn;
@@ -79,7 +79,7 @@ TEST(PollQueueTest, ItsEndWaitsForThePieceThatRuns) {
     EXPECT_THAT(record.ran(), ElementsAre("ran"));
 }
 
-TEST(PollQueueTest, TellsWhetherItIsHeldUp) {
+TEST(PollQueueTest, ReportsWhetherItIsDelayed) {
     PollQueue queue("contract");
     std::promise<void> goOn;
     queue.async([goOn = goOn.get_future().share()] { goOn.wait(); });
@@ -88,7 +88,7 @@ TEST(PollQueueTest, TellsWhetherItIsHeldUp) {
     EXPECT_TRUE(queue.isIdleWithin(Seconds(30)));
 }
 
-TEST(PollQueueTest, ItsEndDropsWhatWaits) {
+TEST(PollQueueTest, ItsEndDropsWaitingWork) {
     QueueRecord record;
     auto held = std::make_shared<int>(1);
     const std::weak_ptr<int> dropped = held;
@@ -101,7 +101,7 @@ TEST(PollQueueTest, ItsEndDropsWhatWaits) {
     EXPECT_THAT(record.ran(), IsEmpty());
 }
 
-TEST(PollQueueTest, WorkThatIsDroppedMayHoldTheLastOfWhatAsksForWork) {
+TEST(PollQueueTest, DroppedWorkMayOwnTheLastReferenceToItsCaller) {
     struct Owner {
         explicit Owner(std::shared_ptr<PollQueue::Descriptors> watched)
             : descriptors(std::move(watched)) {}

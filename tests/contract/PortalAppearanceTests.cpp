@@ -60,7 +60,7 @@ protected:
     std::unique_ptr<PortalAppearance> backend;
 };
 
-TEST_F(PortalAppearanceTest, AWishThatIsTakenBackIsNone) {
+TEST_F(PortalAppearanceTest, AWithdrawnPreferenceDoesNotCount) {
     set("color-scheme", 1U);
     EXPECT_EQ(look().scheme, ColorScheme::unknown);
     EXPECT_TRUE(runUntil([this] { return look().scheme == ColorScheme::dark; }));
@@ -68,7 +68,7 @@ TEST_F(PortalAppearanceTest, AWishThatIsTakenBackIsNone) {
     EXPECT_TRUE(runUntil([this] { return look().scheme == ColorScheme::unknown; }));
 }
 
-TEST_F(PortalAppearanceTest, AnAccentOutsideOfTheRangeIsNone) {
+TEST_F(PortalAppearanceTest, AnAccentOutsideOfTheRangeDoesNotCount) {
     set("accent-color", rgb(0.25, 0.5, 1));
     const Color blue{0.25, 0.5, 1};
     EXPECT_TRUE(runUntil([&] { return look().accent == blue; }));
@@ -80,7 +80,7 @@ TEST_F(PortalAppearanceTest, AnAccentOutsideOfTheRangeIsNone) {
     EXPECT_FALSE(look().accent);
 }
 
-TEST_F(PortalAppearanceTest, EachDesktopCanAskForLessMotion) {
+TEST_F(PortalAppearanceTest, EachDesktopCanRequestLessMotion) {
     const QString gnome = QStringLiteral("org.gnome.desktop.interface");
     const QString kde = QStringLiteral("org.kde.kdeglobals.KDE");
     struct UpdateCriteria {
@@ -102,7 +102,7 @@ TEST_F(PortalAppearanceTest, EachDesktopCanAskForLessMotion) {
     }
 }
 
-TEST(PortalAppearance, WithoutABusNothingIsKnown) {
+TEST(PortalAppearance, HasNoPreferencesWithoutABus) {
     const PortalAppearance alone(QDBusConnection(QStringLiteral("none")));
     QCoreApplication::processEvents();
     EXPECT_EQ(alone.look.value(), DesktopLook{});

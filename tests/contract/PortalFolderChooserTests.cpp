@@ -50,7 +50,7 @@ protected:
     FolderAnswer answer;
 };
 
-TEST_F(PortalFolderChooserTest, ItIsToldWhatToAskFor) {
+TEST_F(PortalFolderChooserTest, ThePortalGetsTheRequest) {
     choose();
     ASSERT_TRUE(runUntil([&] { return !portal->handle.isEmpty(); }));
     EXPECT_EQ(portal->title, QStringLiteral("Choose it."));
@@ -60,7 +60,7 @@ TEST_F(PortalFolderChooserTest, ItIsToldWhatToAskFor) {
               QByteArray("/home/user/My Shots\0", 20));
 }
 
-TEST_F(PortalFolderChooserTest, OneThatCannotStartInAFolderIsNotAsked) {
+TEST_F(PortalFolderChooserTest, APortalThatCannotStartInAFolderIsNotUsed) {
     portal->version = 3;
     choose();
     ASSERT_TRUE(runUntil([&] { return next->isOpen(); }));
@@ -70,13 +70,13 @@ TEST_F(PortalFolderChooserTest, OneThatCannotStartInAFolderIsNotAsked) {
     EXPECT_TRUE(portal->handle.isEmpty());
 }
 
-TEST_F(PortalFolderChooserTest, WithoutAPortalTheNextChooserIsAsked) {
+TEST_F(PortalFolderChooserTest, UsesTheNextChooserWithoutAPortal) {
     portal.reset();
     choose();
     EXPECT_TRUE(runUntil([&] { return next->isOpen(); }));
 }
 
-TEST_F(PortalFolderChooserTest, APortalThatRefusesIsLoggedAndGivesNothing) {
+TEST_F(PortalFolderChooserTest, ARefusalOfThePortalIsLoggedAndReturnsNothing) {
     fakes::CapturedLog log;
     portal->refuses = true;
     choose();
@@ -85,7 +85,7 @@ TEST_F(PortalFolderChooserTest, APortalThatRefusesIsLoggedAndGivesNothing) {
     EXPECT_THAT(log.lines(), testing::ElementsAre(testing::HasSubstr("not today")));
 }
 
-TEST_F(PortalFolderChooserTest, APortalThatEndsGivesNothing) {
+TEST_F(PortalFolderChooserTest, ReturnsNothingIfThePortalEnds) {
     choose();
     ASSERT_TRUE(runUntil([&] { return !portal->handle.isEmpty(); }));
     portal.reset();
@@ -93,7 +93,7 @@ TEST_F(PortalFolderChooserTest, APortalThatEndsGivesNothing) {
     EXPECT_EQ(answer.folder, std::nullopt);
 }
 
-TEST_F(PortalFolderChooserTest, AnAddressThatIsNoFileGivesNothing) {
+TEST_F(PortalFolderChooserTest, ReturnsNothingForAnAddressThatIsNoFile) {
     fakes::CapturedLog log;
     choose();
     ASSERT_TRUE(runUntil([&] { return !portal->handle.isEmpty(); }));

@@ -74,7 +74,7 @@ TEST_F(PosixProcessLauncherTest, AFileThatIsNoProgramCannotBeStarted) {
     EXPECT_EQ(failure->code, EACCES);
 }
 
-TEST_F(PosixProcessLauncherTest, VariablesThatAreItsOwnStayWithThisProgram) {
+TEST_F(PosixProcessLauncherTest, TheProgramDoesNotInheritOurOwnVariables) {
     setenv("VANTLE_TEST_OWN", "own", 1);
     setenv("VANTLE_TEST_OWN_TOO", "everybody's", 1);
     PosixProcessLauncher reserved({"VANTLE_TEST_OWN"});
@@ -82,13 +82,13 @@ TEST_F(PosixProcessLauncherTest, VariablesThatAreItsOwnStayWithThisProgram) {
     EXPECT_EQ(outputOf("echo $VANTLE_TEST_OWN, $VANTLE_TEST_OWN_TOO", reserved), ", everybody's\n");
 }
 
-TEST_F(PosixProcessLauncherTest, NothingIsLeftBehindToCollect) {
+TEST_F(PosixProcessLauncherTest, LeavesNoZombieProcess) {
     outputOf("true");
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD);
 }
 
-TEST_F(PosixProcessLauncherTest, TheProgramHasNoStandardStreamsOfOurs) {
+TEST_F(PosixProcessLauncherTest, TheProgramDoesNotInheritOurStandardStreams) {
     EXPECT_EQ(outputOf("readlink /proc/$$/fd/0; readlink /proc/$$/fd/2"), "/dev/null\n/dev/null\n");
 }
 
@@ -111,7 +111,7 @@ TEST_F(PosixProcessLauncherTest, TheProgramBlocksAndIgnoresNoSignals) {
     pthread_sigmask(SIG_SETMASK, &before, nullptr);
 }
 
-TEST_F(PosixProcessLauncherTest, TheProgramIsInASessionOfItsOwn) {
+TEST_F(PosixProcessLauncherTest, TheProgramHasItsOwnSession) {
     const std::string session = outputOf("cut -d' ' -f6 /proc/self/stat");
     EXPECT_NE(session, std::to_string(getsid(0)) + "\n");
 }

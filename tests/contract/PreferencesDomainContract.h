@@ -30,7 +30,7 @@ protected:
 
 TYPED_TEST_SUITE_P(PreferencesDomainContract);
 
-TYPED_TEST_P(PreferencesDomainContract, WhatIsNotKnownIsAbsent) {
+TYPED_TEST_P(PreferencesDomainContract, AnUnknownKeyHasNoValue) {
     EXPECT_EQ(this->domain.value("nothing"), std::nullopt);
     this->domain.synchronize();
     EXPECT_EQ(this->domain.value("nothing"), std::nullopt);
@@ -40,7 +40,7 @@ TYPED_TEST_P(PreferencesDomainContract, WhatIsNotKnownIsAbsent) {
     EXPECT_EQ(this->domain.value("nothing"), std::nullopt);
 }
 
-TYPED_TEST_P(PreferencesDomainContract, WhatHasAValueTellsWhereItIsFrom) {
+TYPED_TEST_P(PreferencesDomainContract, ReportsTheOriginOfAValue) {
     EXPECT_EQ(this->domain.origin("nothing"), "");
     this->domain.setValue("location", std::string("/usr/share"));
     this->domain.synchronize();
@@ -67,8 +67,8 @@ TYPED_TEST_P(PreferencesDomainContract, AChangeMadeByOthersIsSeen) {
     EXPECT_EQ(this->domain.value("location"), PreferenceValue("/usr/bin"));
 }
 
-REGISTER_TYPED_TEST_SUITE_P(PreferencesDomainContract, WhatIsNotKnownIsAbsent,
-                            WhatHasAValueTellsWhereItIsFrom, ValuesKeepTheirTypes,
-                            AValueJustSetIsRead, AChangeMadeByOthersIsSeen);
+REGISTER_TYPED_TEST_SUITE_P(PreferencesDomainContract, AnUnknownKeyHasNoValue,
+                            ReportsTheOriginOfAValue, ValuesKeepTheirTypes, AValueJustSetIsRead,
+                            AChangeMadeByOthersIsSeen);
 
 }  // namespace vantle

@@ -83,7 +83,7 @@ TEST_F(PrivacySettingsTest, WithoutAFileManagerThatAnswersTheFolderIsShown) {
     EXPECT_THAT(opener.revealed, ElementsAre(folder));
 }
 
-TEST_F(PrivacySettingsTest, AProgramInASandboxHasAPageOfItsOwn) {
+TEST_F(PrivacySettingsTest, AProgramInASandboxHasItsOwnPage) {
     const FileManagerService manager(bus.connect());
     const SettingsService gnome(bus.connect());
     open(Sandbox::flatpak);

@@ -31,20 +31,20 @@ protected:
 
 TYPED_TEST_SUITE_P(ProcessLauncherContract);
 
-TYPED_TEST_P(ProcessLauncherContract, TheProgramGetsItsArgumentsAsTheyAre) {
+TYPED_TEST_P(ProcessLauncherContract, TheProgramGetsItsArgumentsUnchanged) {
     const std::vector<std::string> arguments{"plain",       "",          "two words",
                                              "$HOME; `id`", "new\nline", "\xff%20\\"};
     EXPECT_EQ(this->launcher.launchSomething(arguments), std::nullopt);
     EXPECT_EQ(this->launcher.received(), arguments);
 }
 
-TYPED_TEST_P(ProcessLauncherContract, AProgramThatIsNotThereCannotBeStarted) {
+TYPED_TEST_P(ProcessLauncherContract, AMissingProgramCannotBeStarted) {
     const auto failure = this->launcher.launchNothing();
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(failure->code, ENOENT);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(ProcessLauncherContract, TheProgramGetsItsArgumentsAsTheyAre,
-                            AProgramThatIsNotThereCannotBeStarted);
+REGISTER_TYPED_TEST_SUITE_P(ProcessLauncherContract, TheProgramGetsItsArgumentsUnchanged,
+                            AMissingProgramCannotBeStarted);
 
 }  // namespace vantle

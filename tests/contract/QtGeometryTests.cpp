@@ -7,7 +7,7 @@
 namespace vantle {
 namespace {
 
-TEST(QtGeometry, ThePrimaryScreenNeedNotStandAtTheOriginOfQt) {
+TEST(QtGeometry, ThePrimaryScreenNeedNotBeAtQtsOrigin) {
     const QRect primary(1920, 200, 1440, 900);
     EXPECT_EQ(toScreenCoordinates(primary, primary), (Rect{{0, 0}, {1440, 900}}));
     EXPECT_EQ(toScreenCoordinates(QRect(0, 0, 1920, 1080), primary),
@@ -15,7 +15,7 @@ TEST(QtGeometry, ThePrimaryScreenNeedNotStandAtTheOriginOfQt) {
     EXPECT_EQ(toScreenCoordinates(QPoint(1920, 1099), primary), (Point{0, 1}));
 }
 
-TEST(QtGeometry, TheWayBackGivesTheSame) {
+TEST(QtGeometry, ConvertingBackGivesTheSame) {
     const QRect primary(-300, 200, 1440, 900);
     for (const QRect& rect : {QRect(0, 0, 800, 330), QRect(-1000, -77, 1, 1), primary})
         EXPECT_EQ(fromScreenCoordinates(toScreenCoordinates(rect, primary), primary), rect);
@@ -29,7 +29,7 @@ TEST(QtGeometry, AWindowBetweenPointsKeepsItsSize) {
             << offset;
 }
 
-TEST(QtGeometry, ThePanelUsesThePrimaryScreenOfTheMoment) {
+TEST(QtGeometry, ThePanelUsesTheCurrentPrimaryScreen) {
     EXPECT_EQ(fromScreenCoordinates({{10, 20}, {800, 330}}), QRect(10, 550, 800, 330));
 }
 

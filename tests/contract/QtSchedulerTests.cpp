@@ -84,7 +84,7 @@ TEST_F(QtSchedulerTest, WorkDueSinceAnEarlierPieceKeepsItsPlace) {
     EXPECT_THAT(ran, ElementsAre("first", "last"));
 }
 
-TEST_F(QtSchedulerTest, TurnsThatTheRunLoopWasTooBusyForAreDropped) {
+TEST_F(QtSchedulerTest, DropsTurnsThatTheRunLoopWasTooBusyFor) {
     TimerPointer timer;
     std::vector<Instant> nextDates;
     std::optional<Instant> busyUntil;
@@ -111,7 +111,7 @@ TEST_F(QtSchedulerTest, AnEventLoopInsideWorkKeepsTheRestRunning) {
     EXPECT_THAT(ran, ElementsAre("outer begins", "deferred", "posted", "outer ends"));
 }
 
-TEST_F(QtSchedulerTest, WorkIsLetGoOnceItCannotRunAnyMore) {
+TEST_F(QtSchedulerTest, WorkIsReleasedWhenItCannotRunAnyMore) {
     const auto held = std::make_shared<int>();
     const auto once = loop.scheduler.after(Seconds(0), [held] {});
     const auto cancelled = loop.scheduler.every(Seconds(1), [held] {});
@@ -120,7 +120,7 @@ TEST_F(QtSchedulerTest, WorkIsLetGoOnceItCannotRunAnyMore) {
     EXPECT_TRUE(loop.runUntil([&] { return held.use_count() == 1; }));
 }
 
-TEST(QtSchedulerEnd, WhatStillWaitsNeverRuns) {
+TEST(QtSchedulerEnd, WaitingWorkNeverRunsAfterTheEnd) {
     SchedulerRecord record;
     TimerPointer timer;
     {
@@ -135,7 +135,7 @@ TEST(QtSchedulerEnd, WhatStillWaitsNeverRuns) {
     EXPECT_THAT(record.ran, ElementsAre());
 }
 
-TEST(QtSchedulerEnd, WorkMayCancelOtherWorkWhileAllOfItGoes) {
+TEST(QtSchedulerEnd, WorkMayCancelOtherWorkDuringTheEnd) {
     struct CancelsAtEnd {
         ~CancelsAtEnd() { timer->cancel(); }
         TimerPointer timer;

@@ -46,7 +46,7 @@ protected:
 
 TYPED_TEST_SUITE_P(SchedulerContract);
 
-TYPED_TEST_P(SchedulerContract, NothingRunsInsideTheCallThatAsksForIt) {
+TYPED_TEST_P(SchedulerContract, NothingRunsInsideTheCallThatSchedulesIt) {
     this->scheduler.async(this->note("async"));
     this->scheduler.after(Seconds(-1), this->note("after"));
     const auto repeated = this->scheduler.every(Seconds(0.001), this->note("every"));
@@ -69,7 +69,7 @@ TYPED_TEST_P(SchedulerContract, DeferredWorkRunsInTheOrderOfItsFireDates) {
     EXPECT_THAT(this->ran, testing::ElementsAre("first", "second", "third"));
 }
 
-TYPED_TEST_P(SchedulerContract, WorkWithoutDelayRunsAfterWhatIsWaiting) {
+TYPED_TEST_P(SchedulerContract, WorkWithoutDelayRunsAfterWaitingWork) {
     this->scheduler.async(this->note("a"));
     this->scheduler.after(Seconds(0), this->note("b"));
     this->scheduler.async(this->note("c"));
@@ -78,7 +78,7 @@ TYPED_TEST_P(SchedulerContract, WorkWithoutDelayRunsAfterWhatIsWaiting) {
     EXPECT_THAT(this->ran, testing::ElementsAre("a", "b", "c", "d"));
 }
 
-TYPED_TEST_P(SchedulerContract, WorkThatWorkAsksForRunsLater) {
+TYPED_TEST_P(SchedulerContract, WorkScheduledByWorkRunsLater) {
     this->scheduler.after(Seconds(0), [this] {
         this->scheduler.after(Seconds(0), this->note("inner"));
         this->ran.push_back("outer");
@@ -136,7 +136,7 @@ TYPED_TEST_P(SchedulerContract, WorkThatIsDueCanBeCancelledByWorkBeforeIt) {
     EXPECT_THAT(this->ran, testing::ElementsAre("first", "third"));
 }
 
-TYPED_TEST_P(SchedulerContract, LettingGoDoesNotCancel) {
+TYPED_TEST_P(SchedulerContract, ReleasingATimerDoesNotCancelIt) {
     this->scheduler.after(Seconds(0.001), this->note("once")).reset();
     EXPECT_TRUE(this->loop.runUntil(this->count(1)));
 }
@@ -160,13 +160,13 @@ TYPED_TEST_P(SchedulerContract, RepeatedWorkRunsUntilItIsCancelled) {
     EXPECT_EQ(validInside.size(), 3U);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(SchedulerContract, NothingRunsInsideTheCallThatAsksForIt,
+REGISTER_TYPED_TEST_SUITE_P(SchedulerContract, NothingRunsInsideTheCallThatSchedulesIt,
                             PostedWorkRunsInTheOrderOfTheCalls,
                             DeferredWorkRunsInTheOrderOfItsFireDates,
-                            WorkWithoutDelayRunsAfterWhatIsWaiting, WorkThatWorkAsksForRunsLater,
+                            WorkWithoutDelayRunsAfterWaitingWork, WorkScheduledByWorkRunsLater,
                             DeferredWorkWaitsForItsFireDate,
                             ATimerThatFiresOnceIsInvalidWhileItsWorkRuns, CancelledWorkNeverStarts,
-                            WorkThatIsDueCanBeCancelledByWorkBeforeIt, LettingGoDoesNotCancel,
-                            RepeatedWorkRunsUntilItIsCancelled);
+                            WorkThatIsDueCanBeCancelledByWorkBeforeIt,
+                            ReleasingATimerDoesNotCancelIt, RepeatedWorkRunsUntilItIsCancelled);
 
 }  // namespace vantle

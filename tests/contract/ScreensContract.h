@@ -32,7 +32,7 @@ protected:
 
 TYPED_TEST_SUITE_P(ScreensContract);
 
-TYPED_TEST_P(ScreensContract, OneScreenStandsAtTheOrigin) {
+TYPED_TEST_P(ScreensContract, OneScreenIsAtTheOrigin) {
     const auto all = this->screens.all();
     EXPECT_EQ(std::ranges::count(all, Point{0, 0}, [](const Screen& s) { return s.frame.origin; }),
               1);
@@ -70,7 +70,7 @@ TYPED_TEST_P(ScreensContract, ThePointerIsOnOneScreen) {
               1);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(ScreensContract, OneScreenStandsAtTheOrigin, ScreensDoNotOverlap,
+REGISTER_TYPED_TEST_SUITE_P(ScreensContract, OneScreenIsAtTheOrigin, ScreensDoNotOverlap,
                             VisibleFramesLieInTheirScreens, TheMainScreenIsOneOfThem,
                             ThePointerIsOnOneScreen);
 

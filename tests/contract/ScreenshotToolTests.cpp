@@ -111,12 +111,12 @@ const std::map<std::string, std::pair<std::string, std::string>> files{
     {"ksnip", {".config/ksnip/ksnip.conf", "[Application]\nSaveDirectory"}},
     {"screengrab", {".config/screengrab/screengrab.conf", "[Base]\ndefDir"}}};
 
-TEST_F(ScreenshotToolTest, AllAreKnownByTheirNames) {
+TEST_F(ScreenshotToolTest, EveryToolIsFoundByItsName) {
     for (const auto& tool : allTools) EXPECT_NO_THROW(domain(tool)) << tool;
     EXPECT_FALSE(makeScreenshotTool("none", {}, settings).has_value());
 }
 
-TEST_F(ScreenshotToolTest, WithoutSettingsTheDefaultOfEachToolCounts) {
+TEST_F(ScreenshotToolTest, UsesTheDefaultOfEachToolWithoutSettings) {
     EXPECT_EQ(folderOf("spectacle"), "Pictures/Screenshots");
     EXPECT_EQ(folderOf("gnome-shell"), "Screenshots");
     EXPECT_EQ(folderOf("mate-screenshot"), "Desktop");
@@ -133,7 +133,7 @@ TEST_F(ScreenshotToolTest, WithoutSettingsTheDefaultOfEachToolCounts) {
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 
-TEST_F(ScreenshotToolTest, ADefaultFolderThatTheToolWouldMakeIsMade) {
+TEST_F(ScreenshotToolTest, MakesTheDefaultFolderThatTheToolWouldMake) {
     nameThePictures();
     (void)folderOf("gnome-shell");
     EXPECT_TRUE(std::filesystem::is_directory(inHome("Bilder/Screenshots").path()));
@@ -179,14 +179,14 @@ TEST_F(ScreenshotToolTest, EachSpellingInTheSettingsOfGnomeIsRead) {
         }
 }
 
-TEST_F(ScreenshotToolTest, WhereAFileIsNamedItsFolderCounts) {
+TEST_F(ScreenshotToolTest, UsesTheFolderOfANamedFile) {
     makeFolder("shots");
     writeIn("shots/last.png", "");
     writeIn(".config/xfce4/xfce4-screenshooter", "screenshot_dir=file:~/shots/last.png\n");
     EXPECT_EQ(folderOf("xfce4-screenshooter"), "shots");
 }
 
-TEST_F(ScreenshotToolTest, AMissingFolderMeansWhatTheToolMakesOfIt) {
+TEST_F(ScreenshotToolTest, AMissingFolderGivesTheFolderThatTheToolWouldUse) {
     for (const auto& [tool, place] : files) writeIn(place.first, place.second + "=~/gone\n");
     settings->texts["org.gnome.gnome-screenshot auto-save-directory"] = "/nowhere/gone";
     settings->texts["org.mate.screenshot last-save-directory"] = "relative";
@@ -198,7 +198,7 @@ TEST_F(ScreenshotToolTest, AMissingFolderMeansWhatTheToolMakesOfIt) {
     EXPECT_TRUE(std::filesystem::is_directory(inHome("gone").path()));
 }
 
-TEST_F(ScreenshotToolTest, TheSystemsSettingsCountWhereTheUserHasNone) {
+TEST_F(ScreenshotToolTest, TheSystemsSettingsCountIfTheUserHasNone) {
     makeFolder("theirs");
     makeFolder("ours");
     writeIn("system/spectaclerc", "[ImageSave]\nimageSaveLocation=file://~/theirs\n");
@@ -208,7 +208,7 @@ TEST_F(ScreenshotToolTest, TheSystemsSettingsCountWhereTheUserHasNone) {
     EXPECT_THAT(readText(inHome("system/spectaclerc")), HasSubstr("theirs"));
 }
 
-TEST_F(ScreenshotToolTest, AFolderThatWasSetIsReadBack) {
+TEST_F(ScreenshotToolTest, ReadsBackAFolderThatWasSet) {
     const Url odd = makeFolder("Bild ö, \"%41\" \\x");
     for (const auto& tool : allTools) {
         if (tool == "gnome-shell") continue;
@@ -218,7 +218,7 @@ TEST_F(ScreenshotToolTest, AFolderThatWasSetIsReadBack) {
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 
-TEST_F(ScreenshotToolTest, OnlyThatKeyIsChangedAndTheModeStays) {
+TEST_F(ScreenshotToolTest, ChangesOnlyThatKeyAndKeepsTheMode) {
     const Url fresh = makeFolder("fresh");
     makeFolder("old");
     for (const auto& [tool, place] : files) {
@@ -244,7 +244,7 @@ TEST_F(ScreenshotToolTest, OnlyThatKeyIsChangedAndTheModeStays) {
     }
 }
 
-TEST_F(ScreenshotToolTest, WhatIsSoAlreadyIsNotWritten) {
+TEST_F(ScreenshotToolTest, DoesNotWriteAnUnchangedValue) {
     makeFolder("old");
     writeIn(".config/ksnip/ksnip.conf", "[Application]\nSaveDirectory=\"~/old\"\n");
     const std::string before = configuration("ksnip/ksnip.conf");
@@ -255,7 +255,7 @@ TEST_F(ScreenshotToolTest, WhatIsSoAlreadyIsNotWritten) {
     EXPECT_FALSE(std::filesystem::exists(inHome("memory.conf").path()));
 }
 
-TEST_F(ScreenshotToolTest, TheDefaultOfTodayIsWrittenWhenItIsChosen) {
+TEST_F(ScreenshotToolTest, WritesTheCurrentDefaultWhenItIsChosen) {
     setFolder("flameshot", home);
     nameThePictures();
     EXPECT_EQ(folderOf("flameshot"), ".");
@@ -264,7 +264,7 @@ TEST_F(ScreenshotToolTest, TheDefaultOfTodayIsWrittenWhenItIsChosen) {
     EXPECT_THAT(configuration("ksnip/ksnip.conf"), HasSubstr(home.path()));
 }
 
-TEST_F(ScreenshotToolTest, NothingIsMadeOrListedWhereAFileSystemIsYetToBeMounted) {
+TEST_F(ScreenshotToolTest, MakesAndListsNothingAtAMissingMount) {
     nameThePictures();
     const Url table = inHome("fstab");
     writeIn("fstab", "server:/y " + inHome("Bilder").path() + " nfs4 noauto 0 0\n");
@@ -276,7 +276,7 @@ TEST_F(ScreenshotToolTest, NothingIsMadeOrListedWhereAFileSystemIsYetToBeMounted
     EXPECT_TRUE(std::filesystem::is_empty(inHome("Bilder").path()));
 }
 
-TEST_F(ScreenshotToolTest, AServerIsNotAskedWhetherItHasTheFolder) {
+TEST_F(ScreenshotToolTest, DoesNotAskAServerForTheFolder) {
     nameThePictures();
     writeIn("mounts", "server:/y " + inHome("far").path() + " nfs4 rw 0 0\nserver:/x " +
                           inHome("Bilder").path() + " nfs4 rw 0 0\n");
@@ -310,7 +310,7 @@ TEST_F(ScreenshotToolTest, ThePreviousFolderIsRestoredAsItWasWritten) {
     }
 }
 
-TEST_F(ScreenshotToolTest, WhatWasNotSetIsNotSetAfterRestoring) {
+TEST_F(ScreenshotToolTest, AnUnsetValueIsUnsetAfterRestoring) {
     const Url fresh = makeFolder("fresh");
     for (const auto& tool : allTools) {
         if (tool == "gnome-shell") continue;
@@ -324,7 +324,7 @@ TEST_F(ScreenshotToolTest, WhatWasNotSetIsNotSetAfterRestoring) {
     EXPECT_EQ(settings->texts["org.mate.screenshot last-save-directory"], "");
 }
 
-TEST_F(ScreenshotToolTest, AChangeOfTheUsersOwnIsNotTakenBack) {
+TEST_F(ScreenshotToolTest, RestoringKeepsAChangeOfTheUser) {
     makeFolder("old");
     makeFolder("theirs");
     writeIn(".config/ksnip/ksnip.conf", "[Application]\nSaveDirectory=~/old\n");
@@ -337,7 +337,7 @@ TEST_F(ScreenshotToolTest, AChangeOfTheUsersOwnIsNotTakenBack) {
     EXPECT_EQ(domain("ksnip").previousValue(location), PreferenceValue(inHome("theirs").path()));
 }
 
-TEST_F(ScreenshotToolTest, AnotherSpellingOfTheToolsOwnIsNoChange) {
+TEST_F(ScreenshotToolTest, TheToolsOwnSpellingOfAFolderIsNoChange) {
     makeFolder("old");
     writeIn(".config/xfce4/xfce4-screenshooter", "screenshot_dir=file:~/old\n");
     setFolder("xfce4-screenshooter", makeFolder("a b"));
@@ -347,7 +347,7 @@ TEST_F(ScreenshotToolTest, AnotherSpellingOfTheToolsOwnIsNoChange) {
               PreferenceValue(inHome("old").path()));
 }
 
-TEST_F(ScreenshotToolTest, WhatTheToolSavesLastIsReadAgainEachTime) {
+TEST_F(ScreenshotToolTest, ReadsTheToolsLatestFolderEachTime) {
     makeFolder("first");
     makeFolder("second");
     const auto mate = domain("mate-screenshot");
@@ -357,7 +357,7 @@ TEST_F(ScreenshotToolTest, WhatTheToolSavesLastIsReadAgainEachTime) {
     }
 }
 
-TEST_F(ScreenshotToolTest, TellsWhetherTheFolderIsSetOrTheToolsDefault) {
+TEST_F(ScreenshotToolTest, DistinguishesASetFolderFromTheToolsDefault) {
     EXPECT_EQ(domain("ksnip").origin(location), "the default of ksnip");
     setFolder("ksnip", makeFolder("other"));
     EXPECT_EQ(domain("ksnip").origin(location), "a setting of ksnip");
@@ -383,7 +383,7 @@ TEST_F(ScreenshotToolTest, PreviewsAreReadAndSwitched) {
         EXPECT_EQ(configuration(file), text.substr(0, text.find('\n') + 1)) << "as it was";
 }
 
-TEST_F(ScreenshotToolTest, APreviewComesBackAsItWas) {
+TEST_F(ScreenshotToolTest, APreviewIsRestoredAsItWas) {
     writeIn(".config/spectacle.notifyrc", "[Event/newScreenshotSaved]\nAction=Popup|Sound\n");
     setShows("spectacle", false);
     EXPECT_THAT(configuration("spectacle.notifyrc"), HasSubstr("Action=Sound\n"));
@@ -394,7 +394,7 @@ TEST_F(ScreenshotToolTest, APreviewComesBackAsItWas) {
     EXPECT_TRUE(shows("flameshot")) << "though it was off before";
 }
 
-TEST_F(ScreenshotToolTest, WhatCannotBeChangedIsSaidAndStays) {
+TEST_F(ScreenshotToolTest, ReportsAndKeepsWhatCannotBeChanged) {
     nameThePictures();
     EXPECT_FALSE(domain("gnome-shell").obstacle(location).empty());
     setFolder("gnome-shell", makeFolder("other"));
@@ -416,7 +416,7 @@ TEST_F(ScreenshotToolTest, WhatCannotBeChangedIsSaidAndStays) {
         EXPECT_EQ(domain(tool).obstacle(location), "") << tool;
 }
 
-TEST_F(ScreenshotToolTest, ADamagedOrHugeFileMeansTheDefaultOneLineAndIsNotOverwritten) {
+TEST_F(ScreenshotToolTest, ADamagedOrHugeFileGivesTheDefaultAndOneLogLineAndIsNotOverwritten) {
     for (const auto& [tool, place] : files) {
         for (const auto& damage :
              {place.second + "=~/gone\n" + std::string("\0\x01", 2), std::string(2 << 20, '\n')}) {
@@ -438,7 +438,7 @@ TEST_F(ScreenshotToolTest, ADamagedOrHugeFileMeansTheDefaultOneLineAndIsNotOverw
     }
 }
 
-TEST_F(ScreenshotToolTest, AnUnreadableFileMeansTheDefaultOneLineAndIsNotOverwritten) {
+TEST_F(ScreenshotToolTest, AnUnreadableFileGivesTheDefaultAndOneLogLineAndIsNotOverwritten) {
     makeFolder("old");
     makeFolder("other");
     writeIn(".config/ksnip/ksnip.conf", "[Application]\nSaveDirectory=~/old\n");
@@ -470,14 +470,14 @@ TEST_F(ScreenshotToolTest, AReadOnlyFileIsReadAndNotOverwritten) {
               "[Application]\nSaveDirectory=" + inHome("old").path() + "\n");
 }
 
-TEST_F(ScreenshotToolTest, WhatCannotBeRememberedIsNotChanged) {
+TEST_F(ScreenshotToolTest, ChangesNothingThatItCannotRestore) {
     const Url other = makeFolder("other");
     auto preferences = domain("mate-screenshot", Url::file("/proc/none/memory.conf"));
     preferences.setValue(location, other.path());
     EXPECT_EQ(settings->texts["org.mate.screenshot last-save-directory"], "");
 }
 
-TEST_F(ScreenshotToolTest, AnUnknownSchemaMeansTheDefaultAndOneLine) {
+TEST_F(ScreenshotToolTest, AnUnknownSchemaGivesTheDefaultAndOneLogLine) {
     settings->texts.clear();
     auto preferences = domain("mate-screenshot");
     EXPECT_EQ(preferences.value(location), PreferenceValue(inHome("Desktop").path()));
@@ -487,14 +487,14 @@ TEST_F(ScreenshotToolTest, AnUnknownSchemaMeansTheDefaultAndOneLine) {
     EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("No such schema")));
 }
 
-TEST_F(ScreenshotToolTest, ASettingThatTheAdministratorLockedIsSaidSo) {
+TEST_F(ScreenshotToolTest, ReportsASettingThatTheAdministratorLocked) {
     settings->locked = true;
     EXPECT_FALSE(domain("gnome-screenshot").obstacle(location).empty());
     setFolder("gnome-screenshot", makeFolder("other"));
     EXPECT_EQ(folderOf("gnome-screenshot"), ".");
 }
 
-TEST_F(ScreenshotToolTest, TheNameThatSpectacleWroteDownCountsInAnyLanguage) {
+TEST_F(ScreenshotToolTest, TheNameThatSpectacleStoredCountsInAnyLanguage) {
     nameThePictures();
     writeIn(".config/spectaclerc",
             "[ImageSave]\ntranslatedScreenshotsFolder=\\sFotos\n"
@@ -514,19 +514,19 @@ TEST_F(ScreenshotToolTest, SpectacleForQt5HasItsOwnFolderAndSetting) {
     EXPECT_EQ(recordingsFolderOf("spectacle"), "none");
 }
 
-TEST_F(ScreenshotToolTest, TheSettingOfSpectacleForQt5IsNoneOfTheLaterOne) {
+TEST_F(ScreenshotToolTest, TheLaterSpectacleDoesNotUseTheSettingOfTheOneForQt5) {
     makeFolder("old");
     writeIn(".config/spectaclerc", "[Save]\ndefaultSaveLocation=~/old\n");
     EXPECT_EQ(folderOf("spectacle"), "Pictures/Screenshots");
 }
 
-TEST_F(ScreenshotToolTest, OfTwoSpectaclesTheLaterOneCounts) {
+TEST_F(ScreenshotToolTest, TheLaterOfTwoSpectaclesCounts) {
     installSpectacleForQt5();
     writeIn("local/share/knotifications6/spectacle.notifyrc", "");
     EXPECT_EQ(folderOf("spectacle"), "Pictures/Screenshots");
 }
 
-TEST_F(ScreenshotToolTest, RecordingsAreWhereTheDesktopsRecorderSavesThem) {
+TEST_F(ScreenshotToolTest, FindsTheFolderOfTheDesktopsRecorder) {
     EXPECT_EQ(recordingsFolderOf("spectacle"), "Videos/Screencasts");
     EXPECT_EQ(recordingsFolderOf("gnome-shell"), "Screencasts");
     writeIn(".config/user-dirs.dirs", "XDG_VIDEOS_DIR=\"$HOME/Filme\"\n");
@@ -550,7 +550,7 @@ TEST_F(ScreenshotToolTest, TheFolderForRecordingsCanBeChosen) {
     EXPECT_EQ(recordingsFolderOf("spectacle"), "Videos/Screencasts");
 }
 
-TEST_F(ScreenshotToolTest, OtherKeysAreNone) {
+TEST_F(ScreenshotToolTest, OtherKeysHaveNoValue) {
     auto preferences = domain("ksnip");
     preferences.setValue("name", std::string("x"));
     preferences.setValue(location, true);

@@ -71,7 +71,7 @@ TYPED_TEST_P(SerialQueueContract, DelayedWorkRunsInTheOrderOfItsDueTimes) {
     EXPECT_THAT(this->ran(), testing::ElementsAre("first", "second", "third"));
 }
 
-TYPED_TEST_P(SerialQueueContract, ADelayOfNothingKeepsTheOrderOfTheCalls) {
+TYPED_TEST_P(SerialQueueContract, AZeroDelayKeepsTheOrderOfTheCalls) {
     this->queue.async([this] {
         this->queue.after(Seconds(0), this->note("a"));
         this->queue.async(this->note("b"));
@@ -81,7 +81,7 @@ TYPED_TEST_P(SerialQueueContract, ADelayOfNothingKeepsTheOrderOfTheCalls) {
     EXPECT_THAT(this->ran(), testing::ElementsAre("a", "b", "c"));
 }
 
-TYPED_TEST_P(SerialQueueContract, WorkThatAsksForMoreEndsBeforeItRuns) {
+TYPED_TEST_P(SerialQueueContract, WorkEndsBeforeTheWorkThatItSchedules) {
     this->queue.async([this] {
         this->queue.async(this->note("inner"));
         this->add("outer");
@@ -90,7 +90,7 @@ TYPED_TEST_P(SerialQueueContract, WorkThatAsksForMoreEndsBeforeItRuns) {
     EXPECT_THAT(this->ran(), testing::ElementsAre("outer", "inner"));
 }
 
-TYPED_TEST_P(SerialQueueContract, DelayedWorkDoesNotHoldUpOtherWork) {
+TYPED_TEST_P(SerialQueueContract, DelayedWorkDoesNotDelayOtherWork) {
     this->queue.after(Seconds(3600), this->note("much later"));
     this->queue.async(this->note("now"));
     ASSERT_TRUE(this->made.waitUntil(this->count(1)));
@@ -99,7 +99,7 @@ TYPED_TEST_P(SerialQueueContract, DelayedWorkDoesNotHoldUpOtherWork) {
 
 REGISTER_TYPED_TEST_SUITE_P(SerialQueueContract, WorkRunsInTheOrderOfTheCalls,
                             DelayedWorkRunsInTheOrderOfItsDueTimes,
-                            ADelayOfNothingKeepsTheOrderOfTheCalls,
-                            WorkThatAsksForMoreEndsBeforeItRuns, DelayedWorkDoesNotHoldUpOtherWork);
+                            AZeroDelayKeepsTheOrderOfTheCalls, WorkEndsBeforeTheWorkThatItSchedules,
+                            DelayedWorkDoesNotDelayOtherWork);
 
 }  // namespace vantle

@@ -8,22 +8,22 @@ namespace {
 
 using fakes::FakeEnvironment;
 
-TEST(ServerChoiceTest, WhereOverlaysAreOfferedItIsWayland) {
+TEST(ServerChoiceTest, ChoosesWaylandIfItOffersOverlays) {
     EXPECT_EQ(serversToTry({Offer::overlays, true}), "wayland;xcb");
     EXPECT_EQ(serversToTry({Offer::overlays, false}), "wayland;xcb");
 }
 
-TEST(ServerChoiceTest, WhereTheCompositorPlacesAllWindowsItIsXWaylandIfThereIsOne) {
+TEST(ServerChoiceTest, ChoosesXWaylandIfTheCompositorPlacesAllWindows) {
     EXPECT_EQ(serversToTry({Offer::windows, true}), "xcb;wayland");
     EXPECT_EQ(serversToTry({Offer::windows, false}), "wayland;xcb");
 }
 
-TEST(ServerChoiceTest, WithoutACompositorItIsX11) {
+TEST(ServerChoiceTest, ChoosesX11WithoutACompositor) {
     EXPECT_EQ(serversToTry({Offer::none, true}), "xcb;wayland");
     EXPECT_EQ(serversToTry({Offer::none, false}), "xcb;wayland");
 }
 
-TEST(ServerChoiceTest, ACompositorIsAskedOnlyInItsOwnSession) {
+TEST(ServerChoiceTest, AsksACompositorOnlyInItsOwnSession) {
     EXPECT_FALSE(isWaylandSession(FakeEnvironment{{"DISPLAY", ":0"}}));
     EXPECT_FALSE(isWaylandSession(FakeEnvironment{{"XDG_SESSION_TYPE", "x11"}}));
     EXPECT_TRUE(isWaylandSession(FakeEnvironment{{"XDG_SESSION_TYPE", "wayland"}}));
@@ -31,7 +31,7 @@ TEST(ServerChoiceTest, ACompositorIsAskedOnlyInItsOwnSession) {
     EXPECT_TRUE(isWaylandSession(FakeEnvironment{{"QT_QPA_PLATFORM", "wayland"}}));
 }
 
-TEST(ServerChoiceTest, WhereNobodyAnswersNothingIsOffered) {
+TEST(ServerChoiceTest, FindsNoOverlaysIfNoCompositorAnswers) {
     setenv("WAYLAND_DISPLAY", "/nonexistent/wayland", 1);
     EXPECT_EQ(askCompositor(), Offer::none);
     unsetenv("WAYLAND_DISPLAY");

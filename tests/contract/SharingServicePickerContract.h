@@ -41,7 +41,7 @@ protected:
 
 TYPED_TEST_SUITE_P(SharingServicePickerContract);
 
-TYPED_TEST_P(SharingServicePickerContract, TellsAChoiceOnce) {
+TYPED_TEST_P(SharingServicePickerContract, ReportsAChoiceOnce) {
     this->show(this->listener);
     EXPECT_THAT(this->listener->told, testing::IsEmpty());
     this->menu.choose();
@@ -49,13 +49,13 @@ TYPED_TEST_P(SharingServicePickerContract, TellsAChoiceOnce) {
     EXPECT_NE(this->listener->told[0], "");
 }
 
-TYPED_TEST_P(SharingServicePickerContract, TellsThatItClosedWithoutAChoice) {
+TYPED_TEST_P(SharingServicePickerContract, ReportsThatItClosedWithoutAChoice) {
     this->show(this->listener);
     this->menu.close();
     EXPECT_THAT(this->listener->told, testing::ElementsAre(""));
 }
 
-TYPED_TEST_P(SharingServicePickerContract, CanBeClosedByWhoOpenedIt) {
+TYPED_TEST_P(SharingServicePickerContract, CanBeClosedByItsOpener) {
     this->menu.picker.close();
     this->show(this->listener);
     this->menu.picker.close();
@@ -74,14 +74,14 @@ TYPED_TEST_P(SharingServicePickerContract, ASecondMenuClosesTheFirst) {
     EXPECT_EQ(second->told.size(), 1u);
 }
 
-TYPED_TEST_P(SharingServicePickerContract, NobodyNeedsToBeThereAnyMore) {
+TYPED_TEST_P(SharingServicePickerContract, TheListenerMayBeGone) {
     this->show(this->listener);
     this->listener.reset();
     this->menu.choose();
 }
 
-REGISTER_TYPED_TEST_SUITE_P(SharingServicePickerContract, TellsAChoiceOnce,
-                            TellsThatItClosedWithoutAChoice, CanBeClosedByWhoOpenedIt,
-                            ASecondMenuClosesTheFirst, NobodyNeedsToBeThereAnyMore);
+REGISTER_TYPED_TEST_SUITE_P(SharingServicePickerContract, ReportsAChoiceOnce,
+                            ReportsThatItClosedWithoutAChoice, CanBeClosedByItsOpener,
+                            ASecondMenuClosesTheFirst, TheListenerMayBeGone);
 
 }  // namespace vantle

@@ -148,7 +148,7 @@ using SharingSourceTest = SharingSourceTestOn<SharingDesktop>;
 using BluetoothSharingTest = SharingSourceTestOn<BluetoothAdapter>;
 using MailSharingTest = SharingSourceTestOn<MailProgram>;
 
-TEST_F(SharingSourceTest, WithoutABusNothingIsOffered) {
+TEST_F(SharingSourceTest, OffersNothingWithoutABus) {
     const QDBusConnection none(QStringLiteral("none"));
     KdeConnectSharing kde(none);
     GsConnectSharing gnome(none);
@@ -168,7 +168,7 @@ TEST_F(SharingSourceTest, KdeConnectOffersItsDevicesByName) {
     EXPECT_THAT(service.device.received, ElementsAre(QString::fromStdString(file.address())));
 }
 
-TEST_F(SharingSourceTest, ADeviceThatHasGoneMeanwhileIsLogged) {
+TEST_F(SharingSourceTest, ADeviceThatVanishedIsLogged) {
     KdeConnectService service(bus.connect());
     service.daemon.names = {{QStringLiteral("gone"), QStringLiteral("Phone")}};
     KdeConnectSharing source(bus.connect());
@@ -228,7 +228,7 @@ TEST_F(MailSharingTest, NeedsAProgramThatTakesMailAddresses) {
     EXPECT_THAT(titles(find(source)), ElementsAre("Mail…"));
 }
 
-TEST_F(MailSharingTest, NeedsSomebodyToAsk) {
+TEST_F(MailSharingTest, NeedsThePortalOrTheDesktopsMailCommand) {
     installMailProgram();
     EXPECT_THAT(find(source), IsEmpty());
 }
@@ -241,7 +241,7 @@ TEST_F(MailSharingTest, TheUsersOwnChoiceCountsAsWell) {
     EXPECT_THAT(titles(find(source)), ElementsAre("Mail…"));
 }
 
-TEST_F(MailSharingTest, AttachesTheFileByTheDesktopsProgram) {
+TEST_F(MailSharingTest, AttachesTheFileWithTheDesktopsProgram) {
     install("xdg-email");
     installMailProgram();
     find(source)[0].perform({file});
@@ -250,7 +250,7 @@ TEST_F(MailSharingTest, AttachesTheFileByTheDesktopsProgram) {
     EXPECT_THAT(launcher.launched[0].arguments, ElementsAre("--attach", file.path()));
 }
 
-TEST_F(MailSharingTest, AttachesTheFileByThePortalWhereThereIsOne) {
+TEST_F(MailSharingTest, AttachesTheFileThroughThePortalIfThereIsOne) {
     const EmailPortal portal(bus.connect());
     install("xdg-email");
     installMailProgram();
@@ -260,7 +260,7 @@ TEST_F(MailSharingTest, AttachesTheFileByThePortalWhereThereIsOne) {
     EXPECT_THAT(launcher.launched, IsEmpty());
 }
 
-TEST(SharingSourcesTest, GiveTheirOffersInOrderOnceAllHaveAnswered) {
+TEST(SharingSourcesTest, ReturnsTheOffersInOrderAfterAllAnswers) {
     fakes::FakeSharingSource::Script one{.offers = {{"first", "", {}}}, .isQuick = false};
     fakes::FakeSharingSource::Script two{.offers = {{"second", "", {}}}, .isQuick = false};
     std::vector<std::unique_ptr<SharingSource>> list;
@@ -277,7 +277,7 @@ TEST(SharingSourcesTest, GiveTheirOffersInOrderOnceAllHaveAnswered) {
     EXPECT_THAT(titles, ElementsAre("first", "second"));
 }
 
-TEST(SharingSourcesTest, NoneOfThemFindNothing) {
+TEST(SharingSourcesTest, ReturnsNothingWithoutSources) {
     bool isTold = false;
     SharingSources({}).find([&](const auto& offers) { isTold = offers.empty(); });
     EXPECT_TRUE(isTold);

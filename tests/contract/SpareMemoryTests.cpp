@@ -19,7 +19,7 @@ std::size_t residentBytes() {
     return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
 }
 
-TEST(GlibcSpareMemory, GivesBackWhatIsFreeBelowSomethingThatIsUsed) {
+TEST(GlibcSpareMemory, ReleasesFreeMemoryBelowUsedMemory) {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     GTEST_SKIP() << "a sanitizer has an allocator of its own";
 #endif

@@ -43,7 +43,7 @@ protected:
 
 TYPED_TEST_SUITE_P(StatusItemContract);
 
-TYPED_TEST_P(StatusItemContract, IsInTheTrayOnceItIsShown) {
+TYPED_TEST_P(StatusItemContract, IsInTheTrayAfterItIsShown) {
     this->tray.start();
     EXPECT_FALSE(this->tray.item.isShown());
     this->tray.item.show();
@@ -57,7 +57,7 @@ TYPED_TEST_P(StatusItemContract, APictureThatDoesNotExistChangesNothing) {
     EXPECT_TRUE(this->tray.showsItem(true));
 }
 
-TYPED_TEST_P(StatusItemContract, FollowsATrayThatComesLaterAndStartsAnew) {
+TYPED_TEST_P(StatusItemContract, FollowsATrayThatAppearsLaterAndRestarts) {
     this->tray.stop();
     this->tray.item.show();
     EXPECT_TRUE(this->tray.showsItem(false));
@@ -78,7 +78,7 @@ TYPED_TEST_P(StatusItemContract, TheMenuIsMadeAtEachOpening) {
     EXPECT_THAT(this->tray.open(), testing::ElementsAre("Other"));
 }
 
-TYPED_TEST_P(StatusItemContract, ChoosingDoesWhatTheLineSays) {
+TYPED_TEST_P(StatusItemContract, ChoosingRunsTheActionOfTheLine) {
     this->lines.push_back({.title = "Plain", .action = [this] { this->timesChosen += 10; }});
     this->tray.start();
     this->tray.item.show();
@@ -101,9 +101,9 @@ TYPED_TEST_P(StatusItemContract, IsDimmedAndBackAgain) {
     EXPECT_FALSE(this->tray.isDimmed());
 }
 
-REGISTER_TYPED_TEST_SUITE_P(StatusItemContract, IsInTheTrayOnceItIsShown,
+REGISTER_TYPED_TEST_SUITE_P(StatusItemContract, IsInTheTrayAfterItIsShown,
                             APictureThatDoesNotExistChangesNothing,
-                            FollowsATrayThatComesLaterAndStartsAnew, TheMenuIsMadeAtEachOpening,
-                            ChoosingDoesWhatTheLineSays, IsDimmedAndBackAgain);
+                            FollowsATrayThatAppearsLaterAndRestarts, TheMenuIsMadeAtEachOpening,
+                            ChoosingRunsTheActionOfTheLine, IsDimmedAndBackAgain);
 
 }  // namespace vantle

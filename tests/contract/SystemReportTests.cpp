@@ -26,13 +26,13 @@ protected:
     TemporaryFolder share;
 };
 
-TEST_F(SystemReportTest, TheReleaseSaysHowTheProgramWasInstalled) {
+TEST_F(SystemReportTest, ReportsHowTheProgramWasInstalled) {
     EXPECT_EQ(line("installed as"), "neither a package nor a tree of a release");
     writeText(share / "release", "version=1.0\nplatform=linux-x86_64-deb\ninstallation=package\n");
     EXPECT_EQ(line("installed as"), "package");
 }
 
-TEST_F(SystemReportTest, TheSystemIsNamed) {
+TEST_F(SystemReportTest, ReportsTheNameOfTheSystem) {
     EXPECT_THAT(line("system"), HasSubstr(", Linux "));
     EXPECT_THAT(line("system"), HasSubstr(", glibc 2."));
 }
@@ -44,7 +44,7 @@ TEST_F(SystemReportTest, TheSessionIsTakenFromTheEnvironment) {
     EXPECT_EQ(line("session"), "x11");
 }
 
-TEST_F(SystemReportTest, DecodersThatDoNotStartAreNamed) {
+TEST_F(SystemReportTest, ReportsDecodersThatDoNotStart) {
     const auto lines = decoderReport("/nowhere/vantle-decoder");
     ASSERT_EQ(lines.size(), formatNames.size());
     EXPECT_EQ(lines.front(), (ReportLine{"no decoder", "png: No such file or directory"}));

@@ -42,7 +42,7 @@ TEST(ToolChoiceTest, AToolThatIsNotInstalledIsNotChosen) {
     EXPECT_EQ(chosen("GNOME", {}), "gnome-shell") << "it runs";
 }
 
-TEST(ToolChoiceTest, OnOtherDesktopsOnlyToolsOfNoDesktopAreChosen) {
+TEST(ToolChoiceTest, OtherDesktopsUseOnlyToolsOfNoDesktop) {
     EXPECT_EQ(chosen("sway", all), "flameshot");
     EXPECT_EQ(chosen("", all), "flameshot");
     EXPECT_EQ(chosen("", {"gnome-screenshot", "spectacle"}), "none");

@@ -20,7 +20,7 @@ std::string quit() {
     return localized("StatusBarController", "Quit Vantle");
 }
 
-TEST(Translations, TheFirstLanguageThatIsThereIsTaken) {
+TEST(Translations, UsesTheFirstAvailableLanguage) {
     EXPECT_EQ(taken({"fr", "de"}), "fr");
     EXPECT_EQ(taken({"tlh", "ja", "de"}), "ja");
 }
@@ -30,7 +30,7 @@ TEST(Translations, ALanguageOfACountryFallsBackToTheLanguage) {
     EXPECT_EQ(taken({"de-Latn-AT"}), "de");
 }
 
-TEST(Translations, EnglishIsAsWrittenButForWhatItSaysOfTheDesktop) {
+TEST(Translations, EnglishDiffersFromTheSourcesOnlyForTheDesktop) {
     for (const QStringList& languages : {QStringList{"en-US", "en", "de"}, {"C", "de"}}) {
         const Translations translations(folder, languages);
         EXPECT_EQ(translations.language(), "en");
@@ -39,16 +39,16 @@ TEST(Translations, EnglishIsAsWrittenButForWhatItSaysOfTheDesktop) {
     }
 }
 
-TEST(Translations, WhereThereIsNoneOfTheUsersItIsEnglish) {
+TEST(Translations, UsesEnglishIfNoLanguageOfTheUserIsAvailable) {
     EXPECT_EQ(taken({"tlh"}), "en");
     EXPECT_EQ(taken({}), "en");
 }
 
-TEST(Translations, WithoutAnyFileTheTextsAreAsTheyAreWritten) {
+TEST(Translations, UsesTheSourceTextsWithoutAnyFile) {
     EXPECT_EQ(Translations(QStringLiteral("/nowhere"), {"de"}).language(), "");
 }
 
-TEST(Translations, TheLogicSpeaksTheLanguageAsLongAsItLives) {
+TEST(Translations, TranslatesTheLogicDuringItsLifetime) {
     {
         const Translations translations(folder, {"de"});
         EXPECT_EQ(quit(), "Vantle beenden");
@@ -57,7 +57,7 @@ TEST(Translations, TheLogicSpeaksTheLanguageAsLongAsItLives) {
     EXPECT_EQ(quit(), "Quit Vantle");
 }
 
-TEST(Translations, TheViewsSpeakItOnceItIsInstalled) {
+TEST(Translations, TranslatesTheViewsAfterItIsInstalled) {
     const auto dismiss = [] { return QCoreApplication::translate("CloseButton", "Dismiss"); };
     {
         Translations translations(folder, {"ja"});
@@ -78,7 +78,7 @@ TEST(Translations, PluralsFollowTheNumber) {
     EXPECT_EQ(selected(3), QStringLiteral("3 sélectionnées"));
 }
 
-TEST(Translations, EachThatIsThereCanBeTaken) {
+TEST(Translations, EachAvailableLanguageCanBeUsed) {
     const auto files = QDir(folder).entryList({QStringLiteral("vantle_*.qm")});
     EXPECT_EQ(files.size(), 4);
     for (QString file : files) {

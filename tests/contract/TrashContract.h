@@ -58,7 +58,7 @@ TYPED_TEST_P(TrashContract, MovesAFile) {
     EXPECT_EQ(this->kind.trashed(), 1u);
 }
 
-TYPED_TEST_P(TrashContract, MovesSeveralFilesByOneRequest) {
+TYPED_TEST_P(TrashContract, MovesSeveralFilesWithOneRequest) {
     for (const auto* name : {"1.png", "2.png", "3.png"}) this->kind.save(this->file(name));
     EXPECT_EQ(this->recycle({this->file("1.png"), this->file("2.png"), this->file("3.png")}),
               std::nullopt);
@@ -72,7 +72,7 @@ TYPED_TEST_P(TrashContract, AFileThatHasGoneIsAFailureThatNamesIt) {
     EXPECT_THAT(failure->message, testing::StartsWith(this->file("gone.png").path() + ": "));
 }
 
-TYPED_TEST_P(TrashContract, AFailureDoesNotKeepTheOthersBack) {
+TYPED_TEST_P(TrashContract, AFailureDoesNotPreventTheOtherMoves) {
     this->kind.save(this->file("here.png"));
     const auto failure =
         this->recycle({this->file("1.png"), this->file("here.png"), this->file("2.png")});
@@ -83,7 +83,7 @@ TYPED_TEST_P(TrashContract, AFailureDoesNotKeepTheOthersBack) {
     EXPECT_EQ(this->kind.trashed(), 1u);
 }
 
-TYPED_TEST_P(TrashContract, TwoFilesOfOneNameAreBothKept) {
+TYPED_TEST_P(TrashContract, KeepsTwoFilesOfTheSameName) {
     for (int round = 0; round < 2; ++round) {
         this->kind.save(this->file("shot.png"));
         EXPECT_EQ(this->recycle({this->file("shot.png")}), std::nullopt);
@@ -91,8 +91,8 @@ TYPED_TEST_P(TrashContract, TwoFilesOfOneNameAreBothKept) {
     EXPECT_EQ(this->kind.trashed(), 2u);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(TrashContract, MovesAFile, MovesSeveralFilesByOneRequest,
-                            AFileThatHasGoneIsAFailureThatNamesIt, AFailureDoesNotKeepTheOthersBack,
-                            TwoFilesOfOneNameAreBothKept);
+REGISTER_TYPED_TEST_SUITE_P(TrashContract, MovesAFile, MovesSeveralFilesWithOneRequest,
+                            AFileThatHasGoneIsAFailureThatNamesIt,
+                            AFailureDoesNotPreventTheOtherMoves, KeepsTwoFilesOfTheSameName);
 
 }  // namespace vantle

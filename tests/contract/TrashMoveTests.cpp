@@ -59,7 +59,7 @@ protected:
     const Url trash = data.appending("Trash");
 };
 
-TEST_F(TrashMoveTest, KeepsContentsNameAndWhereItCameFrom) {
+TEST_F(TrashMoveTest, KeepsContentsNameAndOriginalPath) {
     const Url file = save("shot.png");
     const std::time_t before = std::time(nullptr);
     ASSERT_EQ(move(file), std::nullopt);
@@ -82,7 +82,7 @@ TEST_F(TrashMoveTest, NamesOfAnyBytesAreEncoded) {
               folder.path() + "/50%25%20%FF%20new%0Aline%20%23%20%3F%C3%A4.png");
 }
 
-TEST_F(TrashMoveTest, TheLongestNameStillHasItsInformation) {
+TEST_F(TrashMoveTest, TheLongestNameHasAnInformationFile) {
     const std::string name = std::string(251, 'n') + ".png";
     ASSERT_EQ(move(save(name)), std::nullopt);
     const auto names = namesIn(trash.appending("files"));
@@ -98,7 +98,7 @@ TEST_F(TrashMoveTest, ALongNameIsNotCutInsideACharacter) {
     EXPECT_THAT(namesIn(trash.appending("files")), ElementsAre(MatchesRegex("x(\u00e4)+\\.png")));
 }
 
-TEST_F(TrashMoveTest, OneOfANameThatIsThereGetsAnother) {
+TEST_F(TrashMoveTest, AFileWithATakenNameGetsAnotherName) {
     for (const auto* text : {"first", "second", "third"})
         ASSERT_EQ(move(save("shot.png", text)), std::nullopt);
     EXPECT_EQ(readText(trash.appending("files/shot.png")), "first");
@@ -116,14 +116,14 @@ TEST_F(TrashMoveTest, AFileWithoutInformationIsNotOverwritten) {
     EXPECT_THAT(namesIn(trash.appending("info")), ElementsAre("shot.2.png.trashinfo"));
 }
 
-TEST_F(TrashMoveTest, AFolderThatIsALinkIsStoredAsWhatItIs) {
+TEST_F(TrashMoveTest, AFileInALinkedFolderIsStoredWithItsRealPath) {
     save("shot.png");
     fs::create_directory_symlink(folder.path(), (place / "link").path());
     ASSERT_EQ(move(place / "link/shot.png"), std::nullopt);
     EXPECT_EQ(storedPath(trash, "shot.png"), folder.appending("shot.png").path());
 }
 
-TEST_F(TrashMoveTest, ALinkGoesWithoutWhatItPointsTo) {
+TEST_F(TrashMoveTest, ALinkIsMovedWithoutItsTarget) {
     const Url target = save("target.png");
     const Url link = folder.appending("link.png");
     fs::create_symlink(target.path(), link.path());
@@ -141,14 +141,14 @@ TEST_F(TrashMoveTest, TheTrashIsMadeForItsOwnerOnly) {
     }
 }
 
-TEST_F(TrashMoveTest, AFileThatHasGoneIsAFailureAndLeavesNothing) {
+TEST_F(TrashMoveTest, AMissingFileIsAFailureAndLeavesNothing) {
     const auto failure = move(folder.appending("gone.png"));
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(failure->code, ENOENT);
     EXPECT_THAT(namesIn(trash.appending("info")), IsEmpty());
 }
 
-TEST_F(TrashMoveTest, AFolderThatHasGoneIsAFailure) {
+TEST_F(TrashMoveTest, AMissingFolderIsAFailure) {
     const auto failure = move(place / "gone/shot.png");
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(failure->code, ENOENT);
@@ -166,7 +166,7 @@ TEST_F(TrashMoveTest, AFileInAReadOnlyFolderStays) {
     EXPECT_THAT(namesIn(trash.appending("info")), IsEmpty());
 }
 
-TEST_F(TrashMoveTest, WithoutATrashTheFileStays) {
+TEST_F(TrashMoveTest, TheFileStaysWithoutATrash) {
     const Url file = save("shot.png");
     writeText(data, "a file where the folder should be");
     EXPECT_TRUE(move(file).has_value());
@@ -219,7 +219,7 @@ TEST_F(VolumeTrashTest, GoesToTheVolumesOwnTrashWithARelativePath) {
     EXPECT_FALSE(exists(trash));
 }
 
-TEST_F(VolumeTrashTest, GoesToTheSharedTrashWhereThereIsOne) {
+TEST_F(VolumeTrashTest, GoesToTheSharedTrashIfThereIsOne) {
     const Url shared = volume.appending(".Trash");
     fs::create_directory(shared.path());
     chmod(shared.path().c_str(), 01777);
@@ -255,7 +255,7 @@ TEST_F(VolumeTrashTest, ATrashOfAnotherUserIsNotUsed) {
     EXPECT_EQ(readText(trash.appending("files/shot.png")), contents);
 }
 
-TEST_F(VolumeTrashTest, WithoutATrashOfTheVolumeTheFileIsCopiedHome) {
+TEST_F(VolumeTrashTest, IsCopiedToTheHomeTrashIfTheVolumeHasNone) {
     preventTrash();
     const Url file = saveInside("shot.png");
     fs::permissions(file.path(), fs::perms::owner_read | fs::perms::group_read);
@@ -269,7 +269,7 @@ TEST_F(VolumeTrashTest, WithoutATrashOfTheVolumeTheFileIsCopiedHome) {
     EXPECT_EQ(fs::status(copy.path()).permissions(), fs::perms::owner_read | fs::perms::group_read);
 }
 
-TEST_F(VolumeTrashTest, ACopyDoesNotOverwriteEither) {
+TEST_F(VolumeTrashTest, ACopyDoesNotOverwriteAFile) {
     preventTrash();
     fs::create_directories(trash.appending("files").path());
     writeText(trash.appending("files/shot.png"), "of somebody");
@@ -278,7 +278,7 @@ TEST_F(VolumeTrashTest, ACopyDoesNotOverwriteEither) {
     EXPECT_EQ(readText(trash.appending("files/shot.2.png")), contents);
 }
 
-TEST_F(VolumeTrashTest, AFullVolumeIsNoHindrance) {
+TEST_F(VolumeTrashTest, AFullVolumeDoesNotPreventTheMove) {
     const Url file = saveInside("shot.png");
     fill(volume);
     ASSERT_EQ(move(file), std::nullopt);
@@ -287,7 +287,7 @@ TEST_F(VolumeTrashTest, AFullVolumeIsNoHindrance) {
     EXPECT_THAT(namesIn(own.appending("info")), IsEmpty());
 }
 
-TEST_F(VolumeTrashTest, WithNoRoomAnywhereTheFileStays) {
+TEST_F(VolumeTrashTest, TheFileStaysIfThereIsNoRoomAnywhere) {
     const Url file = saveInside("shot.png");
     fill(volume);
     fill(data);
@@ -309,7 +309,7 @@ TEST_F(VolumeTrashTest, AFileOnAReadOnlyVolumeStays) {
     EXPECT_FALSE(exists(trash));
 }
 
-TEST_F(VolumeTrashTest, ABoundFolderHasATrashOfItsOwn) {
+TEST_F(VolumeTrashTest, ABindMountHasItsOwnTrash) {
     fs::create_directory(data.appending("pictures").path());
     const Url bound = place / "bound";
     ASSERT_TRUE(PrivateMounts::bind(data.appending("pictures"), bound));

@@ -87,7 +87,7 @@ protected:
     }
 };
 
-TEST_F(TrayOnBusTest, SaysWhatItIs) {
+TEST_F(TrayOnBusTest, DescribesItself) {
     EXPECT_EQ(tray.tray.property(QStringLiteral("Id")), QStringLiteral("ProgramItem"));
     EXPECT_EQ(tray.tray.property(QStringLiteral("Title")), QStringLiteral("Program"));
     EXPECT_EQ(tray.tray.property(QStringLiteral("Status")), QStringLiteral("Active"));
@@ -105,7 +105,7 @@ TEST_F(TrayOnBusTest, HasAnIconOfEverySize) {
     EXPECT_THAT(sizes, ElementsAre(16, 22, 24, 32, 48));
 }
 
-TEST_F(TrayOnBusTest, AClickOpensTheMenuThatWeDraw) {
+TEST_F(TrayOnBusTest, AClickOpensOurMenu) {
     for (const auto* method : {"Activate", "SecondaryActivate", "ContextMenu"})
         tray.tray.call(QStringLiteral("/StatusNotifierItem"),
                        QStringLiteral("org.kde.StatusNotifierItem"), QString::fromLatin1(method),
@@ -115,7 +115,7 @@ TEST_F(TrayOnBusTest, AClickOpensTheMenuThatWeDraw) {
     EXPECT_EQ(tray.opened[0].first.items.size(), 3u);
 }
 
-TEST_F(TrayOnBusTest, AClickOnADenseScreenOpensTheMenuThere) {
+TEST_F(TrayOnBusTest, AClickOnADenseScreenOpensTheMenuOnThatScreen) {
     tray.tray.call(QStringLiteral("/StatusNotifierItem"),
                    QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("Activate"),
                    {1440 + 200, 100 + 400});
@@ -123,7 +123,7 @@ TEST_F(TrayOnBusTest, AClickOnADenseScreenOpensTheMenuThere) {
     EXPECT_EQ(tray.opened[0].second.topLeft(), QPoint(1440 + 100, 100 + 200));
 }
 
-TEST_F(TrayOnBusTest, ALineThatLooksTheSameKeepsItsNumberAndNoNumberIsUsedAgain) {
+TEST_F(TrayOnBusTest, AnEqualLineKeepsItsNumberAndNoNumberIsReused) {
     const auto before = ids();
     lines.insert(lines.begin() + 1, {.title = "New"});
     const auto after = ids();
@@ -138,7 +138,7 @@ TEST_F(TrayOnBusTest, ALineThatLooksTheSameKeepsItsNumberAndNoNumberIsUsedAgain)
     EXPECT_THAT(after, testing::Not(testing::Contains(ids()[0])));
 }
 
-TEST_F(TrayOnBusTest, LinesThatStayKeepTheirOrderAlsoAmongRules) {
+TEST_F(TrayOnBusTest, RemainingLinesKeepTheirOrderEvenAmongSeparators) {
     const MenuItem rule{.kind = MenuItem::Kind::separator};
     lines = {{.title = "None"}, rule, {.title = "Settings"}, rule, {.title = "Quit"}};
     const auto before = ids();
@@ -150,14 +150,14 @@ TEST_F(TrayOnBusTest, LinesThatStayKeepTheirOrderAlsoAmongRules) {
                 testing::ElementsAre(before[1], before[2], before[3], before[4]));
 }
 
-TEST_F(TrayOnBusTest, AnActivationTokenThatTheTrayProvidesIsTaken) {
+TEST_F(TrayOnBusTest, UsesAnActivationTokenOfTheTray) {
     const auto reply = tray.tray.call(
         QStringLiteral("/StatusNotifierItem"), QStringLiteral("org.kde.StatusNotifierItem"),
         QStringLiteral("ProvideXdgActivationToken"), {QStringLiteral("token")});
     EXPECT_EQ(reply.type(), QDBusMessage::ReplyMessage);
 }
 
-TEST_F(TrayOnBusTest, AnOpenMenuStaysAsItIs) {
+TEST_F(TrayOnBusTest, AnOpenMenuDoesNotChange) {
     const auto before = ids();
     tray.tray.send(0, QStringLiteral("opened"));
     lines.clear();
@@ -170,7 +170,7 @@ TEST_F(TrayOnBusTest, AnOpenMenuStaysAsItIs) {
     EXPECT_TRUE(tray.tray.layout().children.isEmpty());
 }
 
-TEST_F(TrayOnBusTest, WhatChangedWhileTheMenuWasOpenIsToldWhenItCloses) {
+TEST_F(TrayOnBusTest, ChangesWhileTheMenuIsOpenAreReportedWhenItCloses) {
     EXPECT_EQ(ids().size(), 3u);
     tray.tray.send(0, QStringLiteral("opened"));
     lines.clear();
@@ -193,7 +193,7 @@ TEST_F(TrayOnBusTest, ATrayThatDiesWithTheMenuOpenDoesNotKeepIt) {
     EXPECT_TRUE(runUntil([&] { return tray.tray.layout().children.isEmpty(); }));
 }
 
-TEST_F(TrayOnBusTest, ATrayThatDoesNotSayWhenItOpensTheMenuHasTheLatest) {
+TEST_F(TrayOnBusTest, ATrayThatDoesNotReportOpeningTheMenuHasTheLatestOne) {
     EXPECT_EQ(tray.tray.layout().children.size(), 3);
     lines.clear();
     tray.item.menuChanged();
@@ -218,14 +218,14 @@ TEST_F(TrayOnBusTest, LinesCarryKeysAndPictures) {
     EXPECT_EQ(icon.pixelColor(6, 24).alpha(), 0);
 }
 
-TEST_F(TrayOnBusTest, TheKeyOfTheSettingsHasTheNameThatTraysKnow) {
+TEST_F(TrayOnBusTest, TheShortcutOfTheSettingsHasTheNameThatTraysUse) {
     lines = {{.title = "Settings…", .keyEquivalent = ","}};
     const auto line = tray.tray.open().children.at(0).properties;
     EXPECT_EQ(qdbus_cast<BusShortcut>(line[QStringLiteral("shortcut")]),
               (BusShortcut{{QStringLiteral("Control"), QStringLiteral("comma")}}));
 }
 
-TEST_F(TrayOnBusTest, WhatDoesNotExistIsNoAccident) {
+TEST_F(TrayOnBusTest, AnUnknownLineIsHarmless) {
     tray.tray.send(4711, QStringLiteral("clicked"));
     const auto one =
         tray.tray.callMenu(QStringLiteral("GetProperty"), {4711, QStringLiteral("label")});
@@ -240,7 +240,7 @@ TEST_F(TrayOnBusTest, WhatDoesNotExistIsNoAccident) {
     EXPECT_EQ(tray.tray.layout().children.size(), 3);
 }
 
-TEST_F(TrayOnBusTest, WhereNobodyDrawsWhatIsRegisteredThereIsNoIcon) {
+TEST_F(TrayOnBusTest, ThereIsNoIconWithoutATrayHost) {
     tray.tray.setHost(false);
     EXPECT_TRUE(runUntil([&] { return !tray.item.isShown(); }));
     EXPECT_EQ(tray.item.tray(), "none");
@@ -249,7 +249,7 @@ TEST_F(TrayOnBusTest, WhereNobodyDrawsWhatIsRegisteredThereIsNoIcon) {
     EXPECT_EQ(tray.item.tray(), "on D-Bus");
 }
 
-TEST(TrayWithoutHostTest, RegisteringIsNotBeingShown) {
+TEST(TrayWithoutHostTest, ARegisteredItemIsNotShownWithoutAHost) {
     BusTray tray;
     EXPECT_TRUE(tray.item.setImage("photo.on.rectangle.angled", "Program"));
     tray.tray.setHost(false);
@@ -262,7 +262,7 @@ TEST(TrayWithoutHostTest, RegisteringIsNotBeingShown) {
     EXPECT_FALSE(tray.item.isShown());
 }
 
-TEST(TrayStatusItemTest, WithoutABusThereIsNoItem) {
+TEST(TrayStatusItemTest, ThereIsNoItemWithoutABus) {
     TrayStatusItem item([](const auto&, const auto&) {}, TrayStatusItem::Click::opensOurMenu,
                         QDBusConnection(QStringLiteral("none")));
     item.show();

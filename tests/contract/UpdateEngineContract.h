@@ -69,7 +69,7 @@ TYPED_TEST_P(UpdateEngineContract, PreparesToTheEnd) {
     EXPECT_EQ(this->reports, told);
 }
 
-TYPED_TEST_P(UpdateEngineContract, WhatIsCancelledReportsNothingMore) {
+TYPED_TEST_P(UpdateEngineContract, ReportsNothingAfterACancel) {
     this->desk.willReport({report::Progress{1}, report::Ready{}});
     this->desk.engine->prepare(this->item, this->keep());
     this->desk.engine->cancel();
@@ -80,7 +80,7 @@ TYPED_TEST_P(UpdateEngineContract, WhatIsCancelledReportsNothingMore) {
     EXPECT_THAT(this->reports, testing::IsEmpty());
 }
 
-TYPED_TEST_P(UpdateEngineContract, TheLastReportMayBeginTheNextThing) {
+TYPED_TEST_P(UpdateEngineContract, TheLastReportMayStartAnotherAction) {
     this->desk.willReport({report::UpdateFound{this->item}});
     this->desk.engine->check({.version = "1.0"}, [&](const UpdateReport& report) {
         this->reports.push_back(report);
@@ -97,7 +97,7 @@ TYPED_TEST_P(UpdateEngineContract, AnOrdinaryStartIsNotOnTrial) {
 }
 
 REGISTER_TYPED_TEST_SUITE_P(UpdateEngineContract, ReportsInOrderAndLater, PreparesToTheEnd,
-                            WhatIsCancelledReportsNothingMore, TheLastReportMayBeginTheNextThing,
+                            ReportsNothingAfterACancel, TheLastReportMayStartAnotherAction,
                             AnOrdinaryStartIsNotOnTrial);
 
 }  // namespace vantle

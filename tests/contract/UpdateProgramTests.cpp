@@ -70,7 +70,7 @@ protected:
     ProgramEngine desk;
 };
 
-TEST_F(UpdateProgramTest, AProgramThatIsMissingIsAFailure) {
+TEST_F(UpdateProgramTest, AMissingProgramIsAFailure) {
     UpdateProgram engine(QStringLiteral("/nowhere/updater"));
     std::optional<UpdateReport> last;
     engine.check({.version = "1.0"}, [&](const UpdateReport& report) { last = report; });
@@ -79,24 +79,24 @@ TEST_F(UpdateProgramTest, AProgramThatIsMissingIsAFailure) {
     EXPECT_TRUE(std::holds_alternative<report::Failed>(*last));
 }
 
-TEST_F(UpdateProgramTest, WhatEndsWithoutALastReportIsAFailure) {
+TEST_F(UpdateProgramTest, EndingWithoutALastReportIsAFailure) {
     for (const auto* script : {"exit 0", "exit 3", "kill -KILL $$", "echo nonsense",
                                "echo ready now", "printf ready", "head -c 3000000 /dev/zero"})
         EXPECT_TRUE(std::holds_alternative<report::Failed>(checkWith(script))) << script;
 }
 
-TEST_F(UpdateProgramTest, WhatIsNoReportIsPassedOver) {
+TEST_F(UpdateProgramTest, IgnoresLinesThatAreNoReports) {
     EXPECT_EQ(checkWith("echo nonsense; echo; echo ready; echo ready; echo 'nothing\tx'"),
               UpdateReport(report::Ready{}));
 }
 
-TEST_F(UpdateProgramTest, AsksWithAllItWasGiven) {
+TEST_F(UpdateProgramTest, PassesAllArgumentsOfACheck) {
     checkWith(writeArguments);
     EXPECT_THAT(arguments(),
                 ElementsAre("check", "--version=1.0", "--channel=", "--newest-feed=0"));
 }
 
-TEST_F(UpdateProgramTest, AsksForAnotherFeedAlsoForAnEmptyOne) {
+TEST_F(UpdateProgramTest, PassesAnotherFeedEvenAnEmptyOne) {
     desk.setScript(writeArguments);
     bool hasEnded = false;
     desk.engine->check({.feed = "", .version = "1.0", .channel = "beta", .newestFeed = 7},
@@ -106,7 +106,7 @@ TEST_F(UpdateProgramTest, AsksForAnotherFeedAlsoForAnEmptyOne) {
                                          "--newest-feed=7", "--feed="));
 }
 
-TEST_F(UpdateProgramTest, PreparesWhatWasFound) {
+TEST_F(UpdateProgramTest, PreparesTheUpdateThatWasFound) {
     desk.setScript(writeArguments);
     desk.engine->prepare(item, [](const UpdateReport&) {});
     EXPECT_THAT(arguments(),
@@ -135,7 +135,7 @@ TEST_F(UpdateProgramTest, ARelaunchWithoutAnAnswerIsAFailure) {
     EXPECT_EQ(failure->message, "The program that does updates does not answer.");
 }
 
-TEST_F(UpdateProgramTest, WhatIsUnderWayEndsWithIt) {
+TEST_F(UpdateProgramTest, RunningWorkEndsWithIt) {
     desk.setScript("echo $$ > \"$0.part\"; mv \"$0.part\" \"$0.arguments\"; exec sleep 600");
     desk.engine->check({.version = "1.0"}, [](const UpdateReport&) { FAIL(); });
     const pid_t process = std::stoi(arguments().at(0));
@@ -168,7 +168,7 @@ TEST_F(UpdateProgramTest, AnOrderlyEndConfirmsTheStart) {
     close(ends[0]);
 }
 
-TEST_F(UpdateProgramTest, AStartThatNobodyWaitsForAnyMoreIsConfirmedWithoutHarm) {
+TEST_F(UpdateProgramTest, ConfirmingAStartAfterTheUpdaterHasGoneIsHarmless) {
     std::array<int, 2> ends{};
     ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
     qputenv("VANTLE_UPDATE_READY", QByteArray::number(ends[1]));
@@ -178,7 +178,7 @@ TEST_F(UpdateProgramTest, AStartThatNobodyWaitsForAnyMoreIsConfirmedWithoutHarm)
     EXPECT_FALSE(engine.isOnTrial());
 }
 
-TEST_F(UpdateProgramTest, NonsenseInTheEnvironmentIsNoTrial) {
+TEST_F(UpdateProgramTest, InvalidVariablesAreNoTrial) {
     for (const auto* value : {"", "x", "99999", "-1", "2"}) {
         qputenv("VANTLE_UPDATE_READY", value);
         EXPECT_FALSE(UpdateProgram(desk.program).isOnTrial()) << value;
@@ -187,7 +187,7 @@ TEST_F(UpdateProgramTest, NonsenseInTheEnvironmentIsNoTrial) {
     EXPECT_EQ(UpdateProgram(desk.program).rolledBack(), std::nullopt);
 }
 
-TEST_F(UpdateProgramTest, AnOutcomeIsTakenOutOfTheEnvironment) {
+TEST_F(UpdateProgramTest, RemovesTheOutcomeFromTheEnvironment) {
     const report::RolledBack back{"1.2", "It crashed."};
     qputenv("VANTLE_UPDATE_OUTCOME", QByteArray::fromStdString(lineOf(back)));
     EXPECT_EQ(UpdateProgram(desk.program).rolledBack(), back);

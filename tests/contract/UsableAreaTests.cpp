@@ -11,7 +11,7 @@ namespace {
 const QRect left(0, 0, 1920, 1080);
 const QRect right(1920, 0, 1280, 720);
 
-TEST(UsableAreaTest, WithoutPanelsAScreenIsFree) {
+TEST(UsableAreaTest, AScreenIsFreeWithoutPanels) {
     EXPECT_EQ(withoutStruts(right, {}), right);
 }
 
@@ -21,7 +21,7 @@ TEST(UsableAreaTest, APanelTakesAnEdgeOfItsScreenOnly) {
     EXPECT_EQ(withoutStruts(right, struts), right);
 }
 
-TEST(UsableAreaTest, EachEdgeCanBeTaken) {
+TEST(UsableAreaTest, EachEdgeCanBeReserved) {
     EXPECT_EQ(withoutStruts(left, {{QRect(0, 0, 1920, 30), QRect(0, 0, 1920, 30)}}),
               QRect(0, 30, 1920, 1050));
     EXPECT_EQ(withoutStruts(left, {{QRect(0, 0, 60, 1080), QRect(0, 0, 60, 1080)}}),

@@ -23,7 +23,7 @@ protected:
 
 TYPED_TEST_SUITE_P(UserDefaultsContract);
 
-TYPED_TEST_P(UserDefaultsContract, WhatIsNeitherStoredNorRegisteredIsNothing) {
+TYPED_TEST_P(UserDefaultsContract, AValueThatIsNeitherStoredNorRegisteredIsMissing) {
     EXPECT_FALSE(this->defaults.boolean("key"));
     EXPECT_EQ(this->defaults.number("key"), 0);
     EXPECT_EQ(this->defaults.text("key"), std::nullopt);
@@ -49,7 +49,7 @@ TYPED_TEST_P(UserDefaultsContract, DefaultsRegisteredLaterAreAdded) {
     EXPECT_EQ(this->defaults.number("b"), 2);
 }
 
-TYPED_TEST_P(UserDefaultsContract, AValueOfAnotherTypeIsConvertedAsFarAsItMeansSomething) {
+TYPED_TEST_P(UserDefaultsContract, AValueOfAnotherTypeIsConvertedIfPossible) {
     this->defaults.set("number", 0.5);
     EXPECT_TRUE(this->defaults.boolean("number"));
     this->defaults.set("yes", true);
@@ -61,7 +61,7 @@ TYPED_TEST_P(UserDefaultsContract, AValueOfAnotherTypeIsConvertedAsFarAsItMeansS
     EXPECT_EQ(this->defaults.text("number"), std::nullopt);
 }
 
-TYPED_TEST_P(UserDefaultsContract, AValueThatMeansNothingLeavesTheRegisteredDefault) {
+TYPED_TEST_P(UserDefaultsContract, AnInvalidValueGivesTheRegisteredDefault) {
     this->defaults.registerDefaults({{"choice", true}, {"number", 10.0}});
     this->defaults.set("choice", std::string("perhaps"));
     this->defaults.set("number", std::string("ten"));
@@ -69,10 +69,10 @@ TYPED_TEST_P(UserDefaultsContract, AValueThatMeansNothingLeavesTheRegisteredDefa
     EXPECT_EQ(this->defaults.number("number"), 10);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(UserDefaultsContract, WhatIsNeitherStoredNorRegisteredIsNothing,
+REGISTER_TYPED_TEST_SUITE_P(UserDefaultsContract, AValueThatIsNeitherStoredNorRegisteredIsMissing,
                             TheRegisteredDefaultCountsUntilSomethingIsStored,
                             DefaultsRegisteredLaterAreAdded,
-                            AValueOfAnotherTypeIsConvertedAsFarAsItMeansSomething,
-                            AValueThatMeansNothingLeavesTheRegisteredDefault);
+                            AValueOfAnotherTypeIsConvertedIfPossible,
+                            AnInvalidValueGivesTheRegisteredDefault);
 
 }  // namespace vantle

@@ -37,7 +37,7 @@ TEST(UserDirectoriesTest, BlanksAndEscapesAreAllowed) {
     EXPECT_EQ(desktopIn("  XDG_DESKTOP_DIR \t=  \"/a\\\"b\\\\c\"  # mine\n"), "/a\"b\\c");
 }
 
-TEST(UserDirectoriesTest, WhatMeansNothingIsPassedOver) {
+TEST(UserDirectoriesTest, IgnoresInvalidLines) {
     for (const auto* text :
          {"", "# XDG_DESKTOP_DIR=\"/a\"", "XDG_DESKTOP_DIR=/a", "XDG_DESKTOP_DIR=\"/a",
           "XDG_DESKTOP_DIRECTORY=\"/a\"", "XDG_DESKTOP_DIR=\"$HOMEWARD/a\"",
@@ -56,12 +56,12 @@ protected:
     fakes::FakeEnvironment variables{{"HOME", folder.url().path()}};
 };
 
-TEST_F(UserDirectoriesOnDisk, WithoutSettingsTheDesktopIsInTheHomeFolder) {
+TEST_F(UserDirectoriesOnDisk, TheDesktopIsInTheHomeFolderWithoutSettings) {
     EXPECT_EQ(files().homeDirectory(), folder.url());
     EXPECT_EQ(desktop(), folder / "Desktop");
 }
 
-TEST_F(UserDirectoriesOnDisk, TheSettingsAreReadAnewEachTime) {
+TEST_F(UserDirectoriesOnDisk, ReadsTheSettingsEachTime) {
     std::filesystem::create_directory((folder / ".config").path());
     const Url settings = (folder / ".config").appending("user-dirs.dirs");
     for (const std::string name : {"Bureau", "Escritorio"}) {
@@ -70,7 +70,7 @@ TEST_F(UserDirectoriesOnDisk, TheSettingsAreReadAnewEachTime) {
     }
 }
 
-TEST_F(UserDirectoriesOnDisk, TheConfigurationFolderMayStandElsewhere) {
+TEST_F(UserDirectoriesOnDisk, TheConfigurationFolderMayBeElsewhere) {
     std::filesystem::create_directory((folder / "settings").path());
     variables["XDG_CONFIG_HOME"] = (folder / "settings").path();
     writeText((folder / "settings").appending("user-dirs.dirs"), "XDG_DESKTOP_DIR=\"/desk\"\n");
@@ -79,7 +79,7 @@ TEST_F(UserDirectoriesOnDisk, TheConfigurationFolderMayStandElsewhere) {
     EXPECT_EQ(desktop(), folder / "Desktop");
 }
 
-TEST_F(UserDirectoriesOnDisk, WithoutAHomeVariableTheAccountsCounts) {
+TEST_F(UserDirectoriesOnDisk, UsesTheAccountsHomeWithoutTheVariable) {
     variables = {};
     EXPECT_TRUE(files().homeDirectory().path().starts_with('/'));
     variables["HOME"] = "relative";

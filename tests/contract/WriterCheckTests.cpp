@@ -40,7 +40,7 @@ TEST_F(WriterCheckTest, OnlyWritersCount) {
     EXPECT_FALSE(hasWriter(file));
 }
 
-TEST_F(WriterCheckTest, ALeaseThatAServerRefusesTellsNothing) {
+TEST_F(WriterCheckTest, ARefusedLeaseOfAServerProvesNothing) {
     EXPECT_EQ(hasWriterByLease(EAGAIN, EXT4_SUPER_MAGIC), true);
     for (const std::uint32_t server : {0x6969U, 0x517BU, 0xFF534D42U, 0xFE534D42U})
         EXPECT_EQ(hasWriterByLease(EAGAIN, server), std::nullopt);
@@ -82,7 +82,7 @@ int foundByAnotherUser(const Url& file) {
     return during | (hasWriter(file) ? 2 : 0);
 }
 
-TEST_F(WriterCheckTest, WhereTheKernelGivesNoLeaseProcessesAreLookedThrough) {
+TEST_F(WriterCheckTest, SearchesTheProcessesIfTheKernelGivesNoLease) {
     if (geteuid() != 0) GTEST_SKIP() << "only root may act for another user";
     std::filesystem::permissions(file.path(), std::filesystem::perms::all);
     std::filesystem::permissions(folder.url().path(), std::filesystem::perms::all);
@@ -95,7 +95,7 @@ TEST_F(WriterCheckTest, WhereTheKernelGivesNoLeaseProcessesAreLookedThrough) {
     EXPECT_EQ(WEXITSTATUS(status), 1);
 }
 
-TEST_F(WriterCheckTest, AWriterThatComesInTheMomentOfTheQuestionDoesNotEndTheProgram) {
+TEST_F(WriterCheckTest, AWriterThatOpensTheFileDuringTheCheckDoesNotEndTheProgram) {
     const pid_t writer = fork();
     ASSERT_GE(writer, 0);
     if (writer == 0)
@@ -106,7 +106,7 @@ TEST_F(WriterCheckTest, AWriterThatComesInTheMomentOfTheQuestionDoesNotEndThePro
     EXPECT_FALSE(hasWriter(file));
 }
 
-TEST_F(WriterCheckTest, WhatCannotBeLookedAtHasNoWriter) {
+TEST_F(WriterCheckTest, AFileThatCannotBeExaminedHasNoWriter) {
     EXPECT_FALSE(hasWriter(folder / "nothing.mp4"));
     std::filesystem::create_symlink(file.path(), (folder / "link.mp4").path());
     const auto writer = open(O_WRONLY);

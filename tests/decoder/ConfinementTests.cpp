@@ -39,7 +39,7 @@ void PrintTo(const MissingGuard& guard, std::ostream* stream) {
 
 class ConfinementWithout : public testing::TestWithParam<MissingGuard> {};
 
-TEST_P(ConfinementWithout, StillOpensFilesAndSaysSoOnce) {
+TEST_P(ConfinementWithout, OpensFilesAndLogsTheMissingGuardOnce) {
     if (!hasLandlock()) GTEST_SKIP() << "this kernel lacks Landlock anyway";
     fakes::CapturedLog log;
     ConfinedMediaLoader loader(GetParam().decoder, one);
@@ -62,7 +62,7 @@ INSTANTIATE_TEST_SUITE_P(Guards, ConfinementWithout,
                                          MissingGuard{VANTLE_WITHOUT_BOTH,
                                                       "Landlock and seccomp"}));
 
-TEST(Confinement, ReportsOfFaultsTellTheGuardsThatAreInForce) {
+TEST(Confinement, FaultReportsListTheActiveGuards) {
     if (!hasLandlock()) GTEST_SKIP() << "this kernel lacks Landlock";
     const std::string all = "png, jpeg, gif, tiff, heic, webp, pdf, recording; ";
     const auto guards = [&](const char* decoder) { return decoderReport(decoder).back(); };
@@ -72,7 +72,7 @@ TEST(Confinement, ReportsOfFaultsTellTheGuardsThatAreInForce) {
     EXPECT_EQ(guards(VANTLE_WITHOUT_SECCOMP).value, all + "Landlock in force, seccomp missing");
 }
 
-TEST(Confinement, IsSilentWhereNothingIsMissing) {
+TEST(Confinement, LogsNothingIfAllGuardsWork) {
     if (!hasLandlock()) GTEST_SKIP() << "this kernel lacks Landlock";
     fakes::CapturedLog log;
     EXPECT_NE(drawn("rgb.png"), nullptr);
@@ -120,7 +120,7 @@ TEST_P(LinkedLibraries, HoldNothingOfUpdates) {
 INSTANTIATE_TEST_SUITE_P(Confinement, LinkedLibraries,
                          testing::Values(VANTLE_PROGRAM, VANTLE_VIEWS));
 
-TEST(Confinement, TheProgramLoadsNoSceneBeforeThereIsSomethingToSee) {
+TEST(Confinement, TheProgramLoadsNoSceneBeforeItShowsSomething) {
     const std::string libraries = outputOf("ldd " VANTLE_PROGRAM);
     EXPECT_NE(libraries.find("libQt6Gui"), std::string::npos);
     for (const auto* library : {"libQt6Quick", "libQt6Qml", "libQt6Network", "libQt6Svg"})

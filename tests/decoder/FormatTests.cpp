@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(Formats, TranslucentImage,
                                          "translucent.heic", "translucent.avif", "translucent.webp",
                                          "translucent_lossy.webp"));
 
-TEST(TransparentImage, HasNothingWhereItsColorIsTransparent) {
+TEST(TransparentImage, IsEmptyWhereItsColorIsTransparent) {
     for (const auto* name : {"transparent_color.png", "transparent.gif"}) {
         const auto image = drawn(name);
         ASSERT_NE(image, nullptr) << name;
@@ -97,13 +97,13 @@ TEST(TransparentImage, MayHaveAPaletteWithAlpha) {
                 IsAbout(std::array{red, Color{0, 128, 0, 128}, nothing, yellow}, 0));
 }
 
-TEST(TransparentImage, HasNothingWhereItsOnlyFrameIsNot) {
+TEST(TransparentImage, IsEmptyOutsideOfItsOnlyFrame) {
     const auto image = drawn("one_quarter.gif");
     ASSERT_NE(image, nullptr);
     EXPECT_THAT(quarters(*image), IsAbout(std::array{red, nothing, nothing, nothing}, 0));
 }
 
-TEST(TransparentImage, HasNothingAroundAFirstFrameThatBeginsFartherIn) {
+TEST(TransparentImage, IsEmptyAroundAFirstFrameThatIsFartherIn) {
     const auto image = drawn("one_quarter.webp");
     ASSERT_NE(image, nullptr);
     EXPECT_THAT(quarters(*image), IsAbout(std::array{nothing, nothing, nothing, yellow}, 0));
@@ -127,7 +127,7 @@ TEST(GrayImageTest, MayStoreWhiteAsZero) {
     EXPECT_THAT(quarters(*image), IsAbout(std::array{white, black, white, black}, 0));
 }
 
-TEST(GrayImageTest, MayBeNumbersBetweenBlackAndWhite) {
+TEST(GrayImageTest, MayHaveFloatingPointValues) {
     const auto image = drawn("gray_steps.tif");
     ASSERT_NE(image, nullptr);
     constexpr std::array steps{black, Color{64, 64, 64, 255}, Color{128, 128, 128, 255}, white};
@@ -155,7 +155,7 @@ TEST(GrayImageTest, HasEqualParts) {
 
 class ProfiledImage : public testing::TestWithParam<const char*> {};
 
-TEST_P(ProfiledImage, IsShownInTheColorsOfAScreen) {
+TEST_P(ProfiledImage, IsConvertedToScreenColors) {
     const auto image = drawn(GetParam());
     ASSERT_NE(image, nullptr);
     // The file stores red and green exchanged, with a profile that exchanges them back.
@@ -175,7 +175,7 @@ TEST(ProfiledImageTest, MayBeTranslucent) {
     EXPECT_THAT(quarters(*image), IsAbout(expected, 6));
 }
 
-TEST(PdfTest, LettersOfAFontThatIsNotInTheFileAreDrawn) {
+TEST(PdfTest, DrawsLettersOfAFontThatIsNotEmbedded) {
     if (!hasLandlock()) GTEST_SKIP() << "without Landlock no font can be read";
     const auto image = drawn("letters.pdf", {100, 48});
     ASSERT_NE(image, nullptr);
@@ -209,7 +209,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "cut.avif", "cut.webp", "cut_before_end.webp", "cut_in_header.webp",
                     "no_frame.webp", "cut.pdf", "no_pages.pdf", "empty.png", "text.png"));
 
-TEST(DecoderTest, WritesNothingAboutAnyFile) {
+TEST(DecoderTest, LogsNothingAboutAnyFile) {
     if (!hasLandlock()) GTEST_SKIP() << "the program says once that this kernel lacks Landlock";
     testing::internal::CaptureStderr();
     for (const auto* name :

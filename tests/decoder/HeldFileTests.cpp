@@ -44,13 +44,13 @@ protected:
 
 class HeldImage : public HeldFile, public testing::WithParamInterface<const char*> {};
 
-TEST_P(HeldImage, IsLetGoOnceItIsDrawn) {
+TEST_P(HeldImage, IsReleasedAfterItIsDrawn) {
     const Url copy = copyOf(GetParam());
     if (const auto image = loader.openImage(copy)) image->draw(usual);
     EXPECT_TRUE(isFolderGoneWhenItIsRemoved());
 }
 
-TEST_P(HeldImage, IsLetGoOnceItIsOpened) {
+TEST_P(HeldImage, IsReleasedAfterItIsOpened) {
     const Url copy = copyOf(GetParam());
     loader.openImage(copy);
     EXPECT_TRUE(isFolderGoneWhenItIsRemoved());
@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(Damaged, HeldImage,
 
 class HeldRecording : public HeldFile, public testing::WithParamInterface<const char*> {};
 
-TEST_P(HeldRecording, IsLetGoOnceItsFrameIsDrawn) {
+TEST_P(HeldRecording, IsReleasedAfterItsFrameIsDrawn) {
     const Url copy = copyOf(GetParam());
     if (const auto recording = loader.openRecording(copy)) recording->frame(0.5, 800);
     EXPECT_TRUE(isFolderGoneWhenItIsRemoved());

@@ -71,7 +71,7 @@ constexpr int times = 2000;
 
 class CutOff : public HostileFile, public testing::WithParamInterface<const char*> {};
 
-TEST_P(CutOff, EverySampleAtManyPlacesHarmsNobody) {
+TEST_P(CutOff, EverySampleIsHarmlessAtManyLengths) {
     int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(VANTLE_SAMPLES)) {
         // These use all the time that they are allowed, wherever they are cut off.
@@ -126,7 +126,7 @@ constexpr std::array ofEachKind = {"filters_rgba.png",
 
 class Flipped : public HostileFile, public testing::WithParamInterface<const char*> {};
 
-TEST_P(Flipped, BytesThousandsOfTimesHarmNobody) {
+TEST_P(Flipped, ThousandsOfFlippedBytesAreHarmless) {
     const Bytes whole = contents(std::string(file(GetParam()).path()));
     ASSERT_FALSE(whole.empty());
     std::mt19937 random(1);
@@ -194,7 +194,7 @@ INSTANTIATE_TEST_SUITE_P(Samples, LyingFile,
                                          "huge_lossy.webp", "huge_canvas.webp",
                                          "frame_outside.webp", "huge.avif", "huge.heic"));
 
-TEST_F(HostileFile, ARecordingThatLiesGivesNoPicture) {
+TEST_F(HostileFile, ALyingRecordingGivesNoPicture) {
     for (const auto* name : {"lying_index.mp4", "long_index.mp4", "huge_frames.webm"}) {
         const auto recording = loader.openRecording(file(name));
         EXPECT_EQ(recording ? recording->frame(0.5, 800) : nullptr, nullptr) << name;
@@ -202,7 +202,7 @@ TEST_F(HostileFile, ARecordingThatLiesGivesNoPicture) {
     expectGoodFileWorks();
 }
 
-TEST_F(HostileFile, OnlyTheFirstOfManyFramesIsLookedAt) {
+TEST_F(HostileFile, ReadsOnlyTheFirstOfManyFrames) {
     for (const auto* name : {"many_frames.gif", "many_frames.webp"}) {
         const auto image = loader.openImage(file(name));
         ASSERT_NE(image, nullptr) << name;
@@ -222,7 +222,7 @@ TEST_F(HostileFile, OnlyRegularFilesAreOpened) {
     expectGoodFileWorks();
 }
 
-TEST_F(HostileFile, AFileThatGrowsOrShrinksMeanwhileHarmsNobody) {
+TEST_F(HostileFile, AFileThatGrowsOrShrinksMeanwhileIsHarmless) {
     const Url copy = folder / "changing.pdf";
     std::filesystem::copy_file(file("letters.pdf").path(), copy.path());
     const auto image = loader.openImage(copy);

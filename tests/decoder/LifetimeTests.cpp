@@ -66,7 +66,7 @@ TEST_F(DecoderLifetime, OneServesABurst) {
     EXPECT_EQ(decoders(), first);
 }
 
-TEST_F(DecoderLifetime, AnotherFormatTakesItsPlace) {
+TEST_F(DecoderLifetime, AnotherFormatReplacesIt) {
     Loader loader;
     ASSERT_TRUE(opensAndDraws(loader, "rgb.png"));
     ASSERT_TRUE(opensAndDraws(loader, "baseline.jpg"));
@@ -82,7 +82,7 @@ TEST_F(DecoderLifetime, ItEndsWithTheLoader) {
     EXPECT_EQ(statusOfEnded(), 0);
 }
 
-TEST_F(DecoderLifetime, ItGoesWhenNothingIsAskedOfItAndComesBack) {
+TEST_F(DecoderLifetime, EndsWhenItIsIdleAndStartsAgain) {
     Loader loader;
     const auto image = loader.openImage(file("rgb.png"));
     ASSERT_NE(image, nullptr);
@@ -93,7 +93,7 @@ TEST_F(DecoderLifetime, ItGoesWhenNothingIsAskedOfItAndComesBack) {
     EXPECT_NE(image->draw(usual), nullptr);
 }
 
-TEST_F(DecoderLifetime, OneThatHangsIsKilledAndTheNextFileGetsItsPicture) {
+TEST_F(DecoderLifetime, ADecoderThatHangsIsKilledAndTheNextFileIsDrawn) {
     DecodingTimeouts timeout;
     timeout.image = 700ms;
     Loader loader(1, timeout);
@@ -105,7 +105,7 @@ TEST_F(DecoderLifetime, OneThatHangsIsKilledAndTheNextFileGetsItsPicture) {
     EXPECT_TRUE(opensAndDraws(loader, "quarters.pdf"));
 }
 
-TEST_F(DecoderLifetime, OneThatStopsAnsweringIsKilled) {
+TEST_F(DecoderLifetime, ADecoderThatStopsAnsweringIsKilled) {
     DecodingTimeouts timeout;
     timeout.image = 700ms;
     Loader loader(1, timeout);
@@ -118,7 +118,7 @@ TEST_F(DecoderLifetime, OneThatStopsAnsweringIsKilled) {
     EXPECT_TRUE(opensAndDraws(loader, "rgb.png"));
 }
 
-TEST_F(DecoderLifetime, OneThatDiedBetweenRequestsCostsNothing) {
+TEST_F(DecoderLifetime, ADecoderThatDiedBetweenRequestsIsReplaced) {
     Loader loader;
     const auto image = loader.openImage(file("rgb.png"));
     ASSERT_NE(image, nullptr);
@@ -128,12 +128,12 @@ TEST_F(DecoderLifetime, OneThatDiedBetweenRequestsCostsNothing) {
 }
 
 /// The probe dies at its second file, as a decoder may that the first file has damaged.
-TEST_F(DecoderLifetime, OneThatDiesOverTheNextFileIsReplaced) {
+TEST_F(DecoderLifetime, ADecoderThatDiesAtTheNextFileIsReplaced) {
     ConfinedMediaLoader loader(VANTLE_PROBE_DECODER, [] { return 1.0; });
     for (int i = 0; i < 3; ++i) EXPECT_NE(loader.openImage(file("rgb.png")), nullptr) << i;
 }
 
-TEST_F(DecoderLifetime, AProgramThatIsMissingIsReportedOnce) {
+TEST_F(DecoderLifetime, AMissingProgramIsReportedOnce) {
     fakes::CapturedLog log;
     ConfinedMediaLoader loader("/nowhere/vantle-decoder", [] { return 1.0; });
     EXPECT_EQ(loader.openImage(file("rgb.png")), nullptr);

@@ -99,7 +99,7 @@ private:
     std::mt19937 random_{1};
 };
 
-TEST_P(PngFilters, AreUndoneAsTheStandardSays) {
+TEST_P(PngFilters, AreUndoneAsTheStandardDefines) {
     for (const Bytes& filters : {Bytes{0, 1, 2, 3, 4}, Bytes{4}, Bytes{3}, Bytes{1}, Bytes{1, 3, 4},
                                  Bytes{2, 4, 4, 4, 4, 4, 4}})
         for (const std::size_t bytesPerPixel : {3U, 4U})
@@ -111,7 +111,7 @@ TEST_P(PngFilters, AreUndoneAsTheStandardSays) {
                 }
 }
 
-TEST_P(PngFilters, ThatDoNotExistAreRefused) {
+TEST_P(PngFilters, UnknownFiltersAreRefused) {
     const StoredRows stored = rows(9, 3, 4, {5});
     Bytes result(stored.size() * stored.count + spare);
     EXPECT_FALSE(undoPngFilters(stored.stored.data(), stored.above.data(), result.data(),

@@ -24,7 +24,7 @@ class RecordingOfColors : public RecordingTest, public testing::WithParamInterfa
 INSTANTIATE_TEST_SUITE_P(Containers, RecordingOfColors,
                          testing::Values("colors.mp4", "colors.webm"));
 
-TEST_P(RecordingOfColors, ShowsTheFrameOfTheTime) {
+TEST_P(RecordingOfColors, ShowsTheFrameAtTheRequestedTime) {
     const auto recording = opened(GetParam());
     ASSERT_NE(recording, nullptr);
     EXPECT_NEAR(recording->duration(), 10, 0.001);
@@ -44,7 +44,7 @@ TEST_P(RecordingOfColors, ShowsTheFrameOfTheTime) {
     EXPECT_THAT(colorAtTime(-1), IsAbout(only(red), 6));
 }
 
-TEST_F(RecordingTest, ATimeThatIsNoNumberMeansTheBeginning) {
+TEST_F(RecordingTest, AnInvalidTimeMeansTheBeginning) {
     const auto recording = opened("colors.mp4");
     ASSERT_NE(recording, nullptr);
     const auto frame = recording->frame(std::numeric_limits<double>::quiet_NaN(), 800);
@@ -52,7 +52,7 @@ TEST_F(RecordingTest, ATimeThatIsNoNumberMeansTheBeginning) {
     EXPECT_THAT(only(colorAt(*frame, 30, 20)), IsAbout(only(red), 6));
 }
 
-TEST_F(RecordingTest, AShortOneHasItsDuration) {
+TEST_F(RecordingTest, AShortRecordingHasItsDuration) {
     const auto recording = opened("short.mov");
     ASSERT_NE(recording, nullptr);
     EXPECT_NEAR(recording->duration(), 0.4, 0.001);
@@ -61,7 +61,7 @@ TEST_F(RecordingTest, AShortOneHasItsDuration) {
     EXPECT_THAT(quarters(*frame), IsAbout(usualQuarters, 12));
 }
 
-TEST_F(RecordingTest, APortraitOneIsUpright) {
+TEST_F(RecordingTest, APortraitRecordingIsUpright) {
     const auto recording = opened("portrait.mov");
     ASSERT_NE(recording, nullptr);
     EXPECT_EQ(recording->videoTrackSize(), usual);
@@ -71,7 +71,7 @@ TEST_F(RecordingTest, APortraitOneIsUpright) {
     EXPECT_THAT(quarters(*frame), IsAbout(usualQuarters, 12));
 }
 
-TEST_F(RecordingTest, WidePixelsCountAsWideAsTheyAre) {
+TEST_F(RecordingTest, WidePixelsAreDrawnWide) {
     for (const auto* name : {"wide_pixels.mp4", "wide_pixels.mkv"}) {
         const auto recording = opened(name);
         ASSERT_NE(recording, nullptr) << name;
@@ -82,14 +82,14 @@ TEST_F(RecordingTest, WidePixelsCountAsWideAsTheyAre) {
     }
 }
 
-TEST_F(RecordingTest, OneInFragmentsHasItsDuration) {
+TEST_F(RecordingTest, AFragmentedRecordingHasItsDuration) {
     const auto recording = opened("fragments.mp4");
     ASSERT_NE(recording, nullptr);
     EXPECT_NEAR(recording->duration(), 2, 0.05);
     EXPECT_NE(recording->frame(0.5, 800), nullptr);
 }
 
-TEST_F(RecordingTest, OneThatWasSentWhileItWasMadeHasItsDuration) {
+TEST_F(RecordingTest, ALiveRecordingHasItsDuration) {
     const auto recording = opened("live.webm");
     ASSERT_NE(recording, nullptr);
     EXPECT_NEAR(recording->duration(), 2, 0.05);
@@ -98,7 +98,7 @@ TEST_F(RecordingTest, OneThatWasSentWhileItWasMadeHasItsDuration) {
     EXPECT_THAT(quarters(*frame), IsAbout(usualQuarters, 12));
 }
 
-TEST_F(RecordingTest, OneWhoseRecorderWasKilledIsAsLongAsItGot) {
+TEST_F(RecordingTest, AnInterruptedRecordingHasTheDurationOfItsContents) {
     const auto recording = opened("killed.webm");
     ASSERT_NE(recording, nullptr);
     EXPECT_GT(recording->duration(), 1);
@@ -106,7 +106,7 @@ TEST_F(RecordingTest, OneWhoseRecorderWasKilledIsAsLongAsItGot) {
     EXPECT_NE(recording->frame(0.5, 800), nullptr);
 }
 
-TEST_F(RecordingTest, OneOfSoundOnlyHasItsDurationAndNoPicture) {
+TEST_F(RecordingTest, ARecordingOfSoundHasADurationAndNoPicture) {
     for (const auto* name : {"sound.m4v", "sound.webm"}) {
         const auto recording = opened(name);
         ASSERT_NE(recording, nullptr) << name;

@@ -66,7 +66,7 @@ std::uint8_t wave(double x, double y) {
                                                              std::cos(y * 4 * std::numbers::pi)));
 }
 
-TEST(Reducer, KeepsEverythingInItsPlace) {
+TEST(Reducer, KeepsThePlacesOfColors) {
     for (const PixelSize source : {PixelSize{640, 480}, {1001, 703}, {1999, 1501}}) {
         const PixelSize target{160, 120};
         Bytes rows;
@@ -90,7 +90,7 @@ TEST(Reducer, NeverGivesMoreColorThanAlpha) {
             ASSERT_LE(picture.rgba[i + part], picture.rgba[i + 3]);
 }
 
-TEST(Reducer, ColorsOfNothingDoNotSpread) {
+TEST(Reducer, ColorsOfTransparentPixelsDoNotSpread) {
     // Transparent bright red, beside opaque black.
     Bytes rows;
     for (int i = 0; i < 64 * 64; ++i) {
@@ -123,7 +123,7 @@ TEST(Kernels, TheBestAndThePortableOnesAgree) {
         }
 }
 
-TEST(ThreadedReduction, GivesWhatTheReducerGives) {
+TEST(ThreadedReduction, GivesTheSameAsTheReducer) {
     const PixelSize source{1200, 900};
     const Bytes rows = noise(1200 * 900 * 3);
     ThreadedReduction reduction(source, {300, 225}, PixelLayout::rgb);
@@ -136,7 +136,7 @@ TEST(ThreadedReduction, GivesWhatTheReducerGives) {
     EXPECT_EQ(picture->rgba, reduced(rows, source, {300, 225}, PixelLayout::rgb).rgba);
 }
 
-TEST(ThreadedReduction, GivesNothingWhereRowsAreMissing) {
+TEST(ThreadedReduction, GivesNothingIfRowsAreMissing) {
     ThreadedReduction reduction({100, 50}, {10, 5}, PixelLayout::rgb);
     reduction.row();
     reduction.rowIsWritten();

@@ -9,7 +9,7 @@ using Policy = Application::ActivationPolicy;
 
 using AppDelegateTest = AppFixture;
 
-TEST_F(AppDelegateTest, AFolderThatChangesByItselfIsWatchedFromThenOn) {
+TEST_F(AppDelegateTest, AFolderThatChangesOutsideIsWatchedFromThenOn) {
     launch();
     const Url other = Url::file("/home/user/Other");
     (void)files->createDirectory(other);
@@ -20,7 +20,7 @@ TEST_F(AppDelegateTest, AFolderThatChangesByItselfIsWatchedFromThenOn) {
     EXPECT_TRUE(delegate->watcher().isWatching());
 }
 
-TEST_F(AppDelegateTest, ASavedScreenshotComesToThePanelAndTheRecentList) {
+TEST_F(AppDelegateTest, ASavedScreenshotIsShownOnThePanelAndInTheRecentList) {
     launch();
     save("shot.png");
     EXPECT_THAT(recentNames(), ElementsAre("shot.png"));
@@ -50,7 +50,7 @@ TEST_F(AppDelegateTest, ClipboardAndSoundComeBeforeThePanel) {
                 ElementsAre("copy file /home/user/Desktop/shot.png", "sound Pop", "panel made"));
 }
 
-TEST_F(AppDelegateTest, ACaptureThatIsCopiedAtOnceLeavesAndGoesToTheTrashFromWhenItAppeared) {
+TEST_F(AppDelegateTest, AnAutomaticallyCopiedCaptureIsTrashedCountingFromItsAppearance) {
     defaults->stored["copyOnCapture"] = true;
     defaults->stored["removeAfterUse"] = true;
     defaults->stored["deleteAfterUse"] = true;
@@ -109,7 +109,7 @@ TEST_F(AppDelegateTest, TheActivationPolicyIsAppliedAtLaunch) {
     EXPECT_THAT(application->policies, ElementsAre(Policy::regular));
 }
 
-TEST_F(AppDelegateTest, BeforeOnboardingIsFinishedReopeningShowsIt) {
+TEST_F(AppDelegateTest, ReopeningShowsTheOnboardingUntilItIsFinished) {
     offerWindows();
     defaults->stored["hasCompletedOnboarding"] = false;
     launch();
@@ -130,7 +130,7 @@ TEST_F(AppDelegateTest, FinishingOnboardingStartsWatching) {
     EXPECT_EQ(defaults->stored.at("hasCompletedOnboarding"), PreferenceValue(true));
 }
 
-TEST_F(AppDelegateTest, WithoutAnOnboardingWindowItIsFinishedAtOnce) {
+TEST_F(AppDelegateTest, TheOnboardingIsFinishedAtOnceWithoutAWindow) {
     defaults->stored.clear();
     launch();
     EXPECT_TRUE(delegate->settings().hasCompletedOnboarding.value());
@@ -204,7 +204,7 @@ TEST_F(AppDelegateTest, ASnapshotOfTheOnboardingIsWrittenAfterASecond) {
     EXPECT_EQ(files->contents(picture), "onboarding at 2");
 }
 
-TEST_F(AppDelegateTest, WithoutTheWindowThereIsNoSnapshot) {
+TEST_F(AppDelegateTest, ThereIsNoSnapshotWithoutTheWindow) {
     offerWindows();
     environment["VANTLE_SNAPSHOT_ONBOARDING"] = "/tmp/onboarding.png";
     defaults->stored["hasCompletedOnboarding"] = false;
@@ -261,7 +261,7 @@ TEST_F(AppDelegateTest, TheStatusBarListsRecentAndShowsAgain) {
     EXPECT_TRUE(delegate->panel().isVisible());
 }
 
-TEST_F(AppDelegateTest, CallbacksDoNothingOnceTheDelegateHasGone) {
+TEST_F(AppDelegateTest, CallbacksDoNothingAfterTheDelegateHasGone) {
     launch();
     const auto recent = delegate->statusBar().recent;
     const auto onShow = delegate->statusBar().onShow;

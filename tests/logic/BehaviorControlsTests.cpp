@@ -28,7 +28,7 @@ TEST_F(BehaviorControlsTest, WithATimerTheToggleIsOffAndTheSecondsAreWhole) {
     EXPECT_EQ(controls.dismissAfterText(), "12 seconds");
 }
 
-TEST_F(BehaviorControlsTest, ASliderThatMovesIsStoredOnceItRests) {
+TEST_F(BehaviorControlsTest, AMovedSliderIsStoredWhenItRests) {
     settings.dismissAfter.set(30);
     int stored = 0;
     const auto subscription = settings.dismissAfter.observeChanges([&](double) { ++stored; });
@@ -45,7 +45,7 @@ TEST_F(BehaviorControlsTest, ASliderThatMovesIsStoredOnceItRests) {
     EXPECT_EQ(seconds(), 90);
 }
 
-TEST_F(BehaviorControlsTest, ASliderThatHasJustMovedIsNotLost) {
+TEST_F(BehaviorControlsTest, AJustMovedSliderIsNotLost) {
     settings.dismissAfter.set(30);
     {
         BehaviorControls controls(settings, scheduler);
@@ -77,7 +77,7 @@ TEST_F(BehaviorControlsTest, OffRestoresTheLastPositiveNumberOfSeconds) {
     EXPECT_EQ(seconds(), 45);
 }
 
-TEST_F(BehaviorControlsTest, OffIsTenSecondsWhenThereWereNone) {
+TEST_F(BehaviorControlsTest, OffMeansTenSecondsIfThereWereNone) {
     settings.dismissAfter.set(-5);
     settings.dismissAfter.set(0);
     BehaviorControls controls(settings, scheduler);
@@ -85,7 +85,7 @@ TEST_F(BehaviorControlsTest, OffIsTenSecondsWhenThereWereNone) {
     EXPECT_EQ(seconds(), 10);
 }
 
-TEST_F(BehaviorControlsTest, SayingTheSameAgainChangesNothing) {
+TEST_F(BehaviorControlsTest, SettingTheSameAgainChangesNothing) {
     settings.dismissAfter.set(30);
     BehaviorControls controls(settings, scheduler);
     settings.dismissAfter.set(-1);
@@ -114,7 +114,7 @@ TEST_F(BehaviorControlsTest, TheSliderNeverOffersValuesBelow3OrAbove120) {
     EXPECT_EQ(controls.sliderValue(), 3);
 }
 
-TEST_F(BehaviorControlsTest, NumbersThatNoSliderGivesAreShownAsTheyAre) {
+TEST_F(BehaviorControlsTest, NumbersThatTheSliderCannotSetAreShownUnchanged) {
     settings.dismissAfter.set(500);
     const BehaviorControls controls(settings, scheduler);
     EXPECT_EQ(controls.dismissAfterText(), "500 seconds");

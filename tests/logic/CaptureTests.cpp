@@ -29,7 +29,7 @@ protected:
     fakes::FakeMediaLoader media;
 };
 
-TEST(CaptureKindOfFile, IsDecidedByTheExtensionWholeAndWithoutRegardToCase) {
+TEST(CaptureKindOfFile, DependsOnTheWholeExtensionInAnyCase) {
     const auto kind = [](const char* name) {
         return Capture::kind(Url::file("/shots").appending(name));
     };
@@ -69,7 +69,7 @@ TEST(CaptureKindOfFile, CountsTheExtensionsThatTheSystemAdds) {
     EXPECT_EQ(Capture::kind(Url::file("/shots/a.webm")), std::nullopt);
 }
 
-TEST_F(CaptureTest, IsMadeOfAFileThatTheSystemAdds) {
+TEST_F(CaptureTest, IsMadeOfAFileWithAnExtensionThatTheSystemAdds) {
     EXPECT_EQ(Capture::create(Url::file("/shots/a.webm"), Date{}), nullptr);
     const auto capture = Capture::create(Url::file("/shots/a.webm"), Date{}, more);
     ASSERT_NE(capture, nullptr);
@@ -141,25 +141,25 @@ ImagePointer grey(int width, int height, std::vector<std::uint8_t> values) {
     return image;
 }
 
-TEST(SmallPicture, HasTheMeanOfWhatEachPixelStandsFor) {
+TEST(SmallPicture, HasTheMeanOfThePixelsThatEachPixelReplaces) {
     const auto small = smallPicture(grey(4, 2, {10, 20, 0, 0, 30, 41, 0, 255}), 2, 2);
     EXPECT_EQ(small->pixelsWide, 2);
     EXPECT_EQ(small->pixelsHigh, 1);
     EXPECT_THAT(small->rgba, ElementsAre(25, 1, 2, 255, 64, 1, 2, 255));
 }
 
-TEST(SmallPicture, TakesInEveryPixelWhereTheSizesDoNotDivide) {
+TEST(SmallPicture, UsesEveryPixelIfTheSizesDoNotDivide) {
     const auto small = smallPicture(grey(5, 1, {0, 100, 50, 60, 70}), 2, 9);
     EXPECT_THAT(small->rgba, ElementsAre(50, 1, 2, 255, 60, 1, 2, 255));
 }
 
-TEST(SmallPicture, OfALineThereIsALine) {
+TEST(SmallPicture, ALineStaysALine) {
     const auto small = smallPicture(grey(6, 1, {1, 1, 1, 4, 4, 4}), 2, 2);
     EXPECT_EQ(small->pixelsHigh, 1);
     EXPECT_THAT(small->rgba, ElementsAre(1, 1, 2, 255, 4, 1, 2, 255));
 }
 
-TEST(SmallPicture, IsTheImageItselfWhereThatFits) {
+TEST(SmallPicture, IsTheImageItselfIfThatFits) {
     const auto image = grey(2, 1, {1, 2});
     EXPECT_EQ(smallPicture(image, 2, 1), image);
 }
@@ -228,7 +228,7 @@ TEST_F(CaptureTest, ARecordingWithoutFrameKeepsItsDurationOnly) {
     EXPECT_EQ(capture->pixelSize(), Size{});
 }
 
-TEST_F(CaptureTest, TwoOfTheSameFileAreEqualThoughTheirIdentifiersDiffer) {
+TEST_F(CaptureTest, TwoOfTheSameFileAreEqualAlthoughTheirIdentifiersDiffer) {
     const auto first = Capture::create(shot, Date{});
     const auto second = Capture::create(shot, Date{});
     EXPECT_EQ(*first, *second);

@@ -79,7 +79,7 @@ TEST_F(CaptureUseTest, RevealShowsTheFileAndCountsAsUseAtOnce) {
     expectNoTrashEver();
 }
 
-TEST_F(CaptureUseTest, AFileThatVanishedIsToldAndNobodyIsAskedForIt) {
+TEST_F(CaptureUseTest, AVanishedFileIsMarkedAndNotOpened) {
     remove();
     const auto shown = show({"a", "b"});
     for (const auto& capture : shown) files.remove(capture->url());
@@ -97,7 +97,7 @@ TEST_F(CaptureUseTest, AFileThatVanishedIsToldAndNobodyIsAskedForIt) {
     EXPECT_THAT(shownNames(), ElementsAre("a.png", "b.png"));
 }
 
-TEST_F(CaptureUseTest, CopyCountsAsUseOnceTheConfirmationWasSeen) {
+TEST_F(CaptureUseTest, CopyCountsAsUseAfterTheConfirmation) {
     remove();
     actions.copy(show({"a"})[0]);
     expectRemovalAfter(0.7);
@@ -110,7 +110,7 @@ TEST_F(CaptureUseTest, ACopiedFileGoesToTheTrashLater) {
     expectTrashInFiveSeconds(1);
 }
 
-TEST_F(CaptureUseTest, CopyingTheSelectionCountsForEachOfIt) {
+TEST_F(CaptureUseTest, CopyingTheSelectionCountsForEachCapture) {
     remove();
     const auto shown = show({"a", "b", "c"});
     select({shown[2], shown[0]});
@@ -131,7 +131,7 @@ TEST_F(CaptureUseTest, FilesOfACopiedSelectionGoToTheTrashTogether) {
     EXPECT_THAT(trash.requests, ElementsAre(ElementsAre(shown[0]->url(), shown[2]->url())));
 }
 
-TEST_F(CaptureUseTest, AnAutomaticCopyCountsFromWhenTheCaptureAppears) {
+TEST_F(CaptureUseTest, AnAutomaticCopyCountsFromTheAppearanceOfTheCapture) {
     removeAndTrash();
     const auto taken = capture("a");
     files.write(taken->url(), 1000, fakes::VirtualClock::epoch);
@@ -179,7 +179,7 @@ TEST_F(CaptureUseTest, ACompletedDragOfFilesThatLeftThePanelDoesNothing) {
     EXPECT_THAT(shownNames(), ElementsAre("b.png"));
 }
 
-TEST_F(CaptureUseTest, SharingCountsOnceAServiceIsChosen) {
+TEST_F(CaptureUseTest, SharingCountsAsUseWhenAServiceIsChosen) {
     removeAndTrash();
     const auto shown = show({"a"});
     actions.share(shown[0], Rect{});
@@ -207,7 +207,7 @@ TEST_F(CaptureUseTest, AShareMenuClosedWithoutAChoiceRestartsTheCountdownAndRemo
     expectNoTrashEver();
 }
 
-TEST_F(CaptureUseTest, TheShareMenuGoesWithTheCard) {
+TEST_F(CaptureUseTest, TheShareMenuClosesWithTheCard) {
     const auto shown = show({"a"});
     actions.share(shown[0], Rect{});
     ASSERT_TRUE(sharing.isOpen);
@@ -217,7 +217,7 @@ TEST_F(CaptureUseTest, TheShareMenuGoesWithTheCard) {
     EXPECT_FALSE(sharing.isOpen);
 }
 
-TEST_F(CaptureUseTest, TheCountdownWaitsForTheMenuThoughThePointerLeavesTheCardForIt) {
+TEST_F(CaptureUseTest, TheCountdownWaitsForTheMenuAlthoughThePointerLeavesTheCard) {
     settings.dismissAfter.set(10);
     const auto shown = show({"a"});
     hover(true);
@@ -230,7 +230,7 @@ TEST_F(CaptureUseTest, TheCountdownWaitsForTheMenuThoughThePointerLeavesTheCardF
     EXPECT_FALSE(controller().isVisible());
 }
 
-TEST_F(CaptureUseTest, TheCountdownWaitsForTheDragThoughThePointerLeavesTheCard) {
+TEST_F(CaptureUseTest, TheCountdownWaitsForTheDragAlthoughThePointerLeavesTheCard) {
     settings.dismissAfter.set(10);
     const auto shown = show({"a"});
     hover(true);
@@ -269,7 +269,7 @@ TEST_F(CaptureUseTest, TheShareMenuPointsAtTheButtonOnTheScreen) {
     EXPECT_EQ(sharing.anchor, (Rect{{frame.origin.x + 700, frame.origin.y + 330 - 308}, {28, 28}}));
 }
 
-TEST_F(CaptureUseTest, ClosingIsNoUse) {
+TEST_F(CaptureUseTest, ClosingDoesNotCountAsUse) {
     removeAndTrash();
     const auto shown = show({"a", "b", "c", "d"});
     actions.close(shown[0]);
@@ -280,7 +280,7 @@ TEST_F(CaptureUseTest, ClosingIsNoUse) {
     expectNoTrashEver();
 }
 
-TEST_F(CaptureUseTest, TrashActsAtOnceWhateverTheSettings) {
+TEST_F(CaptureUseTest, TrashActsAtOnceWithAnySettings) {
     const auto shown = show({"a", "b", "c"});
     actions.trash(shown[0]);
     EXPECT_THAT(shownNames(), ElementsAre("b.png", "c.png"));
@@ -292,7 +292,7 @@ TEST_F(CaptureUseTest, TrashActsAtOnceWhateverTheSettings) {
                                             ElementsAre(shown[1]->url(), shown[2]->url())));
 }
 
-TEST_F(CaptureUseTest, WithoutTheSettingsUsedCapturesStay) {
+TEST_F(CaptureUseTest, UsedCapturesStayWithoutTheSettings) {
     const auto shown = show({"a", "b"});
     actions.open(shown[0]);
     actions.reveal(shown[0]);
@@ -307,7 +307,7 @@ TEST_F(CaptureUseTest, WithoutTheSettingsUsedCapturesStay) {
     EXPECT_THAT(shownNames(), ElementsAre("a.png", "b.png"));
 }
 
-TEST_F(CaptureUseTest, ACopiedFileGoesToTheTrashThoughThePanelWasDismissed) {
+TEST_F(CaptureUseTest, ACopiedFileGoesToTheTrashAlthoughThePanelWasDismissed) {
     settings.deleteAfterUse.set(true);
     const auto shown = show({"a"});
     actions.copy(shown[0]);
@@ -369,7 +369,7 @@ TEST_F(CaptureUseTest, TheConfirmationOfACopyLastsOnePointTwoSeconds) {
     EXPECT_EQ(state->copiedID.value(), std::nullopt);
 }
 
-TEST_F(CaptureUseTest, TheEndOfOneConfirmationLeavesThatOfALaterCopy) {
+TEST_F(CaptureUseTest, TheEndOfAConfirmationKeepsThatOfALaterCopy) {
     const auto shown = show({"a", "b"});
     actions.copy(shown[0]);
     wait(1);
@@ -380,7 +380,7 @@ TEST_F(CaptureUseTest, TheEndOfOneConfirmationLeavesThatOfALaterCopy) {
     EXPECT_EQ(state->copiedID.value(), std::nullopt);
 }
 
-TEST_F(CaptureUseTest, AFailureOfTheTrashIsLoggedAndTheCardGone) {
+TEST_F(CaptureUseTest, AFailureOfTheTrashIsLoggedAndTheCardLeaves) {
     const fakes::CapturedLog log;
     const auto shown = show({"a"});
     files.remove(shown[0]->url());
@@ -401,7 +401,7 @@ TEST_F(CaptureUseTest, AFailureOfTheTrashAfterUseIsLogged) {
     EXPECT_THAT(shownNames(), ElementsAre("a.png"));
 }
 
-TEST_F(CaptureUseTest, OnceTheControllerHasGoneItsDelayedStepsDoNothing) {
+TEST_F(CaptureUseTest, DelayedStepsDoNothingAfterTheControllerHasGone) {
     removeAndTrash();
     const auto shown = show({"a"});
     actions.copy(shown[0]);

@@ -75,7 +75,7 @@ TEST_F(CaptureWatcherTest, AFileWithAnExtensionThatTheSystemAddsIsReported) {
     EXPECT_THAT(captured, ElementsAre("clip.webm"));
 }
 
-TEST_F(CaptureWatcherTest, ANewFileIsReportedOnceAQuarterSecondAfterItsSizeSettles) {
+TEST_F(CaptureWatcherTest, ANewFileIsReportedAQuarterSecondAfterItsSizeSettles) {
     start();
     save("new.png", 500);
     wait(0.1);
@@ -111,7 +111,7 @@ TEST_F(CaptureWatcherTest, AFileThreeMinutesOldIsKnownSilently) {
     EXPECT_THAT(captured, IsEmpty());
 }
 
-TEST_F(CaptureWatcherTest, TwoMinutesAreTooOldAndAMomentLessIsNew) {
+TEST_F(CaptureWatcherTest, AFileOfTwoMinutesIsOldAndAYoungerOneIsNew) {
     start();
     files.write(url("old.png"), 1000, clock.now() - std::chrono::seconds(120));
     files.write(url("new.png"), 1000, clock.now() - std::chrono::milliseconds(119'999));
@@ -126,7 +126,7 @@ TEST_F(CaptureWatcherTest, AFileDatedInTheFutureIsNew) {
     EXPECT_THAT(captured, ElementsAre("future.png"));
 }
 
-TEST_F(CaptureWatcherTest, WithoutModificationDateTheCreationDateCounts) {
+TEST_F(CaptureWatcherTest, TheCreationDateCountsWithoutAModificationDate) {
     start();
     save("undated.png");
     files.change(url("undated.png"), [this](auto& entry) {
@@ -173,7 +173,7 @@ TEST_F(CaptureWatcherTest, AnEmptiedFolderForgetsEverything) {
     EXPECT_THAT(captured, ElementsAre("old.png"));
 }
 
-TEST_F(CaptureWatcherTest, AFolderThatIsMissingTakesThePlaceOfTheFormerOne) {
+TEST_F(CaptureWatcherTest, AMissingFolderReplacesThePreviousOne) {
     start();
     EXPECT_EQ(watcher->start(Url::file("/none")), WatchError::missing());
     EXPECT_FALSE(watcher->isWatching());
@@ -214,7 +214,7 @@ TEST_F(CaptureWatcherTest, AFileThatKeepsGrowingIsReportedAtThe42ndReading) {
     EXPECT_THAT(captured, ElementsAre("growing.png"));
 }
 
-TEST_F(CaptureWatcherTest, AFileOfWhoseGrowthNobodyTellsIsReportedWhenItIsWhole) {
+TEST_F(CaptureWatcherTest, AFileThatGrowsWithoutEventsIsReportedWhenItIsComplete) {
     start();
     save("quiet.png");
     for (int part = 2; part <= 8; ++part) {
@@ -226,7 +226,7 @@ TEST_F(CaptureWatcherTest, AFileOfWhoseGrowthNobodyTellsIsReportedWhenItIsWhole)
     EXPECT_THAT(captured, ElementsAre("quiet.png"));
 }
 
-TEST_F(CaptureWatcherTest, AFileDeletedWhilePendingIsGivenUpOn) {
+TEST_F(CaptureWatcherTest, AFileDeletedWhilePendingIsForgotten) {
     start();
     save("gone.png");
     time.settle();
@@ -258,7 +258,7 @@ TEST_F(CaptureWatcherTest, AnUnreadableSizeIsPolledAgain) {
     EXPECT_THAT(captured, ElementsAre("locked.png"));
 }
 
-TEST_F(CaptureWatcherTest, WhatIsNotKnownToBeARegularFileIsLookedAtAgain) {
+TEST_F(CaptureWatcherTest, AFileOfUnknownTypeIsCheckedAgain) {
     start();
     save("recording.mp4");
     files.change(url("recording.mp4"), [](auto& entry) { entry.isRegularFile.reset(); });
@@ -272,7 +272,7 @@ TEST_F(CaptureWatcherTest, WhatIsNotKnownToBeARegularFileIsLookedAtAgain) {
     EXPECT_THAT(captured, ElementsAre("recording.mp4"));
 }
 
-TEST_F(CaptureWatcherTest, AWriterThatLetsGoAfterItWasToldIsNotWaitedForInVain) {
+TEST_F(CaptureWatcherTest, AFileThatItsWriterClosesWithoutAnEventIsReported) {
     start();
     save("recording.mp4");
     files.change(url("recording.mp4"), [](auto& entry) { entry.isRegularFile.reset(); });
@@ -283,7 +283,7 @@ TEST_F(CaptureWatcherTest, AWriterThatLetsGoAfterItWasToldIsNotWaitedForInVain) 
     EXPECT_THAT(captured, ElementsAre("recording.mp4"));
 }
 
-TEST_F(CaptureWatcherTest, AFileThatIsStillWrittenIsNotLookedAtForEver) {
+TEST_F(CaptureWatcherTest, AFileThatStaysOpenIsNotCheckedForEver) {
     start();
     save("recording.mp4");
     files.change(url("recording.mp4"), [](auto& entry) { entry.isRegularFile.reset(); });
@@ -291,7 +291,7 @@ TEST_F(CaptureWatcherTest, AFileThatIsStillWrittenIsNotLookedAtForEver) {
     EXPECT_EQ(time.pending(), 0u);
 }
 
-TEST_F(CaptureWatcherTest, FilesWhoseValuesCannotBeReadAreLookedAtAgain) {
+TEST_F(CaptureWatcherTest, FilesWhoseValuesCannotBeReadAreCheckedAgain) {
     start();
     save("shy.png");
     files.change(url("shy.png"), [](auto& entry) { entry.valuesAreReadable = false; });
@@ -309,7 +309,7 @@ TEST_F(CaptureWatcherTest, FilesThatSettleTogetherArriveInListingOrder) {
     EXPECT_THAT(captured, ElementsAre("c.png", "a.png", "b.png"));
 }
 
-TEST_F(CaptureWatcherTest, BetweenFilesThatSettleTogetherOthersHaveTheirTurn) {
+TEST_F(CaptureWatcherTest, OtherWorkRunsBetweenFilesThatSettleTogether) {
     start();
     watcher->onCapture = [this](const CapturePointer& capture) {
         captured.push_back(capture->fileName());
@@ -320,7 +320,7 @@ TEST_F(CaptureWatcherTest, BetweenFilesThatSettleTogetherOthersHaveTheirTurn) {
     EXPECT_THAT(captured, ElementsAre("a.png", "another", "b.png", "another", "c.png", "another"));
 }
 
-TEST_F(CaptureWatcherTest, PicturesAreNotLoadedLongBeforeTheMainThreadTakesThem) {
+TEST_F(CaptureWatcherTest, PicturesAreLoadedOnlyAsTheMainThreadTakesThem) {
     start();
     std::size_t farthestAhead = 0;
     watcher->onCapture = [&](const CapturePointer& capture) {
@@ -379,7 +379,7 @@ TEST_F(CaptureWatcherTest, AFileSavedBetweenListingAndOpeningIsNotMissed) {
     EXPECT_THAT(captured, ElementsAre("between.png"));
 }
 
-TEST_F(CaptureWatcherTest, AKnownFileCostsNoLookAtTheFile) {
+TEST_F(CaptureWatcherTest, AKnownFileIsNotReadAgain) {
     for (int i = 0; i < 100; ++i) save(std::to_string(i) + ".png");
     start();
     const int before = files.inspections();
@@ -396,7 +396,7 @@ TEST_F(CaptureWatcherTest, AnOverflowLeadsToARescan) {
     EXPECT_THAT(captured, ElementsAre("shot.png"));
 }
 
-TEST_F(CaptureWatcherTest, MovingTheFolderEndsInMissingOnceWithoutLogLine) {
+TEST_F(CaptureWatcherTest, MovingTheFolderReportsItMissingOnceWithoutALogLine) {
     CapturedLog log;
     start();
     files.moveDirectory(folder, Url::file("/elsewhere"));
@@ -407,7 +407,7 @@ TEST_F(CaptureWatcherTest, MovingTheFolderEndsInMissingOnceWithoutLogLine) {
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 
-TEST_F(CaptureWatcherTest, DeletingTheFolderEndsInMissingOnce) {
+TEST_F(CaptureWatcherTest, DeletingTheFolderReportsItMissingOnce) {
     start();
     save("shot.png");
     files.removeDirectory(folder);
@@ -416,14 +416,14 @@ TEST_F(CaptureWatcherTest, DeletingTheFolderEndsInMissingOnce) {
     EXPECT_THAT(captured, IsEmpty());
 }
 
-TEST_F(CaptureWatcherTest, UnmountingTheFolderEndsInMissingOnce) {
+TEST_F(CaptureWatcherTest, UnmountingTheFolderReportsItMissingOnce) {
     start();
     files.revoke(folder);
     wait(1);
     EXPECT_THAT(errors, ElementsAre("missing"));
 }
 
-TEST_F(CaptureWatcherTest, AnEventInAFolderThatIsNotThereMeansThatItIsMissing) {
+TEST_F(CaptureWatcherTest, AnEventInAMissingFolderReportsItMissing) {
     const Url deep = Url::file("/above/shots");
     (void)files.createDirectory(deep);
     ASSERT_EQ(watcher->start(deep), std::nullopt);
@@ -436,7 +436,7 @@ TEST_F(CaptureWatcherTest, AnEventInAFolderThatIsNotThereMeansThatItIsMissing) {
     EXPECT_FALSE(watcher->isWatching());
 }
 
-TEST_F(CaptureWatcherTest, ALossThatIsToldOnceAnotherFolderWasChosenIsNoLoss) {
+TEST_F(CaptureWatcherTest, ALossReportedAfterAnotherFolderWasChosenIsIgnored) {
     start();
     const Url other = Url::file("/other");
     (void)files.createDirectory(other);
@@ -461,7 +461,7 @@ TEST_F(CaptureWatcherTest, AFileOfTheSameNameInAnotherFolderIsAnotherFile) {
     EXPECT_THAT(captured, ElementsAre("same.png", "same.png"));
 }
 
-TEST_F(CaptureWatcherTest, AFolderLostAfterAnotherWasChosenIsNoLoss) {
+TEST_F(CaptureWatcherTest, AFolderLostAfterAnotherWasChosenIsIgnored) {
     start();
     files.removeDirectory(folder);
     const Url other = Url::file("/other");
@@ -508,7 +508,7 @@ TEST_F(CaptureWatcherTest, ARemoteFolderThatAnswersTooLateIsNotWatched) {
     EXPECT_EQ(files.openSources(), 0u);
 }
 
-TEST_F(CaptureWatcherTest, WhatARemoteFolderFailsWithIsReportedLater) {
+TEST_F(CaptureWatcherTest, AFailureOfARemoteFolderIsReportedLater) {
     const Url none = Url::file("/none");
     files.makeRemote(none);
     EXPECT_EQ(watcher->start(none), std::nullopt);
@@ -528,7 +528,7 @@ TEST_F(CaptureWatcherTest, AMissingFolderIsReturnedLoggedAndReportedLater) {
     EXPECT_FALSE(watcher->isWatching());
 }
 
-TEST_F(CaptureWatcherTest, AFileInTheFoldersPlaceIsMissing) {
+TEST_F(CaptureWatcherTest, AFileInPlaceOfTheFolderCountsAsMissing) {
     files.write(Url::file("/file"), 10, clock.now());
     EXPECT_EQ(watcher->start(Url::file("/file")), WatchError::missing());
 }
@@ -583,7 +583,7 @@ TEST_F(CaptureWatcherTest, StartingTwiceOnTheSameFolderIsHarmless) {
     EXPECT_THAT(captured, ElementsAre("shot.png"));
 }
 
-TEST_F(CaptureWatcherTest, WhatIsSavedBetweenTwoStartsIsNotLost) {
+TEST_F(CaptureWatcherTest, AFileSavedBetweenTwoStartsIsNotLost) {
     save("old.png");
     ASSERT_EQ(watcher->start(folder), std::nullopt);
     save("between.png");
@@ -595,7 +595,7 @@ TEST_F(CaptureWatcherTest, WhatIsSavedBetweenTwoStartsIsNotLost) {
     EXPECT_EQ(captured.size(), 1u) << "what was reported stays known";
 }
 
-TEST_F(CaptureWatcherTest, AStoppedWatcherReportsOnlyWhatWasSettling) {
+TEST_F(CaptureWatcherTest, AStoppedWatcherReportsOnlyFilesThatWereSettling) {
     start();
     save("settling.png");
     time.settle();
@@ -626,7 +626,7 @@ TEST_F(CaptureWatcherTest, AReleasedWatcherStopsAllWork) {
     EXPECT_EQ(files.openSources(), 0u);
 }
 
-TEST_F(CaptureWatcherTest, SaysWhatItWatchesWhenDebugging) {
+TEST_F(CaptureWatcherTest, LogsTheWatchedFolderWhenDebugging) {
     CapturedLog log(CapturedLog::DebugSwitch::on);
     save("old.png");
     start();

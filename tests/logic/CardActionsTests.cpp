@@ -44,7 +44,7 @@ TEST_F(CardActionsTest, ADragOfAnUnselectedCaptureCarriesItAlone) {
     EXPECT_THAT(urls(actions.dragItems(shown[2])), ElementsAre(shown[2]->url()));
 }
 
-TEST_F(CardActionsTest, WhatIsDraggedHasItsPicture) {
+TEST_F(CardActionsTest, ADragCarriesThePicture) {
     fakes::FakeMediaLoader media;
     const auto pictured =
         Capture::create(Url::file("/shots/pictured.png"), fakes::VirtualClock::epoch);
@@ -85,7 +85,7 @@ TEST_F(CardActionsTest, RemoveSelectedTakesTheSelectedAndLeavesTheirFiles) {
     EXPECT_THAT(trash.requests, IsEmpty());
 }
 
-TEST_F(CardActionsTest, SelectionWideActionsTakeTheSelectedInPanelOrder) {
+TEST_F(CardActionsTest, ActionsOnTheSelectionUseThePanelsOrder) {
     const auto shown = show({"a", "b", "c"});
     actions.toggleSelect(shown[2]);
     actions.toggleSelect(shown[0]);
@@ -96,7 +96,7 @@ TEST_F(CardActionsTest, SelectionWideActionsTakeTheSelectedInPanelOrder) {
     EXPECT_THAT(shownNames(), ElementsAre("b.png"));
 }
 
-TEST_F(CardActionsTest, WithNothingSelectedSelectionWideActionsAskForNothing) {
+TEST_F(CardActionsTest, ActionsOnAnEmptySelectionDoNothing) {
     show({"a"});
     actions.trashSelected();
     actions.copySelected();
@@ -104,7 +104,7 @@ TEST_F(CardActionsTest, WithNothingSelectedSelectionWideActionsAskForNothing) {
     EXPECT_EQ(pasteboard.timesWritten, 0);
 }
 
-TEST_F(CardActionsTest, OnceTheControllerHasGoneOnlyOpenAndRevealStillWork) {
+TEST_F(CardActionsTest, OnlyOpenAndRevealWorkAfterTheControllerHasGone) {
     const auto shown = show({"a"});
     releaseController();
     actions.open(shown[0]);

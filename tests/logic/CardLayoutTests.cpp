@@ -39,7 +39,7 @@ TEST(CardLayout, UnknownPixelSizeIsDrawnAs16To10) {
     EXPECT_EQ(CardLayout::tileSize(3, *capture), (Size{160, 100}));
 }
 
-TEST(CardLayout, ASinglePixelOfWidthIsASizeThatIsKnown) {
+TEST(CardLayout, AWidthOfOnePixelIsAKnownSize) {
     EXPECT_EQ(CardLayout::tileSize(1, *captureOfSize({1, 2})), (Size{200, 190}));
 }
 
@@ -77,11 +77,11 @@ TEST(CardLayout, HalvesAreRoundedAwayFromZero) {
     EXPECT_EQ(CardLayout::tileSize(3, *captureOfSize({1125, 1000})).width, 113);  // 112.5
 }
 
-TEST(CardLayout, AnEmptyRowIsNoPointsWide) {
+TEST(CardLayout, AnEmptyRowHasNoWidth) {
     EXPECT_EQ(CardLayout::contentWidth({}), 0);
 }
 
-TEST(CardLayout, TheWindowStandsFlushInEachCorner) {
+TEST(CardLayout, TheWindowIsFlushInEachCorner) {
     const Rect visible{{100, 50}, {1400, 900}};
     const auto origin = [&](PanelCorner corner) {
         const Rect frame = CardLayout::windowFrame(corner, visible);

@@ -32,7 +32,7 @@ long lettersIn(const std::string& text) {
     return std::ranges::count_if(text, [](char byte) { return (byte & 0xc0) != 0x80; });
 }
 
-TEST(CommandLineTest, TheHelpStandsInOneColumnWhateverStandsBefore) {
+TEST(CommandLineTest, TheDescriptionsInTheHelpStandInOneColumn) {
     std::istringstream help(helpText());
     int options = 0;
     for (std::string line; std::getline(help, line);) {
@@ -55,7 +55,7 @@ TEST(CommandLineTest, TheDesktopStartsItForARequest) {
     EXPECT_THAT(helpText(), Not(HasSubstr("--dbus-activated")));
 }
 
-TEST(CommandLineTest, SomeActionsStartTheProgramAndOthersOnlyAskOneThatRuns) {
+TEST(CommandLineTest, SomeActionsStartTheProgramAndOthersNeedARunningOne) {
     for (const auto* name : {"settings", "sample"}) {
         const auto line = parse({std::string("--") + name});
         EXPECT_EQ(line.kind, Kind::start) << name;
@@ -69,7 +69,7 @@ TEST(CommandLineTest, SomeActionsStartTheProgramAndOthersOnlyAskOneThatRuns) {
     }
 }
 
-TEST(CommandLineTest, FilesCountFromTheFolderOfTheCaller) {
+TEST(CommandLineTest, PathsAreRelativeToTheFolderOfTheCaller) {
     const auto line = parse({"--show", "a.png", "/b/c.png", "--odd.png"});
     EXPECT_EQ(line.kind, Kind::start);
     ASSERT_TRUE(line.request);
@@ -93,7 +93,7 @@ TEST(CommandLineTest, VersionAndHelpArePrinted) {
         EXPECT_THAT(help.text, HasSubstr(option));
 }
 
-TEST(CommandLineTest, WhatCannotBeMadeOutIsNamed) {
+TEST(CommandLineTest, NamesInvalidArguments) {
     const std::vector<std::pair<std::vector<std::string>, const char*>> wrongs = {
         {{"--dance"}, "vantle: unknown option \"--dance\"\nTry \"vantle --help\"."},
         {{"--"}, "unknown option \"--\""},

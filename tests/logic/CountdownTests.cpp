@@ -14,7 +14,7 @@ protected:
     double progress() { return controller().state().progress.value(); }
 };
 
-TEST_F(CountdownTest, WithoutDismissalTimeNoTimerIsEverScheduled) {
+TEST_F(CountdownTest, NoTimerIsScheduledWithoutADismissalTime) {
     for (const double seconds : {0.0, -3.0}) {
         settings.dismissAfter.set(seconds);
         show({"a", "b"});
@@ -51,7 +51,7 @@ TEST_F(CountdownTest, ProgressFallsThirtyTimesASecond) {
     EXPECT_NEAR(announced, 60, 1);
 }
 
-TEST_F(CountdownTest, EachAddStartsItAfresh) {
+TEST_F(CountdownTest, EachNewCaptureRestartsIt) {
     settings.dismissAfter.set(10);
     show({"a"});
     wait(8);
@@ -79,7 +79,7 @@ TEST_F(CountdownTest, PausesWhileThePointerIsOverTheCards) {
     EXPECT_FALSE(controller().isVisible());
 }
 
-TEST_F(CountdownTest, AnAddWhileHoveringStartsTheFullTimeWhenThePointerLeaves) {
+TEST_F(CountdownTest, ACaptureAddedWhileHoveringStartsTheFullTimeWhenThePointerLeaves) {
     settings.dismissAfter.set(10);
     show({"a"});
     hover(true);
@@ -125,7 +125,7 @@ TEST_F(CountdownTest, PausingWithOneSecondLeftSavesOneAndAHalf) {
     EXPECT_FALSE(controller().isVisible());
 }
 
-TEST_F(CountdownTest, ADragPausesAsHoveringDoes) {
+TEST_F(CountdownTest, ADragPausesItLikeHovering) {
     settings.dismissAfter.set(10);
     const auto shown = show({"a"});
     wait(5);
@@ -176,7 +176,7 @@ TEST_F(CountdownTest, ExpiryWithEverythingPinnedRemovesNothing) {
     EXPECT_TRUE(log.contains("Vantle[dbg]: pin toggled; pinned=2"));
 }
 
-TEST_F(CountdownTest, ATimeThatWasResumedIsNotResumedAgain) {
+TEST_F(CountdownTest, APausedTimeIsResumedOnlyOnce) {
     settings.dismissAfter.set(10);
     const auto shown = show({"a", "b"});
     actions.togglePin(shown[0]);
@@ -191,7 +191,7 @@ TEST_F(CountdownTest, ATimeThatWasResumedIsNotResumedAgain) {
     EXPECT_EQ(progress(), 1.0);
 }
 
-TEST_F(CountdownTest, AShareMenuThatHasClosedHoldsNothingAnyMore) {
+TEST_F(CountdownTest, AClosedShareMenuPausesNothing) {
     settings.dismissAfter.set(10);
     const auto shown = show({"a"});
     actions.share(shown[0], Rect{});

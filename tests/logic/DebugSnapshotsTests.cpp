@@ -23,7 +23,7 @@ protected:
     std::shared_ptr<DebugSnapshots> snapshots = DebugSnapshots::create(scheduler);
 };
 
-TEST_F(DebugSnapshotsTest, AreDrawnOnceTheCardHasComeToRest) {
+TEST_F(DebugSnapshotsTest, AreDrawnWhenTheCardHasComeToRest) {
     snapshots->schedule("/tmp/card.png");
     wait(1.19);
     EXPECT_THAT(drawn, IsEmpty());
@@ -31,7 +31,7 @@ TEST_F(DebugSnapshotsTest, AreDrawnOnceTheCardHasComeToRest) {
     EXPECT_THAT(drawn, ElementsAre("/tmp/card.png"));
 }
 
-TEST_F(DebugSnapshotsTest, OfACrowdAreFewAndTheLastOneAlways) {
+TEST_F(DebugSnapshotsTest, FewAreDrawnInABurstAndTheLastOneAlways) {
     const int crowd = 300;
     for (int i = 1; i <= crowd; ++i) {
         snapshots->schedule(std::to_string(i));
@@ -44,7 +44,7 @@ TEST_F(DebugSnapshotsTest, OfACrowdAreFewAndTheLastOneAlways) {
     EXPECT_EQ(drawn.size(), 4u);
 }
 
-TEST_F(DebugSnapshotsTest, DoNotComeAfterTheEnd) {
+TEST_F(DebugSnapshotsTest, AreNotDrawnAfterTheEnd) {
     snapshots->schedule("/tmp/card.png");
     snapshots.reset();
     wait(10);

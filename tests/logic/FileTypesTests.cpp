@@ -25,14 +25,14 @@ std::string mediaTypeOf(const std::string& start) {
     return type ? std::string(type->mediaType) : "no capture's";
 }
 
-TEST(FileTypes, AnExtensionIsThatOfOneType) {
+TEST(FileTypes, EachExtensionBelongsToOneType) {
     std::set<std::string_view> all;
     for (const FileType& type : fileTypes)
         for (const auto extension : type.extensions)
             EXPECT_TRUE(all.insert(extension).second) << extension;
 }
 
-TEST(FileTypes, ToolsOfLinuxWriteSomeThatOtherSystemsDoNotKnow) {
+TEST(FileTypes, SomeTypesAreWrittenOnlyByToolsOfLinux) {
     using enum FileType::Origin;
     EXPECT_THAT((extensionsOf<CaptureKind::image, linuxTools>()), ElementsAre("avif", "webp"));
     EXPECT_THAT((extensionsOf<CaptureKind::video, linuxTools>()), ElementsAre("webm", "mkv"));
@@ -56,7 +56,7 @@ TEST(FileTypes, ExtensionsAreInLowercaseAndWithoutTheDot) {
             })) << extension;
 }
 
-TEST(FileTypes, EachFormatHasARowThatANameAndOneThatContentsLeadTo) {
+TEST(FileTypes, EachFormatIsFoundByNameAndByContents) {
     std::set<Format> named;
     std::set<Format> recognized;
     for (const FileType& type : fileTypes) {
@@ -70,7 +70,7 @@ TEST(FileTypes, EachFormatHasARowThatANameAndOneThatContentsLeadTo) {
     EXPECT_EQ(named.size(), formatNames.size());
 }
 
-TEST(FileTypes, NoRowStandsBeforeTheOneThatASignatureMeans) {
+TEST(FileTypes, EachSignatureFindsItsOwnRow) {
     for (const FileType& type : fileTypes)
         for (const auto signature : type.signatures) {
             const std::string start = (type.mayBeginLater ? "x" : "") + std::string(signature);
@@ -84,7 +84,7 @@ TEST(FileTypes, NoTwoTypesAreOfferedUnderOneMediaType) {
         EXPECT_TRUE(type.mediaType.empty() || all.insert(type.mediaType).second) << type.mediaType;
 }
 
-TEST(FileTypes, AFileIsTakenForWhatItBeginsWith) {
+TEST(FileTypes, AFilesTypeIsThatOfItsFirstBytes) {
     const std::map<std::string, std::string> types{
         {"\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR"s, "image/png"},
         {"\xff\xd8\xff\xe0", "image/jpeg"},
@@ -100,13 +100,13 @@ TEST(FileTypes, AFileIsTakenForWhatItBeginsWith) {
         EXPECT_EQ(fileTypeOf(none), nullptr) << none;
 }
 
-TEST(FileTypes, BoxesThatNameNoImageAreARecording) {
+TEST(FileTypes, BoxesWithoutAnImageAreARecording) {
     for (const auto* start : {"????ftypqt  ", "????ftypisom", "????moov????", "????wide????"})
         EXPECT_EQ(fileTypeOf(start)->format, Format::recording) << start;
     EXPECT_EQ(fileTypeOf("????ftyp"), nullptr);
 }
 
-TEST(FileTypes, SomethingMayStandBeforeAPdfAndNothingElse) {
+TEST(FileTypes, OnlyAPdfMayBeginLater) {
     const auto behind = [](std::size_t count, const char* start) {
         return fileTypeOf(std::string(count, '\n') + start);
     };

@@ -96,7 +96,7 @@ TEST_F(FolderAccessRowTest, ItChecksWheneverTheFolderChanges) {
     EXPECT_EQ(row->state.value(), AccessState::denied);
 }
 
-TEST_F(FolderAccessRowTest, ARowThatHasGoneLearnsNothing) {
+TEST_F(FolderAccessRowTest, ADestroyedRowIsNotUpdated) {
     row->check();
     row.reset();
     time.settle();

@@ -41,7 +41,7 @@ TEST_F(FolderPickerTest, AFolderThatDoesNotExistIsSelectedAndCreated) {
     EXPECT_EQ(files.existence(screenshots), FileManager::Existence::directory);
 }
 
-TEST_F(FolderPickerTest, EachPlaceIsWhereItSays) {
+TEST_F(FolderPickerTest, EachPlaceHasItsPath) {
     choose("~/Pictures/Screenshots");
     EXPECT_EQ(folder(), "/home/user/Pictures/Screenshots");
     choose("Desktop (macOS default)");
@@ -59,7 +59,7 @@ TEST_F(FolderPickerTest, TheChooserStartsInTheCurrentFolderInFrontOfOtherProgram
     EXPECT_EQ(application.activations, 1);
 }
 
-TEST_F(FolderPickerTest, WhatIsChosenIsUsed) {
+TEST_F(FolderPickerTest, UsesTheChosenFolder) {
     picker.choose();
     chooser.close(Url::file("/data/shots"));
     EXPECT_EQ(folder(), "/data/shots");
@@ -72,7 +72,7 @@ TEST_F(FolderPickerTest, ACancelledChooserLeavesTheFolder) {
     EXPECT_EQ(folder(), "/home/user/Screenshots");
 }
 
-TEST_F(FolderPickerTest, WhileItIsOpenThereIsNoSecondChooser) {
+TEST_F(FolderPickerTest, OpensNoSecondChooser) {
     picker.choose();
     picker.choose();
     time.settle();
@@ -90,7 +90,7 @@ TEST_F(FolderPickerTest, PathsInTheHomeDirectoryAreShort) {
     EXPECT_EQ(name("/media/disk"), "/media/disk");
 }
 
-TEST_F(FolderPickerTest, TheWayBackComesLastAndRestoresWhatTheSystemHad) {
+TEST_F(FolderPickerTest, TheLastEntryRestoresTheSystemsFolder) {
     (void)files.createDirectory(Url::file("/home/user/Bilder"));
     domain.previousValues["location"] = std::string("/home/user/Bilder");
     ASSERT_EQ(picker.menu().items.size(), 7u);

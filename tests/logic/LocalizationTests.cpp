@@ -24,11 +24,11 @@ MATCHER(IsTranslated, "") {
     return Pseudolanguage::isTranslated(arg);
 }
 
-TEST(Localization, ATextIsAsItStandsWithoutATranslator) {
+TEST(Localization, ATextIsUnchangedWithoutATranslator) {
     EXPECT_EQ(localized("StatusBarController", "Quit Vantle"), "Quit Vantle");
 }
 
-TEST(Localization, TheTranslatorHearsTheContextAndTheText) {
+TEST(Localization, TheTranslatorGetsTheContextAndTheText) {
     setTranslator(
         [](const char* context, const char* text) { return std::string(context) + ": " + text; });
     EXPECT_EQ(localized("Menu", "Quit"), "Menu: Quit");
@@ -40,13 +40,13 @@ TEST(Localization, AMarkedTextIsTheText) {
     EXPECT_STREQ(marked("Menu", "Quit"), "Quit");
 }
 
-TEST(Localization, APatternIsFilledInItsOwnOrder) {
+TEST(Localization, APatternIsFilledInTheOrderOfItsPlaceholders) {
     EXPECT_EQ(filled("%1 of %2", {"one", "two"}), "one of two");
     EXPECT_EQ(filled("%2, %1, %2", {"one", "two"}), "two, one, two");
     EXPECT_EQ(filled("nothing", {"one"}), "nothing");
 }
 
-TEST(Localization, WhatFillsAPatternIsNotFilledAgain) {
+TEST(Localization, FilledInTextIsNotFilledAgain) {
     EXPECT_EQ(filled("%1 and %2", {"%2", "two"}), "%2 and two");
 }
 

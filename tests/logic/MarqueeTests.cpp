@@ -45,7 +45,7 @@ TEST_F(MarqueeTest, AClickOnTheBackgroundClearsTheSelection) {
     EXPECT_THAT(selected(), IsEmpty());
 }
 
-TEST_F(MarqueeTest, ACardThatLeavesHasNone) {
+TEST_F(MarqueeTest, ALeavingCardHasNoMarquee) {
     drag({{5, 5}, {50, 50}});
     controller().dismiss();
     drag({{5, 5}, {60, 60}});
@@ -63,7 +63,7 @@ protected:
     }
 };
 
-TEST_F(MarqueeCountdownTest, HoldsTheCountdown) {
+TEST_F(MarqueeCountdownTest, PausesTheCountdown) {
     drag({{5, 5}, {50, 50}});
     wait(60);
     EXPECT_TRUE(state->visible.value());
@@ -74,7 +74,7 @@ TEST_F(MarqueeCountdownTest, HoldsTheCountdown) {
     EXPECT_FALSE(state->visible.value());
 }
 
-TEST_F(MarqueeCountdownTest, HoldsItAlsoWhenThePointerLeavesTheCard) {
+TEST_F(MarqueeCountdownTest, PausesTheCountdownAlthoughThePointerLeavesTheCard) {
     hover(true);
     drag({{5, 5}, {50, 50}});
     hover(false);
@@ -90,7 +90,7 @@ TEST_F(MarqueeCountdownTest, ItsEndDoesNotStartTheCountdownUnderThePointer) {
     EXPECT_TRUE(state->visible.value());
 }
 
-TEST_F(MarqueeCountdownTest, ACaptureThatComesMeanwhileDoesNotStartTheCountdown) {
+TEST_F(MarqueeCountdownTest, ACaptureThatArrivesMeanwhileDoesNotStartTheCountdown) {
     drag({{5, 5}, {50, 50}});
     controller().show(capture("d"));
     wait(60);

@@ -8,7 +8,7 @@ using testing::IsEmpty;
 
 using MissingTrayTest = AppFixture;
 
-TEST_F(MissingTrayTest, IsExplainedOnceAndForAll) {
+TEST_F(MissingTrayTest, IsExplainedOnlyOnce) {
     statusItem->hasTray = false;
     launch();
     time.advance(Seconds(29));
@@ -22,7 +22,7 @@ TEST_F(MissingTrayTest, IsExplainedOnceAndForAll) {
     EXPECT_EQ(alerts->shown.size(), 1u);
 }
 
-TEST_F(MissingTrayTest, TheExplanationSaysWhatWouldBringOne) {
+TEST_F(MissingTrayTest, TheExplanationSaysHowToGetATray) {
     statusItem->hasTray = false;
     platform.trayExtension = [] { return TrayExtension{"Tray", "shell-tray", false}; };
     launch();
@@ -31,7 +31,7 @@ TEST_F(MissingTrayTest, TheExplanationSaysWhatWouldBringOne) {
     EXPECT_THAT(alerts->shown[0].informativeText, HasSubstr("the package shell-tray"));
 }
 
-TEST_F(MissingTrayTest, ATrayThatComesLaterNeedsNoExplanation) {
+TEST_F(MissingTrayTest, ATrayThatAppearsLaterNeedsNoExplanation) {
     statusItem->hasTray = false;
     launch();
     time.advance(Seconds(20));

@@ -7,7 +7,7 @@
 namespace vantle {
 namespace {
 
-TEST(NumberFromTextTest, TakesTheNotationOfPrograms) {
+TEST(NumberFromTextTest, ReadsTheNotationOfPrograms) {
     EXPECT_EQ(numberFromText("0"), 0);
     EXPECT_EQ(numberFromText("25"), 25);
     EXPECT_EQ(numberFromText("-0.5"), -0.5);
@@ -18,14 +18,14 @@ TEST(NumberFromTextTest, TakesTheNotationOfPrograms) {
     EXPECT_EQ(numberFromText("0.1"), 0.1);
 }
 
-TEST(NumberFromTextTest, TheWholeTextHasToBeANumber) {
+TEST(NumberFromTextTest, TheWholeTextMustBeANumber) {
     for (const auto* text :
          {"",   " ",   "-",     ".",   "-.",   "e5", "1e",  "1e+", "+1",       " 1",
           "1 ", "1,5", "1.5.2", "--1", "0x10", "1f", "inf", "nan", "infinity", "ten"})
         EXPECT_EQ(numberFromText(text), std::nullopt) << text;
 }
 
-TEST(NumberFromTextTest, WhatIsTooLargeIsNone) {
+TEST(NumberFromTextTest, ATooLargeNumberIsRefused) {
     EXPECT_EQ(numberFromText("1e999"), std::nullopt);
     EXPECT_EQ(numberFromText("-1e999"), std::nullopt);
     EXPECT_EQ(numberFromText("1.7976931348623157e308"), std::numeric_limits<double>::max());

@@ -43,12 +43,12 @@ TEST_F(OnboardingTest, TheVariableNamesTheFirstStep) {
     EXPECT_EQ(initialStep("02"), 2);
 }
 
-TEST_F(OnboardingTest, AVariableThatIsNoNumberMeansTheFirstStep) {
+TEST_F(OnboardingTest, AnInvalidVariableMeansTheFirstStep) {
     for (const auto* text : {"x", "", "1.5", "2x", " 2", "0x2", "+-1", "-", "+"})
         EXPECT_EQ(initialStep(text), 0) << text;
 }
 
-TEST_F(OnboardingTest, AStepOutsideIsTheNearest) {
+TEST_F(OnboardingTest, AStepOutOfRangeBecomesTheNearestOne) {
     EXPECT_EQ(initialStep("3"), 2);
     EXPECT_EQ(initialStep("-1"), 0);
     EXPECT_EQ(initialStep("99999999999999999999"), 2);
@@ -57,7 +57,7 @@ TEST_F(OnboardingTest, AStepOutsideIsTheNearest) {
     EXPECT_EQ(at(-7).step(), 0);
 }
 
-TEST_F(OnboardingTest, TheForwardButtonSaysWhatComes) {
+TEST_F(OnboardingTest, TheForwardButtonNamesTheNextAction) {
     OnboardingSteps steps = at(0);
     EXPECT_EQ(steps.forwardTitle(), "Get Started");
     steps.forward();
@@ -97,13 +97,13 @@ TEST_F(OnboardingTest, AppearingAppliesTheRecommendedSettings) {
     EXPECT_FALSE(settings.hasCompletedOnboarding.value());
 }
 
-TEST_F(OnboardingTest, MerelyMakingItChangesNothing) {
+TEST_F(OnboardingTest, CreatingItChangesNothing) {
     at(1);
     EXPECT_TRUE(defaults.stored.empty());
     EXPECT_FALSE(settings.launchAtLogin.value());
 }
 
-TEST_F(OnboardingTest, TheSummarySaysWhatWasChosen) {
+TEST_F(OnboardingTest, TheSummaryListsTheChoices) {
     settings.setScreenshotFolder(Url::file("/home/user/Pictures/Screenshots"));
     settings.dismissAfter.set(30.7);
     settings.corner.set(PanelCorner::topLeft);
@@ -112,7 +112,7 @@ TEST_F(OnboardingTest, TheSummarySaysWhatWasChosen) {
                             "Panel in the Top Left", "macOS thumbnail still shown"));
 }
 
-TEST_F(OnboardingTest, WithoutATimerTheSummaryReadsStaysUntilDismissed) {
+TEST_F(OnboardingTest, TheSummaryReadsStaysUntilDismissedWithoutATimer) {
     at(0).appear();
     EXPECT_THAT(summary(), ElementsAre("Saving to Desktop folder", "Stays until dismissed",
                                        "Panel in the Bottom Right", "macOS thumbnail hidden"));
@@ -125,7 +125,7 @@ TEST_F(OnboardingTest, TheOutlookNamesTheCorner) {
               "the Top Right corner. Take another and they line up together.");
 }
 
-TEST_F(OnboardingTest, WithoutATrayTheOutlookTellsHowTheSettingsAreReached) {
+TEST_F(OnboardingTest, TheOutlookSaysHowToReachTheSettingsWithoutATray) {
     const std::string outlook = onboardingOutlook(settings, Tray::isMissing);
     EXPECT_THAT(outlook, HasSubstr("the Bottom Right corner"));
     EXPECT_THAT(outlook, HasSubstr("has no tray"));
@@ -138,13 +138,13 @@ TEST(MissingTrayAdviceTest, NamesTheExtensionAndItsPackage) {
     EXPECT_THAT(advice, HasSubstr("install the package shell-tray"));
 }
 
-TEST(MissingTrayAdviceTest, WhatIsInstalledHasOnlyToBeSwitchedOn) {
+TEST(MissingTrayAdviceTest, AnInstalledExtensionOnlyNeedsToBeSwitchedOn) {
     const std::string advice = missingTrayAdvice(TrayExtension{"Tray", "shell-tray", true});
     EXPECT_THAT(advice, HasSubstr("switch it on"));
     EXPECT_THAT(advice, Not(HasSubstr("install the package")));
 }
 
-TEST(MissingTrayAdviceTest, WhereNothingIsKnownThereIsNone) {
+TEST(MissingTrayAdviceTest, ThereIsNoAdviceForAnUnknownDesktop) {
     EXPECT_EQ(missingTrayAdvice(std::nullopt), "");
 }
 

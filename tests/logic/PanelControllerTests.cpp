@@ -31,7 +31,7 @@ TEST_F(PanelControllerTest, TheCardSeesThePanelOnTheScreenBeforeItAppears) {
     EXPECT_TRUE(controller().isVisible());
 }
 
-TEST_F(PanelControllerTest, EachAddOrdersThePanelToTheFront) {
+TEST_F(PanelControllerTest, EachNewCaptureOrdersThePanelToTheFront) {
     show({"a", "b", "c"});
     EXPECT_EQ(panel.timesOrderedFront, 3);
     EXPECT_THAT(shownNames(), ElementsAre("a.png", "b.png", "c.png"));
@@ -42,7 +42,7 @@ TEST_F(PanelControllerTest, AnEqualCaptureMovesToTheEnd) {
     EXPECT_THAT(shownNames(), ElementsAre("b.png", "a.png"));
 }
 
-TEST_F(PanelControllerTest, AnEqualCaptureTakesTheSelectionAndThePinAlong) {
+TEST_F(PanelControllerTest, AnEqualCaptureKeepsTheSelectionAndThePin) {
     const auto first = show({"a", "b"}).front();
     actions.toggleSelect(first);
     actions.togglePin(first);
@@ -70,14 +70,14 @@ TEST_F(PanelControllerTest, The41stCaptureDropsTheOldest) {
     EXPECT_EQ(shownNames().back(), "40.png");
 }
 
-TEST_F(PanelControllerTest, AnAddClearsTheCopiedConfirmation) {
+TEST_F(PanelControllerTest, ANewCaptureClearsTheCopyConfirmation) {
     const auto shown = show({"a"});
     state->copiedID.set(shown[0]->id());
     show({"b"});
     EXPECT_EQ(state->copiedID.value(), std::nullopt);
 }
 
-TEST_F(PanelControllerTest, ThePanelStandsInTheCornerOfTheSettings) {
+TEST_F(PanelControllerTest, ThePanelIsInTheCornerOfTheSettings) {
     screens.screens = {{{{0, 0}, {1920, 1080}}, {{0, 40}, {1920, 1010}}}};
     show({"a"});
     EXPECT_EQ(panel.frames.back(), (Rect{{1120, 40}, {800, 330}}));
@@ -88,7 +88,7 @@ TEST_F(PanelControllerTest, ThePanelStandsInTheCornerOfTheSettings) {
     EXPECT_EQ(state->corner, PanelCorner::topLeft);
 }
 
-TEST_F(PanelControllerTest, ACardThatStandsGoesToTheCornerThatIsChosen) {
+TEST_F(PanelControllerTest, AVisibleCardMovesToTheChosenCorner) {
     show({"a"});
     settings.corner.set(PanelCorner::topLeft);
     time.settle();
@@ -124,14 +124,14 @@ TEST_F(PanelControllerTest, APointerOnNoDisplayMeansTheMainOne) {
     EXPECT_EQ(panel.frames.back().origin, (Point{200, 0}));
 }
 
-TEST_F(PanelControllerTest, WithoutScreensThePanelHasAFixedFrame) {
+TEST_F(PanelControllerTest, ThePanelHasAFixedFrameWithoutScreens) {
     screens.screens.clear();
     screens.mainScreen.reset();
     show({"a"});
     EXPECT_EQ(panel.frames.back(), (Rect{{640, 0}, {800, 330}}));
 }
 
-TEST_F(PanelControllerTest, WithoutScreensEachCornerHasItsFrame) {
+TEST_F(PanelControllerTest, EachCornerHasItsFrameWithoutScreens) {
     screens.screens.clear();
     screens.mainScreen.reset();
     for (const auto& [corner, place] : {std::pair{PanelCorner::bottomRight, Point{640, 0}},
@@ -152,7 +152,7 @@ TEST_F(PanelControllerTest, APointerOnADesktopsPanelIsOnThatDisplay) {
     EXPECT_EQ(panel.frames.back(), (Rect{{2400, 40}, {800, 330}}));
 }
 
-TEST_F(PanelControllerTest, OnNoDisplayTheFreePartOfAnotherCounts) {
+TEST_F(PanelControllerTest, APointerOnNoDisplayUsesTheFreePartOfAnother) {
     const Screen first{{{0, 0}, {1000, 800}}, {{0, 40}, {960, 700}}};
     screens.screens = {first};
     screens.pointer = {-5, -5};
@@ -173,7 +173,7 @@ TEST_F(PanelControllerTest, ANewCaptureLeavesTheMarksOfTheOthers) {
     EXPECT_EQ(state->selected.value(), std::set{shown[1]->id()});
 }
 
-TEST_F(PanelControllerTest, ADismissalResetsTheStateAtOnceAndTheListHalfASecondLater) {
+TEST_F(PanelControllerTest, ADismissalClearsTheStateAtOnceAndTheListHalfASecondLater) {
     const auto shown = show({"a", "b"});
     actions.toggleSelect(shown[0]);
     actions.togglePin(shown[1]);
@@ -226,7 +226,7 @@ TEST_F(PanelControllerTest, RemovingTheLastCaptureDismisses) {
     EXPECT_FALSE(panel.isOnScreen);
 }
 
-TEST_F(PanelControllerTest, RemovalTakesTheIdentifiersAlongInOneSpring) {
+TEST_F(PanelControllerTest, RemovalAlsoRemovesTheIdentifiersInOneAnimation) {
     const auto shown = show({"a", "b", "c"});
     for (const auto& one : shown) {
         actions.toggleSelect(one);
@@ -256,7 +256,7 @@ TEST_F(PanelControllerTest, RemovalDoesNotMoveThePanel) {
     EXPECT_EQ(panel.frames.size(), frames);
 }
 
-TEST_F(PanelControllerTest, WhereTheThumbnailsStandIsLoggedOnceTheyDo) {
+TEST_F(PanelControllerTest, LogsThePlacesOfTheThumbnailsWhenTheyAreFinal) {
     CapturedLog log(CapturedLog::DebugSwitch::on);
     show({"a"});
     time.advance(Seconds(1.19));
@@ -265,7 +265,7 @@ TEST_F(PanelControllerTest, WhereTheThumbnailsStandIsLoggedOnceTheyDo) {
     EXPECT_TRUE(log.contains("Vantle[dbg]: no thumbnails"));
 }
 
-TEST_F(PanelControllerTest, SaysWhatItDoesWhenDebugging) {
+TEST_F(PanelControllerTest, LogsItsActionsWhenDebugging) {
     CapturedLog log(CapturedLog::DebugSwitch::on);
     panel.glassFrame = "{{1, 2}, {3, 4}}";
     const auto shown = show({"a", "b"});
@@ -280,7 +280,7 @@ TEST_F(PanelControllerTest, SaysWhatItDoesWhenDebugging) {
         EXPECT_TRUE(log.contains(std::string("Vantle[dbg]: ") + line)) << line;
 }
 
-TEST_F(PanelControllerTest, ASnapshotIsWrittenAfterEachAddWhenAskedFor) {
+TEST_F(PanelControllerTest, ASnapshotIsWrittenAfterEachNewCaptureOnRequest) {
     environment["VANTLE_SNAPSHOT"] = "/tmp/card.png";
     show({"a"});
     wait(1.1);
@@ -301,7 +301,7 @@ TEST_F(PanelControllerTest, AFailedSnapshotIsLogged) {
     EXPECT_THAT(log.lines(), ElementsAre("Vantle: snapshot failed No such file or directory"));
 }
 
-TEST_F(PanelControllerTest, NothingRunsOnceItHasGone) {
+TEST_F(PanelControllerTest, NothingRunsAfterItHasGone) {
     settings.dismissAfter.set(5);
     show({"a"});
     controller().dismiss();

@@ -14,7 +14,7 @@ protected:
     }
 };
 
-TEST_F(PanelReleaseTest, ComesTwoSecondsAfterTheCardHasLeft) {
+TEST_F(PanelReleaseTest, HappensTwoSecondsAfterTheCardHasLeft) {
     show({"a", "b"});
     controller().dismiss();
     wait(0.5);
@@ -25,13 +25,13 @@ TEST_F(PanelReleaseTest, ComesTwoSecondsAfterTheCardHasLeft) {
     expectReleased(1);
 }
 
-TEST_F(PanelReleaseTest, DoesNotComeWhileTheCardStands) {
+TEST_F(PanelReleaseTest, DoesNotHappenWhileTheCardIsVisible) {
     show({"a"});
     wait(3600);
     expectReleased(0);
 }
 
-TEST_F(PanelReleaseTest, DoesNotComeAgain) {
+TEST_F(PanelReleaseTest, DoesNotHappenAgain) {
     show({"a"});
     controller().dismiss();
     wait(3600);
@@ -51,7 +51,7 @@ TEST_F(PanelReleaseTest, WaitsForTheNextCardToLeave) {
     expectReleased(1);
 }
 
-TEST_F(PanelReleaseTest, ComesOnceForADismissalThatIsRepeated) {
+TEST_F(PanelReleaseTest, HappensOnceForARepeatedDismissal) {
     show({"a"});
     controller().dismiss();
     wait(1);
@@ -60,13 +60,13 @@ TEST_F(PanelReleaseTest, ComesOnceForADismissalThatIsRepeated) {
     expectReleased(1);
 }
 
-TEST_F(PanelReleaseTest, DoesNotComeWhereNoCardHasBeen) {
+TEST_F(PanelReleaseTest, DoesNotHappenWithoutACard) {
     controller().dismiss();
     wait(3600);
     expectReleased(0);
 }
 
-TEST_F(PanelReleaseTest, DoesNotComeOnceTheControllerHasGone) {
+TEST_F(PanelReleaseTest, DoesNotHappenAfterTheControllerHasGone) {
     show({"a"});
     controller().dismiss();
     wait(1);

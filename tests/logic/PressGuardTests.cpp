@@ -30,11 +30,11 @@ protected:
     PressGuard guard{{.interval = Seconds(0.4), .distance = 5}};
 };
 
-TEST_F(PressGuardTest, APressWherePointerHasComeIsMeant) {
+TEST_F(PressGuardTest, APressAfterThePointerHasMovedThereCounts) {
     EXPECT_TRUE(press("first"));
 }
 
-TEST_F(PressGuardTest, WhatHasSlidUnderThePointerTakesNoPressForTheTimeOfADoubleClick) {
+TEST_F(PressGuardTest, ATargetThatSlidUnderThePointerTakesNoPressForTheTimeOfADoubleClick) {
     slideSecondUnder();
     EXPECT_FALSE(press("second"));
     wait(0.39);
@@ -43,7 +43,7 @@ TEST_F(PressGuardTest, WhatHasSlidUnderThePointerTakesNoPressForTheTimeOfADouble
     EXPECT_TRUE(press("second"));
 }
 
-TEST_F(PressGuardTest, TheSecondOfTwoClicksHalfASecondApartIsNotMeantForTheNeighbour) {
+TEST_F(PressGuardTest, TheSecondOfTwoQuickClicksDoesNotReachTheNeighbour) {
     for (const double gap : {0.2, 0.3, 0.4, 0.5}) {
         SCOPED_TRACE(gap);
         wait(10);
@@ -57,38 +57,38 @@ TEST_F(PressGuardTest, TheSecondOfTwoClicksHalfASecondApartIsNotMeantForTheNeigh
     }
 }
 
-TEST_F(PressGuardTest, AfterThePointerHasMovedThePressIsMeant) {
+TEST_F(PressGuardTest, APressCountsAfterThePointerHasMoved) {
     slideSecondUnder();
     guard.pointerMoves({106, 100}, "second");
     EXPECT_TRUE(press("second", {106, 100}));
 }
 
-TEST_F(PressGuardTest, AHandThatShakesHasNotMovedThePointer) {
+TEST_F(PressGuardTest, AShakingHandDoesNotMoveThePointer) {
     slideSecondUnder();
     guard.pointerMoves({104, 102}, "second");
     guard.pointerMoves({98, 101}, "second");
     EXPECT_FALSE(press("second", {98, 101}));
 }
 
-TEST_F(PressGuardTest, ThatHandMayShakeAcrossAnEdge) {
+TEST_F(PressGuardTest, AShakingHandMayCrossAnEdge) {
     guard.contentChanges(now);
     guard.pointerMoves({103, 100}, "second");
     EXPECT_TRUE(press("second", {103, 100})) << "it was the pointer that went there";
 }
 
-TEST_F(PressGuardTest, WhatStaysUnderThePointerTakesPressesWhileOthersMove) {
+TEST_F(PressGuardTest, ATargetThatStaysUnderThePointerTakesPressesWhileOthersMove) {
     guard.contentChanges(now);
     guard.targetBecomes("first", now);
     EXPECT_TRUE(press("first"));
 }
 
-TEST_F(PressGuardTest, WhatComesBecauseThePointerIsThereTakesPresses) {
+TEST_F(PressGuardTest, ATargetThatAppearsBecauseOfThePointerTakesPresses) {
     wait(5);
     guard.targetBecomes("button", now);
     EXPECT_TRUE(press("button"));
 }
 
-TEST_F(PressGuardTest, ACardThatComesUnderThePointerTakesNoPressAtOnce) {
+TEST_F(PressGuardTest, ACardThatAppearsUnderThePointerTakesNoPressAtOnce) {
     guard.contentChanges(now);
     wait(0.3);
     guard.pointerEnters({300, 300}, "first", now);
@@ -97,21 +97,21 @@ TEST_F(PressGuardTest, ACardThatComesUnderThePointerTakesNoPressAtOnce) {
     EXPECT_TRUE(press("first", {300, 300}));
 }
 
-TEST_F(PressGuardTest, APointerThatComesFromElsewhereAtThatMomentIsMeant) {
+TEST_F(PressGuardTest, APointerThatArrivesFromElsewhereAtThatMomentCounts) {
     guard.contentChanges(now, Point{10, 10});
     wait(0.3);
     guard.pointerEnters({300, 300}, "first", now);
     EXPECT_TRUE(press("first", {300, 300}));
 }
 
-TEST_F(PressGuardTest, ACardThatComesUnderAPointerWhosePlaceIsKnownTakesNoPressAtOnce) {
+TEST_F(PressGuardTest, ACardThatAppearsUnderAKnownPointerTakesNoPressAtOnce) {
     guard.contentChanges(now, Point{300, 301});
     wait(0.3);
     guard.pointerEnters({300, 300}, "first", now);
     EXPECT_FALSE(press("first", {300, 300}));
 }
 
-TEST_F(PressGuardTest, APressElsewhereIsOneOfAPointerThatHasMoved) {
+TEST_F(PressGuardTest, APressElsewhereMeansThatThePointerHasMoved) {
     slideSecondUnder();
     EXPECT_TRUE(press("second", {300, 100}));
     // From now on the pointer rests there.
@@ -121,7 +121,7 @@ TEST_F(PressGuardTest, APressElsewhereIsOneOfAPointerThatHasMoved) {
     EXPECT_FALSE(press("third", {301, 100}));
 }
 
-TEST_F(PressGuardTest, ACardStandsASecondAfterItCame) {
+TEST_F(PressGuardTest, ACardTakesPressesASecondAfterItAppeared) {
     guard.contentChanges(now);
     wait(0.99);
     guard.pointerEnters({300, 300}, "first", now);
@@ -132,21 +132,21 @@ TEST_F(PressGuardTest, ACardStandsASecondAfterItCame) {
     EXPECT_TRUE(press("second", {200, 300}));
 }
 
-TEST_F(PressGuardTest, ACardThatStandsTakesThePressOfAPointerThatComes) {
+TEST_F(PressGuardTest, ACardAtRestTakesThePressOfAnArrivingPointer) {
     guard.contentChanges(now);
     wait(2);
     guard.pointerEnters({300, 300}, "first", now);
     EXPECT_TRUE(press("first", {300, 300}));
 }
 
-TEST_F(PressGuardTest, TheSecondClickOfADoubleClickIsNeverOneOnSomethingElse) {
+TEST_F(PressGuardTest, TheSecondClickOfADoubleClickNeverReachesAnotherTarget) {
     EXPECT_TRUE(press("first"));
     wait(0.2);
     // No change of the content was reported.
     EXPECT_FALSE(press("second", {102, 100}));
 }
 
-TEST_F(PressGuardTest, TheSecondClickOfADoubleClickOnTheSameThingIsMeant) {
+TEST_F(PressGuardTest, TheSecondClickOfADoubleClickOnTheSameTargetCounts) {
     EXPECT_TRUE(press("first"));
     wait(0.2);
     EXPECT_TRUE(press("first"));
@@ -158,12 +158,12 @@ TEST_F(PressGuardTest, TwoClicksInDifferentPlacesAreNoDoubleClick) {
     EXPECT_TRUE(press("second", {120, 100}));
 }
 
-TEST_F(PressGuardTest, AChangeThatTheNextFrameIsToShowCountsAsWell) {
+TEST_F(PressGuardTest, AChangeThatIsNotDrawnYetCountsAsWell) {
     guard.contentChanges(now);
     EXPECT_FALSE(press("second"));
 }
 
-TEST_F(PressGuardTest, APressWithoutAPointerThatMovedThereIsMeant) {
+TEST_F(PressGuardTest, APressWithoutAPointerMovementCounts) {
     guard.contentChanges(now);
     EXPECT_TRUE(press("second", {300, 20})) << "a finger";
 }

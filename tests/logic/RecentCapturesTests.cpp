@@ -30,7 +30,7 @@ protected:
     const Url url = folder.appending("shot.png");
 };
 
-TEST_F(RecentCapturesTest, The21stPushesTheOldestOut) {
+TEST_F(RecentCapturesTest, The21stCaptureRemovesTheOldest) {
     launch();
     for (int i = 1; i <= 21; ++i) save(std::to_string(i) + ".png");
     EXPECT_EQ(recentNames().size(), 20u);
@@ -59,7 +59,7 @@ TEST_F(RecentCapturesTest, KeepPicturesAsSmallAsTheMenuNeedsThem) {
     EXPECT_EQ(kept->size, shown().front()->thumbnail()->size);
 }
 
-TEST_F(RecentCapturesTest, AreShownAgainWithTheirWholePicture) {
+TEST_F(RecentCapturesTest, AreShownAgainWithTheirFullPicture) {
     const auto recent = takeAndDismiss();
     choose(recent);
     ASSERT_THAT(shown(), SizeIs(1));
@@ -69,7 +69,7 @@ TEST_F(RecentCapturesTest, AreShownAgainWithTheirWholePicture) {
     EXPECT_TRUE(delegate->panel().isVisible());
 }
 
-TEST_F(RecentCapturesTest, WhoseFileIsGoneAreShownWithWhatIsLeft) {
+TEST_F(RecentCapturesTest, AreShownWithTheSmallPictureIfTheFileIsGone) {
     const auto recent = takeAndDismiss();
     media->addDamagedImage(url, std::nullopt, {});
     choose(recent);
@@ -77,7 +77,7 @@ TEST_F(RecentCapturesTest, WhoseFileIsGoneAreShownWithWhatIsLeft) {
     EXPECT_EQ(shown().front(), recent);
 }
 
-TEST_F(RecentCapturesTest, ThatAreStillOnTheCardAreNotLoadedAgain) {
+TEST_F(RecentCapturesTest, AreNotLoadedAgainWhileOnTheCard) {
     launch();
     media->addImage(url, Size{2560, 1440}, {2560, 1440});
     save("shot.png");
@@ -90,7 +90,7 @@ TEST_F(RecentCapturesTest, ThatAreStillOnTheCardAreNotLoadedAgain) {
     EXPECT_EQ(shown().back(), first);  // it has moved to the end
 }
 
-TEST_F(RecentCapturesTest, AreNotShownByAProgramThatHasGone) {
+TEST_F(RecentCapturesTest, AreNotShownAfterTheProgramHasEnded) {
     const auto recent = takeAndDismiss();
     const auto onShow = delegate->statusBar().onShow;
     onShow(recent);

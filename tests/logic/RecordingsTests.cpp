@@ -33,7 +33,7 @@ protected:
     Url recordingsFolder = casts;
 };
 
-TEST_F(RecordingsTest, ARecordingInItsOwnFolderComesTheSameWay) {
+TEST_F(RecordingsTest, ARecordingInItsOwnFolderIsShownTheSameWay) {
     defaults->stored["playSound"] = true;
     launch();
     events.clear();
@@ -45,7 +45,7 @@ TEST_F(RecordingsTest, ARecordingInItsOwnFolderComesTheSameWay) {
     EXPECT_EQ(std::ranges::count(events, "sound Pop"), 3);
 }
 
-TEST_F(RecordingsTest, CapturesOfBothFoldersComeInTheOrderInWhichTheySettled) {
+TEST_F(RecordingsTest, CapturesOfBothFoldersAppearInTheOrderInWhichTheySettled) {
     launch();
     files->write(casts.appending("a.mp4"), 1000, clock->now());
     time.advance(Seconds(0.1));
@@ -71,7 +71,7 @@ TEST_F(RecordingsTest, TheFolderIsWatchedWhileRecordingsAreOn) {
     EXPECT_THAT(recentNames(), ElementsAre("b.mp4"));
 }
 
-TEST_F(RecordingsTest, APauseIsOneOfBoth) {
+TEST_F(RecordingsTest, APauseStopsBothWatchers) {
     launch();
     delegate->statusBar().togglePause();
     EXPECT_EQ(state(), State::stopped);
@@ -96,7 +96,7 @@ TEST_F(RecordingsTest, ItIsNotWatchedBeforeTheOnboardingHasEnded) {
     EXPECT_EQ(state(), State::watching);
 }
 
-TEST_F(RecordingsTest, OneFolderForBothGivesOneTile) {
+TEST_F(RecordingsTest, TheSameFolderForBothGivesOneTile) {
     recordingsFolder = folder;
     launch();
     EXPECT_EQ(state(), State::stopped);
@@ -106,7 +106,7 @@ TEST_F(RecordingsTest, OneFolderForBothGivesOneTile) {
     EXPECT_THAT(status(), Not(HasSubstr("recordings")));
 }
 
-TEST_F(RecordingsTest, OneFolderInTheOtherGivesOneTileForEach) {
+TEST_F(RecordingsTest, NestedFoldersGiveOneTileForEachFile) {
     recordingsFolder = folder.appending("Screencasts");
     launch();
     (void)files->createDirectory(recordingsFolder);
@@ -129,7 +129,7 @@ TEST_F(RecordingsTest, TheChoiceOfAFolderForScreenshotsDecidesWhetherThereAreTwo
     EXPECT_THAT(recentNames(), ElementsAre("b.mp4", "a.mp4"));
 }
 
-TEST_F(RecordingsTest, AnotherFolderOfTheRecorderCountsWhenTheSettingsAreOpened) {
+TEST_F(RecordingsTest, AChangedFolderOfTheRecorderCountsWhenTheSettingsOpen) {
     offerWindows();
     launch();
     recordingsFolder = Url::file("/home/user/Clips");
@@ -141,7 +141,7 @@ TEST_F(RecordingsTest, AnotherFolderOfTheRecorderCountsWhenTheSettingsAreOpened)
     EXPECT_THAT(recentNames(), ElementsAre("a.mp4"));
 }
 
-TEST_F(RecordingsTest, WhateverFailsThereNobodyIsAlerted) {
+TEST_F(RecordingsTest, FailuresThereShowNoAlert) {
     files->failListing(casts, EACCES);
     launch();
     time.advance(Seconds(1));
@@ -157,7 +157,7 @@ TEST_F(RecordingsTest, WhateverFailsThereNobodyIsAlerted) {
     EXPECT_EQ(files->existence(casts), FileManager::Existence::none) << "it is not ours to make";
 }
 
-TEST_F(RecordingsTest, TheStatusTellsWhatIsWatched) {
+TEST_F(RecordingsTest, TheStatusNamesTheWatchedFolder) {
     launch();
     EXPECT_THAT(status(), HasSubstr("\nrecordings: watched\nrecordings folder: " + casts.path()));
     files->removeDirectory(casts);

@@ -57,7 +57,7 @@ protected:
     CapturedLog log;
 };
 
-TEST_F(RecordingsWatcherTest, WhatIsRecordedIntoAFolderThatIsThereIsReportedOnce) {
+TEST_F(RecordingsWatcherTest, ARecordingInAnExistingFolderIsReportedOnce) {
     make(folder);
     save("old.mp4");
     start();
@@ -66,7 +66,7 @@ TEST_F(RecordingsWatcherTest, WhatIsRecordedIntoAFolderThatIsThereIsReportedOnce
     EXPECT_THAT(captured, ElementsAre("new.mp4"));
 }
 
-TEST_F(RecordingsWatcherTest, AFolderThatComesLaterIsWaitedForInSilence) {
+TEST_F(RecordingsWatcherTest, AFolderThatAppearsLaterIsAwaitedSilently) {
     start();
     EXPECT_EQ(watcher->state(), State::waiting);
     make(videos);
@@ -80,7 +80,7 @@ TEST_F(RecordingsWatcherTest, AFolderThatComesLaterIsWaitedForInSilence) {
     EXPECT_EQ(files.openSources(), 1u);
 }
 
-TEST_F(RecordingsWatcherTest, WhatCameTogetherWithTheFolderIsNew) {
+TEST_F(RecordingsWatcherTest, AFileThatArrivesWithTheFolderIsNew) {
     start();
     (void)files.createDirectory(folder);
     files.write(folder.appending("first.mp4"), 1000, clock.now());
@@ -102,7 +102,7 @@ TEST_F(RecordingsWatcherTest, AFolderThatIsRemovedAndMadeAgainIsWatchedAgain) {
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 
-TEST_F(RecordingsWatcherTest, AFolderThatIsRenamedIsWaitedForUnderItsName) {
+TEST_F(RecordingsWatcherTest, ARenamedFolderIsAwaitedUnderItsOldName) {
     make(folder);
     start();
     const Url other = videos.appending("Other");
@@ -118,7 +118,7 @@ TEST_F(RecordingsWatcherTest, AFolderThatIsRenamedIsWaitedForUnderItsName) {
     EXPECT_THAT(captured, ElementsAre("b.mp4"));
 }
 
-TEST_F(RecordingsWatcherTest, TheFolderAboveMayGoAndComeAgain) {
+TEST_F(RecordingsWatcherTest, TheFolderAboveMayVanishAndComeBack) {
     make(videos);
     start();
     files.removeDirectory(videos);
@@ -157,7 +157,7 @@ TEST_F(RecordingsWatcherTest, PicturesBesideRecordingsAreNotReported) {
     EXPECT_THAT(captured, ElementsAre("new.mov"));
 }
 
-TEST_F(RecordingsWatcherTest, OnceStoppedNothingIsOpen) {
+TEST_F(RecordingsWatcherTest, NothingIsOpenAfterAStop) {
     make(folder);
     start();
     watcher->stop();
@@ -173,7 +173,7 @@ TEST_F(RecordingsWatcherTest, OnceStoppedNothingIsOpen) {
     EXPECT_THAT(captured, IsEmpty());
 }
 
-TEST_F(RecordingsWatcherTest, AFolderThatCameJustBeforeItWasStoppedIsNotWatched) {
+TEST_F(RecordingsWatcherTest, AFolderThatAppearsJustBeforeAStopIsNotWatched) {
     start();
     // What the queue has noticed is still on its way to the main thread.
     (void)files.createDirectory(folder);
@@ -183,7 +183,7 @@ TEST_F(RecordingsWatcherTest, AFolderThatCameJustBeforeItWasStoppedIsNotWatched)
     EXPECT_EQ(files.openSources(), 0u);
 }
 
-TEST_F(RecordingsWatcherTest, AFolderThatIsWaitedForTakesThePlaceOfTheOneThatIsWatched) {
+TEST_F(RecordingsWatcherTest, AnAwaitedFolderReplacesTheWatchedOne) {
     make(folder);
     start();
     start(home.appending("Later"));
@@ -193,7 +193,7 @@ TEST_F(RecordingsWatcherTest, AFolderThatIsWaitedForTakesThePlaceOfTheOneThatIsW
     EXPECT_EQ(files.openSources(), 1u);
 }
 
-TEST_F(RecordingsWatcherTest, AnotherFolderTakesThePlaceOfTheOneThatIsWaitedFor) {
+TEST_F(RecordingsWatcherTest, AnotherFolderReplacesTheAwaitedOne) {
     start();
     const Url other = home.appending("Clips");
     make(other);
@@ -204,7 +204,7 @@ TEST_F(RecordingsWatcherTest, AnotherFolderTakesThePlaceOfTheOneThatIsWaitedFor)
     EXPECT_THAT(captured, ElementsAre("b.mp4"));
 }
 
-TEST_F(RecordingsWatcherTest, ARemoteFolderIsLookedForInTheBackground) {
+TEST_F(RecordingsWatcherTest, ARemoteFolderIsSearchedInTheBackground) {
     files.makeRemote(folder);
     watcher->start(folder);
     EXPECT_EQ(files.openSources(), 0u);
@@ -232,7 +232,7 @@ TEST_F(RecordingsWatcherTest, StartingAgainChangesNothing) {
     EXPECT_THAT(captured, ElementsAre("a.mp4"));
 }
 
-TEST_F(RecordingsWatcherTest, AFolderThatMayNotBeReadIsLoggedAndTriedAgainOnRequest) {
+TEST_F(RecordingsWatcherTest, AnUnreadableFolderIsLoggedAndTriedAgainOnRequest) {
     make(folder);
     files.failListing(folder, EACCES);
     start();
@@ -245,7 +245,7 @@ TEST_F(RecordingsWatcherTest, AFolderThatMayNotBeReadIsLoggedAndTriedAgainOnRequ
     EXPECT_EQ(watcher->state(), State::watching);
 }
 
-TEST_F(RecordingsWatcherTest, WhereNobodyCanWaitThatIsLogged) {
+TEST_F(RecordingsWatcherTest, LogsThatAFolderCannotBeAwaited) {
     files.failOpening(home, EACCES);
     start();
     EXPECT_EQ(watcher->state(), State::failed);

@@ -23,7 +23,7 @@ protected:
     const fakes::CapturedLog log;
 };
 
-TEST_F(RequestHandlerTest, PausesAndResumesHoweverOften) {
+TEST_F(RequestHandlerTest, PausesAndResumesRepeatedly) {
     launch();
     for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(ask("pause"), "");
@@ -55,7 +55,7 @@ TEST_F(RequestHandlerTest, ShowsFilesWithAnExtensionThatTheSystemAdds) {
     EXPECT_EQ(delegate->panel().state().captures.value().size(), 1u);
 }
 
-TEST_F(RequestHandlerTest, ShowsWhatItCanAndNamesTheRest) {
+TEST_F(RequestHandlerTest, ShowsValidFilesAndNamesTheOthers) {
     launch();
     files->write(Url::file("/pictures/a.png"), 1, Date{});
     files->write(Url::file("/pictures/letter.txt"), 1, Date{});
@@ -73,7 +73,7 @@ TEST_F(RequestHandlerTest, DismissesTheCard) {
     EXPECT_EQ(ask("dismiss"), "");
 }
 
-TEST_F(RequestHandlerTest, GivesThePanelTheKeyboardWhereThereIsOne) {
+TEST_F(RequestHandlerTest, GivesThePanelTheKeyboardIfThereIsOne) {
     launch();
     EXPECT_EQ(ask("focus-panel"), "failed: no card is shown");
     EXPECT_EQ(panel.timesKeyboardTaken, 0);
@@ -95,7 +95,7 @@ TEST_F(RequestHandlerTest, OpensSettingsAndFolderAndShowsSamplesAndQuits) {
     EXPECT_EQ(application->terminations, 1);
 }
 
-TEST_F(RequestHandlerTest, TellsWhatItIsDoing) {
+TEST_F(RequestHandlerTest, ReportsItsState) {
     launch();
     save("shot.png");
     EXPECT_EQ(ask("status"), "version: " + std::string(version) +
@@ -113,7 +113,7 @@ TEST_F(RequestHandlerTest, TellsWhatItIsDoing) {
     EXPECT_THAT(ask("status"), HasSubstr("state: not watching"));
 }
 
-TEST_F(RequestHandlerTest, TheVerboseStatusTellsWhatAReportOfAFaultNeedsButNoPath) {
+TEST_F(RequestHandlerTest, TheVerboseStatusHasTheFactsOfAFaultReportButNoPath) {
     platform.surroundings = [] { return std::vector<ReportLine>{{"tray", "on D-Bus"}}; };
     domain->values["location"] = std::string("/home/user/Clients");
     (void)files->createDirectory(Url::file("/home/user/Clients"));
@@ -133,7 +133,7 @@ TEST_F(RequestHandlerTest, TheVerboseStatusTellsWhatAReportOfAFaultNeedsButNoPat
               HasSubstr(" Vantle: cannot open /home/user/Clients/Acme.png: Permission denied")));
 }
 
-TEST_F(RequestHandlerTest, TheVerboseStatusTellsWhyTheFolderIsNotWatched) {
+TEST_F(RequestHandlerTest, TheVerboseStatusSaysWhyTheFolderIsNotWatched) {
     launch();
     files->makeReadOnly(Url::file("/home/user"));
     files->removeDirectory(folder);
@@ -141,7 +141,7 @@ TEST_F(RequestHandlerTest, TheVerboseStatusTellsWhyTheFolderIsNotWatched) {
     EXPECT_THAT(ask("status", {"verbose"}), HasSubstr(" Vantle: cannot watch (path): missing"));
 }
 
-TEST_F(RequestHandlerTest, WhatIsNotKnownIsRefused) {
+TEST_F(RequestHandlerTest, AnUnknownRequestIsRefused) {
     launch();
     EXPECT_EQ(ask("dance"), "failed: there is no action \"dance\"");
 }
@@ -158,7 +158,7 @@ TEST_F(RequestHandlerTest, ASecondCopyHandsItsRequestToTheFirst) {
     EXPECT_EQ(application->terminations, 1);
 }
 
-TEST_F(RequestHandlerTest, WhatTheFirstCopyCannotDoTheSecondOneFailsWith) {
+TEST_F(RequestHandlerTest, TheSecondCopyFailsWithTheFailureOfTheFirst) {
     application->otherCopyRuns = true;
     application->answer = Failure{EIO, "it is ending", {}};
     const auto answer = make().applicationWillFinishLaunching(ApplicationRequest{"status", {}});

@@ -22,7 +22,7 @@ protected:
     }
 };
 
-TEST_F(SampleCapturesTest, OneIsShownAtOnceAndTheOther16TenthsOfASecondLater) {
+TEST_F(SampleCapturesTest, TheSecondOneIsShown16TenthsOfASecondAfterTheFirst) {
     launch();
     platform.vantleShowDemo.notify();
     time.settle();
@@ -67,7 +67,7 @@ TEST_F(SampleCapturesTest, TheyAreDrawnAsDescribed) {
     EXPECT_FALSE(second.text);
 }
 
-TEST_F(SampleCapturesTest, TheyAreNotCopiedNotHeardAndNotRecent) {
+TEST_F(SampleCapturesTest, TheyAreNotCopiedAndMakeNoSoundAndAreNotRecent) {
     defaults->stored["copyOnCapture"] = true;
     defaults->stored["playSound"] = true;
     launch();
@@ -80,7 +80,7 @@ TEST_F(SampleCapturesTest, TheyAreNotCopiedNotHeardAndNotRecent) {
     EXPECT_THAT(recentNames(), IsEmpty());
 }
 
-TEST_F(SampleCapturesTest, WhereNothingCanBeWrittenNothingIsShown) {
+TEST_F(SampleCapturesTest, ShowsNothingIfNothingCanBeWritten) {
     launch();
     files->makeReadOnly(temporary);
     delegate->showDemo();
@@ -89,7 +89,7 @@ TEST_F(SampleCapturesTest, WhereNothingCanBeWrittenNothingIsShown) {
     EXPECT_THAT(alerts->shown, IsEmpty());
 }
 
-TEST_F(SampleCapturesTest, OneThatCannotBeDrawnDoesNotKeepTheOtherAway) {
+TEST_F(SampleCapturesTest, AFailureToDrawOneDoesNotPreventTheOther) {
     launch();
     canvas->failure = Failure{ENOMEM, "no memory", ""};
     delegate->showDemo();
@@ -110,7 +110,7 @@ TEST_F(SampleCapturesTest, TwoCallsMakeTwoOfEachAndThePanelKeepsTheLaterOnes) {
     EXPECT_THAT(shownNames(), ElementsAre("Vantle Sample.png", "Vantle Sample 2.png"));
 }
 
-TEST_F(SampleCapturesTest, NothingComesAfterTheEnd) {
+TEST_F(SampleCapturesTest, NothingIsShownAfterTheEnd) {
     launch();
     delegate->showDemo();
     delegate.reset();

@@ -32,14 +32,14 @@ protected:
     Selection selection{state};
 };
 
-TEST_F(SelectionTest, TogglingTwiceLeavesItAsItWas) {
+TEST_F(SelectionTest, TogglingTwiceChangesNothing) {
     selection.toggle(shown[0]);
     EXPECT_THAT(selected(), ElementsAre(shown[0]->id()));
     selection.toggle(shown[0]);
     EXPECT_THAT(selected(), IsEmpty());
 }
 
-TEST_F(SelectionTest, ClearingAnEmptyOneAnnouncesNothing) {
+TEST_F(SelectionTest, ClearingAnEmptySelectionAnnouncesNothing) {
     int announced = 0;
     const auto subscription = state.selected.observeChanges([&](const auto&) { ++announced; });
     selection.clear();
@@ -50,14 +50,14 @@ TEST_F(SelectionTest, ClearingAnEmptyOneAnnouncesNothing) {
     EXPECT_THAT(selected(), IsEmpty());
 }
 
-TEST_F(SelectionTest, IsGivenInTheOrderOfTheCardWithoutWhatHasLeft) {
+TEST_F(SelectionTest, IsInTheOrderOfTheCardWithoutCapturesThatLeft) {
     for (const int i : {2, 1, 0}) selection.toggle(shown[static_cast<std::size_t>(i)]);
     EXPECT_EQ(selection.captures(), shown);
     state.captures.set({shown[0], shown[2]});
     EXPECT_THAT(selection.captures(), ElementsAre(shown[0], shown[2]));
 }
 
-TEST_F(SelectionTest, BesideOrAgainstAThumbnailNothingIsTouched) {
+TEST_F(SelectionTest, SelectsNothingBesideOrAtTheEdgeOfAThumbnail) {
     drag({{110, 20}, {10, 10}});
     EXPECT_THAT(selected(), IsEmpty());
     drag({{10, 90}, {300, 10}});
@@ -69,14 +69,14 @@ TEST_F(SelectionTest, AStraightLineAcrossThumbnailsSelectsThem) {
     EXPECT_EQ(selected().size(), 3u);
 }
 
-TEST_F(SelectionTest, ShrinkingBackDeselectsWhatIsNoLongerTouched) {
+TEST_F(SelectionTest, ShrinkingDeselectsThumbnailsThatAreNoLongerTouched) {
     drag({{5, 5}, {200, 50}});
     EXPECT_EQ(selected().size(), 2u);
     drag({{5, 5}, {50, 50}});
     EXPECT_THAT(selected(), UnorderedElementsAre(shown[0]->id()));
 }
 
-TEST_F(SelectionTest, WhatIsTouchedTakesThePlaceOfWhatWasSelected) {
+TEST_F(SelectionTest, TheTouchedThumbnailsReplaceTheSelection) {
     selection.toggle(shown[2]);
     drag({{5, 5}, {50, 50}});
     EXPECT_THAT(selected(), UnorderedElementsAre(shown[0]->id()));
@@ -88,14 +88,14 @@ TEST_F(SelectionTest, AThumbnailScrolledOutOfSightIsNotSelected) {
     EXPECT_THAT(selected(), UnorderedElementsAre(shown[1]->id(), shown[2]->id()));
 }
 
-TEST_F(SelectionTest, OfOneThatIsAlmostOutOfSightTheRestIsEnough) {
+TEST_F(SelectionTest, AVisiblePartOfAThumbnailIsEnough) {
     thumbnails[0].frame.size = {0.5, 80};
     thumbnails[1].frame.size = {100, 0.5};
     drag({{0, 0}, {400, 400}});
     EXPECT_EQ(selected().size(), 3u);
 }
 
-TEST_F(SelectionTest, AnEqualOneIsNotAnnounced) {
+TEST_F(SelectionTest, AnEqualSelectionIsNotAnnounced) {
     drag({{5, 5}, {50, 50}});
     int announcements = 0;
     const auto subscription = state.selected.observeChanges([&](const auto&) { ++announcements; });

@@ -70,7 +70,7 @@ TEST_F(SettingsTest, StoredValuesAreReadAtCreation) {
     EXPECT_TRUE(settings.showInDock.value());
 }
 
-TEST_F(SettingsTest, ACornerInOtherLetterCaseReadsAsBottomRight) {
+TEST_F(SettingsTest, ACornerInAnotherCaseIsReadAsBottomRight) {
     defaults.stored["corner"] = std::string("topleft");
     EXPECT_EQ(make().corner.value(), PanelCorner::bottomRight);
 }
@@ -103,7 +103,7 @@ TEST_F(SettingsTest, EachSettingIsStoredUnderItsKey) {
         EXPECT_EQ(defaults.stored.at(key), PreferenceValue(false)) << key;
 }
 
-TEST_F(SettingsTest, ObserversAreToldBeforeTheStoreIsWritten) {
+TEST_F(SettingsTest, ObserversAreNotifiedBeforeTheStoreIsWritten) {
     Settings settings = make();
     bool storedBefore = true;
     const auto subscription = settings.playSound.observeChanges(
@@ -146,7 +146,7 @@ TEST_F(SettingsTest, ShowInDockIsStoredAndAppliedAtOnce) {
     EXPECT_THAT(application.policies, ElementsAre(Policy::regular, Policy::accessory));
 }
 
-TEST_F(SettingsTest, ApplyingThePolicyLeavesTheSettingAlone) {
+TEST_F(SettingsTest, ApplyingThePolicyKeepsTheSetting) {
     Settings settings = make();
     Settings::applyActivationPolicy(application, true);
     EXPECT_THAT(application.policies, ElementsAre(Policy::regular));
@@ -190,7 +190,7 @@ TEST_F(SettingsTest, HidingTheSystemThumbnailChangesTheSystem) {
     EXPECT_TRUE(settings.hideSystemThumbnail.value());
 }
 
-TEST_F(SettingsTest, AThumbnailThatCannotBeHiddenIsSeenOnceTheSystemIsRead) {
+TEST_F(SettingsTest, AThumbnailThatCannotBeHiddenIsShownAfterTheSystemIsRead) {
     Settings settings = make();
     domain.obstacles["show-thumbnail"] = "It shows.";
     settings.setHideSystemThumbnail(true);
@@ -217,7 +217,7 @@ TEST_F(SettingsTest, LaunchAtLoginFollowsTheSystem) {
     EXPECT_EQ(loginItem.current, LoginItem::Status::notRegistered);
 }
 
-TEST_F(SettingsTest, RecommendedDefaultsLeaveTheRestAlone) {
+TEST_F(SettingsTest, RecommendedDefaultsKeepOtherSettings) {
     defaults.stored = {{"dismissAfter", 30.0},    {"removeAfterUse", false},
                        {"deleteAfterUse", true},  {"corner", std::string("topLeft")},
                        {"showRecordings", false}, {"copyOnCapture", true},
@@ -240,7 +240,7 @@ TEST_F(SettingsTest, RecommendedDefaultsLeaveTheRestAlone) {
     EXPECT_FALSE(domain.values.contains("location"));
 }
 
-TEST_F(SettingsTest, WhatTheUserHasSwitchedOffIsNotRecommendedAway) {
+TEST_F(SettingsTest, RecommendedDefaultsKeepALoginItemThatTheUserSwitchedOff) {
     Settings settings = make();
     loginItem.current = LoginItem::Status::refused;
     settings.applyRecommendedDefaults();

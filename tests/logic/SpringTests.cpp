@@ -20,7 +20,7 @@ double overshoot(const Animation& animation) {
     return farthest - 1;
 }
 
-TEST(Spring, BeginsWhereItIsAsFastAsItMoves) {
+TEST(Spring, BeginsAtTheCurrentPlaceAndSpeed) {
     for (const Animation& animation : {swinging, critical}) {
         const Spring spring(animation, {20, -300}, 100);
         EXPECT_DOUBLE_EQ(spring.at(0).value, 20);
@@ -45,7 +45,7 @@ TEST(Spring, FollowsTheEquationOfADampedSpring) {
     }
 }
 
-TEST(Spring, OvershootsAsItsDampingSays) {
+TEST(Spring, OvershootsByTheAmountOfItsDamping) {
     // In theory this is exp(-π ζ / √(1 - ζ²)).
     EXPECT_NEAR(overshoot({.response = 0.5, .dampingFraction = 0.82}), 0.0111, 5e-4);
     EXPECT_NEAR(overshoot({.response = 0.3, .dampingFraction = 0.7}), 0.0460, 5e-4);
@@ -64,12 +64,12 @@ TEST(Spring, IsSettledAfterItsSettlingTime) {
         }
 }
 
-TEST(Spring, WithNothingToDoItIsSettledAtOnce) {
+TEST(Spring, IsSettledAtOnceIfThereIsNothingToDo) {
     EXPECT_EQ(Spring(swinging, {7, 0}, 7).settlingTime(tolerance), 0);
     EXPECT_EQ(Spring(critical, {7, 0}, 7).settlingTime(tolerance), 0);
 }
 
-TEST(Spring, AnInterruptedMotionGoesOnWithoutAJump) {
+TEST(Spring, AnInterruptedMotionContinuesWithoutAJump) {
     const Spring first(swinging, {0, 0}, 100);
     const auto interrupted = first.at(0.1);
     const Spring second(swinging, interrupted, 0);

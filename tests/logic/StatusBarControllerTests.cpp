@@ -58,21 +58,21 @@ TEST_F(StatusBarControllerTest, TheItemIsInTheTrayFromTheBeginning) {
     EXPECT_FALSE(controller->paused());
 }
 
-TEST_F(StatusBarControllerTest, WithoutThePictureTheItemShowsALetter) {
+TEST_F(StatusBarControllerTest, TheItemShowsALetterWithoutThePicture) {
     item.pictures.clear();
     make();
     EXPECT_EQ(item.image, "");
     EXPECT_EQ(item.title, "V");
 }
 
-TEST_F(StatusBarControllerTest, WithoutCapturesTheMenuSaysSo) {
+TEST_F(StatusBarControllerTest, TheMenuSaysThatThereAreNoCaptures) {
     make();
     EXPECT_THAT(item.open(), ElementsAre("No captures yet", "-", "Pause Vantle", "Settings…",
                                          "Check for Updates…", "-", "Quit Vantle"));
     EXPECT_FALSE(line("No captures yet").isEnabled);
 }
 
-TEST_F(StatusBarControllerTest, WithCapturesTheMenuListsThemAndTheirFolder) {
+TEST_F(StatusBarControllerTest, TheMenuListsCapturesAndTheirFolder) {
     make();
     add("b.png");
     add("a.png");
@@ -82,7 +82,7 @@ TEST_F(StatusBarControllerTest, WithCapturesTheMenuListsThemAndTheirFolder) {
     EXPECT_FALSE(line("Recent Captures").isEnabled);
 }
 
-TEST_F(StatusBarControllerTest, Of25CapturesTheMenuListsThe10NewestInOrder) {
+TEST_F(StatusBarControllerTest, TheMenuListsThe10NewestOf25CapturesInOrder) {
     make();
     std::vector<std::string> expected;
     for (int i = 1; i <= 25; ++i) {
@@ -95,7 +95,7 @@ TEST_F(StatusBarControllerTest, Of25CapturesTheMenuListsThe10NewestInOrder) {
     EXPECT_EQ(titles[11], "-");
 }
 
-TEST_F(StatusBarControllerTest, AThumbnailFitsIntoTheMiddleOfItsRoom) {
+TEST_F(StatusBarControllerTest, AThumbnailIsFittedAndCentred) {
     make();
     add("wide.png", {1920, 1080});
     add("high.png", {1000, 2000});
@@ -112,7 +112,7 @@ TEST_F(StatusBarControllerTest, AThumbnailFitsIntoTheMiddleOfItsRoom) {
     EXPECT_FALSE(line("none.png").image);
 }
 
-TEST_F(StatusBarControllerTest, OnlySettingsAndQuitHaveKeys) {
+TEST_F(StatusBarControllerTest, OnlySettingsAndQuitHaveShortcuts) {
     make();
     add("a.png");
     item.open();
@@ -124,7 +124,7 @@ TEST_F(StatusBarControllerTest, OnlySettingsAndQuitHaveKeys) {
     }
 }
 
-TEST_F(StatusBarControllerTest, PausingTurnsTheItemAndTheMenu) {
+TEST_F(StatusBarControllerTest, PausingChangesTheItemAndTheMenu) {
     make();
     std::vector<bool> told;
     controller->onPause = [&](bool paused) { told.push_back(paused); };
@@ -142,7 +142,7 @@ TEST_F(StatusBarControllerTest, PausingTurnsTheItemAndTheMenu) {
     EXPECT_THAT(told, ElementsAre(true, false));
 }
 
-TEST_F(StatusBarControllerTest, ACaptureIsShownThatTheLineWasMadeFor) {
+TEST_F(StatusBarControllerTest, ALineShowsTheCaptureThatItWasMadeFor) {
     make();
     std::vector<CapturePointer> shown;
     controller->onShow = [&](const CapturePointer& capture) { shown.push_back(capture); };
@@ -154,7 +154,7 @@ TEST_F(StatusBarControllerTest, ACaptureIsShownThatTheLineWasMadeFor) {
     EXPECT_THAT(shown, ElementsAre(first));
 }
 
-TEST_F(StatusBarControllerTest, TheOtherLinesDoWhatTheySay) {
+TEST_F(StatusBarControllerTest, TheOtherLinesRunTheirActions) {
     make();
     int settingsAsked = 0;
     int updatesAsked = 0;

@@ -19,7 +19,7 @@ TEST(StatusReport, HasALineForEachFact) {
     EXPECT_EQ(reportText({}), "");
 }
 
-TEST(StatusReport, SaysWhereAFolderIsWithoutItsName) {
+TEST(StatusReport, DescribesAFoldersPlaceWithoutItsName) {
     fakes::VirtualTime time;
     fakes::ManualQueue queue(time);
     const fakes::FakeFileSystem files(queue);
@@ -32,7 +32,7 @@ TEST(StatusReport, SaysWhereAFolderIsWithoutItsName) {
     EXPECT_EQ(placeOf(Url::file("/mnt/shots"), files, Paths::shown), "/mnt/shots");
 }
 
-TEST(StatusReport, TellsTheMessagesOfTheLogWithTheirTimes) {
+TEST(StatusReport, ListsTheLogMessagesWithTheirTimes) {
     EXPECT_THAT(logReport({}, Paths::shown), ElementsAre(ReportLine{"log", "empty"}));
     const std::vector<LoggedMessage> messages{{{}, "Vantle: cannot watch /a b", "missing"}};
     EXPECT_THAT(logReport(messages, Paths::shown)[0].value,
@@ -41,13 +41,13 @@ TEST(StatusReport, TellsTheMessagesOfTheLogWithTheirTimes) {
                 EndsWith(" Vantle: cannot watch (path): missing"));
 }
 
-TEST(StatusReport, HidesThePathOfAReasonAsWell) {
+TEST(StatusReport, HidesThePathInAReason) {
     const std::vector<LoggedMessage> messages{{{}, "cannot read /a: b", "not in “/home/anna”"}};
     EXPECT_THAT(logReport(messages, Paths::hidden)[0].value,
                 EndsWith(" cannot read (path): not in “(path)"));
 }
 
-TEST(StatusReport, TellsTheTimeAsTheClockOnTheWallShowsIt) {
+TEST(StatusReport, ShowsTheLocalTime) {
     const char* former = std::getenv("TZ");
     const std::string zone = former ? former : "";
     setenv("TZ", "East-2:30", 1);
@@ -62,7 +62,7 @@ TEST(StatusReport, TellsTheTimeAsTheClockOnTheWallShowsIt) {
     tzset();
 }
 
-TEST(StatusReport, HidesPathsWhateverTheyHold) {
+TEST(StatusReport, HidesPathsWithAnyCharacters) {
     const std::vector<std::pair<const char*, const char*>> lines{
         {"nothing to hide: 1/2 and a/b", "nothing to hide: 1/2 and a/b"},
         {"a/b", "a/b"},

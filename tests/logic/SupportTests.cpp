@@ -16,7 +16,7 @@
 namespace vantle {
 namespace {
 
-TEST(VirtualTime, WorkWithoutEndIsNotRunForEver) {
+TEST(VirtualTime, EndlessWorkIsStopped) {
     fakes::VirtualTime time;
     std::function<void()> again = [&] { time.schedule(Seconds(0), again); };
     again();
@@ -31,7 +31,7 @@ TEST(DisplayName, NamesOfAnyBytesAreShownOnOneLine) {
     EXPECT_EQ(displayName("\xff.png"), "\xff.png") << "whoever shows it replaces that";
 }
 
-TEST(DisplayName, NothingHidesHowANameEnds) {
+TEST(DisplayName, HiddenCharactersAreReplaced) {
     const auto character = [](unsigned code) {
         return std::string{static_cast<char>(0xE0 | code >> 12),
                            static_cast<char>(0x80 | (code >> 6 & 0x3F)),
@@ -44,7 +44,7 @@ TEST(DisplayName, NothingHidesHowANameEnds) {
     EXPECT_EQ(displayName("a\u0085b"), "a\uFFFDb");
 }
 
-TEST(DisplayName, WhatIsWrittenFromTheRightStaysAsItIs) {
+TEST(DisplayName, TextFromRightToLeftStaysUnchanged) {
     for (const char* name : {"لقطة شاشة.png", "צילום\u200F 7.png", "a\u2027b\u202Fc\u2065d\u206A"})
         EXPECT_EQ(displayName(name), name);
 }
@@ -66,7 +66,7 @@ TEST(Published, AnnouncesTheNewValueBeforeItIsStored) {
     EXPECT_EQ(property.value(), 2);
 }
 
-TEST(Published, ObserveTellsTheCurrentValueFirst) {
+TEST(Published, ObserveReportsTheCurrentValueFirst) {
     Published<int> property(1);
     std::vector<int> seen;
     const auto subscription = property.observe([&](int value) { seen.push_back(value); });
@@ -75,7 +75,7 @@ TEST(Published, ObserveTellsTheCurrentValueFirst) {
     EXPECT_THAT(seen, ElementsAre(1, 2, 2));
 }
 
-TEST(Published, AnEndedSubscriptionHearsNothing) {
+TEST(Published, AnEndedSubscriptionIsNotCalled) {
     Published<int> property(1);
     int calls = 0;
     auto subscription = property.observeChanges([&](int) { ++calls; });
@@ -85,7 +85,7 @@ TEST(Published, AnEndedSubscriptionHearsNothing) {
     EXPECT_EQ(calls, 1);
 }
 
-TEST(Published, AnObserverRemovedDuringANotificationIsNotCalledAnyMore) {
+TEST(Published, AnObserverRemovedDuringANotificationIsNotCalled) {
     Published<int> property(1);
     int calls = 0;
     Subscription second;
@@ -109,7 +109,7 @@ TEST(Published, AnObserverCanEndItselfDuringANotification) {
     EXPECT_THAT(calls, ElementsAre("still here", "second", "second"));
 }
 
-TEST(Published, AnObserverAddedDuringANotificationHearsOldAndNewValue) {
+TEST(Published, AnObserverAddedDuringANotificationGetsTheOldAndTheNewValue) {
     Published<int> property(1);
     std::vector<int> seen;
     Subscription late;
@@ -131,7 +131,7 @@ TEST(Published, ASubscriptionMayOutliveTheProperty) {
     subscription.end();
 }
 
-TEST(Weakly, DoesNothingOnceTheOwnerIsGone) {
+TEST(Weakly, DoesNothingAfterTheOwnerIsGone) {
     int calls = 0;
     auto owner = std::make_shared<int>(3);
     const auto callback = weakly(owner, [&](int& value, int factor) { calls += value * factor; });
@@ -168,7 +168,7 @@ int debugOf(const char* value) {
     return Debug::on() ? 1 : 0;
 }
 
-TEST(Debug, IsOnWhereItsVariableIsThereAlsoAnEmptyOne) {
+TEST(Debug, IsOnIfItsVariableExistsEvenIfItIsEmpty) {
     // Each runs in its own process, because the variable is read only once.
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     EXPECT_EXIT(std::_Exit(debugOf("1")), testing::ExitedWithCode(1), "");
@@ -176,13 +176,13 @@ TEST(Debug, IsOnWhereItsVariableIsThereAlsoAnEmptyOne) {
     EXPECT_EXIT(std::_Exit(debugOf(nullptr)), testing::ExitedWithCode(0), "");
 }
 
-TEST(SystemLog, KeepsAMessageOnOneLineWhateverItHolds) {
+TEST(SystemLog, KeepsAnyMessageOnOneLine) {
     CapturedLog log;
     systemLog("two\nlines\x1b[31m");
     EXPECT_THAT(log.lines(), ElementsAre("two\\nlines\\x1b[31m"));
 }
 
-TEST(SystemLog, WritesAReasonBehindItsMessageAndRemembersItApart) {
+TEST(SystemLog, WritesAReasonAfterItsMessageAndStoresItSeparately) {
     CapturedLog log;
     systemLog("cannot open /a: b", "no such\nfile");
     EXPECT_THAT(log.lines(), ElementsAre("cannot open /a: b: no such\\nfile"));
@@ -190,7 +190,7 @@ TEST(SystemLog, WritesAReasonBehindItsMessageAndRemembersItApart) {
     EXPECT_EQ(recentSystemLog().back().reason, "no such\\nfile");
 }
 
-TEST(SystemLog, RemembersTheLatestMessagesButNotTheDiagnosticOnes) {
+TEST(SystemLog, KeepsTheLatestMessagesExceptDiagnosticOnes) {
     CapturedLog log(CapturedLog::DebugSwitch::on);
     for (std::size_t i = 1; i <= recentMessages + 1; ++i) systemLog(std::to_string(i));
     Debug::log([] { return std::string("a step"); });
@@ -201,14 +201,14 @@ TEST(SystemLog, RemembersTheLatestMessagesButNotTheDiagnosticOnes) {
     EXPECT_EQ(recent.back().line(), std::to_string(recentMessages + 1));
 }
 
-TEST(UUID, IsFreshEachTimeAndWrittenTheUsualWay) {
+TEST(UUID, IsNewEachTimeInTheUsualNotation) {
     const UUID first = UUID::random();
     EXPECT_NE(first, UUID::random());
     EXPECT_THAT(first.text(), testing::MatchesRegex("[0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-"
                                                     "[89ab][0-9a-f]{3}-[0-9a-f]{12}"));
 }
 
-TEST(Url, TakesPathsApart) {
+TEST(Url, SplitsPaths) {
     const Url url = Url::file("/home/me/Shot 1.PNG");
     EXPECT_EQ(url.lastPathComponent(), "Shot 1.PNG");
     EXPECT_EQ(url.pathExtension(), "PNG");
@@ -219,13 +219,13 @@ TEST(Url, TakesPathsApart) {
     EXPECT_EQ(Url::file("/a.").pathExtension(), "");
 }
 
-TEST(Url, AddressesRoundTripWhateverTheNameHolds) {
+TEST(Url, AddressesRoundTripWithAnyName) {
     const Url url = Url::file("/tmp/a b%20\n\xff\xe4.png");
     EXPECT_EQ(url.address(), "file:///tmp/a%20b%2520%0A%FF%E4.png");
     EXPECT_EQ(Url::fromFileAddress(url.address()), url);
 }
 
-TEST(Url, RefusesAddressesThatAreNotFilesHere) {
+TEST(Url, RefusesAddressesThatAreNotLocalFiles) {
     for (const auto* address : {"http://host/a", "file://host/a", "file:a", "file:///a%0", "",
                                 "file:///a%zz", "file:///a%00b", "/a"})
         EXPECT_EQ(Url::fromFileAddress(address), std::nullopt) << address;
@@ -233,7 +233,7 @@ TEST(Url, RefusesAddressesThatAreNotFilesHere) {
     EXPECT_EQ(Url::fromFileAddress("file:/a"), Url::file("/a"));
 }
 
-TEST(Geometry, OfTwoScreensThatTouchOneContainsThePointBetweenThem) {
+TEST(Geometry, APointBetweenTwoScreensBelongsToOneOfThem) {
     const Rect lower{{0, 0}, {100, 100}};
     const Rect upper{{0, 100}, {100, 100}};
     EXPECT_TRUE(containsUpwards(lower, {0, 100}));

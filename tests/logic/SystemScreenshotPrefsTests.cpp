@@ -23,11 +23,11 @@ protected:
     SystemScreenshotPrefs prefs{files, domain, launcher};
 };
 
-TEST_F(SystemScreenshotPrefsTest, WithoutStoredLocationItIsTheDesktop) {
+TEST_F(SystemScreenshotPrefsTest, IsTheDesktopWithoutAStoredLocation) {
     EXPECT_EQ(prefs.location(), desktop);
 }
 
-TEST_F(SystemScreenshotPrefsTest, WithoutDesktopFolderItIsDesktopInTheHomeDirectory) {
+TEST_F(SystemScreenshotPrefsTest, IsDesktopInTheHomeDirectoryWithoutADesktopFolder) {
     files.setDesktop(std::nullopt);
     EXPECT_EQ(prefs.location(), desktop);
     files.setDesktop(Url::file("/home/user/Bureau"));
@@ -59,7 +59,7 @@ TEST_F(SystemScreenshotPrefsTest, ADeletedFolderFallsBackToTheDesktop) {
     EXPECT_EQ(prefs.location(), desktop);
 }
 
-TEST_F(SystemScreenshotPrefsTest, AServerIsNotAskedWhetherItHasTheFolder) {
+TEST_F(SystemScreenshotPrefsTest, DoesNotAskAServerForTheFolder) {
     files.makeRemote(Url::file("/server/shots"));
     domain.values["location"] = std::string("/server/shots");
     EXPECT_EQ(prefs.location(), Url::file("/server/shots"));
@@ -71,7 +71,7 @@ TEST_F(SystemScreenshotPrefsTest, AFileInTheFoldersPlaceFallsBackToTheDesktop) {
     EXPECT_EQ(prefs.location(), desktop);
 }
 
-TEST_F(SystemScreenshotPrefsTest, EmptyTextOrANumberIsTheDesktop) {
+TEST_F(SystemScreenshotPrefsTest, AnEmptyTextOrANumberMeansTheDesktop) {
     domain.values["location"] = std::string();
     EXPECT_EQ(prefs.location(), desktop);
     domain.values["location"] = 5.0;
@@ -86,7 +86,7 @@ TEST_F(SystemScreenshotPrefsTest, TheThumbnailIsShownUnlessStoredAsFalse) {
     EXPECT_FALSE(prefs.showsThumbnail());
 }
 
-TEST_F(SystemScreenshotPrefsTest, TellsHowTheLocationCameAbout) {
+TEST_F(SystemScreenshotPrefsTest, ReportsTheOriginOfTheLocation) {
     EXPECT_EQ(prefs.locationOrigin(), "the Desktop, as nothing else is set");
     domain.values["location"] = screenshots.path();
     EXPECT_EQ(prefs.locationOrigin(), "the Desktop, as a setting in memory names no folder");
@@ -104,7 +104,7 @@ TEST_F(SystemScreenshotPrefsTest, SettingALocationCreatesItStoresItAndRestartsTh
     EXPECT_THAT(launcher.launched[0].arguments, testing::ElementsAre("SystemUIServer"));
 }
 
-TEST_F(SystemScreenshotPrefsTest, AFolderThatCannotBeMadeIsStoredAllTheSame) {
+TEST_F(SystemScreenshotPrefsTest, AFolderThatCannotBeMadeIsStoredAnyway) {
     files.makeReadOnly(Url::file("/"));
     prefs.setLocation(screenshots);
     EXPECT_EQ(domain.values.at("location"), PreferenceValue(screenshots.path()));
@@ -124,7 +124,7 @@ TEST_F(SystemScreenshotPrefsTest, AServiceThatCannotBeRestartedIsIgnored) {
     EXPECT_TRUE(prefs.showsThumbnail());
 }
 
-TEST_F(SystemScreenshotPrefsTest, WhatStandsInTheWayIsWhatTheDomainSays) {
+TEST_F(SystemScreenshotPrefsTest, ReportsTheObstaclesOfTheDomain) {
     EXPECT_EQ(prefs.locationObstacle(), "");
     EXPECT_EQ(prefs.thumbnailObstacle(), "");
     domain.obstacles = {{"location", "It stays."}, {"show-thumbnail", "It shows."}};

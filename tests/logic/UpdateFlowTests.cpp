@@ -79,14 +79,14 @@ protected:
     std::unique_ptr<UpdateFlow> flow;
 };
 
-TEST_F(UpdateFlowTest, WithoutAnOverrideTheFeedIsTheOneThatWasConfigured) {
+TEST_F(UpdateFlowTest, UsesTheConfiguredFeedWithoutAnOverride) {
     make().checkForUpdates();
     ASSERT_EQ(engine.checks.size(), 1u);
     EXPECT_EQ(engine.checks[0].feed, std::nullopt);
     EXPECT_EQ(engine.checks[0].version, "1.0");
 }
 
-TEST_F(UpdateFlowTest, WithAnOverrideTheFeedIsExactlyItsValue) {
+TEST_F(UpdateFlowTest, UsesExactlyTheValueOfAnOverride) {
     for (const auto* value : {"https://vantle.example/feed.xml", ""}) {
         environment["VANTLE_FEED_URL"] = value;
         make().checkForUpdates();
@@ -127,14 +127,14 @@ TEST_F(UpdateFlowTest, FailuresAreLogged) {
                                          "Vantle[dbg]: sparkle: aborted: Too slow."));
 }
 
-TEST_F(UpdateFlowTest, WithoutTheDebugSwitchNothingIsLogged) {
+TEST_F(UpdateFlowTest, LogsNothingWithoutTheDebugSwitch) {
     const CapturedLog quiet(CapturedLog::DebugSwitch::off);
     make().checkForUpdates();
     report(report::NothingFound{"nothing"});
     EXPECT_THAT(quiet.lines(), IsEmpty());
 }
 
-TEST_F(UpdateFlowTest, ACheckOfTheUsersIsSeenFromTheFirstMoment) {
+TEST_F(UpdateFlowTest, ACheckByTheUserIsVisibleAtOnce) {
     make().checkForUpdates();
     EXPECT_EQ(stage(), Stage::checking);
     EXPECT_THAT(window, ElementsAre("update made", "update to front"));
@@ -143,7 +143,7 @@ TEST_F(UpdateFlowTest, ACheckOfTheUsersIsSeenFromTheFirstMoment) {
     EXPECT_EQ(flow->state.value().message, "newest");
 }
 
-TEST_F(UpdateFlowTest, AskingAgainBringsTheWindowForward) {
+TEST_F(UpdateFlowTest, AnotherCheckBringsTheWindowForward) {
     find();
     flow->checkForUpdates();
     EXPECT_EQ(engine.checks.size(), 1u);
@@ -151,7 +151,7 @@ TEST_F(UpdateFlowTest, AskingAgainBringsTheWindowForward) {
     EXPECT_THAT(window, ElementsAre("update made", "update to front", "update to front"));
 }
 
-TEST_F(UpdateFlowTest, AnOutcomeMakesRoomForTheNextCheck) {
+TEST_F(UpdateFlowTest, AnOutcomeAllowsTheNextCheck) {
     make().checkForUpdates();
     report(report::NothingFound{"newest"});
     flow->checkForUpdates();
@@ -159,7 +159,7 @@ TEST_F(UpdateFlowTest, AnOutcomeMakesRoomForTheNextCheck) {
     EXPECT_EQ(stage(), Stage::checking);
 }
 
-TEST_F(UpdateFlowTest, AClosedWindowGoes) {
+TEST_F(UpdateFlowTest, AClosedWindowIsDestroyed) {
     make().checkForUpdates();
     report(report::NothingFound{"newest"});
     flow->close();
@@ -169,7 +169,7 @@ TEST_F(UpdateFlowTest, AClosedWindowGoes) {
                 ElementsAre("update made", "update to front", "update closed", "update gone"));
 }
 
-TEST_F(UpdateFlowTest, AWindowThatIsWantedAgainAtOnceStays) {
+TEST_F(UpdateFlowTest, AWindowThatIsOpenedAgainAtOnceStays) {
     make().checkForUpdates();
     report(report::NothingFound{"newest"});
     flow->close();
@@ -188,7 +188,7 @@ TEST_F(UpdateFlowTest, ClosingEndsACheck) {
     EXPECT_EQ(engine.checks.size(), 2u);
 }
 
-TEST_F(UpdateFlowTest, ACheckBySchedulesIsNotSeenUnlessItFindsSomething) {
+TEST_F(UpdateFlowTest, AScheduledCheckIsInvisibleUnlessItFindsSomething) {
     for (const UpdateReport& told :
          {UpdateReport(report::NothingFound{"newest"}), UpdateReport(report::Failed{"no", ""})}) {
         beDue();
@@ -200,7 +200,7 @@ TEST_F(UpdateFlowTest, ACheckBySchedulesIsNotSeenUnlessItFindsSomething) {
     EXPECT_THAT(window, IsEmpty());
 }
 
-TEST_F(UpdateFlowTest, WhatTheScheduleFindsIsShownWithoutTakingTheKeyboard) {
+TEST_F(UpdateFlowTest, AScheduledCheckShowsAnUpdateWithoutTakingTheKeyboard) {
     beDue();
     make();
     time.advance(Seconds(60));
@@ -222,7 +222,7 @@ TEST_F(UpdateFlowTest, ASkippedVersionIsNotOfferedByTheSchedule) {
     EXPECT_THAT(window, IsEmpty());
 }
 
-TEST_F(UpdateFlowTest, ASkippedVersionIsShownToWhoAsks) {
+TEST_F(UpdateFlowTest, ASkippedVersionIsShownByACheckOfTheUser) {
     find();
     flow->skip();
     flow->checkForUpdates();
@@ -242,7 +242,7 @@ TEST_F(UpdateFlowTest, ALaterVersionThanTheSkippedOneIsOffered) {
     EXPECT_EQ(stage(), Stage::found);
 }
 
-TEST_F(UpdateFlowTest, OneThatIsPutOffIsOfferedAgainTheNextDay) {
+TEST_F(UpdateFlowTest, APostponedUpdateIsOfferedAgainTheNextDay) {
     find();
     flow->close();
     time.advance(std::chrono::hours(25));
@@ -251,7 +251,7 @@ TEST_F(UpdateFlowTest, OneThatIsPutOffIsOfferedAgainTheNextDay) {
     EXPECT_EQ(stage(), Stage::found);
 }
 
-TEST_F(UpdateFlowTest, AskingDuringACheckByScheduleShowsItsOutcome) {
+TEST_F(UpdateFlowTest, ACheckDuringAScheduledOneShowsItsOutcome) {
     beDue();
     make();
     time.advance(Seconds(60));
@@ -295,7 +295,7 @@ TEST_F(UpdateFlowTest, ARelaunchThatCannotBeginIsAFailureAndVantleStays) {
     EXPECT_EQ(flow->state.value().message, "No such file");
 }
 
-TEST_F(UpdateFlowTest, TheSpeedIsThatOfTheLastSeconds) {
+TEST_F(UpdateFlowTest, TheSpeedIsMeasuredOverTheLastSeconds) {
     find();
     flow->install();
     report(report::Progress{0});
@@ -325,7 +325,7 @@ TEST_F(UpdateFlowTest, AnInstallationCannotBeCancelled) {
     EXPECT_EQ(stage(), Stage::installing);
 }
 
-TEST_F(UpdateFlowTest, AFailureIsShownWithThePageWhereThereIsOne) {
+TEST_F(UpdateFlowTest, AFailureIsShownWithThePageIfThereIsOne) {
     find();
     flow->install();
     report(report::Failed{"Too slow.", "https://vantle.example/download"});
@@ -336,7 +336,7 @@ TEST_F(UpdateFlowTest, AFailureIsShownWithThePageWhereThereIsOne) {
     EXPECT_EQ(stage(), Stage::closed);
 }
 
-TEST_F(UpdateFlowTest, OneThatCannotBeInstalledHereOpensItsPage) {
+TEST_F(UpdateFlowTest, AnUpdateThatCannotBeInstalledHereOpensItsPage) {
     make().checkForUpdates();
     UpdateItem elsewhere = item;
     elsewhere.installation = UpdateItem::Installation::page;
@@ -371,7 +371,7 @@ TEST_F(UpdateFlowTest, TheDateOfTheNewestFeedNeverGoesBack) {
     EXPECT_EQ(engine.checks.back().newestFeed, 1'800'000'500);
 }
 
-TEST_F(UpdateFlowTest, NonsenseInsteadOfADateIsNone) {
+TEST_F(UpdateFlowTest, AnInvalidDateIsIgnored) {
     for (const PreferenceValue& nonsense :
          {PreferenceValue(-7.0), PreferenceValue(1e300), PreferenceValue(std::string("nan"))}) {
         defaults.stored["newestUpdateFeed"] = nonsense;
@@ -380,13 +380,13 @@ TEST_F(UpdateFlowTest, NonsenseInsteadOfADateIsNone) {
     }
 }
 
-TEST_F(UpdateFlowTest, AChannelOfTheSettingsIsAskedFor) {
+TEST_F(UpdateFlowTest, RequestsTheChannelOfTheSettings) {
     defaults.stored["updateChannel"] = std::string("beta");
     make().checkForUpdates();
     EXPECT_EQ(engine.checks[0].channel, "beta");
 }
 
-TEST_F(UpdateFlowTest, AStartOnTrialIsConfirmedOnceItHasLasted) {
+TEST_F(UpdateFlowTest, AStartOnTrialIsConfirmedAfterAWhile) {
     engine.isOnTrial = true;
     make();
     time.advance(Seconds(1.9));
@@ -401,7 +401,7 @@ TEST_F(UpdateFlowTest, AnOrdinaryStartConfirmsNothing) {
     EXPECT_EQ(engine.confirmed, 0);
 }
 
-TEST_F(UpdateFlowTest, AVersionThatWasTakenBackIsToldAndNotOfferedAgainByItself) {
+TEST_F(UpdateFlowTest, ARolledBackVersionIsReportedAndNotOfferedAgainByTheSchedule) {
     engine.rolledBack = report::RolledBack{"12", "It crashed."};
     make();
     time.settle();
@@ -411,7 +411,7 @@ TEST_F(UpdateFlowTest, AVersionThatWasTakenBackIsToldAndNotOfferedAgainByItself)
     EXPECT_EQ(defaults.text("skippedUpdate"), "12");
 }
 
-TEST_F(UpdateFlowTest, AVersionThatWasNotEvenTriedIsOfferedAgain) {
+TEST_F(UpdateFlowTest, AnUntriedVersionIsOfferedAgain) {
     engine.rolledBack = report::RolledBack{"", "The update could not be put in place."};
     make();
     time.settle();
@@ -426,7 +426,7 @@ TEST_F(UpdateFlowTest, AFeedFromTheFutureDoesNotLockOutTheNext) {
     EXPECT_EQ(engine.checks.back().newestFeed, 1'800'000'000);
 }
 
-TEST_F(UpdateFlowTest, ADownloadThatBeginsAnewHasASpeedAgain) {
+TEST_F(UpdateFlowTest, ARestartedDownloadHasASpeedAgain) {
     find();
     flow->install();
     report(report::Progress{5000});
@@ -437,7 +437,7 @@ TEST_F(UpdateFlowTest, ADownloadThatBeginsAnewHasASpeedAgain) {
     EXPECT_DOUBLE_EQ(flow->state.value().speed.value(), 200);
 }
 
-TEST_F(UpdateFlowTest, EndingInTheMiddleIsHarmless) {
+TEST_F(UpdateFlowTest, EndingDuringAnUpdateIsHarmless) {
     find();
     flow->install();
     flow.reset();

@@ -25,7 +25,7 @@ TEST_P(UpdateReportTest, IsReadAsItWasWritten) {
     EXPECT_EQ(reportFrom(line), GetParam());
 }
 
-TEST_P(UpdateReportTest, WithMoreOrLessItIsNone) {
+TEST_P(UpdateReportTest, IsInvalidWithMoreOrFewerFields) {
     const std::string line = lineOf(GetParam());
     EXPECT_EQ(reportFrom(line + "\tmore"), std::nullopt);
     const auto at = line.rfind('\t');
@@ -41,7 +41,7 @@ INSTANTIATE_TEST_SUITE_P(Reports, UpdateReportTest,
                                          report::Failed{"a\\b", "https://vantle.example"},
                                          report::RolledBack{"12", "It crashed."}));
 
-TEST(UpdateReportLineTest, WhatIsNoneIsNone) {
+TEST(UpdateReportLineTest, AnInvalidLineIsNoReport) {
     for (const auto* line : {"", "nonsense", "progress\tmany", "progress\t-1", "progress\t1x",
                              "nothing\tbad \\escape", "nothing\t\\", "\t\t"})
         EXPECT_EQ(reportFrom(line), std::nullopt) << line;
@@ -54,7 +54,7 @@ struct Versions {
 
 class VersionOrderTest : public testing::TestWithParam<Versions> {};
 
-TEST_P(VersionOrderTest, TellsTheNewerOne) {
+TEST_P(VersionOrderTest, FindsTheNewerVersion) {
     const auto& [older, newer] = GetParam();
     EXPECT_TRUE(compareVersions(older, newer) < 0) << older << " < " << newer;
     EXPECT_TRUE(compareVersions(newer, older) > 0) << newer << " > " << older;
@@ -69,7 +69,7 @@ INSTANTIATE_TEST_SUITE_P(Pairs, VersionOrderTest,
                                          Versions{"99999999999999999998", "99999999999999999999"},
                                          Versions{"1.2", "2"}));
 
-TEST(EqualVersionsTest, AreEqualHoweverTheyAreWritten) {
+TEST(EqualVersionsTest, AreEqualInAnyNotation) {
     EXPECT_TRUE(compareVersions("1", "1.0.0") == 0);
     EXPECT_TRUE(compareVersions("1.01", "1.1") == 0);
     EXPECT_TRUE(compareVersions("1-2", "1.2") == 0);

@@ -45,7 +45,7 @@ TEST_F(UpdateScheduleTest, TheFirstLaunchNeverChecks) {
     EXPECT_EQ(time.pending(), 0u);
 }
 
-TEST_F(UpdateScheduleTest, ALaunchThatIsOverAtOnceDoesNotCount) {
+TEST_F(UpdateScheduleTest, AVeryShortLaunchDoesNotCount) {
     launch();
     time.advance(Seconds(30));
     launch();
@@ -78,7 +78,7 @@ TEST_F(UpdateScheduleTest, ChecksOnceADay) {
     EXPECT_EQ(checks, 8);
 }
 
-TEST_F(UpdateScheduleTest, AWindowThatStaysOpenWakesNobodyEachMinute) {
+TEST_F(UpdateScheduleTest, RetriesOncePerHourWhileAWindowIsOpen) {
     haveLaunchedBefore();
     isWindowOpen = true;
     launch();
@@ -91,7 +91,7 @@ TEST_F(UpdateScheduleTest, AWindowThatStaysOpenWakesNobodyEachMinute) {
     EXPECT_EQ(checks, 25);
 }
 
-TEST_F(UpdateScheduleTest, ACheckOfTheUsersCountsToo) {
+TEST_F(UpdateScheduleTest, ACheckByTheUserCountsToo) {
     haveLaunchedBefore(hours(20));
     launch();
     time.advance(hours(1));
@@ -109,7 +109,7 @@ TEST_F(UpdateScheduleTest, TheSettingsFileCanTurnItOff) {
     EXPECT_EQ(time.pending(), 0u);
 }
 
-TEST_F(UpdateScheduleTest, AClockThatWasSetBackDoesNotPutItOffForEver) {
+TEST_F(UpdateScheduleTest, AClockThatWasSetBackDoesNotDelayItForEver) {
     haveLaunchedBefore();
     defaults.stored[UpdateSchedule::lastCheck] = 4e9;
     launch();
@@ -117,7 +117,7 @@ TEST_F(UpdateScheduleTest, AClockThatWasSetBackDoesNotPutItOffForEver) {
     EXPECT_EQ(checks, 1);
 }
 
-TEST_F(UpdateScheduleTest, WithNonsenseInTheSettingsFileItBeginsAnew) {
+TEST_F(UpdateScheduleTest, StartsAgainWithInvalidSettings) {
     defaults.stored[UpdateSchedule::lastCheck] = std::string("yesterday");
     launch();
     time.advance(hours(25));

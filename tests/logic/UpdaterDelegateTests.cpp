@@ -23,18 +23,18 @@ void tellEverything(UpdaterDelegate& delegate) {
     delegate.willInstallUpdate(item);
 }
 
-TEST(UpdaterDelegateTest, WithoutTheVariableThereIsNoFeedOfItsOwn) {
+TEST(UpdaterDelegateTest, ThereIsNoOtherFeedWithoutTheVariable) {
     EXPECT_EQ(UpdaterDelegate(FakeEnvironment()).feedURLString(), std::nullopt);
 }
 
-TEST(UpdaterDelegateTest, WithTheVariableItIsExactlyItsValue) {
+TEST(UpdaterDelegateTest, TheFeedIsExactlyTheValueOfTheVariable) {
     for (const std::string value : {"feed:x y", ""}) {
         const FakeEnvironment environment{{"VANTLE_FEED_URL", value}};
         EXPECT_EQ(UpdaterDelegate(environment).feedURLString(), value);
     }
 }
 
-TEST(UpdaterDelegateTest, WritesALineForEachThing) {
+TEST(UpdaterDelegateTest, WritesALineForEachEvent) {
     const CapturedLog log(CapturedLog::DebugSwitch::on);
     UpdaterDelegate delegate{FakeEnvironment()};
     tellEverything(delegate);
@@ -46,7 +46,7 @@ TEST(UpdaterDelegateTest, WritesALineForEachThing) {
                                          "Vantle[dbg]: sparkle: installing 1.2"));
 }
 
-TEST(UpdaterDelegateTest, WithoutTheSwitchItWritesNothing) {
+TEST(UpdaterDelegateTest, WritesNothingWithoutTheSwitch) {
     const CapturedLog log(CapturedLog::DebugSwitch::off);
     UpdaterDelegate delegate{FakeEnvironment()};
     tellEverything(delegate);

@@ -52,7 +52,7 @@ TEST_F(WatchErrorHandlerTest, ThePrivacyAlertNamesTheFolderBetweenItsTexts) {
               "Settings → Privacy & Security → Files and Folders, then click Retry.");
 }
 
-TEST_F(WatchErrorHandlerTest, DeniedTwiceAlertsOnceAndAfterRetryAgain) {
+TEST_F(WatchErrorHandlerTest, ASecondDenialAlertsOnlyAfterARetry) {
     launch();
     report(WatchError::accessDenied());
     report(WatchError::accessDenied());
@@ -134,7 +134,7 @@ TEST_F(WatchErrorHandlerTest, OpenSettingsShowsThem) {
     EXPECT_THAT(events, ElementsAre("alert", "settings made", "settings to front"));
 }
 
-TEST_F(WatchErrorHandlerTest, AnErrorInBetweenArmsTheFirstOneAgain) {
+TEST_F(WatchErrorHandlerTest, AnotherErrorLetsTheFirstOneAlertAgain) {
     launch();
     report(WatchError::other("a"));
     report(WatchError::other("b"));
@@ -156,7 +156,7 @@ TEST_F(WatchErrorHandlerTest, AMissingFolderIsMadeAgainSilently) {
     EXPECT_THAT(alerts->shown, IsEmpty());
 }
 
-TEST_F(WatchErrorHandlerTest, AMissingFolderOfAServerIsMadeInTheBackground) {
+TEST_F(WatchErrorHandlerTest, AMissingFolderOnAServerIsMadeInTheBackground) {
     files->makeRemote(folder);
     launch();
     time.settle();

@@ -54,13 +54,13 @@ INSTANTIATE_TEST_SUITE_P(
         Notes{"unknownEntities", "&x; & &#x1;", "&amp;x; &amp; &amp;#x1;"}),
     [](const auto& notes) { return std::string(notes.param.name); });
 
-TEST(ReleaseNotesLimitTest, WhatIsTooLongEndsWithDots) {
+TEST(ReleaseNotesLimitTest, LongNotesEndWithAnEllipsis) {
     const std::string shown = safeReleaseNotes("<p>" + std::string(1'000'000, 'a') + "</p>");
     EXPECT_LT(shown.size(), 40'000u);
     EXPECT_TRUE(shown.ends_with("a…</p>"));
 }
 
-TEST(ReleaseNotesLimitTest, WhatIsTooDeepIsLeftOut) {
+TEST(ReleaseNotesLimitTest, DeeplyNestedTagsAreLeftOut) {
     std::string html;
     for (int i = 0; i < 1000; ++i) html += "<ul><li>";
     const std::string shown = safeReleaseNotes(html + "A");
@@ -69,7 +69,7 @@ TEST(ReleaseNotesLimitTest, WhatIsTooDeepIsLeftOut) {
 }
 
 /// For any input, the output has only listed tags, and only links have an attribute.
-TEST(ReleaseNotesLimitTest, NothingElseGetsThrough) {
+TEST(ReleaseNotesLimitTest, OnlyListedTagsRemain) {
     static const std::regex harmless(
         "</?(p|h[1-4]|ul|ol|li|b|i|strong|em|u|s|code|pre)>|<br>|</a>|<a "
         "href=\"https://[^\"<>]*\">");

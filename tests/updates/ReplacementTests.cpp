@@ -63,7 +63,7 @@ TEST_F(ReplacementTest, TheStagingFolderIsForItsOwnerOnly) {
     EXPECT_EQ(staging.folder(), folder);
 }
 
-TEST_F(ReplacementTest, OneThatOthersCanUseIsRefused) {
+TEST_F(ReplacementTest, AStagingFolderThatOthersCanUseIsRefused) {
     fs::create_directory(folder);
     chmod(folder.c_str(), 0777);
     const auto staging = Staging::open(tree);
@@ -71,7 +71,7 @@ TEST_F(ReplacementTest, OneThatOthersCanUseIsRefused) {
     EXPECT_THAT(staging.failure().message, HasSubstr("in the way"));
 }
 
-TEST_F(ReplacementTest, OnlyOneAtATimeHasIt) {
+TEST_F(ReplacementTest, OnlyOneUpdaterCanUseItAtATime) {
     const Staging staging = open();
     const auto other = Staging::open(tree);
     ASSERT_FALSE(other);
@@ -97,7 +97,7 @@ TEST_F(ReplacementTest, ReplacesAndRestores) {
     EXPECT_FALSE(fs::exists(staging.previous()));
 }
 
-TEST_F(ReplacementTest, WithoutANextOneTheTreeStays) {
+TEST_F(ReplacementTest, TheTreeStaysWithoutANextOne) {
     const Staging staging = open();
     EXPECT_TRUE(replaceTree(tree, staging).has_value());
     EXPECT_EQ(contentsOf(tree), "old");
@@ -113,7 +113,7 @@ TEST_F(ReplacementTest, DiscardingDoesNotFollowLinks) {
     EXPECT_EQ(contentsOf(outside), "of the user");
 }
 
-TEST_F(ReplacementTest, KilledAtAnyStopAWholeTreeStandsThere) {
+TEST_F(ReplacementTest, ATreeIsCompleteAfterAKillAtAnyStop) {
     int stops = 0;
     int replaced = 0;
     for (End end = End::killed; end == End::killed; ++stops) {
@@ -137,7 +137,7 @@ TEST_F(ReplacementTest, KilledAtAnyStopAWholeTreeStandsThere) {
     EXPECT_GT(replaced, 1);
 }
 
-TEST_F(ReplacementTest, KilledWhileItIsTakenBackAWholeTreeStandsThere) {
+TEST_F(ReplacementTest, ATreeIsCompleteAfterAKillDuringARollback) {
     int stops = 0;
     for (End end = End::killed; end == End::killed; ++stops) {
         for (const auto& path : {tree, folder}) fs::remove_all(path);
@@ -153,7 +153,7 @@ TEST_F(ReplacementTest, KilledWhileItIsTakenBackAWholeTreeStandsThere) {
     EXPECT_GT(stops, 10);
 }
 
-TEST_F(ReplacementTest, KilledWhileItIsPreparedNothingHalfIsTakenForTheNextOne) {
+TEST_F(ReplacementTest, AKillDuringThePreparationLeavesNoIncompleteNextTree) {
     const std::string archive = readText(Url::file(VANTLE_SAMPLE_ARCHIVE));
     int stops = 0;
     for (End end = End::killed; end == End::killed; stops += 3) {
@@ -186,7 +186,7 @@ protected:
     const fs::path small = fs::path(volume.path()) / "app";
 };
 
-TEST_F(FullDiskTest, UnpackingEndsWithAMessageWhereverTheDiskIsFull) {
+TEST_F(FullDiskTest, UnpackingFailsWithAMessageOnAFullDisk) {
     const std::string archive = readText(Url::file(VANTLE_SAMPLE_ARCHIVE));
     const Staging staging = std::move(Staging::open(small).value());
     bool hasFailed = false;
@@ -210,7 +210,7 @@ TEST_F(FullDiskTest, UnpackingEndsWithAMessageWhereverTheDiskIsFull) {
     EXPECT_TRUE(hasSucceeded);
 }
 
-TEST_F(FullDiskTest, AFullDiskDoesNotKeepAnUpdateFromBeingPutInPlace) {
+TEST_F(FullDiskTest, AFullDiskDoesNotPreventAReplacement) {
     const Staging staging = std::move(Staging::open(small).value());
     makeTree(staging.next(), "new");
     const std::string block(4096, 'x');

@@ -30,7 +30,7 @@ protected:
     DesktopAppearance desktop;
 };
 
-TEST_F(AppearanceTest, TheDesktopsWishDecides) {
+TEST_F(AppearanceTest, TheDesktopsPreferenceDecides) {
     setPalette(Qt::white, Qt::black);
     desktop.look.set({.scheme = ColorScheme::dark});
     const Appearance appearance;
@@ -42,7 +42,7 @@ TEST_F(AppearanceTest, TheDesktopsWishDecides) {
     EXPECT_LT(appearance.primary().lightness(), 50);
 }
 
-TEST_F(AppearanceTest, AWindowIsOfTheKindThatIsWishedForWhateverThePaletteIs) {
+TEST_F(AppearanceTest, AWindowFollowsThePreferenceWithAnyPalette) {
     const Appearance appearance;
     setPalette(Qt::white, Qt::black);
     desktop.look.set({.scheme = ColorScheme::dark});
@@ -54,7 +54,7 @@ TEST_F(AppearanceTest, AWindowIsOfTheKindThatIsWishedForWhateverThePaletteIs) {
     EXPECT_EQ(appearance.windowBackground(), QColor(230, 231, 232));
 }
 
-TEST_F(AppearanceTest, WithoutAWishThePaletteDecides) {
+TEST_F(AppearanceTest, ThePaletteDecidesWithoutAPreference) {
     const Appearance appearance;
     setPalette(Qt::black, Qt::white);
     EXPECT_TRUE(appearance.isDark());
@@ -63,7 +63,7 @@ TEST_F(AppearanceTest, WithoutAWishThePaletteDecides) {
     EXPECT_EQ(appearance.windowBackground(), QColor(Qt::white));
 }
 
-TEST_F(AppearanceTest, TellsOfEachChange) {
+TEST_F(AppearanceTest, ReportsEachChange) {
     const Appearance appearance;
     int changes = 0;
     QObject::connect(&appearance, &Appearance::changed, &appearance, [&] { ++changes; });
@@ -73,7 +73,7 @@ TEST_F(AppearanceTest, TellsOfEachChange) {
     EXPECT_GE(changes, 2);
 }
 
-TEST_F(AppearanceTest, TheAccentIsTheDesktopsOrThePalettesHighlight) {
+TEST_F(AppearanceTest, TheAccentIsThatOfTheDesktopOrThePalettesHighlight) {
     setPalette(Qt::white, Qt::black);
     const Appearance appearance;
     EXPECT_EQ(appearance.accent(), QColor(Qt::magenta));

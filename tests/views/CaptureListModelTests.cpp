@@ -45,7 +45,7 @@ protected:
     CapturePointer c = capture("c");
 };
 
-TEST_F(CaptureListModelTest, AnArrivalIsOneInsertedRow) {
+TEST_F(CaptureListModelTest, ANewCaptureInsertsOneRow) {
     model.setCaptures({a, b});
     changes.clear();
     model.setCaptures({a, b, c});
@@ -64,7 +64,7 @@ TEST_F(CaptureListModelTest, ARemovalLeavesTheOtherRowsAlone) {
     EXPECT_EQ(model.captures(), (std::vector<CapturePointer>{a, c}));
 }
 
-TEST_F(CaptureListModelTest, AnotherOrderIsMovedRows) {
+TEST_F(CaptureListModelTest, AnotherOrderMovesRows) {
     model.setCaptures({a, b, c});
     changes.clear();
     model.setCaptures({c, a, b});
@@ -93,7 +93,7 @@ TEST_F(CaptureListModelTest, ACaptureThatComesBackKeepsItsRow) {
     EXPECT_EQ(at(2, CaptureListModel::isLeavingRole), false);
 }
 
-TEST_F(CaptureListModelTest, ALeavingCaptureStaysWhereItWasAndAsLarge) {
+TEST_F(CaptureListModelTest, ALeavingCaptureKeepsItsPlaceAndSize) {
     model.setCaptures({a, b});
     model.setCaptures({a});
     EXPECT_EQ(at(0, CaptureListModel::tileWidthRole), 304);
@@ -101,14 +101,14 @@ TEST_F(CaptureListModelTest, ALeavingCaptureStaysWhereItWasAndAsLarge) {
     EXPECT_EQ(at(1, CaptureListModel::tileWidthRole), 202);
 }
 
-TEST_F(CaptureListModelTest, TheSameListIsNoChangeOfRows) {
+TEST_F(CaptureListModelTest, TheSameListChangesNoRows) {
     model.setCaptures({a, b});
     changes.clear();
     model.setCaptures({a, b});
     EXPECT_THAT(changes, IsEmpty());
 }
 
-TEST_F(CaptureListModelTest, EverythingAtOnceEndsInTheNewOrder) {
+TEST_F(CaptureListModelTest, AllChangesAtOnceGiveTheNewOrder) {
     std::vector<CapturePointer> before;
     for (int i = 0; i < 8; ++i) before.push_back(capture(std::to_string(i)));
     model.setCaptures(before);

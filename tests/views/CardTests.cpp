@@ -28,7 +28,7 @@ protected:
     bool cardIsSeen() const { return panel->glassFrameDescription().has_value(); }
 };
 
-TEST_F(CardTest, KeepsToItsCornerWithFourteenPointsOfRoom) {
+TEST_F(CardTest, StaysInItsCornerWithAMarginOfFourteenPoints) {
     const std::vector<std::pair<PanelCorner, QPointF>> places = {
         {PanelCorner::bottomRight, {458, 62}},
         {PanelCorner::bottomLeft, {14, 62}},
@@ -42,7 +42,7 @@ TEST_F(CardTest, KeepsToItsCornerWithFourteenPointsOfRoom) {
     }
 }
 
-TEST_F(CardTest, GrowsWithTheRowAndStopsAtItsWidest) {
+TEST_F(CardTest, GrowsWithTheRowUpToAMaximum) {
     show(captures(2));
     makeCard();
     EXPECT_EQ(glassFrame().size(), QSizeF(202 + 10 + 202 + 20 + 4, 2 + 10 + 126 + 6 + 14 + 12));
@@ -52,7 +52,7 @@ TEST_F(CardTest, GrowsWithTheRowAndStopsAtItsWidest) {
     EXPECT_EQ(glassFrame().size(), QSizeF(640 + 20 + 4, 2 + 10 + 100 + 6 + 14 + 6 + 12));
 }
 
-TEST_F(CardTest, WithoutCapturesOrWhileHiddenNoCardIsDrawn) {
+TEST_F(CardTest, NoCardIsDrawnWithoutCapturesOrWhileHidden) {
     state.visible.set(false);
     makeCard();
     EXPECT_FALSE(cardIsSeen());
@@ -83,7 +83,7 @@ TEST_F(CardTest, TwoCapturesAreCompact) {
     EXPECT_FALSE(item("ActionRow")->isVisible());
 }
 
-TEST_F(CardTest, TilesStandWhereTheLayoutSays) {
+TEST_F(CardTest, TilesAreWhereTheLayoutPutsThem) {
     for (const int count : {1, 2, 3, 40}) {
         show(captures(count));
         makeCard();
@@ -111,7 +111,7 @@ TEST_F(CardTest, OnlyARowThatOverflowsHasAScrollIndicator) {
     EXPECT_TRUE(item("ScrollIndicator")->isVisible());
 }
 
-TEST_F(CardTest, TheNewestTileIsSeenWhenTheRowOverflows) {
+TEST_F(CardTest, TheNewestTileIsVisibleWhenTheRowOverflows) {
     show(captures(12));
     makeCard();
     const auto* row = item("TileRow");
@@ -151,7 +151,7 @@ TEST_F(CardTest, ThePillOverhangsTheCardsCorner) {
     EXPECT_THAT(asked, ElementsAre("close all"));
 }
 
-TEST_F(CardTest, TheTimerBarIsAsWideAsWhatIsLeft) {
+TEST_F(CardTest, TheTimerBarIsAsWideAsTheRemainingTime) {
     show(captures(1));
     makeCard();
     const auto* bar = item("TimerBar");
@@ -199,7 +199,7 @@ TEST_F(CardTest, WhileThePointerIsOverTheCardTheTimerBarIsHidden) {
     EXPECT_TRUE(capsule->isVisible());
 }
 
-TEST_F(CardTest, TheSelectionBarStandsOnTheCardsUpperEdge) {
+TEST_F(CardTest, TheSelectionBarIsOnTheCardsUpperEdge) {
     const auto a = capture("a");
     const auto b = capture("b");
     show({a, b});
@@ -262,7 +262,7 @@ TEST_F(CardTest, TheSelectionBarTakesThePressesOnItsPlate) {
     EXPECT_EQ(backgroundClicks, 0);
 }
 
-TEST_F(CardTest, TheSelectionBarsButtonsAskForAllThatIsSelected) {
+TEST_F(CardTest, TheSelectionBarsButtonsActOnTheSelection) {
     const auto a = capture("a");
     show({a, capture("b")});
     makeCard();
@@ -302,7 +302,7 @@ TEST_F(CardTest, ACaptureOfUnknownSizeHasOnlyItsAgeAsSubtitle) {
     EXPECT_EQ(text(items("QQuickText", item("ActionRow"))[1], "text"), "3 hr. ago");
 }
 
-TEST_F(CardTest, ACapturesAgeIsToldAnewWhenThePointerComes) {
+TEST_F(CardTest, ACapturesAgeIsUpdatedWhenThePointerArrives) {
     show({capture("a", {}, clock.now())});
     makeCard();
     time.advance(Seconds(70));
@@ -310,7 +310,7 @@ TEST_F(CardTest, ACapturesAgeIsToldAnewWhenThePointerComes) {
     EXPECT_EQ(text(items("QQuickText", item("ActionRow"))[1], "text"), "1 min. ago");
 }
 
-TEST_F(CardTest, WithDebuggingOffTappingClearAllWritesNothing) {
+TEST_F(CardTest, TappingClearAllLogsNothingWithoutDebugging) {
     show(captures(2));
     makeCard();
     hover(*tile(0));
@@ -324,7 +324,7 @@ TEST_F(CardTest, WithDebuggingOffTappingClearAllWritesNothing) {
     Debug::set(false);
 }
 
-TEST_F(CardTest, TheModelKeepsWhatIsAnnouncedBeforeItIsStored) {
+TEST_F(CardTest, TheModelKeepsAnnouncedValuesBeforeTheyAreStored) {
     PanelModel model({state, settings, clock, scheduler, dragging, actions});
     bool seen = false;
     state.captures.set(captures(1));
@@ -335,7 +335,7 @@ TEST_F(CardTest, TheModelKeepsWhatIsAnnouncedBeforeItIsStored) {
     EXPECT_TRUE(seen);
 }
 
-TEST_F(CardTest, TellsWhereItsGlassStands) {
+TEST_F(CardTest, ReportsTheFrameOfItsGlass) {
     show(captures(1));
     makeCard();
     EXPECT_EQ(panel->glassFrameDescription(), "{{458, 62}, {328, 254}}");
@@ -353,7 +353,7 @@ TEST_F(CardTest, TheGlassHasItsRadiusAndALightBorder) {
     EXPECT_LT(glass->property("fill").value<QColor>().alpha(), 255);
 }
 
-TEST_F(CardTest, RenderedPlainItIsAPlateInTheColourOfWindows) {
+TEST_F(CardTest, PlainRenderingIsAPlateInTheColourOfWindows) {
     rendering = PanelModel::Rendering::plain;
     show(captures(1));
     makeCard();
@@ -362,7 +362,7 @@ TEST_F(CardTest, RenderedPlainItIsAPlateInTheColourOfWindows) {
     EXPECT_NEAR(glass->property("fill").value<QColor>().alphaF(), 0.85, 0.01);
 }
 
-TEST(GlassBackdropView, WithoutAWindowItSaysSo) {
+TEST(GlassBackdropView, ReportsThatThereIsNoWindow) {
     const GlassBackdropView glass;
     EXPECT_EQ(glass.debugFrameDescription(), QStringLiteral("(no window)"));
 }
@@ -393,7 +393,7 @@ TEST_F(SnapshotTest, ShowsTheCardAtRest) {
     EXPECT_NE(picture.pixel(600, 306), picture.pixel(100, 100));
 }
 
-TEST_F(SnapshotTest, SaysWhyItCannotBeWritten) {
+TEST_F(SnapshotTest, ReportsWhyItCannotBeWritten) {
     const auto failure = panel->writeSnapshot("/none/card.png");
     ASSERT_TRUE(failure.has_value());
     EXPECT_FALSE(failure->message.empty());

@@ -54,14 +54,14 @@ private:
     qsizetype seen_ = 0;
 };
 
-TEST_F(CentredScreenTest, AWindowComesInTheMiddleOfTheScreen) {
+TEST_F(CentredScreenTest, AWindowOpensInTheMiddleOfTheScreen) {
     openSettings();
     expectNear(window().geometry().center(), middleOfScreen());
     openOnboarding();
     expectNear(window().geometry().center(), middleOfScreen());
 }
 
-TEST_F(CentredScreenTest, AnAlertComesInTheMiddleOfTheScreen) {
+TEST_F(CentredScreenTest, AnAlertOpensInTheMiddleOfTheScreen) {
     AlertWindow alert({Alert::Style::warning, "Message", "Text", {"OK"}});
     QRect place;
     QTimer::singleShot(0, [&] {
@@ -72,7 +72,7 @@ TEST_F(CentredScreenTest, AnAlertComesInTheMiddleOfTheScreen) {
     expectNear(place.center(), middleOfScreen());
 }
 
-TEST_F(CentredScreenTest, TheStepsOfTheOnboardingStandInTheMiddle) {
+TEST_F(CentredScreenTest, TheStepsOfTheOnboardingAreCentred) {
     openOnboarding(0);
     rest();
     expectCentred({QStringLiteral("Welcome to Vantle"), QStringLiteral("Screenshots shouldn'")});
@@ -89,7 +89,7 @@ TEST_F(CentredScreenTest, TheStepsOfTheOnboardingStandInTheMiddle) {
     EXPECT_GT(above - room.top(), 28) << "there is room to stand in the middle of";
 }
 
-TEST_F(CentredScreenTest, TheDotsStandInTheMiddleOfTheBar) {
+TEST_F(CentredScreenTest, TheDotsAreCentredInTheBar) {
     for (int step = 0; step < OnboardingSteps::stepCount; ++step) {
         openOnboarding(step);
         const QRectF dots = frame(pageDots());
@@ -110,7 +110,7 @@ protected:
     }
 };
 
-TEST_F(CentredCardTest, ALoneTileAndItsActionsStandInTheMiddleOfTheCard) {
+TEST_F(CentredCardTest, ALoneTileAndItsActionsAreCentredOnTheCard) {
     show({capture("a", {500, 1000})});
     makeCard();
     EXPECT_NEAR(frame(*tile(0)).center().x(), glassFrame().center().x(), 0.5);
@@ -120,7 +120,7 @@ TEST_F(CentredCardTest, ALoneTileAndItsActionsStandInTheMiddleOfTheCard) {
     EXPECT_NEAR(frame(*item("QQuickColumn", item("ActionRow"))).center().y(), line, 0.5);
 }
 
-TEST_F(CentredCardTest, SeveralTilesStandInTheMiddleOfTheCard) {
+TEST_F(CentredCardTest, SeveralTilesAreCentredOnTheCard) {
     for (const int count : {2, 3}) {
         std::vector<CapturePointer> shown;
         for (int i = 0; i < count; ++i) shown.push_back(capture(std::to_string(i)));
@@ -131,7 +131,7 @@ TEST_F(CentredCardTest, SeveralTilesStandInTheMiddleOfTheCard) {
     }
 }
 
-TEST_F(CentredCardTest, WhatIsOnATileStandsInItsMiddle) {
+TEST_F(CentredCardTest, TheContentsOfATileAreCentred) {
     const auto a = capture("a");
     show({a, capture("b")});
     makeCard();
@@ -150,7 +150,7 @@ TEST_F(CentredCardTest, WhatIsOnATileStandsInItsMiddle) {
     EXPECT_EQ(name->property("horizontalAlignment").toInt(), Qt::AlignHCenter);
 }
 
-TEST_F(CentredCardTest, WhatMarksATileStandsInTheMiddleOfItsPlate) {
+TEST_F(CentredCardTest, TheMarksOfATileAreCentredOnTheirPlates) {
     const auto a = recording("a", 5);
     show({a, capture("b")});
     makeCard();

@@ -20,7 +20,7 @@ TEST(DisplayText, DurationsAreMinutesAndSeconds) {
     EXPECT_EQ(durationText(std::numeric_limits<double>::quiet_NaN()), QString());
 }
 
-TEST(DisplayText, DatesAreToldInTheLargestUnitThatFits) {
+TEST(DisplayText, DatesUseTheLargestUnitThatFits) {
     using namespace std::chrono_literals;
     const Date now{std::chrono::seconds(1'800'000'000)};
     const auto ago = [now](auto distance) { return relativeDateText(now - distance, now); };

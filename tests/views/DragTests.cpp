@@ -55,7 +55,7 @@ protected:
     fakes::CapturedLog log{fakes::CapturedLog::DebugSwitch::on};
 };
 
-TEST_F(DragTest, WhereItsTileIsByThenIsKnown) {
+TEST_F(DragTest, ReportsHowFarItsTileHasMoved) {
     drag(0);
     rest();
     ASSERT_EQ(dragging.timesBegun, 1);
@@ -68,7 +68,7 @@ TEST_F(DragTest, WhereItsTileIsByThenIsKnown) {
     EXPECT_EQ(dragging.moved(), QPointF()) << "its tile has gone";
 }
 
-TEST_F(DragTest, WhatIsSaidAboutATileGoesWhenItIsPressed) {
+TEST_F(DragTest, TheHelpTagOfATileHidesWhenItIsPressed) {
     hover(middle());
     rest();
     ASSERT_EQ(item("HelpTag")->opacity(), 1);
@@ -80,7 +80,7 @@ TEST_F(DragTest, WhatIsSaidAboutATileGoesWhenItIsPressed) {
     EXPECT_EQ(item("HelpTag")->opacity(), 0) << "nor does it come back";
 }
 
-TEST_F(DragTest, WhatIsSaidAboutATileGoesWhenItIsDragged) {
+TEST_F(DragTest, TheHelpTagOfATileHidesWhenItIsDragged) {
     hover(middle());
     rest();
     ASSERT_EQ(item("HelpTag")->opacity(), 1);
@@ -116,7 +116,7 @@ TEST_F(DragTest, TheDistanceIsAStraightLine) {
     EXPECT_EQ(dragging.timesBegun, 1);
 }
 
-TEST_F(DragTest, MovingOnBeginsNoSecondDrag) {
+TEST_F(DragTest, FurtherMovementBeginsNoSecondDrag) {
     drag();
     move(middle() + QPointF(60, 60));
     EXPECT_EQ(dragging.timesBegun, 1);
@@ -145,7 +145,7 @@ TEST_F(DragTest, TheReleaseOfADragIsNoClick) {
     EXPECT_THAT(log.lines(), Contains("Vantle[dbg]: thumb mouseUp dragging=true"));
 }
 
-TEST_F(DragTest, WhoeverTakesItIsBelieved) {
+TEST_F(DragTest, ATargetThatTakesItIsBelieved) {
     drag();
     EXPECT_THAT(log.lines(), Contains("Vantle[dbg]: thumb drag begins"));
     dragging.end(DragOperation::copy);
@@ -153,7 +153,7 @@ TEST_F(DragTest, WhoeverTakesItIsBelieved) {
     EXPECT_THAT(log.lines(), Contains("Vantle[dbg]: thumb drag ended op=1"));
 }
 
-TEST_F(DragTest, WhatNobodyTakesIsNotDragged) {
+TEST_F(DragTest, ADragThatNobodyTakesIsNoUse) {
     drag();
     dragging.end(DragOperation::none);
     EXPECT_THAT(asked, ElementsAre("drag began", "not dragged a.png"));
@@ -169,7 +169,7 @@ TEST_F(DragTest, AfterADragTheNextOneCanBegin) {
     EXPECT_EQ(dragging.dragged[0].url, b->url());
 }
 
-TEST_F(DragTest, ADragEndsForThePanelThoughItsTileHasGone) {
+TEST_F(DragTest, ThePanelLearnsTheEndOfADragAlthoughItsTileHasGone) {
     drag();
     show({b});
     state.captures.set({});
@@ -179,14 +179,14 @@ TEST_F(DragTest, ADragEndsForThePanelThoughItsTileHasGone) {
     EXPECT_THAT(asked, Contains("dragged a.png"));
 }
 
-TEST_F(DragTest, ADragEndsWithoutAnybodyThoughThePanelHasGone) {
+TEST_F(DragTest, ADragMayEndAfterThePanelHasGone) {
     drag();
     panel.reset();
     dragging.end(DragOperation::copy);
     EXPECT_THAT(asked, ElementsAre("drag began"));
 }
 
-TEST_F(DragTest, ASelectionOfSevenIsAPileThatIsCappedAtFive) {
+TEST_F(DragTest, ASelectionOfSevenIsAPileOfFive) {
     for (int i = 0; i < 7; ++i) {
         const auto one = capture(std::string(1, static_cast<char>('a' + i)));
         dragItems.push_back({one->url(), one->thumbnail()});
@@ -210,7 +210,7 @@ TEST_F(DragTest, ADragStartsWhereTheThumbnailIsDrawn) {
               DragThumbnailView::fittedRect(image.size(), frame(*thumbnail(0))));
 }
 
-TEST_F(DragTest, WithoutAPictureTheFilesIconIsDragged) {
+TEST_F(DragTest, TheFilesIconIsDraggedWithoutAPicture) {
     dragItems = {{Url::file("/folder/a.png"), nullptr}};
     drag();
     ASSERT_THAT(dragging.dragged, SizeIs(1));
@@ -268,7 +268,7 @@ TEST(FittedRectTest, KeepsProportionsInTheMiddle) {
     EXPECT_EQ(DragThumbnailView::fittedRect({2, 1}, bounds), bounds);
 }
 
-TEST(FittedRectTest, WhatHasNoSizeFillsTheBounds) {
+TEST(FittedRectTest, APictureWithoutASizeFillsTheBounds) {
     const QRectF bounds(10, 20, 200, 100);
     EXPECT_EQ(DragThumbnailView::fittedRect({0, 100}, bounds), bounds);
     EXPECT_EQ(DragThumbnailView::fittedRect({100, -1}, bounds), bounds);
@@ -295,7 +295,7 @@ TEST_F(DragPileTest, OneItemIsItsOwnPictureWithRoundCorners) {
     EXPECT_EQ(colorAt(pile, 100, 100).alpha(), 0);
 }
 
-TEST_F(DragPileTest, AnEdgeOfLightStandsOutFromWhatIsBehindIt) {
+TEST_F(DragPileTest, ALightEdgeStandsOutFromTheBackground) {
     const DragPile pile = dragPile({item(Qt::red, 0)}, 1);
     for (const QPointF edge : {QPointF(180, 100), QPointF(180, 199), QPointF(100, 150)})
         EXPECT_NEAR(colorAt(pile, edge.x(), edge.y()).green(), 90, 10) << edge.x();
@@ -309,7 +309,7 @@ TEST_F(DragPileTest, TheFirstOfSeveralIsOnTopAndTheOthersShowBehindIt) {
     EXPECT_LT(colorAt(pile, 180, 203).red(), 100);
 }
 
-TEST_F(DragPileTest, SeveralHaveTheirNumberAtTheCorner) {
+TEST_F(DragPileTest, SeveralItemsHaveTheirNumberInTheCorner) {
     const DragPile pile = dragPile({item(Qt::red, 0), item(Qt::green, 6)}, 1);
     EXPECT_EQ(pile.frame, QRectF(90, 90, 176, 116));
     EXPECT_GT(colorAt(pile, 100, 93).alpha(), 230);

@@ -29,7 +29,7 @@ QImage picture(const QSize& size) {
     return image;
 }
 
-TEST(FlyBackTest, ItSlowsDownOnItsWayHomeAndIsGoneThere) {
+TEST(FlyBackTest, SlowsDownOnItsWayBackAndVanishes) {
     ManualFrames frames;
     QCursor::setPos(500, 400);
     FlyBack::start(picture({80, 50}), {10, 20}, {100, 80});
@@ -86,7 +86,7 @@ protected:
     QtDraggingSessions sessions{nullptr};
 };
 
-TEST_F(DraggingSessionTest, WhatNobodyTakesFliesBackToWhereItsTileIs) {
+TEST_F(DraggingSessionTest, ADragThatNobodyTakesFliesBackToItsTile) {
     QCursor::setPos(500, 400);
     dragInVain({40, 7});
     ASSERT_TRUE(flying());

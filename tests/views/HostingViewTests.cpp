@@ -38,7 +38,7 @@ protected:
     int backgroundClicks = 0;
 };
 
-TEST_F(HostingViewTest, BeforeAnyGlassEveryClickPassesThrough) {
+TEST_F(HostingViewTest, EveryClickPassesThroughWithoutGlass) {
     state.visible.set(false);
     showAndListen({});
     const PassthroughContainerView container(window());
@@ -46,7 +46,7 @@ TEST_F(HostingViewTest, BeforeAnyGlassEveryClickPassesThrough) {
         EXPECT_EQ(container.hitTest(point), nullptr);
 }
 
-TEST_F(HostingViewTest, BesideTheGlassAClickPassesThroughAndInsideItDoesNot) {
+TEST_F(HostingViewTest, AClickPassesThroughOnlyBesideTheGlass) {
     showTwo();
     const PassthroughContainerView container(window());
     const QRectF glass = glassFrame();
@@ -59,7 +59,7 @@ TEST_F(HostingViewTest, BesideTheGlassAClickPassesThroughAndInsideItDoesNot) {
     EXPECT_EQ(backgroundClicks, 0);
 }
 
-TEST_F(HostingViewTest, BesideTheCardTheWindowIsClear) {
+TEST_F(HostingViewTest, TheWindowIsClearBesideTheCard) {
     showTwo();
     EXPECT_TRUE(QQuickWindow::hasDefaultAlphaBuffer());
     EXPECT_EQ(window().color(), QColor(Qt::transparent));
@@ -87,7 +87,7 @@ TEST_F(HostingViewTest, HitsAreLoggedWhileDebugging) {
     EXPECT_THAT(log.lines(), Contains("Vantle[dbg]: thumb mouseUp dragging=false"));
 }
 
-TEST_F(HostingViewTest, AClickOnTheBackgroundIsToldWhenItEnds) {
+TEST_F(HostingViewTest, AClickOnTheBackgroundIsReportedWhenItEnds) {
     showTwo();
     press(background());
     EXPECT_EQ(backgroundClicks, 0);
@@ -105,7 +105,7 @@ TEST_F(HostingViewTest, APressThatMovesExactlySixPointsIsABackgroundClick) {
     EXPECT_EQ(backgroundClicks, 1);
 }
 
-TEST_F(HostingViewTest, FurtherThanSixPointsItDrawsAMarquee) {
+TEST_F(HostingViewTest, APressThatMovesMoreThanSixPointsDrawsAMarquee) {
     showTwo();
     const QPointF from = background();
     press(from);
@@ -142,7 +142,7 @@ TEST_F(HostingViewTest, AMarqueeEndsWithTheCard) {
     EXPECT_EQ(backgroundClicks, 0);
 }
 
-TEST_F(HostingViewTest, APressWhoseReleaseNobodyTellsDrawsNoMarquee) {
+TEST_F(HostingViewTest, APressWithoutAReleaseDrawsNoMarquee) {
     showTwo();
     press(background());
     // The window was not on the screen at the release, so the button is up without an event.
@@ -155,7 +155,7 @@ TEST_F(HostingViewTest, APressWhoseReleaseNobodyTellsDrawsNoMarquee) {
     EXPECT_EQ(backgroundClicks, 0);
 }
 
-TEST_F(HostingViewTest, ACardThatLeavesTakesNoClick) {
+TEST_F(HostingViewTest, ALeavingCardTakesNoClick) {
     showTwo();
     const QPointF onTile = frame(*tile(0)).center();
     const QPointF onBackground = background();

@@ -35,7 +35,7 @@ protected:
     CapturePointer b = capture("b");
 };
 
-TEST_F(KeyboardTest, TheNewestTileHasItFirst) {
+TEST_F(KeyboardTest, TheNewestTileHasTheFocusFirst) {
     showThree();
     EXPECT_EQ(focused(), 2);
 }
@@ -53,7 +53,7 @@ TEST_F(KeyboardTest, ArrowsMoveBetweenTilesAndStopAtTheEnds) {
     EXPECT_EQ(focused(), 2);
 }
 
-TEST_F(KeyboardTest, ACardInUseIsAttendedAsUnderThePointer) {
+TEST_F(KeyboardTest, ACardWithTheFocusCountsAsHovered) {
     showThree();
     EXPECT_TRUE(state.hovering.value());
     EXPECT_TRUE(flag(item("ClearAllPill"), "isOffered"));
@@ -76,7 +76,7 @@ TEST_F(KeyboardTest, DeleteOnASelectedTileTrashesTheSelection) {
     EXPECT_THAT(asked, ElementsAre("trash selected"));
 }
 
-TEST_F(KeyboardTest, EscapeIsNoTap) {
+TEST_F(KeyboardTest, EscapeIsNotLoggedAsATap) {
     fakes::CapturedLog log{fakes::CapturedLog::DebugSwitch::on};
     show({capture("a"), capture("b")});
     makeCard();
@@ -120,7 +120,7 @@ TEST_F(KeyboardTest, TabReachesTheButtonsOfATileAndSpacePressesThem) {
     EXPECT_THAT(asked, ElementsAre("copy c.png"));
 }
 
-TEST_F(KeyboardTest, TheKeyboardOfATileThatGoesIsItsNeighbours) {
+TEST_F(KeyboardTest, TheNeighbourOfARemovedTileGetsTheFocus) {
     showThree();
     auto left = state.captures.value();
     left.pop_back();

@@ -84,7 +84,7 @@ TEST_F(PseudolanguageTest, EveryTextOfTheOnboardingIsTranslated) {
     }
 }
 
-TEST_F(PseudolanguageTest, EveryTextOfAnUpdateIsTranslatedButWhatTheUpdaterAndTheNotesSay) {
+TEST_F(PseudolanguageTest, EveryTextOfAnUpdateIsTranslatedExceptForTheUpdaterAndTheNotes) {
     for (const auto& [name, state] : updateStates()) {
         SCOPED_TRACE(name);
         ScreenStage stage;
@@ -95,7 +95,7 @@ TEST_F(PseudolanguageTest, EveryTextOfAnUpdateIsTranslatedButWhatTheUpdaterAndTh
     }
 }
 
-TEST_F(PseudolanguageTest, EveryTextOfTheCardIsTranslatedButTheNamesOfFiles) {
+TEST_F(PseudolanguageTest, EveryTextOfTheCardIsTranslatedExceptForNamesOfFiles) {
     for (const Scene& scene : allScenes()) {
         SCOPED_TRACE(scene.name);
         CardStage stage;
@@ -107,7 +107,7 @@ TEST_F(PseudolanguageTest, EveryTextOfTheCardIsTranslatedButTheNamesOfFiles) {
     }
 }
 
-TEST(TranslationDirection, ALanguageFromTheRightTurnsTheWindowsAround) {
+TEST(TranslationDirection, ALanguageFromRightToLeftMirrorsTheWindows) {
     ASSERT_TRUE(QGuiApplication::isLeftToRight());
     {
         const PseudoTranslator translator;
@@ -126,7 +126,7 @@ private:
 };
 
 /// On the card only names of files may be cut off. These scenes have all other texts.
-TEST_P(LanguageTest, TheTextsOfTheCardHaveTheirRoom) {
+TEST_P(LanguageTest, TheTextsOfTheCardFit) {
     const std::set<std::string> wanted{"one-hovered", "hovered", "selected", "recording"};
     for (const Scene& scene : allScenes()) {
         if (!wanted.contains(scene.name)) continue;

@@ -52,7 +52,7 @@ TEST_F(MarkTest, ACheckMarkIsWhiteOnTheAccentColour) {
     EXPECT_EQ(color(item("Symbol", mark())), QColor(Qt::white));
 }
 
-TEST_F(MarkTest, TheTimerBarIsAHintOfTheTextsColour) {
+TEST_F(MarkTest, TheTimerBarIsFaintlyInTheTextsColour) {
     for (const auto& [scheme, tint] :
          {std::pair{ColorScheme::light, Qt::black}, std::pair{ColorScheme::dark, Qt::white}}) {
         desktop.look.set({.scheme = scheme});
@@ -70,7 +70,7 @@ TEST_F(MarkTest, TheTimerBarIsAHintOfTheTextsColour) {
     }
 }
 
-TEST_F(MarkTest, ARecordingOfUnknownLengthHasTheSymbolAlone) {
+TEST_F(MarkTest, ARecordingOfUnknownLengthHasOnlyTheSymbol) {
     show({recording("known", 5), recording("unknown", std::nan(""))});
     makeCard();
     auto* badge = item("DurationBadge", tile(1));

@@ -44,18 +44,18 @@ protected:
     }
 };
 
-TEST_F(MenuSharingServicePickerTest, OffersWhatWasFoundThenItsOwn) {
+TEST_F(MenuSharingServicePickerTest, OffersFoundServicesBeforeItsOwn) {
     menu.source.offers = {{"Mail…", "envelope", [](const auto&) {}}};
     show(listener);
     EXPECT_THAT(titles(), ElementsAre("Mail…", "", "Copy file", "Reveal"));
 }
 
-TEST_F(MenuSharingServicePickerTest, WhereNothingWasFoundThereIsNoRule) {
+TEST_F(MenuSharingServicePickerTest, ThereIsNoSeparatorIfNothingWasFound) {
     show(listener);
     EXPECT_THAT(titles(), ElementsAre("Copy file", "Reveal"));
 }
 
-TEST_F(MenuSharingServicePickerTest, WhatIsChosenIsDoneWithTheFiles) {
+TEST_F(MenuSharingServicePickerTest, AChoiceRunsItsActionWithTheFiles) {
     std::vector<Url> sent;
     menu.source.offers = {{"Phone", "phone", [&](const auto& files) { sent = files; }}};
     show(listener);
@@ -78,7 +78,7 @@ TEST_F(MenuSharingServicePickerTest, RevealShowsTheFile) {
     EXPECT_THAT(listener->told, ElementsAre("Reveal"));
 }
 
-TEST_F(MenuSharingServicePickerTest, AnAnswerToAnEarlierQuestionOpensNothing) {
+TEST_F(MenuSharingServicePickerTest, AnAnswerToAnEarlierRequestOpensNothing) {
     menu.source.isQuick = false;
     show(listener);
     const auto first = std::exchange(menu.source.pending, nullptr);

@@ -58,7 +58,7 @@ TEST_F(MenuTest, AClickChoosesAndCloses) {
     EXPECT_FALSE(window.isVisible());
 }
 
-TEST_F(MenuTest, AClickOnARuleDoesNothing) {
+TEST_F(MenuTest, AClickOnASeparatorDoesNothing) {
     open(menu);
     QTest::mouseClick(&window, Qt::LeftButton, {}, inLine(2));
     EXPECT_TRUE(window.isVisible());
@@ -72,7 +72,7 @@ TEST_F(MenuTest, APressBesideItClosesItWithoutAChoice) {
     EXPECT_FALSE(window.isVisible());
 }
 
-TEST_F(MenuTest, APressOnItsShadowIsBesideIt) {
+TEST_F(MenuTest, APressOnItsShadowClosesIt) {
     open(menu);
     QTest::mousePress(&window, Qt::LeftButton, {}, QPoint(2, 2));
     EXPECT_EQ(timesEnded, 1);
@@ -86,7 +86,7 @@ TEST_F(MenuTest, EscapeClosesItWithoutAChoice) {
     EXPECT_EQ(chosen, std::nullopt);
 }
 
-TEST_F(MenuTest, ArrowsGoAroundAndPassOverRules) {
+TEST_F(MenuTest, ArrowsWrapAroundAndSkipSeparators) {
     open(menu);
     EXPECT_EQ(current(), MenuModel::none);
     for (const int line : {0, 1, 3, 4, 0}) {
@@ -123,7 +123,7 @@ TEST_F(MenuTest, ReturnChoosesTheCurrentLine) {
     EXPECT_EQ(chosen, 1);
 }
 
-TEST_F(MenuTest, WhatIsOnlySaidCannotBeChosen) {
+TEST_F(MenuTest, ADisabledLineCannotBeChosen) {
     open({{.title = "Recent Captures", .isEnabled = false}, {.title = "a.png"}});
     press(Qt::Key_Down);
     EXPECT_EQ(current(), 1);
@@ -133,7 +133,7 @@ TEST_F(MenuTest, WhatIsOnlySaidCannotBeChosen) {
     EXPECT_TRUE(window.isVisible());
 }
 
-TEST_F(MenuTest, AKeyWithControlChoosesItsLine) {
+TEST_F(MenuTest, AShortcutChoosesItsLine) {
     const std::vector<MenuItem> lines{{.title = "Quick"},
                                       {.title = "Settings…", .keyEquivalent = ","},
                                       {.title = "Quit", .keyEquivalent = "q"}};
@@ -147,7 +147,7 @@ TEST_F(MenuTest, AKeyWithControlChoosesItsLine) {
     EXPECT_EQ(chosen, 1);
 }
 
-TEST_F(MenuTest, WhatALineDoesIsDoneOnceTheMenuHasClosed) {
+TEST_F(MenuTest, ALinesActionRunsAfterTheMenuHasClosed) {
     std::vector<std::string> told;
     window.open({"Menu",
                  {{.title = "One",
@@ -158,13 +158,13 @@ TEST_F(MenuTest, WhatALineDoesIsDoneOnceTheMenuHasClosed) {
     EXPECT_EQ(told, (std::vector<std::string>{"ended", "closed"}));
 }
 
-TEST_F(MenuTest, StaysOutOfThePanelItWasOpenedFrom) {
+TEST_F(MenuTest, StaysAboveTheDesktopPanelThatItWasOpenedFrom) {
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
     open(menu, {300, room.bottom() + 20, 1, 1});
     EXPECT_LE(plate().bottom(), room.bottom());
 }
 
-TEST_F(MenuTest, ThePointerMakesALineTheCurrentOne) {
+TEST_F(MenuTest, ThePointerSelectsALine) {
     open(menu);
     QTest::mouseMove(&window, inLine(4));
     EXPECT_EQ(current(), 4);
@@ -184,12 +184,12 @@ TEST_F(MenuTest, AnotherMenuClosesTheFirstAndHasNoCurrentLine) {
     EXPECT_EQ(chosen, 0);
 }
 
-TEST_F(MenuTest, OpensBelowWhatItPointsTo) {
+TEST_F(MenuTest, OpensBelowItsAnchor) {
     open(menu, {300, 200, 28, 28});
     EXPECT_EQ(plate().topLeft(), QPoint(300, 200 + 28 + 4));
 }
 
-TEST_F(MenuTest, OpensAboveWhereThereIsNoRoomBelow) {
+TEST_F(MenuTest, OpensAboveIfThereIsNoRoomBelow) {
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
     open(menu, {300, room.bottom() - 40, 28, 28});
     EXPECT_EQ(plate().bottom() + 1 + 4, room.bottom() - 40);

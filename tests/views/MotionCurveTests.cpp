@@ -48,7 +48,7 @@ protected:
     }
 };
 
-TEST_F(MotionCurveTest, TheCardComesAndGoes) {
+TEST_F(MotionCurveTest, TheCardAppearsAndLeaves) {
     constexpr Animation spring{.response = 0.5, .dampingFraction = 0.82};
     constexpr double there = 458;
     constexpr double travel = 328 + 14;
@@ -81,7 +81,7 @@ TEST_F(MotionCurveTest, TheRowScrollsToTheNewest) {
     EXPECT_EQ(scrolled(), course.to);
 }
 
-TEST_F(MotionCurveTest, ATileComes) {
+TEST_F(MotionCurveTest, ATileAppears) {
     show(captures(2));
     makeCard();
     auto shown = state.captures.value();
@@ -95,7 +95,7 @@ TEST_F(MotionCurveTest, ATileComes) {
     });
 }
 
-TEST_F(MotionCurveTest, ATileGoes) {
+TEST_F(MotionCurveTest, ATileLeaves) {
     show(captures(3));
     makeCard();
     constexpr Animation removal{.response = 0.45, .dampingFraction = 0.82};
@@ -109,7 +109,7 @@ TEST_F(MotionCurveTest, ATileGoes) {
     });
 }
 
-TEST_F(MotionCurveTest, TheTilesAndTheCardMakeRoom) {
+TEST_F(MotionCurveTest, TheTilesAndTheCardAdapt) {
     show(captures(3));
     makeCard();
     constexpr Animation arrival{.response = 0.55, .dampingFraction = 0.8};
@@ -141,7 +141,7 @@ TEST_F(MotionCurveTest, TheHoverBarRisesFromTheThumbnailsEdge) {
     });
 }
 
-TEST(ScreenMotionTest, TheStepsOfTheOnboardingComeFromTheirSide) {
+TEST(ScreenMotionTest, TheStepsOfTheOnboardingSlideInFromTheirSide) {
     ScreenStage stage;
     stage.openOnboarding(0);
     stage.rest();

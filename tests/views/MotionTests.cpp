@@ -28,7 +28,7 @@ protected:
     DesktopAppearance desktop;
 };
 
-TEST_F(MotionTest, TheCardComesFromTheNearEdge) {
+TEST_F(MotionTest, TheCardSlidesInFromTheNearEdge) {
     for (const auto& [corner, direction] :
          {std::pair{PanelCorner::bottomRight, 1}, std::pair{PanelCorner::topLeft, -1}}) {
         state.corner = corner;
@@ -45,7 +45,7 @@ TEST_F(MotionTest, TheCardComesFromTheNearEdge) {
     }
 }
 
-TEST_F(MotionTest, ACardThatIsCalledBackTurnsWithoutAJump) {
+TEST_F(MotionTest, ACardThatReturnsWhileLeavingTurnsWithoutAJump) {
     show({a});
     makeCard();
     state.visible.set(false);
@@ -72,7 +72,7 @@ TEST_F(MotionTest, ATileGrowsIntoTheRow) {
     EXPECT_EQ(tile(2)->opacity(), 1);
 }
 
-TEST_F(MotionTest, TheFirstTileComesWithTheCardAndTheNextByItself) {
+TEST_F(MotionTest, TheFirstTileAppearsWithTheCardAndTheNextByItself) {
     state.visible.set(false);
     makeCard();
     state.captures.set({a});
@@ -85,7 +85,7 @@ TEST_F(MotionTest, TheFirstTileComesWithTheCardAndTheNextByItself) {
     EXPECT_LT(tile(1)->scale(), 1);
 }
 
-TEST_F(MotionTest, ACardThatComesAgainKnowsNothingOfTheOneBefore) {
+TEST_F(MotionTest, ACardThatReturnsIsIndependentOfThePreviousOne) {
     std::vector<CapturePointer> many;
     for (int i = 0; i < 12; ++i) many.push_back(capture(std::to_string(i)));
     show(many);
@@ -102,7 +102,7 @@ TEST_F(MotionTest, ACardThatComesAgainKnowsNothingOfTheOneBefore) {
     EXPECT_EQ(frameIn(*tile(0), *item("TileRow")), QRectF(10, 10, 304, 190));
 }
 
-TEST_F(MotionTest, ATileThatLeavesShrinksAndFadesWhereItIs) {
+TEST_F(MotionTest, ALeavingTileShrinksAndFadesInPlace) {
     show({a, b, c});
     makeCard();
     const double x = tile(1)->x();
@@ -117,7 +117,7 @@ TEST_F(MotionTest, ATileThatLeavesShrinksAndFadesWhereItIs) {
     EXPECT_EQ(count(items("CaptureTile")), 2u);
 }
 
-TEST_F(MotionTest, ATileThatComesBackWhileItLeavesStays) {
+TEST_F(MotionTest, ATileThatReturnsWhileLeavingStays) {
     show({a, b, c});
     makeCard();
     state.captures.set({a, c});
@@ -154,7 +154,7 @@ TEST_F(MotionTest, RemovalsHaveTheirOwnSpring) {
     EXPECT_NEAR(glassFrame().width(), arrival.at(0.1).value, 0.5);
 }
 
-TEST_F(MotionTest, ACardWhoseLastCaptureWasTakenLeavesAsItIs) {
+TEST_F(MotionTest, ACardWithoutCapturesLeavesUnchanged) {
     show({a});
     makeCard();
     state.captures.set({});
@@ -168,7 +168,7 @@ TEST_F(MotionTest, ACardWhoseLastCaptureWasTakenLeavesAsItIs) {
     EXPECT_EQ(count(items("CaptureTile")), 0u);
 }
 
-TEST_F(MotionTest, WithLessMotionNothingFlies) {
+TEST_F(MotionTest, NothingFliesWithReducedMotion) {
     desktop.look.set({.reducesMotion = true});
     state.visible.set(false);
     show({a});

@@ -67,7 +67,7 @@ TEST_F(OnboardingViewTest, TheDoneStep) {
     EXPECT_EQ(samples, 1);
 }
 
-TEST_F(OnboardingViewTest, WithoutATrayTheDoneStepSaysSoAndWhatBringsOne) {
+TEST_F(OnboardingViewTest, TheDoneStepSaysThatThereIsNoTrayAndHowToGetOne) {
     statusItem->hasTray = false;
     platform.trayExtension = [] { return TrayExtension{"Tray", "shell-tray", false}; };
     openOnboarding(2);
@@ -81,7 +81,7 @@ TEST_F(OnboardingViewTest, WithoutATrayTheDoneStepSaysSoAndWhatBringsOne) {
          QStringLiteral("Start Using Vantle")});
 }
 
-TEST_F(OnboardingViewTest, MerelyOpeningItAppliesTheRecommendedSettings) {
+TEST_F(OnboardingViewTest, OpeningItAppliesTheRecommendedSettings) {
     settings->dismissAfter.set(20);
     settings->corner.set(PanelCorner::topLeft);
     openOnboarding();
@@ -92,14 +92,14 @@ TEST_F(OnboardingViewTest, MerelyOpeningItAppliesTheRecommendedSettings) {
     EXPECT_FALSE(settings->hasCompletedOnboarding.value());
 }
 
-TEST_F(OnboardingViewTest, WhatTheSystemDoesNotGrantIsShownAsItIs) {
+TEST_F(OnboardingViewTest, ShowsTheRealStateIfTheSystemRefusesASetting) {
     preferences->obstacles["show-thumbnail"] = "GNOME always shows its own preview.";
     openOnboarding(2);
     EXPECT_FALSE(settings->hideSystemThumbnail.value());
     EXPECT_TRUE(has(QStringLiteral("macOS thumbnail still shown")));
 }
 
-TEST_F(OnboardingViewTest, ItIsWalkedByItsButtons) {
+TEST_F(OnboardingViewTest, ItsButtonsChangeTheStep) {
     openOnboarding();
     click(QStringLiteral("Get Started"));
     EXPECT_TRUE(has(QStringLiteral("Set up Vantle")));
@@ -115,7 +115,7 @@ TEST_F(OnboardingViewTest, ItIsWalkedByItsButtons) {
     EXPECT_EQ(finished, 1);
 }
 
-TEST_F(OnboardingViewTest, ReturnIsTheForwardButtonWhateverHasTheKeyboard) {
+TEST_F(OnboardingViewTest, ReturnPressesTheForwardButtonWithAnyFocus) {
     openOnboarding();
     press(Qt::Key_Return);
     ASSERT_TRUE(has(QStringLiteral("Set up Vantle")));
@@ -135,7 +135,7 @@ TEST_F(OnboardingViewTest, ReturnOnBackGoesBack) {
     EXPECT_TRUE(has(QStringLiteral("Welcome to Vantle")));
 }
 
-TEST_F(OnboardingViewTest, WhatIsChosenIsInTheSummaryAtOnce) {
+TEST_F(OnboardingViewTest, ChoicesAreInTheSummaryAtOnce) {
     openOnboarding(1);
     click(QStringLiteral("Keep captures until dismissed (recommended)"));
     click(QStringLiteral("Hide the built-in macOS thumbnail"));
@@ -146,7 +146,7 @@ TEST_F(OnboardingViewTest, WhatIsChosenIsInTheSummaryAtOnce) {
                  QStringLiteral("macOS thumbnail still shown")});
 }
 
-TEST_F(OnboardingViewTest, ClosedAndShownAgainItKeepsItsStep) {
+TEST_F(OnboardingViewTest, KeepsItsStepWhenItIsClosedAndShownAgain) {
     openOnboarding();
     click(QStringLiteral("Get Started"));
     press(Qt::Key_W, Qt::ControlModifier);
@@ -159,7 +159,7 @@ TEST_F(OnboardingViewTest, ClosedAndShownAgainItKeepsItsStep) {
     EXPECT_EQ(settings->corner.value(), PanelCorner::bottomRight);
 }
 
-TEST_F(OnboardingViewTest, AStepOutsideIsTheNearest) {
+TEST_F(OnboardingViewTest, AStepOutOfRangeBecomesTheNearestOne) {
     openOnboarding(9);
     EXPECT_TRUE(has(QStringLiteral("You're all set")));
     openOnboarding(-9);
@@ -181,7 +181,7 @@ TEST_F(OnboardingViewTest, TheNextStepArrivesFromItsSideOnASpring) {
     EXPECT_LT(content.x(), -40);
 }
 
-TEST_F(OnboardingViewTest, WithLessMotionItOnlyFades) {
+TEST_F(OnboardingViewTest, OnlyFadesWithReducedMotion) {
     DesktopAppearance desktop;
     desktop.look.set({.reducesMotion = true});
     Appearance::follow(&desktop);
@@ -194,7 +194,7 @@ TEST_F(OnboardingViewTest, WithLessMotionItOnlyFades) {
     Appearance::follow(nullptr);
 }
 
-TEST_F(OnboardingViewTest, WhatDoesNotFitIsScrolledByKeys) {
+TEST_F(OnboardingViewTest, KeysScrollContentsThatDoNotFit) {
     openOnboarding(0, {480, 300});
     QQuickItem& area = *view().findChild<QQuickItem*>(QStringLiteral("area"));
     const auto scrolled = [&] { return area.property("contentY").toDouble(); };
@@ -208,7 +208,7 @@ TEST_F(OnboardingViewTest, WhatDoesNotFitIsScrolledByKeys) {
     EXPECT_EQ(scrolled(), 0);
 }
 
-TEST_F(OnboardingViewTest, ASnapshotIsOfTheStepThatIsSeen) {
+TEST_F(OnboardingViewTest, ASnapshotShowsTheVisibleStep) {
     openOnboarding(1);
     const auto settingsStep = window().snapshot(2);
     click(QStringLiteral("Next"));

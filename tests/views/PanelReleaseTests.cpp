@@ -35,7 +35,7 @@ protected:
     }
 };
 
-TEST_F(PanelReleaseTest, WhatDrewTheCardGoes) {
+TEST_F(PanelReleaseTest, ReleasesTheNodesOfTheCard) {
     int nodes = 0;
     auto item = std::make_unique<DrawnItem>(nodes);
     item->setParentItem(window().contentItem());

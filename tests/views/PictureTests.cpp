@@ -254,7 +254,7 @@ private:
     Translations english_{QStringLiteral(VANTLE_TRANSLATIONS), {QStringLiteral("en")}};
 };
 
-TEST_P(PictureTest, LooksAsItShould) {
+TEST_P(PictureTest, LooksLikeTheReference) {
     if (!QFontInfo(fontOfReferences()).exactMatch())
         GTEST_SKIP() << "the font of the references is not installed";
     const QString file = QString::fromStdString(pictureName(GetParam()) + ".png");
@@ -282,7 +282,7 @@ INSTANTIATE_TEST_SUITE_P(
         return name;
     });
 
-TEST(PictureDifference, IsSeen) {
+TEST(PictureDifference, IsVisible) {
     QImage one(100, 100, QImage::Format_RGB32);
     one.fill(Qt::white);
     EXPECT_TRUE(isLike(one, one));

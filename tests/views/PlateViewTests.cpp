@@ -26,7 +26,7 @@ protected:
     PlateView plate;
 };
 
-TEST_F(PlateViewTest, FillsItsFrameAndNoMore) {
+TEST_F(PlateViewTest, FillsExactlyItsFrame) {
     for (const int side : {1, 2, 3, 4, 5, 30}) {
         const QImage picture = drawn({side, side});
         for (int y = 0; y < 40; ++y)
@@ -38,7 +38,7 @@ TEST_F(PlateViewTest, FillsItsFrameAndNoMore) {
     }
 }
 
-TEST_F(PlateViewTest, ItsBorderIsInsideAsBroadAsItIsAskedFor) {
+TEST_F(PlateViewTest, ItsBorderIsInsideWithTheRequestedWidth) {
     plate.setProperty("borderWidth", 3);
     plate.setProperty("borderColor", QColor(Qt::blue));
     const QImage picture = drawn({30, 20});

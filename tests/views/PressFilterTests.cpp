@@ -71,7 +71,7 @@ TEST_F(PressFilterTest, ADoubleClickOnACloseButtonClosesOneCapture) {
     }
 }
 
-TEST_F(PressFilterTest, OnceThePointerHasMovedTheNeighbourTakesTheClick) {
+TEST_F(PressFilterTest, TheNeighbourTakesTheClickAfterThePointerHasMoved) {
     showThree();
     moveTo(onFirst());
     clickHere();
@@ -82,7 +82,7 @@ TEST_F(PressFilterTest, OnceThePointerHasMovedTheNeighbourTakesTheClick) {
     EXPECT_THAT(asked, ElementsAre("open b.png"));
 }
 
-TEST_F(PressFilterTest, WhenTheTimeOfADoubleClickHasPassedTheNeighbourTakesTheClick) {
+TEST_F(PressFilterTest, TheNeighbourTakesTheClickAfterTheTimeOfADoubleClick) {
     showThree();
     moveTo(onFirst());
     clickHere();
@@ -99,7 +99,7 @@ TEST_F(PressFilterTest, ADoubleClickOnATileThatStaysOpensItOnce) {
     EXPECT_THAT(asked, ElementsAre("open a.png"));
 }
 
-TEST_F(PressFilterTest, TheLastCaptureIsOpenedOnceWithLessMotionAsWell) {
+TEST_F(PressFilterTest, TheLastCaptureIsOpenedOnceWithReducedMotion) {
     show({a});
     makeCard();
     moveTo(onFirst());
@@ -112,7 +112,7 @@ TEST_F(PressFilterTest, TheLastCaptureIsOpenedOnceWithLessMotionAsWell) {
     EXPECT_THAT(asked, ElementsAre("open a.png"));
 }
 
-TEST_F(PressFilterTest, NeitherKeysNorAssistiveProgramsReachACardThatLeaves) {
+TEST_F(PressFilterTest, NeitherKeysNorAssistiveProgramsReachALeavingCard) {
     show({a, b});
     makeCard();
     panel->takeKeyboard();
@@ -124,7 +124,7 @@ TEST_F(PressFilterTest, NeitherKeysNorAssistiveProgramsReachACardThatLeaves) {
     EXPECT_THAT(asked, IsEmpty());
 }
 
-TEST_F(PressFilterTest, WhatSlidesUnderAPressIsNotReleasedOn) {
+TEST_F(PressFilterTest, ATargetThatSlidesUnderAPressGetsNoRelease) {
     showThree();
     moveTo(onFirst());
     QTest::mousePress(&window(), Qt::LeftButton, {}, pointer.toPoint());

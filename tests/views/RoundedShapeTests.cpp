@@ -13,14 +13,14 @@ int shade(const QImage& mask, int x, int y) {
     return mask.constScanLine(y)[x];
 }
 
-TEST(RoundedShapeTest, WithoutARadiusItIsTheRectangle) {
+TEST(RoundedShapeTest, IsTheRectangleWithoutARadius) {
     const QRectF rect(3, 4, 50, 20);
     const QPainterPath path = continuousRoundedRect(rect, 0);
     EXPECT_EQ(path.boundingRect(), rect);
     EXPECT_TRUE(path.contains(QPointF(3.1, 4.1)));
 }
 
-TEST(RoundedShapeTest, EachCornerIsCutInItsMiddleAsAnArcWouldCutIt) {
+TEST(RoundedShapeTest, EachCornerMatchesAnArcInItsMiddle) {
     const QRectF rect(0, 0, 100, 60);
     const QPainterPath path = continuousRoundedRect(rect, 20);
     EXPECT_EQ(path.boundingRect(), rect);
@@ -39,7 +39,7 @@ TEST(RoundedShapeTest, TheCornerBeginsEarlierThanTheArc) {
     EXPECT_TRUE(path.contains(QPointF(27, 0.02)));
 }
 
-TEST(SoftShadowTest, IsBlackInsideHalfAtTheEdgeAndGoneAtTheBlursEnd) {
+TEST(SoftShadowTest, FadesFromBlackInsideToNothingAtTheBlursEnd) {
     constexpr int blur = 9;
     const QImage mask = softShadow({80, 60}, 0, blur);
     ASSERT_EQ(mask.size(), QSize(80 + 2 * blur, 60 + 2 * blur));

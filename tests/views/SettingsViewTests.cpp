@@ -64,7 +64,7 @@ TEST_F(SettingsViewTest, ItHasTheTextsInTheirOrder) {
     EXPECT_EQ(window().title(), QStringLiteral("Vantle Settings"));
 }
 
-TEST_F(SettingsViewTest, WithDismissAfter0TheToggleIsOnAndTheSliderIsDimmed) {
+TEST_F(SettingsViewTest, DismissAfter0SwitchesTheToggleOnAndDimsTheSlider) {
     openSettings();
     EXPECT_TRUE(isOn(keepToggle));
     const QQuickItem* block = named(slider).parentItem();
@@ -146,7 +146,7 @@ TEST_F(SettingsViewTest, PageKeysKeepWholeSteps) {
     EXPECT_EQ(storedSeconds(), 8);
 }
 
-TEST_F(SettingsViewTest, NumbersThatTheSliderDoesNotOfferAreLeftAlone) {
+TEST_F(SettingsViewTest, NumbersThatTheSliderDoesNotOfferAreKept) {
     const double notANumber = std::numeric_limits<double>::quiet_NaN();
     for (const double seconds : {500.0, -5.0, 0.5, 7.25, notANumber}) {
         settings->dismissAfter.set(seconds);
@@ -234,7 +234,7 @@ TEST_F(SettingsViewTest, AChangeFromElsewhereIsShown) {
     EXPECT_FALSE(isOn(QStringLiteral("Also show screen recordings")));
 }
 
-TEST_F(SettingsViewTest, ALoginItemThatCannotBeMadeTakesItsSwitchBack) {
+TEST_F(SettingsViewTest, TheSwitchGoesBackIfTheLoginItemCannotBeMade) {
     loginItem->failure = Failure{EACCES, "refused", ""};
     openSettings();
     const QString login = QStringLiteral("Open Vantle at login");
@@ -255,7 +255,7 @@ TEST_F(SettingsViewTest, AFolderThatCannotBeChangedIsShownWithTheReason) {
     EXPECT_EQ(openMenu(), nullptr);
 }
 
-TEST_F(SettingsViewTest, TheFolderOfTheDesktopsRecorderIsNamedUnderItsSwitch) {
+TEST_F(SettingsViewTest, ShowsTheFolderOfTheDesktopsRecorderUnderItsSwitch) {
     Url recordings = Url::file("/home/user/Videos/Screencasts");
     platform.recordingsFolder = [&recordings] { return recordings; };
     openSettings();
@@ -267,7 +267,7 @@ TEST_F(SettingsViewTest, TheFolderOfTheDesktopsRecorderIsNamedUnderItsSwitch) {
     EXPECT_TRUE(has(QStringLiteral("Your desktop saves them in /data/casts.")));
 }
 
-TEST_F(SettingsViewTest, WithoutARecorderOfTheDesktopNoFolderIsNamed) {
+TEST_F(SettingsViewTest, ShowsNoFolderWithoutARecorderOfTheDesktop) {
     openSettings();
     EXPECT_TRUE(texts().filter(QStringLiteral("Your desktop saves them")).isEmpty());
 }
@@ -291,7 +291,7 @@ TEST_F(SettingsViewTest, AThumbnailThatCannotBeSwitchedIsShownAsItIsWithTheReaso
     EXPECT_TRUE(named(hide).isEnabled());
 }
 
-TEST_F(SettingsViewTest, ADockThatCannotBeChosenSaysWhy) {
+TEST_F(SettingsViewTest, ExplainsWhyTheDockCannotBeChosen) {
     const QString dock = QStringLiteral("Also show Vantle in the Dock");
     application->policyObstacle = "The desktop decides that.";
     openSettings();
@@ -301,7 +301,7 @@ TEST_F(SettingsViewTest, ADockThatCannotBeChosenSaysWhy) {
     EXPECT_FALSE(settings->showInDock.value());
 }
 
-TEST_F(SettingsViewTest, AThumbnailThatComesBackTakesItsSwitchBack) {
+TEST_F(SettingsViewTest, TheSwitchGoesBackIfTheThumbnailCannotBeHidden) {
     openSettings();
     const QString hide = QStringLiteral("Hide the built-in macOS thumbnail");
     // Simulates a tool whose settings turn out to be read-only.
@@ -336,7 +336,7 @@ TEST_F(SettingsViewTest, TheFolderMenuOpensAtTheButtonAndSetsTheFolder) {
     EXPECT_TRUE(has(QStringLiteral("~/Screenshots")));
 }
 
-TEST_F(SettingsViewTest, TheCornerMenuBeginsAtTheCornerThatIsChosen) {
+TEST_F(SettingsViewTest, TheCornerMenuBeginsAtTheChosenCorner) {
     settings->corner.set(PanelCorner::topRight);
     openSettings();
     named(QStringLiteral("Show panel in")).forceActiveFocus();
@@ -352,7 +352,7 @@ TEST_F(SettingsViewTest, TheCornerMenuBeginsAtTheCornerThatIsChosen) {
     EXPECT_TRUE(has(QStringLiteral("Top Left")));
 }
 
-TEST_F(SettingsViewTest, TheSampleIsAskedFor) {
+TEST_F(SettingsViewTest, TheButtonRequestsASample) {
     openSettings();
     click(QStringLiteral("Test with a sample"));
     EXPECT_EQ(samples, 1);
@@ -399,7 +399,7 @@ TEST_F(SettingsViewTest, TabReachesEveryControlOnceAndScrollsToIt) {
     EXPECT_EQ(reached, expected);
 }
 
-TEST_F(SettingsViewTest, WithoutATimerTheSliderIsNotReached) {
+TEST_F(SettingsViewTest, TabSkipsTheSliderWithoutATimer) {
     openSettings();
     named(keepToggle).forceActiveFocus();
     press(Qt::Key_Tab);

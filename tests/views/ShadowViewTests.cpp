@@ -76,7 +76,7 @@ protected:
     ShadowView shadow;
 };
 
-TEST_F(ShadowViewTest, LooksAsIfMadeInOnePieceAtEachSize) {
+TEST_F(ShadowViewTest, LooksLikeAShadowDrawnInOnePieceAtEachSize) {
     for (const QSize size : {QSize(100, 80), QSize(67, 67), QSize(180, 70), QSize(75, 150)})
         EXPECT_LE(difference(size), 2) << size.width() << " x " << size.height();
 }
@@ -93,7 +93,7 @@ TEST_F(ShadowViewTest, DoesNotDarkenThePlateItself) {
     EXPECT_LT(found.pixelColor(50, 80 - margin + 1).lightness(), 200);
 }
 
-TEST_F(ShadowViewTest, IsDrawnAnewInAnotherWindow) {
+TEST_F(ShadowViewTest, IsDrawnAgainInAnotherWindow) {
     {
         QQuickView other;
         other.resize(200, 160);

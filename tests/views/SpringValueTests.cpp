@@ -25,7 +25,7 @@ TEST_F(SpringValueTest, BeginsAtItsTarget) {
     EXPECT_FALSE(spring.isRunning());
 }
 
-TEST_F(SpringValueTest, OrElsewhereAndThenMovesThere) {
+TEST_F(SpringValueTest, BeginsElsewhereIfSetAndMovesToItsTarget) {
     spring.setFrom(10);
     begin(40);
     EXPECT_EQ(spring.value(), 10);
@@ -35,7 +35,7 @@ TEST_F(SpringValueTest, OrElsewhereAndThenMovesThere) {
     EXPECT_FALSE(spring.isRunning());
 }
 
-TEST_F(SpringValueTest, WhereItBeginsIsToldToWhoeverAsks) {
+TEST_F(SpringValueTest, ReportsWhereItBegins) {
     const QSignalSpy spy(&spring, &SpringValue::fromChanged);
     spring.setFrom(10);
     EXPECT_EQ(spy.count(), 1);
@@ -69,7 +69,7 @@ TEST_F(SpringValueTest, AnInterruptedMotionTurnsWithoutAJump) {
     EXPECT_EQ(spring.value(), 0);
 }
 
-TEST_F(SpringValueTest, DisabledItIsAtItsTarget) {
+TEST_F(SpringValueTest, IsAtItsTargetWhenDisabled) {
     begin(0);
     spring.setProperty("enabled", false);
     spring.setTarget(100);
@@ -87,7 +87,7 @@ TEST_F(SpringValueTest, JumpingEndsTheMotion) {
     EXPECT_FALSE(spring.isRunning());
 }
 
-TEST_F(SpringValueTest, AtRestItTellsNothing) {
+TEST_F(SpringValueTest, SignalsNothingAtRest) {
     begin(0);
     spring.setTarget(100);
     frames.settle();

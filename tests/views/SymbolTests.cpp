@@ -31,7 +31,7 @@ QStringList allSymbols() {
     return names;
 }
 
-TEST(Symbols, ThereIsOneForEachNameInUse) {
+TEST(Symbols, EachUsedNameHasASymbol) {
     for (const char* name :
          {"checkmark", "checkmark.circle.fill", "doc.on.doc", "folder", "pin", "pin.circle.fill",
           "pin.fill", "square.and.arrow.up", "trash", "video.fill", "xmark"})
@@ -49,7 +49,7 @@ TEST(Symbols, AllAreDrawnOnOneGridWithOneStroke) {
     }
 }
 
-TEST(Symbols, AreDrawnInTheColourAskedForAtEverySize) {
+TEST(Symbols, AreDrawnInTheRequestedColourAtEverySize) {
     for (const QString& name : allSymbols())
         for (const int side : {16, 24, 32, 48}) {
             const QImage picture = symbol(name, side);
@@ -64,7 +64,7 @@ TEST(Symbols, AreDrawnInTheColourAskedForAtEverySize) {
         }
 }
 
-TEST(Symbols, NothingIsCutOffAtTheGridsEdge) {
+TEST(Symbols, NoSymbolIsCutOffAtTheGridsEdge) {
     for (const QString& name : allSymbols()) {
         const QImage picture = symbol(name, 64);
         for (int i = 0; i < 64; ++i)
@@ -78,7 +78,7 @@ TEST(Symbols, FilledOnesAreHeavierThanTheirOutlines) {
               1.2 * coverage(symbol(QStringLiteral("pin"), 32)));
 }
 
-TEST(SymbolsDeathTest, AMissingOneIsAProgrammingError) {
+TEST(SymbolsDeathTest, AMissingSymbolIsAProgrammingError) {
     EXPECT_DEATH((void)symbol(QStringLiteral("none"), 16), "there is no symbol none");
 }
 

@@ -83,7 +83,7 @@ TEST_F(TileTest, ASelectedCaptureHasABroadBorderAndATint) {
     EXPECT_THAT(plates(1), ElementsAre(1));
 }
 
-TEST_F(TileTest, ThePictureFillsATileOfItsShape) {
+TEST_F(TileTest, ThePictureFillsATileOfTheSameShape) {
     for (const Size shape :
          {Size{2880, 1800}, Size{1200, 1600}, Size{1000, 1000}, Size{1366, 768}}) {
         show({capture("a", shape), b});
@@ -104,7 +104,7 @@ TEST_F(TileTest, ThePictureFillsATileOfItsShape) {
     }
 }
 
-TEST_F(TileTest, TheCheckMarkComesAsTheBorderDoes) {
+TEST_F(TileTest, TheCheckMarkAppearsLikeTheBorder) {
     showTwo();
     select(a);
     const auto border = [this] {
@@ -120,7 +120,7 @@ TEST_F(TileTest, TheCheckMarkComesAsTheBorderDoes) {
     EXPECT_EQ(mark(0)->opacity(), 1);
 }
 
-TEST_F(TileTest, SaysThatItsFileIsGone) {
+TEST_F(TileTest, ShowsThatItsFileIsGone) {
     showTwo();
     EXPECT_THAT(items("MissingNotice", tile(0)), IsEmpty());
     state.missingID.set(a->id());
@@ -133,7 +133,7 @@ TEST_F(TileTest, SaysThatItsFileIsGone) {
     EXPECT_THAT(items("MissingNotice", tile(0)), IsEmpty());
 }
 
-TEST_F(TileTest, TallLettersKeepTheRoomBelowThem) {
+TEST_F(TileTest, TallLettersKeepTheMarginBelowThem) {
     showTwo();
     const auto room = [this] {
         return glassFrame().bottom() - frame(*item("TileName", tile(0))).bottom();
@@ -177,7 +177,7 @@ TEST_F(TileTest, TheCloseButtonOverhangsTheTileUnderThePointer) {
     EXPECT_THAT(asked, ElementsAre("close a.png"));
 }
 
-TEST_F(TileTest, ThePointerOnTheDiscOutsideTheTileIsOneOnTheTile) {
+TEST_F(TileTest, APointerOnTheDiscOutsideTheTileHoversTheTile) {
     showTwo();
     const QPointF disc = frame(*tile(0)).topLeft() + QPointF(3, 3);
     for (const QPointF offset : {QPointF(-8, 0), QPointF(0, -8), QPointF(-6, -6), QPointF(6, -6)}) {
@@ -212,7 +212,7 @@ TEST_F(TileTest, TheCloseButtonsCornersBelongToTheThumbnail) {
     EXPECT_THAT(asked, ElementsAre("open a.png"));
 }
 
-TEST_F(TileTest, WhileAnythingIsSelectedOnlyAnUnselectedTileHasACloseButtonAndNoneHasAHoverBar) {
+TEST_F(TileTest, ASelectionHidesHoverBarsAndTheCloseButtonsOfSelectedTiles) {
     showTwo();
     select(a);
     hover(*tile(0));
@@ -223,7 +223,7 @@ TEST_F(TileTest, WhileAnythingIsSelectedOnlyAnUnselectedTileHasACloseButtonAndNo
     EXPECT_FALSE(isSeen("HoverBar", 1));
 }
 
-TEST_F(TileTest, TheHoverBarStandsOnTheThumbnailsLowerEdge) {
+TEST_F(TileTest, TheHoverBarIsOnTheThumbnailsLowerEdge) {
     showTwo();
     hover(*tile(0));
     ASSERT_TRUE(isSeen("HoverBar", 0));
@@ -242,7 +242,7 @@ TEST_F(TileTest, ALoneCaptureHasNoHoverBar) {
     EXPECT_TRUE(isSeen("CloseButton", 0));
 }
 
-TEST_F(TileTest, ActionsThatReachOverTheNextTileAreStillThoseOfTheirOwn) {
+TEST_F(TileTest, ActionsThatOverlapTheNextTileBelongToTheirOwn) {
     show({capture("a", {300, 1000}), capture("b", {300, 1000}), capture("c", {300, 1000})});
     makeCard();
     hover(*tile(1));
@@ -253,7 +253,7 @@ TEST_F(TileTest, ActionsThatReachOverTheNextTileAreStillThoseOfTheirOwn) {
     EXPECT_FALSE(isSeen("HoverBar", 0));
 }
 
-TEST_F(TileTest, WithoutATimerThereIsNoPin) {
+TEST_F(TileTest, ThereIsNoPinWithoutATimer) {
     showTwo();
     hover(*tile(0));
     EXPECT_THAT(symbols(tile(0)), testing::UnorderedElementsAre("doc.on.doc", "square.and.arrow.up",
@@ -276,7 +276,7 @@ TEST_F(TileTest, TheCaptureJustCopiedShowsACheckMark) {
     EXPECT_THAT(symbols(tile(0)), testing::Contains("doc.on.doc"));
 }
 
-TEST_F(TileTest, EachActionAsksForItself) {
+TEST_F(TileTest, EachActionSendsItsRequest) {
     settings.dismissAfter.set(10);
     showTwo();
     hover(*tile(1));
@@ -295,7 +295,7 @@ TEST_F(TileTest, TheShareMenuPointsAtItsButton) {
     EXPECT_EQ(shareAnchor, (Rect{{frameOfButton.x(), frameOfButton.y()}, {28, 28}}));
 }
 
-TEST_F(TileTest, AReusedShareButtonAsksForTheCaptureThatItStandsFor) {
+TEST_F(TileTest, AReusedShareButtonSharesItsCurrentCapture) {
     show({a});
     makeCard();
     QQuickItem* actionsOfTile = item("TileActions", item("ActionRow"));
@@ -307,7 +307,7 @@ TEST_F(TileTest, AReusedShareButtonAsksForTheCaptureThatItStandsFor) {
     EXPECT_THAT(asked, ElementsAre("share a.png"));
 }
 
-TEST_F(TileTest, OnADarkPlateTheSameShareButtonIsWhite) {
+TEST_F(TileTest, TheShareButtonIsWhiteOnADarkPlate) {
     show({a});
     makeCard();
     QQuickItem* share = item("ShareButton");
@@ -317,7 +317,7 @@ TEST_F(TileTest, OnADarkPlateTheSameShareButtonIsWhite) {
     EXPECT_EQ(item("Symbol", share)->property("color").value<QColor>(), QColor(Qt::white));
 }
 
-TEST_F(TileTest, APressThatWandersFourteenPointsIsNoTap) {
+TEST_F(TileTest, APressThatMovesFourteenPointsIsNoTap) {
     showTwo();
     hover(*tile(0));
     const QPointF centre = frame(*button("Copy to clipboard", tile(0))).center().toPoint();
@@ -356,7 +356,7 @@ TEST_F(TileTest, AnIconIsDimWhileItIsPressed) {
     EXPECT_EQ(opacities(), std::pair(0.08, 0.9));
 }
 
-TEST_F(TileTest, AControlUnderThePointerSaysWhatItIsFor) {
+TEST_F(TileTest, AControlUnderThePointerShowsItsHelpTag) {
     show({a});
     makeCard();
     hover(*button("Move to Trash"));
@@ -371,7 +371,7 @@ TEST_F(TileTest, AControlUnderThePointerSaysWhatItIsFor) {
     EXPECT_TRUE(QRectF(0, 0, 800, 330).contains(frame(*tag)));
 }
 
-TEST_F(TileTest, WhatIsSaidAboutATileGoesWithIt) {
+TEST_F(TileTest, TheHelpTagOfATileGoesWithIt) {
     showTwo();
     hover(*tile(0));
     hover(*button("Dismiss", tile(0)));

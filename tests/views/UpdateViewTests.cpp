@@ -20,13 +20,13 @@ protected:
     Stage stage() const { return flow->state.value().stage; }
 };
 
-TEST_F(UpdateViewTest, AnOfferTellsBothVersions) {
+TEST_F(UpdateViewTest, AnOfferNamesBothVersions) {
     openNamed("found");
     EXPECT_TRUE(has("Vantle 1.2 is available"));
     EXPECT_TRUE(has("You have version 1.0. Would you like to install the new one now?"));
 }
 
-TEST_F(UpdateViewTest, AnOfferIsTaken) {
+TEST_F(UpdateViewTest, AnOfferCanBeAccepted) {
     openNamed("found");
     click("Install and Relaunch");
     EXPECT_THAT(updates.prepared, ElementsAre(offeredItem()));
@@ -34,44 +34,44 @@ TEST_F(UpdateViewTest, AnOfferIsTaken) {
     EXPECT_TRUE(has("Downloading Vantle 1.2…"));
 }
 
-TEST_F(UpdateViewTest, ReturnTakesAnOffer) {
+TEST_F(UpdateViewTest, ReturnAcceptsAnOffer) {
     openNamed("found");
     press(Qt::Key_Return);
     EXPECT_EQ(updates.prepared.size(), 1u);
 }
 
-TEST_F(UpdateViewTest, AnOfferIsPutOff) {
+TEST_F(UpdateViewTest, AnOfferCanBePostponed) {
     openNamed("found");
     click("Remind Me Later");
     EXPECT_EQ(stage(), Stage::closed);
     EXPECT_EQ(defaults->text("skippedUpdate"), std::nullopt);
 }
 
-TEST_F(UpdateViewTest, EscapePutsAnOfferOff) {
+TEST_F(UpdateViewTest, EscapePostponesAnOffer) {
     openNamed("found");
     press(Qt::Key_Escape);
     EXPECT_EQ(stage(), Stage::closed);
     EXPECT_THAT(updates.prepared, IsEmpty());
 }
 
-TEST_F(UpdateViewTest, AnOfferIsSkipped) {
+TEST_F(UpdateViewTest, AnOfferCanBeSkipped) {
     openNamed("found");
     click("Skip This Version");
     EXPECT_EQ(defaults->text("skippedUpdate"), "1.2");
 }
 
-TEST_F(UpdateViewTest, ClosingTheWindowIsTold) {
+TEST_F(UpdateViewTest, ClosingTheWindowIsReported) {
     openNamed("found");
     window().hide();
     EXPECT_EQ(stage(), Stage::closed);
 }
 
-TEST_F(UpdateViewTest, ADownloadTellsHowMuchAndHowFast) {
+TEST_F(UpdateViewTest, ADownloadShowsItsProgressAndSpeed) {
     openNamed("downloading");
     EXPECT_TRUE(has("3.2 MB of 8.4 MB, 1.2 MB per second"));
 }
 
-TEST_F(UpdateViewTest, ADownloadIsCancelled) {
+TEST_F(UpdateViewTest, TheButtonCancelsADownload) {
     openNamed("found");
     click("Install and Relaunch");
     click("Cancel");
@@ -101,7 +101,7 @@ TEST_F(UpdateViewTest, AFailureOffersThePage) {
     EXPECT_EQ(stage(), Stage::closed);
 }
 
-TEST_F(UpdateViewTest, AFailureWithoutAPageIsTakenNoteOf) {
+TEST_F(UpdateViewTest, AFailureWithoutAPageCanBeDismissed) {
     openNamed("update-failed");
     EXPECT_TRUE(has("Vantle could not be updated"));
     click("OK");
@@ -109,13 +109,13 @@ TEST_F(UpdateViewTest, AFailureWithoutAPageIsTakenNoteOf) {
     EXPECT_EQ(stage(), Stage::closed);
 }
 
-TEST_F(UpdateViewTest, BeingUpToDateIsTakenNoteOf) {
+TEST_F(UpdateViewTest, BeingUpToDateCanBeDismissed) {
     openNamed("up-to-date");
     press(Qt::Key_Return);
     EXPECT_EQ(stage(), Stage::closed);
 }
 
-TEST_F(UpdateViewTest, TheWindowIsAsHighAsWhatThereIsToSay) {
+TEST_F(UpdateViewTest, TheWindowIsAsHighAsItsContents) {
     openNamed("found");
     const int height = window().height();
     click("Install and Relaunch");

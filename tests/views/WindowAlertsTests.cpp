@@ -72,11 +72,11 @@ protected:
     using ShownAlerts::run;
 };
 
-TEST_F(AlertTest, ReturnIsTheFirstButton) {
+TEST_F(AlertTest, ReturnPressesTheFirstButton) {
     EXPECT_EQ(run([](auto& window) { QTest::keyClick(&window, Qt::Key_Return); }), 1000);
 }
 
-TEST_F(AlertTest, EscapeIsTheLastButton) {
+TEST_F(AlertTest, EscapePressesTheLastButton) {
     EXPECT_EQ(run([](auto& window) { QTest::keyClick(&window, Qt::Key_Escape); }), 1002);
 }
 
@@ -88,14 +88,14 @@ TEST_F(AlertTest, TabReachesEveryButton) {
     EXPECT_EQ(answer, 1001);
 }
 
-TEST_F(AlertTest, TheEndOfTheProgramIsTheLastButton) {
+TEST_F(AlertTest, TheEndOfTheProgramPressesTheLastButton) {
     int answer = 0;
     QTimer::singleShot(0, [&] { answer = run([](auto&) { QCoreApplication::exit(); }); });
     EXPECT_EQ(QCoreApplication::exec(), 0);
     EXPECT_EQ(answer, 1002);
 }
 
-TEST_F(AlertTest, OneCanOpenAboveAnother) {
+TEST_F(AlertTest, AnAlertCanOpenAboveAnother) {
     int above = 0;
     const int below = run([&](auto& first) {
         const Alert second{Alert::Style::warning, "Second", "", {"Yes", "No"}};
