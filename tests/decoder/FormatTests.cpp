@@ -158,7 +158,7 @@ class ProfiledImage : public testing::TestWithParam<const char*> {};
 TEST_P(ProfiledImage, IsConvertedToScreenColors) {
     const auto image = drawn(GetParam());
     ASSERT_NE(image, nullptr);
-    // The file stores red and green exchanged, with a profile that exchanges them back.
+    // The file stores red and green, and its profile exchanges these two.
     EXPECT_THAT(quarters(*image), IsAbout(std::array{green, red, blue, yellow}, 12));
 }
 
