@@ -121,7 +121,7 @@ def expect_success(repository, name):
 
 
 @pytest.mark.parametrize("name, path, wrong, right, told", SAMPLES)
-def test_it_fails_and_explains(repository, name, path, wrong, right, told):
+def test_a_fault_fails_with_an_explanation(repository, name, path, wrong, right, told):
     write(repository, path, wrong)
     expect_failure(repository, name, told)
     if right is not None:
@@ -143,7 +143,7 @@ def write_layers(repository, picture=LAYERS):
     write(repository, "src/views/dragging/A.cpp", '#include "views/A.h"\n#include "logic/B.h"\n')
 
 
-def test_arrows_that_are_drawn_are_good(repository):
+def test_drawn_arrows_pass(repository):
     write_layers(repository)
     expect_success(repository, "layers")
 
@@ -164,7 +164,7 @@ def test_an_arrow_that_is_not_drawn_fails(repository, path, line):
     ("```layers\nviews: logic\nlogic: views\n```\n",
      "docs/architecture.md:3: nothing in logic uses views"),
 ))
-def test_a_picture_that_is_not_true_fails(repository, picture, told):
+def test_a_wrong_picture_fails(repository, picture, told):
     write_layers(repository, picture)
     expect_failure(repository, "layers", told)
 
@@ -192,7 +192,7 @@ def test_translations_are_complete(repository, translation, fault):
 
 
 @pytest.mark.parametrize("name", ["a_de.ts", "vantle_en.ts"])
-def test_texts_speak_of_nothing_that_only_another_system_has(repository, name):
+def test_texts_mention_nothing_that_only_another_system_has(repository, name):
     write(repository, "scripts/update_translations", "#!/bin/sh\n")
     (repository / "scripts/update_translations").chmod(0o755)
     path = f"translations/{name}"
@@ -200,7 +200,7 @@ def test_texts_speak_of_nothing_that_only_another_system_has(repository, name):
     expect_failure(repository, "translations", f'{path}:4: "Copy %1" speaks of "Finder"')
 
 
-def test_english_is_as_written_but_not_about_another_system(repository):
+def test_english_may_be_unfinished_but_mentions_no_other_system(repository):
     write(repository, "scripts/update_translations", "#!/bin/sh\n")
     (repository / "scripts/update_translations").chmod(0o755)
     path = "translations/vantle_en.ts"
@@ -211,12 +211,12 @@ def test_english_is_as_written_but_not_about_another_system(repository):
     expect_failure(repository, "translations", f'{path}:4: "Copy %1 to the Dock" speaks of "Dock"')
 
 
-def test_launchers_speak_of_nothing_that_only_another_system_has(repository):
+def test_launchers_mention_nothing_that_only_another_system_has(repository):
     write(repository, "packaging/a.desktop.in", "[Desktop Entry]\nComment=For your menu bar\n")
     expect_failure(repository, "translations", 'packaging/a.desktop.in:2: speaks of "menu bar"')
 
 
-def test_translations_that_lack_a_text_are_told(repository):
+def test_translations_that_lack_a_text_fail(repository):
     write(repository, "scripts/update_translations", "#!/bin/sh\necho lacks texts; exit 1\n")
     (repository / "scripts/update_translations").chmod(0o755)
     right = TRANSLATION.format("<translation>%1 kopieren</translation>")
@@ -224,7 +224,7 @@ def test_translations_that_lack_a_text_are_told(repository):
     expect_failure(repository, "translations", "translations: lacks texts")
 
 
-def test_clang_tidy_looks_at_what_changed_last(repository):
+def test_clang_tidy_checks_the_files_that_changed_last(repository):
     write(repository, "CMakePresets.json", PRESETS)
     write(repository, "CMakeLists.txt", CPP_PROJECT)
     write(repository, ".gitignore", "/build/\n")
@@ -256,7 +256,7 @@ def test_qmllint_knows_the_types_of_cpp(repository):
     expect_failure(repository, "qml", "src/cards/A.qml:2: Unused import")
 
 
-def test_a_file_that_git_does_not_know_counts_and_one_that_it_ignores_does_not(repository):
+def test_untracked_files_count_and_ignored_files_do_not(repository):
     write(repository, ".gitignore", "/ignored.md\n")
     write(repository, "ignored.md", "bad \n")
     expect_success(repository, "text")
@@ -264,7 +264,7 @@ def test_a_file_that_git_does_not_know_counts_and_one_that_it_ignores_does_not(r
     expect_failure(repository, "text", "new.md:1: ")
 
 
-def test_without_git_all_files_count(repository):
+def test_all_files_count_without_git(repository):
     shutil.rmtree(repository / ".git")
     write(repository, "build/made.md", "bad \n")
     expect_success(repository, "text")

@@ -43,13 +43,13 @@ def one_of_two_is_built(tmp_path, monkeypatch):
     return folder
 
 
-def test_what_is_not_built_is_left_out(build):
+def test_unbuilt_tests_are_left_out(build):
     written, succeeds = output("ctest", "--test-dir", build)
     assert succeeds, written
     assert "one.IsRun" in written and "other" not in written
 
 
-def test_what_is_not_built_fails_where_all_is_required(build):
+def test_unbuilt_tests_fail_if_all_are_required(build):
     everything = {"VANTLE_REQUIRE_ALL_TESTS": "1"}
     written, succeeds = output("ctest", "--test-dir", build, environment=everything)
     assert not succeeds

@@ -34,7 +34,7 @@ def missing(system, *lines):
     return [tuple(line.split(maxsplit=1)) for line in done.stdout.splitlines()]
 
 
-def test_what_is_installed_is_not_missing(system):
+def test_an_installed_package_is_not_missing(system):
     assert missing(system, "g++ compiles", "cmake configures") == [("cmake", "configures")]
 
 
@@ -42,9 +42,9 @@ def test_a_package_that_the_release_lacks_is_missing(system):
     assert missing(system, "other does it") == [("other", "does it")]
 
 
-def test_with_a_question_mark_only_if_the_release_has_it(system):
+def test_a_package_with_a_question_mark_is_missing_only_if_the_release_has_it(system):
     assert missing(system, "other? does it", "codec? writes") == [("codec", "writes")]
 
 
-def test_with_a_question_mark_it_is_missing_only_until_it_is_installed(system):
+def test_an_installed_package_with_a_question_mark_is_not_missing(system):
     assert missing(system, "g++? compiles") == []

@@ -33,14 +33,14 @@ def test_constants_comparisons_and_calls_are_found_and_nothing_else():
     ]
 
 
-def test_numbers_change_by_a_quarter_and_by_one_at_least():
+def test_numbers_change_by_a_quarter_and_by_at_least_one():
     assert changes("x = 0; x = 1.5; x = 0.0; x = 1'000; x = 3u; x = true;") == [
         ("0", "1"), ("1.5", "1.875"), ("0.0", "1"), ("1'000", "1250"), ("3u", "4u"),
         ("true", "false"),
     ]
 
 
-def test_each_fault_has_a_name_of_its_own_that_does_not_depend_on_its_line():
+def test_each_fault_has_a_unique_name_that_does_not_depend_on_its_line():
     names = [fault.name for fault in faults_of("a.cpp", SOURCE + SOURCE)]
     assert len(set(names)) == len(names)
     assert names[:8] == [fault.name for fault in faults_of("a.cpp", "\n\n" + SOURCE)]

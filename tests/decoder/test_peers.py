@@ -79,7 +79,7 @@ def likeness(one, other):
 
 @pytest.mark.parametrize("kind", IMAGES)
 @pytest.mark.parametrize("name", SIZES)
-def test_images_are_better_than_those_of_others(folder, name, kind):
+def test_images_are_better_than_those_of_another_program(folder, name, kind):
     file = file_named(folder, name, kind)
     ours, _, _ = thumbnail(file)
     reference = decoded(file).resize(ours.size, Image.LANCZOS)
@@ -94,7 +94,7 @@ def test_images_are_better_than_those_of_others(folder, name, kind):
 
 
 @pytest.mark.parametrize("kind", DEEP)
-def test_deep_images_are_like_what_they_were_made_of(folder, kind):
+def test_deep_images_resemble_their_originals(folder, kind):
     source, file = folder / "retina.png", folder / f"retina-{kind}.tif"
     output_of("convert", source, *DEEP[kind], "-compress", "zip", file)
     ours, _, _ = thumbnail(file)

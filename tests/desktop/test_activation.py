@@ -101,13 +101,13 @@ def test_a_click_starts_it_quietly_and_the_next_one_opens_the_settings(desktop, 
     assert vantle.count() == 1
 
 
-def test_the_first_click_of_all_introduces_it(desktop, vantle, launcher):
+def test_the_very_first_click_opens_the_onboarding(desktop, vantle, launcher):
     vantle.write_settings(hasCompletedOnboarding="false")
     launcher.click()
     wait_until(lambda: windows(desktop) == ["Vantle"], "it introduces itself")
 
 
-def test_an_action_starts_it_and_is_done(desktop, vantle, launcher):
+def test_an_action_starts_it_and_is_run(desktop, vantle, launcher):
     launcher.choose("settings")
     wait_until(lambda: windows(desktop) == ["Vantle Settings"], "the settings open")
     launcher.choose("pause")
@@ -124,7 +124,7 @@ def test_files_start_it_and_are_shown(desktop, vantle, launcher):
     assert windows(desktop) == []
 
 
-def test_one_that_runs_is_the_one_that_is_clicked(desktop, vantle, launcher, binary):
+def test_a_click_reaches_the_running_program(desktop, vantle, launcher, binary):
     first = Program(binary, desktop, name="first").start_watching()
     try:
         launcher.click()
@@ -134,7 +134,7 @@ def test_one_that_runs_is_the_one_that_is_clicked(desktop, vantle, launcher, bin
         first.stop()
 
 
-def test_commands_do_not_have_it_started(vantle):
+def test_commands_do_not_start_it(vantle):
     for option in ("--pause", "--status", "--quit"):
         assert vantle.command(option) == (1, "vantle: Vantle is not running\n")
     assert not vantle.is_running()

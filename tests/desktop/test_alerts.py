@@ -79,7 +79,7 @@ def denied(desktop, binary, folder):
     program.stop()
 
 
-def test_the_permissions_of_a_folder_that_cannot_be_read(desktop, denied):
+def test_return_shows_the_permissions_of_an_unreadable_folder(desktop, denied):
     desktop.screen.keyboard.press("Return")
     window_titled(desktop, "Properties")
     wait_until(lambda: desktop.screen.dialogs() == [], "the alert is gone")
@@ -94,7 +94,7 @@ def test_a_retry_watches_a_folder_that_can_be_read_again(desktop, folder, denied
     assert "state: watching" in denied.command("--status")[1]
 
 
-def test_a_retry_in_vain_asks_again(desktop, denied):
+def test_a_failed_retry_asks_again(desktop, denied):
     first = desktop.screen.dialogs()
     desktop.screen.keyboard.press("Tab")
     desktop.screen.keyboard.press("space")

@@ -79,7 +79,7 @@ def test_six_points_are_a_click_on_the_background(desktop, vantle, folder, assis
     wait_for_selection(assistant)
 
 
-def test_what_is_scrolled_out_is_never_selected(desktop, vantle, folder, assistant):
+def test_tiles_scrolled_out_of_sight_are_never_selected(desktop, vantle, folder, assistant):
     vantle.start_watching()
     card = show_several(desktop, folder, 8)
     pointer = desktop.screen.pointer
@@ -135,7 +135,7 @@ def test_a_double_click_on_a_close_button_closes_one(desktop, vantle, folder, ga
     wait_until(lambda: captures_on(vantle) == 2, "the next click closes the next")
 
 
-def test_a_double_click_on_the_last_capture_is_one(desktop, vantle, folder):
+def test_a_double_click_on_the_last_capture_spares_the_window_below(desktop, vantle, folder):
     """The second click must not reach the window below the card."""
     vantle.start_watching()
     other = OtherWindow(desktop, Rectangle(0, 100, *desktop.size))
@@ -244,7 +244,7 @@ def test_light_and_dark_follow_the_desktop(desktop, vantle, folder):
         portal.wait()
 
 
-def test_asks_for_a_blur_behind_the_glass_where_it_is_offered(desktop, vantle, folder):
+def test_requests_a_blur_behind_the_glass_if_it_is_offered(desktop, vantle, folder):
     desktop.screen.set_root_property(BLUR)
     vantle.start_watching()
     panel = show_one(desktop, folder)
@@ -268,7 +268,7 @@ def test_asks_for_a_blur_behind_the_glass_where_it_is_offered(desktop, vantle, f
     assert all(part.x > card.x for part in region() if part.y < card.y + 3)
 
 
-def test_without_an_offer_no_blur_is_asked_for(desktop, vantle, folder):
+def test_requests_no_blur_without_an_offer(desktop, vantle, folder):
     vantle.start_watching()
     panel = show_one(desktop, folder)
     wait_for_card(desktop, panel)

@@ -78,7 +78,7 @@ def test_the_picture_outlives_the_capture_and_its_file(desktop, vantle, folder):
     assert paste(desktop, "image/png") == trashed.read_bytes()
 
 
-def test_a_manager_keeps_it_when_the_program_ends(desktop, vantle, folder, card):
+def test_a_clipboard_manager_keeps_it_when_the_program_ends(desktop, vantle, folder, card):
     desktop.start("xfsettingsd", "--no-daemon", "--disable-wm-check")
     wait_until(lambda: desktop.screen.owns("CLIPBOARD_MANAGER"), "the manager is there")
     copy(desktop, card)
@@ -88,7 +88,7 @@ def test_a_manager_keeps_it_when_the_program_ends(desktop, vantle, folder, card)
     assert paste(desktop, "text/uri-list").decode() == (folder.path / "shot.png").as_uri() + "\r\n"
 
 
-def test_an_automatic_copy_replaces_what_was_copied_since(desktop, vantle, folder):
+def test_an_automatic_copy_replaces_a_later_copy_of_another_program(desktop, vantle, folder):
     vantle.write_settings(copyOnCapture="true", removeAfterUse="false")
     vantle.start_watching()
     # Nobody has used Vantle since, so its newest input event is older than this copy.
@@ -99,7 +99,7 @@ def test_an_automatic_copy_replaces_what_was_copied_since(desktop, vantle, folde
     assert paste(desktop, "image/png") == encoded(pattern())
 
 
-def test_pasted_into_a_file_manager_it_is_copied(desktop, vantle, folder, card):
+def test_a_file_manager_pastes_a_copy_of_the_file(desktop, vantle, folder, card):
     target = desktop.home / "Target"
     target.mkdir()
     desktop.start("thunar", str(target))
@@ -113,7 +113,7 @@ def test_pasted_into_a_file_manager_it_is_copied(desktop, vantle, folder, card):
     assert (folder.path / "shot.png").exists()
 
 
-def test_pasted_into_a_web_page_it_is_a_file_and_in_its_text_field_the_path(
+def test_a_web_page_pastes_the_file_and_its_text_field_the_path(
     desktop, vantle, folder, card, page
 ):
     copy(desktop, card)
@@ -125,7 +125,7 @@ def test_pasted_into_a_web_page_it_is_a_file_and_in_its_text_field_the_path(
     assert page.typed() == str(folder.path / "shot.png")
 
 
-def test_pasted_into_an_image_editor_it_is_a_picture(desktop, vantle, folder, card):
+def test_an_image_editor_pastes_the_picture(desktop, vantle, folder, card):
     # A picture with all colours, because this editor starts with one of few.
     paper = desktop.home / "paper.png"
     plain((640, 400)).save(paper)

@@ -55,7 +55,7 @@ def test_show_files(desktop, vantle):
     assert "not a screenshot or recording" in vantle.command("--show", str(pictures))[1]
 
 
-def test_verbose_status_tells_the_surroundings_but_no_path(desktop, vantle, folder):
+def test_verbose_status_describes_the_system_without_paths(desktop, vantle, folder):
     vantle.start_watching()
     show_one(desktop, folder)
     status, report = vantle.command("--status", "--verbose")
@@ -100,7 +100,7 @@ def test_samples(desktop, vantle):
     assert vantle.captured() == []
 
 
-def test_without_a_place_for_samples_nothing_happens(desktop, vantle, binary):
+def test_nothing_happens_without_a_place_for_samples(desktop, vantle, binary):
     nowhere = Program(binary, desktop, environment={"TMPDIR": "/proc"}, name="nowhere")
     try:
         nowhere.start_watching()
@@ -141,7 +141,7 @@ def test_commands_without_a_session_bus(desktop, vantle, binary):
 
 
 @pytest.mark.parametrize("option", ["--pause", "--resume", "--dismiss", "--quit", "--status"])
-def test_what_needs_a_program_that_runs_says_so(vantle, option):
+def test_commands_for_a_running_program_say_that_none_runs(vantle, option):
     assert vantle.command(option) == (1, "vantle: Vantle is not running\n")
 
 

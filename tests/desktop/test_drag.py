@@ -84,12 +84,12 @@ def test_a_program_that_asks_before_the_drop_gets_the_file(desktop, vantle, fold
     assert bytes(target.received).decode().split() == [(folder.path / "shot.png").as_uri()]
 
 
-def test_dropped_on_nothing_it_stays(desktop, vantle, folder, card):
+def test_a_tile_dropped_on_nothing_stays(desktop, vantle, folder, card):
     assert not Drag(desktop, vantle, tile_of(card)).move(500, 300).drop()
     check_nothing_happened(desktop, folder)
 
 
-def test_dropped_on_the_card_itself_it_stays(desktop, vantle, folder, card):
+def test_a_tile_dropped_on_the_card_stays(desktop, vantle, folder, card):
     assert not Drag(desktop, vantle, tile_of(card)).move(card.x + 30, card.bottom - 20).drop()
     check_nothing_happened(desktop, folder)
 
@@ -106,7 +106,7 @@ def test_escape_ends_a_drag(desktop, vantle, folder, card):
         assert Drag(desktop, vantle, tile_of(card)).hold_over(*TARGET.centre).drop()
 
 
-def test_refused_it_stays(desktop, vantle, folder, card):
+def test_a_refused_tile_stays(desktop, vantle, folder, card):
     target = DropTarget(desktop, TARGET, behaviour="refuse")
     with served(target):
         drag = Drag(desktop, vantle, tile_of(card)).move(*TARGET.centre)
@@ -115,14 +115,14 @@ def test_refused_it_stays(desktop, vantle, folder, card):
     check_nothing_happened(desktop, folder)
 
 
-def test_a_promise_that_is_not_kept_is_no_use(desktop, vantle, folder, card):
+def test_a_broken_promise_does_not_count_as_use(desktop, vantle, folder, card):
     target = DropTarget(desktop, TARGET, behaviour="deny")
     with served(target):
         assert not Drag(desktop, vantle, tile_of(card)).hold_over(*TARGET.centre).drop()
     check_nothing_happened(desktop, folder)
 
 
-def test_who_has_read_nothing_has_taken_nothing(desktop, vantle, folder, card):
+def test_a_target_that_reads_nothing_takes_nothing(desktop, vantle, folder, card):
     target = DropTarget(desktop, TARGET, behaviour="ignore")
     with served(target):
         assert not Drag(desktop, vantle, tile_of(card)).hold_over(*TARGET.centre).drop()

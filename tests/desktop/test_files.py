@@ -43,7 +43,7 @@ def test_every_kind(vantle, folder):
     assert sorted(folder.captured()) == sorted(images + recordings + shouting)
 
 
-def test_what_is_no_capture(vantle, folder):
+def test_other_files_are_no_captures(vantle, folder):
     vantle.start_watching()
     for name in (".hidden.png", "notes.txt", "shot", "shot.png~", "shot.png.part", "png"):
         folder.save(name)

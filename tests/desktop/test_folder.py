@@ -117,7 +117,7 @@ def test_unreadable(desktop, binary, folder):
         folder.path.chmod(0o700)
 
 
-def test_removed_and_made_again_while_somebody_stands_in_it(desktop, vantle, folder):
+def test_removed_and_made_again_while_in_use(desktop, vantle, folder):
     vantle.start_watching()
     standing = desktop.start("sleep", "600", cwd=folder.path)
     folder.save("first.png")

@@ -87,7 +87,7 @@ def test_a_window_comes_to_the_workspace_where_the_user_is(desktop, vantle, mana
     assert other.number in screen.client_list()
 
 
-def test_what_a_launcher_hands_to_a_second_start_is_used(desktop, vantle):
+def test_a_second_start_uses_the_launchers_startup_id(desktop, vantle):
     vantle.start_watching()
     given = {"DESKTOP_STARTUP_ID": "launcher-1_TIME12345", "XDG_ACTIVATION_TOKEN": None}
 

@@ -108,7 +108,7 @@ class Menu:
         self._gnome.screen.keyboard.press("Return")
 
 
-def test_the_card_stands_in_its_corner(gnome, vantle):
+def test_the_card_is_in_its_corner(gnome, vantle):
     check_corner(gnome, vantle)
 
 
@@ -122,11 +122,11 @@ def test_clicks_beside_the_card_pass_while_its_time_runs(gnome, binary):
     check_clicks_pass_while_time_runs(gnome, binary, tries=2 if is_told_by_timing else 1)
 
 
-def test_clicks_count_when_the_card_comes_under_a_pointer_at_rest(gnome, vantle):
+def test_clicks_count_when_the_card_appears_under_a_resting_pointer(gnome, vantle):
     check_clicks_count_under_a_pointer_at_rest(gnome, vantle)
 
 
-def test_its_own_screenshot_comes_onto_the_card(gnome, binary):
+def test_its_own_screenshot_appears_on_the_card(gnome, binary):
     with program_on(gnome, binary, screenshotTool=None) as vantle:
         vantle.start_watching()
         take_screenshot(gnome, vantle)

@@ -65,13 +65,13 @@ def test_its_folder_is_found_in_any_language(desktop, make_vantle):
 
 
 @pytest.mark.desktop(environment=GNOME)
-def test_without_a_folder_for_pictures_it_is_in_the_home_directory(desktop, make_vantle):
+def test_its_folder_is_in_the_home_directory_without_a_pictures_folder(desktop, make_vantle):
     vantle = make_vantle("de_DE.UTF-8").start_watching()
     vantle.wait_for_log(f"watching {desktop.home / 'Bildschirmfotos'} ")
 
 
 @pytest.mark.desktop(environment=GNOME, configuration={"user-dirs.dirs": USER_FOLDERS})
-def test_the_settings_say_that_it_stays(desktop, make_vantle):
+def test_the_settings_say_that_its_folder_cannot_be_changed(desktop, make_vantle):
     vantle = make_vantle("de_DE.UTF-8").start_watching()
     screens = Screens(desktop, vantle)
     vantle.command("--settings")

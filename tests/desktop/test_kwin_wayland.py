@@ -52,11 +52,11 @@ def vantle(kwin, binary):
         yield program
 
 
-def test_it_speaks_wayland_there_and_says_so(vantle):
+def test_it_uses_wayland_and_reports_that(vantle):
     check_speaks_wayland(vantle)
 
 
-def test_the_card_stands_in_its_corner(kwin, vantle):
+def test_the_card_is_in_its_corner(kwin, vantle):
     check_corner(kwin, vantle)
 
 
@@ -76,15 +76,15 @@ def test_clicks_outside_the_card_reach_the_window_underneath(kwin, vantle):
     check_clicks_pass(kwin, vantle, outside_panel, beside_card)
 
 
-def test_clicks_count_when_the_card_comes_under_a_pointer_at_rest(kwin, vantle):
+def test_clicks_count_when_the_card_appears_under_a_resting_pointer(kwin, vantle):
     check_clicks_count_under_a_pointer_at_rest(kwin, vantle)
 
 
-def test_the_focus_stays_where_one_types(kwin, vantle):
+def test_the_focus_stays_where_the_user_types(kwin, vantle):
     check_focus_stays(kwin, vantle)
 
 
-def test_the_keyboard_comes_when_it_is_asked_for_and_goes_back(kwin, vantle):
+def test_the_card_gets_the_keyboard_on_request_and_gives_it_back(kwin, vantle):
     check_keyboard_on_request(kwin, vantle)
 
 
@@ -92,7 +92,7 @@ def test_dragged_into_a_native_window(kwin, vantle):
     check_dragged_into_a_native_window(kwin, vantle)
 
 
-def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(kwin, vantle):
+def test_a_refused_drop_flies_back_and_the_next_click_counts(kwin, vantle):
     window = NativeWindow(kwin, "--takes-no-files")
     check_flies_back(kwin, vantle, (300, 300), (300, 300), comes_back=True)
     click_through(kwin, window, [(320, 320)])
@@ -114,7 +114,7 @@ def test_native_programs_paste_what_was_copied(kwin, vantle):
     check_pasted(kwin)
 
 
-def test_what_is_copied_by_itself_reaches_the_clipboard(kwin, binary):
+def test_an_automatic_copy_reaches_the_clipboard(kwin, binary):
     require_peer("wl-paste")
     check_copied_by_itself(kwin, binary)
 
@@ -143,9 +143,9 @@ def test_on_an_output_that_is_scaled(kwin, vantle):
     check_scaled_by_a_half(kwin, vantle)
 
 
-def test_the_end_of_the_compositor_ends_it(kwin, vantle):
+def test_it_ends_with_the_compositor(kwin, vantle):
     check_ends_with_compositor(kwin, vantle, kwin.end)
 
 
-def test_idle_it_does_nothing(kwin, vantle):
+def test_it_does_nothing_when_idle(kwin, vantle):
     check_idle(kwin, vantle)

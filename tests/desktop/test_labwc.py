@@ -61,17 +61,17 @@ def vantle(labwc, binary):
         yield program
 
 
-def test_it_speaks_wayland_there_and_says_so(vantle):
+def test_it_uses_wayland_and_reports_that(vantle):
     check_speaks_wayland(vantle)
 
 
-def test_the_card_stands_in_its_corner(labwc, vantle):
+def test_the_card_is_in_its_corner(labwc, vantle):
     check_corner(labwc, vantle)
 
 
 @pytest.mark.parametrize("edge", ["top", "bottom"])
 @pytest.mark.parametrize("side", ["bottomRight", "bottomLeft", "topRight", "topLeft"])
-def test_in_each_corner_it_leaves_the_bar_free(labwc, binary, side, edge):
+def test_it_leaves_the_bar_free_in_each_corner(labwc, binary, side, edge):
     require_peer("xfce4-panel")
     start_xfce_panel(labwc, edge)
     check_stands_in(labwc, binary, wait_for_bar(labwc, edge), side)
@@ -89,15 +89,15 @@ def test_clicks_outside_the_card_reach_the_window_underneath(labwc, vantle):
     check_clicks_pass(labwc, vantle, outside_panel, beside_card)
 
 
-def test_clicks_count_when_the_card_comes_under_a_pointer_at_rest(labwc, vantle):
+def test_clicks_count_when_the_card_appears_under_a_resting_pointer(labwc, vantle):
     check_clicks_count_under_a_pointer_at_rest(labwc, vantle)
 
 
-def test_the_focus_stays_where_one_types(labwc, vantle):
+def test_the_focus_stays_where_the_user_types(labwc, vantle):
     check_focus_stays(labwc, vantle)
 
 
-def test_the_keyboard_comes_when_it_is_asked_for_and_goes_back(labwc, vantle):
+def test_the_card_gets_the_keyboard_on_request_and_gives_it_back(labwc, vantle):
     check_keyboard_on_request(labwc, vantle)
 
 
@@ -115,7 +115,7 @@ def test_dragged_into_a_web_page(labwc, vantle):
     check_dragged_into_a_web_page(labwc, vantle)
 
 
-def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(labwc, vantle):
+def test_a_refused_drop_flies_back_and_the_next_click_counts(labwc, vantle):
     window = NativeWindow(labwc, "--takes-no-files")
     check_flies_back(labwc, vantle, (300, 300), (300, 300))
     click_through(labwc, window, [(320, 320)])
@@ -133,7 +133,7 @@ def test_native_programs_paste_what_was_copied(labwc, vantle):
     check_pasted(labwc)
 
 
-def test_what_is_copied_by_itself_reaches_the_clipboard(labwc, binary):
+def test_an_automatic_copy_reaches_the_clipboard(labwc, binary):
     require_peer("wl-paste")
     check_copied_by_itself(labwc, binary)
 
@@ -173,7 +173,7 @@ def test_it_follows_the_pointer_from_output_to_output(labwc, vantle):
 
 
 @two_outputs
-def test_it_survives_the_outputs_that_it_stands_on(labwc, vantle):
+def test_it_survives_the_loss_of_its_outputs(labwc, vantle):
     require_peer("wlr-randr")
     vantle.start_watching()
     show_on(labwc, "X11-2", "shot.png")
@@ -186,9 +186,9 @@ def test_it_survives_the_outputs_that_it_stands_on(labwc, vantle):
     wait_until(lambda: shows_card(labwc, "X11-1"), "it stands there")
 
 
-def test_the_end_of_the_compositor_ends_it(labwc, vantle):
+def test_it_ends_with_the_compositor(labwc, vantle):
     check_ends_with_compositor(labwc, vantle, labwc.end)
 
 
-def test_idle_it_does_nothing(labwc, vantle):
+def test_it_does_nothing_when_idle(labwc, vantle):
     check_idle(labwc, vantle)

@@ -52,7 +52,7 @@ def test_starts_again_after_it_was_killed(desktop, vantle, binary):
         again.stop()
 
 
-def test_a_hundred_starts_leave_one(desktop, vantle, binary):
+def test_a_hundred_starts_leave_one_copy(desktop, vantle, binary):
     vantle.start_watching()
     for _ in range(100):
         assert vantle.command() == (0, "")
@@ -60,7 +60,7 @@ def test_a_hundred_starts_leave_one(desktop, vantle, binary):
     assert processes.running(binary, desktop.home) == [vantle.pid]
 
 
-def test_ten_starts_at_once_leave_one(desktop, vantle, binary):
+def test_ten_starts_at_once_leave_one_copy(desktop, vantle, binary):
     copies = [Program(binary, desktop, name=f"copy {n}").start() for n in range(10)]
     try:
         wait_until(lambda: sum(copy.is_running() for copy in copies) == 1, "one is left")

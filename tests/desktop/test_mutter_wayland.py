@@ -61,7 +61,7 @@ def vantle(mutter, binary):
         yield program
 
 
-def test_the_card_stands_in_its_corner(mutter, vantle):
+def test_the_card_is_in_its_corner(mutter, vantle):
     check_corner(mutter, vantle)
 
 
@@ -81,15 +81,15 @@ def test_clicks_beside_the_card_pass_while_its_time_runs(mutter, binary):
     check_clicks_pass_while_time_runs(mutter, binary)
 
 
-def test_clicks_count_when_the_card_comes_under_a_pointer_at_rest(mutter, vantle):
+def test_clicks_count_when_the_card_appears_under_a_resting_pointer(mutter, vantle):
     check_clicks_count_under_a_pointer_at_rest(mutter, vantle)
 
 
-def test_the_focus_stays_where_one_types(mutter, vantle):
+def test_the_focus_stays_where_the_user_types(mutter, vantle):
     check_focus_stays(mutter, vantle)
 
 
-def test_the_keyboard_comes_when_it_is_asked_for_and_goes_back(mutter, vantle):
+def test_the_card_gets_the_keyboard_on_request_and_gives_it_back(mutter, vantle):
     check_keyboard_on_request(mutter, vantle)
 
 
@@ -99,7 +99,7 @@ def test_on_every_workspace(mutter, vantle):
 
 @pytest.mark.desktop(size=(2880, 900), tray=False, compositor=False)
 @pytest.mark.mutter(outputs=2)
-def test_it_survives_the_output_that_it_stands_on(mutter, vantle):
+def test_it_survives_the_loss_of_its_output(mutter, vantle):
     vantle.start_watching()
     mutter.screen.pointer.move(2000, 300)
     show_one(mutter, vantle)
@@ -128,11 +128,11 @@ def test_dragged_into_a_native_window(mutter, vantle):
     check_dragged_into_a_native_window(mutter, vantle)
 
 
-def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(mutter, vantle):
+def test_a_refused_drop_flies_back_and_the_next_click_counts(mutter, vantle):
     check_flies_back(mutter, vantle, (300, 300), (300, 300))
 
 
-def test_dropped_on_a_window_that_takes_no_files_it_flies_back(mutter, vantle):
+def test_a_drop_on_a_window_that_takes_no_files_flies_back(mutter, vantle):
     NativeWindow(mutter, "--takes-no-files")
     check_flies_back(mutter, vantle, (300, 300))
 
@@ -163,7 +163,7 @@ def test_native_programs_paste_what_was_copied(mutter, vantle):
     assert pasted(mutter, "--type", "text/uri-list") == [file.as_uri()]
 
 
-def test_what_is_copied_by_itself_reaches_the_clipboard(mutter, binary):
+def test_an_automatic_copy_reaches_the_clipboard(mutter, binary):
     require_peer("wl-paste")
     with program_on(mutter, binary, copyOnCapture="true") as vantle:
         vantle.start_watching()
@@ -171,12 +171,12 @@ def test_what_is_copied_by_itself_reaches_the_clipboard(mutter, binary):
         wait_until(lambda: "image/png" in pasted(mutter, "--list-types"), "it is offered")
 
 
-def test_the_end_of_the_compositor_ends_it(mutter, vantle):
+def test_it_ends_with_the_compositor(mutter, vantle):
     vantle.start_watching()
     show_one(mutter, vantle)
     mutter.end()
     assert vantle.wait_for_end() == 1
 
 
-def test_idle_it_does_nothing(mutter, vantle):
+def test_it_does_nothing_when_idle(mutter, vantle):
     check_idle(mutter, vantle)

@@ -98,7 +98,7 @@ def test_by_an_assistive_program(desktop, vantle, screens):
     assert "state: watching" in state(vantle)
 
 
-def test_closed_it_comes_back_until_it_is_finished(desktop, vantle, screens):
+def test_it_comes_back_until_it_is_finished(desktop, vantle, screens):
     window = start(desktop, vantle)
     screens.click("Get Started")
     desktop.screen.ask_to_close(window)

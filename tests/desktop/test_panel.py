@@ -67,7 +67,7 @@ def test_one_panel_for_many_captures(desktop, vantle, folder):
     assert desktop.screen.panels() == [panel]
 
 
-def test_focus_stays_where_one_types(desktop, vantle, folder):
+def test_focus_stays_where_the_user_types(desktop, vantle, folder):
     check_focus_stays_where_one_types(desktop, vantle, folder)
 
 
@@ -162,7 +162,7 @@ def panel_frame(desktop):
     return panel and panel.frame
 
 
-def test_a_corner_that_is_chosen_moves_a_card_that_stands(desktop, binary, folder):
+def test_choosing_a_corner_moves_a_visible_card(desktop, binary, folder):
     vantle = Program(binary, desktop, environment=ENVIRONMENT)
     vantle.write_settings()
     vantle.start_watching()

@@ -79,12 +79,12 @@ def opened_menu(plasma, icon, button):
     return frame, plasma.screen.screenshot(frame)
 
 
-def test_in_each_corner_it_leaves_the_panel_free(plasma, binary):
+def test_it_leaves_the_panel_free_in_each_corner(plasma, binary):
     for side in ("bottomRight", "bottomLeft", "topRight", "topLeft"):
         check_stands_in(plasma, binary, plasma.work_area(), side)
 
 
-def test_the_card_stands_above_the_panel(plasma, vantle):
+def test_the_card_is_above_the_panel(plasma, vantle):
     check_corner(plasma, vantle)
 
 
@@ -166,7 +166,7 @@ def test_dragged_into_dolphin(plasma, vantle, dolphin):
     wait_until(lambda: is_gone(plasma), "the tile is used up")
 
 
-def test_a_drop_that_ends_in_cancel_in_dolphins_menu_is_no_use(plasma, binary, dolphin):
+def test_a_drop_cancelled_in_dolphins_menu_does_not_count_as_use(plasma, binary, dolphin):
     with program_on(plasma, binary, deleteAfterUse="true") as vantle:
         vantle.start_watching()
         drag = drop_on_dolphin(plasma, vantle, show_one(plasma, vantle))

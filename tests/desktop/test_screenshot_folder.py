@@ -159,7 +159,7 @@ def test_damaged_settings_of_the_tool_are_left_alone(desktop, vantle, screens):
 
 
 @on_desktop("KDE")
-def test_an_unknown_tool_in_the_settings_file_is_told(desktop, vantle):
+def test_an_unknown_tool_in_the_settings_file_is_reported(desktop, vantle):
     vantle.write_settings(screenshotTool="camera")
     vantle.start_watching()
     vantle.wait_for_log("Vantle: there is no screenshotTool named camera; none is used$")

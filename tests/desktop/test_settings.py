@@ -29,7 +29,7 @@ def is_in_taskbar(desktop, window):
     return "_NET_WM_STATE_SKIP_TASKBAR" not in desktop.screen.states(window)
 
 
-def test_it_keeps_the_place_to_which_it_was_moved(desktop, vantle, screens):
+def test_it_stays_where_it_was_moved(desktop, vantle, screens):
     vantle.start_watching()
     screen = desktop.screen
     window = screens.open_settings()
@@ -196,7 +196,7 @@ def test_the_folder_chooser_ends_with_the_program(desktop, vantle, screens):
     wait_until(lambda: dialog not in desktop.screen.client_list(), "it closes")
 
 
-def test_what_changed_outside_is_shown_when_it_is_shown_again(desktop, vantle, folder, screens):
+def test_outside_changes_are_visible_when_it_is_shown_again(desktop, vantle, folder, screens):
     vantle.start_watching()
     screens.open_settings()
     elsewhere = desktop.home / "elsewhere"
@@ -212,7 +212,7 @@ def test_what_changed_outside_is_shown_when_it_is_shown_again(desktop, vantle, f
     vantle.wait_for_log(f"watching {elsewhere} ")
 
 
-def test_one_window_that_is_closed_and_brought_forward(desktop, vantle, screens):
+def test_a_single_window_is_closed_and_brought_forward(desktop, vantle, screens):
     vantle.start_watching()
     window = screens.open_settings()
     assert desktop.screen.title(window) == b"Vantle Settings"

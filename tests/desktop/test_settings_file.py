@@ -73,7 +73,7 @@ def test_killed_while_running(desktop, vantle, binary):
 
 # Without its settings the program takes MATE's screenshot tool, which saves to the Desktop.
 @pytest.mark.desktop(environment={"XDG_CURRENT_DESKTOP": "MATE"})
-def test_a_file_of_which_nothing_can_be_read_means_defaults(desktop, vantle, folder):
+def test_an_invalid_file_means_defaults(desktop, vantle, folder):
     damaged = b"\x00\xff[Gen\x00eral\ncorner\x01=topLeft\n\x80\x81=\x00" + bytes(range(256))
     vantle.settings_file.write_bytes(damaged)
     vantle.start()
@@ -95,7 +95,7 @@ def test_a_file_of_which_nothing_can_be_read_means_defaults(desktop, vantle, fol
 
 
 @pytest.mark.parametrize("odd", ["no sense", "[General", "<<<<<<< HEAD", "text=\x00", ""])
-def test_an_odd_line_costs_that_line(desktop, vantle, folder, odd):
+def test_an_invalid_line_loses_only_that_line(desktop, vantle, folder, odd):
     """Only the odd line is lost. An empty file loses nothing, because its copy is used."""
     vantle.write_settings(corner="topLeft")
     autostart = desktop.home / ".config/autostart/org.vantle.Vantle.desktop"

@@ -45,14 +45,14 @@ def test_a_capture_is_heard(desktop, ear, vantle, folder):
     wait_until(lambda: ear.loud_seconds() > 0.02, "the sound is heard")
 
 
-def test_without_the_setting_it_is_not(desktop, ear, vantle, folder):
+def test_there_is_no_sound_without_the_setting(desktop, ear, vantle, folder):
     vantle.start_watching()
     folder.save("shot.png")
     folder.wait_for("shot.png")
     ensure_never(lambda: ear.loud_seconds() > 0, "a sound", seconds=1.5)
 
 
-def test_without_a_sound_server_captures_are_shown(desktop, vantle, folder):
+def test_captures_are_shown_without_a_sound_server(desktop, vantle, folder):
     vantle.write_settings(playSound="true")
     vantle.start_watching()
     folder.save("shot.png")

@@ -76,24 +76,24 @@ def picture_around(sway, tile):
     return wait_until_still(lambda: sway.screen.screenshot(around).tobytes(), "the card")
 
 
-def test_it_speaks_wayland_there_and_says_so(vantle):
+def test_it_uses_wayland_and_reports_that(vantle):
     check_speaks_wayland(vantle)
 
 
-def test_one_may_choose_x11_nevertheless(sway, binary):
+def test_the_user_may_choose_x11(sway, binary):
     with program_on(sway, binary, {"QT_QPA_PLATFORM": "xcb"}) as vantle:
         vantle.start_watching()
         show_one(sway, vantle)
         assert "display server: X11 through XWayland\n" in vantle.command("--status")[1]
 
 
-def test_the_card_stands_in_its_corner(sway, vantle):
+def test_the_card_is_in_its_corner(sway, vantle):
     check_corner(sway, vantle)
 
 
 @pytest.mark.sway(_BAR % "top")
 @pytest.mark.parametrize("side", ["bottomRight", "bottomLeft", "topRight", "topLeft"])
-def test_in_each_corner_it_leaves_the_bar_free(sway, binary, side):
+def test_it_leaves_the_bar_free_in_each_corner(sway, binary, side):
     check_stands_in(sway, binary, wait_for_bar(sway, "top"), side)
 
 
@@ -109,19 +109,19 @@ def test_clicks_outside_the_card_reach_the_window_underneath(sway, vantle):
     check_clicks_pass(sway, vantle, outside_panel, beside_card)
 
 
-def test_clicks_count_when_the_card_comes_under_a_pointer_at_rest(sway, vantle):
+def test_clicks_count_when_the_card_appears_under_a_resting_pointer(sway, vantle):
     check_clicks_count_under_a_pointer_at_rest(sway, vantle)
 
 
-def test_the_focus_stays_where_one_types(sway, vantle):
+def test_the_focus_stays_where_the_user_types(sway, vantle):
     check_focus_stays(sway, vantle)
 
 
-def test_the_keyboard_comes_when_it_is_asked_for_and_goes_back(sway, vantle):
+def test_the_card_gets_the_keyboard_on_request_and_gives_it_back(sway, vantle):
     check_keyboard_on_request(sway, vantle)
 
 
-def test_it_comes_again_after_it_was_dismissed(sway, vantle):
+def test_it_appears_again_after_it_was_dismissed(sway, vantle):
     vantle.start_watching()
     for name in ("one.png", "two.png"):
         tile = show_one(sway, vantle, name)
@@ -171,7 +171,7 @@ def test_dragged_into_a_web_page(sway, vantle):
     check_dragged_into_a_web_page(sway, vantle)
 
 
-def test_what_a_window_promised_and_did_not_take_is_no_use(sway, binary):
+def test_a_broken_promise_of_a_window_does_not_count_as_use(sway, binary):
     with program_on(sway, binary, deleteAfterUse="true") as vantle:
         NativeWindow(sway, "--breaks-promises")
         vantle.start_watching()
@@ -180,7 +180,7 @@ def test_what_a_window_promised_and_did_not_take_is_no_use(sway, binary):
         wait_until(lambda: is_one_pattern(sway.screen.screenshot(corner(sway))), "it is back")
 
 
-def test_dropped_where_nobody_takes_it_it_flies_back_and_the_next_click_counts(sway, vantle):
+def test_a_refused_drop_flies_back_and_the_next_click_counts(sway, vantle):
     check_flies_back(sway, vantle, (300, 300), (300, 300))
 
 
@@ -189,7 +189,7 @@ def test_escape_ends_a_drag(sway, vantle):
     check_escape_ends_a_drag(sway, vantle)
 
 
-def test_it_ends_in_peace_in_the_middle_of_a_drag(sway, vantle):
+def test_it_ends_cleanly_in_the_middle_of_a_drag(sway, vantle):
     NativeWindow(sway)
     vantle.start_watching()
     tile = show_one(sway, vantle)
@@ -245,12 +245,12 @@ def test_native_programs_paste_what_was_copied(sway, vantle):
     check_pasted(sway)
 
 
-def test_what_is_copied_by_itself_reaches_the_clipboard(sway, binary):
+def test_an_automatic_copy_reaches_the_clipboard(sway, binary):
     require_peer("wl-paste")
     check_copied_by_itself(sway, binary)
 
 
-def test_who_does_not_read_the_clipboard_holds_nothing_up(sway, binary):
+def test_a_program_that_does_not_read_the_clipboard_blocks_nothing(sway, binary):
     require_peer("wl-paste")
     with program_on(sway, binary, copyOnCapture="true") as vantle:
         vantle.start_watching()
@@ -322,7 +322,7 @@ def test_it_follows_the_focus_from_output_to_output(sway, vantle):
                    "it has left the other one")  # fmt: skip
 
 
-def test_it_survives_the_outputs_that_it_stands_on(sway, vantle):
+def test_it_survives_the_loss_of_its_outputs(sway, vantle):
     require_peer("grim")
     vantle.start_watching()
     sway.message("create_output")
@@ -366,9 +366,9 @@ def test_the_menu_of_its_icon_in_the_bar(sway, vantle):
     wait_until(lambda: "state: paused" in vantle.command("--status")[1], "a line is chosen")
 
 
-def test_the_end_of_the_compositor_ends_it(sway, vantle):
+def test_it_ends_with_the_compositor(sway, vantle):
     check_ends_with_compositor(sway, vantle, lambda: sway.run("swaymsg", "exit", check=False))
 
 
-def test_idle_it_does_nothing(sway, vantle):
+def test_it_does_nothing_when_idle(sway, vantle):
     check_idle(sway, vantle)

@@ -150,7 +150,7 @@ def test_menu_of_the_tray_follows_new_captures(desktop, vantle, folder):
 
 
 @without_tray
-def test_a_tray_that_comes_later_and_starts_anew(desktop, vantle):
+def test_a_tray_that_appears_later_and_restarts(desktop, vantle):
     vantle.start_watching()
     icon = Icon(desktop, "bottom")
     for _ in range(2):
@@ -161,7 +161,7 @@ def test_a_tray_that_comes_later_and_starts_anew(desktop, vantle):
     assert vantle.is_running()
 
 
-def test_a_tray_on_x_that_starts_anew(desktop, vantle):
+def test_a_tray_on_x_that_restarts(desktop, vantle):
     vantle.start_watching()
     icon = Icon(desktop, "top")
     icon.wait()
@@ -173,7 +173,7 @@ def test_a_tray_on_x_that_starts_anew(desktop, vantle):
 
 
 @without_tray
-def test_without_a_tray_the_user_is_told_once(desktop, vantle):
+def test_the_user_is_told_once_that_there_is_no_tray(desktop, vantle):
     vantle.start_watching()
     alert = wait_until(desktop.screen.dialogs, "it is explained", limit=60.0)[0]
     wait_until(lambda: desktop.screen.active_window() == alert, "it has the keyboard")

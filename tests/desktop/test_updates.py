@@ -148,7 +148,7 @@ def test_update_to_the_next_version(desktop, vantle, folder, tree, screens, publ
 
 
 @pytest.mark.parametrize("script", ["kill -SEGV $$", "exit 1"], ids=["crash", "error"])
-def test_a_version_that_does_not_start_is_taken_back(
+def test_a_version_that_does_not_start_is_rolled_back(
     desktop, vantle, folder, tree, screens, publisher, later, script
 ):
     publisher.publish(later(f"#!/bin/sh\n{script}\n"), LATER)
@@ -172,7 +172,7 @@ def reason(script):
     return f"Vantle {LATER} {problem} at its start, so the version before it was put back."
 
 
-def test_what_came_back_does_not_take_the_keyboard(desktop, vantle, screens, publisher, later):
+def test_a_rollback_does_not_take_the_keyboard(desktop, vantle, screens, publisher, later):
     publisher.publish(later("#!/bin/sh\nexit 1\n"), LATER)
     start_and_wait_for_offer(desktop, vantle, screens)
     screens.click("Install and Relaunch")
@@ -196,8 +196,7 @@ def test_a_download_can_be_cancelled(desktop, vantle, tree, screens, server, pub
     assert version_of(vantle) == before
 
 
-def test_an_updater_that_is_killed_is_told(desktop, vantle, tree, screens, server, publisher,
-                                           later):
+def test_a_killed_updater_is_reported(desktop, vantle, tree, screens, server, publisher, later):
     publisher.publish(later(), LATER, address=server.address("unhurried/archive.tar.zst"))
     start_and_wait_for_offer(desktop, vantle, screens)
     screens.click("Install and Relaunch")

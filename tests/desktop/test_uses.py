@@ -57,7 +57,7 @@ def test_reveal_shows_the_file_in_the_file_manager(desktop, vantle, folder, card
     wait_until(lambda: is_dismissed(desktop), "the used capture leaves")
 
 
-def test_what_is_thrown_away_comes_back_with_its_name(desktop, vantle, folder, card):
+def test_a_trashed_file_is_restored_with_its_name(desktop, vantle, folder, card):
     original = folder.path / "shot.png"
     content = original.read_bytes()
     press_button(desktop, card, "trash")
@@ -68,7 +68,7 @@ def test_what_is_thrown_away_comes_back_with_its_name(desktop, vantle, folder, c
     assert original.read_bytes() == content
 
 
-def test_names_of_all_kinds_come_back_by_a_file_manager(desktop, vantle, folder):
+def test_a_file_manager_restores_names_of_all_kinds(desktop, vantle, folder):
     names = {"50% of 100 #1?.png", "übung größe.png", "percent%20.png"}
     vantle.start_watching()
     for name in names:
@@ -154,7 +154,7 @@ def test_the_share_menu_copies_the_file_by_a_click(desktop, vantle, folder, card
     wait_until(lambda: desktop.run(*paste, check=False).stdout.decode() == address, "it is copied")
 
 
-def test_a_share_menu_that_is_closed_is_no_use(desktop, vantle, folder, card):
+def test_closing_the_share_menu_does_not_count_as_use(desktop, vantle, folder, card):
     pointer = desktop.screen.pointer
     for close in (
         lambda: desktop.screen.keyboard.press("Escape"),

@@ -54,7 +54,7 @@ def program_version(installed):
     return run(installed / "bin/vantle", "--version").split()[-1]
 
 
-def test_what_is_installed(package, installed):
+def test_the_package_holds_exactly_the_expected_files(package, installed):
     assert files_in(installed) == sorted(OF_ANY_COPY + OF_THE_SYSTEM)
     for line in run("dpkg-deb", "--contents", package).splitlines():
         mode, owner, *_, name = line.split()
@@ -65,14 +65,14 @@ def test_what_is_installed(package, installed):
     assert re.findall(r"\* +(\w+)", run("dpkg-deb", "--info", package)) == []
 
 
-def test_a_tree_holds_nothing_that_belongs_into_a_system(tmp_path):
+def test_a_tree_holds_no_files_of_a_system(tmp_path):
     run("tar", "-xf", release("tree", tmp_path), "-C", tmp_path)
     tree = tmp_path / "vantle"
     assert files_in(tree) == sorted([*OF_ANY_COPY, "share/vantle/manifest"])
     assert "installation=tree" in (tree / "share/vantle/release").read_text()
 
 
-def test_the_checker_of_debian_has_no_complaint(package):
+def test_lintian_reports_nothing(package):
     assert run("lintian", "--allow-root", "--fail-on", "warning", package) == ""
 
 
@@ -83,7 +83,7 @@ def test_the_same_build_makes_the_same_bytes(package, tmp_path):
     assert again.read_bytes() == package.read_bytes()
 
 
-def test_it_says_what_it_is(package, installed):
+def test_its_name_and_changelog_have_its_version(package, installed):
     version = program_version(installed)
     assert package.name == f"vantle_{version}_{field(package, 'Architecture')}.deb"
     assert field(package, "Version") == version
@@ -104,7 +104,7 @@ def test_it_is_updated_as_a_package(installed):
     }
 
 
-def test_what_is_loaded_by_name_is_depended_upon(package):
+def test_it_depends_on_modules_that_are_loaded_by_name(package):
     lines = (ROOT / "scripts/packages/run.list").read_text().splitlines()
     modules = [line.split()[0] for line in lines if line.startswith("qml6-module")]
     assert modules
@@ -158,7 +158,7 @@ def details_of(vantle):
     return re.findall(r"^    (--[a-z-]+)", run(vantle, "--help"), re.MULTILINE)
 
 
-def test_the_manual_tells_every_option(installed):
+def test_the_manual_describes_every_option(installed):
     page = run("zcat", installed / "share/man/man1/vantle.1.gz")
     told = [f"-{name}" for name in re.findall(r"^\.It Fl (-[a-z-]+)", page, re.MULTILINE)]
     assert [name for name in told if name != "--dbus-activated"] == options_of(
@@ -211,7 +211,7 @@ def test_zsh_completes(installed):
         assert detail in completion.read_text()
 
 
-def test_programs_find_what_belongs_to_them(installed, tmp_path):
+def test_programs_find_their_files(installed, tmp_path):
     picture, thumbnail = tmp_path / "picture.png", tmp_path / "thumbnail.png"
     Image.new("RGB", (1600, 900), "teal").save(picture)
     said = run(installed / "bin/vantle-decoder", "--thumbnail", picture, thumbnail)
@@ -231,7 +231,7 @@ def test_the_feed_knows_the_package_by_its_name(package, tmp_path):
     assert f"<sparkle:version>{field(package, 'Version')}</sparkle:version>" in text
 
 
-def test_its_date_is_that_of_the_changelog(package):
+def test_its_files_have_the_date_of_the_changelog(package):
     date = releasing.date_of_package(ROOT / "packaging/debian/changelog")
     [made] = set(re.findall(r"\d{4}-\d\d-\d\d \d\d:\d\d", run("dpkg-deb", "--contents", package)))
     assert made == run("date", "-u", "-d", f"@{date}", "+%Y-%m-%d %H:%M").strip()

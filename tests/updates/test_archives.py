@@ -41,7 +41,7 @@ def refuse(copy, publisher, contents, version=NEW):
     return message
 
 
-def test_a_good_one_is_made_ready(copy, publisher, archive):
+def test_a_good_archive_is_prepared(copy, publisher, archive):
     reports = copy.check_and_prepare(publisher.publish(archive, NEW))
     assert [report[0] for report in reports if report[0] != "progress"] == ["installing", "ready"]
     assert reports[-3] == ["progress", str(len(archive))]
@@ -52,7 +52,7 @@ def test_a_good_one_is_made_ready(copy, publisher, archive):
     assert copy.staging.stat().st_mode & 0o777 == 0o700
 
 
-def test_progress_is_told(copy, server, publisher, tmp_path):
+def test_progress_is_reported(copy, server, publisher, tmp_path):
     archive = make_archive(tmp_path / "large", NEW, copy.programs("", copy.updater))
     found = copy.check(publisher.publish(
         archive, NEW, address=server.address("steady/archive.tar.zst")
@@ -70,7 +70,7 @@ def test_a_wrong_signature_is_refused(copy, server, publisher, archive):
     )
 
 
-def test_a_shorter_one_is_refused(copy, server, publisher, archive):
+def test_a_shorter_archive_is_refused(copy, server, publisher, archive):
     feed = publisher.publish(archive, NEW)
     server.save("archive.tar.zst", archive[:-1])
     assert message_of(copy.check_and_prepare(feed)) == (
@@ -78,7 +78,7 @@ def test_a_shorter_one_is_refused(copy, server, publisher, archive):
     )
 
 
-def test_a_longer_one_is_refused(copy, server, publisher, archive):
+def test_a_longer_archive_is_refused(copy, server, publisher, archive):
     feed = publisher.publish(archive, NEW)
     server.save("archive.tar.zst", archive + b"x")
     assert message_of(copy.check_and_prepare(feed)) == (
@@ -86,17 +86,17 @@ def test_a_longer_one_is_refused(copy, server, publisher, archive):
     )
 
 
-def test_a_transfer_that_breaks_off_is_told(copy, server, publisher, archive):
+def test_an_interrupted_transfer_is_reported(copy, server, publisher, archive):
     feed = publisher.publish(archive, NEW, address=server.address("cut/archive"))
     assert message_of(copy.check_and_prepare(feed)) == "The server broke off in the middle."
 
 
-def test_a_slow_transfer_is_left(copy, server, publisher, archive):
+def test_a_slow_transfer_is_given_up(copy, server, publisher, archive):
     feed = publisher.publish(archive, NEW, address=server.address("slow/archive.tar.zst"))
     assert message_of(copy.check_and_prepare(feed)) == "The server is too slow."
 
 
-def test_one_from_a_plain_address_is_refused(copy, publisher, archive):
+def test_an_archive_at_a_plain_address_is_refused(copy, publisher, archive):
     feed = publisher.publish(archive, NEW, address="http://vantle.example/archive")
     assert message_of(copy.check_and_prepare(feed)).startswith("Updates are fetched only by HTTPS")
 
@@ -129,7 +129,7 @@ def test_an_absolute_name_is_refused(copy, publisher, tmp_path):
 @pytest.mark.parametrize("kind", [
     tarfile.SYMTYPE, tarfile.LNKTYPE, tarfile.CHRTYPE, tarfile.BLKTYPE, tarfile.FIFOTYPE,
 ], ids=["symbolic-link", "hard-link", "character-device", "block-device", "pipe"])
-def test_what_is_neither_file_nor_folder_is_refused(copy, publisher, kind):
+def test_an_entry_that_is_neither_file_nor_folder_is_refused(copy, publisher, kind):
     contents = hand_made_archive(
         entry("vantle/bin/vantle", b"good"), entry("vantle/bin/bad", kind=kind, link="/etc/passwd")
     )
@@ -156,7 +156,7 @@ def test_a_file_twice_is_refused(copy, publisher):
     )
 
 
-def test_one_that_grows_is_refused(copy, publisher):
+def test_an_archive_that_unpacks_to_too_much_is_refused(copy, publisher):
     contents = hand_made_archive(entry("vantle/bomb", b"\0" * (600 << 20)))
     assert len(contents) < 1 << 20
     assert refuse(copy, publisher, contents) == (
@@ -164,7 +164,7 @@ def test_one_that_grows_is_refused(copy, publisher):
     )
 
 
-def test_one_with_too_many_files_is_refused(copy, publisher):
+def test_an_archive_with_too_many_files_is_refused(copy, publisher):
     contents = hand_made_archive(*(entry(f"vantle/{i}") for i in range(10_001)))
     assert refuse(copy, publisher, contents) == (
         "The update was refused: it holds too many files."
@@ -173,18 +173,18 @@ def test_one_with_too_many_files_is_refused(copy, publisher):
 
 @pytest.mark.parametrize("contents", [b"no archive", compressed(b"no archive" * 1000)],
                          ids=["text", "compressed-text"])
-def test_what_is_no_archive_is_refused(copy, publisher, contents):
+def test_a_file_that_is_no_archive_is_refused(copy, publisher, contents):
     assert refuse(copy, publisher, contents).startswith("The update was refused: ")
 
 
 @pytest.mark.parametrize("part", [0.1, 0.5, 0.9])
-def test_one_that_was_cut_before_it_was_signed_is_refused(copy, publisher, archive, part):
+def test_an_archive_that_was_cut_before_it_was_signed_is_refused(copy, publisher, archive, part):
     assert refuse(copy, publisher, archive[: int(len(archive) * part)]).startswith(
         "The update was refused: "
     )
 
 
-def test_another_version_than_it_should_be_is_refused(copy, publisher, archive):
+def test_a_wrong_version_is_refused(copy, publisher, archive):
     assert refuse(copy, publisher, archive, "1.2") == (
         'The update was refused: it should be version 1.2 and is "1.1".'
     )
@@ -198,12 +198,12 @@ def test_another_version_than_it_should_be_is_refused(copy, publisher, archive):
     (lambda tree: (tree / "share/vantle/release").unlink(),
      'it should be version 1.1 and is "".'),
 ], ids=["stranger", "changed", "missing", "no-manifest", "no-release"])
-def test_one_that_is_not_what_it_says_is_refused(copy, publisher, tmp_path, change, message):
+def test_an_archive_that_contradicts_itself_is_refused(copy, publisher, tmp_path, change, message):
     contents = make_archive(tmp_path / "bad", NEW, copy.programs("echo new"), change)
     assert refuse(copy, publisher, contents) == f"The update was refused: {message}"
 
 
-def test_the_rights_of_an_archive_count_for_nothing(copy, publisher, tmp_path):
+def test_permissions_in_an_archive_are_ignored(copy, publisher, tmp_path):
     def change(tree):
         (tree / "bin/vantle").chmod(0o6777)
 
@@ -212,7 +212,7 @@ def test_the_rights_of_an_archive_count_for_nothing(copy, publisher, tmp_path):
     assert (copy.staging / "next/bin/vantle").stat().st_mode & 0o7777 == 0o755
 
 
-def test_what_was_left_half_done_is_no_hindrance(copy, publisher, archive):
+def test_leftovers_do_not_prevent_an_update(copy, publisher, archive):
     feed = publisher.publish(archive, NEW)
     copy.staging.mkdir(mode=0o700)
     for name in ("unpacking", "next", "discarded"):
@@ -222,7 +222,7 @@ def test_what_was_left_half_done_is_no_hindrance(copy, publisher, archive):
     assert (copy.staging / "next/bin/vantle").read_text() == "#!/bin/sh\necho new\n"
 
 
-def test_a_link_in_the_place_of_the_staging_folder_is_refused(copy, publisher, archive, tmp_path):
+def test_a_link_in_place_of_the_staging_folder_is_refused(copy, publisher, archive, tmp_path):
     outside = tmp_path / "outside"
     outside.mkdir(mode=0o700)
     copy.staging.symlink_to(outside)
@@ -239,7 +239,7 @@ def test_files_of_the_user_in_the_tree_stop_it(copy, publisher, archive):
     mine.unlink()
 
 
-def test_files_of_the_user_in_the_version_before_stop_it(copy, publisher, archive):
+def test_files_of_the_user_in_the_previous_version_stop_it(copy, publisher, archive):
     previous = copy.staging / "previous"
     copy.staging.mkdir(mode=0o700)
     shutil.copytree(copy.tree, previous)
@@ -249,7 +249,7 @@ def test_files_of_the_user_in_the_version_before_stop_it(copy, publisher, archiv
     assert (previous / "my notes.txt").read_text() == "precious"
 
 
-def test_two_at_a_time_are_not_possible(copy, publisher, archive):
+def test_two_updates_at_a_time_are_refused(copy, publisher, archive):
     copy.staging.mkdir(mode=0o700)
     with open(copy.staging / "lock", "w", encoding="utf-8") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)

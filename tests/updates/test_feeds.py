@@ -63,14 +63,14 @@ def test_a_feed_without_items_offers_nothing(copy, publisher):
     assert reason(copy.check(publisher.save_feed(feed))) == "Vantle 1.0 is the newest version."
 
 
-def test_a_version_for_another_system_is_not_taken(copy, publisher):
+def test_a_version_for_another_system_is_not_offered(copy, publisher):
     feed = publisher.publish(ARCHIVE, NEW, platform="linux-pdp11")
     assert reason(copy.check(feed)) == (
         f"There is a newer version, but not for this system ({SYSTEM})."
     )
 
 
-def test_a_version_for_a_newer_system_is_not_taken(copy, publisher):
+def test_a_version_for_a_newer_system_is_not_offered(copy, publisher):
     feed = publisher.publish(ARCHIVE, NEW, minimum_system_version="99.1")
     assert "Version 1.1 needs a newer system: version 99.1 of the C library" in reason(
         copy.check(feed)
@@ -83,7 +83,7 @@ def test_an_older_version_for_this_system_is_better_than_none(copy, publisher):
     assert found[:2] == ["found", NEW]
 
 
-def test_a_channel_is_only_for_who_asked_for_it(copy, publisher):
+def test_a_channel_is_offered_only_on_request(copy, publisher):
     feed = publisher.publish(ARCHIVE, NEW, channel="beta")
     assert reason(copy.check(feed)) == "Vantle 1.0 is the newest version."
     assert copy.check(feed, "--channel=beta")[-1][:2] == ["found", NEW]
@@ -126,14 +126,14 @@ def test_a_changed_feed_is_refused(copy, publisher):
     )
 
 
-def test_a_feed_with_something_behind_its_signature_is_refused(copy, publisher):
+def test_a_feed_with_something_after_its_signature_is_refused(copy, publisher):
     feed = publisher.feed(ARCHIVE, NEW) + b"<rss/>"
     assert failure(copy.check(publisher.save_feed(feed))) == (
         "The update feed carries no signature, so it was refused."
     )
 
 
-def test_a_feed_that_is_signed_in_part_is_refused(copy, publisher):
+def test_a_partly_signed_feed_is_refused(copy, publisher):
     feed = publisher.feed(ARCHIVE, NEW)
     at = feed.index(b"<!-- sparkle-signatures")
     assert failure(copy.check(publisher.save_feed(feed[:at] + b" " + feed[at:]))) == (
@@ -151,7 +151,7 @@ def test_a_feed_of_another_key_is_refused(copy, server, publisher, tmp_path):
     )
 
 
-def test_a_feed_that_was_kept_is_refused(copy, publisher):
+def test_an_outdated_feed_is_refused(copy, publisher):
     yesterday = publisher.publish(ARCHIVE, NEW, date=NOW - datetime.timedelta(days=1))
     newest = f"--newest-feed={int(NOW.timestamp())}"
     assert failure(copy.check(yesterday, newest)) == (
@@ -172,7 +172,7 @@ def test_a_damaged_feed_is_refused(copy, publisher, xml, message):
     assert failure(copy.check(publisher.save_feed(publisher.signed(xml)))).startswith(message)
 
 
-def test_entities_do_not_grow(copy, publisher):
+def test_entities_are_not_expanded(copy, publisher):
     laughs = b"".join(
         b'<!ENTITY l%d "%s">' % (i, b"&l%d;" % (i - 1) * 10) for i in range(1, 10)
     )
@@ -192,29 +192,29 @@ def test_an_oversized_feed_is_refused(copy, publisher):
     )
 
 
-def test_a_slow_server_is_left(copy, server, publisher):
+def test_a_slow_server_is_given_up(copy, server, publisher):
     publisher.save_feed(publisher.signed(b"<rss>" + b" " * 20_000))
     assert failure(copy.check(server.address("slow/appcast.xml"))) == "The server is too slow."
 
 
-def test_a_server_that_breaks_off_is_told(copy, server):
+def test_an_interrupted_answer_is_reported(copy, server):
     assert failure(copy.check(server.address("cut/appcast.xml"))) == (
         "The server broke off in the middle."
     )
 
 
-def test_a_feed_that_is_not_there_is_told(copy, server):
+def test_a_missing_feed_is_reported(copy, server):
     assert failure(copy.check(server.address("nothing.xml"))) == (
         "The server answered with the error 404."
     )
 
 
-def test_a_server_that_is_not_there_is_told(copy):
+def test_a_missing_server_is_reported(copy):
     message = failure(copy.check("https://127.0.0.1:1/appcast.xml"))
     assert message.startswith("The server could not be asked: ")
 
 
-def test_a_stranger_with_a_certificate_of_its_own_is_refused(copy, server, publisher):
+def test_a_server_with_an_unknown_certificate_is_refused(copy, server, publisher):
     publisher.publish(ARCHIVE, NEW)
     message = failure(copy.check(server.strangers_address("appcast.xml")))
     assert "certificate" in message or "peer" in message
@@ -225,7 +225,7 @@ def test_a_redirection_is_followed(copy, server, publisher):
     assert copy.check(server.address("moved/appcast.xml"))[-1][:2] == ["found", NEW]
 
 
-def test_a_feed_of_somebody_else_is_not_added_to(publisher, tmp_path):
+def test_nothing_is_added_to_a_feed_of_another_key(publisher, tmp_path):
     releasing.make_key(tmp_path / "another.pem")
     feed = publisher.feed(ARCHIVE, OLD)
     archive = publisher.save(ARCHIVE)
@@ -263,7 +263,7 @@ def test_a_redirection_from_the_web_to_this_machine_is_refused(copy, server, pub
     )
 
 
-def test_this_machine_itself_may_do_without_https(copy, server, publisher):
+def test_this_machine_needs_no_https(copy, server, publisher):
     publisher.publish(ARCHIVE, NEW)
     assert copy.check(server.plain_address("appcast.xml"))[-1][:2] == ["found", NEW]
 
@@ -284,13 +284,13 @@ def test_other_addresses_are_refused(copy, address):
 @pytest.mark.parametrize("host", [
     "127.0.0.1", "127.255.255.254", "[::1]", "localhost",
 ])
-def test_each_name_of_this_machine_may_do_without_https(copy, host):
+def test_each_name_of_this_machine_needs_no_https(copy, host):
     # No server listens there.
     message = failure(copy.check(f"http://{host}:1/appcast.xml"))
     assert message.startswith("The server could not be asked: ")
 
 
-def test_without_another_feed_it_is_the_one_that_was_built_in(copy):
+def test_the_built_in_feed_is_used_without_another_one(copy):
     reports = copy.run("check", f"--version={OLD}")
     assert failure(reports) == (
         f'Updates are fetched only by HTTPS, not from "{os.environ["VANTLE_BUILT_IN_FEED"]}".'
@@ -311,6 +311,6 @@ def test_a_copy_without_a_key_cannot_be_updated(copy, publisher):
     assert reports[-1][2] == "", "nobody answers for the page either"
 
 
-def test_a_copy_with_a_key_knows_where_new_versions_are(copy):
+def test_a_copy_with_a_key_names_the_page_of_new_versions(copy):
     reports = copy.check("ftp://127.0.0.1/appcast.xml")
     assert failure(reports) and reports[-1][2].startswith("https://")

@@ -93,7 +93,7 @@ def test_a_package_is_handed_to_the_system(copy, service, prepare, cache):
     assert not copy.staging.exists()
 
 
-def test_a_refusal_of_the_system_is_told(service, prepare, cache):
+def test_a_refusal_of_the_system_is_reported(service, prepare, cache):
     service("refuse")
     assert message_of(prepare()) == (
         "The system's package installer: You are not allowed to do this."
@@ -102,23 +102,23 @@ def test_a_refusal_of_the_system_is_told(service, prepare, cache):
 
 
 @pytest.mark.parametrize("ending", ["silent-failure", "vanish"])
-def test_a_failure_without_a_word_is_told(service, prepare, ending):
+def test_a_failure_without_a_message_is_reported(service, prepare, ending):
     service(ending)
     assert message_of(prepare()) == (
         "The system's package installer: it did not install the update."
     )
 
 
-def test_a_call_that_is_refused_is_told(service, prepare):
+def test_a_refused_call_is_reported(service, prepare):
     service("refuse-method")
     assert message_of(prepare()) == "The system's package installer: Not today."
 
 
-def test_without_an_installer_that_is_told(prepare):
+def test_a_missing_installer_is_reported(prepare):
     assert message_of(prepare()).startswith("The system's package installer: ")
 
 
-def test_without_a_bus_that_is_told(copy, prepare, monkeypatch, bus):
+def test_a_missing_bus_is_reported(copy, prepare, monkeypatch, bus):
     del bus
     run = copy.run
 
@@ -131,7 +131,7 @@ def test_without_a_bus_that_is_told(copy, prepare, monkeypatch, bus):
     assert message_of(prepare()).startswith("The system's package installer: ")
 
 
-def test_a_package_that_is_not_signed_never_gets_there(copy, server, service, prepare):
+def test_an_unsigned_package_never_reaches_the_installer(copy, server, service, prepare):
     installer = service("success")
     server.save("archive.tar.zst", PACKAGE[:-1] + b"x")
     assert message_of(prepare()) == "The signature of the update is wrong, so it was refused."
@@ -139,7 +139,7 @@ def test_a_package_that_is_not_signed_never_gets_there(copy, server, service, pr
     assert installer.stdout.read() == ""
 
 
-def test_a_package_that_was_left_goes(service, prepare, cache):
+def test_a_leftover_package_is_removed(service, prepare, cache):
     left = cache / "vantle/update/vantle.deb"
     left.parent.mkdir(parents=True)
     left.write_bytes(b"of another time")
@@ -148,7 +148,7 @@ def test_a_package_that_was_left_goes(service, prepare, cache):
     assert not left.exists()
 
 
-def test_the_new_version_is_started_and_never_taken_back(copy):
+def test_the_new_version_is_started_and_never_rolled_back(copy):
     releasing.describe_release(copy.tree, NEW, f"{SYSTEM}-deb", "package")
     (copy.tree / "bin/vantle").write_text('#!/bin/sh\necho new > "$VANTLE_TEST_LOG"\nexit 3\n')
     copy.relaunch(NEW)

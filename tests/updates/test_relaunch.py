@@ -33,7 +33,7 @@ def log(copy):
     return copy.wait_for_log()
 
 
-def test_the_new_version_takes_the_place_of_the_old_one(copy, ready):
+def test_the_new_version_replaces_the_old_one(copy, ready):
     ready(COMES_UP)
     relaunch(copy)
     assert copy.status == 0
@@ -60,7 +60,7 @@ def test_it_can_be_updated_again_and_again(copy, ready, publisher, tmp_path):
     ("exec sleep 600", "did not start in time"),
     ('eval "exec $VANTLE_UPDATE_READY>&-"; kill -ABRT $$', "crashed at its start"),
 ], ids=["crash", "error", "hang", "crash-without-pipe"])
-def test_one_that_does_not_come_up_is_taken_back(copy, ready, script, problem):
+def test_a_version_that_does_not_report_its_start_is_rolled_back(copy, ready, script, problem):
     before = copy.snapshot()
     ready(script)
     before["app/bin/vantle"] = (copy.tree / "bin/vantle").read_bytes()
@@ -74,7 +74,7 @@ def test_one_that_does_not_come_up_is_taken_back(copy, ready, script, problem):
     assert {path.name for path in copy.staging.iterdir()} == {"lock"}
 
 
-def test_one_that_cannot_be_started_is_taken_back(copy, ready):
+def test_a_version_that_cannot_be_started_is_rolled_back(copy, ready):
     ready("")
     (copy.staging / "next/bin/vantle").write_bytes(b"\x7fELF, but not really")
     relaunch(copy)
@@ -82,14 +82,14 @@ def test_one_that_cannot_be_started_is_taken_back(copy, ready):
     assert "old rolled-back\t1.1\tVantle 1.1 cannot be started" in log(copy)
 
 
-def test_one_that_ends_by_itself_before_it_says_anything_is_taken_back(copy, ready):
+def test_a_version_that_ends_before_it_reports_its_start_is_rolled_back(copy, ready):
     ready("exit 0")
     relaunch(copy)
     assert copy.version() == OLD
     assert "old rolled-back\t1.1\tVantle 1.1 ended at its start" in log(copy)
 
 
-def test_one_that_hands_over_to_a_copy_that_runs_has_come_up(copy, ready):
+def test_a_version_that_hands_over_to_a_running_copy_counts_as_started(copy, ready):
     # Simulates a user who starts the program while the updater does.
     ready('cp /bin/sleep "$0.x"; mv "$0.x" "$0"; '
           'eval "\\"$0\\" 600 $VANTLE_UPDATE_READY>&- > /dev/null 2>&1 &"; exit 0')
@@ -112,12 +112,12 @@ def running(program):
     return found
 
 
-def test_its_starter_hears_that_it_goes_on(copy, ready):
+def test_its_starter_is_told_that_it_continues(copy, ready):
     ready(COMES_UP)
     assert copy.relaunch(NEW)
 
 
-def test_without_anybody_who_waits_for_it_nothing_happens(copy, ready):
+def test_nothing_happens_if_nobody_waits_for_it(copy, ready):
     ready(COMES_UP)
     reader, writer = os.pipe()
     os.close(reader)
@@ -129,7 +129,7 @@ def test_without_anybody_who_waits_for_it_nothing_happens(copy, ready):
     assert not copy.log.exists()
 
 
-def test_a_closed_log_is_no_hindrance(copy, ready):
+def test_a_closed_log_does_not_prevent_the_relaunch(copy, ready):
     ready("exit 1")
     reader, writer = os.pipe()
     os.close(reader)
