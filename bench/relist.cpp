@@ -1,6 +1,7 @@
-// What a change in a folder of many known files costs, against a bare readdir of that folder.
+// Measures what a change in a folder of many known files costs, compared with a bare readdir of
+// that folder.
 //
-// Usage: relist [FILES]   (100,000 unless said)
+// Usage: relist [FILES]   (default: 100,000)
 
 #include <dirent.h>
 #include <stdlib.h>
