@@ -78,7 +78,8 @@ def test_clicks_beside_the_card_reach_the_window_underneath(mutter, vantle):
 
 
 def test_clicks_beside_the_card_pass_while_its_time_runs(mutter, binary):
-    check_clicks_pass_while_time_runs(mutter, binary)
+    # Mutter 43 learns by timing which clicks pass, and may miss it while it is busy.
+    check_clicks_pass_while_time_runs(mutter, binary, tries=2 if is_mutter(43) else 1)
 
 
 def test_clicks_count_when_the_card_appears_under_a_resting_pointer(mutter, vantle):
