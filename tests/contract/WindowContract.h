@@ -36,10 +36,11 @@ TYPED_TEST_P(WindowContract, IsHiddenUntilItIsOrderedToTheFront) {
     EXPECT_TRUE(this->desk.hasKeyboard());
 }
 
-TYPED_TEST_P(WindowContract, CanBeShownWithoutTheKeyboard) {
-    this->desk.window.orderFront();
-    EXPECT_TRUE(this->desk.isShown());
-    EXPECT_FALSE(this->desk.hasKeyboard());
+TYPED_TEST_P(WindowContract, CanBeShownWithoutBeingOrderedToTheFront) {
+    for (int i = 0; i < 2; ++i) {
+        this->desk.window.orderFront();
+        EXPECT_TRUE(this->desk.isShown());
+    }
 }
 
 TYPED_TEST_P(WindowContract, ComesBackAfterItWasClosed) {
@@ -58,13 +59,14 @@ TYPED_TEST_P(WindowContract, HasTheSizeThatItIsGiven) {
 }
 
 TYPED_TEST_P(WindowContract, CanBeDrawnWhetherOrNotItIsShown) {
+    this->desk.window.setContentSize({480, 640});
     EXPECT_TRUE(this->desk.window.snapshot(1));
     this->desk.window.makeKeyAndOrderFront();
     EXPECT_TRUE(this->desk.window.snapshot(1));
 }
 
 REGISTER_TYPED_TEST_SUITE_P(WindowContract, IsHiddenUntilItIsOrderedToTheFront,
-                            CanBeShownWithoutTheKeyboard, ComesBackAfterItWasClosed,
+                            CanBeShownWithoutBeingOrderedToTheFront, ComesBackAfterItWasClosed,
                             HasTheSizeThatItIsGiven, CanBeDrawnWhetherOrNotItIsShown);
 
 }  // namespace vantle
