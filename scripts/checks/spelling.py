@@ -95,7 +95,7 @@ def unknown_words(note):
     wrong = unknown({word for _, _, word in places})
     for path, line, word in places:
         if word in wrong:
-            yield Problem(path, line, f"no English word: {word}")
+            yield Problem(path, line, f"unknown word: {word}")
 
 
 def common_misspellings(note):

@@ -20,8 +20,8 @@ ELSEWHERE = re.compile(
     r"|menüleiste|datenschutz|befehlstaste|barre des menus|confidentialité|encoche"
     r"|メニューバー|ノッチ|プライバシー|システム設定", re.IGNORECASE)
 PACKAGING = ("packaging/*.desktop*", "packaging/*.xml*")
-UNFINISHED = {"unfinished": "is not translated", "vanished": "is not in the sources any more",
-              "obsolete": "is not in the sources any more"}
+UNFINISHED = {"unfinished": "is not translated", "vanished": "is no longer in the sources",
+              "obsolete": "is no longer in the sources"}
 
 
 def line_of(path, source):
@@ -50,7 +50,7 @@ def faults(message, may_be_as_written):
     is_as_written = kind == "unfinished" and may_be_as_written
     for form in [source] if is_as_written else translated(message):
         if found := ELSEWHERE.search(form):
-            yield f"speaks of \"{found[0]}\", which Linux does not have"
+            yield f"mentions \"{found[0]}\", which Linux does not have"
     if is_as_written:
         return
     if kind in UNFINISHED:
@@ -76,7 +76,7 @@ def foreign_words():
     for path in files(*PACKAGING):
         for number, line in enumerate((text_of(path) or "").splitlines(), start=1):
             if found := ELSEWHERE.search(line):
-                yield Problem(path, number, f"speaks of \"{found[0]}\", which Linux does not have")
+                yield Problem(path, number, f"mentions \"{found[0]}\", which Linux does not have")
 
 
 def outdated():

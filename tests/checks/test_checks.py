@@ -68,12 +68,12 @@ SAMPLES = (
     ("python", "a.py", "import os\n", "import os  # noqa: F401\n",
      "a.py:1: 'os' imported but unused"),
     ("python", "a.py", "a = 1\nb=2\n", "a = 1\n", "a.py:2: E225"),
-    ("spelling", "a.md", "One\nscrenshot\n", "One\nscreenshot\n", "a.md:2: no English word: scr"),
+    ("spelling", "a.md", "One\nscrenshot\n", "One\nscreenshot\n", "a.md:2: unknown word: scr"),
     ("spelling", "a.md", "```\nscrenshot\n```\nscrenshot\n", "`screnshot`\n", "a.md:4: "),
     ("spelling", "src/A.qml", "Text {\n text: qsTr(\"Cptured\")\n}\n", "Text {}\n",
-     "src/A.qml:2: no English word: Cptured"),
+     "src/A.qml:2: unknown word: Cptured"),
     ("spelling", "src/a.cpp", "auto a = localized(\"A\", \"Take a \"\n\"scren\");\n", "int a;\n",
-     "src/a.cpp:1: no English word: scren"),
+     "src/a.cpp:1: unknown word: scren"),
     ("spelling", "src/a.cpp", "// has rec" "ieved it\n", "// got it\n", "src/a.cpp:1: "),
     ("desktop-entries", "a.desktop", ENTRY + "Wrong=1\n", ENTRY, "a.desktop: "),
     ("metainfo", "a.metainfo.xml", METAINFO, None, "a.metainfo.xml: "),
@@ -203,7 +203,7 @@ def test_texts_mention_nothing_that_only_another_system_has(repository, name):
     (repository / "scripts/update_translations").chmod(0o755)
     path = f"translations/{name}"
     write(repository, path, TRANSLATION.format("<translation>%1 im Finder</translation>"))
-    expect_failure(repository, "translations", f'{path}:4: "Copy %1" speaks of "Finder"')
+    expect_failure(repository, "translations", f'{path}:4: "Copy %1" mentions "Finder"')
 
 
 def test_english_may_be_unfinished_but_mentions_no_other_system(repository):
@@ -214,12 +214,12 @@ def test_english_may_be_unfinished_but_mentions_no_other_system(repository):
     write(repository, path, unfinished)
     expect_success(repository, "translations")
     write(repository, path, unfinished.replace("Copy %1", "Copy %1 to the Dock"))
-    expect_failure(repository, "translations", f'{path}:4: "Copy %1 to the Dock" speaks of "Dock"')
+    expect_failure(repository, "translations", f'{path}:4: "Copy %1 to the Dock" mentions "Dock"')
 
 
 def test_launchers_mention_nothing_that_only_another_system_has(repository):
     write(repository, "packaging/a.desktop.in", "[Desktop Entry]\nComment=For your menu bar\n")
-    expect_failure(repository, "translations", 'packaging/a.desktop.in:2: speaks of "menu bar"')
+    expect_failure(repository, "translations", 'packaging/a.desktop.in:2: mentions "menu bar"')
 
 
 def test_translations_that_lack_a_text_fail(repository):
