@@ -839,12 +839,12 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
 <context>
     <name>UpdateProgram</name>
     <message>
-        <source>The program that does updates does not answer.</source>
-        <translation>Das Programm für Updates antwortet nicht.</translation>
+        <source>The update program does not respond.</source>
+        <translation>Das Update-Programm antwortet nicht.</translation>
     </message>
     <message>
-        <source>The program that does updates failed: %1.</source>
-        <translation>Das Programm für Updates ist gescheitert: %1.</translation>
+        <source>The update program failed: %1.</source>
+        <translation>Das Update-Programm ist fehlgeschlagen: %1.</translation>
     </message>
 </context>
 <context>
@@ -861,23 +861,23 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <translation>Das Update wurde abgelehnt: %1</translation>
     </message>
     <message>
-        <source>it holds a file without a name.</source>
+        <source>it contains a file without a name.</source>
         <translation>Es enthält eine Datei ohne Namen.</translation>
     </message>
     <message>
-        <source>it holds too many files.</source>
+        <source>it contains too many files.</source>
         <translation>Es enthält zu viele Dateien.</translation>
     </message>
     <message>
-        <source>it holds &quot;%1&quot;.</source>
-        <translation>Es enthält „%1“.</translation>
+        <source>it contains the unexpected path &quot;%1&quot;.</source>
+        <translation>Es enthält den unerwarteten Pfad „%1“.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither a file nor a folder.</source>
         <translation>„%1“ ist weder Datei noch Ordner.</translation>
     </message>
     <message>
-        <source>it holds &quot;%1&quot; twice.</source>
+        <source>it contains &quot;%1&quot; twice.</source>
         <translation>Es enthält „%1“ doppelt.</translation>
     </message>
     <message>
@@ -885,23 +885,23 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <translation>Sein Archiv ist beschädigt.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has holes.</source>
-        <translation>„%1“ hat Lücken.</translation>
+        <source>&quot;%1&quot; is a sparse file, which is not allowed.</source>
+        <translation>„%1“ ist eine Sparse-Datei; das ist nicht erlaubt.</translation>
     </message>
     <message>
-        <source>it is too large once it is unpacked.</source>
-        <translation>Es ist entpackt zu groß.</translation>
+        <source>its unpacked files are too large.</source>
+        <translation>Seine entpackten Dateien sind zu groß.</translation>
     </message>
     <message>
-        <source>it is no archive.</source>
+        <source>it is not an archive.</source>
         <translation>Es ist kein Archiv.</translation>
     </message>
     <message>
-        <source>Version %1 needs a newer system: version %2 of the C library, and this is %3.</source>
-        <translation>Version %1 braucht ein neueres System: Version %2 der C-Bibliothek; hier ist es %3.</translation>
+        <source>Version %1 needs a newer system (C library %2; this system has %3).</source>
+        <translation>Version %1 braucht ein neueres System (C-Bibliothek %2; dieses System hat %3).</translation>
     </message>
     <message>
-        <source>Version %1 carries no signature, so it was refused.</source>
+        <source>Version %1 is not signed, so it was refused.</source>
         <translation>Version %1 ist nicht signiert und wurde abgelehnt.</translation>
     </message>
     <message>
@@ -913,15 +913,15 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <translation>Version %1 ist zu groß für ein Update und wurde abgelehnt.</translation>
     </message>
     <message>
-        <source>Vantle %1 is newer than the newest version that is offered, %2.</source>
-        <translation>Vantle %1 ist neuer als die neueste angebotene Version, %2.</translation>
+        <source>Vantle %1 is newer than the latest available version, %2.</source>
+        <translation>Vantle %1 ist neuer als die neueste verfügbare Version, %2.</translation>
     </message>
     <message>
-        <source>There is a newer version, but not for this system (%1).</source>
+        <source>A newer version exists, but not for this system (%1).</source>
         <translation>Es gibt eine neuere Version, aber nicht für dieses System (%1).</translation>
     </message>
     <message>
-        <source>Vantle %1 is the newest version.</source>
+        <source>Vantle %1 is the latest version.</source>
         <translation>Vantle %1 ist die neueste Version.</translation>
     </message>
     <message>
@@ -937,43 +937,43 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <translation>Der Update-Feed ist beschädigt: Das Datum fehlt.</translation>
     </message>
     <message>
-        <source>Updates are fetched only by HTTPS, not from &quot;%1&quot;.</source>
-        <translation>Updates werden nur über HTTPS geholt, nicht von „%1“.</translation>
+        <source>Updates are downloaded only over HTTPS, so the address &quot;%1&quot; was refused.</source>
+        <translation>Updates werden nur über HTTPS geladen; die Adresse „%1“ wurde abgelehnt.</translation>
     </message>
     <message>
-        <source>The server sent more than the %1 bytes that are expected at most.</source>
+        <source>The server sent more than the expected maximum of %1 bytes.</source>
         <translation>Der Server hat mehr als die höchstens erwarteten %1 Byte gesendet.</translation>
     </message>
     <message>
-        <source>The server is too slow.</source>
-        <translation>Der Server ist zu langsam.</translation>
+        <source>The server is too slow or does not respond. Try again later.</source>
+        <translation>Der Server ist zu langsam oder antwortet nicht. Versuchen Sie es später erneut.</translation>
     </message>
     <message>
-        <source>The server broke off in the middle.</source>
-        <translation>Der Server hat mittendrin abgebrochen.</translation>
+        <source>The connection was lost during the download. Try again.</source>
+        <translation>Die Verbindung ist beim Herunterladen abgebrochen. Versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>The server could not be asked: %1.</source>
+        <source>The server could not be reached: %1.</source>
         <translation>Der Server war nicht zu erreichen: %1.</translation>
     </message>
     <message>
-        <source>The server answered with the error %1.</source>
-        <translation>Der Server hat mit dem Fehler %1 geantwortet.</translation>
+        <source>The server reported error %1.</source>
+        <translation>Der Server hat den Fehler %1 gemeldet.</translation>
     </message>
     <message>
-        <source>The server leads from one address to the next without end.</source>
-        <translation>Der Server leitet endlos von einer Adresse zur nächsten.</translation>
+        <source>The server redirected too many times.</source>
+        <translation>Der Server hat zu oft umgeleitet.</translation>
     </message>
     <message>
-        <source>The system&apos;s package installer: %1</source>
-        <translation>Die Paketinstallation des Systems: %1</translation>
+        <source>The system could not install the package: %1</source>
+        <translation>Das System konnte das Paket nicht installieren: %1</translation>
     </message>
     <message>
-        <source>it did not install the update.</source>
-        <translation>Das Update wurde nicht installiert.</translation>
+        <source>it gave no reason.</source>
+        <translation>Es hat keinen Grund genannt.</translation>
     </message>
     <message>
-        <source>The folder of Vantle cannot be replaced in one step: %1</source>
+        <source>Vantle&apos;s folder cannot be replaced in one step: %1</source>
         <translation>Der Ordner von Vantle lässt sich nicht in einem Schritt ersetzen: %1</translation>
     </message>
     <message>
@@ -981,11 +981,11 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <translation>Vantle %1 ist nicht rechtzeitig gestartet</translation>
     </message>
     <message>
-        <source>Vantle %1 crashed at its start</source>
+        <source>Vantle %1 crashed when it started</source>
         <translation>Vantle %1 ist beim Start abgestürzt</translation>
     </message>
     <message>
-        <source>Vantle %1 ended at its start</source>
+        <source>Vantle %1 quit when it started</source>
         <translation>Vantle %1 hat sich beim Start beendet</translation>
     </message>
     <message>
@@ -993,19 +993,19 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <translation>Vantle %1 lässt sich nicht starten: %2</translation>
     </message>
     <message>
-        <source>The update could not be put in place: %1.</source>
-        <translation>Das Update konnte nicht eingesetzt werden: %1.</translation>
+        <source>The update could not be installed: %1.</source>
+        <translation>Das Update konnte nicht installiert werden: %1.</translation>
     </message>
     <message>
-        <source>%1, and the version before it could not be put back: %2.</source>
-        <translation>%1, und die Version davor konnte nicht zurückgeholt werden: %2.</translation>
+        <source>%1, and the previous version could not be restored: %2.</source>
+        <translation>%1, und die vorherige Version konnte nicht wiederhergestellt werden: %2.</translation>
     </message>
     <message>
-        <source>%1, so the version before it was put back.</source>
-        <translation>%1; darum ist die Version davor wieder da.</translation>
+        <source>%1, so the previous version was restored.</source>
+        <translation>%1; darum wurde die vorherige Version wiederhergestellt.</translation>
     </message>
     <message>
-        <source>The update feed carries no signature, so it was refused.</source>
+        <source>The update feed is not signed, so it was refused.</source>
         <translation>Der Update-Feed ist nicht signiert und wurde abgelehnt.</translation>
     </message>
     <message>
@@ -1013,20 +1013,20 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <translation>Die Signatur des Update-Feeds ist falsch; er wurde abgelehnt.</translation>
     </message>
     <message>
-        <source>%1 is in the way, and not ours.</source>
-        <translation>%1 ist im Weg und gehört nicht zu Vantle.</translation>
+        <source>%1 is not a folder that only you can access. Remove or rename it, then try again.</source>
+        <translation>%1 ist kein Ordner, auf den nur Sie zugreifen können. Löschen Sie ihn oder benennen Sie ihn um, und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
-        <source>Another update is under way.</source>
-        <translation>Ein anderes Update ist im Gange.</translation>
+        <source>Another update is already in progress.</source>
+        <translation>Ein anderes Update läuft bereits.</translation>
     </message>
     <message>
-        <source>it should be version %1 and is &quot;%2&quot;.</source>
-        <translation>Es soll Version %1 sein und ist „%2“.</translation>
+        <source>it contains version &quot;%2&quot; instead of %1.</source>
+        <translation>Es enthält Version „%2“ statt %1.</translation>
     </message>
     <message>
-        <source>it is not for this system (%1).</source>
-        <translation>Es ist nicht für dieses System (%1).</translation>
+        <source>it was not built for this system (%1).</source>
+        <translation>Es ist nicht für dieses System (%1) gebaut.</translation>
     </message>
     <message>
         <source>%1 is missing.</source>
@@ -1037,16 +1037,16 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <translation>%1 fehlt oder ist beschädigt.</translation>
     </message>
     <message>
-        <source>%1 does not belong to it.</source>
-        <translation>%1 gehört nicht dazu.</translation>
+        <source>it contains the unexpected file %1.</source>
+        <translation>Es enthält die unerwartete Datei %1.</translation>
     </message>
     <message>
-        <source>The folder of Vantle, %1, also holds &quot;%2&quot;, which is not part of it. Move that elsewhere first.</source>
-        <translation>Im Ordner von Vantle, %1, liegt auch „%2“, das nicht dazugehört. Legen Sie es zuerst woandershin.</translation>
+        <source>Vantle&apos;s folder %1 contains &quot;%2&quot;, which is not part of Vantle. Move it elsewhere, then try again.</source>
+        <translation>Der Ordner %1 von Vantle enthält „%2“, das nicht zu Vantle gehört. Verschieben Sie es an einen anderen Ort, und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
-        <source>The update is shorter than the feed says, so it was refused.</source>
-        <translation>Das Update ist kürzer, als der Feed sagt; es wurde abgelehnt.</translation>
+        <source>The downloaded file is shorter than expected, so it was refused.</source>
+        <translation>Die geladene Datei ist kürzer als erwartet und wurde abgelehnt.</translation>
     </message>
     <message>
         <source>The signature of the update is wrong, so it was refused.</source>
@@ -1057,12 +1057,12 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <translation>Diese Kopie von Vantle lässt sich nicht aktualisieren: Sie wurde ohne den Schlüssel gebaut, mit dem Updates signiert werden.</translation>
     </message>
     <message>
-        <source>The update feed is older than one that was seen before, so it was refused.</source>
-        <translation>Der Update-Feed ist älter als ein schon gesehener und wurde abgelehnt.</translation>
+        <source>The update feed is older than the last one received, so it was refused.</source>
+        <translation>Der Update-Feed ist älter als der zuletzt empfangene und wurde abgelehnt.</translation>
     </message>
     <message>
-        <source>This copy of Vantle cannot be replaced by itself.</source>
-        <translation>Diese Kopie von Vantle kann sich nicht selbst ersetzen.</translation>
+        <source>This copy of Vantle cannot update itself.</source>
+        <translation>Diese Kopie von Vantle kann sich nicht selbst aktualisieren.</translation>
     </message>
 </context>
 <context>
@@ -1113,7 +1113,7 @@ Vantle hält die neuesten auf einer Glaskarte in der Ecke bereit, bis Sie fertig
         <translation>Vantle ist aktuell</translation>
     </message>
     <message>
-        <source>Updates could not be checked</source>
+        <source>Could not check for updates</source>
         <translation>Die Suche nach Updates ist gescheitert</translation>
     </message>
     <message>
@@ -1121,8 +1121,8 @@ Vantle hält die neuesten auf einer Glaskarte in der Ecke bereit, bis Sie fertig
         <translation>Vantle konnte nicht aktualisiert werden</translation>
     </message>
     <message>
-        <source>You have version %1. The new one can be downloaded from the web.</source>
-        <translation>Sie haben Version %1. Die neue gibt es im Web.</translation>
+        <source>You have version %1. Download the new one from Vantle&apos;s website.</source>
+        <translation>Sie haben Version %1. Die neue können Sie von der Website von Vantle laden.</translation>
     </message>
     <message>
         <source>You have version %1. Would you like to install the new one now?</source>
@@ -1133,7 +1133,7 @@ Vantle hält die neuesten auf einer Glaskarte in der Ecke bereit, bis Sie fertig
         <translation>Ihr System fragt vielleicht um Erlaubnis.</translation>
     </message>
     <message>
-        <source>Vantle starts again in a moment.</source>
+        <source>Vantle will restart in a moment.</source>
         <translation>Vantle startet gleich neu.</translation>
     </message>
     <message>

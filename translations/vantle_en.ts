@@ -836,11 +836,11 @@ that runs; --settings, --show and --sample start one where none does.</source>
 <context>
     <name>UpdateProgram</name>
     <message>
-        <source>The program that does updates does not answer.</source>
+        <source>The update program does not respond.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The program that does updates failed: %1.</source>
+        <source>The update program failed: %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -858,15 +858,15 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it holds a file without a name.</source>
+        <source>it contains a file without a name.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it holds too many files.</source>
+        <source>it contains too many files.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it holds &quot;%1&quot;.</source>
+        <source>it contains the unexpected path &quot;%1&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -874,7 +874,7 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it holds &quot;%1&quot; twice.</source>
+        <source>it contains &quot;%1&quot; twice.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -882,23 +882,23 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has holes.</source>
+        <source>&quot;%1&quot; is a sparse file, which is not allowed.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is too large once it is unpacked.</source>
+        <source>its unpacked files are too large.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is no archive.</source>
+        <source>it is not an archive.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Version %1 needs a newer system: version %2 of the C library, and this is %3.</source>
+        <source>Version %1 needs a newer system (C library %2; this system has %3).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Version %1 carries no signature, so it was refused.</source>
+        <source>Version %1 is not signed, so it was refused.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -910,15 +910,15 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Vantle %1 is newer than the newest version that is offered, %2.</source>
+        <source>Vantle %1 is newer than the latest available version, %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>There is a newer version, but not for this system (%1).</source>
+        <source>A newer version exists, but not for this system (%1).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Vantle %1 is the newest version.</source>
+        <source>Vantle %1 is the latest version.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -934,43 +934,43 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Updates are fetched only by HTTPS, not from &quot;%1&quot;.</source>
+        <source>Updates are downloaded only over HTTPS, so the address &quot;%1&quot; was refused.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The server sent more than the %1 bytes that are expected at most.</source>
+        <source>The server sent more than the expected maximum of %1 bytes.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The server is too slow.</source>
+        <source>The server is too slow or does not respond. Try again later.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The server broke off in the middle.</source>
+        <source>The connection was lost during the download. Try again.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The server could not be asked: %1.</source>
+        <source>The server could not be reached: %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The server answered with the error %1.</source>
+        <source>The server reported error %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The server leads from one address to the next without end.</source>
+        <source>The server redirected too many times.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The system&apos;s package installer: %1</source>
+        <source>The system could not install the package: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it did not install the update.</source>
+        <source>it gave no reason.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The folder of Vantle cannot be replaced in one step: %1</source>
+        <source>Vantle&apos;s folder cannot be replaced in one step: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -978,11 +978,11 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Vantle %1 crashed at its start</source>
+        <source>Vantle %1 crashed when it started</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Vantle %1 ended at its start</source>
+        <source>Vantle %1 quit when it started</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -990,19 +990,19 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The update could not be put in place: %1.</source>
+        <source>The update could not be installed: %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1, and the version before it could not be put back: %2.</source>
+        <source>%1, and the previous version could not be restored: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1, so the version before it was put back.</source>
+        <source>%1, so the previous version was restored.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The update feed carries no signature, so it was refused.</source>
+        <source>The update feed is not signed, so it was refused.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1010,19 +1010,19 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 is in the way, and not ours.</source>
+        <source>%1 is not a folder that only you can access. Remove or rename it, then try again.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Another update is under way.</source>
+        <source>Another update is already in progress.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it should be version %1 and is &quot;%2&quot;.</source>
+        <source>it contains version &quot;%2&quot; instead of %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is not for this system (%1).</source>
+        <source>it was not built for this system (%1).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1034,15 +1034,15 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 does not belong to it.</source>
+        <source>it contains the unexpected file %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The folder of Vantle, %1, also holds &quot;%2&quot;, which is not part of it. Move that elsewhere first.</source>
+        <source>Vantle&apos;s folder %1 contains &quot;%2&quot;, which is not part of Vantle. Move it elsewhere, then try again.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The update is shorter than the feed says, so it was refused.</source>
+        <source>The downloaded file is shorter than expected, so it was refused.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1054,11 +1054,11 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The update feed is older than one that was seen before, so it was refused.</source>
+        <source>The update feed is older than the last one received, so it was refused.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This copy of Vantle cannot be replaced by itself.</source>
+        <source>This copy of Vantle cannot update itself.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1109,7 +1109,7 @@ Vantle keeps your latest screenshots and recordings in a glass panel in the corn
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Updates could not be checked</source>
+        <source>Could not check for updates</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1117,7 +1117,7 @@ Vantle keeps your latest screenshots and recordings in a glass panel in the corn
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>You have version %1. The new one can be downloaded from the web.</source>
+        <source>You have version %1. Download the new one from Vantle&apos;s website.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1129,7 +1129,7 @@ Vantle keeps your latest screenshots and recordings in a glass panel in the corn
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Vantle starts again in a moment.</source>
+        <source>Vantle will restart in a moment.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -839,11 +839,11 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
 <context>
     <name>UpdateProgram</name>
     <message>
-        <source>The program that does updates does not answer.</source>
+        <source>The update program does not respond.</source>
         <translation>Le programme de mise à jour ne répond pas.</translation>
     </message>
     <message>
-        <source>The program that does updates failed: %1.</source>
+        <source>The update program failed: %1.</source>
         <translation>Le programme de mise à jour a échoué&#xa0;: %1.</translation>
     </message>
 </context>
@@ -861,23 +861,23 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <translation>La mise à jour a été refusée&#xa0;: %1</translation>
     </message>
     <message>
-        <source>it holds a file without a name.</source>
+        <source>it contains a file without a name.</source>
         <translation>elle contient un fichier sans nom.</translation>
     </message>
     <message>
-        <source>it holds too many files.</source>
+        <source>it contains too many files.</source>
         <translation>elle contient trop de fichiers.</translation>
     </message>
     <message>
-        <source>it holds &quot;%1&quot;.</source>
-        <translation>elle contient «&#xa0;%1&#xa0;».</translation>
+        <source>it contains the unexpected path &quot;%1&quot;.</source>
+        <translation>elle contient le chemin inattendu « %1 ».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither a file nor a folder.</source>
         <translation>«&#xa0;%1&#xa0;» n’est ni un fichier ni un dossier.</translation>
     </message>
     <message>
-        <source>it holds &quot;%1&quot; twice.</source>
+        <source>it contains &quot;%1&quot; twice.</source>
         <translation>elle contient «&#xa0;%1&#xa0;» deux fois.</translation>
     </message>
     <message>
@@ -885,23 +885,23 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <translation>son archive est endommagée.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has holes.</source>
-        <translation>«&#xa0;%1&#xa0;» comporte des trous.</translation>
+        <source>&quot;%1&quot; is a sparse file, which is not allowed.</source>
+        <translation>« %1 » est un fichier creux, ce qui n’est pas autorisé.</translation>
     </message>
     <message>
-        <source>it is too large once it is unpacked.</source>
-        <translation>elle est trop grande une fois décompressée.</translation>
+        <source>its unpacked files are too large.</source>
+        <translation>ses fichiers décompressés sont trop volumineux.</translation>
     </message>
     <message>
-        <source>it is no archive.</source>
+        <source>it is not an archive.</source>
         <translation>ce n’est pas une archive.</translation>
     </message>
     <message>
-        <source>Version %1 needs a newer system: version %2 of the C library, and this is %3.</source>
-        <translation>La version %1 demande un système plus récent&#xa0;: version %2 de la bibliothèque C, et ici c’est %3.</translation>
+        <source>Version %1 needs a newer system (C library %2; this system has %3).</source>
+        <translation>La version %1 demande un système plus récent (bibliothèque C %2 ; ce système a %3).</translation>
     </message>
     <message>
-        <source>Version %1 carries no signature, so it was refused.</source>
+        <source>Version %1 is not signed, so it was refused.</source>
         <translation>La version %1 n’est pas signée&#xa0;; elle a été refusée.</translation>
     </message>
     <message>
@@ -913,15 +913,15 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <translation>La version %1 est trop grande pour une mise à jour&#xa0;; elle a été refusée.</translation>
     </message>
     <message>
-        <source>Vantle %1 is newer than the newest version that is offered, %2.</source>
-        <translation>Vantle %1 est plus récent que la dernière version proposée, %2.</translation>
+        <source>Vantle %1 is newer than the latest available version, %2.</source>
+        <translation>Vantle %1 est plus récent que la dernière version disponible, %2.</translation>
     </message>
     <message>
-        <source>There is a newer version, but not for this system (%1).</source>
+        <source>A newer version exists, but not for this system (%1).</source>
         <translation>Une version plus récente existe, mais pas pour ce système (%1).</translation>
     </message>
     <message>
-        <source>Vantle %1 is the newest version.</source>
+        <source>Vantle %1 is the latest version.</source>
         <translation>Vantle %1 est la version la plus récente.</translation>
     </message>
     <message>
@@ -937,43 +937,43 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <translation>Le flux de mises à jour est endommagé&#xa0;: il n’a pas de date.</translation>
     </message>
     <message>
-        <source>Updates are fetched only by HTTPS, not from &quot;%1&quot;.</source>
-        <translation>Les mises à jour ne sont téléchargées que par HTTPS, pas depuis «&#xa0;%1&#xa0;».</translation>
+        <source>Updates are downloaded only over HTTPS, so the address &quot;%1&quot; was refused.</source>
+        <translation>Les mises à jour ne sont téléchargées que par HTTPS ; l’adresse « %1 » a donc été refusée.</translation>
     </message>
     <message>
-        <source>The server sent more than the %1 bytes that are expected at most.</source>
+        <source>The server sent more than the expected maximum of %1 bytes.</source>
         <translation>Le serveur a envoyé plus que les %1 octets attendus au maximum.</translation>
     </message>
     <message>
-        <source>The server is too slow.</source>
-        <translation>Le serveur est trop lent.</translation>
+        <source>The server is too slow or does not respond. Try again later.</source>
+        <translation>Le serveur est trop lent ou ne répond pas. Réessayez plus tard.</translation>
     </message>
     <message>
-        <source>The server broke off in the middle.</source>
-        <translation>Le serveur s’est interrompu au milieu.</translation>
+        <source>The connection was lost during the download. Try again.</source>
+        <translation>La connexion a été perdue pendant le téléchargement. Réessayez.</translation>
     </message>
     <message>
-        <source>The server could not be asked: %1.</source>
+        <source>The server could not be reached: %1.</source>
         <translation>Le serveur n’a pas pu être joint&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>The server answered with the error %1.</source>
-        <translation>Le serveur a répondu par l’erreur %1.</translation>
+        <source>The server reported error %1.</source>
+        <translation>Le serveur a signalé l’erreur %1.</translation>
     </message>
     <message>
-        <source>The server leads from one address to the next without end.</source>
-        <translation>Le serveur redirige sans fin d’une adresse à l’autre.</translation>
+        <source>The server redirected too many times.</source>
+        <translation>Le serveur a redirigé trop de fois.</translation>
     </message>
     <message>
-        <source>The system&apos;s package installer: %1</source>
-        <translation>L’installateur de paquets du système&#xa0;: %1</translation>
+        <source>The system could not install the package: %1</source>
+        <translation>Le système n’a pas pu installer le paquet : %1</translation>
     </message>
     <message>
-        <source>it did not install the update.</source>
-        <translation>il n’a pas installé la mise à jour.</translation>
+        <source>it gave no reason.</source>
+        <translation>il n’a donné aucune raison.</translation>
     </message>
     <message>
-        <source>The folder of Vantle cannot be replaced in one step: %1</source>
+        <source>Vantle&apos;s folder cannot be replaced in one step: %1</source>
         <translation>Le dossier de Vantle ne peut pas être remplacé en une seule étape&#xa0;: %1</translation>
     </message>
     <message>
@@ -981,11 +981,11 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <translation>Vantle %1 n’a pas démarré à temps</translation>
     </message>
     <message>
-        <source>Vantle %1 crashed at its start</source>
+        <source>Vantle %1 crashed when it started</source>
         <translation>Vantle %1 a planté au démarrage</translation>
     </message>
     <message>
-        <source>Vantle %1 ended at its start</source>
+        <source>Vantle %1 quit when it started</source>
         <translation>Vantle %1 s’est arrêté au démarrage</translation>
     </message>
     <message>
@@ -993,19 +993,19 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <translation>Vantle %1 ne peut pas être lancé&#xa0;: %2</translation>
     </message>
     <message>
-        <source>The update could not be put in place: %1.</source>
-        <translation>La mise à jour n’a pas pu être mise en place&#xa0;: %1.</translation>
+        <source>The update could not be installed: %1.</source>
+        <translation>La mise à jour n’a pas pu être installée : %1.</translation>
     </message>
     <message>
-        <source>%1, and the version before it could not be put back: %2.</source>
+        <source>%1, and the previous version could not be restored: %2.</source>
         <translation>%1, et la version précédente n’a pas pu être remise&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>%1, so the version before it was put back.</source>
+        <source>%1, so the previous version was restored.</source>
         <translation>%1&#xa0;; la version précédente a donc été remise.</translation>
     </message>
     <message>
-        <source>The update feed carries no signature, so it was refused.</source>
+        <source>The update feed is not signed, so it was refused.</source>
         <translation>Le flux de mises à jour n’est pas signé&#xa0;; il a été refusé.</translation>
     </message>
     <message>
@@ -1013,20 +1013,20 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <translation>La signature du flux de mises à jour est fausse&#xa0;; il a été refusé.</translation>
     </message>
     <message>
-        <source>%1 is in the way, and not ours.</source>
-        <translation>%1 gêne et n’appartient pas à Vantle.</translation>
+        <source>%1 is not a folder that only you can access. Remove or rename it, then try again.</source>
+        <translation>%1 n’est pas un dossier auquel vous seul avez accès. Supprimez-le ou renommez-le, puis réessayez.</translation>
     </message>
     <message>
-        <source>Another update is under way.</source>
-        <translation>Une autre mise à jour est en cours.</translation>
+        <source>Another update is already in progress.</source>
+        <translation>Une autre mise à jour est déjà en cours.</translation>
     </message>
     <message>
-        <source>it should be version %1 and is &quot;%2&quot;.</source>
-        <translation>elle devrait être la version %1 et est «&#xa0;%2&#xa0;».</translation>
+        <source>it contains version &quot;%2&quot; instead of %1.</source>
+        <translation>elle contient la version « %2 » au lieu de %1.</translation>
     </message>
     <message>
-        <source>it is not for this system (%1).</source>
-        <translation>elle n’est pas pour ce système (%1).</translation>
+        <source>it was not built for this system (%1).</source>
+        <translation>elle n’a pas été compilée pour ce système (%1).</translation>
     </message>
     <message>
         <source>%1 is missing.</source>
@@ -1037,16 +1037,16 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <translation>%1 manque ou est endommagé.</translation>
     </message>
     <message>
-        <source>%1 does not belong to it.</source>
-        <translation>%1 n’en fait pas partie.</translation>
+        <source>it contains the unexpected file %1.</source>
+        <translation>elle contient le fichier inattendu %1.</translation>
     </message>
     <message>
-        <source>The folder of Vantle, %1, also holds &quot;%2&quot;, which is not part of it. Move that elsewhere first.</source>
-        <translation>Le dossier de Vantle, %1, contient aussi «&#xa0;%2&#xa0;», qui n’en fait pas partie. Déplacez-le d’abord ailleurs.</translation>
+        <source>Vantle&apos;s folder %1 contains &quot;%2&quot;, which is not part of Vantle. Move it elsewhere, then try again.</source>
+        <translation>Le dossier de Vantle, %1, contient « %2 », qui n’en fait pas partie. Déplacez-le ailleurs, puis réessayez.</translation>
     </message>
     <message>
-        <source>The update is shorter than the feed says, so it was refused.</source>
-        <translation>La mise à jour est plus courte que ne le dit le flux&#xa0;; elle a été refusée.</translation>
+        <source>The downloaded file is shorter than expected, so it was refused.</source>
+        <translation>Le fichier téléchargé est plus court que prévu ; il a été refusé.</translation>
     </message>
     <message>
         <source>The signature of the update is wrong, so it was refused.</source>
@@ -1057,12 +1057,12 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <translation>Cette copie de Vantle ne peut pas être mise à jour&#xa0;: elle a été construite sans la clé qui signe les mises à jour.</translation>
     </message>
     <message>
-        <source>The update feed is older than one that was seen before, so it was refused.</source>
-        <translation>Le flux de mises à jour est plus ancien qu’un flux déjà vu&#xa0;; il a été refusé.</translation>
+        <source>The update feed is older than the last one received, so it was refused.</source>
+        <translation>Le flux de mises à jour est plus ancien que le dernier reçu ; il a été refusé.</translation>
     </message>
     <message>
-        <source>This copy of Vantle cannot be replaced by itself.</source>
-        <translation>Cette copie de Vantle ne peut pas se remplacer elle-même.</translation>
+        <source>This copy of Vantle cannot update itself.</source>
+        <translation>Cette copie de Vantle ne peut pas se mettre à jour elle-même.</translation>
     </message>
 </context>
 <context>
@@ -1113,7 +1113,7 @@ Vantle garde vos dernières captures et vos enregistrements sur une carte de ver
         <translation>Vantle est à jour</translation>
     </message>
     <message>
-        <source>Updates could not be checked</source>
+        <source>Could not check for updates</source>
         <translation>La recherche de mises à jour a échoué</translation>
     </message>
     <message>
@@ -1121,8 +1121,8 @@ Vantle garde vos dernières captures et vos enregistrements sur une carte de ver
         <translation>Vantle n’a pas pu être mis à jour</translation>
     </message>
     <message>
-        <source>You have version %1. The new one can be downloaded from the web.</source>
-        <translation>Vous avez la version %1. La nouvelle peut être téléchargée sur le web.</translation>
+        <source>You have version %1. Download the new one from Vantle&apos;s website.</source>
+        <translation>Vous avez la version %1. Vous pouvez télécharger la nouvelle sur le site de Vantle.</translation>
     </message>
     <message>
         <source>You have version %1. Would you like to install the new one now?</source>
@@ -1133,7 +1133,7 @@ Vantle garde vos dernières captures et vos enregistrements sur une carte de ver
         <translation>Votre système peut vous demander votre autorisation.</translation>
     </message>
     <message>
-        <source>Vantle starts again in a moment.</source>
+        <source>Vantle will restart in a moment.</source>
         <translation>Vantle redémarre dans un instant.</translation>
     </message>
     <message>

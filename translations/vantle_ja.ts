@@ -822,11 +822,11 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
 <context>
     <name>UpdateProgram</name>
     <message>
-        <source>The program that does updates does not answer.</source>
+        <source>The update program does not respond.</source>
         <translation>アップデート用プログラムが応答しません。</translation>
     </message>
     <message>
-        <source>The program that does updates failed: %1.</source>
+        <source>The update program failed: %1.</source>
         <translation>アップデート用プログラムが失敗しました: %1。</translation>
     </message>
 </context>
@@ -844,23 +844,23 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>アップデートを拒否しました: %1</translation>
     </message>
     <message>
-        <source>it holds a file without a name.</source>
+        <source>it contains a file without a name.</source>
         <translation>名前のないファイルが含まれています。</translation>
     </message>
     <message>
-        <source>it holds too many files.</source>
+        <source>it contains too many files.</source>
         <translation>ファイルが多すぎます。</translation>
     </message>
     <message>
-        <source>it holds &quot;%1&quot;.</source>
-        <translation>「%1」が含まれています。</translation>
+        <source>it contains the unexpected path &quot;%1&quot;.</source>
+        <translation>予期しないパス「%1」が含まれています。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither a file nor a folder.</source>
         <translation>「%1」はファイルでもフォルダでもありません。</translation>
     </message>
     <message>
-        <source>it holds &quot;%1&quot; twice.</source>
+        <source>it contains &quot;%1&quot; twice.</source>
         <translation>「%1」が2回含まれています。</translation>
     </message>
     <message>
@@ -868,23 +868,23 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>アーカイブが破損しています。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has holes.</source>
-        <translation>「%1」に欠落があります。</translation>
+        <source>&quot;%1&quot; is a sparse file, which is not allowed.</source>
+        <translation>「%1」はスパースファイルです。これは許可されていません。</translation>
     </message>
     <message>
-        <source>it is too large once it is unpacked.</source>
+        <source>its unpacked files are too large.</source>
         <translation>展開すると大きすぎます。</translation>
     </message>
     <message>
-        <source>it is no archive.</source>
+        <source>it is not an archive.</source>
         <translation>アーカイブではありません。</translation>
     </message>
     <message>
-        <source>Version %1 needs a newer system: version %2 of the C library, and this is %3.</source>
-        <translation>バージョン%1にはより新しいシステムが必要です（Cライブラリ%2。現在は%3）。</translation>
+        <source>Version %1 needs a newer system (C library %2; this system has %3).</source>
+        <translation>バージョン%1にはより新しいシステムが必要です（Cライブラリ%2。このシステムは%3）。</translation>
     </message>
     <message>
-        <source>Version %1 carries no signature, so it was refused.</source>
+        <source>Version %1 is not signed, so it was refused.</source>
         <translation>バージョン%1には署名がないため、拒否しました。</translation>
     </message>
     <message>
@@ -896,15 +896,15 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>バージョン%1は大きすぎるため、拒否しました。</translation>
     </message>
     <message>
-        <source>Vantle %1 is newer than the newest version that is offered, %2.</source>
-        <translation>Vantle %1は、提供されている最新バージョン%2より新しいものです。</translation>
+        <source>Vantle %1 is newer than the latest available version, %2.</source>
+        <translation>Vantle %1は、入手できる最新バージョン%2より新しいものです。</translation>
     </message>
     <message>
-        <source>There is a newer version, but not for this system (%1).</source>
+        <source>A newer version exists, but not for this system (%1).</source>
         <translation>新しいバージョンがありますが、このシステム（%1）用ではありません。</translation>
     </message>
     <message>
-        <source>Vantle %1 is the newest version.</source>
+        <source>Vantle %1 is the latest version.</source>
         <translation>Vantle %1は最新バージョンです。</translation>
     </message>
     <message>
@@ -920,43 +920,43 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>アップデートのフィードが破損しています: 日付がありません。</translation>
     </message>
     <message>
-        <source>Updates are fetched only by HTTPS, not from &quot;%1&quot;.</source>
-        <translation>アップデートはHTTPSでのみ取得します。「%1」からは取得しません。</translation>
+        <source>Updates are downloaded only over HTTPS, so the address &quot;%1&quot; was refused.</source>
+        <translation>アップデートはHTTPSでのみダウンロードするため、アドレス「%1」を拒否しました。</translation>
     </message>
     <message>
-        <source>The server sent more than the %1 bytes that are expected at most.</source>
+        <source>The server sent more than the expected maximum of %1 bytes.</source>
         <translation>サーバが上限の%1バイトを超えるデータを送ってきました。</translation>
     </message>
     <message>
-        <source>The server is too slow.</source>
-        <translation>サーバが遅すぎます。</translation>
+        <source>The server is too slow or does not respond. Try again later.</source>
+        <translation>サーバが遅すぎるか、応答していません。あとでもう一度試してください。</translation>
     </message>
     <message>
-        <source>The server broke off in the middle.</source>
-        <translation>サーバが途中で切断しました。</translation>
+        <source>The connection was lost during the download. Try again.</source>
+        <translation>ダウンロード中に接続が切れました。もう一度試してください。</translation>
     </message>
     <message>
-        <source>The server could not be asked: %1.</source>
+        <source>The server could not be reached: %1.</source>
         <translation>サーバに接続できませんでした: %1。</translation>
     </message>
     <message>
-        <source>The server answered with the error %1.</source>
+        <source>The server reported error %1.</source>
         <translation>サーバがエラー%1を返しました。</translation>
     </message>
     <message>
-        <source>The server leads from one address to the next without end.</source>
-        <translation>サーバの転送が終わりません。</translation>
+        <source>The server redirected too many times.</source>
+        <translation>サーバの転送回数が多すぎます。</translation>
     </message>
     <message>
-        <source>The system&apos;s package installer: %1</source>
-        <translation>システムのパッケージインストーラ: %1</translation>
+        <source>The system could not install the package: %1</source>
+        <translation>システムがパッケージをインストールできませんでした: %1</translation>
     </message>
     <message>
-        <source>it did not install the update.</source>
-        <translation>アップデートはインストールされませんでした。</translation>
+        <source>it gave no reason.</source>
+        <translation>理由は示されませんでした。</translation>
     </message>
     <message>
-        <source>The folder of Vantle cannot be replaced in one step: %1</source>
+        <source>Vantle&apos;s folder cannot be replaced in one step: %1</source>
         <translation>Vantleのフォルダを一度に置き換えられません: %1</translation>
     </message>
     <message>
@@ -964,11 +964,11 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>Vantle %1は時間内に起動しませんでした</translation>
     </message>
     <message>
-        <source>Vantle %1 crashed at its start</source>
+        <source>Vantle %1 crashed when it started</source>
         <translation>Vantle %1は起動時にクラッシュしました</translation>
     </message>
     <message>
-        <source>Vantle %1 ended at its start</source>
+        <source>Vantle %1 quit when it started</source>
         <translation>Vantle %1は起動時に終了しました</translation>
     </message>
     <message>
@@ -976,19 +976,19 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>Vantle %1を起動できません: %2</translation>
     </message>
     <message>
-        <source>The update could not be put in place: %1.</source>
-        <translation>アップデートを適用できませんでした: %1。</translation>
+        <source>The update could not be installed: %1.</source>
+        <translation>アップデートをインストールできませんでした: %1。</translation>
     </message>
     <message>
-        <source>%1, and the version before it could not be put back: %2.</source>
+        <source>%1, and the previous version could not be restored: %2.</source>
         <translation>%1。前のバージョンにも戻せませんでした: %2。</translation>
     </message>
     <message>
-        <source>%1, so the version before it was put back.</source>
+        <source>%1, so the previous version was restored.</source>
         <translation>%1。前のバージョンに戻しました。</translation>
     </message>
     <message>
-        <source>The update feed carries no signature, so it was refused.</source>
+        <source>The update feed is not signed, so it was refused.</source>
         <translation>アップデートのフィードに署名がないため、拒否しました。</translation>
     </message>
     <message>
@@ -996,20 +996,20 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>アップデートのフィードの署名が正しくないため、拒否しました。</translation>
     </message>
     <message>
-        <source>%1 is in the way, and not ours.</source>
-        <translation>%1が邪魔をしていますが、Vantleのものではありません。</translation>
+        <source>%1 is not a folder that only you can access. Remove or rename it, then try again.</source>
+        <translation>%1は、あなただけがアクセスできるフォルダではありません。削除するか名前を変更してから、もう一度試してください。</translation>
     </message>
     <message>
-        <source>Another update is under way.</source>
-        <translation>別のアップデートが進行中です。</translation>
+        <source>Another update is already in progress.</source>
+        <translation>別のアップデートがすでに進行中です。</translation>
     </message>
     <message>
-        <source>it should be version %1 and is &quot;%2&quot;.</source>
-        <translation>バージョン%1のはずが「%2」です。</translation>
+        <source>it contains version &quot;%2&quot; instead of %1.</source>
+        <translation>バージョン%1ではなく「%2」が含まれています。</translation>
     </message>
     <message>
-        <source>it is not for this system (%1).</source>
-        <translation>このシステム（%1）用ではありません。</translation>
+        <source>it was not built for this system (%1).</source>
+        <translation>このシステム（%1）用にビルドされていません。</translation>
     </message>
     <message>
         <source>%1 is missing.</source>
@@ -1020,16 +1020,16 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>%1がないか、破損しています。</translation>
     </message>
     <message>
-        <source>%1 does not belong to it.</source>
-        <translation>%1は含まれるべきものではありません。</translation>
+        <source>it contains the unexpected file %1.</source>
+        <translation>予期しないファイル%1が含まれています。</translation>
     </message>
     <message>
-        <source>The folder of Vantle, %1, also holds &quot;%2&quot;, which is not part of it. Move that elsewhere first.</source>
-        <translation>Vantleのフォルダ%1に、含まれるべきでない「%2」があります。先に別の場所へ移してください。</translation>
+        <source>Vantle&apos;s folder %1 contains &quot;%2&quot;, which is not part of Vantle. Move it elsewhere, then try again.</source>
+        <translation>Vantleのフォルダ%1に、Vantleの一部ではない「%2」があります。別の場所へ移してから、もう一度試してください。</translation>
     </message>
     <message>
-        <source>The update is shorter than the feed says, so it was refused.</source>
-        <translation>アップデートがフィードの記載より短いため、拒否しました。</translation>
+        <source>The downloaded file is shorter than expected, so it was refused.</source>
+        <translation>ダウンロードしたファイルが予定より短いため、拒否しました。</translation>
     </message>
     <message>
         <source>The signature of the update is wrong, so it was refused.</source>
@@ -1040,12 +1040,12 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>このVantleはアップデートの署名鍵なしでビルドされているため、アップデートできません。</translation>
     </message>
     <message>
-        <source>The update feed is older than one that was seen before, so it was refused.</source>
-        <translation>アップデートのフィードが以前のものより古いため、拒否しました。</translation>
+        <source>The update feed is older than the last one received, so it was refused.</source>
+        <translation>アップデートのフィードが前回受信したものより古いため、拒否しました。</translation>
     </message>
     <message>
-        <source>This copy of Vantle cannot be replaced by itself.</source>
-        <translation>このVantleは自分自身を置き換えられません。</translation>
+        <source>This copy of Vantle cannot update itself.</source>
+        <translation>このVantleは自分自身をアップデートできません。</translation>
     </message>
 </context>
 <context>
@@ -1096,7 +1096,7 @@ Vantle keeps your latest screenshots and recordings in a glass panel in the corn
         <translation>Vantleは最新です</translation>
     </message>
     <message>
-        <source>Updates could not be checked</source>
+        <source>Could not check for updates</source>
         <translation>アップデートを確認できませんでした</translation>
     </message>
     <message>
@@ -1104,8 +1104,8 @@ Vantle keeps your latest screenshots and recordings in a glass panel in the corn
         <translation>Vantleをアップデートできませんでした</translation>
     </message>
     <message>
-        <source>You have version %1. The new one can be downloaded from the web.</source>
-        <translation>現在のバージョンは%1です。新しいものはWebからダウンロードできます。</translation>
+        <source>You have version %1. Download the new one from Vantle&apos;s website.</source>
+        <translation>現在のバージョンは%1です。新しいものはVantleのWebサイトからダウンロードできます。</translation>
     </message>
     <message>
         <source>You have version %1. Would you like to install the new one now?</source>
@@ -1116,7 +1116,7 @@ Vantle keeps your latest screenshots and recordings in a glass panel in the corn
         <translation>システムが許可を求めることがあります。</translation>
     </message>
     <message>
-        <source>Vantle starts again in a moment.</source>
+        <source>Vantle will restart in a moment.</source>
         <translation>まもなくVantleが再起動します。</translation>
     </message>
     <message>

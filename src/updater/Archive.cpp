@@ -37,10 +37,12 @@ public:
     Outcome take(archive_entry& entry) {
         const char* name = archive_entry_pathname(&entry);
         if (!name || !*name)
-            return refused(localized("Updater", "it holds a file without a name."));
-        if (left_.entries-- == 0) return refused(localized("Updater", "it holds too many files."));
+            return refused(localized("Updater", "it contains a file without a name."));
+        if (left_.entries-- == 0)
+            return refused(localized("Updater", "it contains too many files."));
         if (!isInside(name))
-            return refused(filled(localized("Updater", "it holds \"%1\"."), {name}));
+            return refused(
+                filled(localized("Updater", "it contains the unexpected path \"%1\"."), {name}));
         const fs::path path = fs::path(name).lexically_relative(top);
         const bool isLink = archive_entry_hardlink(&entry) || archive_entry_symlink(&entry);
         if (!isLink && archive_entry_filetype(&entry) == AE_IFDIR) return makeFolder(path);
@@ -71,7 +73,7 @@ private:
         if (!file) {
             if (errno == EEXIST)
                 return refused(
-                    filled(localized("Updater", "it holds \"%1\" twice."), {path.string()}));
+                    filled(localized("Updater", "it contains \"%1\" twice."), {path.string()}));
             return systemFailure(errno, path);
         }
         if (auto failure = copyTo(file.get(), path)) return failure;
@@ -90,9 +92,11 @@ private:
             if (status != ARCHIVE_OK)
                 return refused(localized("Updater", "its archive is damaged."));
             if (offset != end)
-                return refused(filled(localized("Updater", "\"%1\" has holes."), {path.string()}));
+                return refused(
+                    filled(localized("Updater", "\"%1\" is a sparse file, which is not allowed."),
+                           {path.string()}));
             if (size > left_.bytes)
-                return refused(localized("Updater", "it is too large once it is unpacked."));
+                return refused(localized("Updater", "its unpacked files are too large."));
             left_.bytes -= size;
             end += static_cast<la_int64_t>(size);
             if (auto failure = write(file, static_cast<const char*>(data), size, path))
@@ -129,7 +133,7 @@ Outcome unpack(std::string_view bytes, const fs::path& folder, const ArchiveLimi
     archive_read_support_format_tar(source.get());
     archive_read_support_filter_zstd(source.get());
     if (archive_read_open_memory(source.get(), bytes.data(), bytes.size()) != ARCHIVE_OK)
-        return refused(localized("Updater", "it is no archive."));
+        return refused(localized("Updater", "it is not an archive."));
     Unpacking unpacking(*source, folder, limits);
     for (;;) {
         archive_entry* entry = nullptr;

@@ -24,15 +24,13 @@ std::optional<UpdateReport> refusal(const FeedItem& item, const Enclosure& enclo
                                     const UpdateCriteria& criteria) {
     const std::string& name = item.displayVersion;
     if (isNewer(item.minimumSystemVersion, criteria.systemVersion))
-        return report::NothingFound{filled(
-            localized("Updater",
-                      "Version %1 needs a newer system: version %2 of the C library, and this is "
-                      "%3."),
-            {name, item.minimumSystemVersion, criteria.systemVersion})};
+        return report::NothingFound{
+            filled(localized("Updater",
+                             "Version %1 needs a newer system (C library %2; this system has %3)."),
+                   {name, item.minimumSystemVersion, criteria.systemVersion})};
     if (enclosure.signature.empty())
         return report::Failed{
-            filled(localized("Updater", "Version %1 carries no signature, so it was refused."),
-                   {name}),
+            filled(localized("Updater", "Version %1 is not signed, so it was refused."), {name}),
             {}};
     if (enclosure.length == 0)
         return report::Failed{
@@ -72,13 +70,13 @@ report::NothingFound nothing(const std::vector<FeedItem>& items, const UpdateCri
     }
     if (isNewer(criteria.version, newest) && !newest.empty())
         return {filled(
-            localized("Updater", "Vantle %1 is newer than the newest version that is offered, %2."),
+            localized("Updater", "Vantle %1 is newer than the latest available version, %2."),
             {criteria.version, newest})};
     if (isForOthers)
         return {
-            filled(localized("Updater", "There is a newer version, but not for this system (%1)."),
+            filled(localized("Updater", "A newer version exists, but not for this system (%1)."),
                    {criteria.platform})};
-    return {filled(localized("Updater", "Vantle %1 is the newest version."), {criteria.version})};
+    return {filled(localized("Updater", "Vantle %1 is the latest version."), {criteria.version})};
 }
 
 /// Returns the newer items for this platform, the newest first.

@@ -34,7 +34,9 @@ report::Failed failed(const std::string& message, const std::string& page = conf
 
 void guardWriting(const fs::path& folder) {
     if (!writeOnlyBeneath(folder))
-        Debug::log([] { return "no guard for files here; the updater's own checks must do"; });
+        Debug::log([] {
+            return "Landlock is not available; only the updater's own checks protect other files";
+        });
 }
 
 Result<std::string> fetchVerified(const UpdateItem& item) {
@@ -48,7 +50,8 @@ Result<std::string> fetchVerified(const UpdateItem& item) {
     if (bytes.value().size() != item.length)
         return Failure{
             0,
-            localized("Updater", "The update is shorter than the feed says, so it was refused."),
+            localized("Updater",
+                      "The downloaded file is shorter than expected, so it was refused."),
             {}};
     if (!isSigned(bytes.value(), item.signature, built.publicKey))
         return Failure{
@@ -130,8 +133,7 @@ UpdateReport check(const Installation& installation, const std::string& feed,
     if (!read) return failed(read.failure().message);
     if (read.value().date < newestFeed)
         return failed(localized(
-            "Updater",
-            "The update feed is older than one that was seen before, so it was refused."));
+            "Updater", "The update feed is older than the last one received, so it was refused."));
     tell(report::FeedLoaded{read.value().items.size(), read.value().date});
     return choose(read.value(), {.version = version,
                                  .platform = platformName(installation.kind),
@@ -150,8 +152,7 @@ UpdateReport prepare(const Installation& installation, const UpdateItem& item) {
         case UpdateItem::Installation::page:
             break;
     }
-    return failed(localized("Updater", "This copy of Vantle cannot be replaced by itself."),
-                  item.page);
+    return failed(localized("Updater", "This copy of Vantle cannot update itself."), item.page);
 }
 
 }  // namespace vantle::updater

@@ -53,7 +53,9 @@ bool isSecure(const std::string& address) {
 
 Failure notAllowed(const std::string& address) {
     return failureOf(filled(
-        localized("Updater", "Updates are fetched only by HTTPS, not from \"%1\"."), {address}));
+        localized("Updater",
+                  "Updates are downloaded only over HTTPS, so the address \"%1\" was refused."),
+        {address}));
 }
 
 std::size_t take(char* data, std::size_t, std::size_t size, void* context) {
@@ -91,15 +93,16 @@ void prepare(CURL* curl, const std::string& address, Transfer& transfer) {
 
 Failure failureFrom(CURLcode code, const Transfer& transfer) {
     if (transfer.isTooLong)
-        return failureOf(
-            filled(localized("Updater",
-                             "The server sent more than the %1 bytes that are expected at most."),
-                   {std::to_string(transfer.limits.bytes)}));
+        return failureOf(filled(
+            localized("Updater", "The server sent more than the expected maximum of %1 bytes."),
+            {std::to_string(transfer.limits.bytes)}));
     if (code == CURLE_OPERATION_TIMEDOUT)
-        return failureOf(localized("Updater", "The server is too slow."));
+        return failureOf(
+            localized("Updater", "The server is too slow or does not respond. Try again later."));
     if (code == CURLE_PARTIAL_FILE)
-        return failureOf(localized("Updater", "The server broke off in the middle."));
-    return failureOf(filled(localized("Updater", "The server could not be asked: %1."),
+        return failureOf(
+            localized("Updater", "The connection was lost during the download. Try again."));
+    return failureOf(filled(localized("Updater", "The server could not be reached: %1."),
                             {curl_easy_strerror(code)}));
 }
 
@@ -128,9 +131,8 @@ Result<std::string> fetch(const std::string& address, const FetchLimits& limits,
         curl_easy_getinfo(curl.get(), CURLINFO_RESPONSE_CODE, &status);
         if (!redirection) {
             if (status != 200)
-                return failureOf(
-                    filled(localized("Updater", "The server answered with the error %1."),
-                           {std::to_string(status)}));
+                return failureOf(filled(localized("Updater", "The server reported error %1."),
+                                        {std::to_string(status)}));
             return std::move(transfer.bytes);
         }
         // A server on the web must not redirect to services of this machine.
@@ -138,8 +140,7 @@ Result<std::string> fetch(const std::string& address, const FetchLimits& limits,
         if (!isSafe) return notAllowed(redirection);
         next = redirection;
     }
-    return failureOf(
-        localized("Updater", "The server leads from one address to the next without end."));
+    return failureOf(localized("Updater", "The server redirected too many times."));
 }
 
 }  // namespace vantle::updater

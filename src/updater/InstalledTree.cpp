@@ -86,10 +86,11 @@ std::map<std::string, std::string> releaseOf(const fs::path& tree) {
 Outcome verifyTree(const fs::path& tree, const std::string& version, const std::string& platform) {
     auto release = releaseOf(tree);
     if (release["version"] != version)
-        return wrong(filled(localized("Updater", "it should be version %1 and is \"%2\"."),
+        return wrong(filled(localized("Updater", "it contains version \"%2\" instead of %1."),
                             {version, release["version"]}));
     if (release["platform"] != platform || release["installation"] != "tree")
-        return wrong(filled(localized("Updater", "it is not for this system (%1)."), {platform}));
+        return wrong(
+            filled(localized("Updater", "it was not built for this system (%1)."), {platform}));
     const Manifest manifest = manifestOf(tree);
     for (const auto* needed : {"bin/vantle", "bin/vantle-updater", releaseFile})
         if (!manifest.contains(needed))
@@ -103,8 +104,8 @@ Outcome verifyTree(const fs::path& tree, const std::string& version, const std::
     const fs::path stranger = strangerIn(tree, manifest, error);
     if (error) return systemFailure(error.value(), tree);
     if (!stranger.empty())
-        return wrong(
-            filled(localized("Updater", "%1 does not belong to it."), {stranger.string()}));
+        return wrong(filled(localized("Updater", "it contains the unexpected file %1."),
+                            {stranger.string()}));
     return {};
 }
 
@@ -113,13 +114,12 @@ Outcome refuseStrangers(const fs::path& tree) {
     const fs::path stranger = strangerIn(tree, manifestOf(tree), error);
     if (error) return systemFailure(error.value(), tree);
     if (stranger.empty()) return {};
-    return Failure{
-        0,
-        filled(localized("Updater",
-                         "The folder of Vantle, %1, also holds \"%2\", which is not part "
-                         "of it. Move that elsewhere first."),
-               {tree.string(), stranger.string()}),
-        tree};
+    return Failure{0,
+                   filled(localized("Updater",
+                                    "Vantle's folder %1 contains \"%2\", which is not part of "
+                                    "Vantle. Move it elsewhere, then try again."),
+                          {tree.string(), stranger.string()}),
+                   tree};
 }
 
 }  // namespace vantle::updater

@@ -25,7 +25,9 @@ struct Transaction {
 };
 
 Failure failureOf(const std::string& message) {
-    return {0, filled(localized("Updater", "The system's package installer: %1"), {message}), {}};
+    return {0,
+            filled(localized("Updater", "The system could not install the package: %1"), {message}),
+            {}};
 }
 
 Failure failureOf(const sd_bus_error& error, int code) {
@@ -97,9 +99,8 @@ public:
             if (result_ < 0 && result_ != -EINTR) return failureOf(error_, -result_);
         }
         if (transaction.hasSucceeded) return {};
-        return failureOf(transaction.message.empty()
-                             ? localized("Updater", "it did not install the update.")
-                             : transaction.message);
+        return failureOf(transaction.message.empty() ? localized("Updater", "it gave no reason.")
+                                                     : transaction.message);
     }
 
 private:

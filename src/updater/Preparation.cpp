@@ -40,7 +40,7 @@ Outcome checkPlace(const fs::path& tree, const Staging& staging) {
     if (const auto failure = tryExchange(staging))
         return Failure{
             failure->code,
-            filled(localized("Updater", "The folder of Vantle cannot be replaced in one step: %1"),
+            filled(localized("Updater", "Vantle's folder cannot be replaced in one step: %1"),
                    {failure->message}),
             failure->path};
     for (const auto& part : {staging.unpacking(), staging.next()})

@@ -106,8 +106,9 @@ public:
         int status = 0;
         while (waitpid(process_, &status, 0) < 0 && errno == EINTR) continue;
         return filled(!hasEnded ? localized("Updater", "Vantle %1 did not start in time")
-                      : WIFSIGNALED(status) ? localized("Updater", "Vantle %1 crashed at its start")
-                                            : localized("Updater", "Vantle %1 ended at its start"),
+                      : WIFSIGNALED(status)
+                          ? localized("Updater", "Vantle %1 crashed when it started")
+                          : localized("Updater", "Vantle %1 quit when it started"),
                       {version});
     }
 
@@ -153,18 +154,18 @@ int replaceAndStart(const Installation& installation, const std::string& version
     if (!refused) refused = replaceTree(installation.tree, staging.value());
     if (refused)
         return startAgain(program, "",
-                          filled(localized("Updater", "The update could not be put in place: %1."),
+                          filled(localized("Updater", "The update could not be installed: %1."),
                                  {refused->message}));
     const std::string problem = startNew(program, version);
     if (problem.empty()) return EXIT_SUCCESS;
     if (const auto failure = restoreTree(installation.tree, staging.value()))
         return startAgain(
             staging.value().previous() / "bin/vantle", version,
-            filled(localized("Updater", "%1, and the version before it could not be put back: %2."),
+            filled(localized("Updater", "%1, and the previous version could not be restored: %2."),
                    {problem, failure->message}));
     return startAgain(
         program, version,
-        filled(localized("Updater", "%1, so the version before it was put back."), {problem}));
+        filled(localized("Updater", "%1, so the previous version was restored."), {problem}));
 }
 
 }  // namespace

@@ -48,9 +48,7 @@ Result<std::string> signedPart(const std::string& feed, const std::string& publi
         at != std::string::npos && feed.size() - at <= maximum ? feed.substr(at) : "";
     if (!std::regex_match(comment, match, form))
         return Failure{
-            0,
-            localized("Updater", "The update feed carries no signature, so it was refused."),
-            {}};
+            0, localized("Updater", "The update feed is not signed, so it was refused."), {}};
     std::string part = feed.substr(0, at);
     if (std::stoul(match[2]) != at || !isSigned(part, match[1], publicKey))
         return Failure{

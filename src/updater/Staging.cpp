@@ -29,15 +29,18 @@ Result<Staging> Staging::open(const fs::path& tree) {
     const fs::path folder = tree.parent_path() / ("." + tree.filename().string() + "-update");
     if (mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST) return systemFailure(errno, folder);
     if (!isOwnFolder(folder))
-        return Failure{
-            EPERM,
-            filled(localized("Updater", "%1 is in the way, and not ours."), {folder.string()}),
-            folder};
+        return Failure{EPERM,
+                       filled(localized("Updater",
+                                        "%1 is not a folder that only you can access. Remove or "
+                                        "rename it, then try again."),
+                              {folder.string()}),
+                       folder};
     FileDescriptor lock(
         ::open((folder / "lock").c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
     if (!lock) return systemFailure(errno, folder);
     if (flock(lock.get(), LOCK_EX | LOCK_NB) != 0)
-        return Failure{EBUSY, localized("Updater", "Another update is under way."), folder};
+        return Failure{EBUSY, localized("Updater", "Another update is already in progress."),
+                       folder};
     return Staging(folder, std::move(lock));
 }
 

@@ -132,7 +132,7 @@ TEST_F(UpdateProgramTest, ARelaunchWithoutAnAnswerIsAFailure) {
     desk.setScript("exit 0");
     const auto failure = desk.engine->relaunch(item);
     ASSERT_TRUE(failure.has_value());
-    EXPECT_EQ(failure->message, "The program that does updates does not answer.");
+    EXPECT_EQ(failure->message, "The update program does not respond.");
 }
 
 TEST_F(UpdateProgramTest, RunningWorkEndsWithIt) {

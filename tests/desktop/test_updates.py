@@ -168,8 +168,8 @@ def test_a_version_that_does_not_start_is_rolled_back(
 
 
 def reason(script):
-    problem = "crashed" if "kill" in script else "ended"
-    return f"Vantle {LATER} {problem} at its start, so the version before it was put back."
+    problem = "crashed" if "kill" in script else "quit"
+    return f"Vantle {LATER} {problem} when it started, so the previous version was restored."
 
 
 def test_a_rollback_does_not_take_the_keyboard(desktop, vantle, screens, publisher, later):
@@ -218,9 +218,9 @@ def test_a_killed_updater_is_reported(desktop, vantle, tree, screens, server, pu
 def test_a_check_that_fails_says_why(desktop, vantle, screens, publisher, later):
     publisher.save_feed(b"<rss/>")
     vantle.start_watching()
-    screens.wait_for_text("Updates could not be checked")
-    screens.wait_for_text("The update feed carries no signature, so it was refused.")
-    assert "sparkle: aborted: The update feed carries no signature" in vantle.log_text()
+    screens.wait_for_text("Could not check for updates")
+    screens.wait_for_text("The update feed is not signed, so it was refused.")
+    assert "sparkle: aborted: The update feed is not signed" in vantle.log_text()
 
 
 def test_a_check_from_the_menu_of_the_tray(desktop, vantle, screens, publisher, later):

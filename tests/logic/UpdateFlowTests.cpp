@@ -96,9 +96,9 @@ TEST_F(UpdateFlowTest, UsesExactlyTheValueOfAnOverride) {
 
 TEST_F(UpdateFlowTest, ACheckThatFindsNothingWritesOneLine) {
     make().checkForUpdates();
-    report(report::NothingFound{"Vantle 1.0 is the newest version."});
+    report(report::NothingFound{"Vantle 1.0 is the latest version."});
     EXPECT_THAT(log.lines(),
-                ElementsAre("Vantle[dbg]: sparkle: no update: Vantle 1.0 is the newest version."));
+                ElementsAre("Vantle[dbg]: sparkle: no update: Vantle 1.0 is the latest version."));
 }
 
 TEST_F(UpdateFlowTest, AnAppcastWithThreeItemsIsLogged) {
@@ -412,7 +412,7 @@ TEST_F(UpdateFlowTest, ARolledBackVersionIsReportedAndNotOfferedAgainByTheSchedu
 }
 
 TEST_F(UpdateFlowTest, AnUntriedVersionIsOfferedAgain) {
-    engine.rolledBack = report::RolledBack{"", "The update could not be put in place."};
+    engine.rolledBack = report::RolledBack{"", "The update could not be installed."};
     make();
     time.settle();
     EXPECT_EQ(stage(), Stage::failed);

@@ -68,7 +68,7 @@ TEST_F(ReplacementTest, AStagingFolderThatOthersCanUseIsRefused) {
     chmod(folder.c_str(), 0777);
     const auto staging = Staging::open(tree);
     ASSERT_FALSE(staging);
-    EXPECT_THAT(staging.failure().message, HasSubstr("in the way"));
+    EXPECT_THAT(staging.failure().message, HasSubstr("is not a folder that only you can access"));
 }
 
 TEST_F(ReplacementTest, OnlyOneUpdaterCanUseItAtATime) {

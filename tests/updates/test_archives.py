@@ -74,7 +74,7 @@ def test_a_shorter_archive_is_refused(copy, server, publisher, archive):
     feed = publisher.publish(archive, NEW)
     server.save("archive.tar.zst", archive[:-1])
     assert message_of(copy.check_and_prepare(feed)) == (
-        "The update is shorter than the feed says, so it was refused."
+        "The downloaded file is shorter than expected, so it was refused."
     )
 
 
@@ -82,23 +82,29 @@ def test_a_longer_archive_is_refused(copy, server, publisher, archive):
     feed = publisher.publish(archive, NEW)
     server.save("archive.tar.zst", archive + b"x")
     assert message_of(copy.check_and_prepare(feed)) == (
-        f"The server sent more than the {len(archive)} bytes that are expected at most."
+        f"The server sent more than the expected maximum of {len(archive)} bytes."
     )
 
 
 def test_an_interrupted_transfer_is_reported(copy, server, publisher, archive):
     feed = publisher.publish(archive, NEW, address=server.address("cut/archive"))
-    assert message_of(copy.check_and_prepare(feed)) == "The server broke off in the middle."
+    assert message_of(copy.check_and_prepare(feed)) == (
+        "The connection was lost during the download. Try again."
+    )
 
 
 def test_a_slow_transfer_is_given_up(copy, server, publisher, archive):
     feed = publisher.publish(archive, NEW, address=server.address("slow/archive.tar.zst"))
-    assert message_of(copy.check_and_prepare(feed)) == "The server is too slow."
+    assert message_of(copy.check_and_prepare(feed)) == (
+        "The server is too slow or does not respond. Try again later."
+    )
 
 
 def test_an_archive_at_a_plain_address_is_refused(copy, publisher, archive):
     feed = publisher.publish(archive, NEW, address="http://vantle.example/archive")
-    assert message_of(copy.check_and_prepare(feed)).startswith("Updates are fetched only by HTTPS")
+    assert message_of(copy.check_and_prepare(feed)).startswith(
+        "Updates are downloaded only over HTTPS"
+    )
 
 
 @pytest.mark.parametrize("name", [
@@ -108,21 +114,23 @@ def test_an_archive_at_a_plain_address_is_refused(copy, publisher, archive):
 def test_a_name_that_leads_elsewhere_is_refused(copy, publisher, name):
     contents = hand_made_archive(entry("vantle/bin/vantle", b"good"), entry(name, b"bad"))
     assert refuse(copy, publisher, contents) == (
-        f'The update was refused: it holds "{name}".'
+        f'The update was refused: it contains the unexpected path "{name}".'
     )
 
 
 def test_a_file_without_a_name_is_refused(copy, publisher):
     contents = hand_made_archive(entry("vantle/bin/vantle", b"good"), entry("", b"bad"))
     assert refuse(copy, publisher, contents) == (
-        "The update was refused: it holds a file without a name."
+        "The update was refused: it contains a file without a name."
     )
 
 
 def test_an_absolute_name_is_refused(copy, publisher, tmp_path):
     name = str(tmp_path / "outside")
     contents = hand_made_archive(entry(name, b"bad"))
-    assert refuse(copy, publisher, contents) == f'The update was refused: it holds "{name}".'
+    assert refuse(copy, publisher, contents) == (
+        f'The update was refused: it contains the unexpected path "{name}".'
+    )
     assert not (tmp_path / "outside").exists()
 
 
@@ -152,7 +160,7 @@ def test_a_file_below_a_link_is_refused(copy, publisher, tmp_path):
 def test_a_file_twice_is_refused(copy, publisher):
     contents = hand_made_archive(entry("vantle/a", b"one"), entry("vantle/a", b"other"))
     assert refuse(copy, publisher, contents) == (
-        'The update was refused: it holds "a" twice.'
+        'The update was refused: it contains "a" twice.'
     )
 
 
@@ -160,14 +168,14 @@ def test_an_archive_that_unpacks_to_too_much_is_refused(copy, publisher):
     contents = hand_made_archive(entry("vantle/bomb", b"\0" * (600 << 20)))
     assert len(contents) < 1 << 20
     assert refuse(copy, publisher, contents) == (
-        "The update was refused: it is too large once it is unpacked."
+        "The update was refused: its unpacked files are too large."
     )
 
 
 def test_an_archive_with_too_many_files_is_refused(copy, publisher):
     contents = hand_made_archive(*(entry(f"vantle/{i}") for i in range(10_001)))
     assert refuse(copy, publisher, contents) == (
-        "The update was refused: it holds too many files."
+        "The update was refused: it contains too many files."
     )
 
 
@@ -186,17 +194,18 @@ def test_an_archive_that_was_cut_before_it_was_signed_is_refused(copy, publisher
 
 def test_a_wrong_version_is_refused(copy, publisher, archive):
     assert refuse(copy, publisher, archive, "1.2") == (
-        'The update was refused: it should be version 1.2 and is "1.1".'
+        'The update was refused: it contains version "1.1" instead of 1.2.'
     )
 
 
 @pytest.mark.parametrize("change, message", [
-    (lambda tree: (tree / "bin/extra").write_text("x"), "bin/extra does not belong to it."),
+    (lambda tree: (tree / "bin/extra").write_text("x"),
+     "it contains the unexpected file bin/extra."),
     (lambda tree: (tree / "bin/vantle").write_text("x"), "bin/vantle is missing or damaged."),
     (lambda tree: (tree / "bin/vantle").unlink(), "bin/vantle is missing or damaged."),
     (lambda tree: (tree / "share/vantle/manifest").unlink(), "bin/vantle is missing."),
     (lambda tree: (tree / "share/vantle/release").unlink(),
-     'it should be version 1.1 and is "".'),
+     'it contains version "" instead of 1.1.'),
 ], ids=["stranger", "changed", "missing", "no-manifest", "no-release"])
 def test_an_archive_that_contradicts_itself_is_refused(copy, publisher, tmp_path, change, message):
     contents = make_archive(tmp_path / "bad", NEW, copy.programs("echo new"), change)
@@ -227,7 +236,10 @@ def test_a_link_in_place_of_the_staging_folder_is_refused(copy, publisher, archi
     outside.mkdir(mode=0o700)
     copy.staging.symlink_to(outside)
     message = message_of(copy.check_and_prepare(publisher.publish(archive, NEW)))
-    assert message.endswith("is in the way, and not ours.")
+    assert message == (
+        f"{copy.staging} is not a folder that only you can access. "
+        "Remove or rename it, then try again."
+    )
     assert not list(outside.iterdir())
 
 
@@ -235,7 +247,10 @@ def test_files_of_the_user_in_the_tree_stop_it(copy, publisher, archive):
     mine = copy.tree / "my notes.txt"
     mine.write_text("precious")
     reports = copy.check_and_prepare(publisher.publish(archive, NEW))
-    assert 'also holds "my notes.txt"' in message_of(reports)
+    assert message_of(reports) == (
+        f'Vantle\'s folder {copy.tree} contains "my notes.txt", which is not part of Vantle. '
+        "Move it elsewhere, then try again."
+    )
     mine.unlink()
 
 
@@ -245,7 +260,7 @@ def test_files_of_the_user_in_the_previous_version_stop_it(copy, publisher, arch
     shutil.copytree(copy.tree, previous)
     (previous / "my notes.txt").write_text("precious")
     reports = copy.check_and_prepare(publisher.publish(archive, NEW))
-    assert 'also holds "my notes.txt"' in message_of(reports)
+    assert 'contains "my notes.txt"' in message_of(reports)
     assert (previous / "my notes.txt").read_text() == "precious"
 
 
@@ -254,4 +269,4 @@ def test_two_updates_at_a_time_are_refused(copy, publisher, archive):
     with open(copy.staging / "lock", "w", encoding="utf-8") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)
         reports = copy.check_and_prepare(publisher.publish(archive, NEW))
-    assert message_of(reports) == "Another update is under way."
+    assert message_of(reports) == "Another update is already in progress."

@@ -47,33 +47,33 @@ def test_the_newest_of_several_is_found(copy, publisher):
 
 def test_the_same_version_is_up_to_date(copy, publisher):
     assert reason(copy.check(publisher.publish(ARCHIVE, OLD))) == (
-        "Vantle 1.0 is the newest version."
+        "Vantle 1.0 is the latest version."
     )
 
 
 def test_a_downgrade_is_refused(copy, publisher):
     assert reason(copy.check(publisher.publish(ARCHIVE, "0.9"))) == (
-        "Vantle 1.0 is newer than the newest version that is offered, 0.9."
+        "Vantle 1.0 is newer than the latest available version, 0.9."
     )
 
 
 def test_a_feed_without_items_offers_nothing(copy, publisher):
     feed = publisher.changed(publisher.feed(ARCHIVE, NEW), b"<item>", b"<other>")
     feed = publisher.changed(feed, b"</item>", b"</other>")
-    assert reason(copy.check(publisher.save_feed(feed))) == "Vantle 1.0 is the newest version."
+    assert reason(copy.check(publisher.save_feed(feed))) == "Vantle 1.0 is the latest version."
 
 
 def test_a_version_for_another_system_is_not_offered(copy, publisher):
     feed = publisher.publish(ARCHIVE, NEW, platform="linux-pdp11")
     assert reason(copy.check(feed)) == (
-        f"There is a newer version, but not for this system ({SYSTEM})."
+        f"A newer version exists, but not for this system ({SYSTEM})."
     )
 
 
 def test_a_version_for_a_newer_system_is_not_offered(copy, publisher):
     feed = publisher.publish(ARCHIVE, NEW, minimum_system_version="99.1")
-    assert "Version 1.1 needs a newer system: version 99.1 of the C library" in reason(
-        copy.check(feed)
+    assert reason(copy.check(feed)).startswith(
+        "Version 1.1 needs a newer system (C library 99.1; this system has "
     )
 
 
@@ -85,14 +85,14 @@ def test_an_older_version_for_this_system_is_better_than_none(copy, publisher):
 
 def test_a_channel_is_offered_only_on_request(copy, publisher):
     feed = publisher.publish(ARCHIVE, NEW, channel="beta")
-    assert reason(copy.check(feed)) == "Vantle 1.0 is the newest version."
+    assert reason(copy.check(feed)) == "Vantle 1.0 is the latest version."
     assert copy.check(feed, "--channel=beta")[-1][:2] == ["found", NEW]
 
 
 def test_an_unsigned_version_is_refused(copy, publisher):
     feed = publisher.changed(publisher.feed(ARCHIVE, NEW), b"sparkle:edSignature", b"sparkle:none")
     assert failure(copy.check(publisher.save_feed(feed))) == (
-        "Version 1.1 carries no signature, so it was refused."
+        "Version 1.1 is not signed, so it was refused."
     )
 
 
@@ -115,7 +115,7 @@ def test_an_unsigned_feed_is_refused(copy, publisher):
     feed = publisher.feed(ARCHIVE, NEW)
     unsigned = feed[: feed.index(b"<!-- sparkle-signatures")]
     assert failure(copy.check(publisher.save_feed(unsigned))) == (
-        "The update feed carries no signature, so it was refused."
+        "The update feed is not signed, so it was refused."
     )
 
 
@@ -129,7 +129,7 @@ def test_a_changed_feed_is_refused(copy, publisher):
 def test_a_feed_with_something_after_its_signature_is_refused(copy, publisher):
     feed = publisher.feed(ARCHIVE, NEW) + b"<rss/>"
     assert failure(copy.check(publisher.save_feed(feed))) == (
-        "The update feed carries no signature, so it was refused."
+        "The update feed is not signed, so it was refused."
     )
 
 
@@ -155,7 +155,7 @@ def test_an_outdated_feed_is_refused(copy, publisher):
     yesterday = publisher.publish(ARCHIVE, NEW, date=NOW - datetime.timedelta(days=1))
     newest = f"--newest-feed={int(NOW.timestamp())}"
     assert failure(copy.check(yesterday, newest)) == (
-        "The update feed is older than one that was seen before, so it was refused."
+        "The update feed is older than the last one received, so it was refused."
     )
     assert copy.check(publisher.publish(ARCHIVE, NEW), newest)[-1][0] == "found"
 
@@ -188,30 +188,32 @@ def test_entities_are_not_expanded(copy, publisher):
 def test_an_oversized_feed_is_refused(copy, publisher):
     feed = publisher.signed(b"<rss>" + b" " * 2_000_000 + b"</rss>")
     assert failure(copy.check(publisher.save_feed(feed))) == (
-        "The server sent more than the 1048576 bytes that are expected at most."
+        "The server sent more than the expected maximum of 1048576 bytes."
     )
 
 
 def test_a_slow_server_is_given_up(copy, server, publisher):
     publisher.save_feed(publisher.signed(b"<rss>" + b" " * 20_000))
-    assert failure(copy.check(server.address("slow/appcast.xml"))) == "The server is too slow."
+    assert failure(copy.check(server.address("slow/appcast.xml"))) == (
+        "The server is too slow or does not respond. Try again later."
+    )
 
 
 def test_an_interrupted_answer_is_reported(copy, server):
     assert failure(copy.check(server.address("cut/appcast.xml"))) == (
-        "The server broke off in the middle."
+        "The connection was lost during the download. Try again."
     )
 
 
 def test_a_missing_feed_is_reported(copy, server):
     assert failure(copy.check(server.address("nothing.xml"))) == (
-        "The server answered with the error 404."
+        "The server reported error 404."
     )
 
 
 def test_a_missing_server_is_reported(copy):
     message = failure(copy.check("https://127.0.0.1:1/appcast.xml"))
-    assert message.startswith("The server could not be asked: ")
+    assert message.startswith("The server could not be reached: ")
 
 
 def test_a_server_with_an_unknown_certificate_is_refused(copy, server, publisher):
@@ -246,20 +248,21 @@ def test_a_feed_is_never_older_than_the_one_before(copy, publisher):
 ])
 def test_a_redirection_to_anything_but_https_is_refused(copy, server, path, target):
     assert failure(copy.check(server.address(path))) == (
-        f'Updates are fetched only by HTTPS, not from "{target}".'
+        f'Updates are downloaded only over HTTPS, so the address "{target}" was refused.'
     )
 
 
 def test_a_redirection_in_a_circle_ends(copy, server):
     assert failure(copy.check(server.address("round/"))) == (
-        "The server leads from one address to the next without end."
+        "The server redirected too many times."
     )
 
 
 def test_a_redirection_from_the_web_to_this_machine_is_refused(copy, server, publisher):
     publisher.publish(ARCHIVE, NEW)
     assert failure(copy.check(server.address("inside/appcast.xml"))) == (
-        f'Updates are fetched only by HTTPS, not from "{server.plain_address("appcast.xml")}".'
+        "Updates are downloaded only over HTTPS, "
+        f'so the address "{server.plain_address("appcast.xml")}" was refused.'
     )
 
 
@@ -277,7 +280,7 @@ def test_this_machine_needs_no_https(copy, server, publisher):
 ])
 def test_other_addresses_are_refused(copy, address):
     assert failure(copy.check(address)) == (
-        f'Updates are fetched only by HTTPS, not from "{address}".'
+        f'Updates are downloaded only over HTTPS, so the address "{address}" was refused.'
     )
 
 
@@ -287,13 +290,14 @@ def test_other_addresses_are_refused(copy, address):
 def test_each_name_of_this_machine_needs_no_https(copy, host):
     # No server listens there.
     message = failure(copy.check(f"http://{host}:1/appcast.xml"))
-    assert message.startswith("The server could not be asked: ")
+    assert message.startswith("The server could not be reached: ")
 
 
 def test_the_built_in_feed_is_used_without_another_one(copy):
     reports = copy.run("check", f"--version={OLD}")
     assert failure(reports) == (
-        f'Updates are fetched only by HTTPS, not from "{os.environ["VANTLE_BUILT_IN_FEED"]}".'
+        "Updates are downloaded only over HTTPS, "
+        f'so the address "{os.environ["VANTLE_BUILT_IN_FEED"]}" was refused.'
     )
 
 

@@ -96,7 +96,7 @@ def test_a_package_is_handed_to_the_system(copy, service, prepare, cache):
 def test_a_refusal_of_the_system_is_reported(service, prepare, cache):
     service("refuse")
     assert message_of(prepare()) == (
-        "The system's package installer: You are not allowed to do this."
+        "The system could not install the package: You are not allowed to do this."
     )
     assert not list((cache / "vantle").iterdir())
 
@@ -105,17 +105,17 @@ def test_a_refusal_of_the_system_is_reported(service, prepare, cache):
 def test_a_failure_without_a_message_is_reported(service, prepare, ending):
     service(ending)
     assert message_of(prepare()) == (
-        "The system's package installer: it did not install the update."
+        "The system could not install the package: it gave no reason."
     )
 
 
 def test_a_refused_call_is_reported(service, prepare):
     service("refuse-method")
-    assert message_of(prepare()) == "The system's package installer: Not today."
+    assert message_of(prepare()) == "The system could not install the package: Not today."
 
 
 def test_a_missing_installer_is_reported(prepare):
-    assert message_of(prepare()).startswith("The system's package installer: ")
+    assert message_of(prepare()).startswith("The system could not install the package: ")
 
 
 def test_a_missing_bus_is_reported(copy, prepare, monkeypatch, bus):
@@ -128,7 +128,7 @@ def test_a_missing_bus_is_reported(copy, prepare, monkeypatch, bus):
         return run(*arguments, **environment)
 
     monkeypatch.setattr(copy, "run", without_bus)
-    assert message_of(prepare()).startswith("The system's package installer: ")
+    assert message_of(prepare()).startswith("The system could not install the package: ")
 
 
 def test_an_unsigned_package_never_reaches_the_installer(copy, server, service, prepare):

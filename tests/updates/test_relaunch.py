@@ -55,10 +55,10 @@ def test_it_can_be_updated_again_and_again(copy, ready, publisher, tmp_path):
 
 
 @pytest.mark.parametrize("script, problem", [
-    ("kill -SEGV $$", "crashed at its start"),
-    ("exit 3", "ended at its start"),
+    ("kill -SEGV $$", "crashed when it started"),
+    ("exit 3", "quit when it started"),
     ("exec sleep 600", "did not start in time"),
-    ('eval "exec $VANTLE_UPDATE_READY>&-"; kill -ABRT $$', "crashed at its start"),
+    ('eval "exec $VANTLE_UPDATE_READY>&-"; kill -ABRT $$', "crashed when it started"),
 ], ids=["crash", "error", "hang", "crash-without-pipe"])
 def test_a_version_that_does_not_report_its_start_is_rolled_back(copy, ready, script, problem):
     before = copy.snapshot()
@@ -68,7 +68,7 @@ def test_a_version_that_does_not_report_its_start_is_rolled_back(copy, ready, sc
     assert copy.status == 1
     assert copy.snapshot() == before
     assert log(copy) == (
-        f"old rolled-back\t{NEW}\tVantle 1.1 {problem}, so the version before it was put back."
+        f"old rolled-back\t{NEW}\tVantle 1.1 {problem}, so the previous version was restored."
     )
     assert f"Vantle: Vantle 1.1 {problem}" in copy.errors
     assert {path.name for path in copy.staging.iterdir()} == {"lock"}
@@ -86,7 +86,7 @@ def test_a_version_that_ends_before_it_reports_its_start_is_rolled_back(copy, re
     ready("exit 0")
     relaunch(copy)
     assert copy.version() == OLD
-    assert "old rolled-back\t1.1\tVantle 1.1 ended at its start" in log(copy)
+    assert "old rolled-back\t1.1\tVantle 1.1 quit when it started" in log(copy)
 
 
 def test_a_version_that_hands_over_to_a_running_copy_counts_as_started(copy, ready):
@@ -179,7 +179,7 @@ def test_files_that_were_put_into_the_tree_meanwhile_stop_it(copy, ready):
     (copy.tree / "my notes.txt").write_text("precious")
     relaunch(copy)
     assert copy.version() == OLD
-    assert 'also holds "my notes.txt"' in log(copy)
+    assert 'contains "my notes.txt"' in log(copy)
 
 
 def test_without_a_prepared_version_the_old_one_starts_again(copy, ready):
@@ -187,4 +187,4 @@ def test_without_a_prepared_version_the_old_one_starts_again(copy, ready):
     subprocess.run(["rm", "-r", copy.staging / "next"], check=True)
     relaunch(copy)
     assert copy.version() == OLD
-    assert "old rolled-back\t\tThe update could not be put in place: " in log(copy)
+    assert "old rolled-back\t\tThe update could not be installed: " in log(copy)

@@ -95,7 +95,7 @@ TEST_F(UpdateViewTest, ReturnCancelsADownloadOnlyOnItsButton) {
 
 TEST_F(UpdateViewTest, AFailureOffersThePage) {
     openNamed("check-failed");
-    EXPECT_TRUE(has("Updates could not be checked"));
+    EXPECT_TRUE(has("Could not check for updates"));
     click("Open Download Page");
     EXPECT_THAT(opener.pages, ElementsAre("https://vantle.example/download"));
     EXPECT_EQ(stage(), Stage::closed);

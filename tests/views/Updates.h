@@ -43,7 +43,7 @@ inline std::vector<std::pair<std::string, UpdateState>> updateStates() {
           .speed = 1'240'000}},
         {"installing", {.stage = Stage::installing, .item = offeredItem()}},
         {"installing-package", {.stage = Stage::installing, .item = package}},
-        {"up-to-date", {.stage = Stage::upToDate, .message = "Vantle 1.0 is the newest version."}},
+        {"up-to-date", {.stage = Stage::upToDate, .message = "Vantle 1.0 is the latest version."}},
         {"check-failed",
          {.stage = Stage::checkFailed,
           .message = "The signature of the update feed is wrong, so the feed was refused.",
@@ -51,8 +51,7 @@ inline std::vector<std::pair<std::string, UpdateState>> updateStates() {
         {"update-failed",
          {.stage = Stage::failed,
           .item = offeredItem(),
-          .message = "Vantle 1.2 crashed at its start, so the version before it was put "
-                     "back."}}};
+          .message = "Vantle 1.2 crashed when it started, so the previous version was restored."}}};
 }
 
 }  // namespace vantle

@@ -113,8 +113,7 @@ Outcome UpdateProgram::relaunch(const UpdateItem& item) {
     pollfd waiting{answer.get(), POLLIN, 0};
     char byte = 0;
     if (poll(&waiting, 1, timeout) == 1 && ::read(answer.get(), &byte, 1) == 1) return {};
-    return Failure{ETIME,
-                   localized("UpdateProgram", "The program that does updates does not answer."),
+    return Failure{ETIME, localized("UpdateProgram", "The update program does not respond."),
                    program_.toStdString()};
 }
 
@@ -160,8 +159,7 @@ void UpdateProgram::end() {
     process_.release()->deleteLater();
     const auto told = std::exchange(onReport_, nullptr);
     told(last_.value_or(report::Failed{
-        filled(localized("UpdateProgram", "The program that does updates failed: %1."), {error}),
-        {}}));
+        filled(localized("UpdateProgram", "The update program failed: %1."), {error}), {}}));
 }
 
 }  // namespace vantle

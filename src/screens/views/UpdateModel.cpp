@@ -39,7 +39,7 @@ QString UpdateModel::headline() const {
         case Stage::upToDate:
             return tr("Vantle is up to date");
         case Stage::checkFailed:
-            return tr("Updates could not be checked");
+            return tr("Could not check for updates");
         case Stage::failed:
             return tr("Vantle could not be updated");
         case Stage::closed:
@@ -52,7 +52,7 @@ QString UpdateModel::detail() const {
     switch (state_.stage) {
         case Stage::found: {
             const QString question =
-                isPage() ? tr("You have version %1. The new one can be downloaded from the web.")
+                isPage() ? tr("You have version %1. Download the new one from Vantle's website.")
                          : tr("You have version %1. Would you like to install the new one now?");
             return question.arg(QString::fromStdString(flow_.version()));
         }
@@ -61,7 +61,7 @@ QString UpdateModel::detail() const {
         case Stage::installing:
             return state_.item.installation == UpdateItem::Installation::package
                        ? tr("Your system may ask for your permission.")
-                       : tr("Vantle starts again in a moment.");
+                       : tr("Vantle will restart in a moment.");
         default:
             return QString::fromStdString(state_.message);
     }
