@@ -175,36 +175,36 @@
         <translation>hält die Beobachtung bis --resume an</translation>
     </message>
     <message>
-        <source>watch again</source>
+        <source>resume watching</source>
         <translation>beobachtet wieder</translation>
     </message>
     <message>
-        <source>show the screenshots or recordings on the card</source>
+        <source>show screenshots or recordings on the card</source>
         <translation>zeigt Bildschirmfotos oder Aufzeichnungen auf der Karte</translation>
     </message>
     <message>
-        <source>take the card away</source>
-        <translation>nimmt die Karte weg</translation>
+        <source>dismiss the card</source>
+        <translation>schließt die Karte</translation>
     </message>
     <message>
-        <source>give the card the keyboard</source>
-        <translation>gibt der Karte die Tastatur</translation>
+        <source>move the keyboard focus to the card</source>
+        <translation>setzt den Tastaturfokus auf die Karte</translation>
     </message>
     <message>
-        <source>open the folder that is watched</source>
-        <translation>öffnet den beobachteten Ordner</translation>
+        <source>open the screenshots folder</source>
+        <translation>öffnet den Ordner für Bildschirmfotos</translation>
     </message>
     <message>
         <source>show two sample captures</source>
         <translation>zeigt zwei Beispielaufnahmen</translation>
     </message>
     <message>
-        <source>end Vantle</source>
+        <source>quit Vantle</source>
         <translation>beendet Vantle</translation>
     </message>
     <message>
-        <source>say what Vantle is doing</source>
-        <translation>sagt, was Vantle gerade tut</translation>
+        <source>print the status of Vantle</source>
+        <translation>gibt den Status von Vantle aus</translation>
     </message>
     <message>
         <source>print the version</source>
@@ -225,32 +225,32 @@
     <message>
         <source>Usage: vantle [OPTION]
 
-Starts Vantle, or brings the one that runs forward. With an option it talks to the one
-that runs; --settings, --show and --sample start one where none does.</source>
+Starts Vantle, or brings the running copy to the front. Options control the running
+copy; --settings, --show and --sample start Vantle if it is not running.</source>
         <translation>Aufruf: vantle [OPTION]
 
-Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das laufende;
---settings, --show und --sample starten eines, wo keines läuft.</translation>
+Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende Vantle;
+--settings, --show und --sample starten Vantle, wenn es nicht läuft.</translation>
     </message>
     <message>
-        <source>Exit status: 0 when it was done, 1 when it could not be, 2 for a wrong command line.</source>
-        <translation>Exit-Status: 0, wenn es getan wurde, 1, wenn es nicht ging, 2 bei falschem Aufruf.</translation>
+        <source>Exit status: 0 on success, 1 on failure, 2 for an invalid command line.</source>
+        <translation>Exit-Status: 0 bei Erfolg, 1 bei einem Fehler, 2 bei falschem Aufruf.</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;</source>
         <translation>unbekannte Option „%1“</translation>
     </message>
     <message>
-        <source>%1 needs a file</source>
-        <translation>%1 braucht eine Datei</translation>
+        <source>%1 needs at least one file</source>
+        <translation>%1 braucht mindestens eine Datei</translation>
     </message>
     <message>
-        <source>with all that a report of a fault needs</source>
+        <source>include everything that a bug report needs</source>
         <translation>mit allem, was ein Fehlerbericht braucht</translation>
     </message>
     <message>
-        <source>and with the paths in it</source>
-        <translation>und mit den Pfaden darin</translation>
+        <source>include paths as well</source>
+        <translation>auch mit den Pfaden</translation>
     </message>
     <message>
         <source>FILE…</source>
@@ -260,8 +260,8 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
 <context>
     <name>Compositor</name>
     <message>
-        <source>On Wayland your desktop decides what stands in the taskbar.</source>
-        <translation>Unter Wayland entscheidet Ihr Desktop, was in der Taskleiste steht.</translation>
+        <source>On Wayland, your desktop decides which windows appear in the taskbar.</source>
+        <translation>Unter Wayland entscheidet Ihr Desktop, welche Fenster in der Taskleiste erscheinen.</translation>
     </message>
 </context>
 <context>
@@ -589,27 +589,27 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
 <context>
     <name>Requests</name>
     <message>
-        <source>Vantle is ending</source>
+        <source>Vantle is shutting down</source>
         <translation>Vantle wird gerade beendet</translation>
     </message>
     <message>
-        <source>there is no action &quot;%1&quot;</source>
-        <translation>die Aktion „%1“ gibt es nicht</translation>
+        <source>unknown action &quot;%1&quot;</source>
+        <translation>unbekannte Aktion „%1“</translation>
     </message>
     <message>
         <source>no such file</source>
         <translation>diese Datei gibt es nicht</translation>
     </message>
     <message>
-        <source>not a screenshot or recording</source>
-        <translation>kein Bildschirmfoto und keine Aufzeichnung</translation>
+        <source>not a supported image or recording</source>
+        <translation>kein unterstütztes Bild und keine unterstützte Aufzeichnung</translation>
     </message>
     <message>
         <source>Vantle is not running</source>
         <translation>Vantle läuft nicht</translation>
     </message>
     <message>
-        <source>the copy that runs does not answer</source>
+        <source>the running copy does not respond</source>
         <translation>das laufende Vantle antwortet nicht</translation>
     </message>
     <message>
@@ -617,8 +617,8 @@ Startet Vantle oder holt das laufende nach vorn. Eine Option richtet sich an das
         <translation>Vantle ist noch nicht bereit</translation>
     </message>
     <message>
-        <source>no card is shown</source>
-        <translation>es ist keine Karte zu sehen</translation>
+        <source>the card is not visible</source>
+        <translation>die Karte ist nicht zu sehen</translation>
     </message>
 </context>
 <context>

@@ -175,23 +175,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>watch again</source>
+        <source>resume watching</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>show the screenshots or recordings on the card</source>
+        <source>show screenshots or recordings on the card</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>take the card away</source>
+        <source>dismiss the card</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>give the card the keyboard</source>
+        <source>move the keyboard focus to the card</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>open the folder that is watched</source>
+        <source>open the screenshots folder</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -199,11 +199,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>end Vantle</source>
+        <source>quit Vantle</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>say what Vantle is doing</source>
+        <source>print the status of Vantle</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -215,11 +215,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>with all that a report of a fault needs</source>
+        <source>include everything that a bug report needs</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>and with the paths in it</source>
+        <source>include paths as well</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -231,14 +231,14 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 needs a file</source>
+        <source>%1 needs at least one file</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Usage: vantle [OPTION]
 
-Starts Vantle, or brings the one that runs forward. With an option it talks to the one
-that runs; --settings, --show and --sample start one where none does.</source>
+Starts Vantle, or brings the running copy to the front. Options control the running
+copy; --settings, --show and --sample start Vantle if it is not running.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -246,7 +246,7 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Exit status: 0 when it was done, 1 when it could not be, 2 for a wrong command line.</source>
+        <source>Exit status: 0 on success, 1 on failure, 2 for an invalid command line.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -257,7 +257,7 @@ that runs; --settings, --show and --sample start one where none does.</source>
 <context>
     <name>Compositor</name>
     <message>
-        <source>On Wayland your desktop decides what stands in the taskbar.</source>
+        <source>On Wayland, your desktop decides which windows appear in the taskbar.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -586,15 +586,15 @@ that runs; --settings, --show and --sample start one where none does.</source>
 <context>
     <name>Requests</name>
     <message>
-        <source>Vantle is ending</source>
+        <source>Vantle is shutting down</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>there is no action &quot;%1&quot;</source>
+        <source>unknown action &quot;%1&quot;</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>no card is shown</source>
+        <source>the card is not visible</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -602,7 +602,7 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>not a screenshot or recording</source>
+        <source>not a supported image or recording</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -610,7 +610,7 @@ that runs; --settings, --show and --sample start one where none does.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the copy that runs does not answer</source>
+        <source>the running copy does not respond</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

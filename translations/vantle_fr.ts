@@ -175,36 +175,36 @@
         <translation>suspend la surveillance jusqu’à --resume</translation>
     </message>
     <message>
-        <source>watch again</source>
+        <source>resume watching</source>
         <translation>reprend la surveillance</translation>
     </message>
     <message>
-        <source>show the screenshots or recordings on the card</source>
+        <source>show screenshots or recordings on the card</source>
         <translation>montre des captures ou enregistrements sur la carte</translation>
     </message>
     <message>
-        <source>take the card away</source>
-        <translation>retire la carte</translation>
+        <source>dismiss the card</source>
+        <translation>ferme la carte</translation>
     </message>
     <message>
-        <source>give the card the keyboard</source>
-        <translation>donne le clavier à la carte</translation>
+        <source>move the keyboard focus to the card</source>
+        <translation>donne le focus du clavier à la carte</translation>
     </message>
     <message>
-        <source>open the folder that is watched</source>
-        <translation>ouvre le dossier surveillé</translation>
+        <source>open the screenshots folder</source>
+        <translation>ouvre le dossier des captures d’écran</translation>
     </message>
     <message>
         <source>show two sample captures</source>
         <translation>montre deux captures d’exemple</translation>
     </message>
     <message>
-        <source>end Vantle</source>
+        <source>quit Vantle</source>
         <translation>quitte Vantle</translation>
     </message>
     <message>
-        <source>say what Vantle is doing</source>
-        <translation>dit ce que fait Vantle</translation>
+        <source>print the status of Vantle</source>
+        <translation>affiche l’état de Vantle</translation>
     </message>
     <message>
         <source>print the version</source>
@@ -225,32 +225,32 @@
     <message>
         <source>Usage: vantle [OPTION]
 
-Starts Vantle, or brings the one that runs forward. With an option it talks to the one
-that runs; --settings, --show and --sample start one where none does.</source>
-        <translation>Utilisation&#xa0;: vantle [OPTION]
+Starts Vantle, or brings the running copy to the front. Options control the running
+copy; --settings, --show and --sample start Vantle if it is not running.</source>
+        <translation>Utilisation : vantle [OPTION]
 
-Lance Vantle, ou ramène au premier plan celui qui tourne. Une option s’adresse à celui qui
-tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas.</translation>
+Lance Vantle, ou ramène au premier plan la copie en cours d’exécution. Les options
+commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin.</translation>
     </message>
     <message>
-        <source>Exit status: 0 when it was done, 1 when it could not be, 2 for a wrong command line.</source>
-        <translation>Code de sortie&#xa0;: 0 si c’est fait, 1 si ce n’était pas possible, 2 pour une ligne de commande erronée.</translation>
+        <source>Exit status: 0 on success, 1 on failure, 2 for an invalid command line.</source>
+        <translation>Code de sortie : 0 en cas de succès, 1 en cas d’échec, 2 pour une ligne de commande invalide.</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;</source>
         <translation>option inconnue «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>%1 needs a file</source>
-        <translation>%1 demande un fichier</translation>
+        <source>%1 needs at least one file</source>
+        <translation>%1 demande au moins un fichier</translation>
     </message>
     <message>
-        <source>with all that a report of a fault needs</source>
+        <source>include everything that a bug report needs</source>
         <translation>avec tout ce qu’il faut pour signaler un problème</translation>
     </message>
     <message>
-        <source>and with the paths in it</source>
-        <translation>et avec les chemins</translation>
+        <source>include paths as well</source>
+        <translation>avec aussi les chemins</translation>
     </message>
     <message>
         <source>FILE…</source>
@@ -260,8 +260,8 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
 <context>
     <name>Compositor</name>
     <message>
-        <source>On Wayland your desktop decides what stands in the taskbar.</source>
-        <translation>Sous Wayland, votre bureau décide de ce qui figure dans la barre des tâches.</translation>
+        <source>On Wayland, your desktop decides which windows appear in the taskbar.</source>
+        <translation>Sous Wayland, votre bureau décide quelles fenêtres figurent dans la barre des tâches.</translation>
     </message>
 </context>
 <context>
@@ -589,27 +589,27 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
 <context>
     <name>Requests</name>
     <message>
-        <source>Vantle is ending</source>
+        <source>Vantle is shutting down</source>
         <translation>Vantle est en train de quitter</translation>
     </message>
     <message>
-        <source>there is no action &quot;%1&quot;</source>
-        <translation>il n’y a pas d’action «&#xa0;%1&#xa0;»</translation>
+        <source>unknown action &quot;%1&quot;</source>
+        <translation>action inconnue « %1 »</translation>
     </message>
     <message>
         <source>no such file</source>
         <translation>fichier introuvable</translation>
     </message>
     <message>
-        <source>not a screenshot or recording</source>
-        <translation>ni une capture d’écran ni un enregistrement</translation>
+        <source>not a supported image or recording</source>
+        <translation>ni une image ni un enregistrement pris en charge</translation>
     </message>
     <message>
         <source>Vantle is not running</source>
         <translation>Vantle n’est pas lancé</translation>
     </message>
     <message>
-        <source>the copy that runs does not answer</source>
+        <source>the running copy does not respond</source>
         <translation>la copie en cours d’exécution ne répond pas</translation>
     </message>
     <message>
@@ -617,8 +617,8 @@ tourne&#xa0;; --settings, --show et --sample en lancent un s’il n’y en a pas
         <translation>Vantle n’est pas encore prêt</translation>
     </message>
     <message>
-        <source>no card is shown</source>
-        <translation>aucune carte n’est affichée</translation>
+        <source>the card is not visible</source>
+        <translation>la carte n’est pas visible</translation>
     </message>
 </context>
 <context>

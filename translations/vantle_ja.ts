@@ -175,35 +175,35 @@
         <translation>--resumeまで監視を止めます</translation>
     </message>
     <message>
-        <source>watch again</source>
+        <source>resume watching</source>
         <translation>監視を再開します</translation>
     </message>
     <message>
-        <source>show the screenshots or recordings on the card</source>
+        <source>show screenshots or recordings on the card</source>
         <translation>スクリーンショットや収録をカードに表示します</translation>
     </message>
     <message>
-        <source>take the card away</source>
+        <source>dismiss the card</source>
         <translation>カードを閉じます</translation>
     </message>
     <message>
-        <source>give the card the keyboard</source>
+        <source>move the keyboard focus to the card</source>
         <translation>キーボード操作をカードに移します</translation>
     </message>
     <message>
-        <source>open the folder that is watched</source>
-        <translation>監視しているフォルダを開きます</translation>
+        <source>open the screenshots folder</source>
+        <translation>スクリーンショットのフォルダを開きます</translation>
     </message>
     <message>
         <source>show two sample captures</source>
         <translation>サンプルを2枚表示します</translation>
     </message>
     <message>
-        <source>end Vantle</source>
+        <source>quit Vantle</source>
         <translation>Vantleを終了します</translation>
     </message>
     <message>
-        <source>say what Vantle is doing</source>
+        <source>print the status of Vantle</source>
         <translation>Vantleの状態を表示します</translation>
     </message>
     <message>
@@ -225,15 +225,15 @@
     <message>
         <source>Usage: vantle [OPTION]
 
-Starts Vantle, or brings the one that runs forward. With an option it talks to the one
-that runs; --settings, --show and --sample start one where none does.</source>
+Starts Vantle, or brings the running copy to the front. Options control the running
+copy; --settings, --show and --sample start Vantle if it is not running.</source>
         <translation>使い方: vantle [オプション]
 
 Vantleを起動するか、動作中のものを前面に出します。オプションは動作中のVantleに送られます。
 --settings、--show、--sampleは、動作していなければ起動します。</translation>
     </message>
     <message>
-        <source>Exit status: 0 when it was done, 1 when it could not be, 2 for a wrong command line.</source>
+        <source>Exit status: 0 on success, 1 on failure, 2 for an invalid command line.</source>
         <translation>終了ステータス: 0は成功、1は失敗、2はコマンドラインの誤り。</translation>
     </message>
     <message>
@@ -241,15 +241,15 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>不明なオプション「%1」</translation>
     </message>
     <message>
-        <source>%1 needs a file</source>
-        <translation>%1にはファイルが必要です</translation>
+        <source>%1 needs at least one file</source>
+        <translation>%1にはファイルが1つ以上必要です</translation>
     </message>
     <message>
-        <source>with all that a report of a fault needs</source>
+        <source>include everything that a bug report needs</source>
         <translation>不具合の報告に必要な情報も表示します</translation>
     </message>
     <message>
-        <source>and with the paths in it</source>
+        <source>include paths as well</source>
         <translation>パスも表示します</translation>
     </message>
     <message>
@@ -260,8 +260,8 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
 <context>
     <name>Compositor</name>
     <message>
-        <source>On Wayland your desktop decides what stands in the taskbar.</source>
-        <translation>Wayland では、タスクバーに何を表示するかはデスクトップが決めます。</translation>
+        <source>On Wayland, your desktop decides which windows appear in the taskbar.</source>
+        <translation>Wayland では、タスクバーに表示するウインドウはデスクトップが決めます。</translation>
     </message>
 </context>
 <context>
@@ -573,27 +573,27 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
 <context>
     <name>Requests</name>
     <message>
-        <source>Vantle is ending</source>
+        <source>Vantle is shutting down</source>
         <translation>Vantleは終了処理中です</translation>
     </message>
     <message>
-        <source>there is no action &quot;%1&quot;</source>
-        <translation>「%1」というアクションはありません</translation>
+        <source>unknown action &quot;%1&quot;</source>
+        <translation>不明なアクション「%1」</translation>
     </message>
     <message>
         <source>no such file</source>
         <translation>ファイルがありません</translation>
     </message>
     <message>
-        <source>not a screenshot or recording</source>
-        <translation>スクリーンショットでも収録でもありません</translation>
+        <source>not a supported image or recording</source>
+        <translation>対応している画像や収録ではありません</translation>
     </message>
     <message>
         <source>Vantle is not running</source>
         <translation>Vantleは動作していません</translation>
     </message>
     <message>
-        <source>the copy that runs does not answer</source>
+        <source>the running copy does not respond</source>
         <translation>動作中のVantleが応答しません</translation>
     </message>
     <message>
@@ -601,7 +601,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>Vantleはまだ準備中です</translation>
     </message>
     <message>
-        <source>no card is shown</source>
+        <source>the card is not visible</source>
         <translation>カードは表示されていません</translation>
     </message>
 </context>

@@ -4,13 +4,13 @@
 _arguments \
   '(- *)--settings[open the settings]' \
   '(- *)--pause[stop watching until --resume]' \
-  '(- *)--resume[watch again]' \
-  '(- *)--show[show the screenshots or recordings on the card]:*:file:_files' \
-  '(- *)--dismiss[take the card away]' \
-  '(- *)--focus-panel[give the card the keyboard]' \
-  '(- *)--open-folder[open the folder that is watched]' \
+  '(- *)--resume[resume watching]' \
+  '(- *)--show[show screenshots or recordings on the card]:*:file:_files' \
+  '(- *)--dismiss[dismiss the card]' \
+  '(- *)--focus-panel[move the keyboard focus to the card]' \
+  '(- *)--open-folder[open the screenshots folder]' \
   '(- *)--sample[show two sample captures]' \
-  '(- *)--quit[end Vantle]' \
-  '(- *)--status[say what Vantle is doing]:*:detail:(--verbose --with-paths)' \
+  '(- *)--quit[quit Vantle]' \
+  '(- *)--status[print the status of Vantle]:*:detail:(--verbose --with-paths)' \
   '(- *)--version[print the version]' \
   '(- *)--help[print the help]'

@@ -148,7 +148,7 @@ void AppDelegate::connectApplication() {
     platform_.application->onRequest =
         [weak = weak_from_this()](const ApplicationRequest& request) -> Result<std::string> {
         if (const auto delegate = weak.lock()) return delegate->perform(request);
-        return Failure{ECANCELED, localized("Requests", "Vantle is ending"), ""};
+        return Failure{ECANCELED, localized("Requests", "Vantle is shutting down"), ""};
     };
 }
 

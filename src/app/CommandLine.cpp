@@ -27,15 +27,16 @@ struct Option {
 constexpr std::array options = {
     Option{"settings", Kind::start, marked("CommandLine", "open the settings")},
     Option{"pause", Kind::ask, marked("CommandLine", "stop watching until --resume")},
-    Option{"resume", Kind::ask, marked("CommandLine", "watch again")},
-    Option{"show", Kind::start,
-           marked("CommandLine", "show the screenshots or recordings on the card"), Takes::files},
-    Option{"dismiss", Kind::ask, marked("CommandLine", "take the card away")},
-    Option{"focus-panel", Kind::ask, marked("CommandLine", "give the card the keyboard")},
-    Option{"open-folder", Kind::ask, marked("CommandLine", "open the folder that is watched")},
+    Option{"resume", Kind::ask, marked("CommandLine", "resume watching")},
+    Option{"show", Kind::start, marked("CommandLine", "show screenshots or recordings on the card"),
+           Takes::files},
+    Option{"dismiss", Kind::ask, marked("CommandLine", "dismiss the card")},
+    Option{"focus-panel", Kind::ask, marked("CommandLine", "move the keyboard focus to the card")},
+    Option{"open-folder", Kind::ask, marked("CommandLine", "open the screenshots folder")},
     Option{"sample", Kind::start, marked("CommandLine", "show two sample captures")},
-    Option{"quit", Kind::ask, marked("CommandLine", "end Vantle")},
-    Option{"status", Kind::ask, marked("CommandLine", "say what Vantle is doing"), Takes::details},
+    Option{"quit", Kind::ask, marked("CommandLine", "quit Vantle")},
+    Option{"status", Kind::ask, marked("CommandLine", "print the status of Vantle"),
+           Takes::details},
     Option{"version", Kind::print, marked("CommandLine", "print the version")},
     Option{"help", Kind::print, marked("CommandLine", "print this text")},
 };
@@ -47,8 +48,8 @@ struct Detail {
 
 // They may follow --status.
 constexpr std::array details = {
-    Detail{"verbose", marked("CommandLine", "with all that a report of a fault needs")},
-    Detail{"with-paths", marked("CommandLine", "and with the paths in it")},
+    Detail{"verbose", marked("CommandLine", "include everything that a bug report needs")},
+    Detail{"with-paths", marked("CommandLine", "include paths as well")},
 };
 
 // The help does not list this option, because only the desktop uses it.
@@ -70,8 +71,8 @@ std::string absolutePath(const std::string& path, const Url& folder) {
 CommandLine commandForFiles(const Option& option, const std::vector<std::string>& files,
                             const Url& folder) {
     if (files.empty())
-        return wrong(
-            filled(localized("CommandLine", "%1 needs a file"), {"--" + std::string(option.name)}));
+        return wrong(filled(localized("CommandLine", "%1 needs at least one file"),
+                            {"--" + std::string(option.name)}));
     ApplicationRequest request{std::string(option.name), {}};
     for (const auto& file : files) request.arguments.push_back(absolutePath(file, folder));
     return {option.kind, std::move(request), {}};
@@ -113,8 +114,8 @@ std::string helpText() {
         localized(
             "CommandLine",
             "Usage: vantle [OPTION]\n\n"
-            "Starts Vantle, or brings the one that runs forward. With an option it talks to "
-            "the one\nthat runs; --settings, --show and --sample start one where none does.") +
+            "Starts Vantle, or brings the running copy to the front. Options control the "
+            "running\ncopy; --settings, --show and --sample start Vantle if it is not running.") +
         "\n\n";
     for (const auto& option : options) {
         const bool takesFiles = option.takes == Takes::files;
@@ -126,10 +127,8 @@ std::string helpText() {
             text += helpLine("    --" + std::string(detail.name), detail.help);
     }
     text +=
-        "\n" +
-        localized(
-            "CommandLine",
-            "Exit status: 0 when it was done, 1 when it could not be, 2 for a wrong command line.");
+        "\n" + localized("CommandLine",
+                         "Exit status: 0 on success, 1 on failure, 2 for an invalid command line.");
     return text;
 }
 

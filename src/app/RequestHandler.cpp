@@ -27,9 +27,8 @@ Result<std::string> RequestHandler::perform(const ApplicationRequest& request) {
     if (request.action == "focus-panel") return focusPanel();
     const auto found = actions.find(request.action);
     if (found == actions.end())
-        return Failure{EINVAL,
-                       filled(localized("Requests", "there is no action \"%1\""), {request.action}),
-                       ""};
+        return Failure{
+            EINVAL, filled(localized("Requests", "unknown action \"%1\""), {request.action}), ""};
     found->second();
     return std::string();
 }
@@ -40,7 +39,7 @@ void RequestHandler::setPaused(bool paused) {
 
 Result<std::string> RequestHandler::focusPanel() {
     if (!services_.panel.isVisible())
-        return Failure{ENOENT, localized("Requests", "no card is shown"), ""};
+        return Failure{ENOENT, localized("Requests", "the card is not visible"), ""};
     services_.panel.takeKeyboard();
     return std::string();
 }
@@ -57,7 +56,7 @@ Result<std::string> RequestHandler::show(const std::vector<std::string>& paths) 
             refuse(path, localized("Requests", "no such file"));
         else if (existence != FileManager::Existence::file ||
                  !Capture::kind(url, services_.moreExtensions))
-            refuse(path, localized("Requests", "not a screenshot or recording"));
+            refuse(path, localized("Requests", "not a supported image or recording"));
         else
             services_.queue.async([loader = loader_, url] { loader.load(url); });
     }

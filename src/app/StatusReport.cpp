@@ -40,7 +40,7 @@ std::vector<ReportLine> StatusReport::recordingsReport(Paths paths) const {
             case RecordingsWatcher::State::watching:
                 return "watched";
             case RecordingsWatcher::State::waiting:
-                return "waited for";
+                return "waiting for the folder";
             default:
                 return "not watched";
         }
@@ -74,7 +74,7 @@ std::string StatusReport::text(const std::vector<std::string>& arguments) const 
         if (sources_.displayServer) told.push_back({"display server", sources_.displayServer()});
         return reportText(told);
     }
-    told.push_back({"folder from", sources_.settings.screenshotFolderOrigin()});
+    told.push_back({"folder set by", sources_.settings.screenshotFolderOrigin()});
     told.push_back({"settings", sources_.settings.summary()});
     if (sources_.surroundings) std::ranges::copy(sources_.surroundings(), std::back_inserter(told));
     std::ranges::copy(logReport(recentSystemLog(), paths), std::back_inserter(told));

@@ -97,10 +97,13 @@ void RecordingsWatcher::found(const Place& place, Existing existing) {
         return;
     }
     if (!place.source) {
-        systemLog("Vantle: cannot wait for " + folder_->path(), place.source.failure().message);
+        systemLog("Vantle: cannot watch for " + folder_->path() + " to be created",
+                  place.source.failure().message);
         return;
     }
-    Debug::log([&] { return "waiting in " + place.folder.path() + " for " + folder_->path(); });
+    Debug::log([&] {
+        return "waiting in " + place.folder.path() + " until " + folder_->path() + " is created";
+    });
     waitingIn_ = place.folder;
     source_ = place.source.value();
     source_->resume();

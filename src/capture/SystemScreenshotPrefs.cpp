@@ -49,10 +49,11 @@ std::string SystemScreenshotPrefs::locationObstacle() const {
 
 std::string SystemScreenshotPrefs::locationOrigin() const {
     const std::string origin = preferences_.origin(locationKey);
-    if (origin.empty()) return "the Desktop, as nothing else is set";
+    if (origin.empty()) return "the default (the Desktop), because no folder is set";
     const auto path = valueOfType<std::string>(preferences_, locationKey);
     const bool isUsed = path && expandingTilde(*path) == location();
-    return isUsed ? origin : "the Desktop, as " + origin + " names no folder";
+    return isUsed ? origin
+                  : "the default (the Desktop), because " + origin + " does not name a folder";
 }
 
 std::optional<Url> SystemScreenshotPrefs::previousLocation() const {

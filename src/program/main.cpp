@@ -47,7 +47,7 @@ void logOrEnd(QtMsgType type, const QMessageLogContext&, const QString& message)
         return;
     }
     const bool hasDisplay = QGuiApplication::primaryScreen() != nullptr;
-    systemLog("Vantle: " + (hasDisplay ? message.toStdString() : "no display could be opened"));
+    systemLog("Vantle: " + (hasDisplay ? message.toStdString() : "cannot connect to a display"));
     _exit(EXIT_FAILURE);
 }
 

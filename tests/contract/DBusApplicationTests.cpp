@@ -176,7 +176,7 @@ TEST_P(CopiesMeet, ACopyThatHangsDoesNotBlockARequest) {
     ASSERT_EQ(hanging->line(), "first");
     hanging->send(SIGSTOP);
     EXPECT_EQ(answerOf(session, {QStringLiteral("pause")}),
-              "refused: the copy that runs does not answer");
+              "refused: the running copy does not respond");
 }
 
 TEST_P(CopiesMeet, AKilledCopyDoesNotPreventTheNextStart) {
@@ -216,7 +216,8 @@ TEST(DBusApplicationTest, StartsWithAMessageIfThereIsNoBusAndNoRuntimeFolder) {
     EXPECT_EQ(copy->line(), "first");
     copy->closeInput();
     EXPECT_THAT(copy->errors(),
-                testing::HasSubstr("Vantle: no session bus; a second start cannot be detected\n"));
+                testing::HasSubstr(
+                    "Vantle: there is no session bus, so a second start cannot be detected\n"));
 }
 
 TEST(DBusApplicationTest, ASignalEndsItCleanly) {

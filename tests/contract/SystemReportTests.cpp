@@ -27,7 +27,7 @@ protected:
 };
 
 TEST_F(SystemReportTest, ReportsHowTheProgramWasInstalled) {
-    EXPECT_EQ(line("installed as"), "neither a package nor a tree of a release");
+    EXPECT_EQ(line("installed as"), "unknown (neither a package nor an unpacked release)");
     writeText(share / "release", "version=1.0\nplatform=linux-x86_64-deb\ninstallation=package\n");
     EXPECT_EQ(line("installed as"), "package");
 }
@@ -47,7 +47,8 @@ TEST_F(SystemReportTest, TheSessionIsTakenFromTheEnvironment) {
 TEST_F(SystemReportTest, ReportsDecodersThatDoNotStart) {
     const auto lines = decoderReport("/nowhere/vantle-decoder");
     ASSERT_EQ(lines.size(), formatNames.size());
-    EXPECT_EQ(lines.front(), (ReportLine{"no decoder", "png: No such file or directory"}));
+    EXPECT_EQ(lines.front(),
+              (ReportLine{"decoder not available", "png: No such file or directory"}));
 }
 
 }  // namespace

@@ -246,7 +246,7 @@ TEST_F(TrayOnBusTest, ThereIsNoIconWithoutATrayHost) {
     EXPECT_EQ(tray.item.tray(), "none");
     tray.tray.setHost(true);
     EXPECT_TRUE(runUntil([&] { return tray.item.isShown(); }));
-    EXPECT_EQ(tray.item.tray(), "on D-Bus");
+    EXPECT_EQ(tray.item.tray(), "D-Bus");
 }
 
 TEST(TrayWithoutHostTest, ARegisteredItemIsNotShownWithoutAHost) {

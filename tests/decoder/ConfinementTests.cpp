@@ -53,7 +53,7 @@ TEST_P(ConfinementWithout, OpensFilesAndLogsTheMissingGuardOnce) {
     }
     EXPECT_THAT(log.lines(),
                 testing::ElementsAre("This system lacks " + std::string(GetParam().name) +
-                                     ": files are decoded without that guard"));
+                                     "; files are decoded without this protection"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Guards, ConfinementWithout,
@@ -67,9 +67,10 @@ TEST(Confinement, FaultReportsListTheActiveGuards) {
     const std::string all = "png, jpeg, gif, tiff, heic, webp, pdf, recording; ";
     const auto guards = [&](const char* decoder) { return decoderReport(decoder).back(); };
     EXPECT_EQ(guards(VANTLE_DECODER),
-              (ReportLine{"decoders", all + "Landlock in force, seccomp in force"}));
-    EXPECT_EQ(guards(VANTLE_WITHOUT_LANDLOCK).value, all + "Landlock missing, seccomp in force");
-    EXPECT_EQ(guards(VANTLE_WITHOUT_SECCOMP).value, all + "Landlock in force, seccomp missing");
+              (ReportLine{"decoders", all + "Landlock active, seccomp active"}));
+    EXPECT_EQ(guards(VANTLE_WITHOUT_LANDLOCK).value,
+              all + "Landlock not available, seccomp active");
+    EXPECT_EQ(guards(VANTLE_WITHOUT_SECCOMP).value, all + "Landlock active, seccomp not available");
 }
 
 TEST(Confinement, LogsNothingIfAllGuardsWork) {

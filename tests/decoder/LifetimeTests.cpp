@@ -139,7 +139,7 @@ TEST_F(DecoderLifetime, AMissingProgramIsReportedOnce) {
     EXPECT_EQ(loader.openImage(file("rgb.png")), nullptr);
     EXPECT_EQ(loader.openRecording(file("short.mov")), nullptr);
     EXPECT_THAT(log.lines(),
-                testing::ElementsAre("The decoder cannot be started, captures have no pictures: "
+                testing::ElementsAre("Cannot start the decoder, so captures have no pictures: "
                                      "/nowhere/vantle-decoder: No such file or directory"));
 }
 
@@ -148,7 +148,7 @@ TEST_F(DecoderLifetime, AProgramThatIsNoDecoderIsReported) {
     ConfinedMediaLoader loader("/bin/true", [] { return 1.0; });
     EXPECT_EQ(loader.openImage(file("rgb.png")), nullptr);
     ASSERT_EQ(log.lines().size(), 1U);
-    EXPECT_THAT(log.lines()[0], testing::StartsWith("The decoder cannot be started"));
+    EXPECT_THAT(log.lines()[0], testing::StartsWith("Cannot start the decoder"));
 }
 
 }  // namespace

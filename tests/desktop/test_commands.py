@@ -51,8 +51,8 @@ def test_show_files(desktop, vantle):
     )
     assert status == 1
     assert f"no such file: {pictures}/none.png" in said
-    assert f"not a screenshot or recording: {pictures}/letter.txt" in said
-    assert "not a screenshot or recording" in vantle.command("--show", str(pictures))[1]
+    assert f"not a supported image or recording: {pictures}/letter.txt" in said
+    assert "not a supported image or recording" in vantle.command("--show", str(pictures))[1]
 
 
 def test_verbose_status_describes_the_system_without_paths(desktop, vantle, folder):
@@ -64,11 +64,11 @@ def test_verbose_status_describes_the_system_without_paths(desktop, vantle, fold
     assert facts["state"] == "watching"
     assert facts["captures"] == "1"
     assert facts["folder"] == "in the home directory"
-    assert facts["folder from"] == "the Desktop, as nothing else is set"
+    assert facts["folder set by"] == "the default (the Desktop), because no folder is set"
     assert facts["display server"].startswith("X11, ")
     assert facts["window manager"] == "Openbox"
     assert facts["compositor"] == "yes"
-    assert facts["tray"] == "on X"
+    assert facts["tray"] == "X11"
     assert facts["decoders"].startswith("png, jpeg, gif, tiff, heic, webp, pdf, recording; ")
     assert facts["screens"].endswith("at 0, 0, scale 1")
     assert str(desktop.home) not in report
@@ -123,7 +123,7 @@ def test_commands_need_no_display(desktop, vantle):
 def test_a_start_without_a_display_fails_with_a_reason(vantle):
     status, said = vantle.command(environment=NO_DISPLAY)
     assert status == 1
-    assert said.splitlines()[-1] == "Vantle: no display could be opened"
+    assert said.splitlines()[-1] == "Vantle: cannot connect to a display"
 
 
 def test_commands_without_a_session_bus(desktop, vantle, binary):

@@ -57,7 +57,7 @@ def test_its_folder_is_found_in_any_language(desktop, make_vantle):
         vantle = make_vantle(language)
         vantle.start_watching()
         recordings = desktop.home / name_in(language, "Screencasts")
-        vantle.wait_for_log(f"waiting in {desktop.home} for {recordings}$")
+        vantle.wait_for_log(f"waiting in {desktop.home} until {recordings} is created$")
         folder = WatchedFolder(desktop.home / "Bilder" / name_in(language, "Screenshots"), vantle)
         folder.save(f"{language}.png")
         folder.wait_for(f"{language}.png")

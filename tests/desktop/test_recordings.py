@@ -76,8 +76,8 @@ def test_a_recorder_that_makes_its_own_folder_gives_one_tile(desktop, binary):
     (desktop.home / "Filme").mkdir()
     recordings = desktop.home / "Filme/Screencasts"
     vantle.start_watching()
-    vantle.wait_for_log(f"waiting in {desktop.home / 'Filme'} for {recordings}$")
-    assert "recordings: waited for\n" in vantle.command("--status")[1]
+    vantle.wait_for_log(f"waiting in {desktop.home / 'Filme'} until {recordings} is created$")
+    assert "recordings: waiting for the folder\n" in vantle.command("--status")[1]
     recordings.mkdir()
     screenshots = WatchedFolder(desktop.home / "Screenshots", vantle)
     record_beside(desktop, recordings / "first.webm", screenshots)

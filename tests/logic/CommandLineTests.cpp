@@ -100,7 +100,7 @@ TEST(CommandLineTest, NamesInvalidArguments) {
         {{""}, "unexpected argument \"\""},
         {{"-h"}, "unexpected argument \"-h\""},
         {{"a.png"}, "unexpected argument \"a.png\""},
-        {{"--show"}, "--show needs a file"},
+        {{"--show"}, "--show needs at least one file"},
         {{"--pause", "now"}, "unexpected argument \"now\""},
         {{"--help", "--pause"}, "unexpected argument \"--pause\""},
         {{"--status", "--pause"}, "unexpected argument \"--pause\""},

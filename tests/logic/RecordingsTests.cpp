@@ -162,7 +162,7 @@ TEST_F(RecordingsTest, TheStatusNamesTheWatchedFolder) {
     EXPECT_THAT(status(), HasSubstr("\nrecordings: watched\nrecordings folder: " + casts.path()));
     files->removeDirectory(casts);
     time.settle();
-    EXPECT_THAT(status(), HasSubstr("\nrecordings: waited for\n"));
+    EXPECT_THAT(status(), HasSubstr("\nrecordings: waiting for the folder\n"));
     delegate->settings().showRecordings.set(false);
     time.settle();
     EXPECT_THAT(status(), HasSubstr("\nrecordings: not watched\n"));

@@ -249,7 +249,8 @@ TEST_F(RecordingsWatcherTest, LogsThatAFolderCannotBeAwaited) {
     files.failOpening(home, EACCES);
     start();
     EXPECT_EQ(watcher->state(), State::failed);
-    EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("Vantle: cannot wait for " + folder.path())));
+    EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("Vantle: cannot watch for " + folder.path() +
+                                                   " to be created: ")));
 }
 
 }  // namespace

@@ -61,7 +61,7 @@ TEST_F(RequestHandlerTest, ShowsValidFilesAndNamesTheOthers) {
     files->write(Url::file("/pictures/letter.txt"), 1, Date{});
     EXPECT_EQ(ask("show", {"/pictures/none.png", "/pictures/a.png", "/pictures/letter.txt"}),
               "failed: no such file: /pictures/none.png\n"
-              "not a screenshot or recording: /pictures/letter.txt");
+              "not a supported image or recording: /pictures/letter.txt");
     EXPECT_EQ(delegate->panel().state().captures.value().size(), 1u);
 }
 
@@ -75,7 +75,7 @@ TEST_F(RequestHandlerTest, DismissesTheCard) {
 
 TEST_F(RequestHandlerTest, GivesThePanelTheKeyboardIfThereIsOne) {
     launch();
-    EXPECT_EQ(ask("focus-panel"), "failed: no card is shown");
+    EXPECT_EQ(ask("focus-panel"), "failed: the card is not visible");
     EXPECT_EQ(panel.timesKeyboardTaken, 0);
     save("shot.png");
     EXPECT_EQ(ask("focus-panel"), "");
@@ -114,7 +114,7 @@ TEST_F(RequestHandlerTest, ReportsItsState) {
 }
 
 TEST_F(RequestHandlerTest, TheVerboseStatusHasTheFactsOfAFaultReportButNoPath) {
-    platform.surroundings = [] { return std::vector<ReportLine>{{"tray", "on D-Bus"}}; };
+    platform.surroundings = [] { return std::vector<ReportLine>{{"tray", "D-Bus"}}; };
     domain->values["location"] = std::string("/home/user/Clients");
     (void)files->createDirectory(Url::file("/home/user/Clients"));
     launch();
@@ -123,8 +123,8 @@ TEST_F(RequestHandlerTest, TheVerboseStatusHasTheFactsOfAFaultReportButNoPath) {
     EXPECT_THAT(report,
                 AllOf(HasSubstr("version: " + std::string(version)),
                       HasSubstr("\nfolder: in the home directory\n"),
-                      HasSubstr("\nfolder from: a setting in memory\n"),
-                      HasSubstr("\nsettings: corner bottomRight"), HasSubstr("\ntray: on D-Bus\n"),
+                      HasSubstr("\nfolder set by: a setting in memory\n"),
+                      HasSubstr("\nsettings: corner bottomRight"), HasSubstr("\ntray: D-Bus\n"),
                       HasSubstr(" Vantle: cannot open (path): Permission denied")));
     EXPECT_THAT(report, Not(HasSubstr("Clients")));
     EXPECT_THAT(
@@ -143,7 +143,7 @@ TEST_F(RequestHandlerTest, TheVerboseStatusSaysWhyTheFolderIsNotWatched) {
 
 TEST_F(RequestHandlerTest, AnUnknownRequestIsRefused) {
     launch();
-    EXPECT_EQ(ask("dance"), "failed: there is no action \"dance\"");
+    EXPECT_EQ(ask("dance"), "failed: unknown action \"dance\"");
 }
 
 TEST_F(RequestHandlerTest, ASecondCopyHandsItsRequestToTheFirst) {
@@ -160,10 +160,10 @@ TEST_F(RequestHandlerTest, ASecondCopyHandsItsRequestToTheFirst) {
 
 TEST_F(RequestHandlerTest, TheSecondCopyFailsWithTheFailureOfTheFirst) {
     application->otherCopyRuns = true;
-    application->answer = Failure{EIO, "it is ending", {}};
+    application->answer = Failure{EIO, "it is shutting down", {}};
     const auto answer = make().applicationWillFinishLaunching(ApplicationRequest{"status", {}});
     ASSERT_TRUE(answer.has_value());
-    EXPECT_EQ(answer->failure().message, "it is ending");
+    EXPECT_EQ(answer->failure().message, "it is shutting down");
 }
 
 }  // namespace

@@ -87,9 +87,10 @@ TEST_F(SystemScreenshotPrefsTest, TheThumbnailIsShownUnlessStoredAsFalse) {
 }
 
 TEST_F(SystemScreenshotPrefsTest, ReportsTheOriginOfTheLocation) {
-    EXPECT_EQ(prefs.locationOrigin(), "the Desktop, as nothing else is set");
+    EXPECT_EQ(prefs.locationOrigin(), "the default (the Desktop), because no folder is set");
     domain.values["location"] = screenshots.path();
-    EXPECT_EQ(prefs.locationOrigin(), "the Desktop, as a setting in memory names no folder");
+    EXPECT_EQ(prefs.locationOrigin(),
+              "the default (the Desktop), because a setting in memory does not name a folder");
     (void)files.createDirectory(screenshots);
     EXPECT_EQ(prefs.locationOrigin(), "a setting in memory");
 }

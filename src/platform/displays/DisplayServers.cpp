@@ -12,7 +12,7 @@ namespace vantle::displays {
 namespace {
 
 std::string whyNotTheCompositor() {
-    return askCompositor() == Offer::windows ? "the compositor offers no layer-shell" : "";
+    return askCompositor() == Offer::windows ? "the compositor does not support layer-shell" : "";
 }
 
 }  // namespace

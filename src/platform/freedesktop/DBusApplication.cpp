@@ -30,7 +30,7 @@ namespace {
 constexpr int answerTimeout = 3000;  // milliseconds
 constexpr int causeTimeout = 5000;   // milliseconds; a launch takes less, even just after login
 constexpr auto notRunning = marked("Requests", "Vantle is not running");
-constexpr auto noAnswer = marked("Requests", "the copy that runs does not answer");
+constexpr auto noAnswer = marked("Requests", "the running copy does not respond");
 
 // The messages on the socket: the separator between the parts of a request, and the first character
 // of an answer.
@@ -214,7 +214,7 @@ bool DBusApplication::anotherHoldsTheName() {
 bool DBusApplication::anotherHoldsTheRuntimeFolder() {
     const auto claim = socket().claim();
     if (claim == RuntimeSocket::Claim::failed)
-        systemLog("Vantle: no session bus; a second start cannot be detected");
+        systemLog("Vantle: there is no session bus, so a second start cannot be detected");
     return claim == RuntimeSocket::Claim::second;
 }
 

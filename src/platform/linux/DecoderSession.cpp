@@ -99,7 +99,7 @@ bool DecoderSession::prepare(Format format) {
 
 void DecoderSession::reportFailure(const Failure& failure) {
     if (std::exchange(hasReportedFailure_, true)) return;
-    systemLog("The decoder cannot be started, captures have no pictures: " + failure.path,
+    systemLog("Cannot start the decoder, so captures have no pictures: " + failure.path,
               failure.message);
 }
 
@@ -109,7 +109,7 @@ void DecoderSession::reportMissingGuards() {
     const auto lacks = [&](Guard guard) { return missing & static_cast<std::uint32_t>(guard); };
     std::string names = lacks(Guard::fileSystem) ? "Landlock" : "";
     if (lacks(Guard::systemCalls)) names += names.empty() ? "seccomp" : " and seccomp";
-    systemLog("This system lacks " + names + ": files are decoded without that guard");
+    systemLog("This system lacks " + names + "; files are decoded without this protection");
 }
 
 }  // namespace vantle

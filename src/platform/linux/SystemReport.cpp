@@ -41,7 +41,7 @@ std::string systemName() {
 }
 
 std::string guard(std::uint32_t missing, decoder::Guard kind) {
-    return (missing & static_cast<std::uint32_t>(kind)) != 0 ? "missing" : "in force";
+    return (missing & static_cast<std::uint32_t>(kind)) != 0 ? "not available" : "active";
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ std::vector<ReportLine> systemReport(const Environment& environment, const Url& 
         return orElse(environment(name).value_or(""), "unknown");
     };
     return {{"installed as", orElse(valueIn(share.appending("release"), "installation"),
-                                    "neither a package nor a tree of a release")},
+                                    "unknown (neither a package nor an unpacked release)")},
             {"system", systemName()},
             {"desktop", variable("XDG_CURRENT_DESKTOP")},
             {"session", variable("XDG_SESSION_TYPE")}};
@@ -68,7 +68,8 @@ std::vector<ReportLine> decoderReport(const std::string& program) {
         const auto decoder =
             DecoderProcess::start(program, *formatNamed(name), std::max(left / 2, 1ms));
         if (!decoder) {
-            lines.push_back({"no decoder", std::string(name) + ": " + decoder.failure().message});
+            lines.push_back(
+                {"decoder not available", std::string(name) + ": " + decoder.failure().message});
             continue;
         }
         started += (started.empty() ? "" : ", ") + std::string(name);

@@ -16,7 +16,8 @@ namespace vantle::wayland {
 
 std::string Compositor::name() const {
     return offersLayers() ? "Wayland"
-                          : "Wayland: the compositor offers no layer-shell, and so no place";
+                          : "Wayland: the compositor does not support layer-shell, so Vantle "
+                            "cannot place the card";
 }
 
 bool Compositor::isLost() const {
@@ -79,7 +80,8 @@ void Compositor::bringToFront(QWindow& window) {
 }
 
 std::string Compositor::taskbarObstacle() const {
-    return localized("Compositor", "On Wayland your desktop decides what stands in the taskbar.");
+    return localized("Compositor",
+                     "On Wayland, your desktop decides which windows appear in the taskbar.");
 }
 
 }  // namespace vantle::wayland

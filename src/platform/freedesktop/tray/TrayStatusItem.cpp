@@ -60,8 +60,8 @@ bool TrayStatusItem::isShown() const {
 }
 
 std::string TrayStatusItem::tray() const {
-    if (onBus_ && onBus_->isShown()) return "on D-Bus";
-    return embedded_ && embedded_->isShown() ? "on X" : "none";
+    if (onBus_ && onBus_->isShown()) return "D-Bus";
+    return embedded_ && embedded_->isShown() ? "X11" : "none";
 }
 
 void TrayStatusItem::setAppearsDisabled(bool disabled) {
