@@ -8,8 +8,8 @@
         <translation>Vantle läuft</translation>
     </message>
     <message>
-        <source>This desktop has no tray for Vantle&apos;s icon. New captures appear on the card all the same. For the settings start Vantle again; to pause it, or to open your screenshots, use the actions of its launcher.</source>
-        <translation>Dieser Desktop hat keinen Infobereich für das Symbol von Vantle. Neue Aufnahmen erscheinen trotzdem auf der Karte. Für die Einstellungen starten Sie Vantle noch einmal; zum Anhalten oder um Ihre Bildschirmfotos zu öffnen, verwenden Sie die Aktionen des Starters.</translation>
+        <source>This desktop has no tray for Vantle&apos;s icon. New captures still appear on the card. To open the settings, start Vantle again. To pause it or to open your screenshots, use the actions of its launcher.</source>
+        <translation>Dieser Desktop hat keinen Infobereich für das Symbol von Vantle. Neue Aufnahmen erscheinen trotzdem auf der Karte. Um die Einstellungen zu öffnen, starten Sie Vantle noch einmal. Um es anzuhalten oder Ihre Bildschirmfotos zu öffnen, verwenden Sie die Aktionen des Starters.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -368,12 +368,12 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
 <context>
     <name>MissingTrayAdvice</name>
     <message>
-        <source>The extension “%1” brings a tray, and it is installed: switch it on in Extensions.</source>
-        <translation>Die Erweiterung „%1“ bringt einen Infobereich mit und ist installiert: Schalten Sie sie unter „Erweiterungen“ ein.</translation>
+        <source>The installed extension “%1” provides a tray. Turn it on in Extensions.</source>
+        <translation>Die installierte Erweiterung „%1“ stellt einen Infobereich bereit. Schalten Sie sie unter „Erweiterungen“ ein.</translation>
     </message>
     <message>
-        <source>The extension “%1” brings a tray: install the package %2, log out and in again, then switch it on in Extensions.</source>
-        <translation>Die Erweiterung „%1“ bringt einen Infobereich mit: Installieren Sie das Paket %2, melden Sie sich ab und wieder an, und schalten Sie sie dann unter „Erweiterungen“ ein.</translation>
+        <source>The extension “%1” provides a tray. Install the package %2, log out and in again, then turn it on in Extensions.</source>
+        <translation>Die Erweiterung „%1“ stellt einen Infobereich bereit. Installieren Sie das Paket %2, melden Sie sich ab und wieder an, und schalten Sie sie dann unter „Erweiterungen“ ein.</translation>
     </message>
 </context>
 <context>
@@ -422,8 +422,8 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
         <translation>Vantle wartet in Ihrem Infobereich. Machen Sie ein Bildschirmfoto, meist mit der Druck-Taste, und es gleitet in die Ecke „%1“. Machen Sie noch eines, und beide stehen nebeneinander.</translation>
     </message>
     <message>
-        <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon: to reach the settings, start Vantle again.</source>
-        <translation>Machen Sie ein Bildschirmfoto, und es gleitet in die Ecke „%1“. Machen Sie noch eines, und beide stehen nebeneinander. Ihr Desktop hat keinen Infobereich für das Symbol von Vantle: Die Einstellungen erreichen Sie, indem Sie Vantle noch einmal starten.</translation>
+        <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon. To open the settings, start Vantle again.</source>
+        <translation>Machen Sie ein Bildschirmfoto, und es gleitet in die Ecke „%1“. Machen Sie noch eines, und beide stehen nebeneinander. Ihr Desktop hat keinen Infobereich für das Symbol von Vantle. Um die Einstellungen zu öffnen, starten Sie Vantle noch einmal.</translation>
     </message>
 </context>
 <context>
@@ -624,24 +624,24 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
 <context>
     <name>ScreenshotTool</name>
     <message>
-        <source>The desktop does not let its setting &quot;%1&quot; be changed.</source>
+        <source>The desktop does not allow its setting &quot;%1&quot; to be changed.</source>
         <translation>Der Desktop erlaubt nicht, seine Einstellung „%1“ zu ändern.</translation>
     </message>
     <message>
-        <source>The screenshot tool of Xfce shows no preview.</source>
-        <translation>Das Bildschirmfoto-Programm von Xfce zeigt keine Vorschau.</translation>
+        <source>Xfce&apos;s screenshot tool has no preview.</source>
+        <translation>Das Bildschirmfoto-Programm von Xfce hat keine Vorschau.</translation>
     </message>
     <message>
-        <source>The screenshot tool of this desktop shows no preview.</source>
-        <translation>Das Bildschirmfoto-Programm dieses Desktops zeigt keine Vorschau.</translation>
+        <source>This desktop&apos;s screenshot tool has no preview.</source>
+        <translation>Das Bildschirmfoto-Programm dieses Desktops hat keine Vorschau.</translation>
     </message>
     <message>
-        <source>The screenshot tool of MATE always asks in a window.</source>
-        <translation>Das Bildschirmfoto-Programm von MATE fragt immer in einem Fenster.</translation>
+        <source>MATE&apos;s screenshot tool always opens a window.</source>
+        <translation>Das Bildschirmfoto-Programm von MATE öffnet immer ein Fenster.</translation>
     </message>
     <message>
-        <source>ScreenGrab always notifies after it saved.</source>
-        <translation>ScreenGrab meldet sich immer nach dem Speichern.</translation>
+        <source>ScreenGrab always shows a notification after saving.</source>
+        <translation>ScreenGrab zeigt nach dem Speichern immer eine Benachrichtigung.</translation>
     </message>
     <message>
         <source>GNOME always saves screenshots in this folder.</source>

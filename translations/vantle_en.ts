@@ -4,7 +4,7 @@
 <context>
     <name>AppDelegate</name>
     <message>
-        <source>This desktop has no tray for Vantle&apos;s icon. New captures appear on the card all the same. For the settings start Vantle again; to pause it, or to open your screenshots, use the actions of its launcher.</source>
+        <source>This desktop has no tray for Vantle&apos;s icon. New captures still appear on the card. To open the settings, start Vantle again. To pause it or to open your screenshots, use the actions of its launcher.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>macOS is blocking Vantle from reading %1. Allow Vantle under System Settings → Privacy &amp; Security → Files and Folders, then click Retry.</source>
-        <translation>Vantle is not allowed to read %1. Give yourself the right to read it in the folder&apos;s properties, then click Retry.</translation>
+        <translation>Vantle is not allowed to read %1. Give yourself permission to read it in the folder&apos;s properties, then click Retry.</translation>
     </message>
     <message>
         <source>Open Privacy Settings</source>
@@ -116,7 +116,7 @@
     </message>
     <message>
         <source>Recommended. Captures reach Vantle instantly instead of after Apple&apos;s preview.</source>
-        <translation>Recommended. Captures are then shown once, by Vantle.</translation>
+        <translation>Recommended. Then only Vantle shows new captures.</translation>
     </message>
     <message>
         <source>Open Vantle at login</source>
@@ -128,7 +128,7 @@
     </message>
     <message>
         <source>Useful if the menu bar icon is hidden under the notch.</source>
-        <translation>Its windows then stand in the taskbar and the window switcher.</translation>
+        <translation>Its windows then appear in the taskbar and the window switcher.</translation>
     </message>
     <message>
         <source>%1 seconds</source>
@@ -290,7 +290,7 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     <name>FolderAccessRow</name>
     <message>
         <source>macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.</source>
-        <translation>Any folder that you may read will do.</translation>
+        <translation>Vantle works with any folder that you can read.</translation>
     </message>
     <message>
         <source>Grant access</source>
@@ -314,7 +314,7 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
     <message>
         <source>Allow Vantle under Privacy &amp; Security → Files and Folders, then check again.</source>
-        <translation>Make sure that it is there and that you may read it, then check again.</translation>
+        <translation>Make sure that the folder exists and that you can read it, then check again.</translation>
     </message>
     <message>
         <source>Open Privacy Settings</source>
@@ -345,7 +345,7 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
     <message>
         <source>Choose where macOS should save screenshots and screen recordings.</source>
-        <translation>Choose where screenshots are to be saved.</translation>
+        <translation>Choose where to save screenshots.</translation>
     </message>
 </context>
 <context>
@@ -365,11 +365,11 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
 <context>
     <name>MissingTrayAdvice</name>
     <message>
-        <source>The extension “%1” brings a tray, and it is installed: switch it on in Extensions.</source>
+        <source>The installed extension “%1” provides a tray. Turn it on in Extensions.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The extension “%1” brings a tray: install the package %2, log out and in again, then switch it on in Extensions.</source>
+        <source>The extension “%1” provides a tray. Install the package %2, log out and in again, then turn it on in Extensions.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -415,7 +415,7 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
         <translation>The desktop&apos;s own preview is still shown</translation>
     </message>
     <message>
-        <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon: to reach the settings, start Vantle again.</source>
+        <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon. To open the settings, start Vantle again.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -621,23 +621,23 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
 <context>
     <name>ScreenshotTool</name>
     <message>
-        <source>The desktop does not let its setting &quot;%1&quot; be changed.</source>
+        <source>The desktop does not allow its setting &quot;%1&quot; to be changed.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The screenshot tool of Xfce shows no preview.</source>
+        <source>Xfce&apos;s screenshot tool has no preview.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The screenshot tool of this desktop shows no preview.</source>
+        <source>This desktop&apos;s screenshot tool has no preview.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The screenshot tool of MATE always asks in a window.</source>
+        <source>MATE&apos;s screenshot tool always opens a window.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>ScreenGrab always notifies after it saved.</source>
+        <source>ScreenGrab always shows a notification after saving.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -8,8 +8,8 @@
         <translation>Vantle est en cours d’exécution</translation>
     </message>
     <message>
-        <source>This desktop has no tray for Vantle&apos;s icon. New captures appear on the card all the same. For the settings start Vantle again; to pause it, or to open your screenshots, use the actions of its launcher.</source>
-        <translation>Ce bureau n’a pas de zone de notification pour l’icône de Vantle. Les nouvelles captures apparaissent quand même sur la carte. Pour les réglages, relancez Vantle&#xa0;; pour le mettre en pause ou ouvrir vos captures d’écran, utilisez les actions de son lanceur.</translation>
+        <source>This desktop has no tray for Vantle&apos;s icon. New captures still appear on the card. To open the settings, start Vantle again. To pause it or to open your screenshots, use the actions of its launcher.</source>
+        <translation>Ce bureau n’a pas de zone de notification pour l’icône de Vantle. Les nouvelles captures apparaissent quand même sur la carte. Pour ouvrir les réglages, relancez Vantle. Pour le mettre en pause ou ouvrir vos captures d’écran, utilisez les actions de son lanceur.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -368,12 +368,12 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
 <context>
     <name>MissingTrayAdvice</name>
     <message>
-        <source>The extension “%1” brings a tray, and it is installed: switch it on in Extensions.</source>
-        <translation>L’extension «&#xa0;%1&#xa0;» apporte une zone de notification, et elle est installée&#xa0;: activez-la dans Extensions.</translation>
+        <source>The installed extension “%1” provides a tray. Turn it on in Extensions.</source>
+        <translation>L’extension installée « %1 » fournit une zone de notification. Activez-la dans Extensions.</translation>
     </message>
     <message>
-        <source>The extension “%1” brings a tray: install the package %2, log out and in again, then switch it on in Extensions.</source>
-        <translation>L’extension «&#xa0;%1&#xa0;» apporte une zone de notification&#xa0;: installez le paquet %2, fermez puis rouvrez votre session, et activez-la dans Extensions.</translation>
+        <source>The extension “%1” provides a tray. Install the package %2, log out and in again, then turn it on in Extensions.</source>
+        <translation>L’extension « %1 » fournit une zone de notification. Installez le paquet %2, fermez puis rouvrez votre session, et activez-la dans Extensions.</translation>
     </message>
 </context>
 <context>
@@ -422,8 +422,8 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
         <translation>Vantle vit dans votre zone de notification. Faites une capture, le plus souvent avec la touche Impr. écran : elle glisse dans le coin « %1 ». Faites-en une autre, et elles s’alignent.</translation>
     </message>
     <message>
-        <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon: to reach the settings, start Vantle again.</source>
-        <translation>Faites une capture&#xa0;: elle glisse dans le coin «&#xa0;%1&#xa0;». Faites-en une autre, et elles s’alignent. Votre bureau n’a pas de zone de notification pour l’icône de Vantle&#xa0;: pour accéder aux réglages, relancez Vantle.</translation>
+        <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon. To open the settings, start Vantle again.</source>
+        <translation>Faites une capture : elle glisse dans le coin « %1 ». Faites-en une autre, et elles s’alignent. Votre bureau n’a pas de zone de notification pour l’icône de Vantle. Pour ouvrir les réglages, relancez Vantle.</translation>
     </message>
 </context>
 <context>
@@ -624,23 +624,23 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
 <context>
     <name>ScreenshotTool</name>
     <message>
-        <source>The desktop does not let its setting &quot;%1&quot; be changed.</source>
+        <source>The desktop does not allow its setting &quot;%1&quot; to be changed.</source>
         <translation>Le bureau ne permet pas de modifier son réglage «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>The screenshot tool of Xfce shows no preview.</source>
-        <translation>L’outil de capture de Xfce n’affiche pas d’aperçu.</translation>
+        <source>Xfce&apos;s screenshot tool has no preview.</source>
+        <translation>L’outil de capture de Xfce n’a pas d’aperçu.</translation>
     </message>
     <message>
-        <source>The screenshot tool of this desktop shows no preview.</source>
-        <translation>L’outil de capture de ce bureau n’affiche pas d’aperçu.</translation>
+        <source>This desktop&apos;s screenshot tool has no preview.</source>
+        <translation>L’outil de capture de ce bureau n’a pas d’aperçu.</translation>
     </message>
     <message>
-        <source>The screenshot tool of MATE always asks in a window.</source>
-        <translation>L’outil de capture de MATE pose toujours la question dans une fenêtre.</translation>
+        <source>MATE&apos;s screenshot tool always opens a window.</source>
+        <translation>L’outil de capture de MATE ouvre toujours une fenêtre.</translation>
     </message>
     <message>
-        <source>ScreenGrab always notifies after it saved.</source>
+        <source>ScreenGrab always shows a notification after saving.</source>
         <translation>ScreenGrab affiche toujours une notification après l’enregistrement.</translation>
     </message>
     <message>

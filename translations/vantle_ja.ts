@@ -8,7 +8,7 @@
         <translation>Vantleは動作中です</translation>
     </message>
     <message>
-        <source>This desktop has no tray for Vantle&apos;s icon. New captures appear on the card all the same. For the settings start Vantle again; to pause it, or to open your screenshots, use the actions of its launcher.</source>
+        <source>This desktop has no tray for Vantle&apos;s icon. New captures still appear on the card. To open the settings, start Vantle again. To pause it or to open your screenshots, use the actions of its launcher.</source>
         <translation>このデスクトップにはVantleのアイコンを表示するトレイがありません。新しいキャプチャはこれまでどおりカードに表示されます。設定を開くにはVantleをもう一度起動してください。一時停止やスクリーンショットを開くには、ランチャーのアクションを使ってください。</translation>
     </message>
     <message>
@@ -368,11 +368,11 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
 <context>
     <name>MissingTrayAdvice</name>
     <message>
-        <source>The extension “%1” brings a tray, and it is installed: switch it on in Extensions.</source>
+        <source>The installed extension “%1” provides a tray. Turn it on in Extensions.</source>
         <translation>拡張機能「%1」でトレイを表示できます。インストール済みなので、「拡張機能」で有効にしてください。</translation>
     </message>
     <message>
-        <source>The extension “%1” brings a tray: install the package %2, log out and in again, then switch it on in Extensions.</source>
+        <source>The extension “%1” provides a tray. Install the package %2, log out and in again, then turn it on in Extensions.</source>
         <translation>拡張機能「%1」でトレイを表示できます。パッケージ%2をインストールし、ログインし直してから、「拡張機能」で有効にしてください。</translation>
     </message>
 </context>
@@ -422,7 +422,7 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <translation>Vantleは通知領域にいます。スクリーンショットを撮ると（多くの場合Print Screenキー）、画面の%1に現れます。続けて撮ると横に並びます。</translation>
     </message>
     <message>
-        <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon: to reach the settings, start Vantle again.</source>
+        <source>Take a screenshot and it will slide into the %1 corner. Take another and they line up together. Your desktop has no tray for Vantle&apos;s icon. To open the settings, start Vantle again.</source>
         <translation>スクリーンショットを撮ると、画面の%1に現れます。続けて撮ると横に並びます。このデスクトップにはVantleのアイコンを表示するトレイがありません。設定を開くにはVantleをもう一度起動してください。</translation>
     </message>
 </context>
@@ -608,23 +608,23 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
 <context>
     <name>ScreenshotTool</name>
     <message>
-        <source>The desktop does not let its setting &quot;%1&quot; be changed.</source>
+        <source>The desktop does not allow its setting &quot;%1&quot; to be changed.</source>
         <translation>デスクトップが設定「%1」の変更を許可していません。</translation>
     </message>
     <message>
-        <source>The screenshot tool of Xfce shows no preview.</source>
-        <translation>Xfceのスクリーンショットツールはプレビューを表示しません。</translation>
+        <source>Xfce&apos;s screenshot tool has no preview.</source>
+        <translation>Xfceのスクリーンショットツールにはプレビューがありません。</translation>
     </message>
     <message>
-        <source>The screenshot tool of this desktop shows no preview.</source>
-        <translation>このデスクトップのスクリーンショットツールはプレビューを表示しません。</translation>
+        <source>This desktop&apos;s screenshot tool has no preview.</source>
+        <translation>このデスクトップのスクリーンショットツールにはプレビューがありません。</translation>
     </message>
     <message>
-        <source>The screenshot tool of MATE always asks in a window.</source>
-        <translation>MATEのスクリーンショットツールは毎回ウインドウで確認します。</translation>
+        <source>MATE&apos;s screenshot tool always opens a window.</source>
+        <translation>MATEのスクリーンショットツールは毎回ウインドウを開きます。</translation>
     </message>
     <message>
-        <source>ScreenGrab always notifies after it saved.</source>
+        <source>ScreenGrab always shows a notification after saving.</source>
         <translation>ScreenGrabは保存後に必ず通知します。</translation>
     </message>
     <message>

@@ -17,9 +17,9 @@ constexpr auto explainedKey = "hasExplainedMissingTray";
 Alert explanation(const std::string& advice) {
     std::string text =
         localized("AppDelegate",
-                  "This desktop has no tray for Vantle's icon. New captures appear on the card "
-                  "all the same. For the settings start Vantle again; to pause it, or to open "
-                  "your screenshots, use the actions of its launcher.");
+                  "This desktop has no tray for Vantle's icon. New captures still appear on the "
+                  "card. To open the settings, start Vantle again. To pause it or to open your "
+                  "screenshots, use the actions of its launcher.");
     if (!advice.empty()) text += "\n\n" + advice;
     return {Alert::Style::informational,
             localized("AppDelegate", "Vantle is running"),

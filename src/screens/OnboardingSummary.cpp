@@ -26,7 +26,7 @@ std::string onboardingOutlook(const Settings& settings, Tray tray) {
         return filled(localized("OnboardingSummary",
                                 "Take a screenshot and it will slide into the %1 corner. Take "
                                 "another and they line up together. Your desktop has no tray for "
-                                "Vantle's icon: to reach the settings, start Vantle again."),
+                                "Vantle's icon. To open the settings, start Vantle again."),
                       {label(settings.corner.value())});
     return filled(localized("OnboardingSummary",
                             "Vantle lives in your menu bar. Take a screenshot with ⇧⌘4 and it will "

@@ -7,7 +7,7 @@ from panel_checks import expected_frame, show_one
 from privatedesktop import Program, wait_until, wait_until_still
 from using import press_with_control, window_titled
 
-CHOOSER = "Choose where screenshots are to be saved."
+CHOOSER = "Choose where to save screenshots."
 KEEP = "Keep captures until dismissed (recommended)"
 TOGGLES = {
     "Move the file to the Trash after I use it": ("deleteAfterUse", "true"),

@@ -135,13 +135,13 @@ TEST_F(OnboardingTest, TheOutlookSaysHowToReachTheSettingsWithoutATray) {
 TEST(MissingTrayAdviceTest, NamesTheExtensionAndItsPackage) {
     const std::string advice = missingTrayAdvice(TrayExtension{"Tray", "shell-tray", false});
     EXPECT_THAT(advice, HasSubstr("“Tray”"));
-    EXPECT_THAT(advice, HasSubstr("install the package shell-tray"));
+    EXPECT_THAT(advice, HasSubstr("Install the package shell-tray"));
 }
 
 TEST(MissingTrayAdviceTest, AnInstalledExtensionOnlyNeedsToBeSwitchedOn) {
     const std::string advice = missingTrayAdvice(TrayExtension{"Tray", "shell-tray", true});
-    EXPECT_THAT(advice, HasSubstr("switch it on"));
-    EXPECT_THAT(advice, Not(HasSubstr("install the package")));
+    EXPECT_THAT(advice, HasSubstr("Turn it on"));
+    EXPECT_THAT(advice, Not(HasSubstr("Install the package")));
 }
 
 TEST(MissingTrayAdviceTest, ThereIsNoAdviceForAnUnknownDesktop) {

@@ -75,9 +75,9 @@ TEST_F(OnboardingViewTest, TheDoneStepSaysThatThereIsNoTrayAndHowToGetOne) {
         {QStringLiteral("You're all set"),
          QStringLiteral("Take a screenshot and it will slide into the Bottom Right corner. Take "
                         "another and they line up together. Your desktop has no tray for "
-                        "Vantle's icon: to reach the settings, start Vantle again."),
-         QStringLiteral("The extension “Tray” brings a tray: install the package shell-tray, log "
-                        "out and in again, then switch it on in Extensions."),
+                        "Vantle's icon. To open the settings, start Vantle again."),
+         QStringLiteral("The extension “Tray” provides a tray. Install the package shell-tray, log "
+                        "out and in again, then turn it on in Extensions."),
          QStringLiteral("Start Using Vantle")});
 }
 

@@ -25,13 +25,13 @@ Outcome GSettingsSetting::write(const std::optional<std::string>& text) {
 std::string GSettingsSetting::obstacle() const {
     if (settings_->isWritable(schema_, key_)) return {};
     return filled(
-        localized("ScreenshotTool", "The desktop does not let its setting \"%1\" be changed."),
+        localized("ScreenshotTool", "The desktop does not allow its setting \"%1\" to be changed."),
         {key_});
 }
 
 Failure GSettingsSetting::complain(const Failure& failure) const {
     if (failure.code != EAGAIN && !std::exchange(complained_, true))
-        systemLog("Vantle: cannot use the setting " + key_ + " of " + schema_ + ": " +
+        systemLog("Vantle: cannot read or change the setting " + key_ + " of " + schema_ + ": " +
                   failure.message);
     return failure;
 }

@@ -140,8 +140,8 @@ ScreenshotTool xfceScreenshooter(const ToolContext& its) {
             .folder = {.setting = std::make_unique<KeyFileSetting>(
                            its.files("xfce4/xfce4-screenshooter"), "", "screenshot_dir"),
                        .notation = addressOfXfce()},
-            .preview = {.obstacle = localized("ScreenshotTool",
-                                              "The screenshot tool of Xfce shows no preview.")}};
+            .preview = {.obstacle =
+                            localized("ScreenshotTool", "Xfce's screenshot tool has no preview.")}};
 }
 
 ScreenshotTool gnomeScreenshot(const ToolContext& its) {
@@ -149,19 +149,17 @@ ScreenshotTool gnomeScreenshot(const ToolContext& its) {
         .defaultFolder = its.picturesOrHome(),
         .folder = {.setting = its.inGSettings("org.gnome.gnome-screenshot", "auto-save-directory"),
                    .notation = addressOrPath()},
-        .preview = {.obstacle =
-                        localized("ScreenshotTool",
-                                  "The screenshot tool of this desktop shows no preview.")}};
+        .preview = {.obstacle = localized("ScreenshotTool",
+                                          "This desktop's screenshot tool has no preview.")}};
 }
 
 ScreenshotTool mateScreenshot(const ToolContext& its) {
-    return {
-        .defaultFolder = [directories = its.directories] { return directories.desktop(); },
-        .folder = {.setting = its.inGSettings("org.mate.screenshot", "last-save-directory"),
-                   .notation = addressOrPath()},
-        .preview = {.isShown = true,
-                    .obstacle = localized("ScreenshotTool",
-                                          "The screenshot tool of MATE always asks in a window.")}};
+    return {.defaultFolder = [directories = its.directories] { return directories.desktop(); },
+            .folder = {.setting = its.inGSettings("org.mate.screenshot", "last-save-directory"),
+                       .notation = addressOrPath()},
+            .preview = {.isShown = true,
+                        .obstacle = localized("ScreenshotTool",
+                                              "MATE's screenshot tool always opens a window.")}};
 }
 
 ScreenshotTool flameshot(const ToolContext& its) {
@@ -189,14 +187,15 @@ ScreenshotTool ksnip(const ToolContext& its) {
 }
 
 ScreenshotTool screengrab(const ToolContext& its) {
-    return {.defaultFolder = [directories = its.directories] { return directories.home(); },
-            .folder = {.setting = std::make_unique<KeyFileSetting>(
-                           its.files("screengrab/screengrab.conf"), "Base", "defDir"),
-                       .notation = pathOfQt()},
-            // In version 2.5 the setting "trayMessages" has no effect on this notification.
-            .preview = {.isShown = true,
-                        .obstacle = localized("ScreenshotTool",
-                                              "ScreenGrab always notifies after it saved.")}};
+    return {
+        .defaultFolder = [directories = its.directories] { return directories.home(); },
+        .folder = {.setting = std::make_unique<KeyFileSetting>(
+                       its.files("screengrab/screengrab.conf"), "Base", "defDir"),
+                   .notation = pathOfQt()},
+        // In version 2.5 the setting "trayMessages" has no effect on this notification.
+        .preview = {.isShown = true,
+                    .obstacle = localized("ScreenshotTool",
+                                          "ScreenGrab always shows a notification after saving.")}};
 }
 
 ScreenshotTool shellOfGnome(const ToolContext& its) {
