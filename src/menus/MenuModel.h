@@ -14,7 +14,7 @@ namespace vantle {
 class MenuModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("made by the menu's window")
+    QML_UNCREATABLE("created by the menu window")
 
     /// Each line has "title", "symbol", "isSeparator", "isEnabled", "shortcut" (for display),
     /// "picture" (an address, or empty if there is none) and "pictureSize".

@@ -194,7 +194,7 @@ void addScreenshotTool(Platform& platform, const Url& own) {
     if (recorder) platform.recordingsFolder = recorder->recordingsFolder;
     if (tool && tool->recordingsFolder) platform.recordingsFolder = tool->recordingsFolder;
     if (!tool && name != noScreenshotTool)
-        systemLog("Vantle: there is no screenshotTool named " + name + "; none is used");
+        systemLog("Vantle: unknown screenshotTool \"" + name + "\"; no screenshot tool is used");
     if (tool)
         platform.screenshotPreferences = std::make_unique<ToolPreferencesDomain>(
             std::move(*tool), UserDirectories(platform.environment).home(), own);

@@ -57,14 +57,14 @@ std::string fileOf(const char* library) {
 
 LoadedViews::LoadedViews()
     : noProxies_(fileOf("vantle-no-proxies.so")), library_(fileOf("vantle-views.so")) {
-    if (!library_.isThere()) qFatal("%s cannot be read", fileOf("vantle-views.so").c_str());
+    if (!library_.isThere()) qFatal("cannot read %s", fileOf("vantle-views.so").c_str());
 }
 
 Views& LoadedViews::get() {
     if (views_) return *views_;
     void* library = load();
     const auto entry = library ? reinterpret_cast<ViewsEntry>(dlsym(library, viewsEntry)) : nullptr;
-    if (!entry) qFatal("the library of the views cannot be loaded: %s", dlerror());
+    if (!entry) qFatal("cannot load the library of the views: %s", dlerror());
     views_.reset(entry(services_));
     return *views_;
 }

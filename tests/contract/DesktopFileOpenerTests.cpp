@@ -99,7 +99,7 @@ TEST_F(DesktopFileOpenerTest, LogsThatThereIsNoOpener) {
     QFile::remove(desktop.programs.filePath(QStringLiteral("xdg-open")));
     desktop.opener.open(file);
     EXPECT_THAT(log.lines(), ElementsAre("Vantle: cannot open /folder/50% of it.png: "
-                                         "xdg-open is not installed"));
+                                         "no program to open it is installed, such as xdg-open"));
 }
 
 TEST_F(DesktopFileOpenerTest, AProgramThatCannotBeStartedIsLogged) {

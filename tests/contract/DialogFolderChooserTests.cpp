@@ -86,7 +86,7 @@ TEST(DialogFolderChooserTest, ADialogThatCannotBeShownIsLoggedAndReturnsNothing)
     EXPECT_EQ(answer.count, 0);
     ASSERT_TRUE(runUntil([&] { return answer.count > 0; }));
     EXPECT_EQ(answer.folder, std::nullopt);
-    EXPECT_THAT(log.lines(), testing::ElementsAre(testing::HasSubstr("folder chooser")));
+    EXPECT_THAT(log.lines(), testing::ElementsAre(testing::HasSubstr("folder dialog")));
 }
 
 }  // namespace

@@ -129,10 +129,9 @@ TEST_F(IniFileTest, ReadsTheValidLinesOfADamagedFileAndKeepsACopy) {
     const std::string damage("[General]\nshown=true\n\0\0\0", 24);
     writeText(file, damage);
     EXPECT_TRUE(isShown(file));
-    EXPECT_THAT(log.lines(),
-                ElementsAre("Vantle: a damaged file is kept aside, and what can be read of it is "
-                            "used: " +
-                            file.path() + " is now " + aside().path()));
+    EXPECT_THAT(log.lines(), ElementsAre("Vantle: a settings file is damaged; its readable lines "
+                                         "are used, and it was renamed: " +
+                                         file.path() + " is now " + aside().path()));
     EXPECT_EQ(readText(aside()), damage);
     EXPECT_EQ(readText(file), "[General]\nshown=true\n");
     EXPECT_TRUE(isShown(file));

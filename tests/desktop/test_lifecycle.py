@@ -2,6 +2,7 @@
 
 import itertools
 import pathlib
+import re
 import signal
 
 import pytest
@@ -140,7 +141,7 @@ def test_says_that_it_lacks_its_views(desktop, binary, tmp_path):
     copy.start()
     try:
         assert copy.wait_for_end() == 1
-        assert "lib/vantle/modules/vantle-views.so cannot be read" in copy.log_text()
+        assert re.search("cannot read .*/lib/vantle/modules/vantle-views.so\n", copy.log_text())
     finally:
         copy.stop()
 

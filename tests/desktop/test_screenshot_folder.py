@@ -162,5 +162,5 @@ def test_damaged_settings_of_the_tool_are_left_alone(desktop, vantle, screens):
 def test_an_unknown_tool_in_the_settings_file_is_reported(desktop, vantle):
     vantle.write_settings(screenshotTool="camera")
     vantle.start_watching()
-    vantle.wait_for_log("Vantle: there is no screenshotTool named camera; none is used$")
+    vantle.wait_for_log('Vantle: unknown screenshotTool "camera"; no screenshot tool is used$')
     vantle.wait_for_log(f"watching {desktop.home / 'Desktop'} ")

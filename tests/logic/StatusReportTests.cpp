@@ -73,7 +73,7 @@ TEST(StatusReport, HidesPathsWithAnyCharacters) {
         {"cannot open /home/a: Failed to open “/home/a”", "cannot open (path)"},
         {"Failed to open “/home/a”", "Failed to open “(path)"},
         {"the folder \"/home/anna/a: b\" is full", "the folder \"(path)"},
-        {"not a folder: file:///home/anna/x", "not a folder: file:(path)"},
+        {"not a local folder: file:///home/anna/x", "not a local folder: file:(path)"},
         {"~/secret is gone", "~(path)"},
         {"show: no such file: /home/anna/a.png", "show: no such file: (path)"},
         {"[/home/a] at:/home/b", "[(path)"},

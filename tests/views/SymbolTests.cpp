@@ -79,7 +79,7 @@ TEST(Symbols, FilledOnesAreHeavierThanTheirOutlines) {
 }
 
 TEST(SymbolsDeathTest, AMissingSymbolIsAProgrammingError) {
-    EXPECT_DEATH((void)symbol(QStringLiteral("none"), 16), "there is no symbol none");
+    EXPECT_DEATH((void)symbol(QStringLiteral("none"), 16), "missing symbol: none");
 }
 
 }  // namespace

@@ -23,8 +23,9 @@ namespace {
 constexpr auto usage =
     "Usage: vantle-decoder --thumbnail IN OUT.png [--max POINTS]\n"
     "\n"
-    "Writes the thumbnail that Vantle shows of the file IN, at most POINTS (800) points on its\n"
-    "longer side, and prints the size of the original and, of a recording, its duration.\n";
+    "Writes the thumbnail that Vantle shows for the file IN, with at most POINTS points\n"
+    "(default: 800) on its longer side. Prints the size of the original and, for a\n"
+    "recording, its duration.\n";
 
 struct Arguments {
     std::string in;
@@ -69,7 +70,7 @@ int makeThumbnail(const Arguments& arguments) {
     }
     const auto capture = Capture::create(Url::file(path.string()), Date{}, linuxCaptureExtensions);
     if (!capture) {
-        std::fprintf(stderr, "%s: no kind of file that is shown\n", arguments.in.c_str());
+        std::fprintf(stderr, "%s: not a supported image or recording\n", arguments.in.c_str());
         return 1;
     }
     {
@@ -78,7 +79,8 @@ int makeThumbnail(const Arguments& arguments) {
     }
     if (capture->thumbnail() || capture->duration() > 0) print(*capture);
     if (!capture->thumbnail()) {
-        std::fprintf(stderr, "%s: no picture can be made of it\n", arguments.in.c_str());
+        std::fprintf(stderr, "%s: cannot be read; it may be damaged or incomplete\n",
+                     arguments.in.c_str());
         return 1;
     }
     if (writePng(*capture->thumbnail(), arguments.out)) return 0;

@@ -17,7 +17,8 @@ const FormatModule* loadModule(Format format) {
     const auto entry =
         library ? reinterpret_cast<ModuleEntry>(dlsym(library, moduleEntry)) : nullptr;
     if (!entry) {
-        systemLog(std::string("Decoder: ") + dlerror());
+        systemLog("Decoder: cannot load the module " + std::string(formatName(format)) + ": " +
+                  dlerror());
         return nullptr;
     }
     return entry();

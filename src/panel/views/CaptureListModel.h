@@ -18,7 +18,7 @@ namespace vantle {
 class CaptureListModel : public QAbstractListModel {
     Q_OBJECT
     QML_NAMED_ELEMENT(CaptureList)
-    QML_UNCREATABLE("made by the panel")
+    QML_UNCREATABLE("created by the panel")
 
 public:
     enum Role {

@@ -160,7 +160,7 @@ Outcome CapturePanel::writeSnapshot(const std::string& path) {
     QFile file(QFile::decodeName(QByteArray::fromStdString(path)));
     if (!file.open(QIODevice::WriteOnly)) return Failure{0, file.errorString().toStdString(), path};
     if (picture.isNull() || !picture.save(&file, "PNG") || !file.flush())
-        return Failure{0, "the picture cannot be written", path};
+        return Failure{0, "cannot write the PNG file", path};
     return {};
 }
 

@@ -24,7 +24,7 @@ namespace vantle {
 class PanelModel : public QObject, private QAccessible::ActivationObserver {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("made by the panel")
+    QML_UNCREATABLE("created by the panel")
 
     Q_PROPERTY(vantle::CaptureListModel* captures READ captures CONSTANT)
     /// The number of captures on the card. A card that leaves because its last capture was removed

@@ -86,7 +86,8 @@ void PressFilter::followFrame() {
 bool PressFilter::isMeant(const QPointerEvent& event) {
     const QPointF point = event.points().front().scenePosition();
     const bool isMeant = guard_.allowsPress(onScreen(event), targetAt(point), panel_.now());
-    if (!isMeant) Debug::log([] { return "press on what has just moved there is not taken"; });
+    if (!isMeant)
+        Debug::log([] { return "press ignored: its target has just moved under the pointer"; });
     return isMeant;
 }
 

@@ -14,7 +14,7 @@ constexpr auto strokeOfTheFiles = "stroke-width=\"1.5\"";
 
 QByteArray symbol(const QString& name, const QString& stroke) {
     QFile file(QLatin1String(folder) + name + QLatin1String(".svg"));
-    if (!file.open(QIODevice::ReadOnly)) qFatal("there is no symbol %s", qUtf8Printable(name));
+    if (!file.open(QIODevice::ReadOnly)) qFatal("missing symbol: %s", qUtf8Printable(name));
     return file.readAll().replace(strokeOfTheFiles, "stroke-width=\"" + stroke.toLatin1() + '"');
 }
 

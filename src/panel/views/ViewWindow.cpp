@@ -41,7 +41,7 @@ void ViewWindow::load(const QString& file, const QVariantMap& properties) {
     setInitialProperties(properties);
     setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/") + file));
     // The view is part of the program or of its dependencies, so the installation is broken.
-    if (!rootObject()) qFatal("cannot show %s", qUtf8Printable(file));
+    if (!rootObject()) qFatal("cannot load the view %s", qUtf8Printable(file));
 }
 
 void ViewWindow::unload() {

@@ -50,7 +50,8 @@ void DesktopFileOpener::openPage(const std::string& address) {
 
 Outcome DesktopFileOpener::openByDesktop(const std::string& what) {
     const auto command = commandForArguments(openerPrograms, {what});
-    if (!command) return Failure{ENOENT, "xdg-open is not installed", what};
+    if (!command)
+        return Failure{ENOENT, "no program to open it is installed, such as xdg-open", what};
     return launcher_.launch(command->program, command->arguments);
 }
 

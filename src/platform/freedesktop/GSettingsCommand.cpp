@@ -80,7 +80,7 @@ Result<std::string> GSettingsCommand::text(const std::string& schema,
     const auto printed = run(arguments("get", schema, key));
     if (!printed) return printed.failure();
     const auto text = unquoted(printed.value());
-    if (!text) return Failure{EINVAL, "it is no text", {}};
+    if (!text) return Failure{EINVAL, "the value is not text", {}};
     return text->toStdString();
 }
 

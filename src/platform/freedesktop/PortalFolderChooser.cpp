@@ -44,7 +44,9 @@ std::optional<Url> folder(const QVariantMap& results) {
     const QStringList addresses = results[QStringLiteral("uris")].toStringList();
     if (addresses.isEmpty()) return std::nullopt;
     auto url = Url::fromFileAddress(addresses.constFirst().toStdString());
-    if (!url) systemLog("Vantle: not a folder: " + addresses.constFirst().toStdString());
+    if (!url)
+        systemLog("Vantle: the folder dialog returned something that is not a local folder: " +
+                  addresses.constFirst().toStdString());
     return url;
 }
 
@@ -103,7 +105,7 @@ void PortalFolderChooser::open(const FolderRequest& request) {
                    {QStringLiteral("current_folder"), directory}};
     callBus(bus_, message, *this, [this](const QDBusMessage& reply) {
         if (!isError(reply)) return;
-        systemLog("Vantle: the desktop shows no folder chooser: " +
+        systemLog("Vantle: the desktop cannot show its folder dialog: " +
                   reply.errorMessage().toStdString());
         end(std::nullopt);
     });

@@ -58,11 +58,12 @@ Result<IniDocument> IniFile::read() const {
 Outcome IniFile::keepDamagedAside() const {
     const auto aside = keepAside(file_);
     if (!aside) {
-        complain("cannot keep aside what is damaged, " + file_.path(), aside.failure().message);
+        complain("cannot rename the damaged file " + file_.path(), aside.failure().message);
         return aside.failure();
     }
-    systemLog("Vantle: a damaged file is kept aside, and what can be read of it is used: " +
-              file_.path() + " is now " + aside.value().path());
+    systemLog(
+        "Vantle: a settings file is damaged; its readable lines are used, and it was renamed: " +
+        file_.path() + " is now " + aside.value().path());
     return {};
 }
 

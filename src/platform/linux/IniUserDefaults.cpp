@@ -20,7 +20,7 @@ IniUserDefaults::IniUserDefaults(const Url& file)
 void IniUserDefaults::restoreFromCopy() {
     IniDocument last = IniFile(copy_).load();
     if (last.isEmpty()) return;
-    systemLog("Vantle: the settings are taken from their last copy, " + copy_.path());
+    systemLog("Vantle: the settings file is empty; its last copy is used: " + copy_.path());
     stored_ = std::move(last);
     (void)file_.store({}, stored_);
 }

@@ -60,7 +60,7 @@ void DialogFolderChooser::start(const FolderRequest& request) {
 
 void DialogFolderChooser::end(bool wasAsked) {
     if (!wasAsked)
-        systemLog("Vantle: the folder chooser failed: " + process_->errorString().toStdString());
+        systemLog("Vantle: the folder dialog failed: " + process_->errorString().toStdString());
     // The output is empty if the user chose nothing.
     const QByteArray path = wasAsked ? process_->readAllStandardOutput() : QByteArray();
     // The process emitted the signal that is being handled, so it cannot be deleted here.

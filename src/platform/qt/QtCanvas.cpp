@@ -48,7 +48,7 @@ void drawText(QPainter& painter, const Size& size, const CenteredText& text, con
 Result<std::string> png(const Drawing& drawing, const QFont& font, double scale) {
     QImage image(qRound(drawing.size.width * scale), qRound(drawing.size.height * scale),
                  QImage::Format_RGB32);
-    if (image.isNull()) return Failure{ENOMEM, "there is no memory for the picture", ""};
+    if (image.isNull()) return Failure{ENOMEM, "there is not enough memory for the picture", ""};
     image.setDotsPerMeterX(qRound(dotsPerMeter * scale));
     image.setDotsPerMeterY(qRound(dotsPerMeter * scale));
     QPainter painter(&image);

@@ -13,7 +13,7 @@ namespace vantle {
 class AlertModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("made by the alert's window")
+    QML_UNCREATABLE("created by the alert window")
 
     Q_PROPERTY(bool isWarning READ isWarning CONSTANT)
     Q_PROPERTY(QString messageText READ messageText CONSTANT)

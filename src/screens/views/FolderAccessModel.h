@@ -14,7 +14,7 @@ namespace vantle {
 class FolderAccessModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("made by the window")
+    QML_UNCREATABLE("created by the window")
 
     Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
     Q_PROPERTY(QString title READ title NOTIFY changed)

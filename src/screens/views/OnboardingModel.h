@@ -20,7 +20,7 @@ namespace vantle {
 class OnboardingModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("made by the window")
+    QML_UNCREATABLE("created by the window")
 
     Q_PROPERTY(vantle::SettingsModel* settings READ settings CONSTANT)
     Q_PROPERTY(vantle::FolderAccessModel* access READ access CONSTANT)

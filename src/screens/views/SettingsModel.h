@@ -22,7 +22,7 @@ namespace vantle {
 class SettingsModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("made by the window")
+    QML_UNCREATABLE("created by the window")
 
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(double minimum MEMBER minimum_ CONSTANT)

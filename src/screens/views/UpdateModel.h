@@ -13,7 +13,7 @@ namespace vantle {
 class UpdateModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("made by the window")
+    QML_UNCREATABLE("created by the window")
 
     Q_PROPERTY(QString headline READ headline NOTIFY changed)
     Q_PROPERTY(QString detail READ detail NOTIFY changed)

@@ -49,8 +49,9 @@ void BluetoothSharing::find(Found found) {
 
 void BluetoothSharing::send(const std::vector<Url>& files) {
     const auto command = commandFor(sendingPrograms, files);
-    const Outcome failure = command ? launcher_.launch(command->program, command->arguments)
-                                    : Outcome(Failure{ENOENT, "the program has gone", {}});
+    const Outcome failure =
+        command ? launcher_.launch(command->program, command->arguments)
+                : Outcome(Failure{ENOENT, "the program is no longer installed", {}});
     if (failure) systemLog("Vantle: cannot send over Bluetooth: " + failure->message);
 }
 

@@ -102,9 +102,11 @@ void MailSharing::composeByPortal(const std::vector<Url>& files) {
 
 void MailSharing::composeByDesktop(const std::vector<Url>& files) {
     const auto command = commandFor(mailPrograms, files);
-    const Outcome failure = command ? launcher_.launch(command->program, command->arguments)
-                                    : Outcome(Failure{ENOENT, "xdg-email is not installed", {}});
-    if (failure) systemLog("Vantle: cannot write a mail: " + failure->message);
+    const Outcome failure =
+        command ? launcher_.launch(command->program, command->arguments)
+                : Outcome(Failure{
+                      ENOENT, "no program to compose mail is installed, such as xdg-email", {}});
+    if (failure) systemLog("Vantle: cannot compose a mail: " + failure->message);
 }
 
 }  // namespace vantle

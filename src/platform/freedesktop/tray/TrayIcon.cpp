@@ -51,7 +51,7 @@ QImage TrayIcon::picture(int size) const {
     const bool isRead = file.open(QIODevice::ReadOnly) &&
                         file.read(reinterpret_cast<char*>(image.bits()), image.sizeInBytes()) ==
                             image.sizeInBytes();
-    if (!isRead) qFatal("the icon %s is not as it was built", qUtf8Printable(file.fileName()));
+    if (!isRead) qFatal("the built-in icon %s cannot be read", qUtf8Printable(file.fileName()));
     return image;
 }
 

@@ -23,7 +23,7 @@ void BackgroundGSettings::whenHeard(std::function<void()> done) {
 Result<std::string> BackgroundGSettings::text(const std::string& schema,
                                               const std::string& key) const {
     const Entry& entry = self().ask({schema, key});
-    return entry.text ? *entry.text : Failure{EAGAIN, "it is not known yet", {}};
+    return entry.text ? *entry.text : Failure{EAGAIN, "the value has not been read yet", {}};
 }
 
 bool BackgroundGSettings::isWritable(const std::string& schema, const std::string& key) const {
@@ -71,7 +71,8 @@ void BackgroundGSettings::hear(const Name& name, std::uint64_t writes,
 Outcome BackgroundGSettings::write(const Name& name, const std::string& text,
                                    std::function<Outcome()> write) {
     Entry& entry = entries_[name];
-    if (entry.isWritable == false) return Failure{EPERM, "the desktop does not let it be set", {}};
+    if (entry.isWritable == false)
+        return Failure{EPERM, "the desktop does not allow it to be changed", {}};
     if (entry.text && !*entry.text) return entry.text->failure();
     entry.text = text;
     ++entry.writes;

@@ -77,7 +77,8 @@ Result<KeyFile> SettingsFiles::load(const Url& file) const {
 
 Failure SettingsFiles::complain(const Failure& failure) const {
     if (!std::exchange(complained_, true))
-        systemLog("Vantle: cannot use " + failure.path, failure.message);
+        systemLog("Vantle: cannot read or change the settings file " + failure.path,
+                  failure.message);
     return failure;
 }
 

@@ -105,8 +105,8 @@ void ToolPreferencesDomain::setFolder(const Url& folder) {
     if (text) {
         (void)folder_->change(*text);
     } else {
-        systemLog("Vantle: cannot save into " + folder.path() + ": " + tool_.name +
-                  " has no way to write that");
+        systemLog("Vantle: cannot set the folder " + folder.path() + ": the settings of " +
+                  tool_.name + " cannot express it");
     }
 }
 
