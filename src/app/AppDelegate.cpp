@@ -200,7 +200,7 @@ void AppDelegate::observeScreenshotFolder() {
 
 void AppDelegate::observeSystem() {
     platform_.screenshotPreferences->onChange = weakly(shared_from_this(), [](auto& self) {
-        self.settings_.readSystem();
+        self.settings_.refreshFromSystem();
         self.watchRecordings();
     });
 }
@@ -277,7 +277,7 @@ bool AppDelegate::applicationShouldHandleReopen(bool) {
 void AppDelegate::showSettings() {
     if (!views_.makeSettingsWindow) return;
     if (!settingsWindow_) settingsWindow_ = views_.makeSettingsWindow(settings_);
-    settings_.readSystem();
+    settings_.refreshFromSystem();
     watchRecordings();
     present(*settingsWindow_, settingsSize);
 }

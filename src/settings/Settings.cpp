@@ -69,7 +69,7 @@ void Settings::setLaunchAtLogin(bool enabled) {
     launchAtLogin.set(isEnabled(loginItem_));
 }
 
-void Settings::readSystem() {
+void Settings::refreshFromSystem() {
     const auto update = [](auto& mirror, const auto& real) {
         if (mirror.value() != real) mirror.set(real);
     };

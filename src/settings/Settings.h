@@ -19,8 +19,8 @@ namespace vantle {
 /// The observable model of the user's preferences. Main thread only; one for the process.
 ///
 /// Setting a stored property announces the new value, stores it here, then in the user defaults.
-/// Three properties mirror the system. They are read at creation and by readSystem(), and the
-/// functions below change the system first. Setting a mirror directly changes only this model.
+/// Three properties mirror the system. They are read at creation and by refreshFromSystem(), and
+/// the functions below change the system first. Setting a mirror directly changes only this model.
 class Settings {
 public:
     Settings(UserDefaults& defaults, SystemScreenshotPrefs screenshotPrefs, LoginItem& loginItem,
@@ -77,7 +77,7 @@ public:
     std::optional<Url> previousScreenshotFolder() const;
     void restoreScreenshotFolder();
 
-    /// The requested value counts until readSystem() reads the system again.
+    /// The requested value counts until refreshFromSystem() reads the system again.
     void setHideSystemThumbnail(bool hide);
 
     /// Describes how the folder was determined, in English, for bug reports.
@@ -93,7 +93,7 @@ public:
     void applyRecommendedDefaults();
 
     /// Reads the three mirrors from the system again. Announces only what has changed.
-    void readSystem();
+    void refreshFromSystem();
 };
 
 }  // namespace vantle

@@ -195,7 +195,7 @@ TEST_F(SettingsTest, AThumbnailThatCannotBeHiddenIsShownAfterTheSystemIsRead) {
     domain.obstacles["show-thumbnail"] = "It shows.";
     settings.setHideSystemThumbnail(true);
     EXPECT_TRUE(settings.hideSystemThumbnail.value()) << "as it was asked for";
-    settings.readSystem();
+    settings.refreshFromSystem();
     EXPECT_FALSE(settings.hideSystemThumbnail.value());
 }
 

@@ -32,7 +32,7 @@ OnboardingModel::OnboardingModel(const Context& context, std::function<void()> f
 void OnboardingModel::appear() {
     steps_.appear();
     // Reads the system's settings back, because it may have refused some of the recommended ones.
-    settings_.readSystem();
+    settings_.refreshFromSystem();
     model_.appear();
 }
 

@@ -100,7 +100,7 @@ void SettingsModel::setCopyOnCapture(bool on) {
 void SettingsModel::setHideSystemThumbnail(bool on) {
     settings_.setHideSystemThumbnail(on);
     // If this failed the switch must return to its old position.
-    settings_.readSystem();
+    settings_.refreshFromSystem();
     readObstacles();
     emit changed();
 }
