@@ -27,7 +27,7 @@ CaptureWatcher::Services watcherServices(const Platform& platform) {
             .files = *platform.files,
             .media = *platform.media,
             .clock = *platform.clock,
-            .moreExtensions = platform.moreExtensions};
+            .additionalExtensions = platform.additionalExtensions};
 }
 
 CapturePanelController::Services panelServices(
@@ -51,7 +51,7 @@ CaptureLoader makeLoader(const Platform& platform,
     return {{.scheduler = *platform.scheduler,
              .clock = *platform.clock,
              .media = *platform.media,
-             .moreExtensions = platform.moreExtensions},
+             .additionalExtensions = platform.additionalExtensions},
             panel};
 }
 
@@ -81,7 +81,7 @@ AppDelegate::AppDelegate(Platform& platform, Views views)
       requests_({.application = *platform.application,
                  .files = *platform.files,
                  .queue = *platform.watcherQueue,
-                 .moreExtensions = platform.moreExtensions,
+                 .additionalExtensions = platform.additionalExtensions,
                  .panel = *panel_,
                  .statusBar = statusBar_},
                 makeLoader(platform, panel_),
@@ -93,7 +93,7 @@ AppDelegate::AppDelegate(Platform& platform, Views views)
                               .statusBar = statusBar_,
                               .recordingsFolder = platform.recordingsFolder,
                               .displayServer = platform.displayServer,
-                              .surroundings = platform.surroundings})),
+                              .environmentReport = platform.environmentReport})),
       watchErrors_(WatchErrorHandler::create({.settings = settings_,
                                               .watcher = *watcher_,
                                               .scheduler = *platform.scheduler,

@@ -20,7 +20,7 @@ public:
         Scheduler& scheduler;
         const WallClock& clock;
         MediaLoader& media;
-        CaptureExtensions moreExtensions;
+        CaptureExtensions additionalExtensions;
     };
 
     CaptureLoader(const Services& services, const std::shared_ptr<CapturePanelController>& panel)

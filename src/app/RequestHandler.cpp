@@ -55,7 +55,7 @@ Result<std::string> RequestHandler::show(const std::vector<std::string>& paths) 
         if (existence == FileManager::Existence::none)
             refuse(path, localized("Requests", "no such file"));
         else if (existence != FileManager::Existence::file ||
-                 !Capture::kind(url, services_.moreExtensions))
+                 !Capture::kind(url, services_.additionalExtensions))
             refuse(path, localized("Requests", "not a supported image or recording"));
         else
             services_.queue.async([loader = loader_, url] { loader.load(url); });

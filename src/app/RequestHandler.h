@@ -24,7 +24,7 @@ public:
         Application& application;
         const FileManager& files;
         SerialQueue& queue;
-        CaptureExtensions moreExtensions;
+        CaptureExtensions additionalExtensions;
         CapturePanelController& panel;
         StatusBarController& statusBar;
     };

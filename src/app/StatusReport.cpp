@@ -76,7 +76,8 @@ std::string StatusReport::text(const std::vector<std::string>& arguments) const 
     }
     told.push_back({"folder set by", sources_.settings.screenshotFolderOrigin()});
     told.push_back({"settings", sources_.settings.summary()});
-    if (sources_.surroundings) std::ranges::copy(sources_.surroundings(), std::back_inserter(told));
+    if (sources_.environmentReport)
+        std::ranges::copy(sources_.environmentReport(), std::back_inserter(told));
     std::ranges::copy(logReport(recentSystemLog(), paths), std::back_inserter(told));
     return reportText(told);
 }

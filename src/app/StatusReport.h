@@ -32,7 +32,7 @@ public:
         const StatusBarController& statusBar;
         const std::function<Url()>& recordingsFolder;
         const std::function<std::string()>& displayServer;
-        const std::function<std::vector<ReportLine>()>& surroundings;
+        const std::function<std::vector<ReportLine>()>& environmentReport;
     };
 
     explicit StatusReport(const Sources& sources) : sources_(sources) {}

@@ -146,7 +146,7 @@ CaptureWatcher::Look CaptureWatcher::consider(const Url& folder, std::string_vie
     if (name.starts_with('.')) return Look::done;
     const Url url = folder.appending(name);
     if (pending_.contains(url.path())) return Look::done;
-    if (!Capture::kind(url, services_.moreExtensions)) return Look::done;
+    if (!Capture::kind(url, services_.additionalExtensions)) return Look::done;
     const auto values = services_.files.resourceValues(url);
     // While a program writes the file, it is not known to be a regular one. The event for the end
     // of the writing may arrive before the program has closed the file.
@@ -201,7 +201,7 @@ void CaptureWatcher::deliverNext() {
 }
 
 void CaptureWatcher::deliver(const Url& url, Date fileDate) {
-    const auto capture = Capture::create(url, fileDate, services_.moreExtensions);
+    const auto capture = Capture::create(url, fileDate, services_.additionalExtensions);
     if (!capture) return;
     capture->loadThumbnail(services_.media);
     ++onTheirWay_;

@@ -42,7 +42,7 @@ public:
         FileManager& files;
         MediaLoader& media;
         WallClock& clock;
-        CaptureExtensions moreExtensions;  ///< Added to those of every system.
+        CaptureExtensions additionalExtensions;  ///< Added to those of every system.
     };
 
     static std::shared_ptr<CaptureWatcher> create(const Services& services);

@@ -46,7 +46,7 @@ struct Platform {
     /// Notified by the settings and the onboarding when the sample captures are to be shown.
     Observers<> vantleShowDemo;
     /// The extensions that the tools of this system write in addition to those of every system.
-    CaptureExtensions moreExtensions;
+    CaptureExtensions additionalExtensions;
     std::unique_ptr<Scheduler> scheduler;
     std::unique_ptr<WallClock> clock;
     std::unique_ptr<FileManager> files;
@@ -76,11 +76,11 @@ struct Platform {
 
     /// Calls `launch` on the main thread as soon as every value that the settings mirror is known.
     /// Not set if all are known from the start.
-    std::function<void(std::function<void()> launch)> whenKnown;
+    std::function<void(std::function<void()> launch)> whenSettingsAreKnown;
 
     /// Returns true if background work is waiting for an answer that may never come, so that the
     /// queues cannot end. Waits briefly for that work.
-    std::function<bool()> isHeldUp;
+    std::function<bool()> hasBlockedQueue;
 
     /// Makes the updater; empty on a system without one. `platform` and `observer` outlive it.
     std::function<std::unique_ptr<Updater>(Platform& platform, UpdaterObserver& observer)>
@@ -99,7 +99,7 @@ struct Platform {
 
     /// Returns facts about the system and the desktop, for reports of faults; empty if there are
     /// none. Queries other programs, so it may take a moment. Contains no path.
-    std::function<std::vector<ReportLine>()> surroundings;
+    std::function<std::vector<ReportLine>()> environmentReport;
 };
 
 }  // namespace vantle

@@ -45,10 +45,10 @@
 #include "platform/linux/screenshots/ScreenshotTools.h"
 #include "platform/linux/screenshots/ToolChoice.h"
 #include "platform/linux/screenshots/ToolPreferencesDomain.h"
-#include "platform/qt/DensestScreen.h"
 #include "platform/qt/DesktopReport.h"
 #include "platform/qt/DialogFolderChooser.h"
 #include "platform/qt/DisplayServer.h"
+#include "platform/qt/MaximumPixelsPerPoint.h"
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/QtPasteboard.h"
 #include "platform/qt/QtScheduler.h"
@@ -111,8 +111,8 @@ std::unique_ptr<TrayStatusItem> makeStatusItem(OpenMenu openMenu) {
 }
 
 /// Returns facts about the system and the desktop, for reports of faults.
-std::vector<ReportLine> surroundings(const Environment& environment,
-                                     const TrayStatusItem& statusItem) {
+std::vector<ReportLine> environmentReport(const Environment& environment,
+                                          const TrayStatusItem& statusItem) {
     std::vector<ReportLine> lines = systemReport(environment, Url::file(beside("../share/vantle")));
     std::ranges::copy(DisplayServer::current().report(), std::back_inserter(lines));
     std::ranges::copy(desktopReport(), std::back_inserter(lines));
@@ -128,12 +128,12 @@ void addShell(Platform& platform, LoadedViews& views) {
     platform.trayExtension = [environment = platform.environment] {
         return gnomeTrayExtension(environment);
     };
-    platform.surroundings = [environment = platform.environment, &item = *statusItem] {
-        return surroundings(environment, item);
+    platform.environmentReport = [environment = platform.environment, &item = *statusItem] {
+        return environmentReport(environment, item);
     };
     platform.statusItem = std::move(statusItem);
     platform.alerts = loadedAlerts(views);
-    platform.canvas = std::make_unique<QtCanvas>(densestScreen());
+    platform.canvas = std::make_unique<QtCanvas>(maximumPixelsPerPoint());
     platform.sounds =
         std::make_unique<CanberraSoundPlayer>(Url::file(beside("../share/vantle/sounds")));
 }
@@ -162,8 +162,8 @@ std::string toolOfDesktop(const Environment& environment) {
 }
 
 /// Requests the settings that are not known yet, and calls `launch` when they have arrived.
-void whenKnown(const PreferencesDomain& preferences, BackgroundGSettings& settings,
-               std::function<void()> launch) {
+void whenSettingsAreKnown(const PreferencesDomain& preferences, BackgroundGSettings& settings,
+                          std::function<void()> launch) {
     for (const auto* key : {screenshotPreferences::location, screenshotPreferences::showThumbnail})
         (void)preferences.value(key);
     settings.whenHeard(std::move(launch));
@@ -200,9 +200,9 @@ void addScreenshotTool(Platform& platform, const Url& own) {
             std::move(*tool), UserDirectories(platform.environment).home(), own);
     else
         platform.screenshotPreferences = std::make_unique<IniPreferencesDomain>(own);
-    platform.whenKnown = [&preferences = *platform.screenshotPreferences,
-                          settings](std::function<void()> launch) {
-        whenKnown(preferences, *settings, std::move(launch));
+    platform.whenSettingsAreKnown = [&preferences = *platform.screenshotPreferences,
+                                     settings](std::function<void()> launch) {
+        whenSettingsAreKnown(preferences, *settings, std::move(launch));
     };
     tellOfChanges(platform, *settings);
 }
@@ -213,7 +213,7 @@ void addQueues(Platform& platform) {
     auto watcher = std::make_unique<PollQueue>("vantle.watcher");
     auto servers = std::make_unique<PollQueue>("vantle.servers");
     platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*watcher);
-    platform.isHeldUp = [&watcher = *watcher, &servers = *servers] {
+    platform.hasBlockedQueue = [&watcher = *watcher, &servers = *servers] {
         return !watcher.isIdleWithin(endTimeout) || !servers.isIdleWithin(endTimeout);
     };
     platform.watcherQueue = std::move(watcher);
@@ -235,7 +235,7 @@ std::unique_ptr<LoginItem> makeLoginItem(const Environment& environment) {
 Platform makeLinuxPlatform(DBusApplication::Launch launch, LoadedViews& views) {
     Platform platform;
     platform.environment = processEnvironment();
-    platform.moreExtensions = linuxCaptureExtensions;
+    platform.additionalExtensions = linuxCaptureExtensions;
     const Url configuration = UserDirectories(platform.environment).configuration();
     const Url own = configuration.appending("vantle");
     platform.scheduler = std::make_unique<QtScheduler>();
@@ -244,11 +244,11 @@ Platform makeLinuxPlatform(DBusApplication::Launch launch, LoadedViews& views) {
     platform.spareMemory = std::make_unique<GlibcSpareMemory>();
     platform.files = std::make_unique<LinuxFileManager>(platform.environment, isRecording);
     platform.media =
-        std::make_unique<ConfinedMediaLoader>(beside("vantle-decoder"), densestScreen());
+        std::make_unique<ConfinedMediaLoader>(beside("vantle-decoder"), maximumPixelsPerPoint());
     platform.defaults = std::make_unique<IniUserDefaults>(own.appending("vantle.conf"));
     addScreenshotTool(platform,
                       own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));
-    platform.launcher = std::make_unique<PosixProcessLauncher>(displays::ownVariables());
+    platform.launcher = std::make_unique<PosixProcessLauncher>(displays::toolkitVariables());
     platform.loginItem = makeLoginItem(platform.environment);
     platform.screens = std::make_unique<QtScreens>();
     platform.application = std::make_unique<DBusApplication>(programIdentifier, launch);

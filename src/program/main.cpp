@@ -127,7 +127,7 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
         views);
     const UnixSignals endingSignals([&] { platform.application->terminate(); });
     std::shared_ptr<AppDelegate> delegate;
-    platform.whenKnown([&] {
+    platform.whenSettingsAreKnown([&] {
         delegate = AppDelegate::create(platform, makeViews(platform, views));
         if (const auto status = launch(*delegate, request)) QGuiApplication::exit(*status);
     });
@@ -136,7 +136,7 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
     platform.trash.reset();  // waits for moves to the Trash that are under way
     // Nothing is left to be written, and the queue of a server that does not answer would never
     // end.
-    if (platform.isHeldUp()) _exit(status);
+    if (platform.hasBlockedQueue()) _exit(status);
     return status;
 }
 

@@ -76,7 +76,7 @@ TEST_F(FileMimeDataTest, TheToolkitReadsThePathsAsText) {
 
 TEST_F(FileMimeDataTest, OnlyReadingContentsCountsAsRead) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
-    const auto wasRead = data.marks().wasRead;
+    const auto wasRead = data.dropState().wasRead;
     (void)data.formats();
     EXPECT_FALSE(data.hasImage());
     EXPECT_EQ(get(data, "image/png"), "");
@@ -87,7 +87,7 @@ TEST_F(FileMimeDataTest, OnlyReadingContentsCountsAsRead) {
 
 TEST_F(FileMimeDataTest, ReadingTheListOfAddressesCountsAsRead) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
-    const auto wasRead = data.marks().wasRead;
+    const auto wasRead = data.dropState().wasRead;
     (void)data.urls();
     EXPECT_TRUE(*wasRead);
 }
@@ -100,8 +100,8 @@ TEST_F(FileMimeDataTest, ADragCarriesAddressesOnly) {
 
 TEST_F(FileMimeDataTest, KdesFileManagersDecideLater) {
     const FileMimeData data({other}, nullptr, FileMimeData::Use::drag);
-    const auto wasRead = data.marks().wasRead;
-    const auto decidesLater = data.marks().decidesLater;
+    const auto wasRead = data.dropState().wasRead;
+    const auto decidesLater = data.dropState().decidesLater;
     (void)data.urls();
     EXPECT_FALSE(*decidesLater);
     EXPECT_EQ(get(data, "application/x-kio-metadata"), "");
@@ -176,7 +176,7 @@ TEST_F(FileMimeDataTest, ADamagedPictureHasNoContents) {
     saveBytes(file, "II*");
     desktop.media->addDamagedImage(file, Size{40, 30}, Size{40, 30});
     const FileMimeData data({file}, open(file), FileMimeData::Use::clipboard);
-    const auto wasRead = data.marks().wasRead;
+    const auto wasRead = data.dropState().wasRead;
     EXPECT_EQ(get(data, "image/png"), "");
     EXPECT_FALSE(*wasRead);
 }

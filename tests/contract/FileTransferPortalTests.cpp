@@ -70,8 +70,8 @@ TEST_F(FileTransferPortalTest, ManyFilesArePassedInSeveralMessages) {
 
 TEST_F(FileTransferPortalTest, OffersNothingWithoutAPortal) {
     const PrivateBus empty;
-    EXPECT_FALSE(FileTransferPortal(empty.connect()).isThere());
-    EXPECT_FALSE(FileTransferPortal(QDBusConnection(QStringLiteral("none"))).isThere());
+    EXPECT_FALSE(FileTransferPortal(empty.connect()).isAvailable());
+    EXPECT_FALSE(FileTransferPortal(QDBusConnection(QStringLiteral("none"))).isAvailable());
     EXPECT_EQ(FileTransferPortal(empty.connect()).keyFor(save(1)), "");
 }
 

@@ -3,7 +3,7 @@
 #include <QCursor>
 
 #include "contract/ScreensContract.h"
-#include "platform/qt/DensestScreen.h"
+#include "platform/qt/MaximumPixelsPerPoint.h"
 #include "platform/qt/QtScreens.h"
 
 namespace vantle {
@@ -40,7 +40,7 @@ TEST(QtScreensTest, ThePointerAtTheTopEdgeIsOnTheScreenBelowThatEdge) {
 }
 
 TEST(QtScreensTest, TheDensestScreenDecides) {
-    EXPECT_EQ(densestScreen()(), 2);
+    EXPECT_EQ(maximumPixelsPerPoint()(), 2);
 }
 
 }  // namespace

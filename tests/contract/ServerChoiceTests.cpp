@@ -9,18 +9,18 @@ namespace {
 using fakes::FakeEnvironment;
 
 TEST(ServerChoiceTest, ChoosesWaylandIfItOffersOverlays) {
-    EXPECT_EQ(serversToTry({Offer::overlays, true}), "wayland;xcb");
-    EXPECT_EQ(serversToTry({Offer::overlays, false}), "wayland;xcb");
+    EXPECT_EQ(serversToTry({CompositorSupport::overlays, true}), "wayland;xcb");
+    EXPECT_EQ(serversToTry({CompositorSupport::overlays, false}), "wayland;xcb");
 }
 
 TEST(ServerChoiceTest, ChoosesXWaylandIfTheCompositorPlacesAllWindows) {
-    EXPECT_EQ(serversToTry({Offer::windows, true}), "xcb;wayland");
-    EXPECT_EQ(serversToTry({Offer::windows, false}), "wayland;xcb");
+    EXPECT_EQ(serversToTry({CompositorSupport::windows, true}), "xcb;wayland");
+    EXPECT_EQ(serversToTry({CompositorSupport::windows, false}), "wayland;xcb");
 }
 
 TEST(ServerChoiceTest, ChoosesX11WithoutACompositor) {
-    EXPECT_EQ(serversToTry({Offer::none, true}), "xcb;wayland");
-    EXPECT_EQ(serversToTry({Offer::none, false}), "xcb;wayland");
+    EXPECT_EQ(serversToTry({CompositorSupport::none, true}), "xcb;wayland");
+    EXPECT_EQ(serversToTry({CompositorSupport::none, false}), "xcb;wayland");
 }
 
 TEST(ServerChoiceTest, AsksACompositorOnlyInItsOwnSession) {
@@ -33,7 +33,7 @@ TEST(ServerChoiceTest, AsksACompositorOnlyInItsOwnSession) {
 
 TEST(ServerChoiceTest, FindsNoOverlaysIfNoCompositorAnswers) {
     setenv("WAYLAND_DISPLAY", "/nonexistent/wayland", 1);
-    EXPECT_EQ(askCompositor(), Offer::none);
+    EXPECT_EQ(queryCompositor(), CompositorSupport::none);
     unsetenv("WAYLAND_DISPLAY");
 }
 

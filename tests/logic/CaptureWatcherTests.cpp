@@ -25,7 +25,7 @@ protected:
     CaptureWatcherTest() {
         (void)files.createDirectory(folder);
         watcher = CaptureWatcher::create(
-            {scheduler, queue, servers, files, files, media, clock, moreExtensions});
+            {scheduler, queue, servers, files, files, media, clock, additionalExtensions});
         watcher->onCapture = [this](const CapturePointer& capture) {
             captured.push_back(capture->fileName());
         };
@@ -43,7 +43,7 @@ protected:
     void wait(double seconds) { time.advance(Seconds(seconds)); }
 
     static constexpr std::array<std::string_view, 1> moreVideos{"webm"};
-    static constexpr CaptureExtensions moreExtensions{{}, moreVideos};
+    static constexpr CaptureExtensions additionalExtensions{{}, moreVideos};
 
     fakes::VirtualTime time;
     fakes::ManualScheduler scheduler{time};

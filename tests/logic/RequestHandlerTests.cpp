@@ -48,7 +48,7 @@ TEST_F(RequestHandlerTest, ShowsFilesWithoutMakingThemRecent) {
 
 TEST_F(RequestHandlerTest, ShowsFilesWithAnExtensionThatTheSystemAdds) {
     static constexpr std::array<std::string_view, 1> images{"webp"};
-    platform.moreExtensions.image = images;
+    platform.additionalExtensions.image = images;
     launch();
     files->write(Url::file("/pictures/a.webp"), 1, Date{});
     EXPECT_EQ(ask("show", {"/pictures/a.webp"}), "");
@@ -114,7 +114,7 @@ TEST_F(RequestHandlerTest, ReportsItsState) {
 }
 
 TEST_F(RequestHandlerTest, TheVerboseStatusHasTheFactsOfAFaultReportButNoPath) {
-    platform.surroundings = [] { return std::vector<ReportLine>{{"tray", "D-Bus"}}; };
+    platform.environmentReport = [] { return std::vector<ReportLine>{{"tray", "D-Bus"}}; };
     domain->values["location"] = std::string("/home/user/Clients");
     (void)files->createDirectory(Url::file("/home/user/Clients"));
     launch();

@@ -4,18 +4,18 @@
 #include <QPainter>
 #include <QQuickWindow>
 
-#include "platform/qt/ClearWindow.h"
 #include "platform/qt/DisplayServer.h"
+#include "platform/qt/TransparentWindow.h"
 
 namespace vantle {
 
-class SeparateBarView::Bar final : public ClearWindow {
+class SeparateBarView::Bar final : public TransparentWindow {
 public:
-    explicit Bar(SeparateBarView& view) : view_(view) { keepOutOfTheWay(); }
+    explicit Bar(SeparateBarView& view) : view_(view) { makePassive(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override {
-        ClearWindow::paintEvent(event);
+        TransparentWindow::paintEvent(event);
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
@@ -25,7 +25,7 @@ protected:
     }
 
     void exposeEvent(QExposeEvent* event) override {
-        ClearWindow::exposeEvent(event);
+        TransparentWindow::exposeEvent(event);
         view_.setOpen(isExposed());
     }
 

@@ -11,14 +11,16 @@
 namespace vantle::displays {
 namespace {
 
-std::string whyNotTheCompositor() {
-    return askCompositor() == Offer::windows ? "the compositor does not support layer-shell" : "";
+std::string reasonForXWayland() {
+    return queryCompositor() == CompositorSupport::windows
+               ? "the compositor does not support layer-shell"
+               : "";
 }
 
 }  // namespace
 
 std::unique_ptr<DisplayServer> makeDisplayServer() {
-    if (x11::connection()) return std::make_unique<x11::Server>(whyNotTheCompositor);
+    if (x11::connection()) return std::make_unique<x11::Server>(reasonForXWayland);
     if (wayland::display()) return std::make_unique<wayland::Compositor>();
     return std::make_unique<DisplayServer>();
 }

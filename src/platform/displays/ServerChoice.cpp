@@ -24,32 +24,32 @@ struct RegistryDeleter {
     void operator()(wl_registry* registry) const { wl_registry_destroy(registry); }
 };
 
-void hear(void* data, wl_registry*, std::uint32_t, const char* interface, std::uint32_t) {
+void globalAdded(void* data, wl_registry*, std::uint32_t, const char* interface, std::uint32_t) {
     if (std::string_view(interface) == wayland::layershell::shellInterface.name)
-        *static_cast<Offer*>(data) = Offer::overlays;
+        *static_cast<CompositorSupport*>(data) = CompositorSupport::overlays;
 }
 
-void forget(void*, wl_registry*, std::uint32_t) {}
+void globalRemoved(void*, wl_registry*, std::uint32_t) {}
 
 }  // namespace
 
-Offer askCompositor() {
+CompositorSupport queryCompositor() {
     // A connection that was handed to this program must be left to the toolkit, because it can be
     // used only once.
-    if (qEnvironmentVariableIsSet("WAYLAND_SOCKET")) return Offer::none;
+    if (qEnvironmentVariableIsSet("WAYLAND_SOCKET")) return CompositorSupport::none;
     const std::unique_ptr<wl_display, ConnectionDeleter> connection(wl_display_connect(nullptr));
-    if (!connection) return Offer::none;
-    Offer offer = Offer::windows;
+    if (!connection) return CompositorSupport::none;
+    CompositorSupport support = CompositorSupport::windows;
     const std::unique_ptr<wl_registry, RegistryDeleter> registry(
         wl_display_get_registry(connection.get()));
-    static constexpr wl_registry_listener listener{hear, forget};
-    wl_registry_add_listener(registry.get(), &listener, &offer);
-    return wl_display_roundtrip(connection.get()) < 0 ? Offer::none : offer;
+    static constexpr wl_registry_listener listener{globalAdded, globalRemoved};
+    wl_registry_add_listener(registry.get(), &listener, &support);
+    return wl_display_roundtrip(connection.get()) < 0 ? CompositorSupport::none : support;
 }
 
 std::string serversToTry(const Session& session) {
-    const bool isWaylandFirst =
-        session.offer == Offer::overlays || (session.offer == Offer::windows && !session.hasX11);
+    const bool isWaylandFirst = session.support == CompositorSupport::overlays ||
+                                (session.support == CompositorSupport::windows && !session.hasX11);
     return isWaylandFirst ? "wayland;xcb" : "xcb;wayland";
 }
 
@@ -58,21 +58,22 @@ bool isWaylandSession(const Environment& environment) {
            environment(variable).value_or("").starts_with("wayland");
 }
 
-ServerChoice::ServerChoice() : wasMade_(qEnvironmentVariableIsSet(variable)) {
+ServerChoice::ServerChoice() : isChosenByUser_(qEnvironmentVariableIsSet(variable)) {
     const auto environment = processEnvironment();
-    const Offer offer = isWaylandSession(environment) ? askCompositor() : Offer::none;
-    if (offer == Offer::overlays)
-        for (const auto& name : ownVariables()) qputenv(name.c_str(), "1");
-    if (wasMade_) return;
-    const Session session{offer, environment("DISPLAY").has_value()};
+    const CompositorSupport support =
+        isWaylandSession(environment) ? queryCompositor() : CompositorSupport::none;
+    if (support == CompositorSupport::overlays)
+        for (const auto& name : toolkitVariables()) qputenv(name.c_str(), "1");
+    if (isChosenByUser_) return;
+    const Session session{support, environment("DISPLAY").has_value()};
     qputenv(variable, QByteArray::fromStdString(serversToTry(session)));
 }
 
 ServerChoice::~ServerChoice() {
-    if (!wasMade_) qunsetenv(variable);
+    if (!isChosenByUser_) qunsetenv(variable);
 }
 
-const std::vector<std::string>& ownVariables() {
+const std::vector<std::string>& toolkitVariables() {
     static const std::vector<std::string> names{overlayVariable, noFramesVariable};
     return names;
 }

@@ -8,17 +8,17 @@
 namespace vantle::displays {
 
 /// The ways to place windows that the session's compositor offers.
-enum class Offer {
+enum class CompositorSupport {
     none,      ///< No compositor answers, or it must not be asked.
     windows,   ///< It places all windows itself.
     overlays,  ///< It lets programs place some of them (layer-shell).
 };
 
 /// Asks the compositor on a separate connection. Call it before the application object is made.
-Offer askCompositor();
+CompositorSupport queryCompositor();
 
 struct Session {
-    Offer offer = Offer::none;
+    CompositorSupport support = CompositorSupport::none;
     bool hasX11 = false;  ///< True if an X server is named: XWayland in a Wayland session.
 };
 
@@ -41,11 +41,11 @@ public:
     ServerChoice& operator=(const ServerChoice&) = delete;
 
 private:
-    const bool wasMade_;
+    const bool isChosenByUser_;
 };
 
 /// Returns the names of the variables that the toolkit reads while the program runs. They stay set
 /// in this process and must not be passed on to others.
-const std::vector<std::string>& ownVariables();
+const std::vector<std::string>& toolkitVariables();
 
 }  // namespace vantle::displays

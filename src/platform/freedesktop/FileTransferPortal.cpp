@@ -38,7 +38,7 @@ Descriptors opened(const std::vector<Url>& files, std::size_t from) {
 
 }  // namespace
 
-bool FileTransferPortal::isThere() const {
+bool FileTransferPortal::isAvailable() const {
     return bus_.isConnected() && bus_.interface()->isServiceRegistered(service);
 }
 

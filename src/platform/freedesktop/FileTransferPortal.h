@@ -12,7 +12,7 @@ public:
     explicit FileTransferPortal(const QDBusConnection& bus = QDBusConnection::sessionBus())
         : bus_(bus) {}
 
-    bool isThere() const override;
+    bool isAvailable() const override;
     QByteArray keyFor(const std::vector<Url>& files) const override;
 
 private:

@@ -32,7 +32,7 @@ void FileUse::wait(std::chrono::milliseconds timeout, std::function<void(bool)> 
     notifier_.setEnabled(bool(events_));
 }
 
-void FileUse::waitForDecision(bool wasTaken, const DropMarks& marks,
+void FileUse::waitForDecision(bool wasTaken, const DropState& marks,
                               std::function<void(bool)> told) {
     if (wasTaken && *marks.decidesLater)
         wait(decisionTimeout, std::move(told));

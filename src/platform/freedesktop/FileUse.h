@@ -29,7 +29,7 @@ public:
     /// Calls `told` once with whether the target takes the dropped files. If the target has given
     /// its final answer, calls it inside this call; otherwise when the user has decided there, or
     /// has not decided for a while.
-    void waitForDecision(bool wasTaken, const DropMarks& marks,
+    void waitForDecision(bool wasTaken, const DropState& marks,
                          std::function<void(bool wasTaken)> told);
 
 private:

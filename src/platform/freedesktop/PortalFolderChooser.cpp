@@ -37,7 +37,7 @@ uint version(const QDBusMessage& reply) {
 /// Returns the portal's name of the window that the dialog belongs to; empty if there is none.
 QString parentWindow() {
     const QWindow* window = QGuiApplication::focusWindow();
-    return window ? DisplayServer::current().nameForOthers(*window) : QString();
+    return window ? DisplayServer::current().exportedWindowName(*window) : QString();
 }
 
 std::optional<Url> folder(const QVariantMap& results) {

@@ -19,7 +19,7 @@ QStringList arguments(const FolderRequest& request) {
                     QString::fromStdString(request.acceptLabel),
                     QString::fromStdString(request.message)};
     const QWindow* window = QGuiApplication::focusWindow();
-    if (window) all << DisplayServer::current().nameForOthers(*window);
+    if (window) all << DisplayServer::current().exportedWindowName(*window);
     return all;
 }
 

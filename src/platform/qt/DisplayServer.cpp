@@ -68,7 +68,7 @@ std::optional<QPoint> DisplayServer::pointer() const {
     return QCursor::pos();
 }
 
-QPoint DisplayServer::placeOfUser() const {
+QPoint DisplayServer::userPosition() const {
     return QCursor::pos();
 }
 
@@ -93,7 +93,7 @@ void DisplayServer::keepOutOfTaskbar(const QWindow&) {}
 
 void DisplayServer::setInTaskbar(const QWindow&, bool) {}
 
-QString DisplayServer::nameForOthers(const QWindow&) const {
+QString DisplayServer::exportedWindowName(const QWindow&) const {
     return {};
 }
 

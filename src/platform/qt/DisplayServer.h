@@ -93,7 +93,7 @@ public:
     virtual std::optional<QPoint> pointer() const;
     /// Returns the pointer's place or, if that is unknown, a place on the screen where the user is
     /// working.
-    virtual QPoint placeOfUser() const;
+    virtual QPoint userPosition() const;
 
     // Drags and the clipboard.
 
@@ -119,7 +119,7 @@ public:
     virtual void setInTaskbar(const QWindow& window, bool isPresent);
     /// Returns the name by which the desktop's other programs can refer to a window; empty if it
     /// has none.
-    virtual QString nameForOthers(const QWindow& window) const;
+    virtual QString exportedWindowName(const QWindow& window) const;
 };
 
 }  // namespace vantle

@@ -19,7 +19,7 @@ struct DragContents {
 };
 
 /// The use that has been made of a drag's contents so far.
-struct DropMarks {
+struct DropState {
     /// True if a program has read some of the contents.
     std::shared_ptr<const bool> wasRead;
     /// True if the target asks the user what to do with the files only after it has taken them.
@@ -36,10 +36,10 @@ public:
     /// which the drag began; null if that is gone.
     virtual void ended(QWindow* source) { (void)source; }
 
-    /// Calls `told` once, and says whether the program that received the drop has taken the
+    /// Calls `done` once, and says whether the program that received the drop has taken the
     /// contents. A program that has read nothing has taken nothing.
-    virtual void waitForAnswer(const DropMarks& marks, std::function<void(bool wasTaken)> told) {
-        told(*marks.wasRead);
+    virtual void waitForAnswer(const DropState& state, std::function<void(bool wasTaken)> done) {
+        done(*state.wasRead);
     }
 };
 

@@ -51,7 +51,7 @@ FileMimeData::FileMimeData(std::vector<Url> files, std::shared_ptr<const Picture
     : files_(std::move(files)),
       picture_(std::move(picture)),
       use_(use),
-      transfer_(transfer && transfer->isThere() ? std::move(transfer) : nullptr) {}
+      transfer_(transfer && transfer->isAvailable() ? std::move(transfer) : nullptr) {}
 
 QStringList FileMimeData::fileFormats() const {
     if (files_.empty()) return {};
@@ -74,13 +74,13 @@ QVariant FileMimeData::retrieveData(const QString& type, QMetaType wanted) const
         return urlList(files_);
     }
     *decidesLater_ = *decidesLater_ || type == kdeDrop;
-    const QByteArray bytes = as(type);
+    const QByteArray bytes = bytesAs(type);
     *wasRead_ = *wasRead_ || !bytes.isEmpty();
     return bytes;
 }
 
-QByteArray FileMimeData::as(const QString& type) const {
-    if (picture_ && picture_->types().contains(type)) return picture_->as(type);
+QByteArray FileMimeData::bytesAs(const QString& type) const {
+    if (picture_ && picture_->types().contains(type)) return picture_->bytesAs(type);
     if (!fileFormats().contains(type)) return {};
     if (type == transferKey) return transfer_->keyFor(files_);
     if (type == addressList) return joined(files_, address, "\r\n") + "\r\n";

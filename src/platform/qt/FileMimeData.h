@@ -29,18 +29,18 @@ public:
 
     QStringList formats() const override;
 
-    /// Returns the marks, which outlive this object. `wasRead` becomes true when a program has read
-    /// some of the contents; an empty answer does not count. `decidesLater` becomes true when one
-    /// of KDE's file managers has taken a drop, because these ask what to do with the files only
-    /// after they have accepted them.
-    DropMarks marks() const { return {wasRead_, decidesLater_}; }
+    /// Returns the state of the drop, which outlives this object. `wasRead` becomes true when a
+    /// program has read some of the contents; an empty answer does not count. `decidesLater`
+    /// becomes true when one of KDE's file managers has taken a drop, because these ask what to do
+    /// with the files only after they have accepted them.
+    DropState dropState() const { return {wasRead_, decidesLater_}; }
 
 protected:
     QVariant retrieveData(const QString& type, QMetaType wanted) const override;
 
 private:
     QStringList fileFormats() const;
-    QByteArray as(const QString& type) const;
+    QByteArray bytesAs(const QString& type) const;
 
     const std::vector<Url> files_;
     const std::shared_ptr<const PictureContents> picture_;

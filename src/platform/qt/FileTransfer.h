@@ -15,7 +15,7 @@ public:
     virtual ~FileTransfer() = default;
 
     /// Returns true if this desktop offers that now. Waits for the desktop's answer.
-    virtual bool isThere() const = 0;
+    virtual bool isAvailable() const = 0;
 
     /// Returns a key by which the files can be read as long as the session lasts; empty if there is
     /// none. Waits for each answer for a second at most.

@@ -46,7 +46,7 @@ void Overlay::setFrame(const QRect& frame) {
     window_.setGeometry(frame);
 }
 
-void Overlay::standsOn(QScreen& screen) {
+void Overlay::setScreen(QScreen& screen) {
     screen_ = &screen;
     area_ = DisplayServer::current().usableArea(screen);
 }

@@ -53,7 +53,7 @@ protected:
     bool hasKeyboard() const { return hasKeyboard_; }
 
     /// Remembers the frame's place on that screen.
-    void standsOn(QScreen& screen);
+    void setScreen(QScreen& screen);
     /// Shows the window at the same distance from the same edges of another screen.
     void moveTo(QScreen& screen);
     /// Returns the distances of the frame from the edges of the usable area in which it stands.

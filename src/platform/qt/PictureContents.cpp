@@ -117,7 +117,7 @@ QStringList PictureContents::types() const {
     return types;
 }
 
-QByteArray PictureContents::as(const QString& type) const {
+QByteArray PictureContents::bytesAs(const QString& type) const {
     if (type == ownType_) return readAll(file_.get());
     Size size = image_->pixelSize().value_or(Size{});
     const Size points = image_->pointSize();

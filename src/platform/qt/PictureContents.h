@@ -25,7 +25,7 @@ public:
 
     /// Returns the picture as one of types(); empty if the file turns out to be damaged. Unless the
     /// type is the file's own, blocks while the picture is decoded and encoded.
-    QByteArray as(const QString& type) const;
+    QByteArray bytesAs(const QString& type) const;
 
 private:
     PictureContents() = default;

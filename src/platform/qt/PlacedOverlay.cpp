@@ -16,7 +16,7 @@ PlacedOverlay::PlacedOverlay(QWindow& window, Focus focus) : Overlay(window) {
 }
 
 void PlacedOverlay::show() {
-    standsOn(screenAt(frame().center()));
+    setScreen(screenAt(frame().center()));
     window().show();
     window().raise();
 }

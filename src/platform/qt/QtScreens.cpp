@@ -31,7 +31,7 @@ std::optional<Screen> QtScreens::main() const {
 }
 
 Point QtScreens::pointerLocation() const {
-    return toScreenCoordinates(DisplayServer::current().placeOfUser(), primaryScreenGeometry());
+    return toScreenCoordinates(DisplayServer::current().userPosition(), primaryScreenGeometry());
 }
 
 }  // namespace vantle

@@ -34,7 +34,7 @@ void AnchorWindow::hide() {
 
 bool AnchorWindow::event(QEvent* event) {
     if (event->type() == QEvent::Expose && isExposed()) setInputRegion(*this, {});
-    const bool isHandled = ClearWindow::event(event);
+    const bool isHandled = TransparentWindow::event(event);
     if (event->type() == QEvent::FocusIn) tellReady();
     return isHandled;
 }

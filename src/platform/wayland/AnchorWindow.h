@@ -4,7 +4,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/qt/ClearWindow.h"
+#include "platform/qt/TransparentWindow.h"
 #include "platform/wayland/LayerOverlay.h"
 
 namespace vantle::wayland {
@@ -12,7 +12,7 @@ namespace vantle::wayland {
 /// An invisible window, one point in size, beside which a menu opens when it belongs to no window
 /// of ours. A menu alone could neither notice a click elsewhere nor have the keyboard. Main thread
 /// only.
-class AnchorWindow final : public ClearWindow {
+class AnchorWindow final : public TransparentWindow {
 public:
     AnchorWindow();
 

@@ -53,10 +53,10 @@ QRect Compositor::usableArea(QScreen& screen) const {
     return wayland::usableArea(screen);
 }
 
-QPoint Compositor::placeOfUser() const {
+QPoint Compositor::userPosition() const {
     // The compositor reports the pointer only while it is over a window of ours.
     const QScreen* focused = focusedScreen();
-    return focused ? focused->geometry().center() : DisplayServer::placeOfUser();
+    return focused ? focused->geometry().center() : DisplayServer::userPosition();
 }
 
 std::unique_ptr<DragSupport> Compositor::supportDrag(QDrag& drag, const DragContents& contents) {

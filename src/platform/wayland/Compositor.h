@@ -23,7 +23,7 @@ public:
 
     QRect usableArea(QScreen& screen) const override;
     std::optional<QPoint> pointer() const override { return std::nullopt; }
-    QPoint placeOfUser() const override;
+    QPoint userPosition() const override;
 
     std::unique_ptr<DragSupport> supportDrag(QDrag& drag, const DragContents& contents) override;
     void setClipboard(std::unique_ptr<QMimeData> contents) override;

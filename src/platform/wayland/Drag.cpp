@@ -30,8 +30,8 @@ void Drag::ended(QWindow* source) {
     if (source) releaseLeftButton(*source);
 }
 
-void Drag::waitForAnswer(const DropMarks& marks, std::function<void(bool wasTaken)> told) {
-    use_.waitForDecision(*marks.wasRead, marks, std::move(told));
+void Drag::waitForAnswer(const DropState& state, std::function<void(bool wasTaken)> done) {
+    use_.waitForDecision(*state.wasRead, state, std::move(done));
 }
 
 }  // namespace vantle::wayland

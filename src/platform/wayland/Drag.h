@@ -17,7 +17,7 @@ public:
     Drag(QDrag& drag, const DragContents& contents);
 
     void ended(QWindow* source) override;
-    void waitForAnswer(const DropMarks& marks, std::function<void(bool wasTaken)> told) override;
+    void waitForAnswer(const DropState& state, std::function<void(bool wasTaken)> done) override;
 
 private:
     std::optional<DragEnd> end_;  ///< Present while the button is held.

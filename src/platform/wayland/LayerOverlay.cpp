@@ -39,7 +39,7 @@ void LayerOverlay::show() {
     lostScreen_ = false;
     QScreen& wanted = screenAt(frame().center());
     const bool isSameScreen = screen() == &wanted;
-    standsOn(wanted);
+    setScreen(wanted);
     if (!output(wanted)) return waitForScreen();
     if (!surface_ || !isSameScreen || isLeftBehind_) hide();
     const auto place = placeAt(distances(), frame().size(), wanted);

@@ -11,9 +11,9 @@ void Drag::ended(QWindow*) {
     ground_.reset();
 }
 
-void Drag::waitForAnswer(const DropMarks& marks, std::function<void(bool wasTaken)> told) {
-    answer_.wait([this, marks, told = std::move(told)](bool wasTaken) {
-        use_.waitForDecision(wasTaken && *marks.wasRead, marks, told);
+void Drag::waitForAnswer(const DropState& state, std::function<void(bool wasTaken)> done) {
+    answer_.wait([this, state, done = std::move(done)](bool wasTaken) {
+        use_.waitForDecision(wasTaken && *state.wasRead, state, done);
     });
 }
 

@@ -16,7 +16,7 @@ public:
     explicit Drag(const DragContents& contents);
 
     void ended(QWindow* source) override;
-    void waitForAnswer(const DropMarks& marks, std::function<void(bool wasTaken)> told) override;
+    void waitForAnswer(const DropState& state, std::function<void(bool wasTaken)> done) override;
 
 private:
     DropAnswer answer_;

@@ -36,8 +36,8 @@ public:
         connect(&limit_, &QTimer::timeout, this, [this] { answer(false); });
     }
 
-    void wait(std::function<void(bool)> told) {
-        told_ = std::move(told);
+    void wait(std::function<void(bool)> done) {
+        done_ = std::move(done);
         if (!answer_ && !watchTarget()) answer_ = false;
         if (answer_)
             answer(*answer_);
@@ -50,7 +50,7 @@ public:
         const int type = event->response_type & 0x7f;
         if (type == XCB_CLIENT_MESSAGE)
             hear(*reinterpret_cast<const xcb_client_message_event_t*>(event));
-        if (type == XCB_DESTROY_NOTIFY && told_ &&
+        if (type == XCB_DESTROY_NOTIFY && done_ &&
             reinterpret_cast<const xcb_destroy_notify_event_t*>(event)->window == target_)
             answer(false);
         return false;
@@ -84,20 +84,20 @@ private:
         return !error;
     }
 
-    /// Reports the answer in a later turn, because `told` may destroy this object.
+    /// Reports the answer in a later turn, because `done` may destroy this object.
     void answer(bool wasTaken) {
         answer_ = wasTaken;
         limit_.stop();
-        if (told_)
+        if (done_)
             QMetaObject::invokeMethod(
-                this, [told = std::exchange(told_, nullptr), wasTaken] { told(wasTaken); },
+                this, [done = std::exchange(done_, nullptr), wasTaken] { done(wasTaken); },
                 Qt::QueuedConnection);
     }
 
     xcb_window_t target_ = XCB_NONE;  ///< The program that last sent a status.
     bool isPromised_ = false;
     std::optional<bool> answer_;
-    std::function<void(bool)> told_;
+    std::function<void(bool)> done_;
     QTimer limit_;
 };
 
@@ -105,8 +105,8 @@ DropAnswer::DropAnswer() : watch_(std::make_unique<Watch>()) {}
 
 DropAnswer::~DropAnswer() = default;
 
-void DropAnswer::wait(std::function<void(bool wasTaken)> told) {
-    watch_->wait(std::move(told));
+void DropAnswer::wait(std::function<void(bool wasTaken)> done) {
+    watch_->wait(std::move(done));
 }
 
 }  // namespace vantle::x11

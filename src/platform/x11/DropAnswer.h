@@ -14,9 +14,9 @@ public:
     DropAnswer();
     ~DropAnswer();
 
-    /// Calls `told` once, later, with the answer of the program that was under the pointer last.
+    /// Calls `done` once, later, with the answer of the program that was under the pointer last.
     /// The answer is false if that program has gone or does not answer for 20 seconds.
-    void wait(std::function<void(bool wasTaken)> told);
+    void wait(std::function<void(bool wasTaken)> done);
 
 private:
     class Watch;

@@ -3,7 +3,7 @@
 #include <QVersionNumber>
 #include <chrono>
 
-#include "platform/qt/ClearWindow.h"
+#include "platform/qt/TransparentWindow.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/WindowRegions.h"
 
@@ -24,10 +24,10 @@ bool forgets(const std::string& versionOfMutter) {
 }
 
 /// One transparent pixel that takes no input.
-class UnseenWindow final : public ClearWindow {
+class UnseenWindow final : public TransparentWindow {
 public:
     explicit UnseenWindow(const QPoint& place) {
-        keepOutOfTheWay();
+        makePassive();
         setGeometry(QRect(place, QSize(1, 1)));
     }
 };

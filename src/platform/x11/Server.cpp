@@ -118,7 +118,7 @@ void Server::setInTaskbar(const QWindow& window, bool isPresent) {
     x11::setInTaskbar(window, isPresent);
 }
 
-QString Server::nameForOthers(const QWindow& window) const {
+QString Server::exportedWindowName(const QWindow& window) const {
     return QStringLiteral("x11:") + QString::number(window.winId(), 16);
 }
 

@@ -38,7 +38,7 @@ public:
     bool isOnOtherWorkspace(const QWindow& window) const override;
     void keepOutOfTaskbar(const QWindow& window) override;
     void setInTaskbar(const QWindow& window, bool isPresent) override;
-    QString nameForOthers(const QWindow& window) const override;
+    QString exportedWindowName(const QWindow& window) const override;
 
 private:
     const std::function<std::string()> whyNotNative_;

@@ -67,7 +67,7 @@ bool FlyBack::event(QEvent* event) {
         flight_.setStartValue(place_);
         flight_.start();
     }
-    return ClearWindow::event(event);
+    return TransparentWindow::event(event);
 }
 
 void FlyBack::moveTo(const QPoint& place) {
@@ -80,7 +80,7 @@ void FlyBack::moveTo(const QPoint& place) {
 }
 
 void FlyBack::paintEvent(QPaintEvent* event) {
-    ClearWindow::paintEvent(event);
+    TransparentWindow::paintEvent(event);
     QPainter painter(this);
     if (!coversScreen_)
         painter.drawImage(0, 0, picture_);

@@ -6,14 +6,14 @@
 #include <QVariantAnimation>
 #include <memory>
 
-#include "platform/qt/ClearWindow.h"
 #include "platform/qt/Overlay.h"
+#include "platform/qt/TransparentWindow.h"
 
 namespace vantle {
 
 /// The picture of a drag that no program took, on its way back to where the drag started. Deletes
 /// itself on arrival.
-class FlyBack final : public ClearWindow {
+class FlyBack final : public TransparentWindow {
     Q_OBJECT
 
 public:

@@ -58,17 +58,17 @@ public:
         if (action == Qt::IgnoreAction)
             finish(DragOperation::none);
         else
-            support_->waitForAnswer(marks_, [this](bool wasTaken) {
+            support_->waitForAnswer(dropState_, [this](bool wasTaken) {
                 finish(wasTaken ? DragOperation::copy : DragOperation::none);
             });
     }
 
 private:
-    /// Makes the contents of the drag and keeps their marks.
+    /// Makes the contents of the drag and keeps their state.
     std::unique_ptr<FileMimeData> contents() {
         auto made =
             std::make_unique<FileMimeData>(urls_, nullptr, FileMimeData::Use::drag, transfer_);
-        marks_ = made->marks();
+        dropState_ = made->dropState();
         return made;
     }
 
@@ -98,7 +98,7 @@ private:
     const DraggingSessions::Moved moved_;
     const DraggingSessions::Ended ended_;
     std::unique_ptr<DragSupport> support_;
-    DropMarks marks_;
+    DropState dropState_;
 };
 
 }  // namespace

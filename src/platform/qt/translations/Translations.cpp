@@ -40,10 +40,10 @@ Translations::Translations(const QString& folder, const QStringList& languages) 
         return translator_.load(QStringLiteral("vantle_") + language.replace(u'-', u'_'), folder);
     };
     const auto english = QStringLiteral("en");
-    const auto isTaken = [&](const QString& language) {
+    const auto isLoaded = [&](const QString& language) {
         return load(isEnglish(language) ? english : language);
     };
-    if (std::ranges::none_of(languages, isTaken) && !load(english)) return;
+    if (std::ranges::none_of(languages, isLoaded) && !load(english)) return;
     setTranslator([this](const char* context, const char* text) {
         const QString found = translator_.translate(context, text);
         return found.isEmpty() ? std::string(text) : found.toStdString();

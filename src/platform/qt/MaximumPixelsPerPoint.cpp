@@ -1,4 +1,4 @@
-#include "platform/qt/DensestScreen.h"
+#include "platform/qt/MaximumPixelsPerPoint.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -7,7 +7,7 @@
 
 namespace vantle {
 
-std::function<double()> densestScreen() {
+std::function<double()> maximumPixelsPerPoint() {
     const auto density = std::make_shared<std::atomic<double>>(1.0);
     const auto update = [density] { density->store(qGuiApp->devicePixelRatio()); };
     // Qt has no signal for a change of a screen's scale, but the screen's size in points changes

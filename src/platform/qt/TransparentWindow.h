@@ -5,13 +5,13 @@
 namespace vantle {
 
 /// A window that is transparent wherever nothing is painted.
-class ClearWindow : public QRasterWindow {
+class TransparentWindow : public QRasterWindow {
 protected:
-    ClearWindow();
+    TransparentWindow();
 
     /// Keeps the window above all others, without a frame, and makes it ignore clicks and keys.
     /// Call it before the window is shown.
-    void keepOutOfTheWay();
+    void makePassive();
 
     bool event(QEvent* event) override;
     /// Clears the area that is to be painted.
