@@ -67,7 +67,7 @@ bool isRecording(const Url& url) {
 }
 
 /// Returns the path of another program that belongs to this one.
-std::string beside(const char* program) {
+std::string pathBesideProgram(const char* program) {
     return QDir(QCoreApplication::applicationDirPath()).filePath(program).toStdString();
 }
 
@@ -83,11 +83,12 @@ std::unique_ptr<SharingSource> makeSharingSource(const Platform& platform) {
 
 /// Draws whole pictures for other programs, independently of the screens.
 std::shared_ptr<MediaLoader> makePictureLoader() {
-    return std::make_shared<ConfinedMediaLoader>(beside("vantle-decoder"), [] { return 1.0; });
+    return std::make_shared<ConfinedMediaLoader>(pathBesideProgram("vantle-decoder"),
+                                                 [] { return 1.0; });
 }
 
 /// Adds the services for what the user does with a capture.
-void addUses(Platform& platform, LoadedViews& views) {
+void addCaptureServices(Platform& platform, LoadedViews& views) {
     const auto fileTransfer = std::make_shared<FileTransferPortal>();
     views.use({platform.appearance.get(), fileTransfer});
     platform.opener = std::make_unique<DesktopFileOpener>(*platform.launcher,
@@ -100,7 +101,7 @@ void addUses(Platform& platform, LoadedViews& views) {
         programIdentifier, *platform.opener, DesktopFileOpener::currentSandbox());
     platform.folderChooser =
         std::make_unique<PortalFolderChooser>(std::make_unique<DialogFolderChooser>(
-            QString::fromStdString(beside("vantle-folder-dialog"))));
+            QString::fromStdString(pathBesideProgram("vantle-folder-dialog"))));
 }
 
 std::unique_ptr<TrayStatusItem> makeStatusItem(OpenMenu openMenu) {
@@ -113,16 +114,18 @@ std::unique_ptr<TrayStatusItem> makeStatusItem(OpenMenu openMenu) {
 /// Returns facts about the system and the desktop, for reports of faults.
 std::vector<ReportLine> environmentReport(const Environment& environment,
                                           const TrayStatusItem& statusItem) {
-    std::vector<ReportLine> lines = systemReport(environment, Url::file(beside("../share/vantle")));
+    std::vector<ReportLine> lines =
+        systemReport(environment, Url::file(pathBesideProgram("../share/vantle")));
     std::ranges::copy(DisplayServer::current().report(), std::back_inserter(lines));
     std::ranges::copy(desktopReport(), std::back_inserter(lines));
     lines.push_back({"tray", statusItem.tray()});
-    std::ranges::copy(decoderReport(beside("vantle-decoder")), std::back_inserter(lines));
+    std::ranges::copy(decoderReport(pathBesideProgram("vantle-decoder")),
+                      std::back_inserter(lines));
     return lines;
 }
 
 /// Adds the services by which the program addresses the user outside the panel.
-void addShell(Platform& platform, LoadedViews& views) {
+void addUserInterface(Platform& platform, LoadedViews& views) {
     auto statusItem = makeStatusItem(loadedMenu(views));
     platform.displayServer = [] { return DisplayServer::current().name(); };
     platform.trayExtension = [environment = platform.environment] {
@@ -134,8 +137,8 @@ void addShell(Platform& platform, LoadedViews& views) {
     platform.statusItem = std::move(statusItem);
     platform.alerts = loadedAlerts(views);
     platform.canvas = std::make_unique<QtCanvas>(maximumPixelsPerPoint());
-    platform.sounds =
-        std::make_unique<CanberraSoundPlayer>(Url::file(beside("../share/vantle/sounds")));
+    platform.sounds = std::make_unique<CanberraSoundPlayer>(
+        Url::file(pathBesideProgram("../share/vantle/sounds")));
 }
 
 /// Returns an updater that looks for new versions and shows them.
@@ -148,7 +151,8 @@ std::unique_ptr<Updater> makeUpdater(LoadedViews& views, Platform& platform,
         .application = *platform.application,
         .opener = *platform.opener,
         .observer = observer,
-        .engine = std::make_unique<UpdateProgram>(QString::fromStdString(beside("vantle-updater"))),
+        .engine = std::make_unique<UpdateProgram>(
+            QString::fromStdString(pathBesideProgram("vantle-updater"))),
         .version = std::string(version),
         .makeWindow = [&views](UpdateFlow& flow) { return views.get().makeUpdateWindow(flow); }});
 }
@@ -171,7 +175,7 @@ void whenSettingsAreKnown(const PreferencesDomain& preferences, BackgroundGSetti
 
 /// Mounting and unmounting count as a change of the settings, because a path may then lead to
 /// another folder or to none.
-void tellOfChanges(Platform& platform, BackgroundGSettings& settings) {
+void observeChanges(Platform& platform, BackgroundGSettings& settings) {
     const auto changed = [&preferences = *platform.screenshotPreferences] {
         if (preferences.onChange) preferences.onChange();
     };
@@ -204,7 +208,7 @@ void addScreenshotTool(Platform& platform, const Url& own) {
                                      settings](std::function<void()> launch) {
         whenSettingsAreKnown(preferences, *settings, std::move(launch));
     };
-    tellOfChanges(platform, *settings);
+    observeChanges(platform, *settings);
 }
 
 /// Makes two queues, because the watched folder, and one that is being opened, may be on a server
@@ -243,8 +247,8 @@ Platform makeLinuxPlatform(DBusApplication::Launch launch, LoadedViews& views) {
     platform.clock = std::make_unique<SystemWallClock>();
     platform.spareMemory = std::make_unique<GlibcSpareMemory>();
     platform.files = std::make_unique<LinuxFileManager>(platform.environment, isRecording);
-    platform.media =
-        std::make_unique<ConfinedMediaLoader>(beside("vantle-decoder"), maximumPixelsPerPoint());
+    platform.media = std::make_unique<ConfinedMediaLoader>(pathBesideProgram("vantle-decoder"),
+                                                           maximumPixelsPerPoint());
     platform.defaults = std::make_unique<IniUserDefaults>(own.appending("vantle.conf"));
     addScreenshotTool(platform,
                       own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));
@@ -253,8 +257,8 @@ Platform makeLinuxPlatform(DBusApplication::Launch launch, LoadedViews& views) {
     platform.screens = std::make_unique<QtScreens>();
     platform.application = std::make_unique<DBusApplication>(programIdentifier, launch);
     platform.appearance = std::make_unique<PortalAppearance>();
-    addUses(platform, views);
-    addShell(platform, views);
+    addCaptureServices(platform, views);
+    addUserInterface(platform, views);
     platform.makeUpdater = [&views](Platform& surroundings, UpdaterObserver& observer) {
         return makeUpdater(views, surroundings, observer);
     };

@@ -40,7 +40,7 @@ void returnLargeBlocksAtOnce() {
 /// could be opened, it is replaced, because Qt advises to reinstall the program. When the display
 /// is lost, Qt logs that and then ends the program with a status that depends on Qt's version, so
 /// this ends it first.
-void logOrEnd(QtMsgType type, const QMessageLogContext&, const QString& message) {
+void handleQtMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type != QtFatalMsg) {
         systemLog(message.toStdString());
         if (DisplayServer::current().isLost()) _exit(EXIT_FAILURE);
@@ -62,7 +62,7 @@ void joinSession(const QGuiApplication& application) {
 }
 
 /// Prints how a request went, and returns the exit status.
-int conclude(const Result<std::string>& answer) {
+int printAnswer(const Result<std::string>& answer) {
     if (!answer) {
         std::cerr << "vantle: " << answer.failure().message << std::endl;
         return EXIT_FAILURE;
@@ -74,7 +74,7 @@ int conclude(const Result<std::string>& answer) {
 /// Sends a request to the running copy. Needs no display.
 int ask(int& argc, char** argv, const ApplicationRequest& request) {
     const QCoreApplication application(argc, argv);
-    return conclude(DBusApplication(programIdentifier).ask(request));
+    return printAnswer(DBusApplication(programIdentifier).ask(request));
 }
 
 QGuiApplication makeApplication(int& argc, char** argv) {
@@ -100,15 +100,15 @@ AppDelegate::Views makeViews(Platform& platform, LoadedViews& views) {
 /// started.
 std::optional<int> launch(AppDelegate& delegate, const std::optional<ApplicationRequest>& request) {
     if (const auto answer = delegate.applicationWillFinishLaunching(request))
-        return conclude(*answer);
+        return printAnswer(*answer);
     delegate.applicationDidFinishLaunching();
-    if (request) conclude(delegate.perform(*request));
+    if (request) printAnswer(delegate.perform(*request));
     return std::nullopt;
 }
 
 int run(int& argc, char** argv, const CommandLine& line, Translations& translations) {
     const auto& request = line.request;
-    qInstallMessageHandler(logOrEnd);
+    qInstallMessageHandler(handleQtMessage);
     QGuiApplication application = makeApplication(argc, argv);
     const DisplayServer::Choice server(displays::makeDisplayServer());
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -118,7 +118,7 @@ int run(int& argc, char** argv, const CommandLine& line, Translations& translati
     if (request) {
         const auto answer = DBusApplication(programIdentifier).ask(*request);
         const bool isNobodyThere = !answer && answer.failure().code == ESRCH;
-        if (!isNobodyThere) return conclude(answer);
+        if (!isNobodyThere) return printAnswer(answer);
     }
 
     LoadedViews views;
@@ -148,8 +148,9 @@ int main(int argc, char** argv) {
     Translations translations;
     const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
     std::error_code noFolder;
-    const auto here = std::filesystem::current_path(noFolder);
-    const auto line = parseCommandLine(arguments, Url::file(noFolder ? "/" : here.string()));
+    const auto currentFolder = std::filesystem::current_path(noFolder);
+    const auto line =
+        parseCommandLine(arguments, Url::file(noFolder ? "/" : currentFolder.string()));
     switch (line.kind) {
         case CommandLine::Kind::start:
             return run(argc, argv, line, translations);
