@@ -170,7 +170,7 @@ void whenSettingsAreKnown(const PreferencesDomain& preferences, BackgroundGSetti
                           std::function<void()> launch) {
     for (const auto* key : {screenshotPreferences::location, screenshotPreferences::showThumbnail})
         (void)preferences.value(key);
-    settings.whenHeard(std::move(launch));
+    settings.whenReadsFinish(std::move(launch));
 }
 
 /// Mounting and unmounting count as a change of the settings, because a path may then lead to
@@ -218,7 +218,7 @@ void addQueues(Platform& platform) {
     auto servers = std::make_unique<PollQueue>("vantle.servers");
     platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*watcher);
     platform.hasBlockedQueue = [&watcher = *watcher, &servers = *servers] {
-        return !watcher.isIdleWithin(endTimeout) || !servers.isIdleWithin(endTimeout);
+        return !watcher.waitUntilIdle(endTimeout) || !servers.waitUntilIdle(endTimeout);
     };
     platform.watcherQueue = std::move(watcher);
     platform.serverQueue = std::move(servers);

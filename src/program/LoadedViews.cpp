@@ -57,7 +57,7 @@ std::string fileOf(const char* library) {
 
 LoadedViews::LoadedViews()
     : noProxies_(fileOf("vantle-no-proxies.so")), library_(fileOf("vantle-views.so")) {
-    if (!library_.isThere()) qFatal("cannot read %s", fileOf("vantle-views.so").c_str());
+    if (!library_.exists()) qFatal("cannot read %s", fileOf("vantle-views.so").c_str());
 }
 
 Views& LoadedViews::get() {

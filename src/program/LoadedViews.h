@@ -3,7 +3,7 @@
 #include <memory>
 #include <utility>
 
-#include "platform/linux/HeldLibrary.h"
+#include "platform/linux/PinnedLibrary.h"
 #include "program/Views.h"
 
 namespace vantle {
@@ -26,8 +26,8 @@ public:
 private:
     void* load() const;
 
-    const HeldLibrary noProxies_;
-    const HeldLibrary library_;
+    const PinnedLibrary noProxies_;
+    const PinnedLibrary library_;
     ViewsServices services_;
     std::unique_ptr<Views> views_;
 };

@@ -63,7 +63,7 @@ TEST_F(BackgroundGSettingsTest, ReturnsTheKnownValueAndReadsItAgain) {
 TEST_F(BackgroundGSettingsTest, ReportsWhenAllPendingValuesAreRead) {
     std::string heard = "not yet";
     (void)text();
-    settings->whenHeard([&] { heard = text(); });
+    settings->whenReadsFinish([&] { heard = text(); });
     EXPECT_EQ(heard, "not yet");
     time.settle();
     EXPECT_EQ(heard, "/a");

@@ -58,12 +58,12 @@ TEST(IniDocumentTest, AnInvalidLineLosesOnlyThatLine) {
                                              "ELF")}) {
         const auto document =
             IniDocument::parse("[General]\nkey=1\n" + std::string(line) + "\nother=2\n");
-        EXPECT_FALSE(document.isWhole()) << line;
+        EXPECT_FALSE(document.isIntact()) << line;
         EXPECT_EQ(document.value("key"), PreferenceValue(1.0)) << line;
         EXPECT_EQ(document.value("other"), PreferenceValue(2.0)) << line;
         EXPECT_EQ(document.text(), "[General]\nkey=1\nother=2\n");
     }
-    EXPECT_TRUE(IniDocument::parse("").isWhole());
+    EXPECT_TRUE(IniDocument::parse("").isIntact());
     EXPECT_TRUE(IniDocument::parse("").isEmpty());
 }
 

@@ -53,13 +53,13 @@ TEST(NotationTest, VariablesAreExpanded) {
 }
 
 TEST(NotationTest, ReadsTheAddressesOfEachTool) {
-    const auto xfce = addressOfXfce();
+    const auto xfce = xfceAddress();
     EXPECT_EQ(xfce.read("file:/home/anna/a"), "/home/anna/a");
     EXPECT_EQ(xfce.read("file:///home/anna/a%20b"), "/home/anna/a b");
     EXPECT_EQ(xfce.read("file:/home/anna/100%"), "/home/anna/100%");
     EXPECT_EQ(xfce.read("/home/anna/a%20b"), "/home/anna/a%20b");
 
-    const auto kde = addressOfKde(variable);
+    const auto kde = kdeAddress(variable);
     EXPECT_EQ(kde.read("file:///home/anna/a%20b"), "/home/anna/a b");
     EXPECT_EQ(kde.read("file:///home/anna/a b/"), "/home/anna/a b");
     EXPECT_EQ(kde.read("/home/anna/a%20b"), "/home/anna/a b");
@@ -73,8 +73,7 @@ TEST(NotationTest, ReadsTheAddressesOfEachTool) {
 }
 
 TEST(NotationTest, AFolderIsReadBackAsItWasWritten) {
-    for (const auto& notation :
-         {addressOfXfce(), addressOfKde(variable), addressOrPath(), pathOfQt()})
+    for (const auto& notation : {xfceAddress(), kdeAddress(variable), addressOrPath(), pathOfQt()})
         for (const auto* path :
              {"/a", "/a b", "/Bild ö %41", "/$HOME/100%", "/\\s\\x41", "/スク"}) {
             const auto written = notation.write(Url::file(path));
@@ -84,7 +83,7 @@ TEST(NotationTest, AFolderIsReadBackAsItWasWritten) {
 }
 
 TEST(NotationTest, AnEventOfKdeKeepsItsOtherActions) {
-    const auto popup = popupOfKde();
+    const auto popup = kdePopupAction();
     EXPECT_TRUE(popup.read("Popup"));
     EXPECT_TRUE(popup.read("Sound|Popup"));
     EXPECT_FALSE(popup.read(""));

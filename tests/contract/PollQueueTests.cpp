@@ -83,9 +83,9 @@ TEST(PollQueueTest, ReportsWhetherItIsDelayed) {
     PollQueue queue("contract");
     std::promise<void> goOn;
     queue.async([goOn = goOn.get_future().share()] { goOn.wait(); });
-    EXPECT_FALSE(queue.isIdleWithin(Seconds(0.05)));
+    EXPECT_FALSE(queue.waitUntilIdle(Seconds(0.05)));
     goOn.set_value();
-    EXPECT_TRUE(queue.isIdleWithin(Seconds(30)));
+    EXPECT_TRUE(queue.waitUntilIdle(Seconds(30)));
 }
 
 TEST(PollQueueTest, ItsEndDropsWaitingWork) {

@@ -68,7 +68,7 @@ bool canBeStarted(const std::string& program) {
 }
 
 /// Returns true if a list such as "GNOME;XFCE;" names one of the desktops.
-bool names(const std::string& list, const std::string& desktops) {
+bool namesAnyOf(const std::string& list, const std::string& desktops) {
     const auto listed = split(list, ';');
     return std::ranges::any_of(split(desktops, ':'), [&](const std::string& desktop) {
         return std::ranges::find(listed, desktop) != listed.end();
@@ -80,9 +80,9 @@ bool isEnabled(const KeyFile& entry, const std::string& desktops) {
         return entry.value(entryGroup, key).value_or("");
     };
     if (!canBeStarted(programOf(value("Exec")))) return false;
-    if (entry.value(entryGroup, "OnlyShowIn") && !names(value("OnlyShowIn"), desktops))
+    if (entry.value(entryGroup, "OnlyShowIn") && !namesAnyOf(value("OnlyShowIn"), desktops))
         return false;
-    return !names(value("NotShowIn"), desktops);
+    return !namesAnyOf(value("NotShowIn"), desktops);
 }
 
 bool isSwitchedOff(const KeyFile& entry) {

@@ -128,9 +128,9 @@ std::unique_ptr<DecodedImage> decodedImage(std::unique_ptr<DecodedFile> file,
 }
 
 /// An image that is not opened before its first use.
-class HeldImage final : public ImageFile {
+class LazyImage final : public ImageFile {
 public:
-    HeldImage(std::unique_ptr<DecodedFile> file, const std::function<double()>& pixelsPerPoint)
+    LazyImage(std::unique_ptr<DecodedFile> file, const std::function<double()>& pixelsPerPoint)
         : file_(std::move(file)), pixelsPerPoint_(pixelsPerPoint) {}
 
     std::optional<Size> pixelSize() const override {
@@ -201,7 +201,7 @@ std::unique_ptr<ImageFile> ConfinedMediaLoader::openImage(const Url& url) {
 std::unique_ptr<ImageFile> ConfinedMediaLoader::holdImage(const Url& url) {
     auto file = imageFile(session_, url, timeout_);
     if (!file) return nullptr;
-    return std::make_unique<HeldImage>(std::move(file), pixelsPerPoint_);
+    return std::make_unique<LazyImage>(std::move(file), pixelsPerPoint_);
 }
 
 std::unique_ptr<RecordingFile> ConfinedMediaLoader::openRecording(const Url& url) {

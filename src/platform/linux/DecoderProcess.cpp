@@ -100,11 +100,12 @@ Result<std::unique_ptr<DecoderProcess>> DecoderProcess::start(const std::string&
 std::optional<DecoderProcess::Answer> DecoderProcess::ask(const Request& request, int descriptor,
                                                           std::chrono::milliseconds timeout) {
     const auto end = std::chrono::steady_clock::now() + timeout;
-    silence_ = Silence::gone;
+    reasonForNoAnswer_ = NoAnswer::hadEnded;
     if (!send(socket_.get(), request, descriptor)) return std::nullopt;
     if (auto received = receive<Reply>(socket_.get(), timeout))
         return Answer{received->message, std::move(received->descriptor)};
-    silence_ = std::chrono::steady_clock::now() < end ? Silence::died : Silence::tooLong;
+    reasonForNoAnswer_ =
+        std::chrono::steady_clock::now() < end ? NoAnswer::died : NoAnswer::timedOut;
     return std::nullopt;
 }
 

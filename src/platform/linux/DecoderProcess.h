@@ -26,10 +26,10 @@ public:
     /// The flags of decoder::Guard that this system lacks.
     std::uint32_t missingGuards() const { return missingGuards_; }
 
-    enum class Silence {
-        gone,     ///< The decoder had ended before the request.
-        died,     ///< The decoder ended while it handled the request.
-        tooLong,  ///< The decoder did not answer in time.
+    enum class NoAnswer {
+        hadEnded,  ///< The decoder had ended before the request.
+        died,      ///< The decoder ended while it handled the request.
+        timedOut,  ///< The decoder did not answer in time.
     };
     struct Answer {
         decoder::Reply reply;
@@ -46,7 +46,7 @@ public:
     void closeFile();
 
     /// Returns why the last ask() returned nothing.
-    Silence silence() const { return silence_; }
+    NoAnswer reasonForNoAnswer() const { return reasonForNoAnswer_; }
 
     void kill();
 
@@ -58,7 +58,7 @@ private:
     FileDescriptor process_;
     Format format_;
     std::uint32_t missingGuards_;
-    Silence silence_ = Silence::gone;
+    NoAnswer reasonForNoAnswer_ = NoAnswer::hadEnded;
 };
 
 }  // namespace vantle

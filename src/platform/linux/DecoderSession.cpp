@@ -52,12 +52,12 @@ void DecoderSession::forget(const OpenedFile& file) {
 /// earlier file may be to blame.
 std::optional<DecoderProcess::Answer> DecoderSession::exchange(const OpenedFile& file,
                                                                const Request& request) {
-    using Silence = DecoderProcess::Silence;
-    silence_.reset();
+    using NoAnswer = DecoderProcess::NoAnswer;
+    noAnswer_.reset();
     const bool isReused = process_ && process_->format() == file.format;
     const bool servedOthers = isReused && filesOpened_ > (current_ == &file ? 1 : 0);
     auto answer = exchangeOnce(file, request);
-    if (silence_ == Silence::gone || (silence_ == Silence::died && servedOthers))
+    if (noAnswer_ == NoAnswer::hadEnded || (noAnswer_ == NoAnswer::died && servedOthers))
         answer = exchangeOnce(file, request);
     return answer;
 }
@@ -74,7 +74,7 @@ std::optional<DecoderProcess::Answer> DecoderSession::exchangeOnce(const OpenedF
     if (isOpening) ++filesOpened_;
     auto answer = process_->ask(request, isOpening ? file.descriptor.get() : -1, file.timeout);
     if (answer) return answer;
-    silence_ = process_->silence();
+    noAnswer_ = process_->reasonForNoAnswer();
     process_->kill();
     process_.reset();
     current_ = nullptr;

@@ -46,9 +46,9 @@ private:
 
     const std::string program_;
     std::unique_ptr<DecoderProcess> process_;
-    const OpenedFile* current_ = nullptr;             ///< The file that the decoder holds open.
-    int filesOpened_ = 0;                             ///< By the running decoder.
-    std::optional<DecoderProcess::Silence> silence_;  ///< Set if the last exchange got no answer.
+    const OpenedFile* current_ = nullptr;               ///< The file that the decoder holds open.
+    int filesOpened_ = 0;                               ///< By the running decoder.
+    std::optional<DecoderProcess::NoAnswer> noAnswer_;  ///< Set if the last exchange got no answer.
     bool hasReportedFailure_ = false;
     bool hasReportedGuards_ = false;
 };

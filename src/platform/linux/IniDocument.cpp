@@ -100,7 +100,7 @@ IniDocument IniDocument::parse(std::string_view text) {
         if (KeyFile::isText(line) && KeyFile(line).isWellFormed())
             meaningful += line;
         else
-            document.isWhole_ = false;
+            document.isIntact_ = false;
         text.remove_prefix(line.size());
     }
     document.file_ = KeyFile(meaningful);

@@ -23,7 +23,7 @@ public:
     static IniDocument parse(std::string_view text);
 
     /// Returns true if parse() dropped no line.
-    bool isWhole() const { return isWhole_; }
+    bool isIntact() const { return isIntact_; }
     /// Returns true if the document has no key in any group.
     bool isEmpty() const { return !file_.hasEntries(); }
 
@@ -34,7 +34,7 @@ public:
 
 private:
     KeyFile file_;
-    bool isWhole_ = true;
+    bool isIntact_ = true;
 };
 
 }  // namespace vantle

@@ -25,12 +25,12 @@ Outcome IniFile::store(const std::map<std::string, PreferenceValue>& values,
                        const IniDocument& memory) {
     auto document = read();
     if (!document) return document.failure();
-    const bool isTrusted = document.value().isWhole() && !document.value().isEmpty();
+    const bool isTrusted = document.value().isIntact() && !document.value().isEmpty();
     IniDocument& next = document.value();
     if (!isTrusted && !memory.isEmpty()) next = memory;
     for (const auto& [key, value] : values) next.set(key, value);
     auto failure = replaceWholeFile(file_, next.text());
-    if (failure) complain("cannot write " + file_.path(), failure->message);
+    if (failure) logOnce("cannot write " + file_.path(), failure->message);
     return failure;
 }
 
@@ -44,21 +44,21 @@ Result<IniDocument> IniFile::read() const {
     if (failure == ENOENT) return IniDocument();
     const bool isNoSettingsFile = failure == EFBIG || failure == EISDIR;
     if (!text && !isNoSettingsFile) {
-        complain("cannot read " + file_.path(), text.failure().message);
+        logOnce("cannot read " + file_.path(), text.failure().message);
         return text.failure();
     }
     IniDocument document = text ? IniDocument::parse(text.value()) : IniDocument();
-    if (text && document.isWhole()) return document;
-    if (const Outcome notKept = keepDamagedAside()) return *notKept;
+    if (text && document.isIntact()) return document;
+    if (const Outcome notKept = renameDamaged()) return *notKept;
     // The readable part is written back, so that the same damage is not reported again.
     if (!document.isEmpty()) (void)replaceWholeFile(file_, document.text());
     return document;
 }
 
-Outcome IniFile::keepDamagedAside() const {
-    const auto aside = keepAside(file_);
+Outcome IniFile::renameDamaged() const {
+    const auto aside = renameDamagedFile(file_);
     if (!aside) {
-        complain("cannot rename the damaged file " + file_.path(), aside.failure().message);
+        logOnce("cannot rename the damaged file " + file_.path(), aside.failure().message);
         return aside.failure();
     }
     systemLog(
@@ -67,8 +67,8 @@ Outcome IniFile::keepDamagedAside() const {
     return {};
 }
 
-void IniFile::complain(const std::string& message, const std::string& reason) const {
-    if (!std::exchange(complained_, true)) systemLog("Vantle: " + message, reason);
+void IniFile::logOnce(const std::string& message, const std::string& reason) const {
+    if (!std::exchange(hasLogged_, true)) systemLog("Vantle: " + message, reason);
 }
 
 }  // namespace vantle

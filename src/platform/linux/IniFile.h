@@ -32,11 +32,11 @@ public:
 
 private:
     Result<IniDocument> read() const;
-    Outcome keepDamagedAside() const;
-    void complain(const std::string& message, const std::string& reason) const;
+    Outcome renameDamaged() const;
+    void logOnce(const std::string& message, const std::string& reason) const;
 
     Url file_;
-    mutable bool complained_ = false;
+    mutable bool hasLogged_ = false;
 };
 
 }  // namespace vantle

@@ -59,11 +59,11 @@ void IniUserDefaults::set(const std::string& key, const PreferenceValue& value) 
 
 template <typename T>
 std::optional<T> IniUserDefaults::value(const std::string& key,
-                                        std::optional<T> (*meaning)(const PreferenceValue&)) const {
+                                        std::optional<T> (*convert)(const PreferenceValue&)) const {
     if (const auto stored = stored_.value(key))
-        if (auto meant = meaning(*stored)) return meant;
+        if (auto converted = convert(*stored)) return converted;
     const auto found = registered_.find(key);
-    return found == registered_.end() ? std::nullopt : meaning(found->second);
+    return found == registered_.end() ? std::nullopt : convert(found->second);
 }
 
 }  // namespace vantle

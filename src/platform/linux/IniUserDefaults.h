@@ -24,7 +24,7 @@ public:
 private:
     template <typename T>
     std::optional<T> value(const std::string& key,
-                           std::optional<T> (*meaning)(const PreferenceValue&)) const;
+                           std::optional<T> (*convert)(const PreferenceValue&)) const;
 
     void restoreFromCopy();
     void keepCopy();

@@ -41,40 +41,40 @@ void readTable(const std::string& file, Take take) {
 
 MountTable::MountTable(const MountFiles& files) {
     readTable(files.expected,
-              [this](const std::string& point, const char*) { points_[point] = Kind::expected; });
+              [this](const std::string& point, const char*) { points_[point] = Kind::unmounted; });
     // A file system that is mounted later hides an earlier one at the same place.
     readTable(files.present, [this](const std::string& point, const char* type) {
-        points_[point] = isRemoteType(type) ? Kind::remote : Kind::own;
+        points_[point] = isRemoteType(type) ? Kind::remote : Kind::local;
     });
 }
 
 bool MountTable::isUnmounted(const Url& url) const {
-    return kindBehindLinks(url) == Kind::expected;
+    return kindOfTarget(url) == Kind::unmounted;
 }
 
 bool MountTable::isRemote(const Url& url) const {
-    return kindBehindLinks(url) == Kind::remote;
+    return kindOfTarget(url) == Kind::remote;
 }
 
 MountTable::Kind MountTable::kindOf(const std::string& path) const {
     for (Url place = Url::file(path);; place = place.deletingLastPathComponent()) {
         const auto found = points_.find(place.path());
         if (found != points_.end()) return found->second;
-        if (place.path() == "/") return Kind::own;
+        if (place.path() == "/") return Kind::local;
     }
 }
 
-MountTable::Kind MountTable::kindBehindLinks(const Url& url) const {
+MountTable::Kind MountTable::kindOfTarget(const Url& url) const {
     fs::path place = "/";
     fs::path ahead = fs::path(url.path()).relative_path();
     int links = 0;
-    while (!ahead.empty() && kindOf(place) == Kind::own) {
+    while (!ahead.empty() && kindOf(place) == Kind::local) {
         const fs::path next = place / *ahead.begin();
         ahead = ahead.lexically_relative(*ahead.begin());
         if (ahead == ".") ahead.clear();
         std::error_code noLink;
         const fs::path target =
-            kindOf(next) == Kind::own ? fs::read_symlink(next, noLink) : fs::path();
+            kindOf(next) == Kind::local ? fs::read_symlink(next, noLink) : fs::path();
         if (target.empty() || ++links > maximumLinks) {
             place = next;
             continue;

@@ -28,12 +28,12 @@ public:
     bool isRemote(const Url& url) const;
 
 private:
-    enum class Kind { own, remote, expected };
+    enum class Kind { local, remote, unmounted };
 
     /// Returns the kind of the innermost mount point that contains the path; follows no links.
     Kind kindOf(const std::string& path) const;
     /// Returns the kind of the path's target. Follows links, but only those on local file systems.
-    Kind kindBehindLinks(const Url& url) const;
+    Kind kindOfTarget(const Url& url) const;
 
     std::map<std::string, Kind> points_;
 };

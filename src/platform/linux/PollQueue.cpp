@@ -158,7 +158,7 @@ void PollQueue::after(Seconds delay, Work work) {
     loop_->add(delay, std::move(work));
 }
 
-bool PollQueue::isIdleWithin(Seconds timeout) const {
+bool PollQueue::waitUntilIdle(Seconds timeout) const {
     const auto done = std::make_shared<std::promise<void>>();
     const auto isDone = done->get_future();
     loop_->add(Seconds(0), [done] { done->set_value(); });

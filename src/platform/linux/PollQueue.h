@@ -22,7 +22,7 @@ public:
 
     /// Waits until all work that is due is done; returns false if that takes longer than `timeout`.
     /// For the end of the program: the destructor would never return if a piece of work does not.
-    bool isIdleWithin(Seconds timeout) const;
+    bool waitUntilIdle(Seconds timeout) const;
 
     /// Lets backends register descriptors. Backends share it and may outlive the queue; it makes no
     /// calls after the queue has ended.

@@ -16,7 +16,7 @@ namespace {
 using namespace std::chrono_literals;
 
 /// The program that asks for the report waits only three seconds.
-constexpr auto maximumLook = 2s;
+constexpr auto maximumDuration = 2s;
 
 constexpr std::size_t maximumFileSize = std::size_t{64} * 1024;
 
@@ -58,7 +58,7 @@ std::vector<ReportLine> systemReport(const Environment& environment, const Url& 
 }
 
 std::vector<ReportLine> decoderReport(const std::string& program) {
-    const auto end = std::chrono::steady_clock::now() + maximumLook;
+    const auto end = std::chrono::steady_clock::now() + maximumDuration;
     std::string started;
     std::vector<ReportLine> lines;
     std::uint32_t missing = 0;

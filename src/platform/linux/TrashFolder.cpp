@@ -16,14 +16,14 @@ namespace {
 
 constexpr mode_t ownerOnly = 0700;
 // Links are not followed: other users can write to the roots of some volumes and place links there.
-constexpr int asFolder = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 /// Opens the folder and creates it if it is missing. It must not be a link and must belong to the
 /// user.
 Result<FileDescriptor> openOwnFolder(int parent, const std::string& name) {
     if (mkdirat(parent, name.c_str(), ownerOnly) != 0 && errno != EEXIST)
         return systemFailure(errno, name);
-    FileDescriptor folder(openat(parent, name.c_str(), asFolder));
+    FileDescriptor folder(openat(parent, name.c_str(), folderFlags));
     if (!folder) return systemFailure(errno, name);
     struct stat status {};
     if (fstat(folder.get(), &status) != 0) return systemFailure(errno, name);
@@ -43,7 +43,7 @@ Result<TrashFolder> openInside(Result<FileDescriptor> trash, std::string top) {
 /// Opens this user's folder in the Trash that the administrator has made for all users. That must
 /// not be a link and must have the sticky bit, so that users cannot touch each other's files.
 Result<FileDescriptor> openShared(int top, const std::string& user) {
-    const FileDescriptor shared(openat(top, ".Trash", asFolder));
+    const FileDescriptor shared(openat(top, ".Trash", folderFlags));
     struct stat status {};
     if (!shared || fstat(shared.get(), &status) != 0) return systemFailure(errno, ".Trash");
     if ((status.st_mode & S_ISVTX) == 0) return systemFailure(EPERM, ".Trash");
@@ -84,7 +84,7 @@ Result<TrashFolder> openHomeTrash(const Url& dataFolder) {
 
 Result<TrashFolder> openVolumeTrash(const std::string& folder, const Volume& volume) {
     const std::string path = topOf(folder, volume);
-    const FileDescriptor top(open(path.c_str(), asFolder));
+    const FileDescriptor top(open(path.c_str(), folderFlags));
     if (!top) return systemFailure(errno, path);
     const std::string user = std::to_string(geteuid());
     const std::string prefix = path == "/" ? path : path + "/";

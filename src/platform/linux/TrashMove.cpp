@@ -103,7 +103,7 @@ int renameWhereFree(const std::string& path, int folder, const std::string& name
     return renameat(AT_FDCWD, path.c_str(), folder, name.c_str()) == 0 ? 0 : errno;
 }
 
-Transfer renaming(const std::string& path) {
+Transfer renameTransfer(const std::string& path) {
     return [path](const TrashFolder& trash, const std::string& name) {
         const int folder = trash.files.get();
         if (renameat2(AT_FDCWD, path.c_str(), folder, name.c_str(), RENAME_NOREPLACE) == 0)
@@ -157,7 +157,7 @@ int removeCopied(const std::string& path, const struct stat& status, const Trash
     return error;
 }
 
-Transfer copying(const std::string& path) {
+Transfer copyTransfer(const std::string& path) {
     return [path](const TrashFolder& trash, const std::string& name) -> int {
         const FileDescriptor file(
             open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
@@ -187,9 +187,9 @@ Outcome moveFrom(const std::string& folder, const std::string& path, const Url& 
     const bool isAtHome = homeVolume && homeVolume.value() == volume.value();
     Outcome failure =
         moveInto(isAtHome ? openHomeTrash(dataFolder) : openVolumeTrash(folder, volume.value()),
-                 path, renaming(path));
+                 path, renameTransfer(path));
     if (!failure || (isAtHome && failure->code != EXDEV)) return failure;
-    return moveInto(openHomeTrash(dataFolder), path, copying(path));
+    return moveInto(openHomeTrash(dataFolder), path, copyTransfer(path));
 }
 
 }  // namespace

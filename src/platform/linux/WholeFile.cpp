@@ -94,7 +94,7 @@ Outcome replaceWholeFile(const Url& file, std::string_view contents, Durability 
     return {};
 }
 
-Result<Url> keepAside(const Url& file) {
+Result<Url> renameDamagedFile(const Url& file) {
     for (int number = 1; number <= maximumKeptAside; ++number) {
         const std::string suffix = number == 1 ? "" : "-" + std::to_string(number);
         const Url aside = Url::file(file.path() + ".damaged" + suffix);

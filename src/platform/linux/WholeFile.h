@@ -27,6 +27,6 @@ Outcome replaceWholeFile(const Url& file, std::string_view contents,
 
 /// Renames the file to "NAME.damaged" ("NAME.damaged-2", "-3", ... if that is taken) and returns
 /// the new name. Never overwrites a file.
-Result<Url> keepAside(const Url& file);
+Result<Url> renameDamagedFile(const Url& file);
 
 }  // namespace vantle

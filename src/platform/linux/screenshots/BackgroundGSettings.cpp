@@ -16,51 +16,52 @@ bool isSame(const std::optional<Result<std::string>>& one, const Result<std::str
 
 }  // namespace
 
-void BackgroundGSettings::whenHeard(std::function<void()> done) {
+void BackgroundGSettings::whenReadsFinish(std::function<void()> done) {
     queue_.async([&main = main_, done = std::move(done)] { main.async(done); });
 }
 
 Result<std::string> BackgroundGSettings::text(const std::string& schema,
                                               const std::string& key) const {
-    const Entry& entry = self().ask({schema, key});
+    const Entry& entry = self().requestRead({schema, key});
     return entry.text ? *entry.text : Failure{EAGAIN, "the value has not been read yet", {}};
 }
 
 bool BackgroundGSettings::isWritable(const std::string& schema, const std::string& key) const {
-    return self().ask({schema, key}).isWritable.value_or(true);
+    return self().requestRead({schema, key}).isWritable.value_or(true);
 }
 
 Outcome BackgroundGSettings::setText(const std::string& schema, const std::string& key,
                                      const std::string& text) {
-    return write({schema, key}, text,
-                 [asked = asked_, schema, key, text] { return asked->setText(schema, key, text); });
+    return write({schema, key}, text, [backend = backend_, schema, key, text] {
+        return backend->setText(schema, key, text);
+    });
 }
 
 Outcome BackgroundGSettings::reset(const std::string& schema, const std::string& key) {
     return write({schema, key}, "",
-                 [asked = asked_, schema, key] { return asked->reset(schema, key); });
+                 [backend = backend_, schema, key] { return backend->reset(schema, key); });
 }
 
-const BackgroundGSettings::Entry& BackgroundGSettings::ask(const Name& name) {
+const BackgroundGSettings::Entry& BackgroundGSettings::requestRead(const Name& name) {
     Entry& entry = entries_[name];
-    if (std::exchange(entry.isAsked, true)) return entry;
+    if (std::exchange(entry.isPending, true)) return entry;
     queue_.async(
-        [asked = asked_, &main = main_, weak = weak_from_this(), name, writes = entry.writes] {
+        [backend = backend_, &main = main_, weak = weak_from_this(), name, writes = entry.writes] {
             const auto& [schema, key] = name;
-            auto text = asked->text(schema, key);
-            const bool isWritable = asked->isWritable(schema, key);
+            auto text = backend->text(schema, key);
+            const bool isWritable = backend->isWritable(schema, key);
             main.async([weak, name, writes, text = std::move(text), isWritable] {
                 if (const auto settings = weak.lock())
-                    settings->hear(name, writes, text, isWritable);
+                    settings->receive(name, writes, text, isWritable);
             });
         });
     return entry;
 }
 
-void BackgroundGSettings::hear(const Name& name, std::uint64_t writes,
-                               const Result<std::string>& text, bool isWritable) {
+void BackgroundGSettings::receive(const Name& name, std::uint64_t writes,
+                                  const Result<std::string>& text, bool isWritable) {
     Entry& entry = entries_[name];
-    entry.isAsked = false;
+    entry.isPending = false;
     if (writes != entry.writes) return;
     const bool isKnown = isSame(entry.text, text) && entry.isWritable == isWritable;
     entry.text = text;
@@ -78,18 +79,18 @@ Outcome BackgroundGSettings::write(const Name& name, const std::string& text,
     ++entry.writes;
     queue_.async([&main = main_, weak = weak_from_this(), name, write = std::move(write)] {
         main.async([weak, name, failure = write()] {
-            if (const auto settings = weak.lock()) settings->written(name, failure);
+            if (const auto settings = weak.lock()) settings->writeFinished(name, failure);
         });
     });
     return {};
 }
 
-void BackgroundGSettings::written(const Name& name, const Outcome& failure) {
+void BackgroundGSettings::writeFinished(const Name& name, const Outcome& failure) {
     if (failure)
         systemLog("Vantle: cannot set " + name.second + " of " + name.first + ": " +
                   failure->message);
     // Read again after a success too: after a reset only the desktop knows the default.
-    (void)ask(name);
+    (void)requestRead(name);
 }
 
 }  // namespace vantle

@@ -21,15 +21,15 @@ namespace vantle {
 class BackgroundGSettings final : public GSettings,
                                   public std::enable_shared_from_this<BackgroundGSettings> {
 public:
-    /// `asked` is called on `queue` only. `queue` and `main` must outlive this object.
-    BackgroundGSettings(std::shared_ptr<GSettings> asked, SerialQueue& queue, Scheduler& main)
-        : asked_(std::move(asked)), queue_(queue), main_(main) {}
+    /// `backend` is called on `queue` only. `queue` and `main` must outlive this object.
+    BackgroundGSettings(std::shared_ptr<GSettings> backend, SerialQueue& queue, Scheduler& main)
+        : backend_(std::move(backend)), queue_(queue), main_(main) {}
 
     /// Called on the main thread when a value that was read differs from the last known one.
     std::function<void()> onChange;
 
     /// Calls `done` on the main thread when everything that was requested so far has been read.
-    void whenHeard(std::function<void()> done);
+    void whenReadsFinish(std::function<void()> done);
 
     /// Fails with EAGAIN until the value has been read.
     Result<std::string> text(const std::string& schema, const std::string& key) const override;
@@ -46,20 +46,20 @@ private:
     struct Entry {
         std::optional<Result<std::string>> text;
         std::optional<bool> isWritable;
-        bool isAsked = false;
+        bool isPending = false;
         std::uint64_t writes = 0;  ///< An answer that was requested before the last one is ignored.
     };
 
     /// Reading again in the background changes nothing that a caller sees, so getters are const.
     BackgroundGSettings& self() const { return const_cast<BackgroundGSettings&>(*this); }
-    const Entry& ask(const Name& name);
-    void hear(const Name& name, std::uint64_t writes, const Result<std::string>& text,
-              bool isWritable);
+    const Entry& requestRead(const Name& name);
+    void receive(const Name& name, std::uint64_t writes, const Result<std::string>& text,
+                 bool isWritable);
     /// Calls `write` in the background; until the result is read, `text` counts as the value.
     Outcome write(const Name& name, const std::string& text, std::function<Outcome()> write);
-    void written(const Name& name, const Outcome& failure);
+    void writeFinished(const Name& name, const Outcome& failure);
 
-    std::shared_ptr<GSettings> asked_;
+    std::shared_ptr<GSettings> backend_;
     SerialQueue& queue_;
     Scheduler& main_;
     std::map<Name, Entry> entries_;

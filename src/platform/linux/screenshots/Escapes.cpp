@@ -24,7 +24,7 @@ bool isOneOf(char letter, std::string_view letters) {
     return letters.find(letter) != std::string_view::npos;
 }
 
-char taken(std::string_view& text) {
+char takeFirst(std::string_view& text) {
     const char first = text.front();
     text.remove_prefix(1);
     return first;
@@ -32,7 +32,7 @@ char taken(std::string_view& text) {
 
 /// Removes up to `maximum` hexadecimal digits from the front and returns their value; 0 if there
 /// are none.
-std::uint16_t takenHex(std::string_view& text, std::size_t maximum) {
+std::uint16_t takeHex(std::string_view& text, std::size_t maximum) {
     std::uint16_t value = 0;
     const auto* end = text.data() + std::min(maximum, text.size());
     const auto* rest = std::from_chars(text.data(), end, value, 16).ptr;
@@ -74,7 +74,7 @@ char plainEscape(char letter) {
 std::string fromBackslashEscapes(std::string_view written) {
     std::string text;
     while (!written.empty()) {
-        const char character = taken(written);
+        const char character = takeFirst(written);
         const char letter = written.empty() ? '\0' : written.front();
         if (character != '\\' || !isOneOf(letter, "xstnr\\")) {
             text += character;
@@ -82,7 +82,7 @@ std::string fromBackslashEscapes(std::string_view written) {
         }
         written.remove_prefix(1);
         if (letter == 'x') {
-            text += static_cast<char>(takenHex(written, 2));
+            text += static_cast<char>(takeHex(written, 2));
         } else {
             text += letter == 's' ? ' ' : plainEscape(letter);
         }
@@ -96,14 +96,14 @@ std::string fromQtEscapes(std::string_view written) {
         std::string units;
         while (written.starts_with("\\x")) {
             written.remove_prefix(2);
-            const std::uint16_t unit = takenHex(written, 4);
+            const std::uint16_t unit = takeHex(written, 4);
             units += {static_cast<char>(unit & 0xff), static_cast<char>(unit >> 8)};
         }
         if (!units.empty()) text += converted("UTF-16LE", "UTF-8", units).value_or("");
         if (written.empty()) break;
-        const char character = taken(written);
+        const char character = takeFirst(written);
         if (character == '\\' && !written.empty()) {
-            text += plainEscape(taken(written));
+            text += plainEscape(takeFirst(written));
         } else if (character != '"') {
             text += character;
         }
@@ -137,7 +137,7 @@ std::optional<std::string> toQtEscapes(std::string_view text) {
 std::string expandingVariables(std::string_view text, const Environment& environment) {
     std::string expanded;
     while (!text.empty()) {
-        const char character = taken(text);
+        const char character = takeFirst(text);
         if (character != '$' || text.empty()) {
             expanded += character;
             continue;

@@ -10,7 +10,7 @@ namespace vantle {
 
 Result<std::optional<std::string>> GSettingsSetting::read() const {
     auto text = settings_->text(schema_, key_);
-    if (!text) return complain(text.failure());
+    if (!text) return logOnce(text.failure());
     if (text.value().empty()) return std::optional<std::string>();
     return std::optional(std::move(text.value()));
 }
@@ -18,7 +18,7 @@ Result<std::optional<std::string>> GSettingsSetting::read() const {
 Outcome GSettingsSetting::write(const std::optional<std::string>& text) {
     const auto failure =
         text ? settings_->setText(schema_, key_, *text) : settings_->reset(schema_, key_);
-    if (failure) return complain(*failure);
+    if (failure) return logOnce(*failure);
     return {};
 }
 
@@ -29,8 +29,8 @@ std::string GSettingsSetting::obstacle() const {
         {key_});
 }
 
-Failure GSettingsSetting::complain(const Failure& failure) const {
-    if (failure.code != EAGAIN && !std::exchange(complained_, true))
+Failure GSettingsSetting::logOnce(const Failure& failure) const {
+    if (failure.code != EAGAIN && !std::exchange(hasLogged_, true))
         systemLog("Vantle: cannot read or change the setting " + key_ + " of " + schema_ + ": " +
                   failure.message);
     return failure;

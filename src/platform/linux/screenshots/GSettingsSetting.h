@@ -21,12 +21,12 @@ public:
     std::string obstacle() const override;
 
 private:
-    Failure complain(const Failure& failure) const;
+    Failure logOnce(const Failure& failure) const;
 
     std::shared_ptr<GSettings> settings_;
     std::string schema_;
     std::string key_;
-    mutable bool complained_ = false;
+    mutable bool hasLogged_ = false;
 };
 
 }  // namespace vantle

@@ -38,12 +38,12 @@ FolderNotation addressOrPath() {
     return {.read = pathOf, .write = address};
 }
 
-FolderNotation addressOfXfce() {
+FolderNotation xfceAddress() {
     return {.read = [](const std::string& text) { return pathOf(fromBackslashEscapes(text)); },
             .write = address};
 }
 
-FolderNotation addressOfKde(const Environment& environment) {
+FolderNotation kdeAddress(const Environment& environment) {
     const auto read = [environment](const std::string& text) {
         const std::string plain = expandingVariables(fromBackslashEscapes(text), environment);
         return pathOf(plain.starts_with('/') ? "file://" + plain : plain);
@@ -56,12 +56,12 @@ FolderNotation pathOfQt() {
             .write = [](const Url& folder) { return toQtEscapes(folder.path()); }};
 }
 
-PreviewNotation yesOrNo() {
+PreviewNotation trueOrFalse() {
     return {.read = [](const std::string& text) { return text != "false" && text != "0"; },
             .write = [](const std::string&, bool shows) { return shows ? "true" : "false"; }};
 }
 
-PreviewNotation popupOfKde() {
+PreviewNotation kdePopupAction() {
     return {.read =
                 [](const std::string& text) {
                     const auto actions = split(text, '|');

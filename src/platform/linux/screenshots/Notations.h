@@ -30,18 +30,18 @@ struct PreviewNotation {
 FolderNotation addressOrPath();
 
 /// Like addressOrPath(), in a settings file of Xfce.
-FolderNotation addressOfXfce();
+FolderNotation xfceAddress();
 
 /// An address or a path in a settings file of KDE, both percent-encoded. Expands variables.
-FolderNotation addressOfKde(const Environment& environment);
+FolderNotation kdeAddress(const Environment& environment);
 
 /// A path in a settings file of Qt.
 FolderNotation pathOfQt();
 
 /// Writes "true" or "false"; reads everything but "false" and "0" as true.
-PreviewNotation yesOrNo();
+PreviewNotation trueOrFalse();
 
 /// The action "Popup", which shows a notification, in the actions of a KDE event ("Sound|Popup").
-PreviewNotation popupOfKde();
+PreviewNotation kdePopupAction();
 
 }  // namespace vantle

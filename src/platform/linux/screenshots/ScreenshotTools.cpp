@@ -55,35 +55,35 @@ struct ToolContext {
 };
 
 /// Returns the setting for the preview, which is the same in all versions.
-ScreenshotTool::Preview previewOfSpectacle(const ToolContext& its) {
-    return {.setting = std::make_unique<KeyFileSetting>(its.files("spectacle.notifyrc"),
+ScreenshotTool::Preview previewOfSpectacle(const ToolContext& context) {
+    return {.setting = std::make_unique<KeyFileSetting>(context.files("spectacle.notifyrc"),
                                                         "Event/newScreenshotSaved", "Action"),
-            .notation = popupOfKde(),
+            .notation = kdePopupAction(),
             .textByDefault = "Popup"};
 }
 
 /// Returns true for the versions up to 23.08. Only they use KDE's libraries for Qt 5 and install
 /// the description of their notifications for those, so the program need not be started.
-bool isSpectacleForQt5(const ToolContext& its) {
-    return its.hasData("knotifications5/spectacle.notifyrc") &&
-           !its.hasData("knotifications6/spectacle.notifyrc");
+bool isSpectacleForQt5(const ToolContext& context) {
+    return context.hasData("knotifications5/spectacle.notifyrc") &&
+           !context.hasData("knotifications6/spectacle.notifyrc");
 }
 
-ScreenshotTool spectacleForQt5(const ToolContext& its) {
+ScreenshotTool spectacleForQt5(const ToolContext& context) {
     return {
         .defaultFolder =
-            [directories = its.directories] {
+            [directories = context.directories] {
                 return directories.pictures().value_or(directories.home().appending("Pictures"));
             },
         .missingFolder = MissingFolder::isMade,
-        .folder = {.setting = std::make_unique<KeyFileSetting>(its.files("spectaclerc"), "Save",
+        .folder = {.setting = std::make_unique<KeyFileSetting>(context.files("spectaclerc"), "Save",
                                                                "defaultSaveLocation"),
-                   .notation = addressOfKde(its.environment)},
-        .preview = previewOfSpectacle(its)};
+                   .notation = kdeAddress(context.environment)},
+        .preview = previewOfSpectacle(context)};
 }
 
 /// Spectacle's settings for one kind of capture.
-struct KeptBySpectacle {
+struct SpectacleKeys {
     const char* group;
     const char* location;
     /// The key with the name of the default folder. Spectacle writes it at its first start, in the
@@ -92,35 +92,36 @@ struct KeptBySpectacle {
     const char* folderInEnglish;
 };
 
-constexpr KeptBySpectacle images{"ImageSave", "imageSaveLocation", "translatedScreenshotsFolder",
-                                 "Screenshots"};
-constexpr KeptBySpectacle videos{"VideoSave", "videoSaveLocation", "translatedScreencastsFolder",
-                                 "Screencasts"};
+constexpr SpectacleKeys images{"ImageSave", "imageSaveLocation", "translatedScreenshotsFolder",
+                               "Screenshots"};
+constexpr SpectacleKeys videos{"VideoSave", "videoSaveLocation", "translatedScreencastsFolder",
+                               "Screencasts"};
 
 /// Returns the value of the key. If reading fails, the settings log that and the default is used.
-std::optional<std::string> textIn(const SettingsFiles& files, const char* group, const char* key) {
+std::optional<std::string> valueOrNone(const SettingsFiles& files, const char* group,
+                                       const char* key) {
     const auto text = files.value(group, key);
     return text ? text.value() : std::nullopt;
 }
 
-Url defaultOfSpectacle(const SettingsFiles& files, const KeptBySpectacle& kept, const Url& parent) {
-    const auto name = textIn(files, kept.group, kept.folderName);
+Url defaultOfSpectacle(const SettingsFiles& files, const SpectacleKeys& keys, const Url& parent) {
+    const auto name = valueOrNone(files, keys.group, keys.folderName);
     return parent.appending(
         name ? fromBackslashEscapes(*name)
-             : translated("spectacle", kept.folderInEnglish, "translatable folder name"));
+             : translated("spectacle", keys.folderInEnglish, "translatable folder name"));
 }
 
-ScreenshotTool spectacle(const ToolContext& its) {
-    if (isSpectacleForQt5(its)) return spectacleForQt5(its);
-    const auto files = its.files("spectaclerc");
-    const auto notation = addressOfKde(its.environment);
-    const auto defaultFolder = [files, directories = its.directories] {
+ScreenshotTool spectacle(const ToolContext& context) {
+    if (isSpectacleForQt5(context)) return spectacleForQt5(context);
+    const auto files = context.files("spectaclerc");
+    const auto notation = kdeAddress(context.environment);
+    const auto defaultFolder = [files, directories = context.directories] {
         return defaultOfSpectacle(
             *files, images,
             directories.pictures().value_or(directories.home().appending("Pictures")));
     };
-    const auto recordingsFolder = [files, notation, directories = its.directories] {
-        const auto chosen = textIn(*files, videos.group, videos.location);
+    const auto recordingsFolder = [files, notation, directories = context.directories] {
+        const auto chosen = valueOrNone(*files, videos.group, videos.location);
         const std::string path = chosen ? notation.read(*chosen) : "";
         if (path.starts_with('/')) return Url::file(path);
         return defaultOfSpectacle(
@@ -131,66 +132,66 @@ ScreenshotTool spectacle(const ToolContext& its) {
             .folder = {.setting =
                            std::make_unique<KeyFileSetting>(files, images.group, images.location),
                        .notation = notation},
-            .preview = previewOfSpectacle(its),
+            .preview = previewOfSpectacle(context),
             .recordingsFolder = recordingsFolder};
 }
 
-ScreenshotTool xfceScreenshooter(const ToolContext& its) {
-    return {.defaultFolder = its.picturesOrHome(),
+ScreenshotTool xfceScreenshooter(const ToolContext& context) {
+    return {.defaultFolder = context.picturesOrHome(),
             .folder = {.setting = std::make_unique<KeyFileSetting>(
-                           its.files("xfce4/xfce4-screenshooter"), "", "screenshot_dir"),
-                       .notation = addressOfXfce()},
+                           context.files("xfce4/xfce4-screenshooter"), "", "screenshot_dir"),
+                       .notation = xfceAddress()},
             .preview = {.obstacle =
                             localized("ScreenshotTool", "Xfce's screenshot tool has no preview.")}};
 }
 
-ScreenshotTool gnomeScreenshot(const ToolContext& its) {
-    return {
-        .defaultFolder = its.picturesOrHome(),
-        .folder = {.setting = its.inGSettings("org.gnome.gnome-screenshot", "auto-save-directory"),
-                   .notation = addressOrPath()},
-        .preview = {.obstacle = localized("ScreenshotTool",
-                                          "This desktop's screenshot tool has no preview.")}};
+ScreenshotTool gnomeScreenshot(const ToolContext& context) {
+    return {.defaultFolder = context.picturesOrHome(),
+            .folder = {.setting =
+                           context.inGSettings("org.gnome.gnome-screenshot", "auto-save-directory"),
+                       .notation = addressOrPath()},
+            .preview = {.obstacle = localized("ScreenshotTool",
+                                              "This desktop's screenshot tool has no preview.")}};
 }
 
-ScreenshotTool mateScreenshot(const ToolContext& its) {
-    return {.defaultFolder = [directories = its.directories] { return directories.desktop(); },
-            .folder = {.setting = its.inGSettings("org.mate.screenshot", "last-save-directory"),
+ScreenshotTool mateScreenshot(const ToolContext& context) {
+    return {.defaultFolder = [directories = context.directories] { return directories.desktop(); },
+            .folder = {.setting = context.inGSettings("org.mate.screenshot", "last-save-directory"),
                        .notation = addressOrPath()},
             .preview = {.isShown = true,
                         .obstacle = localized("ScreenshotTool",
                                               "MATE's screenshot tool always opens a window.")}};
 }
 
-ScreenshotTool flameshot(const ToolContext& its) {
-    const auto files = its.files("flameshot/flameshot.ini");
-    return {.defaultFolder = its.picturesOrHome(),
+ScreenshotTool flameshot(const ToolContext& context) {
+    const auto files = context.files("flameshot/flameshot.ini");
+    return {.defaultFolder = context.picturesOrHome(),
             .folder = {.setting = std::make_unique<KeyFileSetting>(files, "General", "savePath"),
                        .notation = pathOfQt()},
             .preview = {.setting = std::make_unique<KeyFileSetting>(files, "General",
                                                                     "showDesktopNotification"),
-                        .notation = yesOrNo(),
+                        .notation = trueOrFalse(),
                         .textByDefault = "true"}};
 }
 
-ScreenshotTool ksnip(const ToolContext& its) {
-    const auto files = its.files("ksnip/ksnip.conf");
-    return {.defaultFolder = [directories = its.directories] { return directories.home(); },
+ScreenshotTool ksnip(const ToolContext& context) {
+    const auto files = context.files("ksnip/ksnip.conf");
+    return {.defaultFolder = [directories = context.directories] { return directories.home(); },
             .missingFolder = MissingFolder::isMade,
             .folder = {.setting =
                            std::make_unique<KeyFileSetting>(files, "Application", "SaveDirectory"),
                        .notation = pathOfQt()},
             .preview = {.setting = std::make_unique<KeyFileSetting>(files, "Application",
                                                                     "TrayIconNotificationsEnabled"),
-                        .notation = yesOrNo(),
+                        .notation = trueOrFalse(),
                         .textByDefault = "true"}};
 }
 
-ScreenshotTool screengrab(const ToolContext& its) {
+ScreenshotTool screengrab(const ToolContext& context) {
     return {
-        .defaultFolder = [directories = its.directories] { return directories.home(); },
+        .defaultFolder = [directories = context.directories] { return directories.home(); },
         .folder = {.setting = std::make_unique<KeyFileSetting>(
-                       its.files("screengrab/screengrab.conf"), "Base", "defDir"),
+                       context.files("screengrab/screengrab.conf"), "Base", "defDir"),
                    .notation = pathOfQt()},
         // In version 2.5 the setting "trayMessages" has no effect on this notification.
         .preview = {.isShown = true,
@@ -198,10 +199,10 @@ ScreenshotTool screengrab(const ToolContext& its) {
                                           "ScreenGrab always shows a notification after saving.")}};
 }
 
-ScreenshotTool shellOfGnome(const ToolContext& its) {
+ScreenshotTool gnomeShellTool(const ToolContext& context) {
     return {
         .defaultFolder =
-            [directories = its.directories] {
+            [directories = context.directories] {
                 return directories.pictures()
                     .value_or(directories.home())
                     .appending(translated(gnomeShell, "Screenshots"));
@@ -212,7 +213,7 @@ ScreenshotTool shellOfGnome(const ToolContext& its) {
         .preview = {.isShown = true,
                     .obstacle = localized("ScreenshotTool", "GNOME always shows its own preview.")},
         .recordingsFolder =
-            [directories = its.directories] {
+            [directories = context.directories] {
                 return directories.videos()
                     .value_or(directories.home())
                     .appending(translated(gnomeShell, "Screencasts"));
@@ -232,7 +233,7 @@ std::optional<ScreenshotTool> makeScreenshotTool(const std::string& name,
         {"flameshot", flameshot},
         {"ksnip", ksnip},
         {"screengrab", screengrab},
-        {gnomeShell, shellOfGnome}};
+        {gnomeShell, gnomeShellTool}};
     const auto found = known.find(name);
     if (found == known.end()) return std::nullopt;
     auto tool = found->second({.environment = environment, .settings = settings});

@@ -31,7 +31,7 @@ Result<std::optional<std::string>> SettingsFiles::value(std::string_view group,
                                                         std::string_view key) const {
     for (const Url& file : files_) {
         const auto settings = load(file);
-        if (!settings) return complain(settings.failure());
+        if (!settings) return logOnce(settings.failure());
         if (auto text = settings.value().value(group, key)) return text;
     }
     return std::optional<std::string>();
@@ -40,15 +40,15 @@ Result<std::optional<std::string>> SettingsFiles::value(std::string_view group,
 Outcome SettingsFiles::change(std::string_view group, std::string_view key,
                               const std::optional<std::string>& text) {
     auto settings = load(ownFile());
-    if (!settings) return complain(settings.failure());
-    if (isReadOnly(ownFile())) return complain(systemFailure(EACCES, ownFile().path()));
+    if (!settings) return logOnce(settings.failure());
+    if (isReadOnly(ownFile())) return logOnce(systemFailure(EACCES, ownFile().path()));
     if (text) {
         settings.value().set(group, key, *text);
     } else {
         settings.value().remove(group, key);
     }
     const auto failure = replaceWholeFile(ownFile(), settings.value().text());
-    if (failure) return complain(*failure);
+    if (failure) return logOnce(*failure);
     return {};
 }
 
@@ -75,8 +75,8 @@ Result<KeyFile> SettingsFiles::load(const Url& file) const {
     return contents.failure();
 }
 
-Failure SettingsFiles::complain(const Failure& failure) const {
-    if (!std::exchange(complained_, true))
+Failure SettingsFiles::logOnce(const Failure& failure) const {
+    if (!std::exchange(hasLogged_, true))
         systemLog("Vantle: cannot read or change the settings file " + failure.path,
                   failure.message);
     return failure;

@@ -33,10 +33,10 @@ public:
 private:
     const Url& ownFile() const { return files_.front(); }
     Result<KeyFile> load(const Url& file) const;
-    Failure complain(const Failure& failure) const;
+    Failure logOnce(const Failure& failure) const;
 
     std::vector<Url> files_;
-    mutable bool complained_ = false;
+    mutable bool hasLogged_ = false;
 };
 
 }  // namespace vantle

@@ -76,7 +76,7 @@ std::optional<Url> ToolPreferencesDomain::folder(const std::optional<std::string
     // A mount point without its file system may hold other files, but not the user's pictures.
     const MountTable mounts(mounts_);
     if (mounts.isUnmounted(byDefault)) return std::nullopt;
-    if (!mounts.isRemote(byDefault)) (void)isThere(byDefault);
+    if (!mounts.isRemote(byDefault)) (void)ensureExists(byDefault);
     return byDefault;
 }
 
@@ -88,10 +88,10 @@ std::optional<Url> ToolPreferencesDomain::chosen(const std::optional<std::string
     // This must not wait for a server: watching the folder shows later whether it exists.
     if (MountTable(mounts_).isRemote(named)) return named;
     if (isFile(named)) return named.deletingLastPathComponent();
-    return isThere(named) ? std::optional(std::move(named)) : std::nullopt;
+    return ensureExists(named) ? std::optional(std::move(named)) : std::nullopt;
 }
 
-bool ToolPreferencesDomain::isThere(const Url& folder) const {
+bool ToolPreferencesDomain::ensureExists(const Url& folder) const {
     if (isFolder(folder)) return true;
     const bool isMade = tool_.missingFolder == ScreenshotTool::MissingFolder::isMade;
     return isMade && !MountTable(mounts_).isUnmounted(folder) && makeFolder(folder);

@@ -36,7 +36,7 @@ private:
     std::optional<Url> folder(const std::optional<std::string>& text) const;
     /// Returns the folder that `text` names, or nothing if that does not exist.
     std::optional<Url> chosen(const std::optional<std::string>& text) const;
-    bool isThere(const Url& folder) const;
+    bool ensureExists(const Url& folder) const;
     bool showsPreview() const;
     void setFolder(const Url& folder);
     void showPreview(bool shows);

@@ -1,4 +1,4 @@
-#include "platform/linux/HeldLibrary.h"
+#include "platform/linux/PinnedLibrary.h"
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -6,14 +6,14 @@
 
 namespace vantle {
 
-HeldLibrary::HeldLibrary(const std::string& path)
+PinnedLibrary::PinnedLibrary(const std::string& path)
     : file_(open(path.c_str(), O_RDONLY | O_CLOEXEC)) {}
 
-HeldLibrary::~HeldLibrary() {
-    if (isThere()) close(file_);
+PinnedLibrary::~PinnedLibrary() {
+    if (exists()) close(file_);
 }
 
-void* HeldLibrary::load() const {
+void* PinnedLibrary::load() const {
     const std::string path = "/proc/self/fd/" + std::to_string(file_);
     return dlopen(path.c_str(), RTLD_LAZY | RTLD_LOCAL);
 }

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "TemporaryFolder.h"
-#include "platform/linux/HeldLibrary.h"
+#include "platform/linux/PinnedLibrary.h"
 
 namespace vantle {
 namespace {
@@ -15,13 +15,13 @@ namespace fs = std::filesystem;
 
 using Handle = std::unique_ptr<void, int (*)(void*)>;
 
-Handle load(const HeldLibrary& library) {
+Handle load(const PinnedLibrary& library) {
     return {library.load(), dlclose};
 }
 
-class HeldLibraryTest : public testing::Test {
+class PinnedLibraryTest : public testing::Test {
 protected:
-    HeldLibraryTest() { fs::copy_file(VANTLE_SOME_LIBRARY, path); }
+    PinnedLibraryTest() { fs::copy_file(VANTLE_SOME_LIBRARY, path); }
 
     void putIntoItsPlace(const std::string& content) const {
         const fs::path next = path + ".next";
@@ -33,31 +33,31 @@ protected:
     const std::string path = (folder / "library.so").path();
 };
 
-TEST_F(HeldLibraryTest, ReturnsTheFunctionsOfTheLibrary) {
-    const HeldLibrary library(path);
-    EXPECT_TRUE(library.isThere());
+TEST_F(PinnedLibraryTest, ReturnsTheFunctionsOfTheLibrary) {
+    const PinnedLibrary library(path);
+    EXPECT_TRUE(library.exists());
     const Handle loaded = load(library);
     ASSERT_NE(loaded, nullptr) << dlerror();
     EXPECT_NE(dlsym(loaded.get(), VANTLE_SOME_FUNCTION), nullptr);
 }
 
-TEST_F(HeldLibraryTest, KeepsTheLibraryThatExistedWhenItWasMade) {
-    const HeldLibrary library(path);
+TEST_F(PinnedLibraryTest, KeepsTheLibraryThatExistedWhenItWasMade) {
+    const PinnedLibrary library(path);
     putIntoItsPlace("the next version");
-    EXPECT_EQ(load(HeldLibrary(path)), nullptr);
+    EXPECT_EQ(load(PinnedLibrary(path)), nullptr);
     EXPECT_NE(load(library), nullptr) << dlerror();
 }
 
-TEST_F(HeldLibraryTest, LoadsALibraryThatWasDeletedMeanwhile) {
-    const HeldLibrary library(path);
+TEST_F(PinnedLibraryTest, LoadsALibraryThatWasDeletedMeanwhile) {
+    const PinnedLibrary library(path);
     fs::remove(path);
     EXPECT_NE(load(library), nullptr) << dlerror();
 }
 
-TEST_F(HeldLibraryTest, ReportsWhyNothingIsLoaded) {
+TEST_F(PinnedLibraryTest, ReportsWhyNothingIsLoaded) {
     fs::remove(path);
-    const HeldLibrary nothing(path);
-    EXPECT_FALSE(nothing.isThere());
+    const PinnedLibrary nothing(path);
+    EXPECT_FALSE(nothing.exists());
     EXPECT_EQ(load(nothing), nullptr);
     EXPECT_NE(dlerror(), nullptr);
 }
