@@ -18,7 +18,7 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/FileChooserPortal.h
   ${CMAKE_CURRENT_LIST_DIR}/FileMimeDataTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FileTransferPortalTests.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/FileUseTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FileUseWatcherTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/GSettingsCommandTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MountEventsTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PortalAppearanceTests.cpp

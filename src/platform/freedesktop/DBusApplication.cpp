@@ -149,7 +149,7 @@ DBusApplication::BusObject::BusObject(DBusApplication& application) : applicatio
 }
 
 QString DBusApplication::BusObject::perform(const ApplicationRequest& request) {
-    application_.causeOfLaunch_ = QDeadlineTimer(0);
+    application_.launchCallDeadline_ = QDeadlineTimer(0);
     const auto answer = application_.perform(request);
     // The token was meant for this request only.
     takeActivationToken();
@@ -193,11 +193,11 @@ std::string DBusApplication::activationPolicyObstacle() const {
 
 bool DBusApplication::anotherCopyIsRunning() {
     if (object_) return false;
-    return QDBusConnection::sessionBus().isConnected() ? anotherHoldsTheName()
+    return QDBusConnection::sessionBus().isConnected() ? anotherOwnsName()
                                                        : anotherHoldsTheRuntimeFolder();
 }
 
-bool DBusApplication::anotherHoldsTheName() {
+bool DBusApplication::anotherOwnsName() {
     // The object is registered before the name: another copy may call as soon as it sees the name.
     auto object = std::make_unique<BusObject>(*this);
     QDBusConnection::sessionBus().registerObject(path_, object.get(),
@@ -206,7 +206,7 @@ bool DBusApplication::anotherHoldsTheName() {
     if (reply.type() == QDBusMessage::ErrorMessage) return anotherHoldsTheRuntimeFolder();
     constexpr uint nameIsTaken = 3;
     if (reply.arguments().value(0).toUInt() == nameIsTaken) return true;
-    if (launch_ == Launch::byBus) causeOfLaunch_.setRemainingTime(causeTimeout);
+    if (launch_ == Launch::byBus) launchCallDeadline_.setRemainingTime(causeTimeout);
     object_ = std::move(object);
     return false;
 }
@@ -251,7 +251,7 @@ Result<std::string> DBusApplication::askThroughSocket(const ApplicationRequest& 
 /// Does not reopen for the call that launched this copy: the user wanted the program to start, and
 /// it has started.
 void DBusApplication::activated() {
-    const auto cause = std::exchange(causeOfLaunch_, QDeadlineTimer(0));
+    const auto cause = std::exchange(launchCallDeadline_, QDeadlineTimer(0));
     if (cause.hasExpired()) reopen();
 }
 

@@ -37,7 +37,7 @@ public:
     class BusObject;
 
 private:
-    bool anotherHoldsTheName();
+    bool anotherOwnsName();
     bool anotherHoldsTheRuntimeFolder();
     RuntimeSocket& socket();
     std::string answerToSocket(const std::string& message);
@@ -51,7 +51,7 @@ private:
     QString identifier_;
     QString path_;
     Launch launch_;
-    QDeadlineTimer causeOfLaunch_{0};  ///< When calls no longer count as the launch's cause.
+    QDeadlineTimer launchCallDeadline_{0};  ///< When calls no longer count as the launch's cause.
     std::unique_ptr<TaskbarPresence> taskbar_;  ///< Only with a display.
     std::unique_ptr<BusObject> object_;
     std::unique_ptr<RuntimeSocket> socket_;  ///< Only without a bus.

@@ -21,9 +21,9 @@ const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request"
 
 /// The first version that can start in a given folder.
 constexpr uint versionThatStartsInAFolder = 4;
-constexpr uint wasChosen = 0;
+constexpr uint responseSuccess = 0;
 
-QDBusMessage question() {
+QDBusMessage versionQuery() {
     auto message = QDBusMessage::createMethodCall(
         service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     return message << interface << QStringLiteral("version");
@@ -68,7 +68,7 @@ void PortalFolderChooser::choose(const FolderRequest& request, Chosen chosen) {
         return;
     }
     chosen_ = std::move(chosen);
-    callBus(bus_, question(), *this, [this, request](const QDBusMessage& reply) {
+    callBus(bus_, versionQuery(), *this, [this, request](const QDBusMessage& reply) {
         if (version(reply) >= versionThatStartsInAFolder)
             open(request);
         else
@@ -112,15 +112,15 @@ void PortalFolderChooser::open(const FolderRequest& request) {
 }
 
 void PortalFolderChooser::responded(uint response, const QVariantMap& results) {
-    end(response == wasChosen ? folder(results) : std::nullopt);
+    end(response == responseSuccess ? folder(results) : std::nullopt);
 }
 
 void PortalFolderChooser::end(const std::optional<Url>& folder) {
-    forget();
+    closeRequest();
     if (const auto chosen = std::exchange(chosen_, nullptr)) chosen(folder);
 }
 
-void PortalFolderChooser::forget() {
+void PortalFolderChooser::closeRequest() {
     if (handle_.isEmpty()) return;
     bus_.disconnect(service, handle_, requestInterface, QStringLiteral("Response"), this,
                     SLOT(responded(uint, QVariantMap)));

@@ -29,7 +29,7 @@ private:
     void watchPortal();
     void open(const FolderRequest& request);
     void end(const std::optional<Url>& folder);
-    void forget();
+    void closeRequest();
 
     std::unique_ptr<FolderChooser> next_;
     bool watchesPortal_ = false;

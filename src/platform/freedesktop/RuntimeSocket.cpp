@@ -37,7 +37,7 @@ int openSocket() {
 }  // namespace
 
 RuntimeSocket::RuntimeSocket(const std::string& folder, Answer answer)
-    : isPlaced_(!folder.empty()),
+    : hasFolder_(!folder.empty()),
       lockPath_(folder + "/vantle.lock"),
       socketPath_(folder + "/vantle.socket"),
       answer_(std::move(answer)) {}
@@ -52,7 +52,7 @@ RuntimeSocket::~RuntimeSocket() {
 }
 
 RuntimeSocket::Claim RuntimeSocket::claim() {
-    if (!isPlaced_) return Claim::failed;
+    if (!hasFolder_) return Claim::failed;
     if (notifier_) return Claim::first;
     if (lock_ < 0) lock_ = open(lockPath_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (lock_ < 0) return Claim::failed;

@@ -41,7 +41,7 @@ private:
     bool listen();
     void answerCalls() const;
 
-    bool isPlaced_;  ///< False without a folder; the paths would then be in the root folder.
+    bool hasFolder_;  ///< False without a folder; the paths would then be in the root folder.
     std::string lockPath_;
     std::string socketPath_;
     Answer answer_;

@@ -11,13 +11,13 @@
 namespace vantle {
 namespace {
 
-std::atomic<int> arrived = -1;  // an eventfd
+std::atomic<int> signalEvent = -1;  // an eventfd
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler may use nothing else");
 
-void note(int) {
+void recordSignal(int) {
     const int error = errno;
     const std::uint64_t one = 1;
-    [[maybe_unused]] const auto written = write(arrived, &one, sizeof one);
+    [[maybe_unused]] const auto written = write(signalEvent, &one, sizeof one);
     errno = error;
 }
 
@@ -39,22 +39,22 @@ struct sigaction handle(int number, void (*handler)(int)) {
 }  // namespace
 
 UnixSignals::UnixSignals(std::function<void()> onEnd) {
-    arrived = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    notifier_ = std::make_unique<QSocketNotifier>(arrived.load(), QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
-                     [onEnd = std::move(onEnd)] {
-                         std::uint64_t count = 0;
-                         [[maybe_unused]] const auto drained = read(arrived, &count, sizeof count);
-                         onEnd();
-                     });
+    signalEvent = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    notifier_ = std::make_unique<QSocketNotifier>(signalEvent.load(), QSocketNotifier::Read);
+    QObject::connect(
+        notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [onEnd = std::move(onEnd)] {
+            std::uint64_t count = 0;
+            [[maybe_unused]] const auto drained = read(signalEvent, &count, sizeof count);
+            onEnd();
+        });
     for (std::size_t i = 0; i < numbers.size(); ++i)
-        previous_[i] = handle(numbers[i], numbers[i] == SIGPIPE ? ignore : note);
+        previous_[i] = handle(numbers[i], numbers[i] == SIGPIPE ? ignore : recordSignal);
 }
 
 UnixSignals::~UnixSignals() {
     for (std::size_t i = 0; i < numbers.size(); ++i) sigaction(numbers[i], &previous_[i], nullptr);
     notifier_.reset();
-    close(arrived.exchange(-1));
+    close(signalEvent.exchange(-1));
 }
 
 }  // namespace vantle

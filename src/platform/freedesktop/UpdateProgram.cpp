@@ -27,7 +27,7 @@ QString option(const char* name, const std::string& value) {
 }
 
 /// Returns the value of a variable and removes it from the environment.
-QByteArray taken(const char* variable) {
+QByteArray takeVariable(const char* variable) {
     const QByteArray value = qgetenv(variable);
     qunsetenv(variable);
     return value;
@@ -49,10 +49,10 @@ bool isLast(const UpdateReport& report) {
 
 UpdateProgram::UpdateProgram(QString program) : program_(std::move(program)) {
     bool isNumber = false;
-    const int descriptor = taken(relaunch::readyVariable).toInt(&isNumber);
+    const int descriptor = takeVariable(relaunch::readyVariable).toInt(&isNumber);
     if (isNumber && isSocket(descriptor) && fcntl(descriptor, F_SETFD, FD_CLOEXEC) == 0)
-        ready_ = FileDescriptor(descriptor);
-    const auto outcome = reportFrom(taken(relaunch::outcomeVariable).toStdString());
+        readySocket_ = FileDescriptor(descriptor);
+    const auto outcome = reportFrom(takeVariable(relaunch::outcomeVariable).toStdString());
     if (outcome)
         if (const auto* back = std::get_if<report::RolledBack>(&*outcome)) rolledBack_ = *back;
 }
@@ -60,13 +60,13 @@ UpdateProgram::UpdateProgram(QString program) : program_(std::move(program)) {
 UpdateProgram::~UpdateProgram() {
     cancel();
     // A copy that ends in order has started successfully.
-    if (ready_) confirmStart();
+    if (readySocket_) confirmStart();
 }
 
 void UpdateProgram::confirmStart() {
     // A failure is ignored: if the updater has ended, it cannot roll this copy back either.
-    send(ready_.get(), "r", 1, MSG_NOSIGNAL);
-    ready_.reset();
+    send(readySocket_.get(), "r", 1, MSG_NOSIGNAL);
+    readySocket_.reset();
 }
 
 void UpdateProgram::check(const Query& query, OnReport onReport) {
@@ -120,7 +120,7 @@ Outcome UpdateProgram::relaunch(const UpdateItem& item) {
 void UpdateProgram::start(const QStringList& arguments, OnReport onReport) {
     cancel();
     onReport_ = std::move(onReport);
-    last_.reset();
+    finalReport_.reset();
     process_ = std::make_unique<QProcess>();
     process_->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process_->setStandardInputFile(QProcess::nullDevice());
@@ -142,14 +142,14 @@ void UpdateProgram::readLines() {
 
 void UpdateProgram::read(const QByteArray& line) {
     const auto report = reportFrom(line.chopped(1).toStdString());
-    if (!report || last_) return;
+    if (!report || finalReport_) return;
     if (isLast(*report)) {
-        last_ = *report;
+        finalReport_ = *report;
         return;
     }
     // The callback may cancel the program or destroy this object, so it is copied first.
-    const OnReport told = onReport_;
-    told(*report);
+    const OnReport onReport = onReport_;
+    onReport(*report);
 }
 
 void UpdateProgram::end() {
@@ -157,8 +157,8 @@ void UpdateProgram::end() {
     if (!process_) return;
     const std::string error = process_->errorString().toStdString();
     process_.release()->deleteLater();
-    const auto told = std::exchange(onReport_, nullptr);
-    told(last_.value_or(report::Failed{
+    const auto onReport = std::exchange(onReport_, nullptr);
+    onReport(finalReport_.value_or(report::Failed{
         filled(localized("UpdateProgram", "The update program failed: %1."), {error}), {}}));
 }
 

@@ -25,7 +25,7 @@ public:
     void cancel() override;
     Outcome relaunch(const UpdateItem& item) override;
     std::optional<report::RolledBack> rolledBack() const override { return rolledBack_; }
-    bool isOnTrial() const override { return static_cast<bool>(ready_); }
+    bool isOnTrial() const override { return static_cast<bool>(readySocket_); }
     void confirmStart() override;
 
 private:
@@ -36,10 +36,10 @@ private:
 
     const QString program_;
     std::optional<report::RolledBack> rolledBack_;
-    FileDescriptor ready_;               ///< Open while the updater waits for this process.
+    FileDescriptor readySocket_;         ///< Open while the updater waits for this process.
     std::unique_ptr<QProcess> process_;  ///< Null while no program runs.
     OnReport onReport_;
-    std::optional<UpdateReport> last_;  ///< The final report, passed on when the program has ended.
+    std::optional<UpdateReport> finalReport_;  ///< Passed on when the program has ended.
 };
 
 }  // namespace vantle

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "platform/freedesktop/FileUse.h"
+#include "platform/freedesktop/FileUseWatcher.h"
 #include "platform/qt/DragSupport.h"
 #include "platform/wayland/DragEnd.h"
 
@@ -21,7 +21,7 @@ public:
 
 private:
     std::optional<DragEnd> end_;  ///< Present while the button is held.
-    FileUse use_;
+    FileUseWatcher use_;
 };
 
 }  // namespace vantle::wayland

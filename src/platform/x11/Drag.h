@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "platform/freedesktop/FileUse.h"
+#include "platform/freedesktop/FileUseWatcher.h"
 #include "platform/qt/DragSupport.h"
 #include "platform/x11/DragSelection.h"
 #include "platform/x11/DropAnswer.h"
@@ -22,7 +22,7 @@ private:
     DropAnswer answer_;
     DragSelection selection_;
     std::optional<DropGround> ground_;  ///< Present while the button is held.
-    FileUse use_;
+    FileUseWatcher use_;
 };
 
 }  // namespace vantle::x11

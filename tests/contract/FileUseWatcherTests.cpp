@@ -6,16 +6,16 @@
 #include "contract/EventLoop.h"
 #include "contract/TemporaryFolder.h"
 #include "contract/TextFile.h"
-#include "platform/freedesktop/FileUse.h"
+#include "platform/freedesktop/FileUseWatcher.h"
 
 namespace vantle {
 namespace {
 
 using namespace std::chrono_literals;
 
-class FileUseTest : public testing::Test {
+class FileUseWatcherTest : public testing::Test {
 protected:
-    FileUseTest() {
+    FileUseWatcherTest() {
         for (const Url& file : {first, second}) writeText(file, "contents");
         use.emplace(std::vector{first, second});
     }
@@ -32,20 +32,20 @@ protected:
     const TemporaryFolder folder;
     const Url first = folder / "first.png";
     const Url second = folder / "second.png";
-    std::optional<FileUse> use;
+    std::optional<FileUseWatcher> use;
 };
 
-TEST_F(FileUseTest, ReadingAFileUsesIt) {
+TEST_F(FileUseWatcherTest, ReadingAFileUsesIt) {
     EXPECT_EQ(readText(second), "contents");
     EXPECT_EQ(wait(1min), true);
 }
 
-TEST_F(FileUseTest, MovingAFileUsesIt) {
+TEST_F(FileUseWatcherTest, MovingAFileUsesIt) {
     std::filesystem::rename(first.path(), (folder / "moved.png").path());
     EXPECT_EQ(wait(1min), true);
 }
 
-TEST_F(FileUseTest, InspectingOrLinkingAFileDoesNotUseIt) {
+TEST_F(FileUseWatcherTest, InspectingOrLinkingAFileDoesNotUseIt) {
     EXPECT_EQ(std::filesystem::file_size(first.path()), 8U);
     std::filesystem::create_symlink(first.path(), (folder / "link.png").path());
     EXPECT_EQ(wait(50ms), false);

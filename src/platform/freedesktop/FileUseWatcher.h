@@ -15,30 +15,30 @@ namespace vantle {
 
 /// Notices when a program opens, moves or deletes files, which a program does that copies or moves
 /// them. Main thread only.
-class FileUse final : public QObject {
+class FileUseWatcher final : public QObject {
     Q_OBJECT
 
 public:
     /// Records what happens to the files from now on.
-    explicit FileUse(const std::vector<Url>& files);
+    explicit FileUseWatcher(const std::vector<Url>& files);
 
-    /// Calls `told` once, never inside this call: with true as soon as one of the files was used,
+    /// Calls `done` once, never inside this call: with true as soon as one of the files was used,
     /// with false if none was within `timeout`.
-    void wait(std::chrono::milliseconds timeout, std::function<void(bool wasUsed)> told);
+    void wait(std::chrono::milliseconds timeout, std::function<void(bool wasUsed)> done);
 
-    /// Calls `told` once with whether the target takes the dropped files. If the target has given
+    /// Calls `done` once with whether the target takes the dropped files. If the target has given
     /// its final answer, calls it inside this call; otherwise when the user has decided there, or
     /// has not decided for a while.
-    void waitForDecision(bool wasTaken, const DropState& marks,
-                         std::function<void(bool wasTaken)> told);
+    void waitForDecision(bool wasTaken, const DropState& state,
+                         std::function<void(bool wasTaken)> done);
 
 private:
-    void tell(bool wasUsed);
+    void finish(bool wasUsed);
 
     const FileDescriptor events_;
     QSocketNotifier notifier_;
-    QTimer limit_;
-    std::function<void(bool)> told_;
+    QTimer timeout_;
+    std::function<void(bool)> done_;
 };
 
 }  // namespace vantle
