@@ -118,7 +118,7 @@ std::vector<ReportLine> environmentReport(const Environment& environment,
         systemReport(environment, Url::file(pathBesideProgram("../share/vantle")));
     std::ranges::copy(DisplayServer::current().report(), std::back_inserter(lines));
     std::ranges::copy(desktopReport(), std::back_inserter(lines));
-    lines.push_back({"tray", statusItem.tray()});
+    lines.push_back({"tray", statusItem.trayKind()});
     std::ranges::copy(decoderReport(pathBesideProgram("vantle-decoder")),
                       std::back_inserter(lines));
     return lines;

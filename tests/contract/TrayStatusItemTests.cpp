@@ -243,10 +243,10 @@ TEST_F(TrayOnBusTest, AnUnknownLineIsHarmless) {
 TEST_F(TrayOnBusTest, ThereIsNoIconWithoutATrayHost) {
     tray.tray.setHost(false);
     EXPECT_TRUE(runUntil([&] { return !tray.item.isShown(); }));
-    EXPECT_EQ(tray.item.tray(), "none");
+    EXPECT_EQ(tray.item.trayKind(), "none");
     tray.tray.setHost(true);
     EXPECT_TRUE(runUntil([&] { return tray.item.isShown(); }));
-    EXPECT_EQ(tray.item.tray(), "D-Bus");
+    EXPECT_EQ(tray.item.trayKind(), "D-Bus");
 }
 
 TEST(TrayWithoutHostTest, ARegisteredItemIsNotShownWithoutAHost) {

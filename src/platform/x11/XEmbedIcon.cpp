@@ -104,14 +104,14 @@ void requestDock(xcb_window_t tray, xcb_window_t window) {
 XEmbedIcon::XEmbedIcon(Draw draw) : draw_(std::move(draw)) {}
 
 XEmbedIcon::~XEmbedIcon() {
-    if (isFollowing_) QCoreApplication::instance()->removeNativeEventFilter(this);
+    if (isWatchingForTrays_) QCoreApplication::instance()->removeNativeEventFilter(this);
     hide();
 }
 
 void XEmbedIcon::show() {
     if (isWanted_) return;
     isWanted_ = true;
-    followTrays();
+    watchForTrays();
     dock();
 }
 
@@ -124,16 +124,16 @@ void XEmbedIcon::destroyWindow() {
     if (!window_) return;
     xcb_destroy_window(connection(), window_);
     xcb_flush(connection());
-    letGo();
+    resetWindow();
 }
 
-void XEmbedIcon::dockAnew() {
+void XEmbedIcon::redock() {
     destroyWindow();
     dock();
 }
 
-void XEmbedIcon::followTrays() {
-    if (std::exchange(isFollowing_, true)) return;
+void XEmbedIcon::watchForTrays() {
+    if (std::exchange(isWatchingForTrays_, true)) return;
     QCoreApplication::instance()->installNativeEventFilter(this);
     // A new tray announces itself at the root window.
     listen(root());
@@ -176,7 +176,7 @@ void XEmbedIcon::makeWindow(xcb_window_t tray) {
                         atom("_XEMBED_INFO"), 32, information.size(), information.data());
 }
 
-void XEmbedIcon::letGo() {
+void XEmbedIcon::resetWindow() {
     window_ = 0;
     tray_ = 0;
     isEmbedded_ = false;
@@ -190,11 +190,11 @@ bool XEmbedIcon::nativeEventFilter(const QByteArray& type, void* message, qintpt
         const auto* said = reinterpret_cast<const xcb_client_message_event_t*>(event);
         const bool isNewTray =
             said->type == atom("MANAGER") && said->data.data32[1] == atom("_NET_SYSTEM_TRAY_S0");
-        if (isNewTray) dockAnew();
+        if (isNewTray) redock();
     } else if (kind == XCB_DESTROY_NOTIFY) {
         const auto gone = reinterpret_cast<const xcb_destroy_notify_event_t*>(event)->window;
-        if (gone == window_ && window_) letGo();
-        if (gone == tray_ && tray_) dockAnew();
+        if (gone == window_ && window_) resetWindow();
+        if (gone == tray_ && tray_) redock();
     } else {
         handleWindowEvent(kind, event);
     }

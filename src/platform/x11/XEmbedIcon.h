@@ -25,12 +25,12 @@ public:
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
 private:
-    void followTrays();
+    void watchForTrays();
     void dock();
-    void dockAnew();
+    void redock();
     void destroyWindow();
     void makeWindow(std::uint32_t tray);
-    void letGo();
+    void resetWindow();
     void handleWindowEvent(std::uint8_t type, const void* event);
     void click();
     void paint();
@@ -40,7 +40,7 @@ private:
 
     const Draw draw_;
     bool isWanted_ = false;
-    bool isFollowing_ = false;
+    bool isWatchingForTrays_ = false;
     bool isEmbedded_ = false;
     std::uint32_t tray_ = 0;    ///< The window that takes icons.
     std::uint32_t window_ = 0;  ///< The icon's own window.

@@ -61,23 +61,23 @@ QString BusMenu::textDirection() {
 }
 
 void BusMenu::menuChanged() {
-    isHeldBack_ = isOpen_;
+    hasPendingChange_ = isOpen_;
     if (!isOpen_ && rebuild()) emit LayoutUpdated(revision_, root);
 }
 
 void BusMenu::opened() {
     isOpen_ = true;
     if (!calledFromDBus()) return;
-    trayWithIt_ = std::make_unique<QDBusServiceWatcher>(
+    trayWatcher_ = std::make_unique<QDBusServiceWatcher>(
         message().service(), connection(), QDBusServiceWatcher::WatchForUnregistration);
-    connect(trayWithIt_.get(), &QDBusServiceWatcher::serviceUnregistered, this, &BusMenu::closed);
+    connect(trayWatcher_.get(), &QDBusServiceWatcher::serviceUnregistered, this, &BusMenu::closed);
 }
 
 void BusMenu::closed() {
     isOpen_ = false;
     // This may be called from a signal of the watcher, so it must not be deleted yet.
-    if (trayWithIt_) trayWithIt_.release()->deleteLater();
-    if (isHeldBack_) menuChanged();
+    if (trayWatcher_) trayWatcher_.release()->deleteLater();
+    if (hasPendingChange_) menuChanged();
 }
 
 bool BusMenu::rebuild() {

@@ -74,8 +74,8 @@ private:
     int lastId_ = 0;
     uint revision_ = 0;  ///< 0 before the first menu.
     bool isOpen_ = false;
-    bool isHeldBack_ = false;                          ///< True if it changed while it was open.
-    std::unique_ptr<QDBusServiceWatcher> trayWithIt_;  ///< Set while a tray has it open.
+    bool hasPendingChange_ = false;                     ///< True if it changed while it was open.
+    std::unique_ptr<QDBusServiceWatcher> trayWatcher_;  ///< Set while a tray has it open.
 };
 
 }  // namespace vantle

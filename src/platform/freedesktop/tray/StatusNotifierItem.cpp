@@ -44,19 +44,20 @@ StatusNotifierItem::~StatusNotifierItem() {
 void StatusNotifierItem::start() {
     if (isPublished_) return;
     if (!bus_.isConnected()) {
-        settle(false, false);
+        setState(false, false);
         return;
     }
     publish();
     auto* watcher =
         new QDBusServiceWatcher(watcherName, bus_, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, [this] { offer(); });
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this,
+            [this] { registerWithWatcher(); });
     connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this,
-            [this] { settle(false, false); });
+            [this] { setState(false, false); });
     for (const auto* signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
         bus_.connect(watcherName, watcherPath, watcherName, QString::fromLatin1(signal), this,
                      SLOT(askForHost()));
-    offer();
+    registerWithWatcher();
 }
 
 void StatusNotifierItem::publish() {
@@ -68,14 +69,14 @@ void StatusNotifierItem::publish() {
     isPublished_ = true;
 }
 
-void StatusNotifierItem::offer() {
+void StatusNotifierItem::registerWithWatcher() {
     auto message = QDBusMessage::createMethodCall(watcherName, watcherPath, watcherName,
                                                   QStringLiteral("RegisterStatusNotifierItem"));
     message.setAutoStartService(false);
     message << itemPath;
     callBus(bus_, message, *this, [this](const QDBusMessage& reply) {
         if (isError(reply)) {
-            settle(false, false);
+            setState(false, false);
             return;
         }
         isRegistered_ = true;
@@ -91,11 +92,11 @@ void StatusNotifierItem::askForHost() {
     message << watcherName << QStringLiteral("IsStatusNotifierHostRegistered");
     callBus(bus_, message, *this, [this](const QDBusMessage& reply) {
         const auto answer = reply.arguments().value(0).value<QDBusVariant>().variant();
-        settle(isRegistered_, !isError(reply) && answer.toBool());
+        setState(isRegistered_, !isError(reply) && answer.toBool());
     });
 }
 
-void StatusNotifierItem::settle(bool isRegistered, bool hasHost) {
+void StatusNotifierItem::setState(bool isRegistered, bool hasHost) {
     isRegistered_ = isRegistered;
     hasHost_ = hasHost;
     isSettled_ = true;

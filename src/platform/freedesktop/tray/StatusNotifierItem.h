@@ -96,8 +96,8 @@ private slots:
 
 private:
     void publish();
-    void offer();
-    void settle(bool isRegistered, bool hasHost);
+    void registerWithWatcher();
+    void setState(bool isRegistered, bool hasHost);
 
     const Description description_;
     const TrayIcon& icon_;

@@ -59,7 +59,7 @@ bool TrayStatusItem::isShown() const {
     return (onBus_ && onBus_->isShown()) || (embedded_ && embedded_->isShown());
 }
 
-std::string TrayStatusItem::tray() const {
+std::string TrayStatusItem::trayKind() const {
     if (onBus_ && onBus_->isShown()) return "D-Bus";
     return embedded_ && embedded_->isShown() ? "X11" : "none";
 }

@@ -34,7 +34,7 @@ public:
     void show() override;
     bool isShown() const override;
     /// Returns the kind of tray that shows the icon, in English, for status reports.
-    std::string tray() const;
+    std::string trayKind() const;
     void setAppearsDisabled(bool disabled) override;
     void menuChanged() override;
 
