@@ -16,7 +16,7 @@ xcb_connection_t* connection() {
     return native ? native->connection() : nullptr;
 }
 
-xcb_window_t root() {
+xcb_window_t rootWindow() {
     // Qt uses the first screen unless DISPLAY names another one, which is no longer common.
     return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
 }
@@ -39,7 +39,7 @@ std::string versionOfMutter() {
     return propertyOfWindowManager("_MUTTER_VERSION");
 }
 
-xcb_window_t number(const QWindow& window) {
+xcb_window_t windowId(const QWindow& window) {
     return static_cast<xcb_window_t>(window.winId());
 }
 
@@ -85,7 +85,7 @@ std::string property(xcb_window_t window, const char* name) {
 }
 
 std::string propertyOfWindowManager(const char* name) {
-    const std::string number = property(root(), "_NET_SUPPORTING_WM_CHECK");
+    const std::string number = property(rootWindow(), "_NET_SUPPORTING_WM_CHECK");
     xcb_window_t window = XCB_WINDOW_NONE;
     if (number.size() == sizeof window) std::memcpy(&window, number.data(), sizeof window);
     return window == XCB_WINDOW_NONE ? std::string() : property(window, name);

@@ -16,7 +16,7 @@ namespace vantle::x11 {
 xcb_connection_t* connection();
 
 /// Returns the root window.
-xcb_window_t root();
+xcb_window_t rootWindow();
 
 /// Returns a property of a window, at most 256 bytes of it; empty if the window does not have it.
 std::string property(xcb_window_t window, const char* name);
@@ -37,7 +37,7 @@ bool isXWayland();
 /// queried, but depends on this version.
 std::string versionOfMutter();
 
-xcb_window_t number(const QWindow& window);
+xcb_window_t windowId(const QWindow& window);
 
 /// Returns XCB_ATOM_NONE if the server does not answer. The result is cached.
 xcb_atom_t atom(const char* name);

@@ -5,10 +5,10 @@
 namespace vantle::x11 {
 
 Drag::Drag(const DragContents& contents)
-    : selection_(contents.make()), ground_(std::in_place), use_(contents.files) {}
+    : selection_(contents.make()), catcher_(std::in_place), use_(contents.files) {}
 
 void Drag::ended(QWindow*) {
-    ground_.reset();
+    catcher_.reset();
 }
 
 void Drag::waitForAnswer(const DropState& state, std::function<void(bool wasTaken)> done) {

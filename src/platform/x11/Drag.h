@@ -6,7 +6,7 @@
 #include "platform/qt/DragSupport.h"
 #include "platform/x11/DragSelection.h"
 #include "platform/x11/DropAnswer.h"
-#include "platform/x11/DropGround.h"
+#include "platform/x11/DropCatcher.h"
 
 namespace vantle::x11 {
 
@@ -21,7 +21,7 @@ public:
 private:
     DropAnswer answer_;
     DragSelection selection_;
-    std::optional<DropGround> ground_;  ///< Present while the button is held.
+    std::optional<DropCatcher> catcher_;  ///< Present while the button is held.
     FileUseWatcher use_;
 };
 

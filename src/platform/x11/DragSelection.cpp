@@ -30,7 +30,7 @@ bool write(const xcb_selection_request_event_t& request, xcb_atom_t type, uint8_
     return true;
 }
 
-void tell(const xcb_selection_request_event_t& request, bool isWritten) {
+void sendNotify(const xcb_selection_request_event_t& request, bool isWritten) {
     xcb_selection_notify_event_t answer{};
     answer.response_type = XCB_SELECTION_NOTIFY;
     answer.requestor = request.requestor;
@@ -58,7 +58,7 @@ public:
         if ((event->response_type & 0x7f) != XCB_SELECTION_REQUEST) return false;
         const auto& request = *reinterpret_cast<const xcb_selection_request_event_t*>(event);
         if (request.selection != atom("XdndSelection")) return false;
-        tell(request, answer(request));
+        sendNotify(request, answer(request));
         return true;
     }
 

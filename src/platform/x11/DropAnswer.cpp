@@ -31,9 +31,9 @@ class DropAnswer::Watch final : public QObject, public QAbstractNativeEventFilte
 public:
     Watch() {
         QCoreApplication::instance()->installNativeEventFilter(this);
-        limit_.setSingleShot(true);
-        limit_.setInterval(timeout);
-        connect(&limit_, &QTimer::timeout, this, [this] { answer(false); });
+        timeout_.setSingleShot(true);
+        timeout_.setInterval(timeout);
+        connect(&timeout_, &QTimer::timeout, this, [this] { answer(false); });
     }
 
     void wait(std::function<void(bool)> done) {
@@ -42,14 +42,14 @@ public:
         if (answer_)
             answer(*answer_);
         else
-            limit_.start();
+            timeout_.start();
     }
 
     bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override {
         const auto* event = static_cast<const xcb_generic_event_t*>(message);
         const int type = event->response_type & 0x7f;
         if (type == XCB_CLIENT_MESSAGE)
-            hear(*reinterpret_cast<const xcb_client_message_event_t*>(event));
+            handleMessage(*reinterpret_cast<const xcb_client_message_event_t*>(event));
         if (type == XCB_DESTROY_NOTIFY && done_ &&
             reinterpret_cast<const xcb_destroy_notify_event_t*>(event)->window == target_)
             answer(false);
@@ -57,14 +57,14 @@ public:
     }
 
 private:
-    void hear(const xcb_client_message_event_t& message) {
+    void handleMessage(const xcb_client_message_event_t& message) {
         const auto* data = message.data.data32;
-        if (message.type == atom("XdndStatus")) hearPromise(data[0], (data[1] & 1) != 0);
+        if (message.type == atom("XdndStatus")) handleStatus(data[0], (data[1] & 1) != 0);
         if (message.type != atom("XdndFinished") || data[0] != target_) return;
         answer(protocolVersion(connection(), target_) < versionWithAnswer || (data[1] & 1) != 0);
     }
 
-    void hearPromise(xcb_window_t target, bool isPromised) {
+    void handleStatus(xcb_window_t target, bool isPromised) {
         // A new drag has begun: the previous answer was about an earlier one.
         answer_.reset();
         if (target == target_ && isPromised == isPromised_) return;
@@ -87,7 +87,7 @@ private:
     /// Reports the answer in a later turn, because `done` may destroy this object.
     void answer(bool wasTaken) {
         answer_ = wasTaken;
-        limit_.stop();
+        timeout_.stop();
         if (done_)
             QMetaObject::invokeMethod(
                 this, [done = std::exchange(done_, nullptr), wasTaken] { done(wasTaken); },
@@ -98,7 +98,7 @@ private:
     bool isPromised_ = false;
     std::optional<bool> answer_;
     std::function<void(bool)> done_;
-    QTimer limit_;
+    QTimer timeout_;
 };
 
 DropAnswer::DropAnswer() : watch_(std::make_unique<Watch>()) {}

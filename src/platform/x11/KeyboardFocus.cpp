@@ -18,8 +18,8 @@ void focus(xcb_connection_t* x, xcb_window_t window) {
 /// Returns the window that gets the keyboard back. Behind Mutter's XWayland that is the root
 /// window: if no X window has the keyboard, Mutter returns it to the window that had it last, which
 /// may be a Wayland window.
-xcb_window_t whoGetsItBack(xcb_window_t previous) {
-    return versionOfMutter().empty() ? previous : root();
+xcb_window_t windowToRestore(xcb_window_t previous) {
+    return versionOfMutter().empty() ? previous : rootWindow();
 }
 
 }  // namespace
@@ -27,15 +27,15 @@ xcb_window_t whoGetsItBack(xcb_window_t previous) {
 void KeyboardFocus::take() {
     xcb_connection_t* x = connection();
     const xcb_window_t before = focused(x);
-    if (before == number(window_)) return;
+    if (before == windowId(window_)) return;
     previous_ = before;
-    focus(x, number(window_));
+    focus(x, windowId(window_));
 }
 
 void KeyboardFocus::giveBack() {
     if (previous_ == 0) return;
     xcb_connection_t* x = connection();
-    if (focused(x) == number(window_)) focus(x, whoGetsItBack(previous_));
+    if (focused(x) == windowId(window_)) focus(x, windowToRestore(previous_));
     previous_ = 0;
 }
 

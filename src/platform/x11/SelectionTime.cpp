@@ -21,8 +21,8 @@ public:
     void ask(std::function<void()> work) {
         work_ = std::move(work);
         xcb_connection_t* x = connection();
-        xcb_change_property(x, XCB_PROP_MODE_REPLACE, number(window_), timeAtom(), XCB_ATOM_INTEGER,
-                            32, 0, nullptr);
+        xcb_change_property(x, XCB_PROP_MODE_REPLACE, windowId(window_), timeAtom(),
+                            XCB_ATOM_INTEGER, 32, 0, nullptr);
         xcb_flush(x);
     }
 
@@ -30,7 +30,7 @@ public:
         const auto* event = static_cast<const xcb_generic_event_t*>(message);
         if ((event->response_type & 0x7f) != XCB_PROPERTY_NOTIFY) return false;
         const auto* notify = reinterpret_cast<const xcb_property_notify_event_t*>(event);
-        if (notify->window != number(window_) || notify->atom != timeAtom()) return false;
+        if (notify->window != windowId(window_) || notify->atom != timeAtom()) return false;
         // Qt reads the time from the event after this filter returns.
         QMetaObject::invokeMethod(
             this, [this] { finish(); }, Qt::QueuedConnection);

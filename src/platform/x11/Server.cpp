@@ -6,7 +6,7 @@
 #include "platform/x11/Connection.h"
 #include "platform/x11/Drag.h"
 #include "platform/x11/FrontWindow.h"
-#include "platform/x11/KeptInputRegion.h"
+#include "platform/x11/PersistentInputRegion.h"
 #include "platform/x11/Taskbar.h"
 #include "platform/x11/UnmanagedOverlay.h"
 #include "platform/x11/UsableArea.h"
@@ -68,7 +68,7 @@ void Server::setInputRegion(QWindow& window, const QRegion& region) {
 }
 
 std::unique_ptr<WindowInputRegion> Server::makeInputRegion(QWindow& window) {
-    return std::make_unique<KeptInputRegion>(window);
+    return std::make_unique<PersistentInputRegion>(window);
 }
 
 bool Server::forgetsInputRegions() const {

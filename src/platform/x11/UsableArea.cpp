@@ -29,7 +29,7 @@ QRect frameOf(xcb_window_t window) {
     auto* x = connection();
     const auto geometry = owned(xcb_get_geometry_reply(x, xcb_get_geometry(x, window), nullptr));
     const auto place = owned(xcb_translate_coordinates_reply(
-        x, xcb_translate_coordinates(x, window, root(), 0, 0), nullptr));
+        x, xcb_translate_coordinates(x, window, rootWindow(), 0, 0), nullptr));
     if (!geometry || !place) return {};
     return {place->dst_x, place->dst_y, geometry->width, geometry->height};
 }
@@ -71,8 +71,8 @@ void addStruts(xcb_window_t window, const QSize& all, std::vector<Strut>& struts
 
 std::vector<Strut> struts() {
     std::vector<Strut> found;
-    const QSize all = frameOf(root()).size();
-    for (const xcb_window_t window : cardinals(root(), "_NET_CLIENT_LIST"))
+    const QSize all = frameOf(rootWindow()).size();
+    for (const xcb_window_t window : cardinals(rootWindow(), "_NET_CLIENT_LIST"))
         addStruts(window, all, found);
     return found;
 }
@@ -80,10 +80,10 @@ std::vector<Strut> struts() {
 /// Returns the usable area of `screen` if the desktop announces one for each screen; otherwise
 /// empty.
 QRect announcedArea(const QRect& screen) {
-    const auto workspace = cardinals(root(), "_NET_CURRENT_DESKTOP");
+    const auto workspace = cardinals(rootWindow(), "_NET_CURRENT_DESKTOP");
     const std::string name =
         "_GTK_WORKAREAS_D" + std::to_string(workspace.empty() ? 0 : workspace.front());
-    const auto values = cardinals(root(), name.c_str());
+    const auto values = cardinals(rootWindow(), name.c_str());
     QRect largest;
     for (std::size_t i = 0; i + 3 < values.size(); i += 4) {
         const auto at = [&](std::size_t offset) { return static_cast<int>(values[i + offset]); };

@@ -20,7 +20,7 @@ void setInputRegion(QWindow& window, const QRegion& region) {
     xcb_connection_t* x = connection();
     const auto rectangles = inPixels(region, window.devicePixelRatio());
     xcb_shape_rectangles(x, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
-                         number(window), 0, 0, static_cast<uint32_t>(rectangles.size()),
+                         windowId(window), 0, 0, static_cast<uint32_t>(rectangles.size()),
                          rectangles.data());
     xcb_flush(x);
 }
@@ -36,7 +36,8 @@ bool isComposited() {
 
 bool offersBlur() {
     xcb_connection_t* x = connection();
-    const auto reply = owned(xcb_list_properties_reply(x, xcb_list_properties(x, root()), nullptr));
+    const auto reply =
+        owned(xcb_list_properties_reply(x, xcb_list_properties(x, rootWindow()), nullptr));
     if (!reply) return false;
     const xcb_atom_t* atoms = xcb_list_properties_atoms(reply.get());
     return std::find(atoms, atoms + reply->atoms_len, atom(blurProperty)) !=
@@ -47,7 +48,7 @@ void setBlurBehind(QWindow& window, const QRegion& region) {
     xcb_connection_t* x = connection();
     // An empty list would mean the whole window.
     if (region.isEmpty()) {
-        xcb_delete_property(x, number(window), atom(blurProperty));
+        xcb_delete_property(x, windowId(window), atom(blurProperty));
         xcb_flush(x);
         return;
     }
@@ -56,7 +57,7 @@ void setBlurBehind(QWindow& window, const QRegion& region) {
         for (const int part : {int{left}, int{top}, int{width}, int{height}})
             numbers.push_back(static_cast<uint32_t>(part));
     constexpr uint8_t bits = 32;
-    xcb_change_property(x, XCB_PROP_MODE_REPLACE, number(window), atom(blurProperty),
+    xcb_change_property(x, XCB_PROP_MODE_REPLACE, windowId(window), atom(blurProperty),
                         XCB_ATOM_CARDINAL, bits, static_cast<uint32_t>(numbers.size()),
                         numbers.data());
     xcb_flush(x);

@@ -136,7 +136,7 @@ void XEmbedIcon::watchForTrays() {
     if (std::exchange(isWatchingForTrays_, true)) return;
     QCoreApplication::instance()->installNativeEventFilter(this);
     // A new tray announces itself at the root window.
-    listen(root());
+    listen(rootWindow());
 }
 
 void XEmbedIcon::dock() {
@@ -153,7 +153,7 @@ void XEmbedIcon::makeWindow(xcb_window_t tray) {
     depth_ = visual.depth;
     hasAlpha_ = depth_ == 32;
     const xcb_colormap_t colormap = xcb_generate_id(connection());
-    xcb_create_colormap(connection(), XCB_COLORMAP_ALLOC_NONE, colormap, root(), visual.id);
+    xcb_create_colormap(connection(), XCB_COLORMAP_ALLOC_NONE, colormap, rootWindow(), visual.id);
     window_ = xcb_generate_id(connection());
     // Without transparency the window shows the tray's background.
     const std::array<uint32_t, 4> values{
@@ -161,7 +161,7 @@ void XEmbedIcon::makeWindow(xcb_window_t tray) {
         XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_BUTTON_PRESS,
         colormap};
     const uint32_t background = hasAlpha_ ? XCB_CW_BACK_PIXEL : XCB_CW_BACK_PIXMAP;
-    xcb_create_window(connection(), depth_, window_, root(), 0, 0, firstSize, firstSize, 0,
+    xcb_create_window(connection(), depth_, window_, rootWindow(), 0, 0, firstSize, firstSize, 0,
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, visual.id,
                       background | XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP,
                       values.data());
@@ -204,7 +204,7 @@ bool XEmbedIcon::nativeEventFilter(const QByteArray& type, void* message, qintpt
 void XEmbedIcon::handleWindowEvent(uint8_t type, const void* event) {
     if (type == XCB_REPARENT_NOTIFY) {
         const auto& moved = *static_cast<const xcb_reparent_notify_event_t*>(event);
-        if (moved.window == window_) isEmbedded_ = moved.parent != root();
+        if (moved.window == window_) isEmbedded_ = moved.parent != rootWindow();
     } else if (type == XCB_EXPOSE) {
         if (static_cast<const xcb_expose_event_t*>(event)->window == window_) paint();
     } else if (type == XCB_CONFIGURE_NOTIFY) {
@@ -261,7 +261,8 @@ QImage XEmbedIcon::background() const {
 
 QRect XEmbedIcon::frame() const {
     const auto place = owned(xcb_translate_coordinates_reply(
-        connection(), xcb_translate_coordinates(connection(), window_, root(), 0, 0), nullptr));
+        connection(), xcb_translate_coordinates(connection(), window_, rootWindow(), 0, 0),
+        nullptr));
     return place ? QRect(QPoint(place->dst_x, place->dst_y), size_) : QRect();
 }
 

@@ -9,10 +9,10 @@ namespace vantle::x11 {
 /// until the next click. Mutter 43 reports it, and the window does no harm there; without Mutter no
 /// window is created. A release over the shell's own bar arrives when the pointer leaves the bar.
 /// Main thread only.
-class DropGround {
+class DropCatcher {
 public:
-    DropGround();
-    ~DropGround();
+    DropCatcher();
+    ~DropCatcher();
 
 private:
     class Window;

@@ -24,10 +24,10 @@ bool inputRegionIsForgotten();
 ///   either at once or with the next frame, and there is no way to tell which. So after the last
 ///   frame the region changes by a pixel in a corner, a pixel is drawn, and the region changes
 ///   again; and all of this is repeated once in case the compositor was busy.
-class KeptInputRegion final : public QObject, public WindowInputRegion {
+class PersistentInputRegion final : public QObject, public WindowInputRegion {
 public:
-    explicit KeptInputRegion(QWindow& window);
-    ~KeptInputRegion() override;
+    explicit PersistentInputRegion(QWindow& window);
+    ~PersistentInputRegion() override;
 
     void set(const QRegion& region) override;
     void frameDrawn() override;
@@ -36,17 +36,17 @@ private:
     enum class Step { change, draw, changeAgain };
 
     /// Takes the next step and schedules the one after it.
-    void goOn();
+    void takeNextStep();
     /// Sets a region that differs by a pixel.
     void change();
-    void haveItNoticed();
+    void refreshPointer();
 
     QRegion region_;
     Step next_ = Step::change;
     int rounds_ = 0;  ///< Rounds of steps since the last frame.
     QTimer afterLastFrame_;
     QTimer afterLastChange_;
-    std::unique_ptr<QWindow> unseen_;  ///< Exists only briefly.
+    std::unique_ptr<QWindow> invisibleWindow_;  ///< Exists only briefly.
     bool isForgotten_ = false;
     int variant_ = 0;
 };

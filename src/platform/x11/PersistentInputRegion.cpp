@@ -1,4 +1,4 @@
-#include "platform/x11/KeptInputRegion.h"
+#include "platform/x11/PersistentInputRegion.h"
 
 #include <QVersionNumber>
 #include <chrono>
@@ -16,17 +16,17 @@ constexpr std::chrono::milliseconds rest{100};
 /// A busy compositor may take longer and miss the first round, so there is a second one.
 constexpr std::chrono::milliseconds secondRound{1000};
 
-const QVersionNumber firstThatRemembers{44, 2};
+const QVersionNumber firstVersionThatRemembers{44, 2};
 
 bool forgets(const std::string& versionOfMutter) {
     const auto version = QVersionNumber::fromString(QString::fromStdString(versionOfMutter));
-    return !version.isNull() && version < firstThatRemembers;
+    return !version.isNull() && version < firstVersionThatRemembers;
 }
 
 /// One transparent pixel that takes no input.
-class UnseenWindow final : public TransparentWindow {
+class InvisibleWindow final : public TransparentWindow {
 public:
-    explicit UnseenWindow(const QPoint& place) {
+    explicit InvisibleWindow(const QPoint& place) {
         makePassive();
         setGeometry(QRect(place, QSize(1, 1)));
     }
@@ -51,9 +51,9 @@ void drawFirstPixel(const QWindow& window) {
     xcb_connection_t* x = connection();
     const xcb_gcontext_t clear = xcb_generate_id(x);
     const uint32_t colour = 0;
-    xcb_create_gc(x, clear, number(window), XCB_GC_FOREGROUND, &colour);
+    xcb_create_gc(x, clear, windowId(window), XCB_GC_FOREGROUND, &colour);
     const xcb_point_t first{0, 0};
-    xcb_poly_point(x, XCB_COORD_MODE_ORIGIN, number(window), clear, 1, &first);
+    xcb_poly_point(x, XCB_COORD_MODE_ORIGIN, windowId(window), clear, 1, &first);
     xcb_free_gc(x, clear);
     xcb_flush(x);
 }
@@ -64,18 +64,18 @@ bool inputRegionIsForgotten() {
     return forgets(versionOfMutter());
 }
 
-KeptInputRegion::KeptInputRegion(QWindow& window) : WindowInputRegion(window) {
+PersistentInputRegion::PersistentInputRegion(QWindow& window) : WindowInputRegion(window) {
     for (QTimer* timer : {&afterLastFrame_, &afterLastChange_}) {
         timer->setSingleShot(true);
         timer->setInterval(rest);
     }
-    connect(&afterLastFrame_, &QTimer::timeout, this, [this] { goOn(); });
-    connect(&afterLastChange_, &QTimer::timeout, this, [this] { haveItNoticed(); });
+    connect(&afterLastFrame_, &QTimer::timeout, this, [this] { takeNextStep(); });
+    connect(&afterLastChange_, &QTimer::timeout, this, [this] { refreshPointer(); });
 }
 
-KeptInputRegion::~KeptInputRegion() = default;
+PersistentInputRegion::~PersistentInputRegion() = default;
 
-void KeptInputRegion::set(const QRegion& region) {
+void PersistentInputRegion::set(const QRegion& region) {
     region_ = region;
     const std::string version = versionOfMutter();
     isForgotten_ = forgets(version);
@@ -83,14 +83,14 @@ void KeptInputRegion::set(const QRegion& region) {
     if (!version.empty()) afterLastChange_.start();
 }
 
-void KeptInputRegion::frameDrawn() {
+void PersistentInputRegion::frameDrawn() {
     if (!isForgotten_) return;
     next_ = Step::change;
     rounds_ = 0;
     afterLastFrame_.start(rest);
 }
 
-void KeptInputRegion::goOn() {
+void PersistentInputRegion::takeNextStep() {
     if (!window().isExposed()) return;
     switch (next_) {
         case Step::change:
@@ -109,7 +109,7 @@ void KeptInputRegion::goOn() {
     }
 }
 
-void KeptInputRegion::change() {
+void PersistentInputRegion::change() {
     // Two variants are not enough: the compositor may miss one and then see the region that it
     // knows.
     constexpr int variants = 3;
@@ -117,11 +117,11 @@ void KeptInputRegion::change() {
     setInputRegion(window(), variant(region_, variant_));
 }
 
-void KeptInputRegion::haveItNoticed() {
+void PersistentInputRegion::refreshPointer() {
     if (!window().isExposed()) return;
-    unseen_ = std::make_unique<UnseenWindow>(window().position());
-    unseen_->show();
-    QTimer::singleShot(rest, unseen_.get(), [this] { unseen_.reset(); });
+    invisibleWindow_ = std::make_unique<InvisibleWindow>(window().position());
+    invisibleWindow_->show();
+    QTimer::singleShot(rest, invisibleWindow_.get(), [this] { invisibleWindow_.reset(); });
 }
 
 }  // namespace vantle::x11

@@ -1,4 +1,4 @@
-#include "platform/x11/DropGround.h"
+#include "platform/x11/DropCatcher.h"
 
 #include <array>
 
@@ -21,12 +21,12 @@ xcb_visualid_t clearVisual() {
 }  // namespace
 
 /// A window made without the toolkit, because the toolkit's windows take part in drags themselves.
-class DropGround::Window {
+class DropCatcher::Window {
 public:
     explicit Window(xcb_visualid_t visual)
         : x_(connection()), window_(xcb_generate_id(x_)), colors_(xcb_generate_id(x_)) {
         create(visual);
-        sayWhatItIs();
+        setWindowType();
         xcb_map_window(x_, window_);
         // The window must also be below that of a program that draws the desktop's icons.
         const uint32_t below = XCB_STACK_MODE_BELOW;
@@ -45,7 +45,7 @@ public:
 
 private:
     void create(xcb_visualid_t visual) {
-        const xcb_window_t parent = root();
+        const xcb_window_t parent = rootWindow();
         // The size that the server gave when the connection began may be outdated: outputs can
         // change.
         const auto all = owned(xcb_get_geometry_reply(x_, xcb_get_geometry(x_, parent), nullptr));
@@ -60,7 +60,7 @@ private:
 
     /// Declares the window a part of the desktop, so that window lists omit it, and refuses
     /// keyboard input.
-    void sayWhatItIs() {
+    void setWindowType() {
         const xcb_atom_t kind = atom("_NET_WM_WINDOW_TYPE_DESKTOP");
         xcb_change_property(x_, XCB_PROP_MODE_REPLACE, window_, atom("_NET_WM_WINDOW_TYPE"),
                             XCB_ATOM_ATOM, 32, 1, &kind);
@@ -75,12 +75,12 @@ private:
     const xcb_colormap_t colors_;
 };
 
-DropGround::DropGround() {
+DropCatcher::DropCatcher() {
     if (versionOfMutter().empty()) return;
     // A visible window would do more harm than a drag that goes on.
     if (const xcb_visualid_t visual = clearVisual()) window_ = std::make_unique<Window>(visual);
 }
 
-DropGround::~DropGround() = default;
+DropCatcher::~DropCatcher() = default;
 
 }  // namespace vantle::x11
