@@ -14,7 +14,7 @@ constexpr int keyboardTimeout = 200;  // milliseconds
 AnchorWindow::AnchorWindow() : overlay_(*this, Overlay::Focus::accepted) {
     timeout_.setSingleShot(true);
     timeout_.setInterval(keyboardTimeout);
-    connect(&timeout_, &QTimer::timeout, this, &AnchorWindow::tellReady);
+    connect(&timeout_, &QTimer::timeout, this, &AnchorWindow::notifyReady);
 }
 
 void AnchorWindow::show(const QPoint& place, std::function<void()> ready) {
@@ -35,11 +35,11 @@ void AnchorWindow::hide() {
 bool AnchorWindow::event(QEvent* event) {
     if (event->type() == QEvent::Expose && isExposed()) setInputRegion(*this, {});
     const bool isHandled = TransparentWindow::event(event);
-    if (event->type() == QEvent::FocusIn) tellReady();
+    if (event->type() == QEvent::FocusIn) notifyReady();
     return isHandled;
 }
 
-void AnchorWindow::tellReady() {
+void AnchorWindow::notifyReady() {
     timeout_.stop();
     if (const auto ready = std::exchange(ready_, nullptr)) ready();
 }

@@ -27,7 +27,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    void tellReady();
+    void notifyReady();
 
     LayerOverlay overlay_;
     QTimer timeout_;

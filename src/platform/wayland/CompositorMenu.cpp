@@ -35,7 +35,7 @@ void CompositorMenu::showOverWindow(QWindow& host, const QRect& anchor) {
 }
 
 void CompositorMenu::showOverLayer(LayerOverlay& host, const QRect& anchor) {
-    if (!host.surface()) return tellDismissed();
+    if (!host.surface()) return notifyDismissed();
     window_.setScreen(host.window().screen());
     window_.create();
     const QRect inHost = anchor.translated(-host.window().position());
@@ -46,7 +46,7 @@ void CompositorMenu::showOverLayer(LayerOverlay& host, const QRect& anchor) {
         surface(window_), *host.surface(),
         PopupSurface::below(inHost, plate_.marginsAdded({edge, 0, edge, 0}), {-edge, gap}),
         PopupSurface::Grab::pointer);
-    const auto dismissed = [this] { tellDismissed(); };
+    const auto dismissed = [this] { notifyDismissed(); };
     popup_->onDismissed = [this, dismissed] {
         QMetaObject::invokeMethod(this, dismissed, Qt::QueuedConnection);
     };
@@ -91,7 +91,7 @@ bool CompositorMenu::eventFilter(QObject* watched, QEvent* event) {
     return isKey && QCoreApplication::sendEvent(&window_, event);
 }
 
-void CompositorMenu::tellDismissed() {
+void CompositorMenu::notifyDismissed() {
     if (onDismissed) onDismissed();
 }
 

@@ -31,7 +31,7 @@ private:
     /// Shows the menu with compositors that place only popups of windows that they manage.
     void showAnywhere(const QRect& anchor);
     void readKeysOf(QWindow& host);
-    void tellDismissed();
+    void notifyDismissed();
 
     QWindow& window_;
     QRect plate_;

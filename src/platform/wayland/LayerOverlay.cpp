@@ -41,10 +41,10 @@ void LayerOverlay::show() {
     const bool isSameScreen = screen() == &wanted;
     setScreen(wanted);
     if (!output(wanted)) return waitForScreen();
-    if (!surface_ || !isSameScreen || isLeftBehind_) hide();
+    if (!surface_ || !isSameScreen || isOnOtherWorkspace_) hide();
     const auto place = placeAt(distances(), frame().size(), wanted);
     if (surface_) return surface_->move(place);
-    isLeftBehind_ = false;
+    isOnOtherWorkspace_ = false;
     window().setScreen(&wanted);
     window().setGeometry(frame());
     window().create();
@@ -80,9 +80,9 @@ void LayerOverlay::closed() {
 }
 
 void LayerOverlay::workspaceChanged() {
-    isLeftBehind_ = surface_ != nullptr;
+    isOnOtherWorkspace_ = surface_ != nullptr;
     // Replacing the surface would end a drag that began in the window.
-    if (isLeftBehind_ && QGuiApplication::mouseButtons() == Qt::NoButton) show();
+    if (isOnOtherWorkspace_ && QGuiApplication::mouseButtons() == Qt::NoButton) show();
 }
 
 void LayerOverlay::screenRemoved() {

@@ -37,7 +37,7 @@ private:
 
     std::unique_ptr<OverlaySurface> surface_;
     std::unique_ptr<WorkspaceEvents> workspaces_;  ///< Null if the overlay is on all workspaces.
-    bool isLeftBehind_ = false;                    ///< The window is on another workspace.
+    bool isOnOtherWorkspace_ = false;              ///< The window is on another workspace.
     bool lostScreen_ = false;  ///< The overlay should be shown but has no screen.
 };
 

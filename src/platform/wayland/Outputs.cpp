@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "platform/wayland/LayerSurface.h"
-#include "platform/wayland/OwnSurface.h"
+#include "platform/wayland/SurfacePointer.h"
 
 namespace vantle::wayland {
 namespace {
@@ -20,16 +20,16 @@ constexpr wl_surface_listener surfaceListener{enter, leave};
 /// Returns the output on which the compositor puts a surface that names none; null if it does not
 /// tell.
 wl_output* chosenOutput() {
-    constexpr int turns = 3;  // round trips, because some compositors answer late
+    constexpr int maximumRoundTrips = 3;  // because some compositors answer late
     wl_output* chosen = nullptr;
-    const OwnBuffer buffer = makeEmptyBuffer();
-    const OwnSurface surface = makeSurface();
+    const BufferPointer buffer = makeEmptyBuffer();
+    const SurfacePointer surface = makeSurface();
     wl_surface_add_listener(surface.get(), &surfaceListener, &chosen);
     const LayerSurface role(surface.get(),
                             {.anchors = layershell::top | layershell::left, .size = {1, 1}});
     if (!buffer || role.isRefused()) return nullptr;
     show(surface.get(), buffer.get());
-    for (int turn = 0; turn < turns && !chosen; ++turn)
+    for (int i = 0; i < maximumRoundTrips && !chosen; ++i)
         if (wl_display_roundtrip_queue(display(), globals().queue) < 0) break;
     return chosen;
 }
@@ -40,7 +40,7 @@ QRect usableArea(QScreen& screen) {
     const QRect whole = screen.availableGeometry();
     wl_output* place = offersLayers() ? output(screen) : nullptr;
     if (!place) return whole;
-    const OwnSurface surface = makeSurface();
+    const SurfacePointer surface = makeSurface();
     const LayerSurface role(surface.get(), {.output = place});
     return role.size().isEmpty() ? whole : QRect(whole.topLeft(), role.size());
 }

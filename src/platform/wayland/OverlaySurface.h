@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/wayland/OwnSurface.h"
 #include "platform/wayland/PopupSurface.h"
+#include "platform/wayland/SurfacePointer.h"
 
 namespace vantle::wayland {
 
@@ -35,8 +35,8 @@ public:
 private:
     void placeBesideAnchor(wl_surface* surface, LayerSurface::Place place);
 
-    OwnBuffer pixel_;
-    OwnSurface anchor_;  ///< Null if the window itself is a layer surface.
+    BufferPointer pixel_;
+    SurfacePointer anchor_;  ///< Null if the window itself is a layer surface.
     std::unique_ptr<LayerSurface> layer_;
     std::unique_ptr<PopupSurface> popup_;
 };

@@ -1,4 +1,4 @@
-#include "platform/wayland/OwnSurface.h"
+#include "platform/wayland/SurfacePointer.h"
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -9,16 +9,16 @@
 
 namespace vantle::wayland {
 
-OwnSurface makeSurface() {
-    return OwnSurface(wl_compositor_create_surface(globals().compositor));
+SurfacePointer makeSurface() {
+    return SurfacePointer(wl_compositor_create_surface(globals().compositor));
 }
 
-OwnBuffer makeEmptyBuffer() {
+BufferPointer makeEmptyBuffer() {
     constexpr int bytes = 4;
     const FileDescriptor file(memfd_create("vantle pixel", MFD_CLOEXEC));
     if (file.get() < 0 || ftruncate(file.get(), bytes) != 0) return nullptr;
     wl_shm_pool* pool = wl_shm_create_pool(globals().sharedMemory, file.get(), bytes);
-    OwnBuffer buffer(wl_shm_pool_create_buffer(pool, 0, 1, 1, bytes, WL_SHM_FORMAT_ARGB8888));
+    BufferPointer buffer(wl_shm_pool_create_buffer(pool, 0, 1, 1, bytes, WL_SHM_FORMAT_ARGB8888));
     wl_shm_pool_destroy(pool);
     return buffer;
 }

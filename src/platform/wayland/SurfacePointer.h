@@ -14,12 +14,12 @@ struct BufferDeleter {
 };
 
 /// A surface that does not belong to the toolkit. Its events arrive in the queue of globals().
-using OwnSurface = std::unique_ptr<wl_surface, SurfaceDeleter>;
-OwnSurface makeSurface();
+using SurfacePointer = std::unique_ptr<wl_surface, SurfaceDeleter>;
+SurfacePointer makeSurface();
 
 /// Returns a buffer with one transparent pixel, or null if it cannot be created.
-using OwnBuffer = std::unique_ptr<wl_buffer, BufferDeleter>;
-OwnBuffer makeEmptyBuffer();
+using BufferPointer = std::unique_ptr<wl_buffer, BufferDeleter>;
+BufferPointer makeEmptyBuffer();
 
 /// Shows `buffer` on `surface`, which must have a role. Clicks fall through the surface.
 void show(wl_surface* surface, wl_buffer* buffer);
