@@ -44,9 +44,9 @@ Result<std::string> fetchVerified(const UpdateItem& item) {
     const FetchLimits limits{std::min(item.length, built.maximumArchiveSize),
                              built.maximumArchiveTime, built.timeout};
     auto bytes = fetch(item.address, limits,
-                       [](std::uint64_t received) { tell(report::Progress{received}); });
+                       [](std::uint64_t received) { writeReport(report::Progress{received}); });
     if (!bytes) return bytes;
-    tell(report::Progress{bytes.value().size()});
+    writeReport(report::Progress{bytes.value().size()});
     if (bytes.value().size() != item.length)
         return Failure{
             0,
@@ -69,7 +69,7 @@ UpdateReport prepareTree(const Installation& installation, const UpdateItem& ite
         return failed(failure->message, item.page);
     const auto archive = fetchVerified(item);
     if (!archive) return failed(archive.failure().message, item.page);
-    tell(report::Installing{});
+    writeReport(report::Installing{});
     if (const auto failure = makeNext(staging.value(), archive.value(), item.version))
         return failed(failure->message, item.page);
     return report::Ready{};
@@ -104,7 +104,7 @@ UpdateReport preparePackage(const UpdateItem& item) {
     PackageFolder folder;
     const auto file = folder.save(package.value());
     if (!file) return failed(file.failure().message, item.page);
-    tell(report::Installing{});
+    writeReport(report::Installing{});
     if (const auto failure = installPackage(file.value()))
         return failed(failure->message, item.page);
     return report::Ready{};
@@ -112,7 +112,7 @@ UpdateReport preparePackage(const UpdateItem& item) {
 
 }  // namespace
 
-void tell(const UpdateReport& report) {
+void writeReport(const UpdateReport& report) {
     std::cout << lineOf(report) << std::endl;
 }
 
@@ -134,7 +134,7 @@ UpdateReport check(const Installation& installation, const std::string& feed,
     if (read.value().date < newestFeed)
         return failed(localized(
             "Updater", "The update feed is older than the last one received, so it was refused."));
-    tell(report::FeedLoaded{read.value().items.size(), read.value().date});
+    writeReport(report::FeedLoaded{read.value().items.size(), read.value().date});
     return choose(read.value(), {.version = version,
                                  .platform = platformName(installation.kind),
                                  .systemVersion = gnu_get_libc_version(),

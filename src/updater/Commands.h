@@ -8,7 +8,7 @@
 namespace vantle::updater {
 
 /// Writes a report to the standard output.
-void tell(const UpdateReport& report);
+void writeReport(const UpdateReport& report);
 
 /// Does the work of UpdateEngine::check(). `feed` is the feed's address. Writes reports; returns
 /// the last one, which the caller must write.

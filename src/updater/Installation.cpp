@@ -23,7 +23,7 @@ bool canBeReplaced(const fs::path& tree) {
 
 }  // namespace
 
-Installation installationOf(const fs::path& executable) {
+Installation installationWithProgram(const fs::path& executable) {
     Installation installation{.tree = executable.parent_path().parent_path()};
     const std::string kind = releaseOf(installation.tree)["installation"];
     if (kind == "package")
@@ -34,7 +34,7 @@ Installation installationOf(const fs::path& executable) {
 }
 
 Installation ownInstallation() {
-    return installationOf(programFile());
+    return installationWithProgram(programFile());
 }
 
 std::string platformName(UpdateItem::Installation kind) {

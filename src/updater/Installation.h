@@ -17,7 +17,7 @@ struct Installation {
 
 /// Returns how the copy with the program `executable` was installed. It is a tree only if this user
 /// owns it and can change the folder above it, because only then it can be replaced.
-Installation installationOf(const std::filesystem::path& executable);
+Installation installationWithProgram(const std::filesystem::path& executable);
 
 /// Returns how this program was installed.
 Installation ownInstallation();

@@ -62,7 +62,7 @@ Result<std::string> sumOf(const fs::path& file) {
 }
 
 /// Returns the first file in the tree that the manifest does not name; empty if there is none.
-fs::path strangerIn(const fs::path& tree, const Manifest& manifest, std::error_code& error) {
+fs::path firstUnknownFile(const fs::path& tree, const Manifest& manifest, std::error_code& error) {
     for (auto each = fs::recursive_directory_iterator(tree, error);
          !error && each != fs::recursive_directory_iterator(); each.increment(error)) {
         const fs::path path = each->path().lexically_relative(tree);
@@ -101,24 +101,24 @@ Outcome verifyTree(const fs::path& tree, const std::string& version, const std::
             return wrong(filled(localized("Updater", "%1 is missing or damaged."), {path}));
     }
     std::error_code error;
-    const fs::path stranger = strangerIn(tree, manifest, error);
+    const fs::path unknown = firstUnknownFile(tree, manifest, error);
     if (error) return systemFailure(error.value(), tree);
-    if (!stranger.empty())
+    if (!unknown.empty())
         return wrong(filled(localized("Updater", "it contains the unexpected file %1."),
-                            {stranger.string()}));
+                            {unknown.string()}));
     return {};
 }
 
-Outcome refuseStrangers(const fs::path& tree) {
+Outcome verifyNoUnknownFiles(const fs::path& tree) {
     std::error_code error;
-    const fs::path stranger = strangerIn(tree, manifestOf(tree), error);
+    const fs::path unknown = firstUnknownFile(tree, manifestOf(tree), error);
     if (error) return systemFailure(error.value(), tree);
-    if (stranger.empty()) return {};
+    if (unknown.empty()) return {};
     return Failure{0,
                    filled(localized("Updater",
                                     "Vantle's folder %1 contains \"%2\", which is not part of "
                                     "Vantle. Move it elsewhere, then try again."),
-                          {tree.string(), stranger.string()}),
+                          {tree.string(), unknown.string()}),
                    tree};
 }
 

@@ -20,6 +20,6 @@ Outcome verifyTree(const std::filesystem::path& tree, const std::string& version
 
 /// Fails if the tree contains a file that its manifest does not name: the file would be deleted
 /// with the tree.
-Outcome refuseStrangers(const std::filesystem::path& tree);
+Outcome verifyNoUnknownFiles(const std::filesystem::path& tree);
 
 }  // namespace vantle::updater

@@ -36,7 +36,7 @@ Outcome checkPlace(const fs::path& tree, const Staging& staging) {
     // The previous tree is checked, too, because it will be deleted.
     for (const auto& each : {tree, staging.previous()})
         if (fs::exists(each))
-            if (auto failure = refuseStrangers(each)) return failure;
+            if (auto failure = verifyNoUnknownFiles(each)) return failure;
     if (const auto failure = tryExchange(staging))
         return Failure{
             failure->code,

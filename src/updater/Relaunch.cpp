@@ -35,7 +35,7 @@ using Clock = std::chrono::steady_clock;
 constexpr Seconds maximumEndTime = std::chrono::minutes(1);
 
 /// Returns true if `descriptor` became readable, or reached its end, within `time`.
-bool waitFor(int descriptor, Seconds time) {
+bool waitUntilReadable(int descriptor, Seconds time) {
     const auto end = Clock::now() + std::chrono::duration_cast<Clock::duration>(time);
     pollfd waiting{descriptor, POLLIN, 0};
     for (;;) {
@@ -52,7 +52,7 @@ FileDescriptor handleOf(pid_t process) {
 
 /// Waits without a limit, because the running copy has been told that the relaunch goes on.
 void waitForEnd(const FileDescriptor& handle) {
-    while (!waitFor(handle.get(), maximumEndTime)) continue;
+    while (!waitUntilReadable(handle.get(), maximumEndTime)) continue;
 }
 
 /// Returns true if a process runs `program` from exactly that path.
@@ -97,11 +97,11 @@ public:
     /// stop, that says what happened to this version. Kills a copy that does not report in time.
     std::optional<std::string> failure(const std::string& version) const {
         char byte = 0;
-        const bool isTold = waitFor(ready_.get(), configuration().maximumStartTime);
+        const bool isTold = waitUntilReadable(ready_.get(), configuration().maximumStartTime);
         if (isTold && read(ready_.get(), &byte, 1) == 1) return std::nullopt;
         // The copy closed the socket without a report, so it is ending or has ended.
         const FileDescriptor handle = handleOf(process_);
-        const bool hasEnded = isTold && waitFor(handle.get(), maximumEndTime);
+        const bool hasEnded = isTold && waitUntilReadable(handle.get(), maximumEndTime);
         if (!hasEnded) kill(process_, SIGKILL);
         int status = 0;
         while (waitpid(process_, &status, 0) < 0 && errno == EINTR) continue;
@@ -121,7 +121,8 @@ private:
 
 /// Starts the old version, which shows the message to the user. `version` is the version that
 /// failed; empty if it was not tried. Returns the exit status.
-int startAgain(const fs::path& program, const std::string& version, const std::string& message) {
+int startOldVersion(const fs::path& program, const std::string& version,
+                    const std::string& message) {
     const auto child = Child::start(program, lineOf(report::RolledBack{version, message}));
     systemLog("Vantle: " + message);
     if (!child) systemLog("Vantle: " + program.string() + ": " + child.failure().message);
@@ -129,7 +130,7 @@ int startAgain(const fs::path& program, const std::string& version, const std::s
 }
 
 /// Starts the new version. Returns what went wrong; empty if it runs.
-std::string startNew(const fs::path& program, const std::string& version) {
+std::string startNewVersion(const fs::path& program, const std::string& version) {
     const auto child = Child::start(program, "");
     const auto problem = child ? child.value().failure(version)
                                : filled(localized("Updater", "Vantle %1 cannot be started: %2"),
@@ -150,20 +151,21 @@ int startPackage(const fs::path& program) {
 int replaceAndStart(const Installation& installation, const std::string& version) {
     const fs::path program = installation.program();
     const auto staging = Staging::open(installation.tree);
-    auto refused = staging ? refuseStrangers(installation.tree) : Outcome(staging.failure());
+    auto refused = staging ? verifyNoUnknownFiles(installation.tree) : Outcome(staging.failure());
     if (!refused) refused = replaceTree(installation.tree, staging.value());
     if (refused)
-        return startAgain(program, "",
-                          filled(localized("Updater", "The update could not be installed: %1."),
-                                 {refused->message}));
-    const std::string problem = startNew(program, version);
+        return startOldVersion(
+            program, "",
+            filled(localized("Updater", "The update could not be installed: %1."),
+                   {refused->message}));
+    const std::string problem = startNewVersion(program, version);
     if (problem.empty()) return EXIT_SUCCESS;
     if (const auto failure = restoreTree(installation.tree, staging.value()))
-        return startAgain(
+        return startOldVersion(
             staging.value().previous() / "bin/vantle", version,
             filled(localized("Updater", "%1, and the previous version could not be restored: %2."),
                    {problem, failure->message}));
-    return startAgain(
+    return startOldVersion(
         program, version,
         filled(localized("Updater", "%1, so the previous version was restored."), {problem}));
 }

@@ -10,12 +10,12 @@ namespace vantle::updater {
 namespace {
 
 constexpr std::size_t maximum = std::size_t{32} * 1024;  // bytes
-constexpr std::size_t deepest = 16;
+constexpr std::size_t maximumDepth = 16;
 
-constexpr std::array<std::string_view, 16> harmless{"p",  "h1", "h2",   "h3", "h4",     "ul",
-                                                    "ol", "li", "b",    "i",  "strong", "em",
-                                                    "u",  "s",  "code", "pre"};
-constexpr std::array<std::string_view, 4> unspoken{"script", "style", "title", "template"};
+constexpr std::array<std::string_view, 16> allowedElements{"p",  "h1", "h2",   "h3", "h4",     "ul",
+                                                           "ol", "li", "b",    "i",  "strong", "em",
+                                                           "u",  "s",  "code", "pre"};
+constexpr std::array<std::string_view, 4> droppedElements{"script", "style", "title", "template"};
 
 bool isOneOf(std::string_view name, const auto& names) {
     return std::ranges::find(names, name) != names.end();
@@ -102,13 +102,13 @@ private:
     }
 
     void take(const Tag& tag) {
-        if (isOneOf(tag.name, unspoken)) {
+        if (isOneOf(tag.name, droppedElements)) {
             if (!tag.isEnd) skipBehind("</" + tag.name + ">");
         } else if (tag.name == "br") {
             out_ += "<br>";
         } else if (tag.isEnd) {
             close(tag.name);
-        } else if (open_.size() < deepest) {
+        } else if (open_.size() < maximumDepth) {
             open(tag);
         }
     }
@@ -117,7 +117,7 @@ private:
         const std::string address = tag.name == "a" ? addressIn(tag.attributes) : "";
         if (!address.empty())
             out_ += "<a href=\"" + address + "\">";
-        else if (isOneOf(tag.name, harmless))
+        else if (isOneOf(tag.name, allowedElements))
             out_ += "<" + tag.name + ">";
         else
             return;

@@ -54,7 +54,7 @@ Number number(const std::string& text) {
 }
 
 int conclude(const UpdateReport& last) {
-    tell(last);
+    writeReport(last);
     return std::holds_alternative<report::Failed>(last) ? EXIT_FAILURE : EXIT_SUCCESS;
 }
 
