@@ -46,7 +46,7 @@ public:
 
     /// Returns true if the updater is waiting for this process to start up, ready to restore the
     /// previous version.
-    virtual bool isOnTrial() const = 0;
+    virtual bool isStartConfirmationPending() const = 0;
 
     /// Tells the updater that this process has started up.
     virtual void confirmStart() = 0;

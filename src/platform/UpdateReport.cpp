@@ -159,11 +159,11 @@ std::optional<UpdateReport> read(Reader& reader) {
 
 }  // namespace
 
-std::string lineOf(const UpdateReport& report) {
+std::string formatReport(const UpdateReport& report) {
     return std::visit([](const auto& each) { return write(each); }, report);
 }
 
-std::optional<UpdateReport> reportFrom(std::string_view line) {
+std::optional<UpdateReport> parseReport(std::string_view line) {
     Reader reader(line);
     const auto report = read(reader);
     return reader.isGood() ? report : std::nullopt;

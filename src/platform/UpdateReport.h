@@ -64,9 +64,9 @@ using UpdateReport =
                  report::Installing, report::Ready, report::Failed, report::RolledBack>;
 
 /// Returns the line of the report, without a line break.
-std::string lineOf(const UpdateReport& report);
+std::string formatReport(const UpdateReport& report);
 
 /// Returns the report in the line; absent if the line holds none.
-std::optional<UpdateReport> reportFrom(std::string_view line);
+std::optional<UpdateReport> parseReport(std::string_view line);
 
 }  // namespace vantle

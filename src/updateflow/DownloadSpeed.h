@@ -12,7 +12,7 @@ namespace vantle {
 class DownloadSpeed {
 public:
     /// Notes that `received` bytes have arrived so far.
-    void note(Instant now, std::uint64_t received) {
+    void addSample(Instant now, std::uint64_t received) {
         // A new download has begun.
         if (!samples_.empty() && received < samples_.back().received) samples_.clear();
         samples_.push_back({now, received});
@@ -24,14 +24,14 @@ public:
     std::optional<double> bytesPerSecond() const {
         if (samples_.empty()) return std::nullopt;
         const Seconds time = samples_.back().at - samples_.front().at;
-        if (time < leastTime) return std::nullopt;
+        if (time < minimumSpan) return std::nullopt;
         return static_cast<double>(samples_.back().received - samples_.front().received) /
                time.count();
     }
 
 private:
     static constexpr Seconds span{3};
-    static constexpr Seconds leastTime{0.5};
+    static constexpr Seconds minimumSpan{0.5};
 
     struct Sample {
         Instant at;

@@ -9,22 +9,22 @@ namespace {
 using Stage = UpdateState::Stage;
 
 // A version that fails at its start has done so by then.
-constexpr Seconds trial{2.0};
+constexpr Seconds confirmationDelay{2.0};
 
 }  // namespace
 
 UpdateFlow::UpdateFlow(Context context)
     : context_(std::move(context)),
       schedule_(context_.scheduler, context_.clock, context_.defaults,
-                [this] { check(Asked::bySchedule); }) {
-    if (context_.engine->isOnTrial())
-        confirmation_ =
-            context_.scheduler.after(trial, [this] { context_.engine->confirmStart(); });
-    if (const auto back = context_.engine->rolledBack()) tell(*back);
+                [this] { check(CheckReason::schedule); }) {
+    if (context_.engine->isStartConfirmationPending())
+        confirmationTimer_ = context_.scheduler.after(confirmationDelay,
+                                                      [this] { context_.engine->confirmStart(); });
+    if (const auto back = context_.engine->rolledBack()) showRollback(*back);
 }
 
 UpdateFlow::~UpdateFlow() {
-    for (const auto& timer : {confirmation_, telling_, removal_})
+    for (const auto& timer : {confirmationTimer_, rollbackTimer_, windowRemovalTimer_})
         if (timer) timer->cancel();
 }
 
@@ -33,22 +33,22 @@ void UpdateFlow::checkForUpdates() {
     const bool isFree = stage == Stage::closed || stage == Stage::upToDate ||
                         stage == Stage::checkFailed || stage == Stage::failed;
     if (isFree) {
-        const bool isUnderWay = check_.has_value();
+        const bool isUnderWay = runningCheck_.has_value();
         show({.stage = Stage::checking});
         if (isUnderWay)
-            check_ = Asked::byUser;
+            runningCheck_ = CheckReason::user;
         else
-            check(Asked::byUser);
+            check(CheckReason::user);
     }
     window_->makeKeyAndOrderFront();
     context_.application.activate();
 }
 
-void UpdateFlow::check(Asked asked) {
-    const bool isBusy = check_ || (asked == Asked::bySchedule && window_);
+void UpdateFlow::check(CheckReason reason) {
+    const bool isBusy = runningCheck_ || (reason == CheckReason::schedule && window_);
     if (isBusy) return;
-    check_ = asked;
-    schedule_.noteCheck();
+    runningCheck_ = reason;
+    schedule_.recordCheck();
     context_.engine->check({.feed = context_.observer.feedURLString(),
                             .version = context_.version,
                             .channel = context_.defaults.text(channel).value_or(""),
@@ -81,18 +81,18 @@ void UpdateFlow::checkReported(const UpdateReport& report) {
         found(update->item);
     } else if (const auto* nothing = std::get_if<report::NothingFound>(&report)) {
         context_.observer.updaterDidNotFindUpdate(nothing->reason);
-        if (std::exchange(check_, std::nullopt) == Asked::byUser)
+        if (std::exchange(runningCheck_, std::nullopt) == CheckReason::user)
             show({.stage = Stage::upToDate, .message = nothing->reason});
     } else if (const auto* failure = std::get_if<report::Failed>(&report)) {
         context_.observer.didAbortWithError(failure->message);
-        if (std::exchange(check_, std::nullopt) == Asked::byUser)
+        if (std::exchange(runningCheck_, std::nullopt) == CheckReason::user)
             show({.stage = Stage::checkFailed, .message = failure->message, .page = failure->page});
     }
 }
 
 void UpdateFlow::found(const UpdateItem& item) {
     context_.observer.didFindValidUpdate({item.version, item.displayVersion});
-    const bool isAskedByUser = std::exchange(check_, std::nullopt) == Asked::byUser;
+    const bool isAskedByUser = std::exchange(runningCheck_, std::nullopt) == CheckReason::user;
     const bool isSkipped = context_.defaults.text(skippedVersion) == item.version;
     if (isSkipped && !isAskedByUser) return;
     show({.stage = Stage::found, .item = item});
@@ -112,7 +112,7 @@ void UpdateFlow::install() {
 void UpdateFlow::prepareReported(const UpdateReport& report) {
     UpdateState next = state.value();
     if (const auto* progress = std::get_if<report::Progress>(&report)) {
-        speed_.note(context_.scheduler.now(), progress->received);
+        speed_.addSample(context_.scheduler.now(), progress->received);
         next.received = progress->received;
         next.speed = speed_.bytesPerSecond();
         show(std::move(next));
@@ -146,12 +146,12 @@ void UpdateFlow::failed(const report::Failed& failure) {
     window_->orderFront();
 }
 
-void UpdateFlow::tell(const report::RolledBack& back) {
+void UpdateFlow::showRollback(const report::RolledBack& back) {
     // A version that failed to start is not offered by scheduled checks, because it would fail
     // again.
     if (!back.version.empty()) context_.defaults.set(skippedVersion, back.version);
     context_.observer.didAbortWithError(back.message);
-    telling_ = context_.scheduler.after(Seconds(0), [this, back] {
+    rollbackTimer_ = context_.scheduler.after(Seconds(0), [this, back] {
         show({.stage = Stage::failed, .message = back.message});
         window_->orderFront();
     });
@@ -180,20 +180,20 @@ void UpdateFlow::close() {
     // It is too late to cancel while installing: the program ends in a moment.
     if (stage == Stage::closed || stage == Stage::installing) return;
     if (stage == Stage::checking || stage == Stage::downloading) context_.engine->cancel();
-    if (stage == Stage::checking) check_.reset();
+    if (stage == Stage::checking) runningCheck_.reset();
     show({});
 }
 
 void UpdateFlow::show(UpdateState next) {
     const Stage stage = next.stage;
     state.set(std::move(next));
-    if (removal_) removal_->cancel();
+    if (windowRemovalTimer_) windowRemovalTimer_->cancel();
     if (stage != Stage::closed) {
         if (!window_) window_ = context_.makeWindow(*this);
     } else if (window_) {
         window_->close();
         // The window may be the caller, so it is destroyed later.
-        removal_ = context_.scheduler.after(Seconds(0), [this] { window_.reset(); });
+        windowRemovalTimer_ = context_.scheduler.after(Seconds(0), [this] { window_.reset(); });
     }
 }
 

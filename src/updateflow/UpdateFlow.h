@@ -77,15 +77,15 @@ public:
     void close();
 
 private:
-    enum class Asked { byUser, bySchedule };
+    enum class CheckReason { user, schedule };
 
-    void check(Asked asked);
+    void check(CheckReason reason);
     void checkReported(const UpdateReport& report);
     void found(const UpdateItem& item);
     void prepareReported(const UpdateReport& report);
     void relaunch();
     void failed(const report::Failed& failure);
-    void tell(const report::RolledBack& back);
+    void showRollback(const report::RolledBack& back);
     void show(UpdateState state);
     OfferedVersion offered() const;
     /// Returns the date of the newest feed ever seen, in seconds since 1970; 0 if there is none.
@@ -94,12 +94,12 @@ private:
 
     Context context_;
     UpdateSchedule schedule_;
-    std::optional<Asked> check_;  ///< Present while a check is in progress.
+    std::optional<CheckReason> runningCheck_;  ///< Present while a check is in progress.
     DownloadSpeed speed_;
     std::unique_ptr<Window> window_;  ///< Exists while something is shown.
-    TimerPointer confirmation_;
-    TimerPointer telling_;
-    TimerPointer removal_;
+    TimerPointer confirmationTimer_;
+    TimerPointer rollbackTimer_;
+    TimerPointer windowRemovalTimer_;
 };
 
 }  // namespace vantle

@@ -25,7 +25,7 @@ public:
     ~UpdateSchedule();
 
     /// Must be called for every check.
-    void noteCheck();
+    void recordCheck();
 
 private:
     void wake();

@@ -113,7 +113,7 @@ UpdateReport preparePackage(const UpdateItem& item) {
 }  // namespace
 
 void writeReport(const UpdateReport& report) {
-    std::cout << lineOf(report) << std::endl;
+    std::cout << formatReport(report) << std::endl;
 }
 
 UpdateReport check(const Installation& installation, const std::string& feed,

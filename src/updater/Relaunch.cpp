@@ -123,7 +123,7 @@ private:
 /// failed; empty if it was not tried. Returns the exit status.
 int startOldVersion(const fs::path& program, const std::string& version,
                     const std::string& message) {
-    const auto child = Child::start(program, lineOf(report::RolledBack{version, message}));
+    const auto child = Child::start(program, formatReport(report::RolledBack{version, message}));
     systemLog("Vantle: " + message);
     if (!child) systemLog("Vantle: " + program.string() + ": " + child.failure().message);
     return EXIT_FAILURE;

@@ -92,7 +92,7 @@ TYPED_TEST_P(UpdateEngineContract, TheLastReportMayStartAnotherAction) {
 }
 
 TYPED_TEST_P(UpdateEngineContract, AnOrdinaryStartIsNotOnTrial) {
-    EXPECT_FALSE(this->desk.engine->isOnTrial());
+    EXPECT_FALSE(this->desk.engine->isStartConfirmationPending());
     EXPECT_EQ(this->desk.engine->rolledBack(), std::nullopt);
 }
 

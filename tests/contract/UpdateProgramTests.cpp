@@ -34,7 +34,7 @@ struct ProgramEngine {
         QFile file(program + QStringLiteral(".reports"));
         EXPECT_TRUE(file.open(QFile::WriteOnly));
         for (const auto& report : reports)
-            file.write(QByteArray::fromStdString(lineOf(report) + "\n"));
+            file.write(QByteArray::fromStdString(formatReport(report) + "\n"));
     }
     bool runUntilReported(const std::function<bool()>& condition) { return runUntil(condition); }
 
@@ -148,11 +148,11 @@ TEST_F(UpdateProgramTest, AStartOnTrialIsConfirmedWithAByte) {
     ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
     qputenv("VANTLE_UPDATE_READY", QByteArray::number(ends[1]));
     UpdateProgram engine(desk.program);
-    EXPECT_TRUE(engine.isOnTrial());
+    EXPECT_TRUE(engine.isStartConfirmationPending());
     EXPECT_FALSE(qEnvironmentVariableIsSet("VANTLE_UPDATE_READY"));
     EXPECT_NE(fcntl(ends[1], F_GETFD) & FD_CLOEXEC, 0);
     engine.confirmStart();
-    EXPECT_FALSE(engine.isOnTrial());
+    EXPECT_FALSE(engine.isStartConfirmationPending());
     std::array<char, 2> bytes{};
     EXPECT_EQ(read(ends[0], bytes.data(), bytes.size()), 1);
     close(ends[0]);
@@ -175,13 +175,13 @@ TEST_F(UpdateProgramTest, ConfirmingAStartAfterTheUpdaterHasGoneIsHarmless) {
     UpdateProgram engine(desk.program);
     close(ends[0]);
     engine.confirmStart();
-    EXPECT_FALSE(engine.isOnTrial());
+    EXPECT_FALSE(engine.isStartConfirmationPending());
 }
 
 TEST_F(UpdateProgramTest, InvalidVariablesAreNoTrial) {
     for (const auto* value : {"", "x", "99999", "-1", "2"}) {
         qputenv("VANTLE_UPDATE_READY", value);
-        EXPECT_FALSE(UpdateProgram(desk.program).isOnTrial()) << value;
+        EXPECT_FALSE(UpdateProgram(desk.program).isStartConfirmationPending()) << value;
     }
     qputenv("VANTLE_UPDATE_OUTCOME", "ready");
     EXPECT_EQ(UpdateProgram(desk.program).rolledBack(), std::nullopt);
@@ -189,7 +189,7 @@ TEST_F(UpdateProgramTest, InvalidVariablesAreNoTrial) {
 
 TEST_F(UpdateProgramTest, RemovesTheOutcomeFromTheEnvironment) {
     const report::RolledBack back{"1.2", "It crashed."};
-    qputenv("VANTLE_UPDATE_OUTCOME", QByteArray::fromStdString(lineOf(back)));
+    qputenv("VANTLE_UPDATE_OUTCOME", QByteArray::fromStdString(formatReport(back)));
     EXPECT_EQ(UpdateProgram(desk.program).rolledBack(), back);
     EXPECT_FALSE(qEnvironmentVariableIsSet("VANTLE_UPDATE_OUTCOME"));
 }

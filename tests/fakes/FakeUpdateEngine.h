@@ -20,7 +20,7 @@ public:
         int cancelled = 0;
         int confirmed = 0;
         std::optional<report::RolledBack> rolledBack;
-        bool isOnTrial = false;
+        bool isStartConfirmationPending = false;
         Outcome relaunchFailure;
         OnReport onReport;  ///< Set while a check or a preparation is under way.
     };
@@ -45,7 +45,7 @@ public:
         return record_.relaunchFailure;
     }
     std::optional<report::RolledBack> rolledBack() const override { return record_.rolledBack; }
-    bool isOnTrial() const override { return record_.isOnTrial; }
+    bool isStartConfirmationPending() const override { return record_.isStartConfirmationPending; }
     void confirmStart() override { ++record_.confirmed; }
 
 private:

@@ -387,7 +387,7 @@ TEST_F(UpdateFlowTest, RequestsTheChannelOfTheSettings) {
 }
 
 TEST_F(UpdateFlowTest, AStartOnTrialIsConfirmedAfterAWhile) {
-    engine.isOnTrial = true;
+    engine.isStartConfirmationPending = true;
     make();
     time.advance(Seconds(1.9));
     EXPECT_EQ(engine.confirmed, 0);

@@ -20,17 +20,17 @@ const UpdateItem item{.version = "12",
 class UpdateReportTest : public testing::TestWithParam<UpdateReport> {};
 
 TEST_P(UpdateReportTest, IsReadAsItWasWritten) {
-    const std::string line = lineOf(GetParam());
+    const std::string line = formatReport(GetParam());
     EXPECT_EQ(line.find('\n'), std::string::npos);
-    EXPECT_EQ(reportFrom(line), GetParam());
+    EXPECT_EQ(parseReport(line), GetParam());
 }
 
 TEST_P(UpdateReportTest, IsInvalidWithMoreOrFewerFields) {
-    const std::string line = lineOf(GetParam());
-    EXPECT_EQ(reportFrom(line + "\tmore"), std::nullopt);
+    const std::string line = formatReport(GetParam());
+    EXPECT_EQ(parseReport(line + "\tmore"), std::nullopt);
     const auto at = line.rfind('\t');
     if (at != std::string::npos) {
-        EXPECT_EQ(reportFrom(line.substr(0, at)), std::nullopt);
+        EXPECT_EQ(parseReport(line.substr(0, at)), std::nullopt);
     }
 }
 
@@ -44,7 +44,7 @@ INSTANTIATE_TEST_SUITE_P(Reports, UpdateReportTest,
 TEST(UpdateReportLineTest, AnInvalidLineIsNoReport) {
     for (const auto* line : {"", "nonsense", "progress\tmany", "progress\t-1", "progress\t1x",
                              "nothing\tbad \\escape", "nothing\t\\", "\t\t"})
-        EXPECT_EQ(reportFrom(line), std::nullopt) << line;
+        EXPECT_EQ(parseReport(line), std::nullopt) << line;
 }
 
 struct Versions {

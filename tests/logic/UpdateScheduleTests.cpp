@@ -18,7 +18,7 @@ protected:
         schedule.reset();
         schedule = std::make_unique<UpdateSchedule>(scheduler, clock, defaults, [this] {
             ++checks;
-            if (!isWindowOpen) schedule->noteCheck();
+            if (!isWindowOpen) schedule->recordCheck();
         });
     }
     /// Simulates a first launch that was long enough, `ago` before now.
@@ -95,7 +95,7 @@ TEST_F(UpdateScheduleTest, ACheckByTheUserCountsToo) {
     haveLaunchedBefore(hours(20));
     launch();
     time.advance(hours(1));
-    schedule->noteCheck();
+    schedule->recordCheck();
     time.advance(hours(23));
     EXPECT_EQ(checks, 0);
 }

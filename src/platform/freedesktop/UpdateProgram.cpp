@@ -52,7 +52,7 @@ UpdateProgram::UpdateProgram(QString program) : program_(std::move(program)) {
     const int descriptor = takeVariable(relaunch::readyVariable).toInt(&isNumber);
     if (isNumber && isSocket(descriptor) && fcntl(descriptor, F_SETFD, FD_CLOEXEC) == 0)
         readySocket_ = FileDescriptor(descriptor);
-    const auto outcome = reportFrom(takeVariable(relaunch::outcomeVariable).toStdString());
+    const auto outcome = parseReport(takeVariable(relaunch::outcomeVariable).toStdString());
     if (outcome)
         if (const auto* back = std::get_if<report::RolledBack>(&*outcome)) rolledBack_ = *back;
 }
@@ -141,7 +141,7 @@ void UpdateProgram::readLines() {
 }
 
 void UpdateProgram::read(const QByteArray& line) {
-    const auto report = reportFrom(line.chopped(1).toStdString());
+    const auto report = parseReport(line.chopped(1).toStdString());
     if (!report || finalReport_) return;
     if (isLast(*report)) {
         finalReport_ = *report;

@@ -25,7 +25,7 @@ public:
     void cancel() override;
     Outcome relaunch(const UpdateItem& item) override;
     std::optional<report::RolledBack> rolledBack() const override { return rolledBack_; }
-    bool isOnTrial() const override { return static_cast<bool>(readySocket_); }
+    bool isStartConfirmationPending() const override { return static_cast<bool>(readySocket_); }
     void confirmStart() override;
 
 private:
