@@ -10,16 +10,16 @@
 namespace vantle {
 namespace {
 
-constexpr double secondsAtFirst = 10;
+constexpr double defaultSeconds = 10;
 // Longer than the time between two key presses, also while a key repeats.
-constexpr Seconds restTime{0.5};
+constexpr Seconds storeDelay{0.5};
 
 }  // namespace
 
 BehaviorControls::BehaviorControls(Settings& settings, Scheduler& scheduler)
     : settings_(settings),
       scheduler_(scheduler),
-      lastPositive_(secondsAtFirst),
+      lastPositive_(defaultSeconds),
       subscription_(settings.dismissAfter.observe([this](double seconds) { remember(seconds); })) {
     appear();
 }
@@ -29,20 +29,20 @@ BehaviorControls::~BehaviorControls() {
 }
 
 void BehaviorControls::moveSlider(double seconds) {
-    moved_ = seconds;
-    if (rest_) rest_->cancel();
-    rest_ = scheduler_.after(restTime, [this] { store(); });
+    pendingSeconds_ = seconds;
+    if (storeTimer_) storeTimer_->cancel();
+    storeTimer_ = scheduler_.after(storeDelay, [this] { store(); });
 }
 
 void BehaviorControls::store() {
-    if (rest_) rest_->cancel();
-    if (const auto seconds = std::exchange(moved_, std::nullopt))
+    if (storeTimer_) storeTimer_->cancel();
+    if (const auto seconds = std::exchange(pendingSeconds_, std::nullopt))
         settings_.dismissAfter.set(*seconds);
 }
 
 void BehaviorControls::remember(double seconds) {
     // A change from elsewhere takes precedence over the slider.
-    moved_.reset();
+    pendingSeconds_.reset();
     if (seconds > 0) lastPositive_ = seconds;
 }
 

@@ -42,12 +42,12 @@ public:
 private:
     void remember(double seconds);
     void store();
-    double seconds() const { return moved_.value_or(settings_.dismissAfter.value()); }
+    double seconds() const { return pendingSeconds_.value_or(settings_.dismissAfter.value()); }
 
     Settings& settings_;
     Scheduler& scheduler_;
-    std::optional<double> moved_;  ///< The slider's value while it moves, not yet stored.
-    TimerPointer rest_;
+    std::optional<double> pendingSeconds_;  ///< The slider's value while it moves, not yet stored.
+    TimerPointer storeTimer_;
     bool neverDismiss_ = false;
     double lastPositive_;
     Subscription subscription_;

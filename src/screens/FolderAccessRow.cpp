@@ -6,7 +6,7 @@
 namespace vantle {
 namespace {
 
-std::string whatIsAsked() {
+std::string permissionExplanation() {
     return localized(
         "FolderAccessRow",
         "macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.");
@@ -21,18 +21,18 @@ std::shared_ptr<FolderAccessRow> FolderAccessRow::create(const Context& context)
     return row;
 }
 
-FolderAccessRow::Look FolderAccessRow::look(AccessState state) {
+FolderAccessRow::Contents FolderAccessRow::contents(AccessState state) {
     const Button grant{localized("FolderAccessRow", "Grant access"), &FolderAccessRow::check};
     switch (state) {
         case AccessState::unknown:
             return {"lock.circle",
                     localized("FolderAccessRow", "Folder access"),
-                    whatIsAsked(),
+                    permissionExplanation(),
                     {grant}};
         case AccessState::granted:
             return {"checkmark.circle.fill",
                     localized("FolderAccessRow", "Vantle can read this folder"),
-                    whatIsAsked(),
+                    permissionExplanation(),
                     {{localized("FolderAccessRow", "Check again"), &FolderAccessRow::check}}};
         case AccessState::denied:
             return {
@@ -53,14 +53,15 @@ void FolderAccessRow::check() {
 }
 
 void FolderAccessRow::check(const Url& folder) {
-    const auto learn =
-        weakly(shared_from_this(), [](auto& self, AccessState learnt) { self.state.set(learnt); });
-    context_.queue.async([&files = context_.files, &scheduler = context_.scheduler, folder, learn] {
-        const bool isReadable{files.contentsOfDirectory(folder)};
-        scheduler.async([learn, isReadable] {
-            learn(isReadable ? AccessState::granted : AccessState::denied);
+    const auto setState =
+        weakly(shared_from_this(), [](auto& self, AccessState result) { self.state.set(result); });
+    context_.queue.async(
+        [&files = context_.files, &scheduler = context_.scheduler, folder, setState] {
+            const bool isReadable{files.contentsOfDirectory(folder)};
+            scheduler.async([setState, isReadable] {
+                setState(isReadable ? AccessState::granted : AccessState::denied);
+            });
         });
-    });
 }
 
 void FolderAccessRow::openPrivacySettings() {

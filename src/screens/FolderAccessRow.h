@@ -32,7 +32,7 @@ public:
     };
 
     /// The contents of the row in one state.
-    struct Look {
+    struct Contents {
         std::string symbol;
         std::string title;
         std::string caption;
@@ -43,7 +43,7 @@ public:
 
     Published<AccessState> state{AccessState::unknown};
 
-    static Look look(AccessState state);
+    static Contents contents(AccessState state);
 
     /// Tries to list the folder and sets the state later, because a remote folder can take a while.
     /// Also runs whenever the folder changes.

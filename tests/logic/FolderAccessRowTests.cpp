@@ -21,14 +21,16 @@ protected:
         time.settle();
         return row->state.value();
     }
-    FolderAccessRow::Look look() const { return FolderAccessRow::look(row->state.value()); }
+    FolderAccessRow::Contents contents() const {
+        return FolderAccessRow::contents(row->state.value());
+    }
     std::vector<std::string> buttons() const {
         std::vector<std::string> titles;
-        for (const auto& button : look().buttons) titles.push_back(button.title);
+        for (const auto& button : contents().buttons) titles.push_back(button.title);
         return titles;
     }
     void press(std::size_t button) {
-        (row.get()->*look().buttons[button].action)();
+        (row.get()->*contents().buttons[button].action)();
         time.settle();
     }
 
@@ -39,31 +41,31 @@ protected:
         FolderAccessRow::create({settings, files, queue, scheduler, privacySettings});
 };
 
-constexpr auto whatIsAsked =
+constexpr auto permissionExplanation =
     "macOS asks once for Desktop, Documents and Downloads. Pictures needs no permission.";
 
 TEST_F(FolderAccessRowTest, AtFirstNothingIsKnown) {
     EXPECT_EQ(row->state.value(), AccessState::unknown);
-    EXPECT_EQ(look().symbol, "lock.circle");
-    EXPECT_EQ(look().title, "Folder access");
-    EXPECT_EQ(look().caption, whatIsAsked);
+    EXPECT_EQ(contents().symbol, "lock.circle");
+    EXPECT_EQ(contents().title, "Folder access");
+    EXPECT_EQ(contents().caption, permissionExplanation);
     EXPECT_THAT(buttons(), ElementsAre("Grant access"));
 }
 
 TEST_F(FolderAccessRowTest, AFolderThatCanBeListedIsGranted) {
     EXPECT_EQ(checked(), AccessState::granted);
-    EXPECT_EQ(look().symbol, "checkmark.circle.fill");
-    EXPECT_EQ(look().title, "Vantle can read this folder");
-    EXPECT_EQ(look().caption, whatIsAsked);
+    EXPECT_EQ(contents().symbol, "checkmark.circle.fill");
+    EXPECT_EQ(contents().title, "Vantle can read this folder");
+    EXPECT_EQ(contents().caption, permissionExplanation);
     EXPECT_THAT(buttons(), ElementsAre("Check again"));
 }
 
 TEST_F(FolderAccessRowTest, AFolderThatIsRefusedIsDenied) {
     files.failListing(desktop, EACCES);
     EXPECT_EQ(checked(), AccessState::denied);
-    EXPECT_EQ(look().symbol, "exclamationmark.triangle.fill");
-    EXPECT_EQ(look().title, "macOS is blocking access to this folder");
-    EXPECT_EQ(look().caption,
+    EXPECT_EQ(contents().symbol, "exclamationmark.triangle.fill");
+    EXPECT_EQ(contents().title, "macOS is blocking access to this folder");
+    EXPECT_EQ(contents().caption,
               "Allow Vantle under Privacy & Security → Files and Folders, then check again.");
     EXPECT_THAT(buttons(), ElementsAre("Open Privacy Settings", "Grant access"));
 }

@@ -73,10 +73,10 @@ TEST(Localization, AWrongCommandLineIsExplainedInTheUsersLanguage) {
 TEST(Localization, TheFolderAccessIsTranslatedInEachState) {
     const Pseudolanguage language;
     for (const auto state : {AccessState::unknown, AccessState::granted, AccessState::denied}) {
-        const auto look = FolderAccessRow::look(state);
-        EXPECT_THAT(look.title, IsTranslated());
-        EXPECT_THAT(look.caption, IsTranslated());
-        for (const auto& button : look.buttons) EXPECT_THAT(button.title, IsTranslated());
+        const auto contents = FolderAccessRow::contents(state);
+        EXPECT_THAT(contents.title, IsTranslated());
+        EXPECT_THAT(contents.caption, IsTranslated());
+        for (const auto& button : contents.buttons) EXPECT_THAT(button.title, IsTranslated());
     }
 }
 

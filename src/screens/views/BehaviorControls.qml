@@ -16,7 +16,7 @@ Column {
         ToggleRow {
             text: qsTr("Keep captures until dismissed (recommended)")
             isOn: controls.settings.neverDismiss
-            onWanted: on => controls.settings.neverDismiss = on
+            onChangeRequested: on => controls.settings.neverDismiss = on
         }
 
         Caption { text: qsTr("Pin a capture to keep it past the timer.") }
@@ -25,7 +25,7 @@ Column {
 
         Separator {}
 
-        Labels {
+        RowLabels {
             width: parent.width
             title: qsTr("After I use a capture")
             caption: qsTr("Using = dragging, opening, copying, sharing or revealing.")
@@ -35,7 +35,7 @@ Column {
             name: qsTr("After I use a capture")
             titles: [qsTr("Remove it from Vantle"), qsTr("Keep it in Vantle")]
             current: controls.settings.removeAfterUse ? 0 : 1
-            onWanted: index => controls.settings.removeAfterUse = index === 0
+            onChangeRequested: index => controls.settings.removeAfterUse = index === 0
         }
 
         Separator {}
@@ -44,7 +44,7 @@ Column {
             text: qsTr("Move the file to the Trash after I use it")
             caption: qsTr("After dragging or copying. Recoverable from the Trash.")
             isOn: controls.settings.deleteAfterUse
-            onWanted: on => controls.settings.deleteAfterUse = on
+            onChangeRequested: on => controls.settings.deleteAfterUse = on
         }
 
         Separator {}
@@ -53,7 +53,7 @@ Column {
             text: qsTr("Also show screen recordings")
             caption: controls.settings.recordingsPlace
             isOn: controls.settings.showRecordings
-            onWanted: on => controls.settings.showRecordings = on
+            onChangeRequested: on => controls.settings.showRecordings = on
         }
 
         Separator {}
@@ -61,7 +61,7 @@ Column {
         ToggleRow {
             text: qsTr("Copy screenshot to clipboard automatically")
             isOn: controls.settings.copyOnCapture
-            onWanted: on => controls.settings.copyOnCapture = on
+            onChangeRequested: on => controls.settings.copyOnCapture = on
         }
     }
 
@@ -79,7 +79,7 @@ Column {
             width: parent.width
             height: fits ? Math.max(name.height, corner.height) : name.height + corner.height + 4
 
-            Body {
+            BodyText {
                 id: name
 
                 width: Math.min(implicitWidth, parent.width)
@@ -112,7 +112,7 @@ Column {
                      : controls.settings.thumbnailObstacle
             enabled: controls.settings.thumbnailObstacle === ""
             isOn: controls.settings.hideSystemThumbnail
-            onWanted: on => controls.settings.hideSystemThumbnail = on
+            onChangeRequested: on => controls.settings.hideSystemThumbnail = on
         }
 
         Separator {}
@@ -120,7 +120,7 @@ Column {
         ToggleRow {
             text: qsTr("Open Vantle at login")
             isOn: controls.settings.launchAtLogin
-            onWanted: on => controls.settings.launchAtLogin = on
+            onChangeRequested: on => controls.settings.launchAtLogin = on
         }
 
         Separator {}
@@ -131,7 +131,7 @@ Column {
                              : controls.settings.dockObstacle
             enabled: controls.settings.dockObstacle === ""
             isOn: controls.settings.showInDock
-            onWanted: on => controls.settings.showInDock = on
+            onChangeRequested: on => controls.settings.showInDock = on
         }
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import Vantle.Panel
 
 // A smaller, explanatory text.
-Body {
+BodyText {
     color: Appearance.secondary
     lineHeight: 1.1
     font.pointSize: Style.caption

@@ -22,7 +22,7 @@ Column {
 
         height: fits ? name.height : name.height + number.height
 
-        Body {
+        BodyText {
             id: name
 
             width: Math.min(implicitWidth, parent.width)
@@ -31,7 +31,7 @@ Column {
             isSpoken: false
         }
 
-        Body {
+        BodyText {
             id: number
 
             width: Math.min(implicitWidth, parent.width)

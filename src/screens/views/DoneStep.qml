@@ -24,7 +24,7 @@ StepView {
 
         Title { text: qsTr("You're all set") }
 
-        Body {
+        BodyText {
             text: step.onboarding.outlook
             horizontalAlignment: Text.AlignHCenter
             color: Appearance.secondary
@@ -32,7 +32,7 @@ StepView {
             font.pointSize: Style.points(14)
         }
 
-        Body {
+        BodyText {
             text: step.onboarding.trayAdvice
             visible: step.onboarding.trayAdvice !== ""
             horizontalAlignment: Text.AlignHCenter

@@ -31,7 +31,7 @@ Group {
                 fontSize: 14 * Style.scale
             }
 
-            Body {
+            BodyText {
                 id: label
 
                 anchors.left: parent.left

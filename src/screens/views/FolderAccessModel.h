@@ -31,12 +31,13 @@ public:
               emit changed();
           })) {}
 
-    QString symbol() const { return QString::fromStdString(look().symbol); }
-    QString title() const { return QString::fromStdString(look().title); }
-    QString caption() const { return QString::fromStdString(look().caption); }
+    QString symbol() const { return QString::fromStdString(contents().symbol); }
+    QString title() const { return QString::fromStdString(contents().title); }
+    QString caption() const { return QString::fromStdString(contents().caption); }
     QStringList buttons() const {
         QStringList titles;
-        for (const auto& button : look().buttons) titles << QString::fromStdString(button.title);
+        for (const auto& button : contents().buttons)
+            titles << QString::fromStdString(button.title);
         return titles;
     }
     bool isGranted() const { return state_ == AccessState::granted; }
@@ -45,7 +46,7 @@ public:
     Q_INVOKABLE void check() { row_->check(); }
     /// Presses the button with that number, from 0.
     Q_INVOKABLE void press(int button) {
-        const auto& buttons = look().buttons;
+        const auto& buttons = contents().buttons;
         (row_.get()->*buttons.at(static_cast<std::size_t>(button)).action)();
     }
 
@@ -53,7 +54,7 @@ signals:
     void changed();
 
 private:
-    FolderAccessRow::Look look() const { return FolderAccessRow::look(state_); }
+    FolderAccessRow::Contents contents() const { return FolderAccessRow::contents(state_); }
 
     std::shared_ptr<FolderAccessRow> row_;
     /// A copy of the row's state, because a change is announced before it is stored.

@@ -28,7 +28,7 @@ Group {
             fontSize: 17 * Style.scale
         }
 
-        Labels {
+        RowLabels {
             id: texts
 
             anchors.left: symbol.right

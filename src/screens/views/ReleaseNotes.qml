@@ -40,7 +40,7 @@ Item {
         activeFocusOnTab: contentHeight > height
         Keys.onPressed: event => scrollBy(event)
 
-        Body {
+        BodyText {
             id: content
 
             x: Style.groupPadding

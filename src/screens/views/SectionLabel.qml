@@ -2,7 +2,7 @@ import QtQuick
 import Vantle.Panel
 
 // A heading for the controls below it.
-Body {
+BodyText {
     leftPadding: Style.groupPadding
     rightPadding: Style.groupPadding
     color: Appearance.secondary

@@ -13,7 +13,7 @@ Item {
     readonly property bool fits: widest.width + 24 <= width / titles.length
     readonly property real rowHeight: Math.round(28 * Style.scale)
 
-    signal wanted(index: int)
+    signal changeRequested(index: int)
 
     // Gives the keyboard to the option with that number, if there is one.
     function goTo(index) {
@@ -80,12 +80,12 @@ Item {
 
                 Accessible.name: text
                 Accessible.checked: checked
-                Accessible.onPressAction: choice.wanted(index) // qmllint disable unqualified
-                Accessible.onToggleAction: choice.wanted(index) // qmllint disable unqualified
+                Accessible.onPressAction: choice.changeRequested(index) // qmllint disable unqualified
+                Accessible.onToggleAction: choice.changeRequested(index) // qmllint disable unqualified
 
                 onClicked: {
                     checked = Qt.binding(() => index === choice.current); // qmllint disable unqualified
-                    choice.wanted(index); // qmllint disable unqualified
+                    choice.changeRequested(index); // qmllint disable unqualified
                 }
                 Keys.onUpPressed: choice.goTo(index - 1) // qmllint disable unqualified
                 Keys.onDownPressed: choice.goTo(index + 1) // qmllint disable unqualified

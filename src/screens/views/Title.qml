@@ -1,7 +1,7 @@
 import QtQuick
 
 // The title of a step of the onboarding.
-Body {
+BodyText {
     horizontalAlignment: Text.AlignHCenter
     font.pointSize: Style.display
     font.weight: Font.Bold

@@ -6,12 +6,12 @@ T.Switch {
     id: toggle
 
     property string caption
-    // The stored setting. The user's change is emitted as wanted() and returns through this
-    // property.
+    // The stored setting. The user's change is emitted as changeRequested() and returns through
+    // this property.
     required property bool isOn
     readonly property real gap: implicitIndicatorWidth + 16
 
-    signal wanted(on: bool)
+    signal changeRequested(on: bool)
 
     width: parent ? parent.width : implicitWidth
     implicitWidth: implicitContentWidth + gap
@@ -22,16 +22,16 @@ T.Switch {
 
     Accessible.name: text
     Accessible.description: caption
-    Accessible.onPressAction: wanted(!isOn)
-    Accessible.onToggleAction: wanted(!isOn)
+    Accessible.onPressAction: changeRequested(!isOn)
+    Accessible.onToggleAction: changeRequested(!isOn)
 
     onToggled: {
-        wanted(checked);
+        changeRequested(checked);
         // If the setting does not change the switch returns to its old position.
         checked = Qt.binding(() => isOn);
     }
 
-    contentItem: Labels {
+    contentItem: RowLabels {
         title: toggle.text
         // The caption stays readable because it says why.
         titleOpacity: toggle.enabled ? 1 : Style.disabled

@@ -57,7 +57,7 @@ Rectangle {
         y: view.margin
         spacing: 8
 
-        Body {
+        BodyText {
             text: view.update.headline
             font.pointSize: Style.points(15)
             font.weight: Font.DemiBold
@@ -72,7 +72,7 @@ Rectangle {
             Accessible.name: view.update.headline
         }
 
-        Body {
+        BodyText {
             visible: text !== ""
             text: view.update.detail
             lineHeight: 1.15

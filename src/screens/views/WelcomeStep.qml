@@ -15,7 +15,7 @@ StepView {
 
         Title { text: qsTr("Welcome to Vantle") }
 
-        Body {
+        BodyText {
             text: qsTr("Screenshots shouldn't vanish before you can use them.\nVantle keeps your latest screenshots and recordings in a glass panel in the corner until you're done with them.")
             horizontalAlignment: Text.AlignHCenter
             color: Appearance.secondary

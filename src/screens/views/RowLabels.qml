@@ -20,7 +20,7 @@ Item {
         width: parent.width
         spacing: 2
 
-        Body {
+        BodyText {
             id: title
 
             isSpoken: labels.isSpoken
