@@ -26,16 +26,17 @@ struct Option {
 // The help lists them in this order.
 constexpr std::array options = {
     Option{"settings", Kind::start, marked("CommandLine", "open the settings")},
-    Option{"pause", Kind::ask, marked("CommandLine", "stop watching until --resume")},
-    Option{"resume", Kind::ask, marked("CommandLine", "resume watching")},
+    Option{"pause", Kind::sendRequest, marked("CommandLine", "stop watching until --resume")},
+    Option{"resume", Kind::sendRequest, marked("CommandLine", "resume watching")},
     Option{"show", Kind::start, marked("CommandLine", "show screenshots or recordings on the card"),
            Takes::files},
-    Option{"dismiss", Kind::ask, marked("CommandLine", "dismiss the card")},
-    Option{"focus-panel", Kind::ask, marked("CommandLine", "move the keyboard focus to the card")},
-    Option{"open-folder", Kind::ask, marked("CommandLine", "open the screenshots folder")},
+    Option{"dismiss", Kind::sendRequest, marked("CommandLine", "dismiss the card")},
+    Option{"focus-panel", Kind::sendRequest,
+           marked("CommandLine", "move the keyboard focus to the card")},
+    Option{"open-folder", Kind::sendRequest, marked("CommandLine", "open the screenshots folder")},
     Option{"sample", Kind::start, marked("CommandLine", "show two sample captures")},
-    Option{"quit", Kind::ask, marked("CommandLine", "quit Vantle")},
-    Option{"status", Kind::ask, marked("CommandLine", "print the status of Vantle"),
+    Option{"quit", Kind::sendRequest, marked("CommandLine", "quit Vantle")},
+    Option{"status", Kind::sendRequest, marked("CommandLine", "print the status of Vantle"),
            Takes::details},
     Option{"version", Kind::print, marked("CommandLine", "print the version")},
     Option{"help", Kind::print, marked("CommandLine", "print this text")},
@@ -53,10 +54,10 @@ constexpr std::array details = {
 };
 
 // The help does not list this option, because only the desktop uses it.
-constexpr auto desktopLaunch = "--dbus-activated";
+constexpr auto desktopLaunchOption = "--dbus-activated";
 
-CommandLine wrong(const std::string& reason) {
-    return {Kind::wrong, std::nullopt,
+CommandLine invalid(const std::string& reason) {
+    return {Kind::invalid, std::nullopt,
             "vantle: " + reason + "\n" + localized("CommandLine", "Try \"vantle --help\".")};
 }
 
@@ -71,8 +72,8 @@ std::string absolutePath(const std::string& path, const Url& folder) {
 CommandLine commandForFiles(const Option& option, const std::vector<std::string>& files,
                             const Url& folder) {
     if (files.empty())
-        return wrong(filled(localized("CommandLine", "%1 needs at least one file"),
-                            {"--" + std::string(option.name)}));
+        return invalid(filled(localized("CommandLine", "%1 needs at least one file"),
+                              {"--" + std::string(option.name)}));
     ApplicationRequest request{std::string(option.name), {}};
     for (const auto& file : files) request.arguments.push_back(absolutePath(file, folder));
     return {option.kind, std::move(request), {}};
@@ -83,13 +84,13 @@ CommandLine commandWithDetails(const Option& option, const std::vector<std::stri
     for (const std::string& detail : wanted) {
         const bool isKnown = std::ranges::any_of(
             details, [&](const Detail& known) { return detail == "--" + std::string(known.name); });
-        if (!isKnown) return wrong(unexpected(detail));
+        if (!isKnown) return invalid(unexpected(detail));
         request.arguments.push_back(detail.substr(2));
     }
     return {option.kind, std::move(request), {}};
 }
 
-CommandLine printed(std::string_view name) {
+CommandLine printing(std::string_view name) {
     return {Kind::print, std::nullopt,
             name == "help" ? helpText() : std::string("Vantle ") + std::string(version)};
 }
@@ -134,18 +135,19 @@ std::string helpText() {
 
 CommandLine parseCommandLine(const std::vector<std::string>& arguments, const Url& folder) {
     if (arguments.empty()) return {};
-    if (arguments == std::vector<std::string>{desktopLaunch}) return {.launchedByDesktop = true};
+    if (arguments == std::vector<std::string>{desktopLaunchOption})
+        return {.launchedByDesktop = true};
     const std::string& first = arguments.front();
     const std::vector<std::string> rest(arguments.begin() + 1, arguments.end());
-    if (!first.starts_with("--")) return wrong(unexpected(first));
+    if (!first.starts_with("--")) return invalid(unexpected(first));
     const auto* option =
         std::ranges::find(options, std::string_view(first).substr(2), &Option::name);
     if (option == options.end())
-        return wrong(filled(localized("CommandLine", "unknown option \"%1\""), {first}));
+        return invalid(filled(localized("CommandLine", "unknown option \"%1\""), {first}));
     if (option->takes == Takes::files) return commandForFiles(*option, rest, folder);
     if (option->takes == Takes::details) return commandWithDetails(*option, rest);
-    if (!rest.empty()) return wrong(unexpected(rest.front()));
-    if (option->kind == Kind::print) return printed(option->name);
+    if (!rest.empty()) return invalid(unexpected(rest.front()));
+    if (option->kind == Kind::print) return printing(option->name);
     return {option->kind, ApplicationRequest{std::string(option->name), {}}, {}};
 }
 

@@ -13,9 +13,9 @@ namespace vantle {
 struct CommandLine {
     enum class Kind {
         start,  ///< Runs the program, and performs `request`, if any, here or in the running copy.
-        ask,    ///< Has the running copy perform `request`. It is an error if no copy is running.
-        print,  ///< Prints `text`.
-        wrong,  ///< The arguments are not valid; `text` says why.
+        sendRequest,  ///< Has the running copy perform `request`, which fails if there is none.
+        print,        ///< Prints `text`.
+        invalid,      ///< The arguments are not valid; `text` says why.
     };
 
     Kind kind = Kind::start;

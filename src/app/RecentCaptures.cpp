@@ -28,8 +28,8 @@ void RecentCaptures::add(const CapturePointer& capture) {
 
 void RecentCaptures::show(const CapturePointer& recent) const {
     const auto& shown = services_.panel.state().captures.value();
-    const auto isThat = [&recent](const auto& capture) { return *capture == *recent; };
-    if (const auto found = std::ranges::find_if(shown, isThat); found != shown.end())
+    const auto isSameCapture = [&recent](const auto& capture) { return *capture == *recent; };
+    if (const auto found = std::ranges::find_if(shown, isSameCapture); found != shown.end())
         services_.panel.show(CapturePointer(*found));
     else
         services_.queue.async([loader = loader_, recent] { loader.loadAgain(recent); });

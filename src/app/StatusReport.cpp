@@ -20,12 +20,12 @@ std::string localTime(std::chrono::system_clock::time_point time) {
 
 /// Returns the start of the first path: a slash that follows no word, unlike the one in "and/or".
 std::size_t startOfPath(std::string_view line) {
-    const auto isOfWord = [](char letter) {
+    const auto isLetterOrDigit = [](char letter) {
         return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') ||
                (letter >= '0' && letter <= '9');
     };
     for (std::size_t i = 0; i < line.size(); ++i)
-        if (line[i] == '/' && (i == 0 || !isOfWord(line[i - 1]))) return i;
+        if (line[i] == '/' && (i == 0 || !isLetterOrDigit(line[i - 1]))) return i;
     return std::string_view::npos;
 }
 
@@ -45,7 +45,8 @@ std::vector<ReportLine> StatusReport::recordingsReport(Paths paths) const {
                 return "not watched";
         }
     };
-    return {{"recordings", state()}, {"recordings folder", placeOf(folder, sources_.files, paths)}};
+    return {{"recordings", state()},
+            {"recordings folder", folderDescription(folder, sources_.files, paths)}};
 }
 
 const char* StatusReport::state() const {
@@ -59,7 +60,7 @@ std::vector<ReportLine> StatusReport::lines(Paths paths) const {
     std::vector<ReportLine> lines{
         {"version", std::string(version)},
         {"state", state()},
-        {"folder", placeOf(folder, sources_.files, paths)},
+        {"folder", folderDescription(folder, sources_.files, paths)},
         {"captures", std::to_string(sources_.panel.state().captures.value().size())}};
     std::ranges::copy(recordingsReport(paths), std::back_inserter(lines));
     return lines;
@@ -69,17 +70,17 @@ std::string StatusReport::text(const std::vector<std::string>& arguments) const 
     const auto isAsked = [&](const char* name) { return std::ranges::count(arguments, name) > 0; };
     const bool isVerbose = isAsked("verbose");
     const Paths paths = !isVerbose || isAsked("with-paths") ? Paths::shown : Paths::hidden;
-    std::vector<ReportLine> told = lines(paths);
+    std::vector<ReportLine> report = lines(paths);
     if (!isVerbose) {
-        if (sources_.displayServer) told.push_back({"display server", sources_.displayServer()});
-        return reportText(told);
+        if (sources_.displayServer) report.push_back({"display server", sources_.displayServer()});
+        return reportText(report);
     }
-    told.push_back({"folder set by", sources_.settings.screenshotFolderOrigin()});
-    told.push_back({"settings", sources_.settings.summary()});
+    report.push_back({"folder set by", sources_.settings.screenshotFolderOrigin()});
+    report.push_back({"settings", sources_.settings.summary()});
     if (sources_.environmentReport)
-        std::ranges::copy(sources_.environmentReport(), std::back_inserter(told));
-    std::ranges::copy(logReport(recentSystemLog(), paths), std::back_inserter(told));
-    return reportText(told);
+        std::ranges::copy(sources_.environmentReport(), std::back_inserter(report));
+    std::ranges::copy(logReport(recentSystemLog(), paths), std::back_inserter(report));
+    return reportText(report);
 }
 
 std::string reportText(const std::vector<ReportLine>& lines) {
@@ -89,7 +90,7 @@ std::string reportText(const std::vector<ReportLine>& lines) {
     return written;
 }
 
-std::string placeOf(const Url& folder, const FileManager& files, Paths paths) {
+std::string folderDescription(const Url& folder, const FileManager& files, Paths paths) {
     if (paths == Paths::shown) return folder.path();
     const std::string home = files.homeDirectory().path();
     if (folder.path() == home) return "the home directory";
@@ -103,8 +104,8 @@ std::vector<ReportLine> logReport(const std::vector<LoggedMessage>& messages, Pa
     for (const LoggedMessage& logged : messages) {
         const LoggedMessage hidden{logged.time, withoutPaths(logged.message),
                                    withoutPaths(logged.reason)};
-        const LoggedMessage& told = paths == Paths::shown ? logged : hidden;
-        lines.push_back({"log", localTime(told.time) + " " + told.line()});
+        const LoggedMessage& shown = paths == Paths::shown ? logged : hidden;
+        lines.push_back({"log", localTime(shown.time) + " " + shown.line()});
     }
     return lines;
 }

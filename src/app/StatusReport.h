@@ -54,7 +54,7 @@ std::string reportText(const std::vector<ReportLine>& lines);
 
 /// Returns the path of a folder, or only where it is relative to the home directory if paths are
 /// hidden.
-std::string placeOf(const Url& folder, const FileManager& files, Paths paths);
+std::string folderDescription(const Url& folder, const FileManager& files, Paths paths);
 
 /// Returns the messages with their times, or a line that says that there are none. If paths are
 /// hidden, the reasons that were logged separately are still included.

@@ -154,12 +154,12 @@ int main(int argc, char** argv) {
     switch (line.kind) {
         case CommandLine::Kind::start:
             return run(argc, argv, line, translations);
-        case CommandLine::Kind::ask:
+        case CommandLine::Kind::sendRequest:
             return ask(argc, argv, *line.request);
         case CommandLine::Kind::print:
             std::cout << line.text << std::endl;
             return EXIT_SUCCESS;
-        case CommandLine::Kind::wrong:
+        case CommandLine::Kind::invalid:
             std::cerr << line.text << std::endl;
             return wrongCommandLine;
     }

@@ -51,7 +51,7 @@ TEST(CommandLineTest, TheDesktopStartsItForARequest) {
     EXPECT_FALSE(line.request);
     EXPECT_TRUE(line.launchedByDesktop);
     EXPECT_FALSE(parse({}).launchedByDesktop);
-    EXPECT_EQ(parse({"--dbus-activated", "file.png"}).kind, Kind::wrong);
+    EXPECT_EQ(parse({"--dbus-activated", "file.png"}).kind, Kind::invalid);
     EXPECT_THAT(helpText(), Not(HasSubstr("--dbus-activated")));
 }
 
@@ -64,7 +64,7 @@ TEST(CommandLineTest, SomeActionsStartTheProgramAndOthersNeedARunningOne) {
     for (const auto* name :
          {"pause", "resume", "dismiss", "focus-panel", "open-folder", "quit", "status"}) {
         const auto line = parse({std::string("--") + name});
-        EXPECT_EQ(line.kind, Kind::ask) << name;
+        EXPECT_EQ(line.kind, Kind::sendRequest) << name;
         EXPECT_EQ(line.request, (ApplicationRequest{name, {}}));
     }
 }
@@ -77,7 +77,7 @@ TEST(CommandLineTest, PathsAreRelativeToTheFolderOfTheCaller) {
 }
 
 TEST(CommandLineTest, TheStatusTakesItsDetailsInAnyOrder) {
-    EXPECT_EQ(parse({"--status"}).kind, Kind::ask);
+    EXPECT_EQ(parse({"--status"}).kind, Kind::sendRequest);
     EXPECT_THAT(parse({"--status"}).request->arguments, IsEmpty());
     EXPECT_THAT(parse({"--status", "--with-paths", "--verbose"}).request->arguments,
                 ElementsAre("with-paths", "verbose"));
@@ -109,7 +109,7 @@ TEST(CommandLineTest, NamesInvalidArguments) {
     };
     for (const auto& [arguments, reason] : wrongs) {
         const auto line = parse(arguments);
-        EXPECT_EQ(line.kind, Kind::wrong) << reason;
+        EXPECT_EQ(line.kind, Kind::invalid) << reason;
         EXPECT_THAT(line.text, HasSubstr(reason));
     }
 }

@@ -24,12 +24,12 @@ TEST(StatusReport, DescribesAFoldersPlaceWithoutItsName) {
     fakes::ManualQueue queue(time);
     const fakes::FakeFileSystem files(queue);
     const auto place = [&](const char* path) {
-        return placeOf(Url::file(path), files, Paths::hidden);
+        return folderDescription(Url::file(path), files, Paths::hidden);
     };
     EXPECT_EQ(place("/home/user/Clients/Acme"), "in the home directory");
     EXPECT_EQ(place("/home/user"), "the home directory");
     EXPECT_EQ(place("/home/username/Desktop"), "outside the home directory");
-    EXPECT_EQ(placeOf(Url::file("/mnt/shots"), files, Paths::shown), "/mnt/shots");
+    EXPECT_EQ(folderDescription(Url::file("/mnt/shots"), files, Paths::shown), "/mnt/shots");
 }
 
 TEST(StatusReport, ListsTheLogMessagesWithTheirTimes) {
