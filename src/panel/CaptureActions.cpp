@@ -43,18 +43,18 @@ std::shared_ptr<CaptureActions> CaptureActions::create(const Services& services)
 }
 
 void CaptureActions::open(const CapturePointer& capture) {
-    if (!isThere(capture)) return;
+    if (!checkFileExists(capture)) return;
     services_.opener.open(capture->url());
     afterUse({capture});
 }
 
 void CaptureActions::reveal(const CapturePointer& capture) {
-    if (!isThere(capture)) return;
+    if (!checkFileExists(capture)) return;
     services_.opener.reveal({capture->url()});
     afterUse({capture});
 }
 
-bool CaptureActions::isThere(const CapturePointer& capture) {
+bool CaptureActions::checkFileExists(const CapturePointer& capture) {
     if (services_.files.existence(capture->url()) != FileManager::Existence::none) return true;
     services_.state.missingID.set(capture->id());
     services_.scheduler.after(missingNotice,

@@ -75,7 +75,7 @@ public:
 private:
     explicit CaptureActions(const Services& services) : services_(services) {}
 
-    bool isThere(const CapturePointer& capture);
+    bool checkFileExists(const CapturePointer& capture);
     void copyToPasteboard(const std::vector<CapturePointer>& captures);
     void trashAll(const std::vector<CapturePointer>& captures);
     /// Removes used captures from the card after `delay`, if the settings say so.

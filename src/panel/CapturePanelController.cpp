@@ -121,7 +121,7 @@ void CapturePanelController::add(const CapturePointer& capture) {
     const auto equal = [&](const auto& shown) { return *shown == *capture; };
     const auto old = std::ranges::find_if(captures, equal);
     if (old != captures.end()) {
-        replaceMarks((*old)->id(), capture->id());
+        transferMarks((*old)->id(), capture->id());
         captures.erase(old);
     }
     captures.push_back(capture);
@@ -131,7 +131,7 @@ void CapturePanelController::add(const CapturePointer& capture) {
     state_.captures.set(std::move(captures));
 }
 
-void CapturePanelController::replaceMarks(const UUID& old, const UUID& current) {
+void CapturePanelController::transferMarks(const UUID& old, const UUID& current) {
     for (auto* marked : {&state_.selected, &state_.pinned}) {
         auto ids = marked->value();
         if (old == current || ids.erase(old) == 0) continue;
@@ -215,7 +215,7 @@ void CapturePanelController::marqueeChanged(const std::optional<Rect>& rect) {
     state_.marquee.set(rect);
     if (begins) countdown_->marqueeBegan();
     if (rect)
-        selection_.selectTouched(*rect, panel_->visibleThumbnails());
+        selection_.selectIntersecting(*rect, panel_->visibleThumbnails());
     else
         countdown_->marqueeEnded();
 }

@@ -89,7 +89,7 @@ private:
     void moveToCorner();
     void add(const CapturePointer& capture);
     /// Gives `current` the selection and pin of `old`, the equal capture that it replaces.
-    void replaceMarks(const UUID& old, const UUID& current);
+    void transferMarks(const UUID& old, const UUID& current);
     void present();
     void scheduleDebugHooks();
     void writeSnapshot(const std::string& path);

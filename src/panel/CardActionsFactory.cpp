@@ -14,7 +14,7 @@ CardActions makeCardActions(const std::shared_ptr<CapturePanelController>& contr
     };
     const std::weak_ptr<CapturePanelController> held = controller;
     // A file can be opened and revealed even after the controller has gone.
-    const auto look = [&held, &captures](auto operation, auto otherwise) {
+    const auto withFallback = [&held, &captures](auto operation, auto otherwise) {
         return [held, &captures, operation, otherwise](const CapturePointer& capture) {
             if (const auto owner = held.lock())
                 (captures.*operation)(capture);
@@ -26,9 +26,10 @@ CardActions makeCardActions(const std::shared_ptr<CapturePanelController>& contr
     CardActions actions;
     actions.close = weak(*controller, &CapturePanelController::remove);
     actions.closeAll = weak(*controller, &CapturePanelController::dismiss);
-    actions.open = look(&CaptureActions::open, [&opener](const Url& file) { opener.open(file); });
-    actions.reveal =
-        look(&CaptureActions::reveal, [&opener](const Url& file) { opener.reveal({file}); });
+    actions.open =
+        withFallback(&CaptureActions::open, [&opener](const Url& file) { opener.open(file); });
+    actions.reveal = withFallback(&CaptureActions::reveal,
+                                  [&opener](const Url& file) { opener.reveal({file}); });
     actions.copy = weak(captures, &CaptureActions::copy);
     actions.share = weak(*controller, &CapturePanelController::share);
     actions.trash = weak(captures, &CaptureActions::trash);

@@ -58,9 +58,9 @@ void Countdown::pause() {
 }
 
 void Countdown::resume() {
-    const bool counts =
+    const bool canRun =
         services_.settings.dismissAfter.value() > 0 && services_.state.visible.value();
-    if (!pausedRemaining_ || !counts) return;
+    if (!pausedRemaining_ || !canRun) return;
     const Seconds remaining = std::max(*pausedRemaining_, minimumOnResume);
     pausedRemaining_.reset();
     startTimers(remaining);

@@ -16,10 +16,11 @@ std::shared_ptr<DebugSnapshots> DebugSnapshots::create(Scheduler& scheduler) {
 
 void DebugSnapshots::schedule(const std::string& path) {
     ++pending_;
-    scheduler_.after(delay, weakly(shared_from_this(), [path](auto& self) { self.isDue(path); }));
+    scheduler_.after(delay,
+                     weakly(shared_from_this(), [path](auto& self) { self.timerFired(path); }));
 }
 
-void DebugSnapshots::isDue(const std::string& path) {
+void DebugSnapshots::timerFired(const std::string& path) {
     const bool isLast = --pending_ == 0;
     // Each picture draws a whole card. If many captures come at once, only the last picture is of
     // interest, and drawing them all would block the program.

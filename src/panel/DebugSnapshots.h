@@ -24,7 +24,7 @@ public:
 
 private:
     explicit DebugSnapshots(Scheduler& scheduler) : scheduler_(scheduler) {}
-    void isDue(const std::string& path);
+    void timerFired(const std::string& path);
 
     Scheduler& scheduler_;
     int pending_ = 0;

@@ -28,13 +28,13 @@ public:
 
     /// Must be called when things begin to move, to come or to go by themselves. `pointer` is the
     /// pointer's place, if that is known even outside the window.
-    void contentChanges(Instant now, const std::optional<Point>& pointer = std::nullopt);
+    void contentChanged(Instant now, const std::optional<Point>& pointer = std::nullopt);
 
-    void pointerEnters(const Point& point, const Target& target, Instant now);
-    void pointerMoves(const Point& point, const Target& target);
+    void pointerEntered(const Point& point, const Target& target, Instant now);
+    void pointerMoved(const Point& point, const Target& target);
 
     /// Reports what is now under a pointer at rest.
-    void targetBecomes(const Target& target, Instant now);
+    void targetChanged(const Target& target, Instant now);
 
     /// Returns true if a press that is made now is meant for what it hits.
     bool allowsPress(const Point& point, const Target& target, Instant now);
@@ -49,14 +49,14 @@ private:
     bool isNear(const Point& a, const Point& b) const;
     /// Returns true while things may still be moving after the latest change.
     bool isSettling(Instant now) const;
-    bool isSecondClickElsewhere(const Press& press) const;
+    bool isSecondClickOnOtherTarget(const Press& press) const;
 
     Limits limits_;
     std::optional<Instant> contentChangedAt_;
-    std::optional<Point> pointerThen_;
-    std::optional<Point> rest_;           ///< The place where the pointer came to rest.
-    Target target_;                       ///< The target under the pointer.
-    std::optional<Instant> slidUnderAt_;  ///< When the target moved under the pointer by itself.
+    std::optional<Point> pointerAtChange_;
+    std::optional<Point> restPoint_;        ///< The place where the pointer came to rest.
+    Target target_;                         ///< The target under the pointer.
+    std::optional<Instant> targetMovedAt_;  ///< When the target moved under the pointer by itself.
     std::optional<Press> previous_;
 };
 

@@ -27,14 +27,17 @@ void Selection::clear() {
     if (!state_.selected.value().empty()) state_.selected.set({});
 }
 
-void Selection::selectTouched(const Rect& rect, const std::vector<VisibleThumbnail>& thumbnails) {
+void Selection::selectIntersecting(const Rect& rect,
+                                   const std::vector<VisibleThumbnail>& thumbnails) {
     const auto& captures = state_.captures.value();
     std::set<UUID> hits;
     for (const auto& [id, frame] : thumbnails) {
         const bool isSeen = frame.size.width > 0 && frame.size.height > 0;
-        const auto isThat = [&wanted = id](const auto& capture) { return capture->id() == wanted; };
+        const auto hasSameId = [&wanted = id](const auto& capture) {
+            return capture->id() == wanted;
+        };
         // A tile that is leaving no longer has a capture on the card.
-        if (isSeen && intersects(frame, rect) && std::ranges::any_of(captures, isThat))
+        if (isSeen && intersects(frame, rect) && std::ranges::any_of(captures, hasSameId))
             hits.insert(id);
     }
     if (hits != state_.selected.value()) state_.selected.set(std::move(hits));

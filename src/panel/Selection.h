@@ -21,7 +21,7 @@ public:
     void clear();
 
     /// Selects the captures of the card whose visible thumbnails intersect `rect`, and no others.
-    void selectTouched(const Rect& rect, const std::vector<VisibleThumbnail>& thumbnails);
+    void selectIntersecting(const Rect& rect, const std::vector<VisibleThumbnail>& thumbnails);
 
 private:
     PanelState& state_;

@@ -11,8 +11,8 @@ protected:
     static constexpr Point place{100, 100};
 
     PressGuardTest() {
-        guard.pointerEnters({90, 100}, "first", now);
-        guard.pointerMoves(place, "first");
+        guard.pointerEntered({90, 100}, "first", now);
+        guard.pointerMoved(place, "first");
     }
 
     void wait(double seconds) { now += Seconds(seconds); }
@@ -21,9 +21,9 @@ protected:
     }
     /// The first target leaves, and its neighbour slides under the pointer a little later.
     void slideSecondUnder(double after = 0.1) {
-        guard.contentChanges(now);
+        guard.contentChanged(now);
         wait(after);
-        guard.targetBecomes("second", now);
+        guard.targetChanged("second", now);
     }
 
     Instant now{Seconds(1000)};
@@ -47,9 +47,9 @@ TEST_F(PressGuardTest, TheSecondOfTwoQuickClicksDoesNotReachTheNeighbour) {
     for (const double gap : {0.2, 0.3, 0.4, 0.5}) {
         SCOPED_TRACE(gap);
         wait(10);
-        guard.targetBecomes("first", now);
-        guard.pointerMoves({0, 0}, "");
-        guard.pointerMoves(place, "first");
+        guard.targetChanged("first", now);
+        guard.pointerMoved({0, 0}, "");
+        guard.pointerMoved(place, "first");
         EXPECT_TRUE(press("first"));
         slideSecondUnder(0.15);
         wait(gap - 0.15);
@@ -59,55 +59,55 @@ TEST_F(PressGuardTest, TheSecondOfTwoQuickClicksDoesNotReachTheNeighbour) {
 
 TEST_F(PressGuardTest, APressCountsAfterThePointerHasMoved) {
     slideSecondUnder();
-    guard.pointerMoves({106, 100}, "second");
+    guard.pointerMoved({106, 100}, "second");
     EXPECT_TRUE(press("second", {106, 100}));
 }
 
 TEST_F(PressGuardTest, AShakingHandDoesNotMoveThePointer) {
     slideSecondUnder();
-    guard.pointerMoves({104, 102}, "second");
-    guard.pointerMoves({98, 101}, "second");
+    guard.pointerMoved({104, 102}, "second");
+    guard.pointerMoved({98, 101}, "second");
     EXPECT_FALSE(press("second", {98, 101}));
 }
 
 TEST_F(PressGuardTest, AShakingHandMayCrossAnEdge) {
-    guard.contentChanges(now);
-    guard.pointerMoves({103, 100}, "second");
+    guard.contentChanged(now);
+    guard.pointerMoved({103, 100}, "second");
     EXPECT_TRUE(press("second", {103, 100})) << "it was the pointer that went there";
 }
 
 TEST_F(PressGuardTest, ATargetThatStaysUnderThePointerTakesPressesWhileOthersMove) {
-    guard.contentChanges(now);
-    guard.targetBecomes("first", now);
+    guard.contentChanged(now);
+    guard.targetChanged("first", now);
     EXPECT_TRUE(press("first"));
 }
 
 TEST_F(PressGuardTest, ATargetThatAppearsBecauseOfThePointerTakesPresses) {
     wait(5);
-    guard.targetBecomes("button", now);
+    guard.targetChanged("button", now);
     EXPECT_TRUE(press("button"));
 }
 
 TEST_F(PressGuardTest, ACardThatAppearsUnderThePointerTakesNoPressAtOnce) {
-    guard.contentChanges(now);
+    guard.contentChanged(now);
     wait(0.3);
-    guard.pointerEnters({300, 300}, "first", now);
+    guard.pointerEntered({300, 300}, "first", now);
     EXPECT_FALSE(press("first", {300, 300}));
     wait(0.5);
     EXPECT_TRUE(press("first", {300, 300}));
 }
 
 TEST_F(PressGuardTest, APointerThatArrivesFromElsewhereAtThatMomentCounts) {
-    guard.contentChanges(now, Point{10, 10});
+    guard.contentChanged(now, Point{10, 10});
     wait(0.3);
-    guard.pointerEnters({300, 300}, "first", now);
+    guard.pointerEntered({300, 300}, "first", now);
     EXPECT_TRUE(press("first", {300, 300}));
 }
 
 TEST_F(PressGuardTest, ACardThatAppearsUnderAKnownPointerTakesNoPressAtOnce) {
-    guard.contentChanges(now, Point{300, 301});
+    guard.contentChanged(now, Point{300, 301});
     wait(0.3);
-    guard.pointerEnters({300, 300}, "first", now);
+    guard.pointerEntered({300, 300}, "first", now);
     EXPECT_FALSE(press("first", {300, 300}));
 }
 
@@ -115,27 +115,27 @@ TEST_F(PressGuardTest, APressElsewhereMeansThatThePointerHasMoved) {
     slideSecondUnder();
     EXPECT_TRUE(press("second", {300, 100}));
     // From now on the pointer rests there.
-    guard.contentChanges(now);
+    guard.contentChanged(now);
     wait(0.1);
-    guard.targetBecomes("third", now);
+    guard.targetChanged("third", now);
     EXPECT_FALSE(press("third", {301, 100}));
 }
 
 TEST_F(PressGuardTest, ACardTakesPressesASecondAfterItAppeared) {
-    guard.contentChanges(now);
+    guard.contentChanged(now);
     wait(0.99);
-    guard.pointerEnters({300, 300}, "first", now);
+    guard.pointerEntered({300, 300}, "first", now);
     EXPECT_FALSE(press("first", {300, 300}));
-    guard.contentChanges(now);
+    guard.contentChanged(now);
     wait(1);
-    guard.pointerEnters({200, 300}, "second", now);
+    guard.pointerEntered({200, 300}, "second", now);
     EXPECT_TRUE(press("second", {200, 300}));
 }
 
 TEST_F(PressGuardTest, ACardAtRestTakesThePressOfAnArrivingPointer) {
-    guard.contentChanges(now);
+    guard.contentChanged(now);
     wait(2);
-    guard.pointerEnters({300, 300}, "first", now);
+    guard.pointerEntered({300, 300}, "first", now);
     EXPECT_TRUE(press("first", {300, 300}));
 }
 
@@ -159,12 +159,12 @@ TEST_F(PressGuardTest, TwoClicksInDifferentPlacesAreNoDoubleClick) {
 }
 
 TEST_F(PressGuardTest, AChangeThatIsNotDrawnYetCountsAsWell) {
-    guard.contentChanges(now);
+    guard.contentChanged(now);
     EXPECT_FALSE(press("second"));
 }
 
 TEST_F(PressGuardTest, APressWithoutAPointerMovementCounts) {
-    guard.contentChanges(now);
+    guard.contentChanged(now);
     EXPECT_TRUE(press("second", {300, 20})) << "a finger";
 }
 

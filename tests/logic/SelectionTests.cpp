@@ -23,7 +23,7 @@ protected:
         state.captures.set(shown);
     }
 
-    void drag(const Rect& rect) { selection.selectTouched(rect, thumbnails); }
+    void drag(const Rect& rect) { selection.selectIntersecting(rect, thumbnails); }
     const std::set<UUID>& selected() const { return state.selected.value(); }
 
     std::vector<CapturePointer> shown;

@@ -38,10 +38,10 @@ PressFilter::PressFilter(QQuickWindow& window, const PassthroughContainerView& c
     : window_(window), container_(container), panel_(panel), guard_(limitsOfDesktop()) {
     window.installEventFilter(this);
     connect(&window, &QQuickWindow::afterAnimating, this, [this] { followFrame(); });
-    const auto contentChanges = [this] { guard_.contentChanges(panel_.now(), pointer()); };
-    connect(&panel, &PanelModel::countChanged, this, contentChanges);
-    connect(&panel, &PanelModel::selectedCountChanged, this, contentChanges);
-    connect(&panel, &PanelModel::isPresentedChanged, this, contentChanges);
+    const auto contentChanged = [this] { guard_.contentChanged(panel_.now(), pointer()); };
+    connect(&panel, &PanelModel::countChanged, this, contentChanged);
+    connect(&panel, &PanelModel::selectedCountChanged, this, contentChanged);
+    connect(&panel, &PanelModel::isPresentedChanged, this, contentChanged);
 }
 
 bool PressFilter::eventFilter(QObject*, QEvent* event) {
@@ -74,13 +74,13 @@ bool PressFilter::eventFilter(QObject*, QEvent* event) {
 void PressFilter::followPointer(const QPointerEvent& event, bool enters) {
     pointer_ = event.points().front().scenePosition();
     if (enters)
-        guard_.pointerEnters(onScreen(event), targetAt(*pointer_), panel_.now());
+        guard_.pointerEntered(onScreen(event), targetAt(*pointer_), panel_.now());
     else
-        guard_.pointerMoves(onScreen(event), targetAt(*pointer_));
+        guard_.pointerMoved(onScreen(event), targetAt(*pointer_));
 }
 
 void PressFilter::followFrame() {
-    if (pointer_) guard_.targetBecomes(targetAt(*pointer_), panel_.now());
+    if (pointer_) guard_.targetChanged(targetAt(*pointer_), panel_.now());
 }
 
 bool PressFilter::isMeant(const QPointerEvent& event) {
