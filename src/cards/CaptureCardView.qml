@@ -90,7 +90,7 @@ FocusScope {
             anchors.fill: glass
             anchors.margins: -margin
             blur: 18
-            drop: 8
+            verticalOffset: 8
             strength: 0.28
             cornerRadius: glass.cornerRadius
         }
@@ -142,7 +142,7 @@ FocusScope {
         ClearAllPill {
             x: card.width - width + 6
             y: -8
-            isOffered: view.panel.hovering && view.panel.count >= 2 && view.panel.selectedCount === 0
+            isShown: view.panel.hovering && view.panel.count >= 2 && view.panel.selectedCount === 0
             onTapped: {
                 view.panel.log("tap Clear all");
                 view.panel.closeAll();

@@ -26,19 +26,19 @@ FocusScope {
     required property bool isLeaving
 
     // True if the tile is new in the row and must grow into it.
-    required property bool arrives
+    required property bool animatesIn
     required property real nameGap
     // The visible part of the row, from the row's first tile.
-    required property real seenFrom
-    required property real seenTo
+    required property real visibleLeft
+    required property real visibleRight
 
     // Controls are made when first needed; otherwise forty captures would have 240 buttons.
     property bool hasControls
     readonly property bool compact: panel.count >= 2
     readonly property real nameHeight: Math.ceil(name.implicitHeight)
-    readonly property bool hovering: bar.isHovered || closeHover.hovered || (hover.hovered && !isCovered)
+    readonly property bool hovering: bar.isHovered || closeHover.hovered || (hover.hovered && !isUnderOtherActions)
     // True while the pointer is on another tile's actions, which extend over this one.
-    property bool isCovered: false
+    property bool isUnderOtherActions: false
     readonly property bool isActionsHovered: bar.isHovered
     readonly property bool isAttended: (hovering || activeFocus) && !isLeaving
 
@@ -68,13 +68,13 @@ FocusScope {
         id: size
 
         panel: tile.panel
-        from: tile.arrives ? 0.7 : 1
+        from: tile.animatesIn ? 0.7 : 1
         target: tile.isLeaving ? 0.8 : 1
     }
     Spring {
         id: presence
 
-        from: tile.arrives ? 0 : 1
+        from: tile.animatesIn ? 0 : 1
         target: tile.isLeaving ? 0 : 1
         response: tile.panel.listResponse
         dampingFraction: 1
@@ -92,7 +92,7 @@ FocusScope {
         anchors.fill: thumbnail
         anchors.margins: -margin
         blur: 6
-        drop: 2
+        verticalOffset: 2
         strength: 0.25
         cornerRadius: CardLayout.thumbnailCornerRadius
     }
@@ -171,7 +171,7 @@ FocusScope {
         readonly property real natural: (tile.width - width) / 2
 
         // If a tile is narrower than its actions, they stay in the visible part of the row.
-        x: Math.max(tile.seenFrom - tile.x, Math.min(natural, tile.seenTo - tile.x - width))
+        x: Math.max(tile.visibleLeft - tile.x, Math.min(natural, tile.visibleRight - tile.x - width))
         y: heightSpring.value - height - 6
         active: tile.hasControls
         sourceComponent: HoverBar {
@@ -179,7 +179,7 @@ FocusScope {
             captureId: tile.captureId
             isPinned: tile.isPinned
             isCopied: tile.isCopied
-            isOffered: tile.compact && tile.isAttended && tile.panel.selectedCount === 0
+            isShown: tile.compact && tile.isAttended && tile.panel.selectedCount === 0
         }
     }
 
@@ -200,7 +200,7 @@ FocusScope {
             anchors.fill: parent
             active: tile.hasControls
             sourceComponent: CloseButton {
-                isOffered: tile.isAttended && !tile.isSelected
+                isShown: tile.isAttended && !tile.isSelected
                 onTapped: tile.panel.close(tile.captureId)
             }
         }

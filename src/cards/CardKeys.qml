@@ -15,7 +15,7 @@ QtObject {
             panel.trash(tile.captureId);
     }
 
-    function goBack() {
+    function clearSelectionOrCloseAll() {
         if (panel.selectedCount > 0)
             panel.clearSelection();
         else
@@ -56,7 +56,7 @@ QtObject {
     function handle(event) {
         const tile = row.focusedTile();
         if (event.key === Qt.Key_Escape) {
-            goBack();
+            clearSelectionOrCloseAll();
             event.accepted = true;
         } else if (tile) {
             handleOnTile(event, tile);

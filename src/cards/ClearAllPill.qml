@@ -41,7 +41,7 @@ Appearing {
         }
     }
 
-    Press {
+    PressArea {
         id: press
 
         name: text.text

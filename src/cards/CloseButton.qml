@@ -28,7 +28,7 @@ Appearing {
         help: press.name
     }
 
-    Press {
+    PressArea {
         id: press
 
         name: qsTr("Dismiss")

@@ -9,7 +9,7 @@ Appearing {
     property bool isPinned: false
     readonly property string symbol: glyph.name
 
-    isOffered: isSelected || isPinned
+    isShown: isSelected || isPinned
     isEased: !glyph.isPin
     width: glyph.width + 2 * 6
     height: glyph.height + 2 * 6
@@ -32,7 +32,7 @@ Appearing {
         fontSize: 16
 
         Binding on isPin {
-            when: mark.isOffered
+            when: mark.isShown
             value: !mark.isSelected
             restoreMode: Binding.RestoreNone
         }

@@ -9,14 +9,14 @@ Item {
     required property string captureId
     required property bool isPinned
     required property bool isCopied
-    property bool isOffered: false
+    property bool isShown: false
     readonly property bool hovering: hover.hovered
 
     width: actions.width + 2 * 6
     height: actions.height + 2 * 3
     opacity: presence.value
     visible: opacity > 0
-    enabled: isOffered
+    enabled: isShown
 
     transform: Translate {
         y: Appearance.reducesMotion ? 0 : (1 - presence.value) * 16
@@ -25,7 +25,7 @@ Item {
     Spring {
         id: presence
 
-        target: bar.isOffered ? 1 : 0
+        target: bar.isShown ? 1 : 0
         from: 0
         response: 0.25
         dampingFraction: 1

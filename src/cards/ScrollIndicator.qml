@@ -7,16 +7,16 @@ Item {
 
     // How far the row is scrolled, how far it can be scrolled, and the width of its visible part.
     required property real scrolled
-    required property real farthest
-    required property real seen
-    property bool isOffered: false
-    readonly property real part: seen / (seen + farthest)
+    required property real maximumScroll
+    required property real visibleWidth
+    property bool isShown: false
+    readonly property real visibleFraction: visibleWidth / (visibleWidth + maximumScroll)
     readonly property real travel: width - knob.width
 
     signal scrollTo(position: real)
 
     height: 6
-    opacity: isOffered || mouse.pressed ? 1 : 0
+    opacity: isShown || mouse.pressed ? 1 : 0
     visible: opacity > 0
 
     Behavior on opacity { NumberAnimation { duration: 200 } }
@@ -24,9 +24,9 @@ Item {
     Rectangle {
         id: knob
 
-        x: indicator.farthest > 0 ? indicator.travel * indicator.scrolled / indicator.farthest : 0
+        x: indicator.maximumScroll > 0 ? indicator.travel * indicator.scrolled / indicator.maximumScroll : 0
         y: 1
-        width: Math.max(24, indicator.width * indicator.part)
+        width: Math.max(24, indicator.width * indicator.visibleFraction)
         height: 4
         radius: 2
         color: Appearance.isDark ? "white" : "black"
@@ -50,7 +50,7 @@ Item {
         onPositionChanged: event => move(event.x)
 
         function move(x) {
-            indicator.scrollTo((x - grip) / indicator.travel * indicator.farthest);
+            indicator.scrollTo((x - grip) / indicator.travel * indicator.maximumScroll);
         }
     }
 }

@@ -26,7 +26,7 @@ Item {
         anchors.fill: parent
         anchors.margins: -margin
         blur: 6
-        drop: 2
+        verticalOffset: 2
         strength: 0.25
         cornerRadius: bar.height / 2
     }

@@ -70,7 +70,7 @@ Item {
         help: icon.help
     }
 
-    Press {
+    PressArea {
         id: press
 
         name: icon.name

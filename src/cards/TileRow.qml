@@ -17,12 +17,12 @@ FocusScope {
     // The size of the row when nothing moves.
     readonly property real naturalWidth: Math.min(CardLayout.maxContentWidth, panel.contentWidth) + 2 * CardLayout.innerMargin
     readonly property real naturalHeight: CardLayout.innerMargin + panel.thumbnailHeight + nameHeight + overflowMargin
-    readonly property real farthest: Math.max(0, panel.contentWidth + 2 * CardLayout.innerMargin - naturalWidth)
+    readonly property real maximumScroll: Math.max(0, panel.contentWidth + 2 * CardLayout.innerMargin - naturalWidth)
     // Tiles that exist from the beginning do not grow into the row.
     property bool isComplete: false
     property bool isHovered: false
     // The tile whose actions are under the pointer.
-    property CaptureTile covering: null
+    property CaptureTile tileWithHoveredActions: null
     // The position of the tile that has the keyboard, or had it last.
     property int focused: 0
 
@@ -38,7 +38,7 @@ FocusScope {
     }
 
     function scrollTo(position) {
-        scrolled.target = Math.min(Math.max(position, 0), farthest);
+        scrolled.target = Math.min(Math.max(position, 0), maximumScroll);
     }
 
     // Scrolls only as far as needed to show the tile.
@@ -89,9 +89,9 @@ FocusScope {
             row.measureNames();
             // The newest capture must be visible, whatever the user looked at before.
             if (row.panel.isPresented)
-                scrolled.target = row.farthest;
+                scrolled.target = row.maximumScroll;
             else
-                scrolled.jumpTo(row.farthest);
+                scrolled.jumpTo(row.maximumScroll);
             // If the tile with the keyboard goes, its neighbour gets the keyboard.
             if (row.activeFocus && !row.focusedTile()) row.focusTile(row.focused);
         }
@@ -100,7 +100,7 @@ FocusScope {
     Spring {
         id: scrolled
 
-        Component.onCompleted: jumpTo(row.farthest)
+        Component.onCompleted: jumpTo(row.maximumScroll)
         response: 0.5
         dampingFraction: 0.85
         enabled: !Appearance.reducesMotion
@@ -120,18 +120,18 @@ FocusScope {
 
                 panel: row.panel
                 // The first tiles come with the card.
-                arrives: row.isComplete && row.panel.isPresented
+                animatesIn: row.isComplete && row.panel.isPresented
                 nameGap: row.nameGap
-                seenFrom: scrolled.value - CardLayout.innerMargin + 4
-                seenTo: seenFrom + row.naturalWidth - 8
+                visibleLeft: scrolled.value - CardLayout.innerMargin + 4
+                visibleRight: visibleLeft + row.naturalWidth - 8
                 onNameHeightChanged: row.measureNames()
                 onActiveFocusChanged: if (activeFocus) row.focused = position
-                isCovered: row.covering !== null && row.covering !== tile
+                isUnderOtherActions: row.tileWithHoveredActions !== null && row.tileWithHoveredActions !== tile
                 onIsActionsHoveredChanged: {
                     if (isActionsHovered)
-                        row.covering = tile;
-                    else if (row.covering === tile)
-                        row.covering = null;
+                        row.tileWithHoveredActions = tile;
+                    else if (row.tileWithHoveredActions === tile)
+                        row.tileWithHoveredActions = null;
                 }
             }
         }
@@ -141,10 +141,10 @@ FocusScope {
         x: CardLayout.innerMargin
         y: parent.height - height
         width: parent.width - 2 * CardLayout.innerMargin
-        isOffered: row.panel.overflows && row.isHovered
+        isShown: row.panel.overflows && row.isHovered
         scrolled: scrolled.value
-        farthest: row.farthest
-        seen: row.naturalWidth
+        maximumScroll: row.maximumScroll
+        visibleWidth: row.naturalWidth
         onScrollTo: position => row.scrollTo(position)
     }
 

@@ -24,7 +24,7 @@ Item {
         anchors.fill: plate
         anchors.margins: -margin
         blur: 14
-        drop: 4
+        verticalOffset: 4
         strength: 0.3
         cornerRadius: plate.cornerRadius
     }

@@ -87,7 +87,7 @@ QQuickItem* CardStage::item(const char* type, QQuickItem* below) const {
 }
 
 QQuickItem* CardStage::button(const char* name, QQuickItem* below) const {
-    for (QQuickItem* press : items("Press", below))
+    for (QQuickItem* press : items("PressArea", below))
         if (press->property("name").toString() == QString::fromUtf8(name)) return press;
     throw std::runtime_error(std::string("there is no button ") + name);
 }

@@ -128,17 +128,17 @@ TEST_F(CardTest, ThePillIsOfferedOverSeveralUnselectedCapturesOnly) {
     const auto b = capture("b");
     show({a});
     makeCard();
-    const auto isOffered = [this] { return flag(item("ClearAllPill"), "isOffered"); };
+    const auto isShown = [this] { return flag(item("ClearAllPill"), "isShown"); };
     state.hovering.set(true);
-    EXPECT_FALSE(isOffered());
+    EXPECT_FALSE(isShown());
     state.captures.set({a, b});
-    EXPECT_TRUE(isOffered());
+    EXPECT_TRUE(isShown());
     state.selected.set({a->id()});
-    EXPECT_FALSE(isOffered());
+    EXPECT_FALSE(isShown());
     state.selected.set({});
-    EXPECT_TRUE(isOffered());
+    EXPECT_TRUE(isShown());
     state.hovering.set(false);
-    EXPECT_FALSE(isOffered());
+    EXPECT_FALSE(isShown());
 }
 
 TEST_F(CardTest, ThePillOverhangsTheCardsCorner) {

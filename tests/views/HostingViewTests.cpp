@@ -77,7 +77,7 @@ TEST_F(HostingViewTest, HitsAreLoggedWhileDebugging) {
     Debug::set(false);
     EXPECT_THAT(
         log.lines(),
-        Contains(testing::MatchesRegex("Vantle\\[hit\\]: \\{[0-9.]+, [0-9.]+\\} -> Press")));
+        Contains(testing::MatchesRegex("Vantle\\[hit\\]: \\{[0-9.]+, [0-9.]+\\} -> PressArea")));
     EXPECT_THAT(log.lines(),
                 Contains("Vantle[hit]: pass-through at {5, 6} (card {{348, 146}, {438, 170}})"));
     EXPECT_THAT(log.lines(),

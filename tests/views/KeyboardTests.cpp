@@ -56,7 +56,7 @@ TEST_F(KeyboardTest, ArrowsMoveBetweenTilesAndStopAtTheEnds) {
 TEST_F(KeyboardTest, ACardWithTheFocusCountsAsHovered) {
     showThree();
     EXPECT_TRUE(state.hovering.value());
-    EXPECT_TRUE(flag(item("ClearAllPill"), "isOffered"));
+    EXPECT_TRUE(flag(item("ClearAllPill"), "isShown"));
 }
 
 TEST_F(KeyboardTest, ReturnOpensSpaceSelectsDeleteTrashes) {

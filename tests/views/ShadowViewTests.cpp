@@ -16,8 +16,8 @@ namespace {
 constexpr double radius = 12;
 constexpr int blur = 6;
 constexpr double strength = 0.5;
-constexpr int drop = 3;
-constexpr int margin = blur + drop;
+constexpr int verticalOffset = 3;
+constexpr int margin = blur + verticalOffset;
 
 class ShadowViewTest : public testing::Test {
 protected:
@@ -28,7 +28,7 @@ protected:
         shadow.setProperty("cornerRadius", radius);
         shadow.setProperty("blur", blur);
         shadow.setProperty("strength", strength);
-        shadow.setProperty("drop", drop);
+        shadow.setProperty("verticalOffset", verticalOffset);
     }
 
     QImage drawn(QSize size) {
@@ -59,9 +59,9 @@ protected:
         int greatest = 0;
         for (int y = 0; y < size.height(); ++y)
             for (int x = 0; x < size.width(); ++x) {
-                // The shadow is `drop` lower than the plate, and its picture begins `blur` above
-                // and beside it.
-                const QPoint at(x - drop, y - 2 * drop);
+                // The shadow is `verticalOffset` lower than the plate, and its picture begins
+                // `blur` above and beside it.
+                const QPoint at(x - verticalOffset, y - 2 * verticalOffset);
                 const double shade =
                     whole.rect().contains(at) ? whole.constScanLine(at.y())[at.x()] : 0;
                 const double uncovered = 1 - plateItself.constScanLine(y)[x] / 255.0;

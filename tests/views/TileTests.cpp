@@ -158,7 +158,7 @@ TEST_F(TileTest, ThumbnailsKeepTheirShadowAndTheirName) {
     const auto* shadow = item("ShadowView", tile(0));
     EXPECT_EQ(frameIn(*shadow, *tile(0)), QRectF(-8, -8, 202 + 16, 126 + 16));
     EXPECT_EQ(shadow->property("blur").toDouble(), 6);
-    EXPECT_EQ(shadow->property("drop").toDouble(), 2);
+    EXPECT_EQ(shadow->property("verticalOffset").toDouble(), 2);
     EXPECT_EQ(shadow->property("strength").toDouble(), 0.25);
     const auto* name = item("TileName", tile(0));
     EXPECT_EQ(text(name, "text"), "a.png");

@@ -47,11 +47,11 @@ QVariant CaptureListModel::data(const QModelIndex& index, int role) const {
         case isLeavingRole:
             return row.isLeaving;
         default:
-            return marks(capture.id(), role);
+            return markData(capture.id(), role);
     }
 }
 
-QVariant CaptureListModel::marks(const UUID& id, int role) const {
+QVariant CaptureListModel::markData(const UUID& id, int role) const {
     switch (role) {
         case isSelectedRole:
             return selected_.contains(id);
@@ -79,12 +79,12 @@ QHash<int, QByteArray> CaptureListModel::roleNames() const {
 void CaptureListModel::setCaptures(const std::vector<CapturePointer>& captures) {
     captures_ = captures;
     markLeaving();
-    bringIntoOrder(laidOut());
+    updateRows(layOut());
     // The size of a tile depends on the number of tiles, its place on the tiles before it.
     announce({isLeavingRole, positionRole, tileXRole, tileWidthRole, thumbnailHeightRole});
 }
 
-std::vector<CaptureListModel::Row> CaptureListModel::laidOut() const {
+std::vector<CaptureListModel::Row> CaptureListModel::layOut() const {
     const int count = static_cast<int>(captures_.size());
     std::vector<Row> rows;
     double x = 0;
@@ -102,7 +102,7 @@ void CaptureListModel::markLeaving() {
 
 /// Puts the rows of the captures that stay into their order. The rows that are leaving keep their
 /// places between them.
-void CaptureListModel::bringIntoOrder(std::vector<Row> staying) {
+void CaptureListModel::updateRows(std::vector<Row> staying) {
     int row = 0;
     for (Row& wanted : staying) {
         while (row < rowCount() && rows_[static_cast<std::size_t>(row)].isLeaving) ++row;
@@ -184,7 +184,7 @@ int CaptureListModel::selectedCount() const {
         captures_, [this](const auto& capture) { return selected_.contains(capture->id()); }));
 }
 
-CapturePointer CaptureListModel::present(const QString& captureId) const {
+CapturePointer CaptureListModel::stayingCapture(const QString& captureId) const {
     const auto found = capture(captureId);
     return found && positionOf(found->id()) >= 0 ? found : nullptr;
 }

@@ -58,7 +58,7 @@ public:
     /// Returns null if no row has that identifier.
     CapturePointer capture(const QString& captureId) const;
     /// Like capture(), but also returns null for a capture that is leaving.
-    CapturePointer present(const QString& captureId) const;
+    CapturePointer stayingCapture(const QString& captureId) const;
     /// Returns how many of the captures that stay are selected.
     int selectedCount() const;
     /// Returns the captures that stay.
@@ -73,11 +73,11 @@ private:
         bool isLeaving = false;
     };
 
-    std::vector<Row> laidOut() const;
+    std::vector<Row> layOut() const;
     void markLeaving();
-    void bringIntoOrder(std::vector<Row> staying);
+    void updateRows(std::vector<Row> staying);
     int rowOf(const UUID& id, int from) const;
-    QVariant marks(const UUID& id, int role) const;
+    QVariant markData(const UUID& id, int role) const;
     int positionOf(const UUID& id) const;
     void remove(int row);
     void announce(const QList<int>& roles);

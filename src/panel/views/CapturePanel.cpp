@@ -63,7 +63,7 @@ CapturePanel::CapturePanel(PanelModel::Context context) : model_(std::move(conte
     container_ = std::make_unique<PassthroughContainerView>(*view_);
     pressFilter_ = std::make_unique<PressFilter>(*view_, *container_, model_);
     QObject::connect(&model_, &PanelModel::isPresentedChanged, view_.get(), [this] {
-        if (!model_.isPresented()) cardLeaves();
+        if (!model_.isPresented()) endInteraction();
     });
 }
 
@@ -86,13 +86,13 @@ void CapturePanel::setFrame(const Rect& frame) {
 }
 
 void CapturePanel::orderFrontRegardless() {
-    model_.readCorner();
+    model_.updateCorner();
     overlay_->show();
 }
 
 void CapturePanel::orderOut() {
     overlay_->hide();
-    model_.cardHasLeft();
+    model_.clearCaptures();
 }
 
 void CapturePanel::releaseResources() {
@@ -118,7 +118,7 @@ void CapturePanel::takeKeyboard() {
     QMetaObject::invokeMethod(view_->rootObject(), "focusNewest");
 }
 
-void CapturePanel::cardLeaves() {
+void CapturePanel::endInteraction() {
     view_->endMarquee();
     overlay_->giveBackKeyboard();
 }

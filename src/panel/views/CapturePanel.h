@@ -34,7 +34,7 @@ public:
 private:
     std::unique_ptr<FirstMouseHostingView> makeView();
     /// Ends a rubber band and gives the keyboard back to the window that had it.
-    void cardLeaves();
+    void endInteraction();
 
     PanelModel model_;
     std::unique_ptr<FirstMouseHostingView> view_;

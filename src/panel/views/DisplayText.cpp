@@ -13,7 +13,7 @@ struct Unit {
     std::chrono::seconds length;
     const char* past;
     const char* future;
-    int least = 1;  ///< The smallest count for which this unit is used.
+    int minimumCount = 1;  ///< The smallest count for which this unit is used.
 };
 
 using namespace std::chrono_literals;
@@ -48,7 +48,7 @@ QString pixelSizeText(Size pixels) {
 QString relativeDateText(Date date, Date now) {
     const auto distance = date < now ? now - date : date - now;
     for (const Unit& unit : units) {
-        if (distance < unit.least * unit.length) continue;
+        if (distance < unit.minimumCount * unit.length) continue;
         const char* text = date < now ? unit.past : unit.future;
         const auto count = static_cast<int>(distance / unit.length);
         return QCoreApplication::translate("RelativeDate", text, nullptr, count);

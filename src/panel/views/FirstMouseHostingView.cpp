@@ -58,10 +58,10 @@ void FirstMouseHostingView::mouseDragged(const QMouseEvent& event) {
     if (!downPoint_) return;
     // The window misses a release that happens while it is not on the screen.
     if (!(event.buttons() & Qt::LeftButton)) return endMarquee();
-    const QPointF way = event.scenePosition() - *downPoint_;
-    if (!marqueeActive_ && !(std::hypot(way.x(), way.y()) > marqueeThreshold)) return;
+    const QPointF distance = event.scenePosition() - *downPoint_;
+    if (!marqueeActive_ && !(std::hypot(distance.x(), distance.y()) > marqueeThreshold)) return;
     marqueeActive_ = true;
-    tellMarquee(rectBetween(*downPoint_, event.scenePosition()));
+    reportMarquee(rectBetween(*downPoint_, event.scenePosition()));
 }
 
 void FirstMouseHostingView::mouseUp(const QMouseEvent& event) {
@@ -72,10 +72,10 @@ void FirstMouseHostingView::mouseUp(const QMouseEvent& event) {
 
 void FirstMouseHostingView::endMarquee() {
     downPoint_.reset();
-    if (std::exchange(marqueeActive_, false)) tellMarquee(std::nullopt);
+    if (std::exchange(marqueeActive_, false)) reportMarquee(std::nullopt);
 }
 
-void FirstMouseHostingView::tellMarquee(const std::optional<Rect>& rect) const {
+void FirstMouseHostingView::reportMarquee(const std::optional<Rect>& rect) const {
     if (onMarquee) onMarquee(rect);
 }
 

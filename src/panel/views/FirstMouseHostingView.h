@@ -36,7 +36,7 @@ private:
     void mouseDown(const QMouseEvent& event);
     void mouseDragged(const QMouseEvent& event);
     void mouseUp(const QMouseEvent& event);
-    void tellMarquee(const std::optional<Rect>& rect) const;
+    void reportMarquee(const std::optional<Rect>& rect) const;
 
     std::optional<QPointF> downPoint_;
     bool marqueeActive_ = false;

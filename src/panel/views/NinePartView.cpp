@@ -85,7 +85,7 @@ QSGNode* NinePartView::updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) 
     auto* node = static_cast<NinePartNode*>(old);
     if (!node || drawnPixelsPerPoint_ != pixelsPerPoint || drawnCorner_ != corner) {
         delete node;
-        node = new NinePartNode(*window(), cornersOnly(corner, pixelsPerPoint), isHollow());
+        node = new NinePartNode(*window(), sourcePicture(corner, pixelsPerPoint), isHollow());
         drawnPixelsPerPoint_ = pixelsPerPoint;
         drawnCorner_ = corner;
     }

@@ -27,7 +27,7 @@ protected:
     /// Returns the smallest picture of the shape that has whole corners: the corners' sides are
     /// `corner` pixels long, with one row and one column between them. If the item is too small for
     /// corners of cornerLength(), `corner` is the length that fits.
-    virtual QImage cornersOnly(int corner, double pixelsPerPoint) const = 0;
+    virtual QImage sourcePicture(int corner, double pixelsPerPoint) const = 0;
 
     /// Returns true if there is nothing to draw between the corners and edges.
     virtual bool isHollow() const { return false; }

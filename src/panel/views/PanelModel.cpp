@@ -116,12 +116,12 @@ QRectF PanelModel::marquee() const {
     return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
 }
 
-void PanelModel::readCorner() {
+void PanelModel::updateCorner() {
     corner_ = context_.state.corner;
     emit cornerChanged();
 }
 
-void PanelModel::cardHasLeft() {
+void PanelModel::clearCaptures() {
     captures_.clear();
     emit countChanged();
 }
@@ -158,12 +158,12 @@ void PanelModel::dragEnded(bool completed, const std::vector<Url>& urls) {
     context_.actions.dragEnded(completed, urls);
 }
 
-CapturePointer PanelModel::present(const QString& captureId) const {
-    return isPresented() ? captures_.present(captureId) : nullptr;
+CapturePointer PanelModel::stayingCapture(const QString& captureId) const {
+    return isPresented() ? captures_.stayingCapture(captureId) : nullptr;
 }
 
 void PanelModel::perform(const CardActions::OnCapture& action, const QString& captureId) {
-    if (const auto capture = present(captureId)) action(capture);
+    if (const auto capture = stayingCapture(captureId)) action(capture);
 }
 
 void PanelModel::close(const QString& captureId) {
@@ -189,7 +189,7 @@ void PanelModel::reveal(const QString& captureId) {
 
 void PanelModel::share(const QString& captureId, const QRectF& anchor) {
     const Rect frame{{anchor.x(), anchor.y()}, {anchor.width(), anchor.height()}};
-    if (const auto capture = present(captureId)) context_.actions.share(capture, frame);
+    if (const auto capture = stayingCapture(captureId)) context_.actions.share(capture, frame);
 }
 
 void PanelModel::trash(const QString& captureId) {

@@ -99,9 +99,9 @@ public:
     bool rendersPlain() const { return context_.rendering == Rendering::plain; }
 
     /// Must be called before the panel is shown, because its corner may have changed.
-    void readCorner();
+    void updateCorner();
     /// Must be called when the card has gone from the screen. Drops the captures that it showed.
-    void cardHasLeft();
+    void clearCaptures();
 
     /// Returns the time on the clock that only moves forward.
     Instant now() const { return context_.scheduler.now(); }
@@ -156,7 +156,7 @@ private:
     void setDragging(bool isDragging);
     /// Returns null if the capture has left or is leaving, because nothing can be done with it
     /// then.
-    CapturePointer present(const QString& captureId) const;
+    CapturePointer stayingCapture(const QString& captureId) const;
     void perform(const CardActions::OnCapture& action, const QString& captureId);
     const Capture* onlyCapture() const;
 

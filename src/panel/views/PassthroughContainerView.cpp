@@ -115,13 +115,13 @@ void PassthroughContainerView::follow(Repeat repeat) {
     // other window.
     if (!glass || glass->isSolid()) inputRegion_->set(frame);
     const QRegion shape = glass ? shapeOf(*glass) : QRegion();
-    cutOut(glass, shape);
+    updateMask(glass, shape);
     if (repeat == Repeat::always) blurIsOffered_ = DisplayServer::current().offersBlur();
     if (glass) glass->setBlurred(blurIsOffered_);
     if (blurIsOffered_) DisplayServer::current().setBlurBehind(window_, shape);
 }
 
-void PassthroughContainerView::cutOut(const GlassBackdropView* glass, const QRegion& shape) {
+void PassthroughContainerView::updateMask(const GlassBackdropView* glass, const QRegion& shape) {
     if (glass && !DisplayServer::current().isComposited())
         window_.setMask(shape);
     else if (!window_.mask().isEmpty())

@@ -38,7 +38,7 @@ protected:
 private:
     enum class Repeat { whenChanged, always };
     void follow(Repeat repeat);
-    void cutOut(const GlassBackdropView* glass, const QRegion& shape);
+    void updateMask(const GlassBackdropView* glass, const QRegion& shape);
 
     QQuickWindow& window_;
     const std::unique_ptr<WindowInputRegion> inputRegion_;

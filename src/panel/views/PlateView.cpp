@@ -11,7 +11,7 @@ double PlateView::cornerLength() const {
     return std::max(1.5 * cornerRadius_, borderWidth_);
 }
 
-QImage PlateView::cornersOnly(int corner, double pixelsPerPoint) const {
+QImage PlateView::sourcePicture(int corner, double pixelsPerPoint) const {
     const int side = 2 * corner + 1;
     const QRectF bounds(0, 0, side, side);
     QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);

@@ -25,7 +25,7 @@ public:
 
 protected:
     double cornerLength() const override;
-    QImage cornersOnly(int corner, double pixelsPerPoint) const override;
+    QImage sourcePicture(int corner, double pixelsPerPoint) const override;
 
 private:
     double cornerRadius_ = 0;

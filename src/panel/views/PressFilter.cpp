@@ -13,7 +13,7 @@
 namespace vantle {
 namespace {
 
-PressGuard::Limits limitsOfDesktop() {
+PressGuard::Limits desktopLimits() {
     const QStyleHints& hints = *QGuiApplication::styleHints();
     return {.interval = std::chrono::milliseconds(hints.mouseDoubleClickInterval()),
             .distance = static_cast<double>(hints.mouseDoubleClickDistance())};
@@ -35,7 +35,7 @@ Point onScreen(const QPointerEvent& event) {
 
 PressFilter::PressFilter(QQuickWindow& window, const PassthroughContainerView& container,
                          PanelModel& panel)
-    : window_(window), container_(container), panel_(panel), guard_(limitsOfDesktop()) {
+    : window_(window), container_(container), panel_(panel), guard_(desktopLimits()) {
     window.installEventFilter(this);
     connect(&window, &QQuickWindow::afterAnimating, this, [this] { followFrame(); });
     const auto contentChanged = [this] { guard_.contentChanged(panel_.now(), pointer()); };
@@ -57,15 +57,15 @@ bool PressFilter::eventFilter(QObject*, QEvent* event) {
         case QEvent::MouseButtonPress:
         case QEvent::TouchBegin:
             emit panel_.pressed();
-            isKept_ = !isMeant(static_cast<const QPointerEvent&>(*event));
-            return isKept_;
+            isBlocked_ = !isIntended(static_cast<const QPointerEvent&>(*event));
+            return isBlocked_;
         case QEvent::MouseButtonDblClick:
         case QEvent::TouchUpdate:
-            return isKept_;
+            return isBlocked_;
         case QEvent::MouseButtonRelease:
         case QEvent::TouchEnd:
         case QEvent::TouchCancel:
-            return std::exchange(isKept_, false);
+            return std::exchange(isBlocked_, false);
         default:
             return false;
     }
@@ -83,12 +83,12 @@ void PressFilter::followFrame() {
     if (pointer_) guard_.targetChanged(targetAt(*pointer_), panel_.now());
 }
 
-bool PressFilter::isMeant(const QPointerEvent& event) {
+bool PressFilter::isIntended(const QPointerEvent& event) {
     const QPointF point = event.points().front().scenePosition();
-    const bool isMeant = guard_.allowsPress(onScreen(event), targetAt(point), panel_.now());
-    if (!isMeant)
+    const bool isIntended = guard_.allowsPress(onScreen(event), targetAt(point), panel_.now());
+    if (!isIntended)
         Debug::log([] { return "press ignored: its target has just moved under the pointer"; });
-    return isMeant;
+    return isIntended;
 }
 
 std::string PressFilter::targetAt(const QPointF& point) const {

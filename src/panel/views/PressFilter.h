@@ -27,7 +27,7 @@ private:
     void followPointer(const QPointerEvent& event, bool enters);
     /// Reports what has moved under the pointer since the last frame.
     void followFrame();
-    bool isMeant(const QPointerEvent& event);
+    bool isIntended(const QPointerEvent& event);
     /// Returns a name for what a press there acts on: the capture, or else the control.
     std::string targetAt(const QPointF& point) const;
 
@@ -36,7 +36,7 @@ private:
     PanelModel& panel_;
     PressGuard guard_;
     std::optional<QPointF> pointer_;  ///< The place in the window; absent while outside.
-    bool isKept_ = false;             ///< The current press is kept from the card.
+    bool isBlocked_ = false;          ///< The current press is kept from the card.
 };
 
 }  // namespace vantle

@@ -13,7 +13,7 @@ double ShadowView::cornerLength() const {
     return margin() + blur_ + 1.5 * cornerRadius_;
 }
 
-QImage ShadowView::cornersOnly(int corner, double pixelsPerPoint) const {
+QImage ShadowView::sourcePicture(int corner, double pixelsPerPoint) const {
     const auto pixels = [pixelsPerPoint](double points) {
         return static_cast<int>(std::lround(points * pixelsPerPoint));
     };
@@ -27,7 +27,7 @@ QImage ShadowView::cornersOnly(int corner, double pixelsPerPoint) const {
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setOpacity(strength_);
-    painter.drawImage(plate.topLeft() + QPoint(-blurred, pixels(drop_) - blurred),
+    painter.drawImage(plate.topLeft() + QPoint(-blurred, pixels(verticalOffset_) - blurred),
                       softShadow(plate.size(), radius, blurred));
     painter.setOpacity(1);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -16,24 +16,24 @@ class ShadowView : public vantle::NinePartView {  // the linter needs the full n
     Q_PROPERTY(double blur MEMBER blur_ NOTIFY changed)
     Q_PROPERTY(double strength MEMBER strength_ NOTIFY changed)
     /// How far the shadow falls downwards.
-    Q_PROPERTY(double drop MEMBER drop_ NOTIFY changed)
+    Q_PROPERTY(double verticalOffset MEMBER verticalOffset_ NOTIFY changed)
     Q_PROPERTY(double margin READ margin NOTIFY changed)
 
 public:
     using NinePartView::NinePartView;
 
-    double margin() const { return blur_ + drop_; }
+    double margin() const { return blur_ + verticalOffset_; }
 
 protected:
     double cornerLength() const override;
-    QImage cornersOnly(int corner, double pixelsPerPoint) const override;
+    QImage sourcePicture(int corner, double pixelsPerPoint) const override;
     bool isHollow() const override { return true; }
 
 private:
     double cornerRadius_ = 0;
     double blur_ = 0;
     double strength_ = 0;
-    double drop_ = 0;
+    double verticalOffset_ = 0;
 };
 
 }  // namespace vantle

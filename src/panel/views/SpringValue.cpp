@@ -42,37 +42,37 @@ void SpringValue::componentComplete() {
 
 void SpringValue::jumpTo(double value) {
     target_ = value;
-    rest();
+    finish();
     emit targetChanged();
 }
 
 void SpringValue::follow() {
     if (!enabled_) {
-        rest();
+        finish();
         return;
     }
     spring_.emplace(Animation{.response = response_, .dampingFraction = dampingFraction_}, state_,
                     target_);
     if (isRunning()) {
-        begun_ = clock_.currentTime();
+        startTime_ = clock_.currentTime();
     } else {
-        begun_ = 0;
+        startTime_ = 0;
         clock_.start();
     }
 }
 
 void SpringValue::stepTo(int milliseconds) {
     if (!spring_) return;
-    const double now = seconds(milliseconds - begun_);
+    const double now = seconds(milliseconds - startTime_);
     if (now >= spring_->settlingTime(tolerance(spring_->at(0).value - target_))) {
-        rest();
+        finish();
         return;
     }
     state_ = spring_->at(now);
     emit valueChanged();
 }
 
-void SpringValue::rest() {
+void SpringValue::finish() {
     spring_.reset();
     state_ = {target_, 0};
     emit valueChanged();

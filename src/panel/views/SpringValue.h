@@ -70,7 +70,7 @@ private:
 
     void follow();
     void stepTo(int milliseconds);
-    void rest();
+    void finish();
 
     double target_ = 0;
     std::optional<double> from_;
@@ -80,7 +80,7 @@ private:
     bool isComplete_ = false;
     Spring::State state_{0, 0};
     std::optional<Spring> spring_;
-    int begun_ = 0;  ///< Start of the motion, in milliseconds on the clock.
+    int startTime_ = 0;  ///< Start of the motion, in milliseconds on the clock.
     FrameClock clock_{*this};
 };
 

@@ -10,12 +10,12 @@ namespace {
 
 constexpr auto folder = ":/symbols/";
 /// The attribute as it is written in every file.
-constexpr auto strokeOfTheFiles = "stroke-width=\"1.5\"";
+constexpr auto strokeAttribute = "stroke-width=\"1.5\"";
 
 QByteArray symbol(const QString& name, const QString& stroke) {
     QFile file(QLatin1String(folder) + name + QLatin1String(".svg"));
     if (!file.open(QIODevice::ReadOnly)) qFatal("missing symbol: %s", qUtf8Printable(name));
-    return file.readAll().replace(strokeOfTheFiles, "stroke-width=\"" + stroke.toLatin1() + '"');
+    return file.readAll().replace(strokeAttribute, "stroke-width=\"" + stroke.toLatin1() + '"');
 }
 
 }  // namespace

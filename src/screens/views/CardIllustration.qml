@@ -75,7 +75,7 @@ Item {
         anchors.fill: card
         anchors.margins: -margin
         blur: 14
-        drop: 5
+        verticalOffset: 5
         strength: 0.35
         cornerRadius: card.cornerRadius
     }

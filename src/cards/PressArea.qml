@@ -6,11 +6,11 @@ MouseArea {
     id: press
 
     property string name
-    property bool isPressed: pressed && !wandered
+    property bool isPressed: pressed && !hasMovedAway
     property real radius: 7
 
     property point start
-    property bool wandered: false
+    property bool hasMovedAway: false
 
     signal tapped()
 
@@ -28,9 +28,9 @@ MouseArea {
 
     onPressed: mouse => {
         start = Qt.point(mouse.x, mouse.y);
-        wandered = false;
+        hasMovedAway = false;
     }
-    onPositionChanged: mouse => wandered = isFar(mouse)
+    onPositionChanged: mouse => hasMovedAway = isFar(mouse)
     onReleased: mouse => { if (!isFar(mouse)) tapped(); }
 
     Keys.onSpacePressed: tapped()
