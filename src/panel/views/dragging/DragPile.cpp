@@ -17,7 +17,7 @@ constexpr float opacity = 0.94F;
 
 /// Returns the part of the image that has the frame's proportions: all items of a pile have the
 /// same size.
-QRectF filling(const QSize& image, const QSizeF& frame) {
+QRectF sourceRect(const QSize& image, const QSizeF& frame) {
     const QSizeF part = frame.scaled(image, Qt::KeepAspectRatio);
     return {QPointF((image.width() - part.width()) / 2, (image.height() - part.height()) / 2),
             part};
@@ -26,7 +26,7 @@ QRectF filling(const QSize& image, const QSizeF& frame) {
 void drawItem(QPainter& painter, const DraggingItem& item, double radius) {
     const QPainterPath shape = continuousRoundedRect(item.frame, radius);
     QBrush brush(item.image);
-    const QRectF part = filling(item.image.size(), item.frame.size());
+    const QRectF part = sourceRect(item.image.size(), item.frame.size());
     const double scale = item.frame.width() / part.width();
     // A brush has smooth edges; a clip would have jagged ones.
     brush.setTransform(
@@ -53,7 +53,7 @@ void drawBadge(QPainter& painter, const QRectF& frame, std::size_t count) {
 }
 
 /// Makes the picture translucent, so that the target can be seen behind it.
-void letThrough(QPainter& painter, const QRect& all) {
+void makeTranslucent(QPainter& painter, const QRect& all) {
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     painter.fillRect(all, QColor::fromRgbF(0, 0, 0, opacity));
 }
@@ -86,7 +86,7 @@ DragPile dragPile(std::vector<DraggingItem> items, double pixelsPerPoint, DragPi
         if (i == 0 || items[i].frame != items[i - 1].frame)
             drawItem(painter, items[i], isSoft ? radius : 0);
     if (count > 1) drawBadge(painter, badge, count);
-    if (isSoft) letThrough(painter, whole);
+    if (isSoft) makeTranslucent(painter, whole);
     return {picture, whole};
 }
 

@@ -16,7 +16,7 @@
 namespace vantle {
 namespace {
 
-DragPile::Edges possibleEdges() {
+DragPile::Edges supportedEdges() {
     return DisplayServer::current().isComposited() ? DragPile::Edges::soft
                                                    : DragPile::Edges::opaque;
 }
@@ -28,7 +28,7 @@ public:
             std::shared_ptr<const FileTransfer> transfer, DraggingSessions::Moved moved,
             DraggingSessions::Ended ended)
         : window_(&window),
-          pile_(dragPile(items, window.devicePixelRatio(), possibleEdges())),
+          pile_(dragPile(items, window.devicePixelRatio(), supportedEdges())),
           start_(window.position() + pile_.frame.topLeft().toPoint()),
           hotSpot_((grip - pile_.frame.topLeft()).toPoint()),
           transfer_(std::move(transfer)),
@@ -74,12 +74,12 @@ private:
 
     void finish(DragOperation operation) {
         if (operation == DragOperation::none && !Appearance().reducesMotion())
-            FlyBack::start(pile_.picture, hotSpot_, home());
+            FlyBack::start(pile_.picture, hotSpot_, returnPosition());
         end(operation);
     }
 
     /// Returns where the pile belongs now: the tiles and the card may have moved since the start.
-    QPoint home() const {
+    QPoint returnPosition() const {
         if (!window_) return start_;
         return window_->position() + (pile_.frame.topLeft() + moved_()).toPoint();
     }
