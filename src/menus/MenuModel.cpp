@@ -30,19 +30,20 @@ QVariantList MenuModel::lines() const {
 }
 
 QVariantMap MenuModel::description(int line) const {
-    const MenuItem& of = item(line);
-    QVariantMap description{{QStringLiteral("title"), QString::fromStdString(of.title)},
-                            {QStringLiteral("symbol"), QString::fromStdString(of.symbol)},
-                            {QStringLiteral("isSeparator"), of.kind == MenuItem::Kind::separator},
-                            {QStringLiteral("isEnabled"), of.isEnabled},
-                            {QStringLiteral("shortcut"), shortcut(of)},
-                            {QStringLiteral("picture"), QString()},
-                            {QStringLiteral("pictureSize"), QSizeF()}};
-    if (of.image) {
+    const MenuItem& menuItem = item(line);
+    QVariantMap description{
+        {QStringLiteral("title"), QString::fromStdString(menuItem.title)},
+        {QStringLiteral("symbol"), QString::fromStdString(menuItem.symbol)},
+        {QStringLiteral("isSeparator"), menuItem.kind == MenuItem::Kind::separator},
+        {QStringLiteral("isEnabled"), menuItem.isEnabled},
+        {QStringLiteral("shortcut"), shortcut(menuItem)},
+        {QStringLiteral("picture"), QString()},
+        {QStringLiteral("pictureSize"), QSizeF()}};
+    if (menuItem.image) {
         description[QStringLiteral("picture")] =
             QStringLiteral("image://menu/%1/%2").arg(revision_).arg(line);
         description[QStringLiteral("pictureSize")] =
-            QSizeF(of.image->size.width, of.image->size.height);
+            QSizeF(menuItem.image->size.width, menuItem.image->size.height);
     }
     return description;
 }
@@ -73,23 +74,23 @@ void MenuModel::setCurrent(int line) {
     emit currentChanged();
 }
 
-void MenuModel::seek(int direction, const std::function<bool(const MenuItem&)>& fits) {
+void MenuModel::moveToNext(int direction, const std::function<bool(const MenuItem&)>& matches) {
     // Going up without a current line begins at the end.
     int line = current_ == none && direction < 0 ? count() : current_;
     for (int tried = 0; tried < count(); ++tried) {
         line = (line + direction + count()) % count();
-        if (!isAction(line) || !fits(item(line))) continue;
+        if (!isAction(line) || !matches(item(line))) continue;
         setCurrent(line);
         return;
     }
 }
 
 void MenuModel::step(int direction) {
-    seek(direction, [](const MenuItem&) { return true; });
+    moveToNext(direction, [](const MenuItem&) { return true; });
 }
 
 void MenuModel::stepTo(QChar letter) {
-    seek(1, [letter](const MenuItem& item) {
+    moveToNext(1, [letter](const MenuItem& item) {
         return QString::fromStdString(item.title).startsWith(letter, Qt::CaseInsensitive);
     });
 }

@@ -55,8 +55,8 @@ private:
     int count() const { return static_cast<int>(menu_.items.size()); }
     QVariantMap description(int line) const;
     bool isAction(int line) const;
-    /// Moves from the current line to the next one that can be chosen and fits; wraps around.
-    void seek(int direction, const std::function<bool(const MenuItem&)>& fits);
+    /// Moves from the current line to the next one that can be chosen and matches; wraps around.
+    void moveToNext(int direction, const std::function<bool(const MenuItem&)>& matches);
 
     Menu menu_;
     int revision_ = 0;  ///< Part of the pictures' addresses: each menu has its own pictures.

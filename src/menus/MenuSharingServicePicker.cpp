@@ -43,7 +43,8 @@ void MenuSharingServicePicker::close() {
     request_.reset();
 }
 
-std::vector<SharingOffer> MenuSharingServicePicker::withOwn(std::vector<SharingOffer> found) const {
+std::vector<SharingOffer> MenuSharingServicePicker::withBuiltInOffers(
+    std::vector<SharingOffer> found) const {
     if (!found.empty()) found.push_back({});
     found.push_back({localized("SharingServicePicker", "Copy file"), "doc.on.doc",
                      [this](const std::vector<Url>& items) {
@@ -57,7 +58,7 @@ std::vector<SharingOffer> MenuSharingServicePicker::withOwn(std::vector<SharingO
 
 void MenuSharingServicePicker::open(const std::shared_ptr<Request>& request,
                                     std::vector<SharingOffer> found) {
-    request->offers = withOwn(std::move(found));
+    request->offers = withBuiltInOffers(std::move(found));
     Menu menu{localized("SharingServicePicker", "Share"), {}};
     for (const auto& offer : request->offers)
         menu.items.push_back({offer.perform ? MenuItem::Kind::action : MenuItem::Kind::separator,

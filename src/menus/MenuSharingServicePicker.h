@@ -33,7 +33,7 @@ public:
 private:
     struct Request;
 
-    std::vector<SharingOffer> withOwn(std::vector<SharingOffer> found) const;
+    std::vector<SharingOffer> withBuiltInOffers(std::vector<SharingOffer> found) const;
     void open(const std::shared_ptr<Request>& request, std::vector<SharingOffer> found);
     static void end(Request& request, std::optional<int> chosen);
 

@@ -33,7 +33,7 @@ void MenuWindow::open(const Menu& menu, const MenuAnchor& anchor, Ended ended) {
     model_.setMenu(menu);
     model_.setCurrent(menu.current);
     resize(rootObject()->size().toSize());
-    cutOut();
+    updateMask();
     placement_->show(anchor, plate());
 }
 
@@ -42,7 +42,7 @@ QRect MenuWindow::plate() const {
     return QRect(QPoint(), size()).marginsRemoved({margin, margin, margin, margin});
 }
 
-void MenuWindow::cutOut() {
+void MenuWindow::updateMask() {
     // Without a compositor there is no transparency, so the mask removes the shadow.
     const double radius = rootObject()->property("cornerRadius").toReal();
     setMask(DisplayServer::current().isComposited()

@@ -35,7 +35,7 @@ protected:
 private:
     /// Returns the frame of the menu in the window, without the shadow.
     QRect plate() const;
-    void cutOut();
+    void updateMask();
     bool handleKey(const QKeyEvent& event);
     bool chooseByKey(int key);
     void end(std::optional<int> chosen);
