@@ -167,9 +167,9 @@ TEST(Orientation, MakesThePictureUpright) {
                                                        {6, 3, 5, 2, 4, 1},
                                                        {3, 6, 2, 5, 1, 4}}};
     for (unsigned number = 1; number <= 8; ++number) {
-        const Picture upright = turned(numbered(), orientationNumbered(number));
-        EXPECT_EQ(upright.size, number >= 5 ? (PixelSize{2, 3}) : (PixelSize{3, 2}));
-        EXPECT_EQ(numbers(upright), expected[number - 1]) << number;
+        const Picture picture = upright(numbered(), orientationNumbered(number));
+        EXPECT_EQ(picture.size, number >= 5 ? (PixelSize{2, 3}) : (PixelSize{3, 2}));
+        EXPECT_EQ(numbers(picture), expected[number - 1]) << number;
     }
 }
 

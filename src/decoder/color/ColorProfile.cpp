@@ -47,7 +47,7 @@ void makeOpaque(Picture& picture) {
     for (std::size_t i = 3; i < picture.rgba.size(); i += 4) picture.rgba[i] = 255;
 }
 
-void convertInkPlainly(Picture& picture) {
+void convertInkWithoutProfile(Picture& picture) {
     for (std::size_t i = 0; i < picture.rgba.size(); i += 4) {
         const int light = 255 - picture.rgba[i + 3];
         for (std::size_t channel = 0; channel < 3; ++channel) {
@@ -68,13 +68,14 @@ void convertToScreen(Picture& picture, std::span<const std::uint8_t> colorProfil
     if (isTranslucent) changeColors(picture.rgba, multipliedByAlpha);
 }
 
-void convertInkToScreen(Picture& picture, InkSense sense, std::span<const std::uint8_t> profile) {
-    if (sense == InkSense::moreIsLighter)
+void convertInkToScreen(Picture& picture, InkPolarity polarity,
+                        std::span<const std::uint8_t> profile) {
+    if (polarity == InkPolarity::moreIsLighter)
         for (auto& sample : picture.rgba) sample = static_cast<std::uint8_t>(255 - sample);
     if (const Transform toScreen = transform(profile, cmsSigCmykData, TYPE_CMYK_8))
         apply(toScreen.get(), picture);
     else
-        convertInkPlainly(picture);
+        convertInkWithoutProfile(picture);
     makeOpaque(picture);
 }
 

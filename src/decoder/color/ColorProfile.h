@@ -12,10 +12,11 @@ namespace vantle::decoder {
 void convertToScreen(Picture& picture, std::span<const std::uint8_t> colorProfile);
 
 /// The meaning of 255 in a CMYK picture: full ink, or none.
-enum class InkSense { moreIsDarker, moreIsLighter };
+enum class InkPolarity { moreIsDarker, moreIsLighter };
 
 /// Does the same for a picture whose samples are cyan, magenta, yellow and black ink. Uses plain
 /// arithmetic if the profile is not usable.
-void convertInkToScreen(Picture& picture, InkSense sense, std::span<const std::uint8_t> profile);
+void convertInkToScreen(Picture& picture, InkPolarity polarity,
+                        std::span<const std::uint8_t> profile);
 
 }  // namespace vantle::decoder

@@ -35,8 +35,8 @@ constexpr std::array allowed = {
     SCMP_SYS(exit_group)};
 
 // Other fcntl commands can make the kernel send signals to any process.
-constexpr std::array allowedOfFcntl = {F_DUPFD, F_DUPFD_CLOEXEC, F_GETFD,     F_SETFD,
-                                       F_GETFL, F_SETFL,         F_ADD_SEALS, F_GET_SEALS};
+constexpr std::array allowedFcntlCommands = {F_DUPFD, F_DUPFD_CLOEXEC, F_GETFD,     F_SETFD,
+                                             F_GETFL, F_SETFL,         F_ADD_SEALS, F_GET_SEALS};
 
 struct FilterReleaser {
     void operator()(void* filter) const { seccomp_release(filter); }
@@ -64,7 +64,7 @@ bool addRules(const Filter& filter, FileOpening opening) {
     isDone &= seccomp_rule_add(filter.get(), SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0;
     isDone &= seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(prctl), 1,
                                SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME)) == 0;
-    for (const int command : allowedOfFcntl)
+    for (const int command : allowedFcntlCommands)
         isDone &= seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(fcntl), 1,
                                    SCMP_A1(SCMP_CMP_EQ, static_cast<scmp_datum_t>(command))) == 0;
     // Threads may signal each other, but not other processes; Landlock prevents that only since

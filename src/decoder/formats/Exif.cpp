@@ -70,7 +70,7 @@ Exif readExif(std::span<const std::uint8_t> data) {
     }
     if (across > 0 && down > 0)
         exif.resolution =
-            Resolution::of(across, down, unit == centimetres ? Resolution::centimetresInInch : 1);
+            Resolution::of(across, down, unit == centimetres ? Resolution::centimetresPerInch : 1);
     return exif;
 }
 

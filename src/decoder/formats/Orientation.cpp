@@ -8,13 +8,13 @@ namespace {
 
 /// The index of an upright pixel in the stored picture: `origin`, plus a step for each pixel to the
 /// right and a step for each pixel down.
-struct Walk {
+struct PixelSteps {
     std::ptrdiff_t origin;
     std::ptrdiff_t across;
     std::ptrdiff_t down;
 };
 
-Walk walk(PixelSize stored, Orientation orientation) {
+PixelSteps pixelSteps(PixelSize stored, Orientation orientation) {
     const std::ptrdiff_t width = stored.width;
     const std::ptrdiff_t right = width - 1;
     const std::ptrdiff_t bottom = (stored.height - 1) * width;
@@ -23,7 +23,7 @@ Walk walk(PixelSize stored, Orientation orientation) {
             break;
         case Orientation::mirrored:
             return {right, -1, width};
-        case Orientation::turnedAround:
+        case Orientation::rotated180:
             return {bottom + right, -1, -width};
         case Orientation::flipped:
             return {bottom, 1, -width};
@@ -31,7 +31,7 @@ Walk walk(PixelSize stored, Orientation orientation) {
             return {0, width, 1};
         case Orientation::turnRight:
             return {bottom, -width, 1};
-        case Orientation::transposedAround:
+        case Orientation::transverse:
             return {bottom + right, -width, -1};
         case Orientation::turnLeft:
             return {right, width, -1};
@@ -41,16 +41,16 @@ Walk walk(PixelSize stored, Orientation orientation) {
 
 }  // namespace
 
-Picture turned(Picture picture, Orientation orientation) {
+Picture upright(Picture picture, Orientation orientation) {
     if (orientation == Orientation::upright) return picture;
-    const auto [origin, across, down] = walk(picture.size, orientation);
-    Picture upright{turned(picture.size, orientation),
-                    std::vector<std::uint8_t>(picture.rgba.size())};
-    std::uint8_t* out = upright.rgba.data();
-    for (int y = 0; y < upright.size.height; ++y)
-        for (int x = 0; x < upright.size.width; ++x, out += 4)
+    const auto [origin, across, down] = pixelSteps(picture.size, orientation);
+    Picture result{swappedIfTurned(picture.size, orientation),
+                   std::vector<std::uint8_t>(picture.rgba.size())};
+    std::uint8_t* out = result.rgba.data();
+    for (int y = 0; y < result.size.height; ++y)
+        for (int x = 0; x < result.size.width; ++x, out += 4)
             std::memcpy(out, picture.rgba.data() + 4 * (origin + x * across + y * down), 4);
-    return upright;
+    return result;
 }
 
 }  // namespace vantle::decoder

@@ -9,11 +9,11 @@ namespace vantle::decoder {
 enum class Orientation {
     upright = 1,
     mirrored,
-    turnedAround,
+    rotated180,
     flipped,     ///< Mirrored upside down.
     transposed,  ///< Rows and columns change places.
     turnRight,   ///< A quarter turn clockwise.
-    transposedAround,
+    transverse,
     turnLeft,
 };
 
@@ -28,15 +28,15 @@ constexpr bool swapsSides(Orientation orientation) {
 }
 
 /// Converts the stored picture's size to the upright picture's, or back.
-constexpr PixelSize turned(PixelSize size, Orientation orientation) {
+constexpr PixelSize swappedIfTurned(PixelSize size, Orientation orientation) {
     return swapsSides(orientation) ? PixelSize{size.height, size.width} : size;
 }
 
-constexpr Size turned(Size size, Orientation orientation) {
+constexpr Size swappedIfTurned(Size size, Orientation orientation) {
     return swapsSides(orientation) ? Size{size.height, size.width} : size;
 }
 
 /// Makes the stored picture upright.
-Picture turned(Picture picture, Orientation orientation);
+Picture upright(Picture picture, Orientation orientation);
 
 }  // namespace vantle::decoder

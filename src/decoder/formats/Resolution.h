@@ -12,15 +12,16 @@ struct Resolution {
     double across = 72;
     double down = 72;
 
-    static constexpr double metresInInch = 0.0254;
-    static constexpr double centimetresInInch = 2.54;
+    static constexpr double metresPerInch = 0.0254;
+    static constexpr double centimetresPerInch = 2.54;
 
-    /// Converts dots per unit of length, with `unitsInInch` units to the inch. Rounds to whole dots
-    /// per inch, because files store rounded values of whole numbers. Returns the default if a
+    /// Converts dots per unit of length, with `unitsPerInch` units to the inch. Rounds to whole
+    /// dots per inch, because files store rounded values of whole numbers. Returns the default if a
     /// value is not sensible.
-    static Resolution of(double across, double down, double unitsInInch) {
-        const Resolution said{std::round(across * unitsInInch), std::round(down * unitsInInch)};
-        return isSensible(said.across) && isSensible(said.down) ? said : Resolution{};
+    static Resolution of(double across, double down, double unitsPerInch) {
+        const Resolution rounded{std::round(across * unitsPerInch),
+                                 std::round(down * unitsPerInch)};
+        return isSensible(rounded.across) && isSensible(rounded.down) ? rounded : Resolution{};
     }
 
     Size points(PixelSize pixels) const {

@@ -98,7 +98,7 @@ VANTLE_LOOP void addWeighted(Float8& even, Float8& odd, float weight, const std:
     odd += weight * __builtin_convertvector((pairs >> 16) & 0xffff, Float8);
 }
 
-VANTLE_LOOP void storeInTurn(float* to, const Float8& even, const Float8& odd) {
+VANTLE_LOOP void storeInterleaved(float* to, const Float8& even, const Float8& odd) {
     const Float8 lower = __builtin_shufflevector(even, odd, 0, 8, 1, 9, 2, 10, 3, 11);
     const Float8 upper = __builtin_shufflevector(even, odd, 4, 12, 5, 13, 6, 14, 7, 15);
     std::memcpy(to, &lower, sizeof lower);
@@ -120,8 +120,8 @@ VANTLE_LOOP void reduceDown(const std::uint16_t* const* rows, const float* weigh
             addWeighted(even, odd, weights[row], samples);
             addWeighted(nextEven, nextOdd, weights[row], samples + half);
         }
-        storeInTurn(out + begin, even, odd);
-        storeInTurn(out + begin + half, nextEven, nextOdd);
+        storeInterleaved(out + begin, even, odd);
+        storeInterleaved(out + begin + half, nextEven, nextOdd);
     }
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 /// Returns memory that holds a picture and that nobody can change any more; an empty descriptor if
 /// there is not enough memory.
-FileDescriptor shared(const Picture& picture) {
+FileDescriptor sealedMemory(const Picture& picture) {
     FileDescriptor memory(memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     if (!memory) return {};
     for (std::size_t done = 0; done < picture.rgba.size();) {
@@ -45,7 +45,7 @@ public:
         constexpr std::chrono::seconds timeout(decoderTimeout);
         while (auto received = receive<Request>(socket_, timeout)) {
             if (received->message.operation == Operation::close) {
-                forget();
+                closeFile();
                 continue;
             }
             Answer answer;
@@ -54,7 +54,7 @@ public:
             try {
                 answer = answerTo(received->message, std::move(received->descriptor));
             } catch (const std::exception&) {
-                forget();
+                closeFile();
             }
             if (!send(socket_, answer.reply, answer.memory.get())) return;
         }
@@ -83,7 +83,7 @@ private:
         return {};
     }
 
-    void forget() {
+    void closeFile() {
         image_.reset();
         recording_.reset();
         file_.reset();
@@ -91,12 +91,12 @@ private:
     }
 
     Answer open(Operation operation, FileDescriptor descriptor) {
-        forget();
+        closeFile();
         if (!descriptor) return {};
         descriptor_ = std::move(descriptor);
         file_.emplace(descriptor_.get());
         Answer answer = openAs(operation);
-        if (answer.reply.status != Status::done) forget();
+        if (answer.reply.status != Status::done) closeFile();
         return answer;
     }
 
@@ -128,7 +128,7 @@ private:
 
     static Answer answerWith(const std::optional<Picture>& picture) {
         if (!picture) return {};
-        auto memory = shared(*picture);
+        auto memory = sealedMemory(*picture);
         if (!memory) return {};
         return {{.status = Status::done, .picture = picture->size}, std::move(memory)};
     }

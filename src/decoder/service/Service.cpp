@@ -20,19 +20,19 @@ namespace {
 bool continueInChild() {
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return false;
-    const FileDescriptor told(ends[0]);
-    FileDescriptor telling(ends[1]);
+    const FileDescriptor readEnd(ends[0]);
+    FileDescriptor writeEnd(ends[1]);
     const pid_t child = fork();
     if (child == 0) {
-        telling.reset();
+        writeEnd.reset();
         char word = 0;
-        return read(told.get(), &word, sizeof word) == sizeof word;
+        return read(readEnd.get(), &word, sizeof word) == sizeof word;
     }
     const FileDescriptor process(child > 0 ? static_cast<int>(syscall(SYS_pidfd_open, child, 0))
                                            : -1);
-    const bool isTold =
-        process && send(decoderSocket, Hello{}, process.get()) && write(telling.get(), "", 1) == 1;
-    _exit(isTold ? 0 : 1);
+    const bool isAnnounced =
+        process && send(decoderSocket, Hello{}, process.get()) && write(writeEnd.get(), "", 1) == 1;
+    _exit(isAnnounced ? 0 : 1);
 }
 
 }  // namespace

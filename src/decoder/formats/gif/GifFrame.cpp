@@ -77,7 +77,7 @@ bool GifFrame::readRow(GifPixelType* indexes) {
 }
 
 /// Reads the rows of an interlaced frame, which come in four passes.
-bool GifFrame::readInTurn(std::vector<GifPixelType>& indexes) {
+bool GifFrame::readInterlaced(std::vector<GifPixelType>& indexes) {
     struct Pass {
         int first;
         int step;
@@ -95,7 +95,7 @@ std::optional<Picture> GifFrame::draw(PixelSize target) {
     const GifImageDesc& image = gif_->Image;
     const auto width = static_cast<std::size_t>(image.Width);
     std::vector<GifPixelType> indexes(width);
-    if (image.Interlace && !readInTurn(indexes)) return std::nullopt;
+    if (image.Interlace && !readInterlaced(indexes)) return std::nullopt;
 
     ThreadedReduction reduction(canvas(), target, PixelLayout::premultipliedRgba);
     const std::size_t rowSize = static_cast<std::size_t>(gif_->SWidth) * 4;

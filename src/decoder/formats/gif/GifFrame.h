@@ -33,7 +33,7 @@ private:
     bool readColors();
     bool isInCanvas() const;
     bool readRow(GifPixelType* indexes);
-    bool readInTurn(std::vector<GifPixelType>& indexes);
+    bool readInterlaced(std::vector<GifPixelType>& indexes);
 
     static int read(GifFileType* gif, GifByteType* bytes, int count);
 

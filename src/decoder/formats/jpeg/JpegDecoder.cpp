@@ -105,7 +105,7 @@ Resolution resolutionOf(const jpeg_decompress_struct& jpeg, const Exif& exif) {
     if (jpeg.saw_JFIF_marker && jpeg.density_unit == perInch)
         return Resolution::of(jpeg.X_density, jpeg.Y_density, 1);
     if (jpeg.saw_JFIF_marker && jpeg.density_unit == perCentimetre)
-        return Resolution::of(jpeg.X_density, jpeg.Y_density, Resolution::centimetresInInch);
+        return Resolution::of(jpeg.X_density, jpeg.Y_density, Resolution::centimetresPerInch);
     return exif.resolution.value_or(Resolution{});
 }
 
@@ -149,10 +149,11 @@ std::optional<JpegHeader> readJpegHeader(const InputFile& file) {
     Decompressor decompressor(file);
     if (!decompressor.readHeader()) return std::nullopt;
     const auto& jpeg = decompressor.jpeg();
-    const bool isWhole = jpeg.progressive_mode || jpeg.num_components == 0;
-    const bool isPossible = isWhole ? isReasonableInMemory(jpeg.image_width, jpeg.image_height)
-                                    : isReasonable(jpeg.image_width, jpeg.image_height);
-    if (!isPossible) return std::nullopt;
+    const bool needsWholePicture = jpeg.progressive_mode || jpeg.num_components == 0;
+    const bool isSupported = needsWholePicture
+                                 ? isReasonableInMemory(jpeg.image_width, jpeg.image_height)
+                                 : isReasonable(jpeg.image_width, jpeg.image_height);
+    if (!isSupported) return std::nullopt;
     const Exif exif = exifOf(jpeg);
     return JpegHeader{
         .size = {static_cast<int>(jpeg.image_width), static_cast<int>(jpeg.image_height)},
@@ -160,7 +161,8 @@ std::optional<JpegHeader> readJpegHeader(const InputFile& file) {
         .orientation = exif.orientation,
         .isInk = jpeg.jpeg_color_space == JCS_CMYK || jpeg.jpeg_color_space == JCS_YCCK,
         // Programs that write the Adobe marker store ink inverted.
-        .inkSense = jpeg.saw_Adobe_marker ? InkSense::moreIsLighter : InkSense::moreIsDarker,
+        .inkPolarity =
+            jpeg.saw_Adobe_marker ? InkPolarity::moreIsLighter : InkPolarity::moreIsDarker,
         .colorProfile = decompressor.colorProfile()};
 }
 

@@ -15,7 +15,7 @@ struct JpegHeader {
     Resolution resolution;
     Orientation orientation = Orientation::upright;
     bool isInk = false;
-    InkSense inkSense = InkSense::moreIsDarker;
+    InkPolarity inkPolarity = InkPolarity::moreIsDarker;
     std::vector<std::uint8_t> colorProfile;
 };
 

@@ -8,20 +8,22 @@ class JpegImage final : public StillImage {
 public:
     JpegImage(const InputFile& file, JpegHeader header) : file_(file), header_(std::move(header)) {}
 
-    PixelSize pixelSize() const override { return turned(header_.size, header_.orientation); }
+    PixelSize pixelSize() const override {
+        return swappedIfTurned(header_.size, header_.orientation);
+    }
 
     Size pointSize() const override {
-        return turned(header_.resolution.points(header_.size), header_.orientation);
+        return swappedIfTurned(header_.resolution.points(header_.size), header_.orientation);
     }
 
     std::optional<Picture> draw(PixelSize target) override {
-        auto picture = drawJpeg(file_, turned(target, header_.orientation));
+        auto picture = drawJpeg(file_, swappedIfTurned(target, header_.orientation));
         if (!picture) return std::nullopt;
         if (header_.isInk)
-            convertInkToScreen(*picture, header_.inkSense, header_.colorProfile);
+            convertInkToScreen(*picture, header_.inkPolarity, header_.colorProfile);
         else
             convertToScreen(*picture, header_.colorProfile);
-        return turned(std::move(*picture), header_.orientation);
+        return upright(std::move(*picture), header_.orientation);
     }
 
 private:

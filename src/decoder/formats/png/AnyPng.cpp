@@ -79,14 +79,14 @@ void chooseRows(png_structp png, png_infop info) {
 void infoIsRead(png_structp png, png_infop info) {
     auto& rows = *static_cast<Rows*>(png_get_progressive_ptr(png));
     chooseRows(png, info);
-    bool isPossible = false;
+    bool isSupported = false;
     // Exceptions must not pass through libpng.
     try {
-        isPossible = rows.begin(png_get_channels(png, info));
+        isSupported = rows.begin(png_get_channels(png, info));
     } catch (const std::exception&) {
-        isPossible = false;
+        isSupported = false;
     }
-    if (!isPossible) png_error(png, "");
+    if (!isSupported) png_error(png, "");
 }
 
 void rowIsRead(png_structp png, png_bytep row, png_uint_32 number, int) {
@@ -148,7 +148,7 @@ std::optional<Picture> drawAnyPng(const InputFile& file, const PngHeader& header
     constexpr std::array<std::uint8_t, 12> end = {0,   0,   0,    0,    'I',  'E',
                                                   'N', 'D', 0xae, 0x42, 0x60, 0x82};
     PngStream stream(file, header);
-    if (!png.process(header.picturePart) || !processData(png, stream) || !stream.endsWell() ||
+    if (!png.process(header.drawingChunks) || !processData(png, stream) || !stream.finishIntact() ||
         !png.process(end))
         return std::nullopt;
     return rows.take();

@@ -132,7 +132,7 @@ std::optional<Picture> drawPlainPng(const InputFile& file, const PngHeader& head
         left -= count;
     }
     pipeline.finish();
-    return stream.endsWell() ? rows.take() : std::nullopt;
+    return stream.finishIntact() ? rows.take() : std::nullopt;
 }
 
 }  // namespace vantle::decoder

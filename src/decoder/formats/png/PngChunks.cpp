@@ -58,7 +58,7 @@ void readResolution(PngHeader& header, std::span<const std::uint8_t> data) {
     constexpr std::uint8_t perMetre = 1;
     if (data.size() != 9 || data[8] != perMetre) return;
     header.resolution =
-        Resolution::of(bigEndian32(data.data()), bigEndian32(&data[4]), Resolution::metresInInch);
+        Resolution::of(bigEndian32(data.data()), bigEndian32(&data[4]), Resolution::metresPerInch);
 }
 
 bool readSizes(PngHeader& header, std::span<const std::uint8_t> data) {
@@ -86,12 +86,12 @@ bool readChunk(PngHeader& header, PngChunks& chunks, const PngChunk& chunk) {
     const auto data = chunks.data(chunk, belongsToPicture ? maximumTable : maximumProfile);
     // Chunks that only describe the picture may be damaged; the others may not.
     if (!data) return !belongsToPicture;
-    if (belongsToPicture) appendChunk(header.picturePart, chunk, *data);
+    if (belongsToPicture) appendChunk(header.drawingChunks, chunk, *data);
     if (chunk.is("tRNS")) header.hasTransparency = true;
     if (chunk.is("pHYs")) readResolution(header, *data);
     if (chunk.is("iCCP")) header.colorProfile = colorProfile(*data);
-    constexpr std::size_t maximumPicturePart = 4096;
-    return header.picturePart.size() <= maximumPicturePart &&
+    constexpr std::size_t maximumDrawingChunks = 4096;
+    return header.drawingChunks.size() <= maximumDrawingChunks &&
            (!chunk.is("IHDR") || readSizes(header, *data));
 }
 
@@ -118,11 +118,11 @@ std::optional<std::vector<std::uint8_t>> PngChunks::data(const PngChunk& chunk, 
     }
     std::vector<std::uint8_t> data;
     data.reserve(chunk.length);
-    for (auto some = someData(); !some.empty(); some = someData()) append(data, some);
+    for (auto some = nextData(); !some.empty(); some = nextData()) append(data, some);
     return isIntact() ? std::optional(std::move(data)) : std::nullopt;
 }
 
-std::span<const std::uint8_t> PngChunks::someData() {
+std::span<const std::uint8_t> PngChunks::nextData() {
     if (left_ == 0) return {};
     const auto bytes = stream_.peek();
     const auto some = bytes.first(std::min<std::size_t>(bytes.size(), left_));
@@ -147,7 +147,7 @@ std::optional<PngHeader> readPngHeader(const InputFile& file) {
     std::array<std::uint8_t, 8> start{};
     if (file.read(0, start) != start.size() || start != signature) return std::nullopt;
     PngHeader header;
-    append(header.picturePart, signature);
+    append(header.drawingChunks, signature);
     PngChunks chunks(file);
     bool isFirst = true;
     for (;;) {

@@ -36,9 +36,9 @@ public:
     std::optional<std::vector<std::uint8_t>> data(const PngChunk& chunk, std::size_t limit);
 
     /// Returns some of the chunk's data; empty at the end of the chunk or of the file.
-    std::span<const std::uint8_t> someData();
+    std::span<const std::uint8_t> nextData();
 
-    /// Reads the checksum and returns true if it matches the chunk's data, all of which someData()
+    /// Reads the checksum and returns true if it matches the chunk's data, all of which nextData()
     /// must have returned before.
     bool isIntact();
 
@@ -60,7 +60,7 @@ struct PngHeader {
     Resolution resolution;
     std::vector<std::uint8_t> colorProfile;  ///< ICC; empty if there is none.
     /// The signature, header, palette and transparency, as they are stored.
-    std::vector<std::uint8_t> picturePart;
+    std::vector<std::uint8_t> drawingChunks;
     /// The position of the first chunk of picture data in the file.
     std::int64_t dataPosition = 0;
 

@@ -35,14 +35,14 @@ struct Loops {
 #define VANTLE_LOOPS(NAME, TARGET, BYTES)                                                \
     template <int size>                                                                  \
     struct NAME {                                                                        \
-        static constexpr Bytes bytes = BYTES;                                            \
+        static constexpr ByteShuffle shuffle = BYTES;                                    \
         TARGET static void up(const std::uint8_t* stored, const std::uint8_t* above,     \
                               std::uint8_t* row, std::size_t count) {                    \
             undoUp(stored, above, row, count);                                           \
         }                                                                                \
         template <int count, typename Prediction>                                        \
         TARGET static void together(const Rows& rows) {                                  \
-            undoTogether<size, count, bytes, Prediction>(rows);                          \
+            undoTogether<size, count, shuffle, Prediction>(rows);                        \
         }                                                                                \
         template <typename Prediction>                                                   \
         static constexpr Loops::ByCount byCount() {                                      \
@@ -63,12 +63,12 @@ struct Loops {
 // NOLINTEND(bugprone-macro-parentheses)
 
 #ifdef __SSE2__
-VANTLE_LOOPS(Portable, , Bytes::slow)
+VANTLE_LOOPS(Portable, , ByteShuffle::slow)
 #else
-VANTLE_LOOPS(Portable, , Bytes::quick)
+VANTLE_LOOPS(Portable, , ByteShuffle::quick)
 #endif
 #ifdef __x86_64__
-VANTLE_LOOPS(Avx2, [[gnu::target("avx2")]], Bytes::quick)
+VANTLE_LOOPS(Avx2, [[gnu::target("avx2")]], ByteShuffle::quick)
 #endif
 
 template <int size>

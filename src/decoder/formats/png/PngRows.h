@@ -89,8 +89,8 @@ inline int prediction(Filter filter, int left, int up, int upLeft) {
 }
 
 /// Undoes the filter of one row for the bytes from `begin` to `end`, one by one.
-inline void undoSome(const Rows& rows, int row, int size, std::ptrdiff_t begin,
-                     std::ptrdiff_t end) {
+inline void undoBytes(const Rows& rows, int row, int size, std::ptrdiff_t begin,
+                      std::ptrdiff_t end) {
     const std::uint8_t* stored = rows.storedRow(row);
     const std::uint8_t* above = rows.rowAbove(row);
     std::uint8_t* out = rows.outRow(row);
@@ -148,13 +148,13 @@ private:
 };
 
 /// The speed of reordering bytes in a vector; quick means in one step.
-enum class Bytes { slow, quick };
+enum class ByteShuffle { slow, quick };
 
 /// Returns four neighbouring pixels. Reads up to four bytes too many if pixels have three bytes.
-template <int size, Bytes bytes>
+template <int size, ByteShuffle shuffle>
 VANTLE_LOOP Words fourPixels(const std::uint8_t* from) {
     constexpr std::ptrdiff_t step = size;
-    if constexpr (bytes == Bytes::slow)
+    if constexpr (shuffle == ByteShuffle::slow)
         return Words{word(from), word(from + step), word(from + 2 * step), word(from + 3 * step)};
     Pixels some;
     std::memcpy(&some, from, sizeof some);
@@ -164,9 +164,9 @@ VANTLE_LOOP Words fourPixels(const std::uint8_t* from) {
 }
 
 /// Writes four neighbouring pixels, and up to four bytes too many if pixels have three bytes.
-template <int size, Bytes bytes>
+template <int size, ByteShuffle shuffle>
 VANTLE_LOOP void write(Words four, std::uint8_t* to) {
-    if constexpr (bytes == Bytes::slow) {
+    if constexpr (shuffle == ByteShuffle::slow) {
         for (int i = 0; i < lanes; ++i, to += size) {
             const std::uint32_t pixel = four[i];
             std::memcpy(to, &pixel, sizeof pixel);
@@ -196,7 +196,7 @@ VANTLE_LOOP FourWords transposed(const FourWords& of) {
 
 /// Handles up to four rows from `first` on, each one pixel behind the row above it. Four steps are
 /// one round.
-template <int size, int first, int count, Bytes bytes, typename Prediction>
+template <int size, int first, int count, ByteShuffle shuffle, typename Prediction>
 class FourRows {
 public:
     /// Starts before the pixel `at` of the first row.
@@ -220,7 +220,7 @@ public:
         FourWords rows{};
         const std::uint8_t* from = stored_;
         for (std::size_t i = 0; i < std::size_t{used}; ++i, from += storedStep_)
-            rows[i] = fourPixels<size, bytes>(from);
+            rows[i] = fourPixels<size, shuffle>(from);
         columns_ = transposed(rows);
         stored_ += roundSize;
     }
@@ -241,7 +241,7 @@ public:
         const FourWords rows = transposed(columns_);
         std::uint8_t* to = out_;
         for (std::size_t i = 0; i < std::size_t{used}; ++i, to += outStep_)
-            write<size, bytes>(rows[i], to);
+            write<size, shuffle>(rows[i], to);
         out_ += roundSize;
     }
 
@@ -260,7 +260,7 @@ private:
 };
 
 /// Handles up to eight rows.
-template <int size, int count, Bytes bytes, typename Prediction>
+template <int size, int count, ByteShuffle shuffle, typename Prediction>
 class EightRows {
 public:
     VANTLE_LOOP EightRows(const Rows& rows, std::ptrdiff_t at)
@@ -284,11 +284,11 @@ private:
         upper_.template step<number>(number, above);
     }
 
-    FourRows<size, 0, count, bytes, Prediction> upper_;
-    FourRows<size, lanes, count, bytes, Prediction> lower_;
+    FourRows<size, 0, count, shuffle, Prediction> upper_;
+    FourRows<size, lanes, count, shuffle, Prediction> lower_;
 };
 
-template <int size, int count, Bytes bytes, typename Prediction>
+template <int size, int count, ByteShuffle shuffle, typename Prediction>
 class UpToFourRows {
 public:
     VANTLE_LOOP UpToFourRows(const Rows& rows, std::ptrdiff_t at) : rows_(rows, at) {}
@@ -303,12 +303,12 @@ public:
     }
 
 private:
-    FourRows<size, 0, count, bytes, Prediction> rows_;
+    FourRows<size, 0, count, shuffle, Prediction> rows_;
 };
 
 /// Undoes `count` rows at once, each one pixel behind the row above it. Each step must wait for the
 /// one before it, so eight rows take hardly longer than one.
-template <int size, int count, Bytes bytes, typename Prediction>
+template <int size, int count, ByteShuffle shuffle, typename Prediction>
 VANTLE_LOOP void undoTogether(const Rows& rows) {
     const std::ptrdiff_t width = rows.size / size;
     const std::ptrdiff_t begin = std::min<std::ptrdiff_t>(count - 1, width);
@@ -319,14 +319,14 @@ VANTLE_LOOP void undoTogether(const Rows& rows) {
     const auto bytesBefore = [](std::ptrdiff_t at, int row) {
         return std::max<std::ptrdiff_t>(at - row, 0) * size;
     };
-    for (int row = 0; row < count; ++row) undoSome(rows, row, size, 0, bytesBefore(begin, row));
-    std::conditional_t<(count > lanes), EightRows<size, count, bytes, Prediction>,
-                       UpToFourRows<size, count, bytes, Prediction>>
+    for (int row = 0; row < count; ++row) undoBytes(rows, row, size, 0, bytesBefore(begin, row));
+    std::conditional_t<(count > lanes), EightRows<size, count, shuffle, Prediction>,
+                       UpToFourRows<size, count, shuffle, Prediction>>
         together(rows, begin);
     for (std::ptrdiff_t at = begin; at < end; at += lanes)
-        together.round(fourPixels<size, bytes>(rows.above + at * size));
+        together.round(fourPixels<size, shuffle>(rows.above + at * size));
     for (int row = 0; row < count; ++row)
-        undoSome(rows, row, size, bytesBefore(end, row), rows.size);
+        undoBytes(rows, row, size, bytesBefore(end, row), rows.size);
 }
 
 }  // namespace vantle::decoder::png

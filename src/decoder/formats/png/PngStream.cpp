@@ -3,9 +3,9 @@
 namespace vantle::decoder {
 
 std::span<const std::uint8_t> PngStream::next() {
-    while (!isDamaged_ && !isBehindData_) {
+    while (!isDamaged_ && !isPastData_) {
         if (isInData_) {
-            const auto some = chunks_.someData();
+            const auto some = chunks_.nextData();
             if (!some.empty()) return some;
             isInData_ = false;
             if (!chunks_.isIntact()) isDamaged_ = true;
@@ -14,12 +14,12 @@ std::span<const std::uint8_t> PngStream::next() {
         chunk_ = chunks_.next();
         if (!chunk_) isDamaged_ = true;
         isInData_ = chunk_ && chunk_->is("IDAT");
-        isBehindData_ = !isInData_;
+        isPastData_ = !isInData_;
     }
     return {};
 }
 
-bool PngStream::endsWell() {
+bool PngStream::finishIntact() {
     while (!next().empty()) continue;
     while (!isDamaged_ && chunk_ && !chunk_->is("IEND")) {
         chunks_.skip();

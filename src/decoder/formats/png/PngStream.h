@@ -17,12 +17,12 @@ public:
 
     /// Reads the rest of the file. Returns true if the file was complete and its picture data were
     /// undamaged.
-    bool endsWell();
+    bool finishIntact();
 
 private:
     PngChunks chunks_;
     bool isInData_ = false;
-    bool isBehindData_ = false;
+    bool isPastData_ = false;
     bool isDamaged_ = false;
     std::optional<PngChunk> chunk_;
 };

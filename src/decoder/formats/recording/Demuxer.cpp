@@ -16,7 +16,7 @@ namespace {
 constexpr int bufferSize = 64 * 1024;
 
 /// The most bytes to read in search of a recording's duration: some minutes of a screen recording.
-constexpr std::int64_t farthestLook = std::int64_t{512} * 1024 * 1024;
+constexpr std::int64_t maximumSearchBytes = std::int64_t{512} * 1024 * 1024;
 
 /// Later times cannot be real in any unit.
 constexpr std::int64_t latestTime = std::numeric_limits<std::int64_t>::max() / 4;
@@ -113,7 +113,7 @@ void Demuxer::findLastPacket() {
         const std::int64_t length = std::max<std::int64_t>(packet->duration, 0);
         av_packet_unref(packet.get());
         // The file is too long to read on, so the duration stays unknown.
-        if (position_ > farthestLook) return;
+        if (position_ > maximumSearchBytes) return;
         if (begin < 0 || begin > latestTime || length > latestTime) continue;
         if (first == AV_NOPTS_VALUE) first = begin;
         end = std::max(end, begin + length);
@@ -148,7 +148,7 @@ Orientation Demuxer::orientation(const AVStream& track) {
         case 1:
             return Orientation::turnRight;
         case 2:
-            return Orientation::turnedAround;
+            return Orientation::rotated180;
         case 3:
             return Orientation::turnLeft;
         default:
@@ -163,7 +163,7 @@ Size Demuxer::naturalSize(const AVStream& track) {
     const double stretch = ratio.num > 0 && ratio.den > 0 ? av_q2d(ratio) : 1;
     const Size stored{std::round(parameters.width * stretch),
                       static_cast<double>(parameters.height)};
-    return turned(stored, orientation(track));
+    return swappedIfTurned(stored, orientation(track));
 }
 
 }  // namespace vantle::decoder

@@ -36,9 +36,9 @@ public:
         if (!frame) return std::nullopt;
         const Orientation orientation = Demuxer::orientation(*track);
         const PixelSize target = fitting(Demuxer::naturalSize(*track), maximumDimension);
-        auto picture = pictureOf(*frame, turned(target, orientation));
+        auto picture = pictureOf(*frame, swappedIfTurned(target, orientation));
         if (!picture) return std::nullopt;
-        return turned(std::move(*picture), orientation);
+        return upright(std::move(*picture), orientation);
     }
 
 private:

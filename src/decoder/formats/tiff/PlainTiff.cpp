@@ -17,7 +17,7 @@ public:
         : samples_(std::move(samples)),
           reduction_(header.size, target, samples_.layout()),
           left_(header.size.height) {
-        if (samples_.hasAlphaOfInk()) alphaOfInk_.emplace(header.size, target, PixelLayout::gray);
+        if (samples_.hasInkAlpha()) inkAlpha_.emplace(header.size, target, PixelLayout::gray);
     }
 
     const TiffSamples& samples() const { return samples_; }
@@ -28,9 +28,9 @@ public:
         if (left_ == 0) return;
         samples_.convert(stored, reduction_.row());
         reduction_.rowIsWritten();
-        if (alphaOfInk_) {
-            samples_.writeAlphaOfInk(alphaOfInk_->row());
-            alphaOfInk_->rowIsWritten();
+        if (inkAlpha_) {
+            samples_.writeInkAlpha(inkAlpha_->row());
+            inkAlpha_->rowIsWritten();
         }
         --left_;
     }
@@ -39,9 +39,9 @@ public:
     std::optional<Picture> take(std::span<const std::uint8_t> profile) {
         auto picture = reduction_.take();
         if (!picture) return std::nullopt;
-        if (alphaOfInk_) return takeTranslucentInk(std::move(*picture), profile);
+        if (inkAlpha_) return takeTranslucentInk(std::move(*picture), profile);
         if (samples_.layout() == PixelLayout::cmyk)
-            convertInkToScreen(*picture, InkSense::moreIsDarker, profile);
+            convertInkToScreen(*picture, InkPolarity::moreIsDarker, profile);
         else
             convertToScreen(*picture, profile);
         return picture;
@@ -49,13 +49,13 @@ public:
 
 private:
     std::optional<Picture> takeTranslucentInk(Picture ink, std::span<const std::uint8_t> profile) {
-        const auto alpha = alphaOfInk_->take();
+        const auto alpha = inkAlpha_->take();
         if (!alpha) return std::nullopt;
         for (std::size_t i = 0; i < ink.rgba.size(); ++i) {
             const std::uint8_t maximum = alpha->rgba[i / 4 * 4];
             ink.rgba[i] = dividedByAlpha(std::min(ink.rgba[i], maximum), maximum);
         }
-        convertInkToScreen(ink, InkSense::moreIsDarker, profile);
+        convertInkToScreen(ink, InkPolarity::moreIsDarker, profile);
         for (std::size_t i = 3; i < ink.rgba.size(); i += 4) ink.rgba[i] = alpha->rgba[i - 1];
         changeColors(ink.rgba, multipliedByAlpha);
         return ink;
@@ -63,12 +63,12 @@ private:
 
     TiffSamples samples_;
     ThreadedReduction reduction_;
-    std::optional<ThreadedReduction> alphaOfInk_;
+    std::optional<ThreadedReduction> inkAlpha_;
     int left_;
 };
 
 /// Converts samples to this machine's byte order.
-void putInOrder(TIFF* tiff, std::vector<std::uint8_t>& row, std::size_t sampleSize) {
+void convertByteOrder(TIFF* tiff, std::vector<std::uint8_t>& row, std::size_t sampleSize) {
     if (!TIFFIsByteSwapped(tiff)) return;
     const auto count = static_cast<tmsize_t>(row.size() / sampleSize);
     void* samples = row.data();
@@ -89,7 +89,7 @@ bool readUncompressed(TiffFile& file, RowSink& sink) {
         stream.seek(offset);
         for (int i = 0; i < rowsInStrip && sink.left() > 0; ++i) {
             if (!stream.read(row)) return false;
-            putInOrder(file.tiff(), row, sink.samples().sampleSize());
+            convertByteOrder(file.tiff(), row, sink.samples().sampleSize());
             sink.add(row.data());
         }
     }

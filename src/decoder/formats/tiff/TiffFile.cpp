@@ -102,7 +102,7 @@ void TiffFile::readHeader() {
     if (unit != RESUNIT_NONE && TIFFGetField(tiff, TIFFTAG_XRESOLUTION, &across) &&
         TIFFGetField(tiff, TIFFTAG_YRESOLUTION, &down))
         header_.resolution = Resolution::of(
-            across, down, unit == RESUNIT_CENTIMETER ? Resolution::centimetresInInch : 1);
+            across, down, unit == RESUNIT_CENTIMETER ? Resolution::centimetresPerInch : 1);
 
     std::uint32_t profileSize = 0;
     void* profile = nullptr;

@@ -9,19 +9,21 @@ class TiffImage final : public StillImage {
 public:
     TiffImage(const InputFile& file, TiffHeader header) : file_(file), header_(std::move(header)) {}
 
-    PixelSize pixelSize() const override { return turned(header_.size, header_.orientation); }
+    PixelSize pixelSize() const override {
+        return swappedIfTurned(header_.size, header_.orientation);
+    }
 
     Size pointSize() const override {
-        return turned(header_.resolution.points(header_.size), header_.orientation);
+        return swappedIfTurned(header_.resolution.points(header_.size), header_.orientation);
     }
 
     std::optional<Picture> draw(PixelSize target) override {
         const auto file = TiffFile::open(file_);
         if (!file) return std::nullopt;
-        const PixelSize stored = turned(target, header_.orientation);
+        const PixelSize stored = swappedIfTurned(target, header_.orientation);
         auto picture = isPlain(header_) ? drawPlainTiff(*file, stored) : drawAnyTiff(*file, stored);
         if (!picture) return std::nullopt;
-        return turned(std::move(*picture), header_.orientation);
+        return upright(std::move(*picture), header_.orientation);
     }
 
 private:

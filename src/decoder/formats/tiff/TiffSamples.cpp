@@ -52,7 +52,7 @@ void unpackBits(const std::uint8_t* stored, std::uint8_t* samples, std::size_t c
         samples[i] = (stored[i / 8] >> (7 - i % 8)) & 1 ? 255 : 0;
 }
 
-bool isUsual(const TiffHeader& header) {
+bool hasSupportedSamples(const TiffHeader& header) {
     constexpr std::uint16_t maximumSamples = 16;
     if (header.samplesPerPixel < 1 || header.samplesPerPixel > maximumSamples) return false;
     switch (header.bitsPerSample) {
@@ -75,16 +75,16 @@ bool isUsual(const TiffHeader& header) {
 
 TiffSamples::TiffSamples(const TiffHeader& header)
     : bits_(header.bitsPerSample),
-      hasPoint_(header.sampleFormat == SAMPLEFORMAT_IEEEFP),
+      isFloatingPoint_(header.sampleFormat == SAMPLEFORMAT_IEEEFP),
       isInverted_(header.photometric == PHOTOMETRIC_MINISWHITE),
       perPixel_(header.samplesPerPixel),
       count_(static_cast<std::size_t>(header.size.width) * header.samplesPerPixel) {}
 
 std::optional<TiffSamples> TiffSamples::of(const TiffHeader& header) {
-    if (!isUsual(header)) return std::nullopt;
+    if (!hasSupportedSamples(header)) return std::nullopt;
     TiffSamples samples(header);
     if (!samples.chooseSamples(header)) return std::nullopt;
-    if (!samples.isChoiceAll()) samples.narrowed_.resize(samples.count_);
+    if (!samples.choosesAllSamples()) samples.narrowed_.resize(samples.count_);
     return samples;
 }
 
@@ -107,7 +107,7 @@ bool TiffSamples::chooseSamples(const TiffHeader& header) {
             return perPixel_ >= 3;
         case PHOTOMETRIC_SEPARATED:
             layout_ = PixelLayout::cmyk;
-            if (perPixel_ > 4 && isTranslucent) alphaOfInk_ = 4;
+            if (perPixel_ > 4 && isTranslucent) inkAlpha_ = 4;
             isInkMultiplied_ = !isStraight;
             return perPixel_ >= 4 && header.inkSet == INKSET_CMYK;
         default:
@@ -115,12 +115,12 @@ bool TiffSamples::chooseSamples(const TiffHeader& header) {
     }
 }
 
-bool TiffSamples::isChoiceAll() const {
+bool TiffSamples::choosesAllSamples() const {
     return perPixel_ == static_cast<std::size_t>(channelCount(layout_));
 }
 
 void TiffSamples::convert(const std::uint8_t* stored, std::uint8_t* row) {
-    if (isChoiceAll()) {
+    if (choosesAllSamples()) {
         narrow(stored, row);
         return;
     }
@@ -130,21 +130,21 @@ void TiffSamples::convert(const std::uint8_t* stored, std::uint8_t* row) {
     for (std::size_t pixel = 0; pixel < count_; pixel += perPixel_)
         for (std::size_t channel = 0; channel < channels; ++channel)
             *out++ = narrowed_[pixel + chosen_[channel]];
-    if (alphaOfInk_ && !isInkMultiplied_) multiplyInk(row);
+    if (inkAlpha_ && !isInkMultiplied_) multiplyInk(row);
 }
 
-void TiffSamples::writeAlphaOfInk(std::uint8_t* row) const {
+void TiffSamples::writeInkAlpha(std::uint8_t* row) const {
     for (std::size_t pixel = 0; pixel < count_; pixel += perPixel_)
-        *row++ = narrowed_[pixel + *alphaOfInk_];
+        *row++ = narrowed_[pixel + *inkAlpha_];
 }
 
 void TiffSamples::narrow(const std::uint8_t* stored, std::uint8_t* samples) const {
     if (bits_ == 1) unpackBits(stored, samples, count_);
     if (bits_ == 8) std::memcpy(samples, stored, count_);
-    if (bits_ == 16 && hasPoint_) narrowAll<Half>(stored, samples, count_);
-    if (bits_ == 16 && !hasPoint_) narrowAll<std::uint16_t>(stored, samples, count_);
-    if (bits_ == 32 && hasPoint_) narrowAll<float>(stored, samples, count_);
-    if (bits_ == 32 && !hasPoint_) narrowAll<std::uint32_t>(stored, samples, count_);
+    if (bits_ == 16 && isFloatingPoint_) narrowAll<Half>(stored, samples, count_);
+    if (bits_ == 16 && !isFloatingPoint_) narrowAll<std::uint16_t>(stored, samples, count_);
+    if (bits_ == 32 && isFloatingPoint_) narrowAll<float>(stored, samples, count_);
+    if (bits_ == 32 && !isFloatingPoint_) narrowAll<std::uint32_t>(stored, samples, count_);
     if (bits_ == 64) narrowAll<double>(stored, samples, count_);
     if (isInverted_)
         for (std::size_t i = 0; i < count_; ++i)
@@ -154,7 +154,7 @@ void TiffSamples::narrow(const std::uint8_t* stored, std::uint8_t* samples) cons
 void TiffSamples::multiplyInk(std::uint8_t* row) const {
     for (std::size_t pixel = 0; pixel < count_; pixel += perPixel_, row += 4)
         for (std::size_t ink = 0; ink < 4; ++ink)
-            row[ink] = multipliedByAlpha(row[ink], narrowed_[pixel + *alphaOfInk_]);
+            row[ink] = multipliedByAlpha(row[ink], narrowed_[pixel + *inkAlpha_]);
 }
 
 }  // namespace vantle::decoder

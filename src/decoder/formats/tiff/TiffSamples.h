@@ -20,7 +20,7 @@ public:
     PixelLayout layout() const { return layout_; }
     /// Returns true if ink has an alpha. A reduction of ink has no channel for it, so convert()
     /// multiplies the ink by it.
-    bool hasAlphaOfInk() const { return alphaOfInk_.has_value(); }
+    bool hasInkAlpha() const { return inkAlpha_.has_value(); }
 
     /// Returns the size in bytes of a row in which the samples of each pixel are side by side.
     std::size_t storedRowSize() const { return (count_ * bits_ + 7) / 8; }
@@ -30,23 +30,23 @@ public:
     /// Converts one row. `stored` is in this machine's byte order.
     void convert(const std::uint8_t* stored, std::uint8_t* row);
     /// Writes the alpha of the row of ink that was converted last.
-    void writeAlphaOfInk(std::uint8_t* row) const;
+    void writeInkAlpha(std::uint8_t* row) const;
 
 private:
     explicit TiffSamples(const TiffHeader& header);
     bool chooseSamples(const TiffHeader& header);
-    bool isChoiceAll() const;
+    bool choosesAllSamples() const;
     void narrow(const std::uint8_t* stored, std::uint8_t* samples) const;
     void multiplyInk(std::uint8_t* row) const;
 
     std::size_t bits_;
-    bool hasPoint_;
+    bool isFloatingPoint_;
     bool isInverted_;
     std::size_t perPixel_;  ///< Stored samples per pixel.
     std::size_t count_;     ///< Stored samples per row.
     PixelLayout layout_ = PixelLayout::gray;
     std::array<std::size_t, 4> chosen_{};  ///< The index of each channel's sample in a pixel.
-    std::optional<std::size_t> alphaOfInk_;
+    std::optional<std::size_t> inkAlpha_;
     bool isInkMultiplied_ = false;        ///< The stored ink is already multiplied by its alpha.
     std::vector<std::uint8_t> narrowed_;  ///< All samples of a row, in 8 bits each.
 };

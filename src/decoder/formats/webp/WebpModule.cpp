@@ -155,17 +155,19 @@ public:
         return frame_->isUsable();
     }
 
-    PixelSize pixelSize() const override { return turned(frame_->canvas(), exif_.orientation); }
+    PixelSize pixelSize() const override {
+        return swappedIfTurned(frame_->canvas(), exif_.orientation);
+    }
     Size pointSize() const override {
         const Size stored = exif_.resolution.value_or(Resolution{}).points(frame_->canvas());
-        return turned(stored, exif_.orientation);
+        return swappedIfTurned(stored, exif_.orientation);
     }
 
     std::optional<Picture> draw(PixelSize target) override {
-        auto picture = frame_->draw(turned(target, exif_.orientation));
+        auto picture = frame_->draw(swappedIfTurned(target, exif_.orientation));
         if (!picture) return std::nullopt;
         convertToScreen(*picture, chunk(demuxer_.get(), "ICCP"));
-        return turned(std::move(*picture), exif_.orientation);
+        return upright(std::move(*picture), exif_.orientation);
     }
 
 private:
