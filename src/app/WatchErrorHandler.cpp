@@ -92,7 +92,7 @@ void WatchErrorHandler::recreate(const Url& folder) {
     // The next step shows if this has succeeded.
     (void)services_.files.createDirectory(folder);
     // Everything in a folder that was just created is new.
-    if (services_.watcher.start(folder, CaptureWatcher::Existing::isNew))
+    if (services_.watcher.start(folder, CaptureWatcher::ExistingFiles::report))
         offerSettings(missingAlert(folder));
     else
         lastWatchError_.reset();
@@ -114,7 +114,7 @@ void WatchErrorHandler::recreatedOnServer(const Url& folder, bool isThere) {
         return;
     }
     lastWatchError_.reset();
-    services_.watcher.start(folder, CaptureWatcher::Existing::isNew);
+    services_.watcher.start(folder, CaptureWatcher::ExistingFiles::report);
 }
 
 void WatchErrorHandler::offerSettings(const Alert& alert) {

@@ -14,7 +14,7 @@ constexpr Seconds newestAge{120};  // an older file was moved in from elsewhere
 constexpr Seconds pollingInterval{0.25};
 constexpr int lastAttempt = 41;
 constexpr std::int64_t unknownSize = -1;
-constexpr int maximumOnTheirWay = 4;
+constexpr int maximumUndelivered = 4;
 
 WatchError watchError(const Failure& failure) {
     if (failure.code == EPERM || failure.code == EACCES) return WatchError::accessDenied();
@@ -31,7 +31,7 @@ CaptureWatcher::~CaptureWatcher() {
     stop();
 }
 
-std::optional<WatchError> CaptureWatcher::start(const Url& folder, Existing existing) {
+std::optional<WatchError> CaptureWatcher::start(const Url& folder, ExistingFiles existing) {
     if (isOpening() && folder_ == folder) return std::nullopt;
     const bool goesOn = isWatching() && folder_ == folder;
     const auto kept = goesOn ? std::nullopt : std::optional(existing);
@@ -50,7 +50,7 @@ void CaptureWatcher::stop() {
     source_.reset();
 }
 
-void CaptureWatcher::openInBackground(WatchNumber watch, std::optional<Existing> existing) {
+void CaptureWatcher::openInBackground(WatchNumber watch, std::optional<ExistingFiles> existing) {
     opening_ = watch;
     const auto self = shared_from_this();
     services_.servers.async(weakly(self, [folder = *folder_, watch, existing](auto& opener) {
@@ -78,7 +78,7 @@ CaptureWatcher::Opening CaptureWatcher::open(const Url& folder, WatchNumber watc
 }
 
 std::optional<WatchError> CaptureWatcher::begin(const Opening& opening, WatchNumber watch,
-                                                std::optional<Existing> existing) {
+                                                std::optional<ExistingFiles> existing) {
     if (const auto* error = std::get_if<WatchError>(&opening)) {
         report(*error);
         return *error;
@@ -94,7 +94,7 @@ std::optional<WatchError> CaptureWatcher::begin(const Opening& opening, WatchNum
     });
     // known_ belongs to the queue. The scan finds files that were saved after the listing and
     // before the source was open.
-    const NameList known = existing == Existing::isKnown ? names : NameList();
+    const NameList known = existing == ExistingFiles::ignore ? names : NameList();
     services_.queue.async(weakly(shared_from_this(), [folder, watch, known, existing](auto& self) {
         if (existing) self.known_ = KnownNames(folder, known);
         self.handleEvent(folder, watch, {.contents = true});
@@ -133,37 +133,38 @@ void CaptureWatcher::scan(const Url& folder) {
     if (!listing) return;
     const Date now = services_.clock.now();
     known_.reconcile(listing.value(), [&](std::string_view name) {
-        if (consider(folder, name, now) == Look::again)
+        if (checkFile(folder, name, now) == CheckResult::again)
             services_.queue.after(
                 pollingInterval,
                 weakly(shared_from_this(), [folder, found = std::string(name)](auto& self) {
-                    (void)self.consider(folder, found, self.services_.clock.now());
+                    (void)self.checkFile(folder, found, self.services_.clock.now());
                 }));
     });
 }
 
-CaptureWatcher::Look CaptureWatcher::consider(const Url& folder, std::string_view name, Date now) {
-    if (name.starts_with('.')) return Look::done;
+CaptureWatcher::CheckResult CaptureWatcher::checkFile(const Url& folder, std::string_view name,
+                                                      Date now) {
+    if (name.starts_with('.')) return CheckResult::done;
     const Url url = folder.appending(name);
-    if (pending_.contains(url.path())) return Look::done;
-    if (!Capture::kind(url, services_.additionalExtensions)) return Look::done;
+    if (pending_.contains(url.path())) return CheckResult::done;
+    if (!Capture::kind(url, services_.additionalExtensions)) return CheckResult::done;
     const auto values = services_.files.resourceValues(url);
     // While a program writes the file, it is not known to be a regular one. The event for the end
     // of the writing may arrive before the program has closed the file.
-    if (values && !values.value().isRegularFile) return Look::again;
-    if (!values || values.value().isRegularFile != true) return Look::done;
+    if (values && !values.value().isRegularFile) return CheckResult::again;
+    if (!values || values.value().isRegularFile != true) return CheckResult::done;
 
     const Date fileDate =
         values.value().contentModificationDate.value_or(values.value().creationDate.value_or(now));
     if (now - fileDate >= newestAge) {
         known_.insert(name);
-        return Look::done;
+        return CheckResult::done;
     }
     pending_.insert(url.path());
     waitUntilStable(url, 0, unknownSize, weakly(shared_from_this(), [url, fileDate](auto& self) {
                         self.settle(url, fileDate);
                     }));
-    return Look::done;
+    return CheckResult::done;
 }
 
 void CaptureWatcher::waitUntilStable(const Url& url, int attempts, std::int64_t lastSize,
@@ -194,7 +195,7 @@ void CaptureWatcher::settle(const Url& url, Date fileDate) {
 
 void CaptureWatcher::deliverNext() {
     // Each capture that waits for the main thread keeps a picture in memory.
-    if (settled_.empty() || onTheirWay_ >= maximumOnTheirWay) return;
+    if (settled_.empty() || undelivered_ >= maximumUndelivered) return;
     const Settled next = std::move(settled_.front());
     settled_.pop_front();
     deliver(next.url, next.date);
@@ -204,10 +205,10 @@ void CaptureWatcher::deliver(const Url& url, Date fileDate) {
     const auto capture = Capture::create(url, fileDate, services_.additionalExtensions);
     if (!capture) return;
     capture->loadThumbnail(services_.media);
-    ++onTheirWay_;
+    ++undelivered_;
     finished_.add([self = shared_from_this(), capture] {
         if (self->onCapture) self->onCapture(capture);
-        --self->onTheirWay_;
+        --self->undelivered_;
         self->services_.queue.async(weakly(self, [](auto& watcher) { watcher.deliverNext(); }));
     });
 }

@@ -13,7 +13,7 @@
 
 #include "capture/Capture.h"
 #include "capture/KnownNames.h"
-#include "capture/Turns.h"
+#include "capture/OnePerTurn.h"
 #include "capture/WatchError.h"
 #include "platform/DirectoryEvents.h"
 #include "platform/FileManager.h"
@@ -55,9 +55,9 @@ public:
     /// Called if watching has failed or ended, after the start() concerned has returned.
     std::function<void(const WatchError&)> onError;
 
-    /// Files that are in the folder when watching begins are never reported (isKnown), or reported
-    /// as if they were saved then (isNew).
-    enum class Existing { isKnown, isNew };
+    /// Files that are in the folder when watching begins are never reported (ignore), or reported
+    /// as if they were saved then (report).
+    enum class ExistingFiles { ignore, report };
 
     /// Watches `folder` from now on instead of any other. Returns std::nullopt on success,
     /// otherwise the error, which is also logged and passed to onError. Starting again on the
@@ -66,7 +66,8 @@ public:
     ///
     /// A remote folder is opened in the background, however long it takes to answer. The result is
     /// then std::nullopt; an error is logged and passed to onError.
-    std::optional<WatchError> start(const Url& folder, Existing existing = Existing::isKnown);
+    std::optional<WatchError> start(const Url& folder,
+                                    ExistingFiles existing = ExistingFiles::ignore);
 
     /// Stops watching. Files that are settling at that moment may still be reported.
     void stop();
@@ -95,19 +96,19 @@ private:
     Opening open(const Url& folder, WatchNumber watch);
 
     // Main thread.
-    void openInBackground(WatchNumber watch, std::optional<Existing> existing);
+    void openInBackground(WatchNumber watch, std::optional<ExistingFiles> existing);
     /// If `existing` is absent, the known files stay known.
     std::optional<WatchError> begin(const Opening& opening, WatchNumber watch,
-                                    std::optional<Existing> existing);
+                                    std::optional<ExistingFiles> existing);
     void report(const WatchError& error);
     void loseFolder(WatchNumber watch);
 
     // Queue.
     void handleEvent(const Url& folder, WatchNumber watch, DirectoryChange change);
     void scan(const Url& folder);
-    /// The result of consider(): `again` if the file must be considered once more, a little later.
-    enum class Look { done, again };
-    Look consider(const Url& folder, std::string_view name, Date now);
+    /// The result of checkFile(): `again` if the file must be checked once more, a little later.
+    enum class CheckResult { done, again };
+    CheckResult checkFile(const Url& folder, std::string_view name, Date now);
     void waitUntilStable(const Url& url, int attempts, std::int64_t lastSize,
                          const std::function<void()>& done);
     void settle(const Url& url, Date fileDate);
@@ -116,8 +117,8 @@ private:
     void deliver(const Url& url, Date fileDate);
 
     Services services_;
-    Turns finished_;                   ///< Passes captures to the main thread.
-    std::atomic<int> onTheirWay_ = 0;  ///< Captures that wait for the main thread.
+    OnePerTurn finished_;               ///< Passes captures to the main thread.
+    std::atomic<int> undelivered_ = 0;  ///< Captures that wait for the main thread.
 
     std::optional<Url> folder_;
     std::shared_ptr<DirectoryEventSource> source_;

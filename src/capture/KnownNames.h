@@ -37,7 +37,7 @@ public:
         std::size_t lookUps = 0;
         for (std::size_t i = 0; i < listed.size(); ++i) {
             // A listing is nearly the same as the one before, so comparing saves most look-ups.
-            bool isKnown = takeNear(place, listed[i]);
+            bool isKnown = matchesNext(place, listed[i]);
             if (!isKnown) {
                 ++lookUps;
                 isKnown = contains(listed[i]);
@@ -48,7 +48,7 @@ public:
                 onUnknown(listed[i]);
         }
         if (stillThere < knownBefore) keepOnly(listed);
-        if (stillThere < knownBefore || lookUps > tolerableLookUps) takeOrder(listed);
+        if (stillThere < knownBefore || lookUps > maximumLookUps) rememberOrder(listed);
     }
 
 private:
@@ -60,10 +60,10 @@ private:
     };
     using Names = std::unordered_set<std::string, Hash, std::equal_to<>>;
 
-    static constexpr std::size_t tolerableLookUps = 500;
+    static constexpr std::size_t maximumLookUps = 500;
 
     /// Returns true and advances `place` if `name` is at `place` of the last order.
-    bool takeNear(std::size_t& place, std::string_view name) const {
+    bool matchesNext(std::size_t& place, std::string_view name) const {
         if (place >= ordered_.size() || ordered_[place] != name) return false;
         ++place;
         return true;
@@ -78,7 +78,7 @@ private:
         names_ = std::move(kept);
     }
 
-    void takeOrder(const NameList& listed) {
+    void rememberOrder(const NameList& listed) {
         ordered_ = NameList();
         for (std::size_t i = 0; i < listed.size(); ++i)
             if (contains(listed[i])) ordered_.add(listed[i]);

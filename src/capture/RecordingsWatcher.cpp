@@ -6,7 +6,7 @@
 
 namespace vantle {
 
-using Existing = CaptureWatcher::Existing;
+using ExistingFiles = CaptureWatcher::ExistingFiles;
 
 std::shared_ptr<RecordingsWatcher> RecordingsWatcher::create(
     const CaptureWatcher::Services& services) {
@@ -27,19 +27,19 @@ void RecordingsWatcher::connect() {
     watcher_->onError = weakly(self, [](auto& watcher, const WatchError& error) {
         // By now, this object may watch another folder or wait for one.
         if (error == WatchError::missing() && watcher.state() == State::failed)
-            watcher.look(Existing::isNew);
+            watcher.search(ExistingFiles::report);
     });
 }
 
 void RecordingsWatcher::start(const Url& folder) {
     if (folder_ == folder && state() == State::watching) return;
     if (folder_ == folder && state() == State::waiting) {
-        look(Existing::isNew);
+        search(ExistingFiles::report);
         return;
     }
     stop();
     folder_ = folder;
-    look(Existing::isKnown);
+    search(ExistingFiles::ignore);
 }
 
 void RecordingsWatcher::stop() {
@@ -51,33 +51,33 @@ void RecordingsWatcher::stop() {
 RecordingsWatcher::State RecordingsWatcher::state() const {
     if (!folder_) return State::stopped;
     if (watcher_->isWatching() || watcher_->isOpening()) return State::watching;
-    return source_ || isLooking_ ? State::waiting : State::failed;
+    return source_ || isSearching_ ? State::waiting : State::failed;
 }
 
-void RecordingsWatcher::look(Existing existing) {
+void RecordingsWatcher::search(ExistingFiles existing) {
     stopWaiting();
-    const auto look = ++look_;
+    const auto search = ++search_;
     if (!services_.files.isRemote(*folder_)) {
-        found(find(*folder_, look), existing);
+        found(find(*folder_, search), existing);
         return;
     }
-    isLooking_ = true;
+    isSearching_ = true;
     services_.servers.async(
-        weakly(shared_from_this(), [folder = *folder_, look, existing](auto& self) {
+        weakly(shared_from_this(), [folder = *folder_, search, existing](auto& self) {
             self.services_.main.async(
                 weakly(self.shared_from_this(),
-                       [look, existing, place = self.find(folder, look)](auto& watcher) {
-                           if (watcher.isLooking_ && look == watcher.look_)
+                       [search, existing, place = self.find(folder, search)](auto& watcher) {
+                           if (watcher.isSearching_ && search == watcher.search_)
                                watcher.found(place, existing);
                        }));
         }));
 }
 
-RecordingsWatcher::Place RecordingsWatcher::find(const Url& folder, Look look) {
+RecordingsWatcher::WatchedPlace RecordingsWatcher::find(const Url& folder, Search search) {
     const auto changed = [&main = services_.main, weak = weak_from_this(),
-                          look](DirectoryChange change) {
-        main.async([weak, look, isLost = change.lost] {
-            if (const auto self = weak.lock()) self->placeChanged(look, isLost);
+                          search](DirectoryChange change) {
+        main.async([weak, search, isLost = change.lost] {
+            if (const auto self = weak.lock()) self->watchedPlaceChanged(search, isLost);
         });
     };
     for (;;) {
@@ -90,8 +90,8 @@ RecordingsWatcher::Place RecordingsWatcher::find(const Url& folder, Look look) {
     }
 }
 
-void RecordingsWatcher::found(const Place& place, Existing existing) {
-    isLooking_ = false;
+void RecordingsWatcher::found(const WatchedPlace& place, ExistingFiles existing) {
+    isSearching_ = false;
     if (place.folder == folder_) {
         (void)watcher_->start(place.folder, existing);  // logs a failure itself
         return;
@@ -110,16 +110,16 @@ void RecordingsWatcher::found(const Place& place, Existing existing) {
 }
 
 void RecordingsWatcher::stopWaiting() {
-    isLooking_ = false;
+    isSearching_ = false;
     if (source_) source_->cancel();
     source_.reset();
 }
 
-void RecordingsWatcher::placeChanged(Look look, bool isLost) {
-    if (!source_ || look != look_) return;
+void RecordingsWatcher::watchedPlaceChanged(Search search, bool isLost) {
+    if (!source_ || search != search_) return;
     const bool isElsewhere =
         isLost || services_.files.isRemote(*folder_) || nearest(*folder_) != waitingIn_;
-    if (isElsewhere) this->look(Existing::isNew);
+    if (isElsewhere) this->search(ExistingFiles::report);
 }
 
 Url RecordingsWatcher::nearest(const Url& folder) const {

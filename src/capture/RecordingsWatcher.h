@@ -42,29 +42,29 @@ private:
     explicit RecordingsWatcher(const CaptureWatcher::Services& services);
 
     void connect();
-    using Look = std::uint64_t;
+    using Search = std::uint64_t;
 
     /// The folder itself, or a folder above it in which to wait for it.
-    struct Place {
+    struct WatchedPlace {
         Url folder;
         Result<std::shared_ptr<DirectoryEventSource>> source;  ///< Null for the folder itself.
     };
 
-    void look(CaptureWatcher::Existing existing);
-    void found(const Place& place, CaptureWatcher::Existing existing);
+    void search(CaptureWatcher::ExistingFiles existing);
+    void found(const WatchedPlace& place, CaptureWatcher::ExistingFiles existing);
     void stopWaiting();
-    void placeChanged(Look look, bool isLost);
+    void watchedPlaceChanged(Search search, bool isLost);
 
     // These two run on any thread and wait for the file system.
-    Place find(const Url& folder, Look look);
+    WatchedPlace find(const Url& folder, Search search);
     /// Returns the folder itself, or the nearest one above it that exists.
     Url nearest(const Url& folder) const;
 
     CaptureWatcher::Services services_;
     std::shared_ptr<CaptureWatcher> watcher_;
     std::optional<Url> folder_;
-    Look look_ = 0;  ///< The number of the latest look().
-    bool isLooking_ = false;
+    Search search_ = 0;  ///< The number of the latest search().
+    bool isSearching_ = false;
     Url waitingIn_;
     std::shared_ptr<DirectoryEventSource> source_;
 };

@@ -1,4 +1,4 @@
-#include "capture/Turns.h"
+#include "capture/OnePerTurn.h"
 
 #include <deque>
 #include <mutex>
@@ -6,7 +6,7 @@
 
 namespace vantle {
 
-struct Turns::Waiting {
+struct OnePerTurn::Waiting {
     explicit Waiting(Scheduler& scheduler) : main(scheduler) {}
 
     Scheduler& main;
@@ -28,9 +28,9 @@ struct Turns::Waiting {
     }
 };
 
-Turns::Turns(Scheduler& main) : waiting_(std::make_shared<Waiting>(main)) {}
+OnePerTurn::OnePerTurn(Scheduler& main) : waiting_(std::make_shared<Waiting>(main)) {}
 
-void Turns::add(Work work) {
+void OnePerTurn::add(Work work) {
     const std::lock_guard lock(waiting_->mutex);
     waiting_->pieces.push_back(std::move(work));
     if (waiting_->pieces.size() == 1) Waiting::takeTurn(waiting_);

@@ -8,12 +8,12 @@ namespace vantle {
 
 /// Runs work on the main thread in the order in which it was added, one piece per turn of the run
 /// loop, so that other work can run between two pieces. Any thread.
-class Turns {
+class OnePerTurn {
 public:
     using Work = Scheduler::Work;
 
     /// `main` must outlive all the work.
-    explicit Turns(Scheduler& main);
+    explicit OnePerTurn(Scheduler& main);
 
     void add(Work work);
 
