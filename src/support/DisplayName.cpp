@@ -13,16 +13,16 @@ bool isBetween(unsigned char byte, unsigned first, unsigned last) {
 }
 
 /// Returns the visible symbol of a control character (U+2400 to U+2421), in UTF-8.
-std::string picture(unsigned char control) {
+std::string controlSymbol(unsigned char control) {
     constexpr unsigned char deleteCharacter = 0x7f;
-    constexpr unsigned char pictureOfDelete = 0x21;
-    const unsigned char which = control == deleteCharacter ? pictureOfDelete : control;
+    constexpr unsigned char symbolOfDelete = 0x21;
+    const unsigned char which = control == deleteCharacter ? symbolOfDelete : control;
     return std::string("\xE2\x90") + static_cast<char>(0x80 + which);
 }
 
 /// Returns the length in bytes of the first character of `rest` if it must not be shown, otherwise
 /// 0.
-std::size_t lengthOfForbidden(std::string_view rest) {
+std::size_t forbiddenLength(std::string_view rest) {
     const auto byte = [rest](std::size_t i) {
         return i < rest.size() ? static_cast<unsigned char>(rest[i])
                                : static_cast<unsigned char>(0);
@@ -43,11 +43,11 @@ std::string displayName(const std::string& name) {
     const std::string_view text = name;
     for (std::size_t i = 0; i < text.size();) {
         const auto byte = static_cast<unsigned char>(text[i]);
-        const std::size_t forbidden = lengthOfForbidden(text.substr(i));
+        const std::size_t forbidden = forbiddenLength(text.substr(i));
         if (forbidden > 0)
             shown += unknown;
         else if (byte < 0x20 || byte == 0x7f)
-            shown += picture(byte);
+            shown += controlSymbol(byte);
         else
             shown += text[i];
         i += forbidden > 0 ? forbidden : 1;
