@@ -105,7 +105,7 @@ def installed_size(tree):
     )
 
 
-def needed_system(tree):
+def needed_libc_version(tree):
     """Returns the version of the C library that the programs of a tree need."""
     versions = {(0,)}
     for path in Path(tree).rglob("*"):
@@ -124,7 +124,8 @@ def add_item(feed, archive, address, key, version, platform, **details):
     root = _channel(_verified(feed, key))
     channel = root.find("channel")
     date = details.get("date") or datetime.datetime.now(datetime.timezone.utc)
-    channel.find("lastBuildDate").text = email.utils.format_datetime(_later(date, channel))
+    feed_date = _date_after_feed(date, channel)
+    channel.find("lastBuildDate").text = email.utils.format_datetime(feed_date)
     for item in channel.findall("item"):
         enclosure = item.find("enclosure")
         if (item.findtext(sparkle("version")), enclosure.get(sparkle("os"))) == (version, platform):
@@ -170,7 +171,7 @@ def _verified(feed, key):
     return xml
 
 
-def _later(date, channel):
+def _date_after_feed(date, channel):
     """Returns a date after that of the old feed: updaters refuse a feed that is older."""
     before = channel.findtext("lastBuildDate")
     if not before:
