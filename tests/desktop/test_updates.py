@@ -14,7 +14,7 @@ from privatedesktop import Program, Rectangle, processes, wait_until
 from trays import Icon, OwnMenu
 from using import find_window, window_titled
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "updates"))
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "updater"))
 
 from releases import Publisher, make_archive, make_tree  # noqa: E402
 from server import Server  # noqa: E402
