@@ -32,9 +32,12 @@ def menus(desktop):
     ]
 
 
-def open_share_menu(desktop, card):
+def open_share_menu(desktop, vantle, card):
+    keys = "menu gets the keys: yes"
+    before = vantle.log_text().count(keys)
     press_button(desktop, card, "share")
     wait_until(lambda: menus(desktop), "the menu is open")
+    vantle.wait_for_log(keys, times=before + 1)
 
 
 def test_a_click_opens_the_file_with_its_default_application(desktop, vantle, folder):
@@ -137,7 +140,7 @@ def test_copying_counts_as_use_with_its_delays(desktop, vantle, folder):
 
 
 def test_the_share_menu_shows_the_file(desktop, vantle, folder, card):
-    open_share_menu(desktop, card)
+    open_share_menu(desktop, vantle, card)
     for key in ("Down", "Down", "Return"):
         desktop.screen.keyboard.press(key)
     window_titled(desktop, "Desktop")
@@ -145,7 +148,7 @@ def test_the_share_menu_shows_the_file(desktop, vantle, folder, card):
 
 
 def test_the_share_menu_copies_the_file_by_a_click(desktop, vantle, folder, card):
-    open_share_menu(desktop, card)
+    open_share_menu(desktop, vantle, card)
     plate = wait_until_still(lambda: menus(desktop)[0].frame, "the menu")
     desktop.screen.pointer.click(plate.centre[0], plate.centre[1] - MENU_LINE // 2)
     wait_until(lambda: is_dismissed(desktop), "the shared capture leaves")
@@ -160,7 +163,7 @@ def test_closing_the_share_menu_does_not_count_as_use(desktop, vantle, folder, c
         lambda: desktop.screen.keyboard.press("Escape"),
         lambda: pointer.click(300, 300),
     ):
-        open_share_menu(desktop, card)
+        open_share_menu(desktop, vantle, card)
         close()
         wait_until(lambda: not menus(desktop), "the menu is closed")
     ensure_never(lambda: is_dismissed(desktop), "the capture leaves", 1.0)
@@ -171,7 +174,7 @@ def test_the_countdown_waits_for_the_share_menu(desktop, vantle, folder):
     vantle.start_watching()
     card = wait_for_card(desktop, show_one(desktop, folder))
     # With a countdown there is a fifth button before the others, whose places count from the right.
-    open_share_menu(desktop, card)
+    open_share_menu(desktop, vantle, card)
     desktop.screen.pointer.move(300, 300)
     ensure_never(lambda: is_dismissed(desktop), "the countdown goes on", 4.0)
     desktop.screen.keyboard.press("Escape")

@@ -1,9 +1,11 @@
 #include "platform/qt/PlacedMenu.h"
 
 #include <algorithm>
+#include <string>
 
 #include "platform/qt/DisplayServer.h"
 #include "platform/qt/QtGeometry.h"
+#include "support/Debug.h"
 
 namespace vantle {
 
@@ -18,7 +20,8 @@ void PlacedMenu::show(const MenuAnchor& anchor, const QRect& plate) {
 
 void PlacedMenu::exposed() {
     window_.setMouseGrabEnabled(true);
-    window_.setKeyboardGrabEnabled(true);
+    const bool getsKeys = window_.setKeyboardGrabEnabled(true);
+    Debug::log([&] { return std::string("menu gets the keys: ") + (getsKeys ? "yes" : "no"); });
 }
 
 void PlacedMenu::hide() {
