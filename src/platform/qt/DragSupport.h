@@ -38,6 +38,7 @@ public:
 
     /// Calls `done` once, and says whether the program that received the drop has taken the
     /// contents. A program that has read nothing has taken nothing.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): display servers that wait keep it.
     virtual void waitForAnswer(const DropState& state, std::function<void(bool wasTaken)> done) {
         done(*state.wasRead);
     }
