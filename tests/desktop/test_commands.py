@@ -68,7 +68,7 @@ def test_verbose_status_describes_the_system_without_paths(desktop, vantle, fold
     assert facts["display server"].startswith("X11, ")
     assert facts["window manager"] == "Openbox"
     assert facts["compositor"] == "yes"
-    assert facts["tray"] == "X11"
+    assert facts["tray"] == "embedded"
     assert facts["decoders"].startswith("png, jpeg, gif, tiff, heic, webp, pdf, recording; ")
     assert facts["screens"].endswith("at 0, 0, scale 1")
     assert str(desktop.home) not in report

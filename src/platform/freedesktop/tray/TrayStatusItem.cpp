@@ -61,7 +61,7 @@ bool TrayStatusItem::isShown() const {
 
 std::string TrayStatusItem::trayKind() const {
     if (onBus_ && onBus_->isShown()) return "D-Bus";
-    return embedded_ && embedded_->isShown() ? "X11" : "none";
+    return embedded_ && embedded_->isShown() ? "embedded" : "none";
 }
 
 void TrayStatusItem::setAppearsDisabled(bool disabled) {
