@@ -4,6 +4,9 @@ allows.
 A folder means one in src that has a CMakeLists.txt; its subfolders without one belong to it. It
 uses the folders whose headers its files include and whose modules its QML imports. The picture is
 the block "layers" in docs/architecture.md.
+
+Only the folders of the display servers, and the list that chooses the folders of a system, may name
+a display server.
 """
 
 import pathlib
@@ -17,6 +20,8 @@ REPAIR = "by hand: move what both need to a lower folder, or draw the arrow if i
 PICTURE = "docs/architecture.md"
 INCLUDE = re.compile(r'#include "([^"]+)"')
 IMPORT = re.compile(r"import (Vantle\.\w+)")
+DISPLAY_SERVER = re.compile(r"wayland|xcb|x11|iskwin", re.IGNORECASE)
+MAY_NAME_IT = re.compile(r"src/(platform/(wayland|x11|displays)/|CMakeLists\.txt$)")
 MODULE = re.compile(r"^\s*URI (Vantle\.\w+)", re.MULTILINE)
 
 
@@ -81,7 +86,16 @@ def circle(arrows):
     return []
 
 
+def named_display_servers():
+    for path in files("src/*"):
+        if not MAY_NAME_IT.match(path):
+            for line, text in lines_of(path):
+                if DISPLAY_SERVER.search(text):
+                    yield Problem(path, line, "names a display server")
+
+
 def problems(_everything, note):
+    yield from named_display_servers()
     all_folders = folders()
     picture = allowed()
     includes = used(all_folders)

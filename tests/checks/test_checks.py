@@ -165,6 +165,13 @@ def test_an_arrow_that_is_not_drawn_fails(repository, path, line):
     expect_failure(repository, "layers", told)
 
 
+def test_only_the_folders_of_display_servers_name_one(repository):
+    write_layers(repository)
+    write(repository, "src/views/dragging/A.cpp",
+          '#include "views/A.h"\n#include "logic/B.h"\n// not on Wayland\n')
+    expect_failure(repository, "layers", "src/views/dragging/A.cpp:3: names a display server")
+
+
 @pytest.mark.parametrize("picture, told", (
     ("```layers\nviews: logic\n```\n", "src/logic: is not in the picture"),
     ("```layers\nviews: logic\nlogic: views\n```\n",
