@@ -13,8 +13,8 @@
 
 namespace vantle {
 
-/// All settings by name, in the order of their declaration. It saves everyone who treats them alike
-/// a list of their own. Main thread only.
+/// All settings by name, in the order of their declaration, for code that treats them alike. Main
+/// thread only.
 class SettingsList {
 public:
     /// `defaults` outlives the list.
@@ -26,7 +26,7 @@ public:
 
     struct Entry {
         std::string name;
-        /// The value, in English, for reports of faults.
+        /// Returns the value in English, for bug reports.
         std::function<std::string()> text;
         /// Calls `observer` with every later change, before the new value is stored.
         std::function<Subscription(std::function<void()> observer)> observeChanges;
@@ -40,7 +40,7 @@ private:
     std::vector<Entry> entries_;
 };
 
-/// A setting that stands in the list of all settings. The list outlives it.
+/// A setting that is in the list of all settings. The list outlives it.
 template <typename Value>
 class ListedSetting : public Published<Value> {
 public:
@@ -59,10 +59,10 @@ public:
 template <typename Value>
 class StoredSetting : public ListedSetting<Value> {
 public:
-    /// What happens after a value was stored.
+    /// Called after a value was stored.
     using Effect = std::function<void(const Value&)>;
 
-    /// Without a registered default a value that was never stored reads as false, 0 or, for a
+    /// Without a registered default, a value that was never stored reads as false, as 0 or, for a
     /// choice, as its first case.
     StoredSetting(SettingsList& list, const std::string& name,
                   const std::optional<Value>& registeredDefault = {}, Effect effect = {})

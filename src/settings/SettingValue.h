@@ -8,9 +8,9 @@
 
 namespace vantle {
 
-/// How each type of setting is read from the user defaults, stored there, and written in a report
-/// of faults. A setting of another type needs these three functions and nothing else.
+// A setting of another type needs these three functions and nothing else.
 
+/// Returns the value that the user defaults hold under `name`.
 template <typename Value>
 Value storedValue(const UserDefaults& defaults, const std::string& name);
 
@@ -22,13 +22,16 @@ double storedValue(const UserDefaults& defaults, const std::string& name);
 template <>
 PanelCorner storedValue(const UserDefaults& defaults, const std::string& name);
 
+/// Returns the form in which the value is stored.
 PreferenceValue stored(bool value);
 PreferenceValue stored(double value);
 PreferenceValue stored(PanelCorner value);
 
-/// "yes" or "no".
+// textOf() returns the value in English, for bug reports.
+
+/// Returns "yes" or "no".
 std::string textOf(bool value);
-/// As few digits as tell the number: "25".
+/// Returns the shortest text of the number: "25".
 std::string textOf(double value);
 std::string textOf(PanelCorner value);
 

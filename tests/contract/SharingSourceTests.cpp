@@ -45,7 +45,7 @@ struct SharingDesktop {
         std::filesystem::permissions(url.path(), std::filesystem::perms::owner_all);
     }
 
-    // What the contract asks of each desk.
+    // The contract needs these two on each desktop.
     static bool runUntil(const std::function<bool()>& condition) {
         return vantle::runUntil(condition);
     }

@@ -8,10 +8,10 @@
 
 namespace vantle::fakes {
 
-/// Offers what a test says, inside the call or when the test says so.
+/// Offers what a test sets, inside the call or when the test calls answer().
 class FakeSharingSource final : public SharingSource {
 public:
-    /// What a test writes; outlives the source.
+    /// The offers and the answer, which a test controls. Must outlive the source.
     struct Script {
         std::vector<SharingOffer> offers;
         bool isQuick = true;

@@ -74,7 +74,6 @@ void SettingsModel::setNeverDismiss(bool on) {
 void SettingsModel::setDismissAfter(double seconds) {
     controls_.moveSlider(seconds);
     emit changed();
-    emit changed();
 }
 
 void SettingsModel::setRemoveAfterUse(bool on) {
