@@ -25,7 +25,7 @@ list(JOIN modules ", " CPACK_DEBIAN_PACKAGE_DEPENDS)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS scripts/packages/run.list)
 # Vantle works without these, but does less: see docs/dependencies.md.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-    "ca-certificates, default-dbus-session-bus | dbus-session-bus, file, libcanberra-pulse, libcanberra0, libglib2.0-bin, qt6-wayland, xdg-utils")
+    "ca-certificates, default-dbus-session-bus | dbus-session-bus, file, libcanberra-pulse, libcanberra0, libglib2.0-bin, qt6-wayland, tesseract-ocr, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS
     "gnome-shell-extension-gsconnect | kdeconnect, gnome-bluetooth-sendto | blueman | bluedevil, packagekit, qt6-translations-l10n, xdg-desktop-portal")
 

@@ -151,6 +151,85 @@
     </message>
 </context>
 <context>
+    <name>CardMenus</name>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Share…</source>
+        <translation>Teilen …</translation>
+    </message>
+    <message>
+        <source>Reveal in Finder</source>
+        <translation>In der Dateiverwaltung zeigen</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Umbenennen …</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation>%1 ausgewählt</translation>
+    </message>
+    <message>
+        <source>Copy Paths</source>
+        <translation>Pfade kopieren</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Open With</source>
+        <translation>Öffnen mit</translation>
+    </message>
+    <message>
+        <source>Other...</source>
+        <translation>Andere …</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Lösen</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Anheften</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alle auswählen</translation>
+    </message>
+</context>
+<context>
     <name>ClearAllPill</name>
     <message>
         <source>Clear all</source>
@@ -256,6 +335,10 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
         <source>FILE…</source>
         <translation>DATEI …</translation>
     </message>
+    <message>
+        <source>bring back what left the card lately</source>
+        <translation>zurückholen, was die Karte zuletzt verlassen hat</translation>
+    </message>
 </context>
 <context>
     <name>Compositor</name>
@@ -359,6 +442,17 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
     </message>
 </context>
 <context>
+    <name>MenuLine</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Submenu</source>
+        <translation>Untermenü</translation>
+    </message>
+</context>
+<context>
     <name>MissingNotice</name>
     <message>
         <source>The file is gone</source>
@@ -374,6 +468,25 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
     <message>
         <source>The extension “%1” provides a tray. Install the package %2, log out and in again, then turn it on in Extensions.</source>
         <translation>Die Erweiterung „%1“ stellt einen Infobereich bereit. Installieren Sie das Paket %2, melden Sie sich ab und wieder an, und schalten Sie sie dann unter „Erweiterungen“ ein.</translation>
+    </message>
+</context>
+<context>
+    <name>NewName</name>
+    <message>
+        <source>The name cannot contain “/”.</source>
+        <translation>Der Name darf kein „/“ enthalten.</translation>
+    </message>
+    <message>
+        <source>A name that begins with a full stop would hide the file.</source>
+        <translation>Ein Name, der mit einem Punkt beginnt, würde die Datei verstecken.</translation>
+    </message>
+    <message>
+        <source>The name cannot contain line breaks or other control characters.</source>
+        <translation>Der Name darf keine Zeilenumbrüche oder anderen Steuerzeichen enthalten.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Der Name ist zu lang.</translation>
     </message>
 </context>
 <context>
@@ -434,6 +547,21 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
     </message>
 </context>
 <context>
+    <name>OpenWith</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>Das Programm konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>The program is not installed any more.</source>
+        <translation>Das Programm ist nicht mehr installiert.</translation>
+    </message>
+    <message>
+        <source>The program does not respond.</source>
+        <translation>Das Programm antwortet nicht.</translation>
+    </message>
+</context>
+<context>
     <name>PageDots</name>
     <message>
         <source>Step %1 of %2</source>
@@ -457,6 +585,74 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
     <message>
         <source>Top Left</source>
         <translation>Oben links</translation>
+    </message>
+</context>
+<context>
+    <name>Preview</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewBar</name>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>Ganzes Bild zeigen</translation>
+    </message>
+    <message>
+        <source>Show real pixels</source>
+        <translation>Echte Pixel zeigen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Copy to clipboard</source>
+        <translation>In die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPicture</name>
+    <message>
+        <source>This file cannot be shown</source>
+        <translation>Diese Datei kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewView</name>
+    <message>
+        <source>Previous capture</source>
+        <translation>Vorige Aufnahme</translation>
+    </message>
+    <message>
+        <source>Next capture</source>
+        <translation>Nächste Aufnahme</translation>
     </message>
 </context>
 <context>
@@ -587,6 +783,32 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
     </message>
 </context>
 <context>
+    <name>RenameField</name>
+    <message>
+        <source>New name</source>
+        <translation>Neuer Name</translation>
+    </message>
+</context>
+<context>
+    <name>Renaming</name>
+    <message>
+        <source>A file of this name exists already.</source>
+        <translation>Eine Datei mit diesem Namen gibt es schon.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be changed.</source>
+        <translation>Der Ordner kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Der Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The file is gone.</source>
+        <translation>Die Datei ist weg.</translation>
+    </message>
+</context>
+<context>
     <name>Requests</name>
     <message>
         <source>Vantle is shutting down</source>
@@ -619,6 +841,10 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
     <message>
         <source>the card is not visible</source>
         <translation>die Karte ist nicht zu sehen</translation>
+    </message>
+    <message>
+        <source>nothing has left the card lately</source>
+        <translation>zuletzt hat nichts die Karte verlassen</translation>
     </message>
 </context>
 <context>
@@ -801,6 +1027,33 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
         <source>Open Screenshots Folder</source>
         <translation>Ordner für Bildschirmfotos öffnen</translation>
     </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Zurückholen</translation>
+    </message>
+</context>
+<context>
+    <name>TextReader</name>
+    <message>
+        <source>The picture cannot be opened, or it is damaged.</source>
+        <translation>Das Bild lässt sich nicht öffnen, oder es ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The program that recognizes text cannot be started.</source>
+        <translation>Das Programm zur Texterkennung lässt sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>Recognizing the text took too long.</source>
+        <translation>Die Texterkennung hat zu lange gedauert.</translation>
+    </message>
+    <message>
+        <source>The program that recognizes text ended unexpectedly.</source>
+        <translation>Das Programm zur Texterkennung wurde unerwartet beendet.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to recognize the text.</source>
+        <translation>Für die Texterkennung reicht der Speicher nicht aus.</translation>
+    </message>
 </context>
 <context>
     <name>TileActions</name>
@@ -834,6 +1087,25 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
     <message>
         <source>Captures</source>
         <translation>Aufnahmen</translation>
+    </message>
+</context>
+<context>
+    <name>TrashNotice</name>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Moved to Trash</source>
+        <translation>Im Papierkorb</translation>
+    </message>
+    <message>
+        <source>Could not be moved to the Trash</source>
+        <translation>Konnte nicht in den Papierkorb gelegt werden</translation>
+    </message>
+    <message>
+        <source>Could not be put back</source>
+        <translation>Konnte nicht zurückgelegt werden</translation>
     </message>
 </context>
 <context>

@@ -151,6 +151,85 @@
     </message>
 </context>
 <context>
+    <name>CardMenus</name>
+    <message>
+        <source>Card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reveal in Finder</source>
+        <translation>Show in File Manager</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Paths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open With</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other...</source>
+        <translation>Other…</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ClearAllPill</name>
     <message>
         <source>Clear all</source>
@@ -251,6 +330,10 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
     <message>
         <source>unknown option &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bring back what left the card lately</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -356,6 +439,17 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
 </context>
 <context>
+    <name>MenuLine</name>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Submenu</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MissingNotice</name>
     <message>
         <source>The file is gone</source>
@@ -370,6 +464,25 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
     <message>
         <source>The extension “%1” provides a tray. Install the package %2, log out and in again, then turn it on in Extensions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NewName</name>
+    <message>
+        <source>The name cannot contain “/”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name that begins with a full stop would hide the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name cannot contain line breaks or other control characters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -431,6 +544,21 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
 </context>
 <context>
+    <name>OpenWith</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program is not installed any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program does not respond.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PageDots</name>
     <message>
         <source>Step %1 of %2</source>
@@ -453,6 +581,74 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
     <message>
         <source>Top Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Preview</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>page %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PreviewBar</name>
+    <message>
+        <source>Previous page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show real pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy to clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPicture</name>
+    <message>
+        <source>This file cannot be shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PreviewView</name>
+    <message>
+        <source>Previous capture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next capture</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -584,6 +780,32 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
 </context>
 <context>
+    <name>RenameField</name>
+    <message>
+        <source>New name</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Renaming</name>
+    <message>
+        <source>A file of this name exists already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder cannot be changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is gone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Requests</name>
     <message>
         <source>Vantle is shutting down</source>
@@ -615,6 +837,10 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
     <message>
         <source>Vantle is not ready yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing has left the card lately</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -798,6 +1024,33 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
         <source>Open Screenshots Folder</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Bring back</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TextReader</name>
+    <message>
+        <source>The picture cannot be opened, or it is damaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program that recognizes text cannot be started.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recognizing the text took too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program that recognizes text ended unexpectedly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory to recognize the text.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TileActions</name>
@@ -830,6 +1083,25 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     <name>TileRow</name>
     <message>
         <source>Captures</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TrashNotice</name>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moved to Trash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not be moved to the Trash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not be put back</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -151,6 +151,85 @@
     </message>
 </context>
 <context>
+    <name>CardMenus</name>
+    <message>
+        <source>Card</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Tout retirer</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Réglages…</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>Copier le chemin</translation>
+    </message>
+    <message>
+        <source>Share…</source>
+        <translation>Partager…</translation>
+    </message>
+    <message>
+        <source>Reveal in Finder</source>
+        <translation>Afficher dans le gestionnaire de fichiers</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Renommer…</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Placer dans la corbeille</translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation>%1 sélectionnés</translation>
+    </message>
+    <message>
+        <source>Copy Paths</source>
+        <translation>Copier les chemins</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Open With</source>
+        <translation>Ouvrir avec</translation>
+    </message>
+    <message>
+        <source>Other...</source>
+        <translation>Autre…</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Détacher</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Épingler</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
     <name>ClearAllPill</name>
     <message>
         <source>Clear all</source>
@@ -256,6 +335,10 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
         <source>FILE…</source>
         <translation>FICHIER…</translation>
     </message>
+    <message>
+        <source>bring back what left the card lately</source>
+        <translation>ramène ce qui a quitté la carte récemment</translation>
+    </message>
 </context>
 <context>
     <name>Compositor</name>
@@ -359,6 +442,17 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
     </message>
 </context>
 <context>
+    <name>MenuLine</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Submenu</source>
+        <translation>Sous-menu</translation>
+    </message>
+</context>
+<context>
     <name>MissingNotice</name>
     <message>
         <source>The file is gone</source>
@@ -374,6 +468,25 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
     <message>
         <source>The extension “%1” provides a tray. Install the package %2, log out and in again, then turn it on in Extensions.</source>
         <translation>L’extension « %1 » fournit une zone de notification. Installez le paquet %2, fermez puis rouvrez votre session, et activez-la dans Extensions.</translation>
+    </message>
+</context>
+<context>
+    <name>NewName</name>
+    <message>
+        <source>The name cannot contain “/”.</source>
+        <translation>Le nom ne peut pas contenir « / ».</translation>
+    </message>
+    <message>
+        <source>A name that begins with a full stop would hide the file.</source>
+        <translation>Un nom qui commence par un point masquerait le fichier.</translation>
+    </message>
+    <message>
+        <source>The name cannot contain line breaks or other control characters.</source>
+        <translation>Le nom ne peut pas contenir de sauts de ligne ni d’autres caractères de contrôle.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Le nom est trop long.</translation>
     </message>
 </context>
 <context>
@@ -434,6 +547,21 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
     </message>
 </context>
 <context>
+    <name>OpenWith</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>Impossible de démarrer le programme.</translation>
+    </message>
+    <message>
+        <source>The program is not installed any more.</source>
+        <translation>Le programme n’est plus installé.</translation>
+    </message>
+    <message>
+        <source>The program does not respond.</source>
+        <translation>Le programme ne répond pas.</translation>
+    </message>
+</context>
+<context>
     <name>PageDots</name>
     <message>
         <source>Step %1 of %2</source>
@@ -457,6 +585,74 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
     <message>
         <source>Top Left</source>
         <translation>En haut à gauche</translation>
+    </message>
+</context>
+<context>
+    <name>Preview</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>page %1 of %2</source>
+        <translation>page %1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewBar</name>
+    <message>
+        <source>Previous page</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>Afficher l’image entière</translation>
+    </message>
+    <message>
+        <source>Show real pixels</source>
+        <translation>Afficher les pixels réels</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Copy to clipboard</source>
+        <translation>Copier dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Placer dans la corbeille</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPicture</name>
+    <message>
+        <source>This file cannot be shown</source>
+        <translation>Ce fichier ne peut pas être affiché</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewView</name>
+    <message>
+        <source>Previous capture</source>
+        <translation>Capture précédente</translation>
+    </message>
+    <message>
+        <source>Next capture</source>
+        <translation>Capture suivante</translation>
     </message>
 </context>
 <context>
@@ -587,6 +783,32 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
     </message>
 </context>
 <context>
+    <name>RenameField</name>
+    <message>
+        <source>New name</source>
+        <translation>Nouveau nom</translation>
+    </message>
+</context>
+<context>
+    <name>Renaming</name>
+    <message>
+        <source>A file of this name exists already.</source>
+        <translation>Un fichier porte déjà ce nom.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be changed.</source>
+        <translation>Le dossier ne peut pas être modifié.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Le nom est trop long.</translation>
+    </message>
+    <message>
+        <source>The file is gone.</source>
+        <translation>Le fichier a disparu.</translation>
+    </message>
+</context>
+<context>
     <name>Requests</name>
     <message>
         <source>Vantle is shutting down</source>
@@ -619,6 +841,10 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
     <message>
         <source>the card is not visible</source>
         <translation>la carte n’est pas visible</translation>
+    </message>
+    <message>
+        <source>nothing has left the card lately</source>
+        <translation>rien n’a quitté la carte récemment</translation>
     </message>
 </context>
 <context>
@@ -801,6 +1027,33 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
         <source>Open Screenshots Folder</source>
         <translation>Ouvrir le dossier des captures</translation>
     </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Ramener</translation>
+    </message>
+</context>
+<context>
+    <name>TextReader</name>
+    <message>
+        <source>The picture cannot be opened, or it is damaged.</source>
+        <translation>L’image ne peut pas être ouverte, ou elle est endommagée.</translation>
+    </message>
+    <message>
+        <source>The program that recognizes text cannot be started.</source>
+        <translation>Le programme de reconnaissance de texte ne peut pas être lancé.</translation>
+    </message>
+    <message>
+        <source>Recognizing the text took too long.</source>
+        <translation>La reconnaissance du texte a pris trop de temps.</translation>
+    </message>
+    <message>
+        <source>The program that recognizes text ended unexpectedly.</source>
+        <translation>Le programme de reconnaissance de texte s’est arrêté de façon inattendue.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to recognize the text.</source>
+        <translation>La mémoire est insuffisante pour reconnaître le texte.</translation>
+    </message>
 </context>
 <context>
     <name>TileActions</name>
@@ -834,6 +1087,25 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
     <message>
         <source>Captures</source>
         <translation>Captures</translation>
+    </message>
+</context>
+<context>
+    <name>TrashNotice</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Moved to Trash</source>
+        <translation>Placé dans la corbeille</translation>
+    </message>
+    <message>
+        <source>Could not be moved to the Trash</source>
+        <translation>N’a pas pu être placé dans la corbeille</translation>
+    </message>
+    <message>
+        <source>Could not be put back</source>
+        <translation>N’a pas pu être restauré</translation>
     </message>
 </context>
 <context>

@@ -151,6 +151,85 @@
     </message>
 </context>
 <context>
+    <name>CardMenus</name>
+    <message>
+        <source>Card</source>
+        <translation>カード</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>すべて消す</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>設定…</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>パスをコピー</translation>
+    </message>
+    <message>
+        <source>Share…</source>
+        <translation>共有…</translation>
+    </message>
+    <message>
+        <source>Reveal in Finder</source>
+        <translation>ファイルマネージャーで表示</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>名前を変更…</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>ゴミ箱に入れる</translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation>%1 個を選択</translation>
+    </message>
+    <message>
+        <source>Copy Paths</source>
+        <translation>パスをコピー</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Open With</source>
+        <translation>このアプリで開く</translation>
+    </message>
+    <message>
+        <source>Other...</source>
+        <translation>その他…</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>ピンを外す</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>ピンで留める</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
     <name>ClearAllPill</name>
     <message>
         <source>Clear all</source>
@@ -256,6 +335,10 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <source>FILE…</source>
         <translation>ファイル…</translation>
     </message>
+    <message>
+        <source>bring back what left the card lately</source>
+        <translation>最近カードから消えたものを元に戻します</translation>
+    </message>
 </context>
 <context>
     <name>Compositor</name>
@@ -359,6 +442,17 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
 </context>
 <context>
+    <name>MenuLine</name>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Submenu</source>
+        <translation>サブメニュー</translation>
+    </message>
+</context>
+<context>
     <name>MissingNotice</name>
     <message>
         <source>The file is gone</source>
@@ -374,6 +468,25 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <message>
         <source>The extension “%1” provides a tray. Install the package %2, log out and in again, then turn it on in Extensions.</source>
         <translation>拡張機能「%1」でトレイを表示できます。パッケージ%2をインストールし、ログインし直してから、「拡張機能」で有効にしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>NewName</name>
+    <message>
+        <source>The name cannot contain “/”.</source>
+        <translation>名前に「/」は使用できません。</translation>
+    </message>
+    <message>
+        <source>A name that begins with a full stop would hide the file.</source>
+        <translation>ピリオドで始まる名前にすると、ファイルが隠されます。</translation>
+    </message>
+    <message>
+        <source>The name cannot contain line breaks or other control characters.</source>
+        <translation>名前に改行などの制御文字は使用できません。</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>名前が長すぎます。</translation>
     </message>
 </context>
 <context>
@@ -434,6 +547,21 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
 </context>
 <context>
+    <name>OpenWith</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>プログラムを起動できませんでした。</translation>
+    </message>
+    <message>
+        <source>The program is not installed any more.</source>
+        <translation>プログラムはもうインストールされていません。</translation>
+    </message>
+    <message>
+        <source>The program does not respond.</source>
+        <translation>プログラムが応答しません。</translation>
+    </message>
+</context>
+<context>
     <name>PageDots</name>
     <message>
         <source>Step %1 of %2</source>
@@ -457,6 +585,74 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <message>
         <source>Top Left</source>
         <translation>左上</translation>
+    </message>
+</context>
+<context>
+    <name>Preview</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1／%2</translation>
+    </message>
+    <message>
+        <source>page %1 of %2</source>
+        <translation>%1 / %2 ページ</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewBar</name>
+    <message>
+        <source>Previous page</source>
+        <translation>前のページ</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>次のページ</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>全体を表示</translation>
+    </message>
+    <message>
+        <source>Show real pixels</source>
+        <translation>実寸で表示</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Copy to clipboard</source>
+        <translation>クリップボードにコピー</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>ゴミ箱に入れる</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPicture</name>
+    <message>
+        <source>This file cannot be shown</source>
+        <translation>このファイルは表示できません</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewView</name>
+    <message>
+        <source>Previous capture</source>
+        <translation>前のキャプチャ</translation>
+    </message>
+    <message>
+        <source>Next capture</source>
+        <translation>次のキャプチャ</translation>
     </message>
 </context>
 <context>
@@ -571,6 +767,32 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
 </context>
 <context>
+    <name>RenameField</name>
+    <message>
+        <source>New name</source>
+        <translation>新しい名前</translation>
+    </message>
+</context>
+<context>
+    <name>Renaming</name>
+    <message>
+        <source>A file of this name exists already.</source>
+        <translation>この名前のファイルは既にあります。</translation>
+    </message>
+    <message>
+        <source>The folder cannot be changed.</source>
+        <translation>フォルダを変更できません。</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>名前が長すぎます。</translation>
+    </message>
+    <message>
+        <source>The file is gone.</source>
+        <translation>ファイルがなくなっています。</translation>
+    </message>
+</context>
+<context>
     <name>Requests</name>
     <message>
         <source>Vantle is shutting down</source>
@@ -603,6 +825,10 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <message>
         <source>the card is not visible</source>
         <translation>カードは表示されていません</translation>
+    </message>
+    <message>
+        <source>nothing has left the card lately</source>
+        <translation>最近カードから消えたものはありません</translation>
     </message>
 </context>
 <context>
@@ -784,6 +1010,33 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
         <source>Open Screenshots Folder</source>
         <translation>スクリーンショットのフォルダを開く</translation>
     </message>
+    <message>
+        <source>Bring back</source>
+        <translation>元に戻す</translation>
+    </message>
+</context>
+<context>
+    <name>TextReader</name>
+    <message>
+        <source>The picture cannot be opened, or it is damaged.</source>
+        <translation>画像を開けないか、画像が壊れています。</translation>
+    </message>
+    <message>
+        <source>The program that recognizes text cannot be started.</source>
+        <translation>文字認識プログラムを起動できません。</translation>
+    </message>
+    <message>
+        <source>Recognizing the text took too long.</source>
+        <translation>文字認識に時間がかかりすぎました。</translation>
+    </message>
+    <message>
+        <source>The program that recognizes text ended unexpectedly.</source>
+        <translation>文字認識プログラムが予期せず終了しました。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to recognize the text.</source>
+        <translation>文字認識に必要なメモリが足りません。</translation>
+    </message>
 </context>
 <context>
     <name>TileActions</name>
@@ -817,6 +1070,25 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <message>
         <source>Captures</source>
         <translation>キャプチャ</translation>
+    </message>
+</context>
+<context>
+    <name>TrashNotice</name>
+    <message>
+        <source>Undo</source>
+        <translation>取り消す</translation>
+    </message>
+    <message>
+        <source>Moved to Trash</source>
+        <translation>ゴミ箱に移動しました</translation>
+    </message>
+    <message>
+        <source>Could not be moved to the Trash</source>
+        <translation>ゴミ箱に移動できませんでした</translation>
+    </message>
+    <message>
+        <source>Could not be put back</source>
+        <translation>元に戻せませんでした</translation>
     </message>
 </context>
 <context>

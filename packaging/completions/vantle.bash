@@ -4,7 +4,7 @@ _vantle() {
   local word=$2
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    mapfile -t COMPREPLY < <(compgen -W '--settings --pause --resume --show --dismiss --focus-panel
+    mapfile -t COMPREPLY < <(compgen -W '--settings --pause --resume --show --dismiss --restore --focus-panel
       --open-folder --sample --quit --status --version --help' -- "$word")
   elif [[ ${COMP_WORDS[1]} == --status ]]; then
     mapfile -t COMPREPLY < <(compgen -W '--verbose --with-paths' -- "$word")

@@ -7,6 +7,7 @@ complete -c vantle -n '__fish_is_first_arg' -l resume -d 'Resume watching'
 complete -c vantle -n '__fish_is_first_arg' -l show -d 'Show screenshots or recordings on the card'
 complete -c vantle -n '__fish_seen_argument -l show' -F
 complete -c vantle -n '__fish_is_first_arg' -l dismiss -d 'Dismiss the card'
+complete -c vantle -n '__fish_is_first_arg' -l restore -d 'Bring back what left the card lately'
 complete -c vantle -n '__fish_is_first_arg' -l focus-panel -d 'Move the keyboard focus to the card'
 complete -c vantle -n '__fish_is_first_arg' -l open-folder -d 'Open the screenshots folder'
 complete -c vantle -n '__fish_is_first_arg' -l sample -d 'Show two sample captures'

@@ -7,6 +7,7 @@ _arguments \
   '(- *)--resume[resume watching]' \
   '(- *)--show[show screenshots or recordings on the card]:*:file:_files' \
   '(- *)--dismiss[dismiss the card]' \
+  '(- *)--restore[bring back what left the card lately]' \
   '(- *)--focus-panel[move the keyboard focus to the card]' \
   '(- *)--open-folder[open the screenshots folder]' \
   '(- *)--sample[show two sample captures]' \

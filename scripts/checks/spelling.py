@@ -21,8 +21,11 @@ CODE = re.compile(r"`[^`]*`|\]\([^)]*\)|\w+://\S+|</?[\w!][^>]*>|&\w+;|\S*[/_~$@
                   r"|(?<!\w)--?[a-z][\w-]*|\b\w+\.\w+\b|%n|%\d|\b\d\w*")
 NO_PROSE = re.compile(r"\s*<(id|url|image|launchable|binary)\b|.*xml:lang=")
 ENTRY = re.compile(r"^(Name|GenericName|Comment|Keywords)=(.*)$")
-# Names, and texts of the launcher's entry and the metainfo in other languages.
-NOT_ENGLISH = r"\b[a-z]+[A-Z]\w*|\\[nt]|\w+\[[a-z]{2}\]=.*|xml:lang=.*"
+# Names, codes of languages, and texts of the launcher's entry and the metainfo in other languages.
+NOT_ENGLISH = (r"\b[a-z]+[A-Z]\w*|\\[nt]|\{\"[a-z]{2}\", \"[a-z]{3}\"\}"
+               r"|\w+\[[a-z]{2}\]=.*|xml:lang=.*")
+# Translations, and texts for measurements.
+IN_OTHER_LANGUAGES = re.compile(r".*\.ts|bench/texts/.*")
 MISSPELLING = re.compile(r"^(?:\./)?(.+?):(\d+): (.+ ==> .+)$", re.MULTILINE)
 
 
@@ -100,8 +103,8 @@ def unknown_words(note):
 
 def common_misspellings(note):
     require("codespell", "codespell")
-    # Translations are not English.
-    paths = [path for path in all_files() if text_of(path) and not path.endswith(".ts")]
+    paths = [path for path in all_files()
+             if text_of(path) and not IN_OTHER_LANGUAGES.fullmatch(path)]
     note(f"looked for common misspellings in {len(paths)} files")
     output, status = output_of("codespell", "--ignore-words", str(ROOT / WORDS),
                                "--ignore-regex", NOT_ENGLISH, *paths)

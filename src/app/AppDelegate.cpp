@@ -30,22 +30,6 @@ CaptureWatcher::Services watcherServices(const Platform& platform) {
             .additionalExtensions = platform.additionalExtensions};
 }
 
-CapturePanelController::Services panelServices(
-    const Platform& platform, Settings& settings,
-    const CapturePanelController::PanelFactory& makePanel) {
-    return {.settings = settings,
-            .scheduler = *platform.scheduler,
-            .screens = *platform.screens,
-            .opener = *platform.opener,
-            .files = *platform.files,
-            .pasteboard = *platform.pasteboard,
-            .sharing = *platform.sharing,
-            .trash = *platform.trash,
-            .spareMemory = *platform.spareMemory,
-            .environment = platform.environment,
-            .makePanel = makePanel};
-}
-
 CaptureLoader makeLoader(const Platform& platform,
                          const std::shared_ptr<CapturePanelController>& panel) {
     return {{.scheduler = *platform.scheduler,
@@ -53,6 +37,49 @@ CaptureLoader makeLoader(const Platform& platform,
              .media = *platform.media,
              .additionalExtensions = platform.additionalExtensions},
             panel};
+}
+
+CapturePanelController::Reload makeReload(const Platform& platform) {
+    return [loader = makeLoader(platform, nullptr), &queue = *platform.watcherQueue](
+               std::vector<CapturePointer> captures, auto loaded) {
+        queue.async([loader, captures = std::move(captures), loaded = std::move(loaded)] {
+            loader.reload(captures, loaded);
+        });
+    };
+}
+
+CapturePanelController::Services panelServices(
+    const Platform& platform, Settings& settings,
+    const CapturePanelController::PanelFactory& makePanel) {
+    return {.settings = settings,
+            .scheduler = *platform.scheduler,
+            .screens = *platform.screens,
+            .opener = *platform.opener,
+            .openWith = *platform.openWith,
+            .contextMenu = *platform.contextMenu,
+            .files = *platform.files,
+            .pasteboard = *platform.pasteboard,
+            .sharing = *platform.sharing,
+            .trash = *platform.trash,
+            .spareMemory = *platform.spareMemory,
+            .environment = platform.environment,
+            .makePanel = makePanel,
+            .reload = makeReload(platform)};
+}
+
+PreviewController::Services previewServices(const Platform& platform, CapturePanelController& panel,
+                                            const PreviewController::WindowFactory& makeWindow) {
+    return {.screens = *platform.screens,
+            .spareMemory = *platform.spareMemory,
+            .loading = {.main = *platform.scheduler,
+                        .files = *platform.files,
+                        .makeMedia = platform.makePictureLoader,
+                        .queue = *platform.pictureQueue},
+            .card = {.state = panel.state(),
+                     .actions = [&panel] { return panel.actions(); },
+                     .holdCountdown = [&panel] { return panel.holdCountdown(); },
+                     .tileFrame = [&panel](const UUID& id) { return panel.tileFrame(id); }},
+            .makeWindow = makeWindow};
 }
 
 }  // namespace
@@ -71,6 +98,7 @@ AppDelegate::AppDelegate(Platform& platform, Views views)
       watcher_(CaptureWatcher::create(watcherServices(platform))),
       recordings_(RecordingsWatcher::create(watcherServices(platform))),
       panel_(CapturePanelController::create(panelServices(platform, settings_, views_.makePanel))),
+      preview_(PreviewController::create(previewServices(platform, *panel_, views_.makePreview))),
       statusBar_(*platform.statusItem, *platform.opener, *platform.application, settings_),
       recent_({.panel = *panel_, .queue = *platform.watcherQueue}, makeLoader(platform, panel_)),
       samples_({.canvas = *platform.canvas,
@@ -124,6 +152,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     connectApplication();
     connectRequests();
     connectStatusBar();
+    connectPreview();
     updater();  // starts its schedule
     if (platform_.environment("VANTLE_CHECK_UPDATES_NOW"))
         platform_.scheduler->after(updateCheckDelay, weakly(shared_from_this(), [](auto& self) {
@@ -166,6 +195,12 @@ void AppDelegate::connectStatusBar() {
     };
     statusBar_.onShow =
         weakly(self, [](auto& delegate, const auto& capture) { delegate.recent_.show(capture); });
+    statusBar_.canBringBack = [weak = weak_from_this()] {
+        const auto delegate = weak.lock();
+        return delegate && delegate->panel_->canBringBack();
+    };
+    statusBar_.onBringBack = weakly(self, [](auto& delegate) { delegate.panel_->bringBack(); });
+    panel_->onDeparture = weakly(self, [](auto& delegate) { delegate.statusBar_.recentChanged(); });
     statusBar_.onSettings = weakly(self, [](auto& delegate) { delegate.showSettings(); });
     statusBar_.onCheckForUpdates = weakly(self, [](auto& delegate) { delegate.checkForUpdates(); });
     statusBar_.onPause = weakly(self, [](auto& delegate, bool paused) {
@@ -174,6 +209,23 @@ void AppDelegate::connectStatusBar() {
         else
             delegate.startWatching();
     });
+}
+
+void AppDelegate::connectPreview() {
+    panel_->onSettings = weakly(shared_from_this(), [](auto& self) { self.showSettings(); });
+    panel_->renaming().willRename = weakly(shared_from_this(), [](auto& self, const Url& to) {
+        self.watcher_->willRename(to);
+        self.recordings_->willRename(to);
+    });
+    panel_->renaming().didRename =
+        weakly(shared_from_this(), [](auto& self, const Url& from, const Url& to, bool isSuccess) {
+            self.watcher_->didRename(from, to, isSuccess);
+            self.recordings_->didRename(from, to, isSuccess);
+            if (isSuccess) self.recent_.renamed(from, to);
+            self.statusBar_.recentChanged();
+        });
+    panel_->onPreview =
+        weakly(shared_from_this(), [](auto& self, const UUID& id) { self.preview_->open(id); });
 }
 
 void AppDelegate::connectWatcher() {

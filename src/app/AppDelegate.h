@@ -18,6 +18,7 @@
 #include "panel/CapturePanelController.h"
 #include "platform/Platform.h"
 #include "platform/Window.h"
+#include "preview/PreviewController.h"
 #include "settings/Settings.h"
 #include "support/Subscription.h"
 
@@ -30,6 +31,7 @@ public:
     /// Makes the panel and the windows.
     struct Views {
         CapturePanelController::PanelFactory makePanel;
+        PreviewController::WindowFactory makePreview;
         /// The next two may be empty. Then there is no settings window, or no onboarding.
         std::function<std::unique_ptr<Window>(Settings& settings)> makeSettingsWindow;
         std::function<std::unique_ptr<Window>(Settings& settings, std::function<void()> finish)>
@@ -69,6 +71,7 @@ public:
     Settings& settings() { return settings_; }
     StatusBarController& statusBar() { return statusBar_; }
     CapturePanelController& panel() { return *panel_; }
+    PreviewController& preview() { return *preview_; }
     const CaptureWatcher& watcher() const { return *watcher_; }
     const RecordingsWatcher& recordings() const { return *recordings_; }
 
@@ -82,6 +85,7 @@ private:
     void connectApplication();
     void connectRequests();
     void connectStatusBar();
+    void connectPreview();
     void connectWatcher();
     void observeScreenshotFolder();
     void observeSystem();
@@ -107,6 +111,7 @@ private:
     std::shared_ptr<CaptureWatcher> watcher_;
     std::shared_ptr<RecordingsWatcher> recordings_;  ///< Watches the desktop's recorder.
     std::shared_ptr<CapturePanelController> panel_;
+    std::shared_ptr<PreviewController> preview_;
     StatusBarController statusBar_;
     RecentCaptures recent_;
     SampleCaptures samples_;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 #include "capture/Capture.h"
 #include "panel/CapturePanelController.h"
@@ -34,7 +36,13 @@ public:
     /// file is gone.
     void loadAgain(const CapturePointer& capture) const;
 
+    /// Loads captures with their whole thumbnails, or with the small ones that they have if their
+    /// files are gone, and calls `loaded` on the main thread.
+    void reload(const std::vector<CapturePointer>& captures,
+                std::function<void(const std::vector<CapturePointer>&)> loaded) const;
+
 private:
+    CapturePointer reloaded(const CapturePointer& capture) const;
     void show(const CapturePointer& capture) const;
 
     Services services_;

@@ -31,6 +31,8 @@ constexpr std::array options = {
     Option{"show", Kind::start, marked("CommandLine", "show screenshots or recordings on the card"),
            Takes::files},
     Option{"dismiss", Kind::sendRequest, marked("CommandLine", "dismiss the card")},
+    Option{"restore", Kind::sendRequest,
+           marked("CommandLine", "bring back what left the card lately")},
     Option{"focus-panel", Kind::sendRequest,
            marked("CommandLine", "move the keyboard focus to the card")},
     Option{"open-folder", Kind::sendRequest, marked("CommandLine", "open the screenshots folder")},

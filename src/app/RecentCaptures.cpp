@@ -26,6 +26,11 @@ void RecentCaptures::add(const CapturePointer& capture) {
     if (captures_.size() > maximum) captures_.pop_back();
 }
 
+void RecentCaptures::renamed(const Url& from, const Url& to) {
+    for (CapturePointer& capture : captures_)
+        if (capture->url() == from) capture = capture->renamed(to);
+}
+
 void RecentCaptures::show(const CapturePointer& recent) const {
     const auto& shown = services_.panel.state().captures.value();
     const auto isSameCapture = [&recent](const auto& capture) { return *capture == *recent; };

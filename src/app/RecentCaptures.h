@@ -28,6 +28,9 @@ public:
     /// Puts the capture first, even if it was there already.
     void add(const CapturePointer& capture);
 
+    /// Must be called when the file of a capture has another name.
+    void renamed(const Url& from, const Url& to);
+
     /// Shows one of the captures in the panel, with its whole thumbnail.
     void show(const CapturePointer& recent) const;
 

@@ -25,6 +25,7 @@ Result<std::string> RequestHandler::perform(const ApplicationRequest& request) {
     if (request.action == "status") return report_.text(request.arguments);
     if (request.action == "show") return show(request.arguments);
     if (request.action == "focus-panel") return focusPanel();
+    if (request.action == "restore") return restore();
     const auto found = actions.find(request.action);
     if (found == actions.end())
         return Failure{
@@ -41,6 +42,13 @@ Result<std::string> RequestHandler::focusPanel() {
     if (!services_.panel.isVisible())
         return Failure{ENOENT, localized("Requests", "the card is not visible"), ""};
     services_.panel.takeKeyboard();
+    return std::string();
+}
+
+Result<std::string> RequestHandler::restore() {
+    if (!services_.panel.canBringBack())
+        return Failure{ENOENT, localized("Requests", "nothing has left the card lately"), ""};
+    services_.panel.bringBack();
     return std::string();
 }
 

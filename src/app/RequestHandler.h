@@ -41,6 +41,7 @@ public:
 private:
     void setPaused(bool paused);
     Result<std::string> focusPanel();
+    Result<std::string> restore();
     Result<std::string> show(const std::vector<std::string>& paths);
 
     Services services_;

@@ -73,6 +73,9 @@ void StatusBarController::addCaptures(Menu& menu, const std::vector<CapturePoint
     menu.items.push_back(label(localized("StatusBarController", "Recent Captures")));
     for (std::size_t i = 0; i < std::min(captures.size(), maximumListed); ++i)
         menu.items.push_back(itemFor(captures[i]));
+    if (canBringBack())
+        menu.items.push_back(
+            action(localized("StatusBarController", "Bring back"), [this] { onBringBack(); }));
     menu.items.push_back(separator());
     menu.items.push_back(action(localized("StatusBarController", "Open Screenshots Folder"),
                                 [this] { openFolder(); }));

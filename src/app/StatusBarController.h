@@ -31,6 +31,9 @@ public:
         return std::vector<CapturePointer>{};
     };
     std::function<void(const CapturePointer&)> onShow = [](const CapturePointer&) {};
+    /// Returns true if captures that left the card can come back.
+    std::function<bool()> canBringBack = [] { return false; };
+    std::function<void()> onBringBack = [] {};
     std::function<void()> onSettings = [] {};
     std::function<void()> onCheckForUpdates = [] {};
     /// Called with the new state: true if watching must pause.
@@ -42,7 +45,7 @@ public:
     /// Returns the menu, made from scratch.
     Menu menuNeedsUpdate();
 
-    /// Must be called when `recent` would return other captures than before.
+    /// Must be called when `recent` or `canBringBack` would return something else than before.
     void recentChanged() { item_.menuChanged(); }
 
     void openFolder() const;

@@ -33,6 +33,13 @@ std::shared_ptr<Capture> Capture::create(const Url& url, Date date, const Captur
     return std::shared_ptr<Capture>(new Capture(url, date, *kind));
 }
 
+std::vector<Url> urlsOf(const std::vector<CapturePointer>& captures) {
+    std::vector<Url> urls;
+    urls.reserve(captures.size());
+    for (const auto& capture : captures) urls.push_back(capture->url());
+    return urls;
+}
+
 Capture::Capture(Url url, Date date, CaptureKind kind)
     : id_(UUID::random()), url_(std::move(url)), date_(date), kind_(kind) {}
 
@@ -50,6 +57,12 @@ void Capture::loadThumbnail(MediaLoader& media, double maximumDimension) {
 std::shared_ptr<const Capture> Capture::withSmallThumbnail(int pixelsWide, int pixelsHigh) const {
     const std::shared_ptr<Capture> copy(new Capture(*this));
     if (thumbnail_) copy->thumbnail_ = smallPicture(thumbnail_, pixelsWide, pixelsHigh);
+    return copy;
+}
+
+std::shared_ptr<const Capture> Capture::renamed(const Url& url) const {
+    const std::shared_ptr<Capture> copy(new Capture(*this));
+    copy->url_ = url;
     return copy;
 }
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "filetypes/FileTypes.h"
 #include "platform/CaptureExtensions.h"
@@ -61,6 +62,10 @@ public:
     /// `pixelsWide` × `pixelsHigh`.
     std::shared_ptr<const Capture> withSmallThumbnail(int pixelsWide, int pixelsHigh) const;
 
+    /// Returns this capture after its file was renamed to `url`: the same identity, thumbnail and
+    /// date.
+    std::shared_ptr<const Capture> renamed(const Url& url) const;
+
 private:
     Capture(Url url, Date date, CaptureKind kind);
     Capture(const Capture&) = default;
@@ -79,6 +84,9 @@ private:
 
 /// A delivered capture. It is read-only and shared by all views that show it.
 using CapturePointer = std::shared_ptr<const Capture>;
+
+/// Returns the files of captures, in the same order.
+std::vector<Url> urlsOf(const std::vector<CapturePointer>& captures);
 
 /// Returns true if both captures are of the same file.
 inline bool operator==(const Capture& a, const Capture& b) {

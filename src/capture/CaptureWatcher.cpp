@@ -103,6 +103,20 @@ std::optional<WatchError> CaptureWatcher::begin(const Opening& opening, WatchNum
     return std::nullopt;
 }
 
+void CaptureWatcher::willRename(const Url& to) {
+    services_.queue.async(weakly(shared_from_this(), [to](auto& self) {
+        // A scan that runs already may find the new name before this is known. It only begins to
+        // poll the file then, and the polling looks here before it reports the file.
+        self.renamingTo_.insert(to.path());
+    }));
+}
+
+void CaptureWatcher::didRename(const Url& from, const Url& to, bool isSuccess) {
+    services_.queue.async(weakly(shared_from_this(), [from, to, isSuccess](auto& self) {
+        self.endRenaming(from, to, isSuccess);
+    }));
+}
+
 void CaptureWatcher::report(const WatchError& error) {
     systemLog("Vantle: cannot watch " + (folder_ ? folder_->path() : "?"), error.text());
     services_.main.async(weakly(shared_from_this(), [error](auto& self) {
@@ -169,6 +183,8 @@ CaptureWatcher::CheckResult CaptureWatcher::checkFile(const Url& folder, std::st
 
 void CaptureWatcher::waitUntilStable(const Url& url, int attempts, std::int64_t lastSize,
                                      const std::function<void()>& done) {
+    const bool isRenamed = !pending_.contains(url.path()) || renamingTo_.contains(url.path());
+    if (isRenamed) return;
     const auto size = services_.files.fileSize(url);
     const bool hasContents = size && *size >= 1;
     if (hasContents && (*size == lastSize || attempts >= lastAttempt)) {
@@ -191,6 +207,17 @@ void CaptureWatcher::settle(const Url& url, Date fileDate) {
     if (url.deletingLastPathComponent() == known_.folder()) known_.insert(url.lastPathComponent());
     settled_.push_back({url, fileDate});
     deliverNext();
+}
+
+void CaptureWatcher::endRenaming(const Url& from, const Url& to, bool isSuccess) {
+    renamingTo_.erase(to.path());
+    // The scan below begins anew with a file that has one of these names now.
+    pending_.erase(to.path());
+    if (isSuccess) pending_.erase(from.path());
+    const Url folder = known_.folder();
+    if (to.deletingLastPathComponent() != folder) return;
+    if (isSuccess) known_.rename(from.lastPathComponent(), to.lastPathComponent());
+    if (currentWatch_ != notWatching) scan(folder);
 }
 
 void CaptureWatcher::deliverNext() {

@@ -27,6 +27,16 @@ public:
     bool contains(std::string_view name) const { return names_.contains(name); }
     void insert(std::string_view name) { names_.emplace(name); }
 
+    /// Makes `to` known instead of `from`, even if `from` was not known.
+    void rename(std::string_view from, std::string_view to) {
+        insert(to);
+        if (const auto found = names_.find(from); found != names_.end()) names_.erase(found);
+        NameList kept;
+        for (std::size_t i = 0; i < ordered_.size(); ++i)
+            if (ordered_[i] != from) kept.add(ordered_[i]);
+        ordered_ = std::move(kept);
+    }
+
     /// Calls `onUnknown` with each listed name that is not known, in order, and forgets known names
     /// that are not listed. `onUnknown` may call insert().
     template <typename OnUnknown>

@@ -36,6 +36,12 @@ public:
     /// Stops watching and waiting. Files that are settling at that moment may still be reported.
     void stop();
 
+    /// Like those of CaptureWatcher.
+    void willRename(const Url& to) { watcher_->willRename(to); }
+    void didRename(const Url& from, const Url& to, bool isSuccess) {
+        watcher_->didRename(from, to, isSuccess);
+    }
+
     State state() const;
 
 private:

@@ -22,9 +22,10 @@ Item {
             required property bool isPinned
             required property bool isCopied
             required property bool isLeaving
+            required property string trashNotice
 
             anchors.fill: parent
-            visible: !isLeaving
+            visible: !isLeaving && trashNotice === ""
 
             Column {
                 anchors.verticalCenter: parent.verticalCenter

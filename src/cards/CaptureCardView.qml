@@ -44,6 +44,15 @@ FocusScope {
         dampingFraction: 0.82
     }
 
+    CardMotion {
+        id: motion
+
+        row: row
+        presence: presence
+        travel: view.travel
+        isPresented: view.panel.isPresented
+    }
+
     Item {
         id: card
 
@@ -53,11 +62,11 @@ FocusScope {
         readonly property real timerBarHeight: hasTimerBar ? view.spacing + timerBar.height : 0
 
         x: (view.panel.atRight ? view.width - width - view.panelPadding : view.panelPadding)
-           + (1 - presence.value) * view.travel
+           + (1 - presence.value) * view.travel + motion.offset
         y: view.panel.atBottom ? view.height - height - view.panelPadding : view.panelPadding
         width: widthSpring.value
         height: heightSpring.value
-        opacity: presence.value
+        opacity: presence.value * (1 - motion.fade)
         visible: view.panel.isPresented || presence.running
         enabled: view.panel.isPresented
 
@@ -86,6 +95,18 @@ FocusScope {
             id: hover
         }
 
+        // The tiles above it have menus of their own. A handler of taps takes the first press of any
+        // button on some display servers.
+        MouseArea {
+            anchors.fill: parent
+            acceptedButtons: Qt.RightButton
+            Accessible.ignored: true
+            onClicked: mouse => {
+                const there = mapToItem(null, mouse.x, mouse.y);
+                view.panel.showBackgroundMenu(Qt.rect(there.x, there.y, 1, 1), false);
+            }
+        }
+
         ShadowView {
             anchors.fill: glass
             anchors.margins: -margin
@@ -100,6 +121,7 @@ FocusScope {
 
             anchors.fill: parent
             isSolid: view.panel.isPresented
+            isHeld: motion.offset !== 0
             fill: view.panel.rendersPlain ? Qt.alpha(Appearance.windowBackground, 0.85)
                   : isBlurred ? Appearance.glassMaterial : Appearance.popoverMaterial
             borderWidth: view.panel.rendersPlain ? 0 : 1
@@ -144,7 +166,7 @@ FocusScope {
             y: -8
             isShown: view.panel.hovering && view.panel.count >= 2 && view.panel.selectedCount === 0
             onTapped: {
-                view.panel.log("tap Clear all");
+                DebugLog.write("tap Clear all");
                 view.panel.closeAll();
             }
         }
@@ -161,7 +183,18 @@ FocusScope {
     }
 
     HelpTag {
-        panel: view.panel
-        card: card
+        id: helpTag
+
+        avoided: card
+        isInTheWay: view.panel.hasMarquee || view.panel.isDragging
+    }
+
+    // A pressed item needs no explanation any more.
+    Connections {
+        target: view.panel
+
+        function onPressed() {
+            helpTag.hide();
+        }
     }
 }

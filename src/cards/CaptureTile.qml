@@ -24,6 +24,14 @@ FocusScope {
     required property bool isCopied
     required property bool isMissing
     required property bool isLeaving
+    // The user is typing the name of its file; why the latest one was refused.
+    required property bool isRenaming
+    required property string changeableName
+    required property string extension
+    required property string refusal
+    // What takes the place of the tile after its file was moved to the Trash; otherwise empty.
+    required property string trashNotice
+    required property bool canUndoTrash
 
     // True if the tile is new in the row and must grow into it.
     required property bool animatesIn
@@ -40,26 +48,38 @@ FocusScope {
     // True while the pointer is on another tile's actions, which extend over this one.
     property bool isUnderOtherActions: false
     readonly property bool isActionsHovered: bar.isHovered
-    readonly property bool isAttended: (hovering || activeFocus) && !isLeaving
+    readonly property bool isTrashed: trashNotice !== ""
+    readonly property bool isAttended: (hovering || activeFocus) && !isLeaving && !isTrashed
+    // Keeps the last notice while it fades out.
+    property string shownNotice
+    // Goes to 0 while a notice takes the place of the thumbnail.
+    property real pictureOpacity: isTrashed ? 0 : 1
+
+    // How far the tile is above or below its place, because the fingers move it.
+    readonly property alias shift: shift
+    readonly property real shiftFade: Math.min(0.7, Math.abs(shift.value) / 120)
 
     x: left.value
+    y: Appearance.reducesMotion ? 0 : shift.value
     z: isAttended ? 1 : isLeaving ? -1 : 0
     width: widthSpring.value
     height: heightSpring.value + (compact ? nameGap + name.height : 0)
-    opacity: presence.value
+    opacity: presence.value * (1 - shiftFade)
     scale: size.value
     activeFocusOnTab: true
     enabled: !isLeaving
 
     Accessible.role: Accessible.ListItem
     Accessible.name: isRecording && durationText !== "" ? qsTr("%1, recording, %2").arg(fileName).arg(durationText) : fileName
-    Accessible.description: isMissing ? qsTr("The file is gone") : isPinned ? qsTr("Pinned") : ""
+    Accessible.description: isTrashed ? trashNotice : isMissing ? qsTr("The file is gone") : isPinned ? qsTr("Pinned") : ""
     Accessible.selectable: true
     Accessible.selected: isSelected
     Accessible.focusable: true
     Accessible.focused: activeFocus
-    Accessible.onPressAction: panel.open(captureId)
+    Accessible.onPressAction: isTrashed ? panel.undoTrash(captureId) : panel.open(captureId)
     Accessible.onToggleAction: panel.toggleSelect(captureId)
+
+    Behavior on pictureOpacity { NumberAnimation { duration: 180; easing.type: Easing.OutQuad } }
 
     ListSpring { id: left; panel: tile.panel; target: tile.tileX }
     ListSpring { id: widthSpring; panel: tile.panel; target: tile.tileWidth }
@@ -84,8 +104,41 @@ FocusScope {
         }
     }
 
+    Spring {
+        id: shift
+
+        response: 0.4
+        dampingFraction: 0.8
+    }
+
+    // A tile that comes back before it has gone is not at its place.
+    readonly property bool isStaying: panel.isPresented && !isLeaving
+    onIsStayingChanged: if (isStaying) shift.target = 0
+
     HoverHandler {
         id: hover
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        // Takes the press, so that the card's own handler does not open a second menu.
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: eventPoint => tile.showMenu(eventPoint.position)
+    }
+
+    TapHandler {
+        acceptedDevices: PointerDevice.TouchScreen
+        onLongPressed: tile.showMenu(point.position)
+    }
+
+    // Opens the menu at a place of the tile.
+    function showMenu(place) {
+        const there = mapToItem(null, place.x, place.y);
+        panel.showMenu(captureId, Qt.rect(there.x, there.y, 1, 1), false);
+    }
+
+    function showMenuByKeyboard() {
+        panel.showMenu(captureId, mapToItem(null, 0, 0, width, heightSpring.value), true);
     }
 
     ShadowView {
@@ -95,11 +148,14 @@ FocusScope {
         verticalOffset: 2
         strength: 0.25
         cornerRadius: CardLayout.thumbnailCornerRadius
+        opacity: tile.pictureOpacity
     }
 
     DraggableThumbnail {
         id: thumbnail
 
+        opacity: tile.pictureOpacity
+        enabled: !tile.isTrashed
         width: tile.width
         height: heightSpring.value
         panel: tile.panel
@@ -116,6 +172,19 @@ FocusScope {
         cornerRadius: CardLayout.thumbnailCornerRadius
         borderWidth: 1
         borderColor: Qt.rgba(1, 1, 1, 0.25)
+        opacity: tile.pictureOpacity
+    }
+
+    Loader {
+        anchors.fill: thumbnail
+        opacity: 1 - tile.pictureOpacity
+        active: opacity > 0
+        sourceComponent: TrashNotice {
+            panel: tile.panel
+            captureId: tile.captureId
+            text: tile.shownNotice
+            canUndo: tile.canUndoTrash
+        }
     }
 
     Loader {
@@ -144,6 +213,7 @@ FocusScope {
         x: 8
         y: 8
         active: tile.isRecording
+        opacity: tile.pictureOpacity
         sourceComponent: DurationBadge {
             text: tile.durationText
         }
@@ -179,7 +249,20 @@ FocusScope {
             captureId: tile.captureId
             isPinned: tile.isPinned
             isCopied: tile.isCopied
-            isShown: tile.compact && tile.isAttended && tile.panel.selectedCount === 0
+            isShown: tile.compact && tile.isAttended && tile.panel.selectedCount === 0 && !tile.isRenaming
+        }
+    }
+
+    Loader {
+        x: Math.max(tile.visibleLeft - tile.x, Math.min((tile.width - width) / 2, tile.visibleRight - tile.x - width))
+        y: heightSpring.value - height - 6
+        z: 2
+        active: tile.isRenaming
+        sourceComponent: RenameField {
+            panel: tile.panel
+            name: tile.changeableName
+            extension: tile.extension
+            refusal: tile.refusal
         }
     }
 
@@ -204,6 +287,12 @@ FocusScope {
                 onTapped: tile.panel.close(tile.captureId)
             }
         }
+    }
+
+    Binding on shownNotice {
+        when: tile.isTrashed
+        value: tile.trashNotice
+        restoreMode: Binding.RestoreNone
     }
 
     Binding {

@@ -8,6 +8,13 @@ QtObject {
     required property PanelModel panel
     required property TileRow row
 
+    function handleOnTrashed(event, tile) {
+        const isUndo = event.key === Qt.Key_Return || event.key === Qt.Key_Enter || event.key === Qt.Key_Space;
+        if (!isUndo) return;
+        panel.undoTrash(tile.captureId);
+        event.accepted = true;
+    }
+
     function trash(tile) {
         if (tile.isSelected)
             panel.trashSelected();
@@ -36,12 +43,30 @@ QtObject {
         case Qt.Key_End:
             row.focusTile(panel.count - 1);
             break;
+        default:
+            if (tile.isTrashed)
+                handleOnTrashed(event, tile);
+            else
+                handleOnCapture(event, tile);
+            return;
+        }
+        event.accepted = true;
+    }
+
+    function handleOnCapture(event, tile) {
+        switch (event.key) {
         case Qt.Key_Return:
         case Qt.Key_Enter:
             panel.open(tile.captureId);
             break;
         case Qt.Key_Space:
-            panel.toggleSelect(tile.captureId);
+            if (event.modifiers & Qt.ControlModifier)
+                panel.toggleSelect(tile.captureId);
+            else
+                panel.preview(tile.captureId);
+            break;
+        case Qt.Key_F2:
+            panel.beginRenaming(tile.captureId);
             break;
         case Qt.Key_Delete:
         case Qt.Key_Backspace:
@@ -53,10 +78,38 @@ QtObject {
         event.accepted = true;
     }
 
+    function isMenu(event) {
+        return event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && (event.modifiers & Qt.ShiftModifier));
+    }
+
+    function showMenu(tile) {
+        if (tile && !tile.isTrashed)
+            tile.showMenuByKeyboard();
+        else
+            panel.showBackgroundMenu(row.mapToItem(null, 0, 0, row.width, row.height), true);
+    }
+
     function handle(event) {
-        const tile = row.focusedTile();
+        // A space is meant for the tile under the pointer, if there is one.
+        const isPreview = event.key === Qt.Key_Space && event.modifiers === Qt.NoModifier;
+        const tile = (isPreview ? row.hoveredTile() : null) ?? row.focusedTile();
         if (event.key === Qt.Key_Escape) {
             clearSelectionOrCloseAll();
+            event.accepted = true;
+        } else if (isMenu(event)) {
+            showMenu(tile);
+            event.accepted = true;
+        } else if (event.matches(StandardKey.SelectAll)) {
+            panel.selectAll();
+            event.accepted = true;
+        } else if (event.matches(StandardKey.Copy) && (tile || panel.selectedCount > 0)) {
+            if (panel.selectedCount > 0)
+                panel.copySelected();
+            else
+                panel.copy(tile.captureId);
+            event.accepted = true;
+        } else if (event.matches(StandardKey.Undo)) {
+            panel.undo();
             event.accepted = true;
         } else if (tile) {
             handleOnTile(event, tile);

@@ -35,7 +35,7 @@ Item {
 
     DragThumbnailView {
         anchors.fill: parent
-        panel: thumbnail.panel
+        source: thumbnail.panel
         captureId: thumbnail.captureId
         fileName: thumbnail.fileName
         onClick: thumbnail.panel.open(thumbnail.captureId)

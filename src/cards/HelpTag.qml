@@ -6,9 +6,9 @@ PlateView {
     id: tag
 
     // The area that the tag must not cover if it describes a whole thumbnail.
-    required property Item card
-    required property PanelModel panel
-    readonly property bool isInTheWay: panel.hasMarquee || panel.isDragging
+    required property Item avoided
+    // True while the tag would cover something that the user looks at.
+    property bool isInTheWay: false
     readonly property Item subject: Help.item && Help.item.visible && !isInTheWay ? Help.item : null
     property bool isDue: false
     property point place
@@ -24,14 +24,9 @@ PlateView {
 
     Behavior on opacity { NumberAnimation { duration: 120 } }
 
-    // A pressed item needs no explanation any more.
-    Connections {
-        target: tag.panel
-
-        function onPressed() {
-            tag.isDue = false;
-            delay.stop();
-        }
+    function hide() {
+        isDue = false;
+        delay.stop();
     }
 
     onSubjectChanged: {
@@ -43,9 +38,9 @@ PlateView {
         if (!subject) return;
         label.text = Help.text;
         const frame = subject.mapToItem(parent, 0, 0, subject.width, subject.height);
-        const avoided = subject instanceof DraggableThumbnail ? Qt.rect(0, card.y - 12, 0, card.height + 12) : frame;
-        const above = avoided.y - height - 6;
-        place = Qt.point(frame.x + frame.width / 2, above >= 4 ? above : avoided.y + avoided.height + 6);
+        const kept = subject instanceof DraggableThumbnail ? Qt.rect(0, avoided.y - 12, 0, avoided.height + 12) : frame;
+        const above = kept.y - height - 6;
+        place = Qt.point(frame.x + frame.width / 2, above >= 4 ? above : kept.y + kept.height + 6);
         isDue = true;
     }
 

@@ -62,7 +62,6 @@ Item {
         }
 
         TapIcon {
-            panel: bar.panel
             symbol: "doc.on.doc"
             help: qsTr("Copy selected")
             isOnDark: true
@@ -70,7 +69,6 @@ Item {
         }
 
         TapIcon {
-            panel: bar.panel
             symbol: "trash"
             help: qsTr("Move selected to Trash")
             isOnDark: true
@@ -78,7 +76,6 @@ Item {
         }
 
         TapIcon {
-            panel: bar.panel
             symbol: "xmark"
             help: qsTr("Dismiss selected")
             isOnDark: true

@@ -5,7 +5,6 @@ import Vantle.Panel
 Item {
     id: icon
 
-    required property PanelModel panel
     required property string symbol
     required property string help
     // The name for assistive programs.
@@ -75,7 +74,7 @@ Item {
 
         name: icon.name
         onTapped: {
-            icon.panel.log("tap icon " + icon.symbol);
+            DebugLog.write("tap icon " + icon.symbol);
             icon.action();
         }
     }

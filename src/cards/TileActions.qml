@@ -13,7 +13,6 @@ Row {
 
     TapIcon {
         visible: actions.panel.hasTimer
-        panel: actions.panel
         symbol: actions.isPinned ? "pin.fill" : "pin"
         help: actions.isPinned ? qsTr("Unpin (dismiss on timer again)") : qsTr("Pin (ignore the timer)")
         isOnDark: actions.isOnDark
@@ -21,7 +20,6 @@ Row {
     }
 
     TapIcon {
-        panel: actions.panel
         symbol: actions.isCopied ? "checkmark" : "doc.on.doc"
         help: qsTr("Copy to clipboard")
         isOnDark: actions.isOnDark
@@ -29,14 +27,12 @@ Row {
     }
 
     ShareButton {
-        panel: actions.panel
         help: qsTr("Share…")
         isOnDark: actions.isOnDark
         onShare: anchor => actions.panel.share(actions.captureId, anchor)
     }
 
     TapIcon {
-        panel: actions.panel
         symbol: "folder"
         help: qsTr("Reveal in Finder")
         isOnDark: actions.isOnDark
@@ -44,7 +40,6 @@ Row {
     }
 
     TapIcon {
-        panel: actions.panel
         symbol: "trash"
         help: qsTr("Move to Trash")
         isOnDark: actions.isOnDark

@@ -17,6 +17,8 @@ FocusScope {
     // The size of the row when nothing moves.
     readonly property real naturalWidth: Math.min(CardLayout.maxContentWidth, panel.contentWidth) + 2 * CardLayout.innerMargin
     readonly property real naturalHeight: CardLayout.innerMargin + panel.thumbnailHeight + nameHeight + overflowMargin
+    // How far the row is scrolled, or will be when it has come to rest.
+    readonly property alias position: scrolled.target
     readonly property real maximumScroll: Math.max(0, panel.contentWidth + 2 * CardLayout.innerMargin - naturalWidth)
     // Tiles that exist from the beginning do not grow into the row.
     property bool isComplete: false
@@ -64,6 +66,15 @@ FocusScope {
         return null;
     }
 
+    // Returns the tile of a capture that is on the card, or leaving it; null if there is none.
+    function tileOf(captureId) {
+        for (let i = 0; i < tiles.count; ++i) {
+            const tile = tiles.itemAt(i) as CaptureTile;
+            if (tile && tile.captureId === captureId) return tile;
+        }
+        return null;
+    }
+
     function focusTile(position) {
         const tile = tileAt(Math.min(Math.max(position, 0), panel.count - 1));
         if (!tile) return;
@@ -77,6 +88,15 @@ FocusScope {
         for (let position = 0; position < panel.count; ++position) {
             const tile = tileAt(position);
             if (tile && tile.activeFocus) return tile;
+        }
+        return null;
+    }
+
+    // Returns the tile under the pointer; null if there is none.
+    function hoveredTile() {
+        for (let position = 0; position < panel.count; ++position) {
+            const tile = tileAt(position);
+            if (tile && tile.hovering) return tile;
         }
         return null;
     }

@@ -3,27 +3,33 @@ import Vantle.Cards
 import Vantle.Menus
 import Vantle.Panel
 
-// A line of a menu: an action, a label, or a separator between groups.
+// A line of a menu: an action, the way to another page, a label, or a separator between groups.
 Item {
     id: line
 
     required property MenuModel menu
+    required property int page
     required property int index
     required property var modelData
-    // The place where the title begins.
-    required property real titleX
+    // The room for a symbol or a small picture before the title; 0 if no line of the page has one.
+    required property real iconWidth
 
     readonly property bool isSeparator: modelData.isSeparator
     readonly property bool hasPicture: modelData.picture !== ""
-    readonly property bool isCurrent: menu.current === index
+    // A large picture makes its line higher.
+    readonly property bool hasLargePicture: hasPicture && modelData.pictureSize.height > 20
+    readonly property bool isCurrent: menu.page === page && menu.current === index
+    readonly property real titleX: hasLargePicture ? 53 : iconWidth > 0 ? 18 + iconWidth : 12
     readonly property color ink: isCurrent ? "white" : Appearance.primary
-    readonly property real shortcutWidth: shortcut.text === "" ? 0 : shortcut.implicitWidth + 28
+    readonly property real shortcutWidth: modelData.hasPage ? 30
+                                          : shortcut.text === "" ? 0 : shortcut.implicitWidth + 28
 
     implicitWidth: isSeparator ? 0 : titleX + title.implicitWidth + shortcutWidth + 14
-    height: isSeparator ? 9 : hasPicture ? 32 : 28
+    height: isSeparator ? 9 : hasLargePicture ? 32 : 28
 
     Accessible.role: isSeparator ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: modelData.title
+    Accessible.description: modelData.isBack ? qsTr("Back") : modelData.hasPage ? qsTr("Submenu") : ""
     Accessible.focusable: !isSeparator && modelData.isEnabled
     Accessible.focused: isCurrent
     Accessible.onPressAction: menu.choose(index)
@@ -45,7 +51,7 @@ Item {
     }
 
     Loader {
-        x: 9
+        x: 9 + (line.iconWidth - width) / 2
         anchors.verticalCenter: parent.verticalCenter
         active: line.modelData.symbol !== ""
         sourceComponent: Symbol {
@@ -72,11 +78,11 @@ Item {
         text: line.modelData.title
         textFormat: Text.PlainText
         // The names of screenshots differ at their ends.
-        elide: line.hasPicture ? Text.ElideMiddle : Text.ElideRight
+        elide: line.hasLargePicture ? Text.ElideMiddle : Text.ElideRight
         color: line.ink
         opacity: line.modelData.isEnabled ? 1 : 0.5
         font.pointSize: Appearance.fontPoints(line.modelData.isEnabled ? 13 : 12)
-        font.weight: line.modelData.isEnabled ? Font.Normal : Font.DemiBold
+        font.weight: line.modelData.isEnabled && !line.modelData.isBack ? Font.Normal : Font.DemiBold
     }
 
     Text {
@@ -90,6 +96,18 @@ Item {
         color: line.ink
         opacity: 0.55
         font.pointSize: Appearance.fontPoints(13)
+    }
+
+    Loader {
+        anchors.right: line.right
+        anchors.rightMargin: 7
+        anchors.verticalCenter: parent.verticalCenter
+        active: line.modelData.hasPage
+        sourceComponent: Symbol {
+            name: "chevron.right"
+            color: line.ink // qmllint disable unqualified
+            opacity: 0.55
+        }
     }
 
     MouseArea {

@@ -6,7 +6,7 @@
 
 namespace vantle {
 
-/// Draws the pictures of a menu's lines: "image://menu/REVISION/LINE".
+/// Draws the pictures of a menu's lines: "image://menu/REVISION/PAGE/LINE".
 class MenuPictureProvider final : public QQuickImageProvider {
 public:
     /// `model` must outlive the provider.

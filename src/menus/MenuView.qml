@@ -2,21 +2,60 @@ import QtQuick
 import Vantle.Menus
 import Vantle.Panel
 
-// A menu: its lines on a plate with a shadow.
+// A menu: the lines of its current page on a plate with a shadow. It has room for the largest page.
 Item {
     id: view
 
     required property MenuModel menu
+    // If true, the plate stays at the bottom when it changes its height.
+    property bool growsUpwards: false
     // The room for the shadow on each side.
     readonly property real margin: shadow.margin
     readonly property real cornerRadius: 10
     readonly property real padding: 5
+    // Computed at once, because the window is placed before anything is laid out.
+    readonly property size largest: {
+        let size = Qt.size(170, 0);
+        for (let i = 0; i < pages.count; ++i) {
+            const page = pages.itemAt(i);
+            if (page)
+                size = Qt.size(Math.max(size.width, Math.min(page.natural.width, 380)),
+                               Math.max(size.height, page.natural.height));
+        }
+        return Qt.size(Math.ceil(size.width), size.height);
+    }
+    readonly property real pageHeight: {
+        const page = pages.count > 0 ? pages.itemAt(menu.page) : null;
+        return (page ? page.natural.height : 0) + 2 * padding;
+    }
+    readonly property alias drawnHeight: plate.height
+    // Where the plate is when it has come to rest.
+    readonly property rect plateFrame: Qt.rect(margin, growsUpwards ? height - margin - pageHeight : margin,
+                                               largest.width + 2 * padding, pageHeight)
 
-    width: plate.width + 2 * margin
-    height: plate.height + 2 * margin
+    width: largest.width + 2 * padding + 2 * margin
+    height: largest.height + 2 * padding + 2 * margin
 
     Accessible.role: Accessible.PopupMenu
     Accessible.name: menu.title
+
+    Connections {
+        target: view.menu
+
+        // Another menu does not grow out of the one before it.
+        function onPagesChanged() {
+            plateHeight.jumpTo(view.pageHeight);
+        }
+    }
+
+    Spring {
+        id: plateHeight
+
+        target: view.pageHeight
+        response: 0.28
+        dampingFraction: 0.9
+        enabled: !Appearance.reducesMotion
+    }
 
     ShadowView {
         id: shadow
@@ -33,47 +72,32 @@ Item {
         id: plate
 
         x: view.margin
-        y: view.margin
-        width: lines.width + 2 * view.padding
-        height: lines.natural.height + 2 * view.padding
+        y: view.growsUpwards ? view.height - view.margin - height : view.margin
+        width: view.largest.width + 2 * view.padding
+        height: plateHeight.value
         cornerRadius: view.cornerRadius
         fill: Appearance.isDark ? Qt.rgba(0.17, 0.17, 0.185, 0.97) : Qt.rgba(0.97, 0.97, 0.98, 0.97)
         borderWidth: 1
         borderColor: Appearance.isDark ? Qt.rgba(1, 1, 1, 0.16) : Qt.rgba(0, 0, 0, 0.12)
     }
 
-    Column {
-        id: lines
-
-        // Computed at once, because the window is placed before anything is laid out.
-        readonly property size natural: {
-            let size = Qt.size(0, 0);
-            for (let i = 0; i < children.length; ++i) {
-                size.width = Math.max(size.width, children[i].implicitWidth);
-                size.height += children[i].height;
-            }
-            return size;
-        }
-
-        readonly property bool haveSymbols: {
-            for (const line of view.menu.lines)
-                if (line.symbol !== "")
-                    return true;
-            return false;
-        }
-
+    Item {
         x: plate.x + view.padding
         y: plate.y + view.padding
-        width: Math.ceil(Math.max(170, Math.min(natural.width, 380)))
+        width: view.largest.width
+        height: plate.height - 2 * view.padding
+        clip: plateHeight.running
 
         Repeater {
-            model: view.menu.lines
+            id: pages
 
-            MenuLine {
+            model: view.menu.pages
+
+            MenuPage {
                 // Qt 6.4 cannot bind a delegate's component, so it refers to the ids around it.
                 menu: view.menu // qmllint disable unqualified
-                width: lines.width // qmllint disable unqualified
-                titleX: hasPicture ? 53 : lines.haveSymbols ? 34 : 12 // qmllint disable unqualified
+                width: view.largest.width // qmllint disable unqualified
+                visible: view.menu.page === index // qmllint disable unqualified
             }
         }
     }

@@ -21,6 +21,7 @@ MenuWindow::MenuWindow() : placement_(DisplayServer::current().makeMenuPlacement
     load(QStringLiteral("Menus/MenuView.qml"),
          {{QStringLiteral("menu"), QVariant::fromValue(&model_)}});
     connect(&model_, &MenuModel::chosen, this, [this](int line) { end(line); });
+    connect(&model_, &MenuModel::pageChanged, this, &MenuWindow::updateMask);
 }
 
 MenuWindow::~MenuWindow() {
@@ -33,13 +34,18 @@ void MenuWindow::open(const Menu& menu, const MenuAnchor& anchor, Ended ended) {
     model_.setMenu(menu);
     model_.setCurrent(menu.current);
     resize(rootObject()->size().toSize());
+    placement_->show(anchor, largestPlate());
+    rootObject()->setProperty("growsUpwards", placement_->isAboveAnchor());
     updateMask();
-    placement_->show(anchor, plate());
+}
+
+QRect MenuWindow::largestPlate() const {
+    const int margin = qRound(rootObject()->property("margin").toReal());
+    return QRect(QPoint(), size()).marginsRemoved({margin, margin, margin, margin});
 }
 
 QRect MenuWindow::plate() const {
-    const int margin = qRound(rootObject()->property("margin").toReal());
-    return QRect(QPoint(), size()).marginsRemoved({margin, margin, margin, margin});
+    return rootObject()->property("plateFrame").toRectF().toRect();
 }
 
 void MenuWindow::updateMask() {
@@ -78,7 +84,14 @@ bool MenuWindow::event(QEvent* event) {
 bool MenuWindow::handleKey(const QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Escape:
-            closeMenu();
+            if (!model_.leave()) closeMenu();
+            return true;
+        case Qt::Key_Left:
+        case Qt::Key_Backspace:
+            model_.leave();
+            return true;
+        case Qt::Key_Right:
+            model_.enter();
             return true;
         case Qt::Key_Down:
         case Qt::Key_Tab:
@@ -96,7 +109,7 @@ bool MenuWindow::handleKey(const QKeyEvent& event) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:
-            model_.choose(model_.current());
+            model_.chooseCurrent();
             return true;
         default:
             if (event.modifiers() & Qt::ControlModifier) return chooseByKey(event.key());
@@ -117,6 +130,7 @@ void MenuWindow::end(std::optional<int> chosen) {
     placement_->hide();
     // The action is copied first, because `ended` may open the menu again.
     const auto action = chosen ? model_.item(*chosen).action : nullptr;
+    if (chosen) chosen = model_.lineOfFirstPage(*chosen);
     ended(chosen);
     if (action) action();
 }

@@ -14,7 +14,8 @@ namespace vantle {
 /// is open it has the pointer and the keyboard. A click outside it or Escape closes it.
 class MenuWindow final : public ViewWindow {
 public:
-    /// `chosen` is the line that was chosen, if any.
+    /// `chosen` is the line that was chosen, if any. For a line of a submenu, it is the line of the
+    /// menu itself that leads there.
     using Ended = std::function<void(std::optional<int> chosen)>;
 
     MenuWindow();
@@ -33,8 +34,11 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    /// Returns the frame of the menu in the window, without the shadow.
+    /// Returns the frame of the current page in the window, without the shadow.
     QRect plate() const;
+    /// Returns the frame that the largest page takes. The window has room for it from the start, so
+    /// that it need not be placed again.
+    QRect largestPlate() const;
     void updateMask();
     bool handleKey(const QKeyEvent& event);
     bool chooseByKey(int key);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <string>
+#include <system_error>
 #include <utility>
 
 #include "support/Debug.h"
@@ -22,20 +23,6 @@ constexpr Seconds removalAfterCopyOfSelection{0.3};
 // The program that took the file must have time to read it.
 constexpr Seconds trashDelay{5};
 
-std::vector<Url> urls(const std::vector<CapturePointer>& captures) {
-    std::vector<Url> urls;
-    urls.reserve(captures.size());
-    for (const auto& capture : captures) urls.push_back(capture->url());
-    return urls;
-}
-
-/// Returns a completion that logs a failure, preceded by `introduction`.
-Trash::Completion logging(std::string introduction) {
-    return [introduction = std::move(introduction)](const Outcome& failure) {
-        if (failure) systemLog(introduction + failure->message);
-    };
-}
-
 }  // namespace
 
 std::shared_ptr<CaptureActions> CaptureActions::create(const Services& services) {
@@ -52,6 +39,34 @@ void CaptureActions::reveal(const CapturePointer& capture) {
     if (!checkFileExists(capture)) return;
     services_.opener.reveal({capture->url()});
     afterUse({capture});
+}
+
+void CaptureActions::revealSelected() {
+    const auto captures = services_.selection.captures();
+    if (captures.empty()) return;
+    services_.opener.reveal(urlsOf(captures));
+    afterUse(captures);
+}
+
+void CaptureActions::openWith(const std::vector<CapturePointer>& captures,
+                              const std::string& program) {
+    if (std::ranges::all_of(captures,
+                            [this](const auto& capture) { return checkFileExists(capture); }))
+        services_.openWith.open(urlsOf(captures), program, whenOpened(captures));
+}
+
+void CaptureActions::openWithOther(const CapturePointer& capture) {
+    if (checkFileExists(capture))
+        services_.openWith.openWithOther(capture->url(), whenOpened({capture}));
+}
+
+OpenWith::Completion CaptureActions::whenOpened(const std::vector<CapturePointer>& captures) {
+    return weakly(shared_from_this(), [captures](auto& self, const Outcome& failure) {
+        if (!failure)
+            self.afterUse(captures);
+        else if (std::errc(failure->code) != std::errc::operation_canceled)
+            systemLog("Open With failed: " + failure->message);
+    });
 }
 
 bool CaptureActions::checkFileExists(const CapturePointer& capture) {
@@ -99,14 +114,31 @@ void CaptureActions::copyToPasteboard(const std::vector<CapturePointer>& capture
     pasteboard.writeObjects(objects);
 }
 
+void CaptureActions::copyPaths(const std::vector<CapturePointer>& captures) {
+    std::string paths;
+    for (const auto& capture : captures)
+        paths += (paths.empty() ? "" : "\n") + capture->url().path();
+    services_.pasteboard.clearContents();
+    services_.pasteboard.writeObjects({paths});
+}
+
 void CaptureActions::share(const CapturePointer& capture, const Rect& anchor) {
+    shareAll({capture}, anchor);
+}
+
+void CaptureActions::shareSelected(const Rect& anchor) {
+    const auto captures = services_.selection.captures();
+    if (!captures.empty()) shareAll(captures, anchor);
+}
+
+void CaptureActions::shareAll(const std::vector<CapturePointer>& captures, const Rect& anchor) {
     services_.countdown.shareMenuOpened();
     shareDelegate_ = std::make_shared<ShareCompletion>(
-        weakly(shared_from_this(), [capture](auto& self, bool wasChosen) {
+        weakly(shared_from_this(), [captures](auto& self, bool wasChosen) {
             self.services_.countdown.shareMenuClosed();
-            if (wasChosen) self.afterUse({capture});
+            if (wasChosen) self.afterUse(captures);
         }));
-    services_.sharing.show({capture->url()}, anchor, shareDelegate_);
+    services_.sharing.show(urlsOf(captures), anchor, shareDelegate_);
 }
 
 void CaptureActions::closeShareMenu() {
@@ -114,21 +146,15 @@ void CaptureActions::closeShareMenu() {
 }
 
 void CaptureActions::trash(const CapturePointer& capture) {
-    trashAll({capture});
+    services_.trashed.trash({capture});
 }
 
 void CaptureActions::trashSelected() {
-    trashAll(services_.selection.captures());
-}
-
-void CaptureActions::trashAll(const std::vector<CapturePointer>& captures) {
-    if (captures.empty()) return;
-    services_.trash.recycle(urls(captures), logging("Trash failed: "));
-    onRemove(captures);
+    services_.trashed.trash(services_.selection.captures());
 }
 
 void CaptureActions::removeSelected() {
-    onRemove(services_.selection.captures());
+    onDismiss(services_.selection.captures());
 }
 
 void CaptureActions::afterUse(const std::vector<CapturePointer>& captures, Seconds delay) {
@@ -144,8 +170,10 @@ void CaptureActions::afterUse(const std::vector<CapturePointer>& captures, Secon
 void CaptureActions::trashLater(const std::vector<CapturePointer>& captures) {
     if (!services_.settings.deleteAfterUse.value() || captures.empty()) return;
     services_.scheduler.after(
-        trashDelay, weakly(shared_from_this(), [files = urls(captures)](auto& self) {
-            self.services_.trash.recycle(files, logging("Trash after use failed: "));
+        trashDelay, weakly(shared_from_this(), [files = urlsOf(captures)](auto& self) {
+            self.services_.trash.recycle(files, [](const Outcome& failure, const auto&) {
+                if (failure) systemLog("Trash after use failed: " + failure->message);
+            });
         }));
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "panel/CardActions.h"
@@ -9,8 +10,10 @@
 #include "panel/PanelState.h"
 #include "panel/Selection.h"
 #include "panel/ShareCompletion.h"
+#include "panel/TrashedCaptures.h"
 #include "platform/FileManager.h"
 #include "platform/FileOpener.h"
+#include "platform/OpenWith.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/SharingServicePicker.h"
@@ -28,10 +31,12 @@ public:
         const Settings& settings;
         Scheduler& scheduler;
         FileOpener& opener;
+        OpenWith& openWith;
         const FileManager& files;
         Pasteboard& pasteboard;
         SharingServicePicker& sharing;
         Trash& trash;
+        TrashedCaptures& trashed;
         PanelState& state;
         Selection& selection;
         Countdown& countdown;
@@ -39,21 +44,31 @@ public:
 
     static std::shared_ptr<CaptureActions> create(const Services& services);
 
-    /// Called with the captures that must leave the card.
+    /// Called with used captures that must leave the card.
     std::function<void(const std::vector<CapturePointer>&)> onRemove = [](const auto&) {};
+    /// Called with captures that must leave the card because the user does not want them there.
+    std::function<void(const std::vector<CapturePointer>&)> onDismiss = [](const auto&) {};
 
     /// Both count as a use of the capture if its file exists; otherwise the capture's tile says
     /// that the file is gone.
     void open(const CapturePointer& capture);
     void reveal(const CapturePointer& capture);
+    void revealSelected();
+
+    /// Both count as a use once the program has started; a failure is logged.
+    void openWith(const std::vector<CapturePointer>& captures, const std::string& program);
+    void openWithOther(const CapturePointer& capture);
 
     /// Both copy to the clipboard, which counts as a use.
     void copy(const CapturePointer& capture);
     void copySelected();
+    /// Copies the files' paths as text, one in a line. Does not count as a use.
+    void copyPaths(const std::vector<CapturePointer>& captures);
 
     /// Opens the share menu beside `anchor` (in screen coordinates). Counts as a use if a service
     /// is chosen.
     void share(const CapturePointer& capture, const Rect& anchor);
+    void shareSelected(const Rect& anchor);
     void closeShareMenu();
 
     /// Both move the files to the Trash at once, whatever the settings say.
@@ -75,9 +90,11 @@ public:
 private:
     explicit CaptureActions(const Services& services) : services_(services) {}
 
+    void shareAll(const std::vector<CapturePointer>& captures, const Rect& anchor);
+    /// Returns a completion that counts a use, or logs the failure unless the user cancelled.
+    OpenWith::Completion whenOpened(const std::vector<CapturePointer>& captures);
     bool checkFileExists(const CapturePointer& capture);
     void copyToPasteboard(const std::vector<CapturePointer>& captures);
-    void trashAll(const std::vector<CapturePointer>& captures);
     /// Removes used captures from the card after `delay`, if the settings say so.
     void afterUse(const std::vector<CapturePointer>& captures, Seconds delay = Seconds(0));
     /// Moves the files of used captures to the Trash a little later, if the settings say so.

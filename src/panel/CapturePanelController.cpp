@@ -18,6 +18,8 @@ namespace {
 constexpr Seconds hideDelay{0.5};
 constexpr Seconds releaseDelay{2};  // keeps the panel loaded while screenshots follow quickly
 constexpr Seconds debugDumpDelay{1.2};
+// A slip is usually noticed at once; later, whole thumbnails would cost more than loading them.
+constexpr Seconds shrinkDelay{10};
 constexpr Animation removalSpring{.response = 0.45, .dampingFraction = 0.82};
 constexpr Rect frameWithoutScreens{{0, 0}, {1440, 900}};
 
@@ -48,13 +50,18 @@ CapturePanelController::CapturePanelController(Services services)
     : services_(std::move(services)),
       countdown_(Countdown::create(
           {.settings = services_.settings, .scheduler = services_.scheduler, .state = state_})),
+      trashed_(TrashedCaptures::create(
+          {.scheduler = services_.scheduler, .trash = services_.trash, .state = state_})),
+      renaming_({.files = services_.files, .state = state_, .countdown = *countdown_}),
       captureActions_(CaptureActions::create({.settings = services_.settings,
                                               .scheduler = services_.scheduler,
                                               .opener = services_.opener,
+                                              .openWith = services_.openWith,
                                               .files = services_.files,
                                               .pasteboard = services_.pasteboard,
                                               .sharing = services_.sharing,
                                               .trash = services_.trash,
+                                              .trashed = *trashed_,
                                               .state = state_,
                                               .selection = selection_,
                                               .countdown = *countdown_})),
@@ -62,9 +69,27 @@ CapturePanelController::CapturePanelController(Services services)
 
 void CapturePanelController::connect() {
     const auto self = shared_from_this();
+    menus_ = CardMenus::create({.settings = services_.settings,
+                                .scheduler = services_.scheduler,
+                                .state = state_,
+                                .selection = selection_,
+                                .countdown = *countdown_,
+                                .contextMenu = services_.contextMenu,
+                                .openWith = services_.openWith,
+                                .actions = [this] { return actions(); }});
     countdown_->onExpiry = weakly(self, [](auto& controller) { controller.expire(); });
     captureActions_->onRemove = weakly(
         self, [](auto& controller, const auto& captures) { controller.removeMany(captures); });
+    captureActions_->onDismiss = weakly(
+        self, [](auto& controller, const auto& captures) { controller.dismissMany(captures); });
+    trashed_->onRemove = captureActions_->onRemove;
+    trashed_->onReturn =
+        weakly(self, [](auto& controller, const auto& captures, const auto& order) {
+            controller.putBack(captures, order);
+        });
+    trashed_->onNoticesEnd = weakly(self, [](auto& controller) {
+        if (controller.state_.captures.value().empty()) controller.dismiss();
+    });
     snapshots_->onDue =
         weakly(self, [](auto& controller, const auto& path) { controller.writeSnapshot(path); });
     corner_ = services_.settings.corner.observeChanges([this](PanelCorner) {
@@ -75,14 +100,9 @@ void CapturePanelController::connect() {
 }
 
 void CapturePanelController::show(const CapturePointer& capture) {
-    if (panel_)
-        position(*panel_);
-    else
-        createPanel();
-    if (hideWork_) hideWork_->cancel();
-    hideWork_.reset();
-    if (releaseWork_) releaseWork_->cancel();
-    state_.corner = services_.settings.corner.value();
+    keepPanel();
+    departures_.captureAppeared(*capture);
+    onDeparture();
     add(capture);
     state_.copiedID.set(std::nullopt);
     present();
@@ -93,15 +113,37 @@ void CapturePanelController::show(const CapturePointer& capture) {
     });
 }
 
+void CapturePanelController::keepPanel() {
+    if (panel_)
+        position(*panel_);
+    else
+        createPanel();
+    if (hideWork_) hideWork_->cancel();
+    hideWork_.reset();
+    if (releaseWork_) releaseWork_->cancel();
+    state_.corner = services_.settings.corner.value();
+}
+
 void CapturePanelController::createPanel() {
-    panel_ = services_.makePanel(
-        state_, services_.settings,
-        makeCardActions(shared_from_this(), *captureActions_, selection_, services_.opener));
+    panel_ = services_.makePanel(state_, services_.settings, actions());
     panel_->onMarquee =
         weakly(shared_from_this(), [](auto& self, const auto& rect) { self.marqueeChanged(rect); });
     panel_->onBackgroundClick =
         weakly(shared_from_this(), [](auto& self) { self.selection_.clear(); });
     position(*panel_);
+}
+
+CardActions CapturePanelController::actions() {
+    return makeCardActions(shared_from_this(), *captureActions_, selection_, renaming_,
+                           services_.opener);
+}
+
+std::optional<Rect> CapturePanelController::tileFrame(const UUID& captureID) const {
+    if (!panel_ || !state_.visible.value()) return std::nullopt;
+    const auto thumbnails = panel_->visibleThumbnails();
+    const auto found = std::ranges::find(thumbnails, captureID, &VisibleThumbnail::captureID);
+    const bool isSeen = found != thumbnails.end() && found->frame.size.width > 0;
+    return isSeen ? std::optional(panel_->onScreen(found->frame)) : std::nullopt;
 }
 
 void CapturePanelController::position(PanelWindow& panel) {
@@ -125,6 +167,10 @@ void CapturePanelController::add(const CapturePointer& capture) {
         captures.erase(old);
     }
     captures.push_back(capture);
+    setCaptures(std::move(captures));
+}
+
+void CapturePanelController::setCaptures(Captures captures) {
     // The identifiers of dropped captures may stay selected or pinned; they match nothing any more.
     if (captures.size() > CardLayout::maxCaptures)
         captures.erase(captures.begin(), captures.end() - CardLayout::maxCaptures);
@@ -170,11 +216,94 @@ void CapturePanelController::share(const CapturePointer& capture, const Rect& an
     captureActions_->share(capture, panel_->onScreen(anchor));
 }
 
-void CapturePanelController::remove(const CapturePointer& capture) {
-    removeMany({capture});
+void CapturePanelController::shareSelected(const Rect& anchor) {
+    captureActions_->shareSelected(panel_->onScreen(anchor));
 }
 
-void CapturePanelController::removeMany(const std::vector<CapturePointer>& captures) {
+void CapturePanelController::captureMenu(const CapturePointer& capture,
+                                         const MenuRequest& request) {
+    menus_->showForCapture(capture, panel_->onScreen(request.anchor), request.anchor, request.by);
+}
+
+void CapturePanelController::backgroundMenu(const MenuRequest& request) {
+    menus_->showForBackground(panel_->onScreen(request.anchor), request.by);
+}
+
+void CapturePanelController::beginRenaming(const CapturePointer& capture) {
+    takeKeyboard();
+    renaming_.begin(capture);
+}
+
+void CapturePanelController::remove(const CapturePointer& capture) {
+    dismissMany({capture});
+}
+
+void CapturePanelController::dismissMany(const Captures& captures) {
+    rememberDeparture(captures);
+    removeMany(captures);
+}
+
+void CapturePanelController::rememberDeparture(const Captures& captures) {
+    if (captures.empty()) return;
+    Departure departure{.card = urlsOf(state_.captures.value()), .time = services_.scheduler.now()};
+    for (const auto& capture : captures)
+        departure.captures.push_back({capture, state_.pinned.value().contains(capture->id())});
+    departures_.add(std::move(departure));
+    onDeparture();
+    if (shrinkWork_) shrinkWork_->cancel();
+    shrinkWork_ = services_.scheduler.after(shrinkDelay, weakly(shared_from_this(), [](auto& self) {
+                                                self.departures_.shrinkThumbnails();
+                                            }));
+}
+
+bool CapturePanelController::canBringBack() const {
+    return departures_.latest(services_.scheduler.now()).has_value();
+}
+
+void CapturePanelController::undo() {
+    const Instant now = services_.scheduler.now();
+    const auto departure = departures_.latest(now);
+    const auto trashing = trashed_->latest();
+    if (trashing && (!departure || *trashing > *departure))
+        trashed_->undoLatest();
+    else if (const auto latest = departures_.takeLatest(now))
+        bringBack(*latest);
+}
+
+void CapturePanelController::undoTrash(const UUID& captureID) {
+    trashed_->undo(captureID);
+}
+
+void CapturePanelController::bringBack() {
+    while (const auto departure = departures_.takeLatest(services_.scheduler.now()))
+        bringBack(*departure);
+}
+
+void CapturePanelController::bringBack(const Departure& departure) {
+    onDeparture();
+    Captures captures;
+    for (const auto& departed : departure.captures) captures.push_back(departed.capture);
+    const auto show = weakly(shared_from_this(), [departure](auto& self, const Captures& loaded) {
+        self.putBack(loaded, departure.card);
+        auto pinned = self.state_.pinned.value();
+        for (std::size_t i = 0; i < loaded.size(); ++i)
+            if (departure.captures[i].wasPinned) pinned.insert(loaded[i]->id());
+        self.state_.pinned.set(std::move(pinned));
+    });
+    if (departure.areThumbnailsWhole)
+        show(captures);
+    else
+        services_.reload(std::move(captures), show);
+}
+
+void CapturePanelController::putBack(const Captures& captures, const std::vector<Url>& order) {
+    keepPanel();
+    setCaptures(withReturned(state_.captures.value(), captures, order));
+    present();
+    countdown_->restart();
+}
+
+void CapturePanelController::removeMany(const Captures& captures) {
     if (captures.empty()) return;
     Debug::log([&] {
         return "remove " + std::to_string(captures.size()) +
@@ -195,7 +324,7 @@ void CapturePanelController::removeMany(const std::vector<CapturePointer>& captu
         state_.selected.set(std::move(selected));
         state_.pinned.set(std::move(pinned));
     });
-    if (state_.captures.value().empty()) {
+    if (state_.captures.value().empty() && state_.trashNotices.value().empty()) {
         dismiss();
         return;
     }
@@ -226,14 +355,14 @@ void CapturePanelController::expire() {
     std::vector<CapturePointer> expiring;
     std::ranges::copy_if(captures, std::back_inserter(expiring),
                          [&](const auto& capture) { return !pinned.contains(capture->id()); });
-    if (expiring.size() == captures.size()) {
+    if (expiring.size() == captures.size() && state_.trashNotices.value().empty()) {
         dismiss();
         return;
     }
     Debug::log(
         [&] { return "timer expired; keeping " + std::to_string(pinned.size()) + " pinned"; });
     countdown_->reset();
-    removeMany(expiring);
+    dismissMany(expiring);
 }
 
 void CapturePanelController::dismiss() {
@@ -241,8 +370,12 @@ void CapturePanelController::dismiss() {
         return "dismiss; visible=" + text(state_.visible.value()) +
                " count=" + std::to_string(state_.captures.value().size());
     });
+    if (state_.visible.value()) rememberDeparture(state_.captures.value());
+    trashed_->endNotices();
     // The share menu points at the card, which is about to go.
     captureActions_->closeShareMenu();
+    menus_->close();
+    renaming_.cancel();
     countdown_->stop();
     state_.hovering.set(false);
     state_.selected.set({});
@@ -267,6 +400,8 @@ void CapturePanelController::hide() {
 }
 
 void CapturePanelController::release() {
+    if (shrinkWork_) shrinkWork_->cancel();
+    departures_.shrinkThumbnails();
     panel_->releaseResources();
     services_.spareMemory.giveBack();
 }

@@ -8,12 +8,18 @@
 
 #include "panel/CaptureActions.h"
 #include "panel/CardActions.h"
+#include "panel/CardMenus.h"
 #include "panel/Countdown.h"
 #include "panel/DebugSnapshots.h"
+#include "panel/Departures.h"
 #include "panel/PanelState.h"
+#include "panel/Renaming.h"
 #include "panel/Selection.h"
+#include "panel/TrashedCaptures.h"
+#include "platform/ContextMenu.h"
 #include "platform/FileManager.h"
 #include "platform/FileOpener.h"
+#include "platform/OpenWith.h"
 #include "platform/PanelWindow.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
@@ -36,24 +42,33 @@ public:
     using PanelFactory = std::function<std::unique_ptr<PanelWindow>(
         PanelState& state, Settings& settings, CardActions actions)>;
 
+    using Captures = std::vector<CapturePointer>;
+    /// Loads the thumbnails of captures again in the background, then calls `loaded` on the main
+    /// thread with captures of the same files in the same order.
+    using Reload = std::function<void(Captures, std::function<void(const Captures&)> loaded)>;
+
     struct Services {
         Settings& settings;
         Scheduler& scheduler;
         Screens& screens;
         FileOpener& opener;
-        const FileManager& files;
+        OpenWith& openWith;
+        ContextMenu& contextMenu;
+        FileManager& files;
         Pasteboard& pasteboard;
         SharingServicePicker& sharing;
         Trash& trash;
         SpareMemory& spareMemory;
         Environment environment;
         PanelFactory makePanel;
+        Reload reload;
     };
 
     static std::shared_ptr<CapturePanelController> create(Services services);
 
     bool isVisible() const { return state_.visible.value(); }
     const PanelState& state() const { return state_; }
+    PanelState& state() { return state_; }
 
     /// Adds the capture, or moves it to the end if it is already shown, and presents the panel.
     void show(const CapturePointer& capture);
@@ -66,8 +81,48 @@ public:
 
     void remove(const CapturePointer& capture);
 
-    /// Removes these captures with an animation. Dismisses the panel if none is left.
-    void removeMany(const std::vector<CapturePointer>& captures);
+    /// Removes these captures with an animation. Dismisses the panel if nothing is left on it.
+    void removeMany(const Captures& captures);
+
+    /// Brings back what left the card last without having been used, or undoes the latest move to
+    /// the Trash if that is newer. Does nothing if there is neither.
+    void undo();
+    void undoTrash(const UUID& captureID);
+
+    /// Requests the preview of a capture.
+    void preview(const CapturePointer& capture) { onPreview(capture->id()); }
+    std::function<void(const UUID& captureID)> onPreview = [](const UUID&) {};
+
+    /// Opens the share menu for the selection.
+    void shareSelected(const Rect& anchor);
+
+    /// Opens the menu of a capture, or of the selection if the capture belongs to it.
+    void captureMenu(const CapturePointer& capture, const MenuRequest& request);
+    void backgroundMenu(const MenuRequest& request);
+
+    /// Requests the settings window.
+    void settings() { onSettings(); }
+    std::function<void()> onSettings = [] {};
+
+    /// Lets the user type a new name of the capture's file.
+    void beginRenaming(const CapturePointer& capture);
+    Renaming& renaming() { return renaming_; }
+
+    /// Returns the actions that the card requests.
+    CardActions actions();
+    /// Returns the visible frame of a capture's tile, in screen coordinates; absent if it is out of
+    /// sight.
+    std::optional<Rect> tileFrame(const UUID& captureID) const;
+    /// The countdown waits as long as the returned object lives.
+    std::shared_ptr<void> holdCountdown() { return countdown_->hold(); }
+
+    /// Returns true if captures that left the card can come back.
+    bool canBringBack() const;
+    /// Brings back all captures that left the card without having been used, to their places.
+    void bringBack();
+
+    /// Called when canBringBack() may have changed.
+    std::function<void()> onDeparture = [] {};
 
     /// Gives the panel the keyboard if it is on the screen.
     void takeKeyboard();
@@ -83,11 +138,24 @@ private:
     /// Updates the rubber band and the selection. Does nothing while the card is leaving.
     void marqueeChanged(const std::optional<Rect>& rect);
 
+    /// Removes captures that can come back.
+    void dismissMany(const Captures& captures);
+    /// Must be called before these captures leave the card.
+    void rememberDeparture(const Captures& captures);
+    /// Shows captures that left the card again.
+    void bringBack(const Departure& departure);
+    /// Puts captures back to their places on the card. `order` lists the files of the card when
+    /// they left.
+    void putBack(const Captures& captures, const std::vector<Url>& order);
+
     void createPanel();
+    /// Prepares the panel to stay on the screen.
+    void keepPanel();
     void position(PanelWindow& panel);
     /// Moves a visible card to the corner that the user has just chosen.
     void moveToCorner();
     void add(const CapturePointer& capture);
+    void setCaptures(Captures captures);
     /// Gives `current` the selection and pin of `old`, the equal capture that it replaces.
     void transferMarks(const UUID& old, const UUID& current);
     void present();
@@ -102,12 +170,17 @@ private:
     Services services_;
     PanelState state_;
     Selection selection_{state_};
+    Departures departures_;
     std::shared_ptr<Countdown> countdown_;
+    std::shared_ptr<TrashedCaptures> trashed_;
+    Renaming renaming_;
     std::shared_ptr<CaptureActions> captureActions_;
+    std::shared_ptr<CardMenus> menus_;
     std::shared_ptr<DebugSnapshots> snapshots_;
     std::unique_ptr<PanelWindow> panel_;
     Subscription corner_;
     TimerPointer hideWork_;     ///< Hides the panel; null once it has run or was cancelled.
+    TimerPointer shrinkWork_;   ///< Shrinks the thumbnails of captures that left the card.
     TimerPointer releaseWork_;  ///< Calls release() after the panel was hidden.
 };
 

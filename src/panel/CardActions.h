@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "capture/Capture.h"
@@ -14,8 +15,16 @@ struct DragItem {
     ImagePointer image;  ///< Null if the capture has no picture.
 };
 
-/// The callbacks through which the card requests actions. All sixteen are always set. Each holds
-/// the controller weakly.
+/// A request for a menu.
+struct MenuRequest {
+    enum class By { pointer, keyboard };
+
+    Rect anchor;  ///< What the menu points to, in the panel's content.
+    By by = By::pointer;
+};
+
+/// The callbacks through which the card requests actions. All are always set. Each holds the
+/// controller weakly.
 struct CardActions {
     using OnCapture = std::function<void(const CapturePointer&)>;
     using OnPanel = std::function<void()>;
@@ -40,6 +49,28 @@ struct CardActions {
     OnPanel copySelected;
     OnPanel trashSelected;
     OnPanel removeSelected;
+    /// Brings back what left the card last, or undoes the latest move to the Trash if that is
+    /// newer.
+    OnPanel undo;
+    /// Shows the capture large.
+    OnCapture preview;
+    OnPanel selectAll;
+    OnPanel settings;
+    std::function<void(const Rect& anchor)> shareSelected;
+    OnPanel revealSelected;
+    std::function<void(const std::vector<CapturePointer>&)> copyPaths;
+    /// Opens the captures with a program that OpenWith has found.
+    std::function<void(const std::vector<CapturePointer>&, const std::string& program)> openWith;
+    /// Lets the user choose a program in a dialog of the desktop.
+    OnCapture openWithOther;
+    OnCapture beginRenaming;
+    /// Gives the file of the capture that is being renamed this name, without its extension.
+    std::function<void(const std::string& name)> finishRenaming;
+    OnPanel cancelRenaming;
+    std::function<void(const CapturePointer&, const MenuRequest&)> captureMenu;
+    std::function<void(const MenuRequest&)> backgroundMenu;
+    /// Brings the files of a capture and of those that were trashed with it back from the Trash.
+    std::function<void(const UUID& captureID)> undoTrash;
 };
 
 }  // namespace vantle

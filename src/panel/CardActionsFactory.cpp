@@ -4,8 +4,30 @@
 
 namespace vantle {
 
+namespace {
+
+/// Adds what the menus of the card and the typing of a name need.
+void addMenuActions(CardActions& actions, const auto& weak, CapturePanelController& controller,
+                    CaptureActions& captures, Selection& selection, Renaming& renaming) {
+    actions.selectAll = weak(selection, &Selection::selectAll);
+    actions.settings = weak(controller, &CapturePanelController::settings);
+    actions.shareSelected = weak(controller, &CapturePanelController::shareSelected);
+    actions.revealSelected = weak(captures, &CaptureActions::revealSelected);
+    actions.copyPaths = weak(captures, &CaptureActions::copyPaths);
+    actions.openWith = weak(captures, &CaptureActions::openWith);
+    actions.openWithOther = weak(captures, &CaptureActions::openWithOther);
+    actions.beginRenaming = weak(controller, &CapturePanelController::beginRenaming);
+    actions.finishRenaming = weak(renaming, &Renaming::finish);
+    actions.cancelRenaming = weak(renaming, &Renaming::cancel);
+    actions.captureMenu = weak(controller, &CapturePanelController::captureMenu);
+    actions.backgroundMenu = weak(controller, &CapturePanelController::backgroundMenu);
+}
+
+}  // namespace
+
 CardActions makeCardActions(const std::shared_ptr<CapturePanelController>& controller,
-                            CaptureActions& captures, Selection& selection, FileOpener& opener) {
+                            CaptureActions& captures, Selection& selection, Renaming& renaming,
+                            FileOpener& opener) {
     // The controller owns the parts, so they live as long as it does.
     const auto weak = [&controller](auto& part, auto operation) {
         return weakly(controller, [&part, operation](auto&, const auto&... arguments) {
@@ -45,6 +67,10 @@ CardActions makeCardActions(const std::shared_ptr<CapturePanelController>& contr
     actions.copySelected = weak(captures, &CaptureActions::copySelected);
     actions.trashSelected = weak(captures, &CaptureActions::trashSelected);
     actions.removeSelected = weak(captures, &CaptureActions::removeSelected);
+    actions.undo = weak(*controller, &CapturePanelController::undo);
+    actions.preview = weak(*controller, &CapturePanelController::preview);
+    actions.undoTrash = weak(*controller, &CapturePanelController::undoTrash);
+    addMenuActions(actions, weak, *controller, captures, selection, renaming);
     return actions;
 }
 

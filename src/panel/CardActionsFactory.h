@@ -13,6 +13,7 @@ namespace vantle {
 /// Makes the callbacks through which the card reaches the controller and these of its parts. Each
 /// callback holds the controller weakly. `opener` must outlive the callbacks.
 CardActions makeCardActions(const std::shared_ptr<CapturePanelController>& controller,
-                            CaptureActions& captures, Selection& selection, FileOpener& opener);
+                            CaptureActions& captures, Selection& selection, Renaming& renaming,
+                            FileOpener& opener);
 
 }  // namespace vantle

@@ -76,6 +76,19 @@ void Countdown::dragEnded() {
     if (!isInUse()) resume();
 }
 
+std::shared_ptr<void> Countdown::hold() {
+    pause();
+    ++holds_;
+    return {this, [weak = weak_from_this()](void*) {
+                if (const auto self = weak.lock()) self->release();
+            }};
+}
+
+void Countdown::release() {
+    --holds_;
+    if (!isInUse() && !services_.state.hovering.value()) resume();
+}
+
 void Countdown::shareMenuOpened() {
     pause();
     isShareMenuOpen_ = true;

@@ -44,6 +44,9 @@ public:
     void dragBegan();
     void dragEnded();
 
+    /// Pauses the countdown as long as the returned object lives.
+    std::shared_ptr<void> hold();
+
     void shareMenuOpened();
     void shareMenuClosed();
     bool isShareMenuOpen() const { return isShareMenuOpen_; }
@@ -59,8 +62,9 @@ private:
     void pause();
     /// Continues with the time that was left, and with enough time to return to the card.
     void resume();
+    void release();
     bool isInUse() const {
-        return drags_ > 0 || isShareMenuOpen_ || services_.state.marquee.value();
+        return drags_ > 0 || holds_ > 0 || isShareMenuOpen_ || services_.state.marquee.value();
     }
     void startTimers(Seconds remaining);
     void invalidateTimers();
@@ -70,6 +74,7 @@ private:
     TimerPointer progressTimer_;
     std::optional<Seconds> pausedRemaining_;
     int drags_ = 0;
+    int holds_ = 0;
     bool isShareMenuOpen_ = false;
     Subscription hovering_;
 };

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <set>
+#include <string>
 #include <vector>
 
 #include "capture/Capture.h"
@@ -12,6 +14,13 @@
 #include "support/UUID.h"
 
 namespace vantle {
+
+/// What the tile of a capture says after its file was moved to the Trash.
+enum class TrashNotice {
+    moved,
+    notMoved,    ///< The file is where it was.
+    notPutBack,  ///< The file is still in the Trash, although the user wanted it back.
+};
 
 /// Holds what the panel shows, as plain data. Only the controller and the objects that it owns
 /// write it, except for `hovering`, which the card sets. Main thread only.
@@ -28,6 +37,14 @@ public:
     Published<std::optional<UUID>> copiedID{std::nullopt};
     /// The capture whose file was gone when it was needed. Its tile says so for a while.
     Published<std::optional<UUID>> missingID{std::nullopt};
+    /// The captures whose tiles are replaced by a notice. They are not in `captures` any more.
+    Published<std::map<UUID, TrashNotice>> trashNotices{{}};
+    /// The capture whose name the user is typing, and why the latest name was refused.
+    struct Renaming {
+        UUID captureID;
+        std::string refusal;  ///< Empty until a name is refused.
+    };
+    Published<std::optional<Renaming>> renaming{std::nullopt};
     Published<double> progress{1.0};  ///< The part of the countdown that is left, 0 to 1.
 
     /// Copied from the setting whenever the panel is placed; cannot be observed.

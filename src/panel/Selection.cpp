@@ -27,6 +27,12 @@ void Selection::clear() {
     if (!state_.selected.value().empty()) state_.selected.set({});
 }
 
+void Selection::selectAll() {
+    std::set<UUID> ids;
+    for (const auto& capture : state_.captures.value()) ids.insert(capture->id());
+    state_.selected.set(std::move(ids));
+}
+
 void Selection::selectIntersecting(const Rect& rect,
                                    const std::vector<VisibleThumbnail>& thumbnails) {
     const auto& captures = state_.captures.value();

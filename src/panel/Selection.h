@@ -19,6 +19,7 @@ public:
 
     void toggle(const CapturePointer& capture);
     void clear();
+    void selectAll();
 
     /// Selects the captures of the card whose visible thumbnails intersect `rect`, and no others.
     void selectIntersecting(const Rect& rect, const std::vector<VisibleThumbnail>& thumbnails);

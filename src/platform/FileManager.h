@@ -55,6 +55,11 @@ public:
     /// it. The contents need not survive a power failure.
     virtual Outcome write(const std::string& contents, const Url& file) = 0;
 
+    /// Renames a file without replacing another one. Fails with the kind std::errc::file_exists if
+    /// the new name is taken, no_such_file_or_directory if the file is gone, and
+    /// filename_too_long.
+    virtual Outcome rename(const Url& from, const Url& to) = 0;
+
     /// Returns a folder for files that need not survive a restart, which only this user can access.
     /// Creates it if it does not exist.
     virtual Result<Url> temporaryDirectory() = 0;

@@ -20,6 +20,13 @@ public:
     /// Returns the size of the upright image in points.
     virtual Size pointSize() const = 0;
 
+    /// Returns how many pages the file has: 1 unless it is a document.
+    virtual int pageCount() const { return 1; }
+
+    /// Chooses the page, counted from 0, that the other functions are about. Returns false if that
+    /// page cannot be opened; then the chosen page stays.
+    virtual bool selectPage(int page) { return page == 0; }
+
     /// Returns the image drawn to `size` points with high-quality interpolation, in as many pixels
     /// as the densest screen shows there, but never more than the file has. Returns null if the
     /// contents turn out to be damaged or incomplete.

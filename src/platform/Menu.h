@@ -29,6 +29,8 @@ struct MenuItem {
     bool isEnabled = true;
     /// Called when the item is chosen; may be empty.
     std::function<void()> action;
+    /// A submenu under the item's title; empty if there is none. Its item has no action.
+    std::vector<MenuItem> items;
 };
 
 /// A menu, as plain data.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <variant>
 #include <vector>
 
@@ -16,8 +17,8 @@ public:
 
 using PasteboardImagePointer = std::shared_ptr<const PasteboardImage>;
 
-/// One thing on the clipboard: a file, or a picture.
-using PasteboardObject = std::variant<Url, PasteboardImagePointer>;
+/// One thing on the clipboard: a file, a picture, or a text in UTF-8.
+using PasteboardObject = std::variant<Url, PasteboardImagePointer, std::string>;
 
 /// The clipboard that all programs share. Main thread only.
 class Pasteboard {
@@ -28,7 +29,7 @@ public:
 
     /// Offers the objects as one content, the first ones preferred: the picture as an image of
     /// several types, each made on request; the files as file managers paste them, and as text.
-    /// There is at most one picture.
+    /// There is at most one picture. A text is the only object.
     virtual void writeObjects(const std::vector<PasteboardObject>& objects) = 0;
 
     /// Returns the picture in an image file that could be drawn before; null if the file can no

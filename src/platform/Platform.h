@@ -9,6 +9,7 @@
 #include "platform/Application.h"
 #include "platform/Canvas.h"
 #include "platform/CaptureExtensions.h"
+#include "platform/ContextMenu.h"
 #include "platform/DesktopAppearance.h"
 #include "platform/DirectoryEvents.h"
 #include "platform/FileManager.h"
@@ -16,6 +17,7 @@
 #include "platform/FolderChooser.h"
 #include "platform/LoginItem.h"
 #include "platform/MediaLoader.h"
+#include "platform/OpenWith.h"
 #include "platform/Pasteboard.h"
 #include "platform/PreferencesDomain.h"
 #include "platform/PrivacySettings.h"
@@ -28,6 +30,7 @@
 #include "platform/SoundPlayer.h"
 #include "platform/SpareMemory.h"
 #include "platform/StatusItem.h"
+#include "platform/TextReader.h"
 #include "platform/Trash.h"
 #include "platform/TrayExtension.h"
 #include "platform/Updater.h"
@@ -51,6 +54,7 @@ struct Platform {
     std::unique_ptr<WallClock> clock;
     std::unique_ptr<FileManager> files;
     std::unique_ptr<MediaLoader> media;
+    std::unique_ptr<TextReader> textReader;
     std::unique_ptr<UserDefaults> defaults;
     std::unique_ptr<PreferencesDomain> screenshotPreferences;
     std::unique_ptr<ProcessLauncher> launcher;
@@ -59,9 +63,11 @@ struct Platform {
     std::unique_ptr<Application> application;
     std::unique_ptr<DesktopAppearance> appearance;
     std::unique_ptr<FileOpener> opener;
+    std::unique_ptr<OpenWith> openWith;
     std::unique_ptr<Trash> trash;
     std::unique_ptr<Pasteboard> pasteboard;
     std::unique_ptr<SharingServicePicker> sharing;
+    std::unique_ptr<ContextMenu> contextMenu;
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<Alerts> alerts;
     std::unique_ptr<PrivacySettings> privacySettings;
@@ -70,9 +76,13 @@ struct Platform {
     std::unique_ptr<SoundPlayer> sounds;
     std::unique_ptr<SpareMemory> spareMemory;
     std::unique_ptr<SerialQueue> watcherQueue;
-    std::unique_ptr<SerialQueue> serverQueue;  ///< For work that may wait for others for ever.
+    std::unique_ptr<SerialQueue> serverQueue;   ///< For work that may wait for others for ever.
+    std::unique_ptr<SerialQueue> pictureQueue;  ///< For large pictures.
     std::unique_ptr<DirectoryEvents> directoryEvents;
     std::shared_ptr<void> systemEvents;  ///< Has `screenshotPreferences` report changes.
+
+    /// Makes a loader that draws one pixel for each point, whichever screens there are. Any thread.
+    std::function<std::unique_ptr<MediaLoader>()> makePictureLoader;
 
     /// Calls `launch` on the main thread as soon as every value that the settings mirror is known.
     /// Not set if all are known from the start.

@@ -12,6 +12,7 @@ namespace vantle {
 struct Screen {
     Rect frame;
     Rect visibleFrame;  ///< Without the desktop's own panels and docks.
+    double pixelsPerPoint = 1;
 };
 
 /// The displays and the pointer. Main thread only.

@@ -13,6 +13,7 @@
 #include "platform/ScreenshotPreferences.h"
 #include "platform/displays/ServerChoice.h"
 #include "platform/freedesktop/DesktopFileOpener.h"
+#include "platform/freedesktop/DesktopOpenWith.h"
 #include "platform/freedesktop/DesktopPrivacySettings.h"
 #include "platform/freedesktop/FileTransferPortal.h"
 #include "platform/freedesktop/GSettingsCommand.h"
@@ -29,6 +30,8 @@
 #include "platform/linux/AutostartLoginItem.h"
 #include "platform/linux/CanberraSoundPlayer.h"
 #include "platform/linux/ConfinedMediaLoader.h"
+#include "platform/linux/ConfinedTextReader.h"
+#include "platform/linux/DeferredQueue.h"
 #include "platform/linux/FreedesktopTrash.h"
 #include "platform/linux/GlibcSpareMemory.h"
 #include "platform/linux/GnomeTrayExtension.h"
@@ -82,21 +85,34 @@ std::unique_ptr<SharingSource> makeSharingSource(const Platform& platform) {
 }
 
 /// Draws whole pictures for other programs, independently of the screens.
-std::shared_ptr<MediaLoader> makePictureLoader() {
-    return std::make_shared<ConfinedMediaLoader>(pathBesideProgram("vantle-decoder"),
-                                                 [] { return 1.0; });
+std::unique_ptr<MediaLoader> makePictureLoader(const std::string& decoder) {
+    return std::make_unique<ConfinedMediaLoader>(decoder, [] { return 1.0; });
+}
+
+std::unique_ptr<OpenWith> makeOpenWith() {
+    return std::make_unique<DesktopOpenWith>(DesktopOpenWith::Options{
+        .program = QString::fromStdString(pathBesideProgram("vantle-applications")),
+        .withheld = displays::toolkitVariables(),
+        .ownIdentifier = std::string(programIdentifier) + ".desktop",
+        .pixelsPerPoint = maximumPixelsPerPoint()});
 }
 
 /// Adds the services for what the user does with a capture.
 void addCaptureServices(Platform& platform, LoadedViews& views) {
     const auto fileTransfer = std::make_shared<FileTransferPortal>();
     views.use({platform.appearance.get(), fileTransfer});
+    platform.makePictureLoader = [decoder = pathBesideProgram("vantle-decoder")] {
+        return makePictureLoader(decoder);
+    };
     platform.opener = std::make_unique<DesktopFileOpener>(*platform.launcher,
                                                           DesktopFileOpener::currentSandbox());
+    platform.openWith = makeOpenWith();
     platform.trash = std::make_unique<FreedesktopTrash>(*platform.scheduler, platform.environment);
-    platform.pasteboard = std::make_unique<QtPasteboard>(makePictureLoader(), fileTransfer);
+    platform.pasteboard =
+        std::make_unique<QtPasteboard>(platform.makePictureLoader(), fileTransfer);
     platform.sharing = loadedSharingServicePicker(views, makeSharingSource(platform),
                                                   *platform.pasteboard, *platform.opener);
+    platform.contextMenu = loadedContextMenu(views);
     platform.privacySettings = std::make_unique<DesktopPrivacySettings>(
         programIdentifier, *platform.opener, DesktopFileOpener::currentSandbox());
     platform.folderChooser =
@@ -212,14 +228,17 @@ void addScreenshotTool(Platform& platform, const Url& own) {
 }
 
 /// Makes two queues, because the watched folder, and one that is being opened, may be on a server
-/// that does not answer.
+/// that does not answer. The third starts with the first large picture.
 void addQueues(Platform& platform) {
     auto watcher = std::make_unique<PollQueue>("vantle.watcher");
     auto servers = std::make_unique<PollQueue>("vantle.servers");
     platform.directoryEvents = std::make_unique<InotifyDirectoryEvents>(*watcher);
-    platform.hasBlockedQueue = [&watcher = *watcher, &servers = *servers] {
-        return !watcher.waitUntilIdle(endTimeout) || !servers.waitUntilIdle(endTimeout);
+    auto pictures = std::make_unique<DeferredQueue>("vantle.pictures");
+    platform.hasBlockedQueue = [&watcher = *watcher, &servers = *servers, &pictures = *pictures] {
+        return !watcher.waitUntilIdle(endTimeout) || !servers.waitUntilIdle(endTimeout) ||
+               !pictures.waitUntilIdle(endTimeout);
     };
+    platform.pictureQueue = std::move(pictures);
     platform.watcherQueue = std::move(watcher);
     platform.serverQueue = std::move(servers);
 }
@@ -249,6 +268,9 @@ Platform makeLinuxPlatform(DBusApplication::Launch launch, LoadedViews& views) {
     platform.files = std::make_unique<LinuxFileManager>(platform.environment, isRecording);
     platform.media = std::make_unique<ConfinedMediaLoader>(pathBesideProgram("vantle-decoder"),
                                                            maximumPixelsPerPoint());
+    platform.textReader = std::make_unique<ConfinedTextReader>(
+        *platform.scheduler, platform.environment,
+        ReadingPrograms{pathBesideProgram("vantle-decoder"), pathBesideProgram("vantle-reader")});
     platform.defaults = std::make_unique<IniUserDefaults>(own.appending("vantle.conf"));
     addScreenshotTool(platform,
                       own.appending(std::string(SystemScreenshotPrefs::domain) + ".conf"));

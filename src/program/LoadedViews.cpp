@@ -47,6 +47,23 @@ private:
     std::unique_ptr<SharingServicePicker> picker_;
 };
 
+class LoadedContextMenu final : public ContextMenu {
+public:
+    explicit LoadedContextMenu(LoadedViews& views) : views_(views) {}
+
+    void show(const Menu& menu, const Rect& anchor, std::function<void()> onClosed) override {
+        if (!menu_) menu_ = views_.get().makeContextMenu();
+        menu_->show(menu, anchor, std::move(onClosed));
+    }
+    void close() override {
+        if (menu_) menu_->close();
+    }
+
+private:
+    LoadedViews& views_;
+    std::unique_ptr<ContextMenu> menu_;
+};
+
 std::string fileOf(const char* library) {
     const QString folder =
         QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/vantle/modules/");
@@ -87,6 +104,10 @@ std::unique_ptr<SharingServicePicker> loadedSharingServicePicker(
     FileOpener& opener) {
     return std::make_unique<LoadedSharingServicePicker>(views, std::move(source), pasteboard,
                                                         opener);
+}
+
+std::unique_ptr<ContextMenu> loadedContextMenu(LoadedViews& views) {
+    return std::make_unique<LoadedContextMenu>(views);
 }
 
 OpenMenu loadedMenu(LoadedViews& views) {

@@ -37,6 +37,7 @@ std::unique_ptr<Alerts> loadedAlerts(LoadedViews& views);
 std::unique_ptr<SharingServicePicker> loadedSharingServicePicker(
     LoadedViews& views, std::unique_ptr<SharingSource> source, Pasteboard& pasteboard,
     FileOpener& opener);
+std::unique_ptr<ContextMenu> loadedContextMenu(LoadedViews& views);
 OpenMenu loadedMenu(LoadedViews& views);
 
 }  // namespace vantle

@@ -1,11 +1,13 @@
 #include <QPointer>
 #include <utility>
 
+#include "menus/MenuContextMenu.h"
 #include "menus/MenuSharingServicePicker.h"
 #include "menus/MenuWindow.h"
 #include "panel/views/Appearance.h"
 #include "panel/views/CapturePanel.h"
 #include "panel/views/dragging/QtDraggingSessions.h"
+#include "preview/views/PreviewPanel.h"
 #include "program/ViewsEntry.h"
 #include "screens/views/AlertWindow.h"
 #include "screens/views/OnboardingWindow.h"
@@ -54,6 +56,12 @@ public:
         return panel;
     }
 
+    std::unique_ptr<PreviewWindow> makePreview(Platform& platform, PreviewState& state,
+                                               PreviewActions actions) override {
+        return std::make_unique<PreviewPanel>(
+            PreviewModel::Context{state, *platform.clock, dragging_, std::move(actions)});
+    }
+
     std::unique_ptr<Window> makeSettingsWindow(Platform& platform, Settings& settings) override {
         return std::make_unique<SettingsWindow>(settingsContext(platform, settings));
     }
@@ -75,6 +83,10 @@ public:
         FileOpener& opener) override {
         return std::make_unique<MenuSharingServicePicker>(std::move(source), pasteboard, opener,
                                                           [this] { return card_.data(); });
+    }
+
+    std::unique_ptr<ContextMenu> makeContextMenu() override {
+        return std::make_unique<MenuContextMenu>([this] { return card_.data(); });
     }
 
     OpenMenu makeMenu() override {

@@ -7,15 +7,19 @@
 #include "panel/CapturePanelController.h"
 #include "panel/CardActions.h"
 #include "platform/Alerts.h"
+#include "platform/ContextMenu.h"
 #include "platform/DesktopAppearance.h"
 #include "platform/FileOpener.h"
 #include "platform/Menu.h"
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
+#include "platform/PreviewWindow.h"
 #include "platform/SharingServicePicker.h"
 #include "platform/SharingSource.h"
 #include "platform/Window.h"
 #include "platform/qt/FileTransfer.h"
+#include "preview/PreviewActions.h"
+#include "preview/PreviewState.h"
 #include "updateflow/UpdateFlow.h"
 
 namespace vantle {
@@ -41,6 +45,8 @@ public:
 
     virtual std::unique_ptr<PanelWindow> makePanel(Platform& platform, PanelState& state,
                                                    Settings& settings, CardActions actions) = 0;
+    virtual std::unique_ptr<PreviewWindow> makePreview(Platform& platform, PreviewState& state,
+                                                       PreviewActions actions) = 0;
     virtual std::unique_ptr<Window> makeSettingsWindow(Platform& platform, Settings& settings) = 0;
     virtual std::unique_ptr<Window> makeOnboardingWindow(Platform& platform, Settings& settings,
                                                          std::function<void()> finish) = 0;
@@ -48,6 +54,7 @@ public:
     virtual std::unique_ptr<Alerts> makeAlerts() = 0;
     virtual std::unique_ptr<SharingServicePicker> makeSharingServicePicker(
         std::unique_ptr<SharingSource> source, Pasteboard& pasteboard, FileOpener& opener) = 0;
+    virtual std::unique_ptr<ContextMenu> makeContextMenu() = 0;
     virtual OpenMenu makeMenu() = 0;
 };
 

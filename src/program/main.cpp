@@ -88,6 +88,10 @@ AppDelegate::Views makeViews(Platform& platform, LoadedViews& views) {
             [&](PanelState& state, Settings& settings, CardActions actions) {
                 return views.get().makePanel(platform, state, settings, std::move(actions));
             },
+        .makePreview =
+            [&](PreviewState& state, PreviewActions actions) {
+                return views.get().makePreview(platform, state, std::move(actions));
+            },
         .makeSettingsWindow =
             [&](Settings& settings) { return views.get().makeSettingsWindow(platform, settings); },
         .makeOnboardingWindow =

@@ -52,6 +52,12 @@ struct DesktopPasteboard {
         if (offered->hasFormat(QStringLiteral("image/png"))) contents.emplace_back("image");
         for (const QUrl& url : offered->urls())
             contents.push_back(QFile::encodeName(url.toLocalFile()).toStdString());
+        const QString plain = QStringLiteral("text/plain");
+        if (contents.empty() && offered->hasFormat(plain)) {
+            EXPECT_EQ(offered->data(QStringLiteral("text/plain;charset=utf-8")),
+                      offered->data(plain));
+            contents.push_back(offered->data(plain).toStdString());
+        }
         return contents;
     }
 };

@@ -16,7 +16,7 @@ public:
         files.write(file, size, fakes::VirtualClock::epoch);
     }
     void remove(const Url& file) { files.remove(file); }
-    void rename(const Url& from, const Url& to) { files.rename(from, to); }
+    void rename(const Url& from, const Url& to) { (void)files.rename(from, to); }
     void removeFolder(const Url& which) { files.removeDirectory(which); }
     void moveFolder(const Url& from, const Url& to) { files.moveDirectory(from, to); }
     /// Prevents that anything is created in the folder from now on.

@@ -130,12 +130,49 @@ TYPED_TEST_P(FileManagerContract, WritesNoFileWithoutPermission) {
     EXPECT_EQ(this->disk.files.existence(this->file("a.png")), FileManager::Existence::none);
 }
 
+TYPED_TEST_P(FileManagerContract, RenamesAFile) {
+    this->disk.save(this->file("a.png"), 10);
+    EXPECT_EQ(this->disk.files.rename(this->file("a.png"), this->file("b c.png")), std::nullopt);
+    EXPECT_THAT(this->names(), testing::ElementsAre("b c.png"));
+    EXPECT_EQ(this->disk.files.fileSize(this->file("b c.png")), 10);
+    EXPECT_EQ(this->disk.files.rename(this->file("b c.png"), this->file("b c.png")), std::nullopt);
+    EXPECT_THAT(this->names(), testing::ElementsAre("b c.png"));
+}
+
+TYPED_TEST_P(FileManagerContract, RenamingReplacesNoOtherFile) {
+    this->disk.save(this->file("a.png"), 10);
+    this->disk.save(this->file("b.png"), 20);
+    (void)this->disk.files.createDirectory(this->file("c.png"));
+    for (const auto* taken : {"b.png", "c.png"}) {
+        const auto failure = this->disk.files.rename(this->file("a.png"), this->file(taken));
+        ASSERT_TRUE(failure.has_value());
+        EXPECT_EQ(failure->code, EEXIST);
+    }
+    EXPECT_EQ(this->disk.files.fileSize(this->file("a.png")), 10);
+    EXPECT_EQ(this->disk.files.fileSize(this->file("b.png")), 20);
+}
+
+TYPED_TEST_P(FileManagerContract, RenamingFailsWithTheReason) {
+    const auto codeOf = [this](const Url& from, const Url& to) {
+        const auto failure = this->disk.files.rename(from, to);
+        return failure ? failure->code : 0;
+    };
+    EXPECT_EQ(codeOf(this->file("gone.png"), this->file("b.png")), ENOENT);
+    this->disk.save(this->file("a.png"));
+    EXPECT_EQ(codeOf(this->file("a.png"), this->file(std::string(252, 'n') + ".png")),
+              ENAMETOOLONG);
+    EXPECT_THAT(this->names(), testing::ElementsAre("a.png"));
+    [[maybe_unused]] const auto locked = this->disk.lock(this->disk.folder);
+    EXPECT_EQ(codeOf(this->file("a.png"), this->file("b.png")), EACCES);
+}
+
 REGISTER_TYPED_TEST_SUITE_P(FileManagerContract, DistinguishesFilesFoldersAndMissingOnes,
                             ListsAllNamesButHiddenOnes, ListingFailsWithTheReason,
                             DescribesAFileWithoutOpeningIt, AFolderIsNoRegularFile,
                             AMissingFileCannotBeDescribed, ReturnsTheSizeOfAFile,
                             MakesAFolderWithItsParents, MakesNoFolderInPlaceOfAFile,
                             MakesNoFolderWithoutPermission, ReplacesAFile,
-                            WritesNoFileWithoutPermission);
+                            WritesNoFileWithoutPermission, RenamesAFile,
+                            RenamingReplacesNoOtherFile, RenamingFailsWithTheReason);
 
 }  // namespace vantle

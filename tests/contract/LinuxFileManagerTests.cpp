@@ -89,6 +89,18 @@ TEST_F(LinuxFileManagerTest, ReadsDatesFarFromToday) {
     }
 }
 
+TEST_F(LinuxFileManagerTest, ALinkToTheSameFileIsNotReplaced) {
+    disk.save(file("a.png"), 10);
+    std::filesystem::create_hard_link(file("a.png").path(), file("b.png").path());
+    const auto failure = disk.files.rename(file("a.png"), file("b.png"));
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->code, EEXIST);
+    EXPECT_EQ(failure->path, file("b.png").path());
+    std::filesystem::create_symlink("nowhere", file("broken.png").path());
+    EXPECT_TRUE(disk.files.rename(file("a.png"), file("broken.png")).has_value());
+    EXPECT_EQ(disk.files.fileSize(file("a.png")), 10);
+}
+
 class TemporaryDirectoryTest : public testing::Test {
 protected:
     std::string name() const { return "vantle-" + std::to_string(getuid()); }

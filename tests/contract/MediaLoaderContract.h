@@ -21,6 +21,7 @@ struct FakeMedia : SampleMedia {
         loader.addImage(file("rgb.png"), usual, usual);
         loader.addImage(file("dense.png"), denseInPixels, denseInPoints);
         loader.addImage(file("quarters.pdf"), Size{}, usual);
+        loader.addDocument(file("two_pages.pdf"), {usual, {2 * usual.width, usual.height}});
         loader.addDamagedImage(file("flipped.png"), usual, usual);
         loader.addRecording(file("ten_seconds.mp4"), 10, usual, usual);
         loader.addRecording(file("sound.m4v"), 2, std::nullopt, std::nullopt);
@@ -74,6 +75,33 @@ TYPED_TEST_P(MediaLoaderContract, AVectorImageHasPointsButNoPixels) {
     ASSERT_NE(image, nullptr);
     EXPECT_EQ(image->pixelSize(), Size{});
     EXPECT_EQ(image->pointSize(), this->usual);
+}
+
+TYPED_TEST_P(MediaLoaderContract, ADocumentHasPages) {
+    const auto document = this->loader.openImage(this->file("two_pages.pdf"));
+    ASSERT_NE(document, nullptr);
+    EXPECT_EQ(document->pageCount(), 2);
+    EXPECT_EQ(document->pointSize(), this->usual);
+    ASSERT_TRUE(document->selectPage(1));
+    const Size wide{2 * this->usual.width, this->usual.height};
+    EXPECT_EQ(document->pointSize(), wide);
+    EXPECT_NE(document->draw(wide), nullptr);
+}
+
+TYPED_TEST_P(MediaLoaderContract, APageThatDoesNotExistCannotBeSelected) {
+    const auto document = this->loader.openImage(this->file("two_pages.pdf"));
+    ASSERT_NE(document, nullptr);
+    for (const int page : {-1, 2, 1'000'000'000}) EXPECT_FALSE(document->selectPage(page)) << page;
+    EXPECT_EQ(document->pointSize(), this->usual);
+    EXPECT_NE(document->draw(this->usual), nullptr);
+}
+
+TYPED_TEST_P(MediaLoaderContract, AnImageIsItsOnlyPage) {
+    const auto image = this->loader.openImage(this->file("rgb.png"));
+    ASSERT_NE(image, nullptr);
+    EXPECT_EQ(image->pageCount(), 1);
+    EXPECT_TRUE(image->selectPage(0));
+    EXPECT_FALSE(image->selectPage(1));
 }
 
 TYPED_TEST_P(MediaLoaderContract, ADrawingHasTheRequestedSizeAndAllItsPixels) {
@@ -145,7 +173,8 @@ TYPED_TEST_P(MediaLoaderContract, ARecordingOfSoundHasNoTrackAndNoFrame) {
 
 REGISTER_TYPED_TEST_SUITE_P(MediaLoaderContract, AMissingFileCannotBeOpened, AnImageIsNoRecording,
                             ARecordingIsNoImage, AnImageHasSizesInPixelsAndInPoints,
-                            AVectorImageHasPointsButNoPixels,
+                            AVectorImageHasPointsButNoPixels, ADocumentHasPages,
+                            APageThatDoesNotExistCannotBeSelected, AnImageIsItsOnlyPage,
                             ADrawingHasTheRequestedSizeAndAllItsPixels,
                             AFileCanBeDrawnAgainAtAnotherSize,
                             FilesCanBeOpenAtOnceAndDrawnInAnyOrder, ADamagedImageIsNotDrawn,

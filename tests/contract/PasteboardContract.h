@@ -23,7 +23,7 @@ struct MemoryPasteboard {
         files.write(folder.appending(name), 1, fakes::VirtualClock::epoch);
         return folder.appending(name);
     }
-    /// Returns "image" for a picture, and the path of a file.
+    /// Returns "image" for a picture, the path of a file, and a text as it is.
     std::vector<std::string> contents() {
         std::vector<std::string> contents;
         for (const auto& one : pasteboard.contents())
@@ -58,6 +58,14 @@ TYPED_TEST_P(PasteboardContract, OffersFilesInOrder) {
     EXPECT_THAT(this->kind.contents(), testing::ElementsAre(a.path(), b.path()));
 }
 
+TYPED_TEST_P(PasteboardContract, OffersATextWithItsLines) {
+    const std::string text = "  First line\n\nSchön, 日本 \xF0\x9F\x98\x80\n";
+    this->pasteboard.writeObjects({this->kind.saveImage("shot.png")});
+    this->pasteboard.clearContents();
+    this->pasteboard.writeObjects({text});
+    EXPECT_THAT(this->kind.contents(), testing::ElementsAre(text));
+}
+
 TYPED_TEST_P(PasteboardContract, IsEmptyAfterItIsCleared) {
     this->pasteboard.writeObjects({this->kind.saveImage("shot.png")});
     this->pasteboard.clearContents();
@@ -77,7 +85,7 @@ TYPED_TEST_P(PasteboardContract, AMissingFileHasNoPicture) {
 }
 
 REGISTER_TYPED_TEST_SUITE_P(PasteboardContract, OffersAPictureBeforeItsFile, OffersFilesInOrder,
-                            IsEmptyAfterItIsCleared, ALaterContentReplacesTheEarlier,
-                            AMissingFileHasNoPicture);
+                            OffersATextWithItsLines, IsEmptyAfterItIsCleared,
+                            ALaterContentReplacesTheEarlier, AMissingFileHasNoPicture);
 
 }  // namespace vantle

@@ -35,6 +35,8 @@ public:
         return QDBusConnection::connectToBus(address_, QUuid::createUuid().toString());
     }
 
+    const QString& address() const { return address_; }
+
 private:
     QString settings() const {
         return QStringLiteral(

@@ -13,6 +13,7 @@ add_executable(
   qt_contract_tests
   ${CMAKE_CURRENT_LIST_DIR}/DBusApplicationTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DesktopFileOpenerTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/DesktopOpenWithTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DesktopServices.h
   ${CMAKE_CURRENT_LIST_DIR}/DialogFolderChooserTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FileChooserPortal.h
@@ -21,6 +22,7 @@ add_executable(
   ${CMAKE_CURRENT_LIST_DIR}/FileUseWatcherTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/GSettingsCommandTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MountEventsTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/OpenWithPortal.h
   ${CMAKE_CURRENT_LIST_DIR}/PortalAppearanceTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PortalFolderChooserTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PrivacySettingsTests.cpp
@@ -42,6 +44,7 @@ add_executable(
 set_target_properties(qt_contract_tests PROPERTIES AUTOMOC ON)
 target_compile_definitions(
   qt_contract_tests PRIVATE VANTLE_APPLICATION_COPY="$<TARGET_FILE:application_copy>"
+                            VANTLE_APPLICATIONS="$<TARGET_FILE:vantle-applications>"
                             VANTLE_TRANSLATIONS="${CMAKE_BINARY_DIR}/share/vantle/translations")
 target_link_libraries(qt_contract_tests PRIVATE vantle_platform_displays
                                                 vantle_platform_freedesktop_sharing
@@ -51,5 +54,5 @@ target_link_libraries(qt_contract_tests PRIVATE vantle_platform_displays
                                                 GTest::gmock)
 vantle_precompile_tests(qt_contract_tests <gmock/gmock.h> <map> <string> <vector> <QDBusConnection>
                         <QDBusMessage> <QGuiApplication>)
-add_dependencies(qt_contract_tests application_copy translations)
+add_dependencies(qt_contract_tests application_copy translations vantle-applications)
 vantle_discover_tests(qt_contract_tests LABELS contract TIMEOUT 120)

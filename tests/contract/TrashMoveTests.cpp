@@ -44,7 +44,12 @@ protected:
         writeText(file, text);
         return file;
     }
-    Outcome move(const Url& file) { return moveToTrash(file, data); }
+    Outcome move(const Url& file) {
+        const auto moved = moveToTrash(file, data);
+        if (!moved) return moved.failure();
+        inTrash = moved.value();
+        return {};
+    }
     /// Returns the original path that the .trashinfo file of a trashed file holds.
     static std::string storedPath(const Url& trash, const std::string& name) {
         const std::string text = readText(trash.appending("info/" + name + ".trashinfo"));
@@ -57,6 +62,7 @@ protected:
     const Url folder = place / "folder";
     const Url data = place / "data";
     const Url trash = data.appending("Trash");
+    Url inTrash;  ///< Where move() has put the latest file.
 };
 
 TEST_F(TrashMoveTest, KeepsContentsNameAndOriginalPath) {
@@ -182,6 +188,55 @@ TEST_F(TrashMoveTest, ATrashThatLeadsElsewhereIsNotFollowed) {
     EXPECT_EQ(readText(file), contents);
 }
 
+TEST_F(TrashMoveTest, ReturnsWhereTheFileIsInTheTrash) {
+    for (const auto* name : {"files/shot.png", "files/shot.2.png"}) {
+        ASSERT_EQ(move(save("shot.png")), std::nullopt);
+        EXPECT_EQ(inTrash, trash.appending(name));
+    }
+}
+
+TEST_F(TrashMoveTest, AFilePutBackIsAsItWasAndLeavesNothingInTheTrash) {
+    const Url file = save("50% \xff new\nline.png");
+    const auto modified = fs::last_write_time(file.path());
+    ASSERT_EQ(move(file), std::nullopt);
+    ASSERT_EQ(putBackFromTrash(inTrash, file), std::nullopt);
+    EXPECT_EQ(readText(file), contents);
+    EXPECT_EQ(fs::last_write_time(file.path()), modified);
+    EXPECT_THAT(namesIn(trash.appending("files")), IsEmpty());
+    EXPECT_THAT(namesIn(trash.appending("info")), IsEmpty());
+}
+
+TEST_F(TrashMoveTest, AFileIsNotPutBackOverAnotherAndStaysInTheTrash) {
+    const Url file = save("shot.png");
+    ASSERT_EQ(move(file), std::nullopt);
+    save("shot.png", "newer");
+    const auto failure = putBackFromTrash(inTrash, file);
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->code, EEXIST);
+    EXPECT_EQ(readText(file), "newer");
+    EXPECT_EQ(readText(inTrash), contents);
+    EXPECT_EQ(storedPath(trash, "shot.png"), file.path());
+}
+
+TEST_F(TrashMoveTest, AFileWhoseFolderHasGoneStaysInTheTrash) {
+    const Url file = save("shot.png");
+    ASSERT_EQ(move(file), std::nullopt);
+    fs::remove(folder.path());
+    const auto failure = putBackFromTrash(inTrash, file);
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->code, ENOENT);
+    EXPECT_EQ(readText(inTrash), contents);
+}
+
+TEST_F(TrashMoveTest, ALinkIsPutBackWithoutItsTarget) {
+    const Url target = save("target.png");
+    const Url link = folder.appending("link.png");
+    fs::create_symlink(target.path(), link.path());
+    ASSERT_EQ(move(link), std::nullopt);
+    ASSERT_EQ(putBackFromTrash(inTrash, link), std::nullopt);
+    EXPECT_EQ(fs::read_symlink(link.path()), target.path());
+}
+
 /// Files on another volume than the home folder.
 class VolumeTrashTest : public TrashMoveTest {
 protected:
@@ -267,6 +322,50 @@ TEST_F(VolumeTrashTest, IsCopiedToTheHomeTrashIfTheVolumeHasNone) {
     EXPECT_EQ(storedPath(trash, "shot.png"), file.path());
     EXPECT_EQ(fs::last_write_time(copy.path()), modified);
     EXPECT_EQ(fs::status(copy.path()).permissions(), fs::perms::owner_read | fs::perms::group_read);
+}
+
+TEST_F(VolumeTrashTest, IsPutBackFromTheVolumesOwnTrash) {
+    const Url file = saveInside("shot.png");
+    ASSERT_EQ(move(file), std::nullopt);
+    EXPECT_EQ(inTrash, own.appending("files/shot.png"));
+    ASSERT_EQ(putBackFromTrash(inTrash, file), std::nullopt);
+    EXPECT_EQ(readText(file), contents);
+    EXPECT_THAT(namesIn(own.appending("info")), IsEmpty());
+}
+
+TEST_F(VolumeTrashTest, IsPutBackFromTheSharedTrash) {
+    const Url shared = volume.appending(".Trash");
+    fs::create_directory(shared.path());
+    chmod(shared.path().c_str(), 01777);
+    const Url file = saveInside("shot.png");
+    ASSERT_EQ(move(file), std::nullopt);
+    ASSERT_EQ(putBackFromTrash(inTrash, file), std::nullopt);
+    EXPECT_EQ(readText(file), contents);
+    EXPECT_THAT(namesIn(shared.appending(user + "/info")), IsEmpty());
+}
+
+TEST_F(VolumeTrashTest, IsCopiedBackFromTheHomeTrash) {
+    preventTrash();
+    const Url file = saveInside("shot.png");
+    const auto modified = fs::last_write_time(file.path());
+    ASSERT_EQ(move(file), std::nullopt);
+    ASSERT_EQ(putBackFromTrash(inTrash, file), std::nullopt);
+    EXPECT_EQ(readText(file), contents);
+    EXPECT_EQ(fs::last_write_time(file.path()), modified);
+    EXPECT_THAT(namesIn(trash.appending("files")), IsEmpty());
+    EXPECT_THAT(namesIn(trash.appending("info")), IsEmpty());
+}
+
+TEST_F(VolumeTrashTest, ACopyBackDoesNotOverwriteAFile) {
+    preventTrash();
+    const Url file = saveInside("shot.png");
+    ASSERT_EQ(move(file), std::nullopt);
+    writeText(file, "newer");
+    const auto failure = putBackFromTrash(inTrash, file);
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->code, EEXIST);
+    EXPECT_EQ(readText(file), "newer");
+    EXPECT_EQ(readText(inTrash), contents);
 }
 
 TEST_F(VolumeTrashTest, ACopyDoesNotOverwriteAFile) {

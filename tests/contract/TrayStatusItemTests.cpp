@@ -138,6 +138,48 @@ TEST_F(TrayOnBusTest, AnEqualLineKeepsItsNumberAndNoNumberIsReused) {
     EXPECT_THAT(after, testing::Not(testing::Contains(ids()[0])));
 }
 
+TEST_F(TrayOnBusTest, ASubmenuIsOneOfTheTray) {
+    int chosen = 0;
+    lines.insert(lines.begin(), {.title = "More",
+                                 .items = {{.title = "Inner", .action = [&chosen] { ++chosen; }},
+                                           {.title = "B"}}});
+    const auto layout = tray.tray.open();
+    ASSERT_EQ(layout.children.size(), 4);
+    const BusMenuLayout& more = layout.children[0];
+    EXPECT_EQ(more.properties[QStringLiteral("children-display")], QStringLiteral("submenu"));
+    EXPECT_FALSE(layout.children[1].properties.contains(QStringLiteral("children-display")));
+    ASSERT_EQ(more.children.size(), 2);
+    EXPECT_EQ(BusTray::label(more.children[0]), "Inner");
+    tray.tray.send(more.children[0].id, QStringLiteral("clicked"));
+    EXPECT_TRUE(runUntil([&] { return chosen == 1; }));
+}
+
+TEST_F(TrayOnBusTest, ALineOfASubmenuKeepsItsNumber) {
+    lines[0] = {.title = "More", .items = {{.title = "A"}, {.title = "B"}}};
+    const BusMenuLayout before = tray.tray.open().children[0];
+    lines[0].items.insert(lines[0].items.begin() + 1, {.title = "New"});
+    const BusMenuLayout after = tray.tray.open().children[0];
+    EXPECT_EQ(after.id, before.id);
+    ASSERT_EQ(after.children.size(), 3);
+    EXPECT_EQ(after.children[0].id, before.children[0].id);
+    EXPECT_EQ(after.children[2].id, before.children[1].id);
+    lines[0].items.clear();
+    EXPECT_NE(tray.tray.open().children[0].id, before.id) << "trays keep the way of drawing a line";
+}
+
+TEST_F(TrayOnBusTest, ATrayMayAskForOneLevelOrForOneSubmenu) {
+    lines[0] = {.title = "More", .items = {{.title = "A"}}};
+    const int more = ids()[0];
+    const auto layoutOf = [this](int parent, int depth) {
+        const auto reply =
+            tray.tray.callMenu(QStringLiteral("GetLayout"), {parent, depth, QStringList()});
+        return qdbus_cast<BusMenuLayout>(reply.arguments().value(1));
+    };
+    EXPECT_TRUE(layoutOf(0, 1).children[0].children.isEmpty());
+    ASSERT_EQ(layoutOf(more, -1).children.size(), 1);
+    EXPECT_TRUE(layoutOf(more, 0).children.isEmpty());
+}
+
 TEST_F(TrayOnBusTest, RemainingLinesKeepTheirOrderEvenAmongSeparators) {
     const MenuItem rule{.kind = MenuItem::Kind::separator};
     lines = {{.title = "None"}, rule, {.title = "Settings"}, rule, {.title = "Quit"}};

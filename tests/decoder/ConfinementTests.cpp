@@ -106,7 +106,7 @@ TEST_P(LinkedLibraries, HoldNoCodec) {
     for (const auto* codec :
          {"libisal", "libjpeg", "libturbojpeg", "libtiff", "libgif", "libheif", "libde265",
           "libdav1d", "libaom", "libwebp", "libpoppler", "libavcodec", "libavformat", "libswscale",
-          "liblcms", "vantle-decoder"})
+          "liblcms", "vantle-decoder", "libtesseract", "liblept"})
         EXPECT_EQ(libraries.find(codec), std::string::npos) << codec;
 }
 

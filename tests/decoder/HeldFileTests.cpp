@@ -59,7 +59,8 @@ TEST_P(HeldImage, IsReleasedAfterItIsOpened) {
 INSTANTIATE_TEST_SUITE_P(Honest, HeldImage,
                          testing::Values("rgb.png", "interlaced.png", "baseline.jpg",
                                          "straight.gif", "strips.tif", "quarters.heic",
-                                         "lossy.webp", "letters.pdf", "really_jpeg.png"));
+                                         "lossy.webp", "letters.pdf", "two_pages.pdf",
+                                         "really_jpeg.png"));
 INSTANTIATE_TEST_SUITE_P(Damaged, HeldImage,
                          testing::Values("cut_in_header.png", "flipped.png", "cut.tif", "cut.pdf",
                                          "cut.webp", "text.png"));

@@ -127,6 +127,18 @@ TEST_F(DecoderLifetime, ADecoderThatDiedBetweenRequestsIsReplaced) {
     EXPECT_NE(image->draw(usual), nullptr);
 }
 
+TEST_F(DecoderLifetime, ADecoderThatIsReplacedDrawsTheSamePage) {
+    Loader loader;
+    const auto document = loader.openImage(file("two_pages.pdf"));
+    ASSERT_NE(document, nullptr);
+    ASSERT_TRUE(document->selectPage(1));
+    kill(decoders().at(0), SIGKILL);
+    statusOfEnded();
+    const auto page = document->draw({128, 48});
+    ASSERT_NE(page, nullptr);
+    EXPECT_EQ(page->rgba[2], 255) << "the second page is blue";
+}
+
 /// The probe dies at its second file, as a decoder may that the first file has damaged.
 TEST_F(DecoderLifetime, ADecoderThatDiesAtTheNextFileIsReplaced) {
     ConfinedMediaLoader loader(VANTLE_PROBE_DECODER, [] { return 1.0; });

@@ -24,6 +24,7 @@ from wayland_checks import (
     check_keyboard_on_request,
     check_on_every_workspace,
     check_pasted,
+    check_preview,
     check_scaled_by_a_half,
     check_speaks_wayland,
     click_through,
@@ -86,6 +87,10 @@ def test_the_focus_stays_where_the_user_types(kwin, vantle):
 
 def test_the_card_gets_the_keyboard_on_request_and_gives_it_back(kwin, vantle):
     check_keyboard_on_request(kwin, vantle)
+
+
+def test_the_preview_has_the_keyboard_while_it_is_open(kwin, vantle):
+    check_preview(kwin, vantle)
 
 
 def test_dragged_into_a_native_window(kwin, vantle):

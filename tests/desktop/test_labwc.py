@@ -25,6 +25,7 @@ from wayland_checks import (
     check_keyboard_on_request,
     check_on_every_workspace,
     check_pasted,
+    check_preview,
     check_scaled_by_a_half,
     check_speaks_wayland,
     check_stands_in,
@@ -99,6 +100,10 @@ def test_the_focus_stays_where_the_user_types(labwc, vantle):
 
 def test_the_card_gets_the_keyboard_on_request_and_gives_it_back(labwc, vantle):
     check_keyboard_on_request(labwc, vantle)
+
+
+def test_the_preview_has_the_keyboard_while_it_is_open(labwc, vantle):
+    check_preview(labwc, vantle)
 
 
 def test_dragged_into_a_native_window(labwc, vantle):

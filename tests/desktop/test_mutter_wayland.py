@@ -24,6 +24,7 @@ from wayland_checks import (
     check_focus_stays,
     check_idle,
     check_keyboard_on_request,
+    check_preview,
     check_on_every_workspace,
     outside_panel,
     press,
@@ -92,6 +93,10 @@ def test_the_focus_stays_where_the_user_types(mutter, vantle):
 
 def test_the_card_gets_the_keyboard_on_request_and_gives_it_back(mutter, vantle):
     check_keyboard_on_request(mutter, vantle)
+
+
+def test_the_preview_has_the_keyboard_while_it_is_open(mutter, vantle):
+    check_preview(mutter, vantle)
 
 
 def test_on_every_workspace(mutter, vantle):

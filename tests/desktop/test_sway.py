@@ -31,6 +31,7 @@ from wayland_checks import (
     check_keyboard_on_request,
     check_on_every_workspace,
     check_pasted,
+    check_preview,
     check_scaled_by_a_half,
     check_speaks_wayland,
     check_stands_in,
@@ -121,6 +122,10 @@ def test_the_card_gets_the_keyboard_on_request_and_gives_it_back(sway, vantle):
     check_keyboard_on_request(sway, vantle)
 
 
+def test_the_preview_has_the_keyboard_while_it_is_open(sway, vantle):
+    check_preview(sway, vantle)
+
+
 def test_it_appears_again_after_it_was_dismissed(sway, vantle):
     vantle.start_watching()
     for name in ("one.png", "two.png"):
@@ -150,7 +155,7 @@ def test_a_marquee_selects_and_a_drag_takes_all_of_it(sway, vantle):
     picture = wait_until_still(lambda: sway.screen.screenshot(frame), "the card")
     left, top, _, _ = mask_of(picture, RED).getbbox()
     first = frame.x + left, frame.y + top
-    sway.screen.pointer.drag((first[0] - 6, first[1] + 150), (frame.right - 40, first[1] + 40))
+    sway.screen.pointer.drag((frame.right - 40, first[1] + 150), (first[0] - 6, first[1] + 40))
     wait_until_still(lambda: sway.screen.screenshot(frame).tobytes(), "the selection")
     Drag(sway, vantle, (first[0] + 30, first[1] + 30)).hold_over(400, 300).drop()
     wait_until(window.dropped, "it is dropped")

@@ -44,7 +44,7 @@ def programs(binary, main):
     need."""
     build = Path(binary).parents[1]
     modules = ["libvantle-core", "vantle-decoder-png", "vantle-no-proxies", "vantle-views"]
-    places = ["bin/vantle-decoder", "bin/vantle-folder-dialog",
+    places = ["bin/vantle-applications", "bin/vantle-decoder", "bin/vantle-folder-dialog",
               *(f"lib/vantle/modules/{name}.so" for name in modules)]
     return {
         "bin/vantle": main,

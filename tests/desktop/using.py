@@ -21,8 +21,8 @@ def tile_of(card):
 
 def select_all(desktop, card):
     """Draws a marquee over everything visible on the card, and waits for the bar of the
-    selection."""
-    desktop.screen.pointer.drag((card.x + 4, card.bottom - 5), (card.right - 4, card.y + 20))
+    selection. Towards the near edge of the screen, so fast a movement would be a flick."""
+    desktop.screen.pointer.drag((card.right - 4, card.bottom - 5), (card.x + 4, card.y + 20))
     panel = desktop.screen.panel().frame
     wait_until_still(lambda: desktop.screen.screenshot(panel).tobytes(), "the card")
 

@@ -6,7 +6,7 @@ import time
 from PIL import ImageChops
 
 from panel_checks import encoded, expected_frame
-from pictures import RED, YELLOW, is_one_pattern, mask_of, pattern
+from pictures import RED, YELLOW, area_of, is_one_pattern, mask_of, pattern
 from privatedesktop import Program, Rectangle, WaitTimeout, wait_until, wait_until_still
 from test_idle import MEASURED_SECONDS
 from using import BUTTONS, Drag
@@ -267,6 +267,26 @@ def check_keyboard_on_request(desktop, vantle):
     wait_until(window.has_lost_focus, "the card has the keyboard")
     desktop.screen.keyboard.press("Escape")
     wait_until(lambda: is_gone(desktop), "the card goes")
+    wait_until(window.has_focus, "the window has the keyboard again")
+    desktop.screen.keyboard.type("x")
+    wait_until(lambda: window.typed() == "x", "the letter arrives")
+
+
+def check_preview(desktop, vantle):
+    window = NativeWindow(desktop)
+    vantle.start_watching()
+    show_one(desktop, vantle)
+    assert vantle.command("--focus-panel") == (0, "")
+    wait_until(window.has_lost_focus, "the card has the keyboard")
+    press_key = desktop.screen.keyboard.press
+    press_key("space")
+    vantle.wait_for_log("preview gets the keys")
+    vantle.wait_for_log("preview is sharp")
+    wait_until(lambda: area_of(desktop.screen.screenshot(), RED) > 60_000, "it is large")
+    press_key("Escape")
+    vantle.wait_for_log("preview is gone")
+    press_key("Escape")
+    wait_until(lambda: is_gone(desktop), "the card, which has the keyboard again, goes")
     wait_until(window.has_focus, "the window has the keyboard again")
     desktop.screen.keyboard.type("x")
     wait_until(lambda: window.typed() == "x", "the letter arrives")

@@ -95,15 +95,6 @@ void FakeFileSystem::remove(const Url& file) {
     report(file.deletingLastPathComponent(), {.contents = true});
 }
 
-void FakeFileSystem::rename(const Url& from, const Url& to) {
-    auto entry = entries_.at(from.path());
-    entries_.erase(from.path());
-    entry.order = nextOrder_++;
-    entries_[to.path()] = entry;
-    report(from.deletingLastPathComponent(), {.contents = true});
-    report(to.deletingLastPathComponent(), {.contents = true});
-}
-
 void FakeFileSystem::removeDirectory(const Url& folder) {
     std::erase_if(entries_, [&](const auto& entry) {
         return entry.first == folder.path() || isBelow(entry.first, folder.path());
@@ -212,6 +203,22 @@ Outcome FakeFileSystem::write(const std::string& contents, const Url& file) {
     if (isReadOnly(file)) return failure(EACCES, file);
     contents_[file.path()] = contents;
     write(file, static_cast<std::int64_t>(contents.size()), Date{});
+    return {};
+}
+
+Outcome FakeFileSystem::rename(const Url& from, const Url& to) {
+    constexpr std::size_t longestName = 255;
+    if (existence(from) == Existence::none) return failure(ENOENT, from);
+    if (to.lastPathComponent().size() > longestName) return failure(ENAMETOOLONG, to);
+    if (from == to) return {};
+    if (existence(to) != Existence::none) return failure(EEXIST, to);
+    if (isReadOnly(from) || isReadOnly(to)) return failure(EACCES, to);
+    Entry entry = entries_.at(from.path());
+    entries_.erase(from.path());
+    entry.order = nextOrder_++;
+    entries_[to.path()] = entry;
+    report(from.deletingLastPathComponent(), {.contents = true});
+    report(to.deletingLastPathComponent(), {.contents = true});
     return {};
 }
 

@@ -41,7 +41,6 @@ public:
     /// Changes a file's entry in place without a report.
     void changeSilently(const Url& file, const std::function<void(Entry&)>& edit);
     void remove(const Url& file);
-    void rename(const Url& from, const Url& to);
 
     void removeDirectory(const Url& folder);
     void moveDirectory(const Url& from, const Url& to);
@@ -77,6 +76,8 @@ public:
     std::optional<std::int64_t> fileSize(const Url& url) const override;
     Outcome createDirectory(const Url& folder) override;
     Outcome write(const std::string& contents, const Url& file) override;
+    /// Reports the change in both folders.
+    Outcome rename(const Url& from, const Url& to) override;
     Result<Url> temporaryDirectory() override { return Url::file("/tmp/user"); }
     Url homeDirectory() const override { return home_; }
     std::optional<Url> homeDirectory(const std::string& user) const override {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/MediaLoader.h"
@@ -15,6 +16,15 @@ class FakeMediaLoader final : public MediaLoader {
 public:
     void addImage(const Url& url, std::optional<Size> pixelSize, Size pointSize) {
         images_[url.path()] = {pixelSize, pointSize};
+    }
+    /// Adds a document of vector pages with these sizes in points.
+    void addDocument(const Url& url, std::vector<Size> pages) {
+        images_[url.path()] = {Size{}, pages.front(), Condition::intact, std::move(pages)};
+    }
+    /// Removes a file that was added.
+    void remove(const Url& url) {
+        images_.erase(url.path());
+        recordings_.erase(url.path());
     }
     /// Adds an image that opens, but turns out to be damaged when it is drawn.
     void addDamagedImage(const Url& url, std::optional<Size> pixelSize, Size pointSize) {
@@ -46,6 +56,7 @@ private:
         std::optional<Size> pixelSize;
         Size pointSize;
         Condition condition = Condition::intact;
+        std::vector<Size> pages;  ///< Of a document; otherwise empty.
     };
     struct RecordingContents {
         double duration = 0;
@@ -66,9 +77,18 @@ private:
     class Image final : public ImageFile {
     public:
         Image(ImageContents contents, std::vector<Size>& drawnSizes)
-            : contents_(contents), drawnSizes_(drawnSizes) {}
+            : contents_(std::move(contents)), drawnSizes_(drawnSizes) {}
         std::optional<Size> pixelSize() const override { return contents_.pixelSize; }
         Size pointSize() const override { return contents_.pointSize; }
+        int pageCount() const override {
+            return contents_.pages.empty() ? 1 : static_cast<int>(contents_.pages.size());
+        }
+        bool selectPage(int page) override {
+            if (page < 0 || page >= pageCount()) return false;
+            if (!contents_.pages.empty())
+                contents_.pointSize = contents_.pages[static_cast<std::size_t>(page)];
+            return true;
+        }
         ImagePointer draw(Size size) override {
             drawnSizes_.push_back(size);
             return contents_.condition == Condition::intact ? blank(size) : nullptr;

@@ -32,12 +32,15 @@ public:
         return std::make_shared<Picture>(url);
     }
 
-    /// Returns its contents in order: "image /a.png" for a picture, "file /a.png" for a file.
+    /// Returns its contents in order: "image /a.png" for a picture, "file /a.png" for a file,
+    /// "text Words" for a text.
     std::vector<std::string> contents() const {
         std::vector<std::string> contents;
         for (const auto& object : objects_) {
             if (const auto* file = std::get_if<Url>(&object))
                 contents.push_back("file " + file->path());
+            else if (const auto* text = std::get_if<std::string>(&object))
+                contents.push_back("text " + *text);
             else
                 contents.push_back("image " + pictureOf(object).url.path());
         }

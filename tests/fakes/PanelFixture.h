@@ -6,8 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "fakes/FakeContextMenu.h"
 #include "fakes/FakeEnvironment.h"
 #include "fakes/FakeFileOpener.h"
+#include "fakes/FakeOpenWith.h"
 #include "fakes/FakePanelWindow.h"
 #include "fakes/FakePasteboard.h"
 #include "fakes/FakeScreens.h"
@@ -70,10 +72,13 @@ protected:
     FakePasteboard pasteboard{files};
     FakeSharingServicePicker sharing;
     FakeTrash trash{scheduler, files};
+    FakeOpenWith openWith{scheduler};
+    FakeContextMenu contextMenu;
     FakeSpareMemory spareMemory;
 
     FakePanelWindow::Record panel;
     int panelsMade = 0;
+    int reloads = 0;              ///< How often captures were loaded again.
     PanelState* state = nullptr;  ///< The controller's state, set when it first shows a capture.
     CardActions actions;          ///< The actions that the controller gives to its card.
 
@@ -84,18 +89,28 @@ private:
              .scheduler = scheduler,
              .screens = screens,
              .opener = opener,
+             .openWith = openWith,
+             .contextMenu = contextMenu,
              .files = files,
              .pasteboard = pasteboard,
              .sharing = sharing,
              .trash = trash,
              .spareMemory = spareMemory,
              .environment = environment,
-             .makePanel = [this](PanelState& panelState, Settings&, CardActions cardActions) {
-                 state = &panelState;
-                 actions = std::move(cardActions);
-                 ++panelsMade;
-                 return std::make_unique<FakePanelWindow>(panel);
-             }});
+             .makePanel =
+                 [this](PanelState& panelState, Settings&, CardActions cardActions) {
+                     state = &panelState;
+                     actions = std::move(cardActions);
+                     ++panelsMade;
+                     return std::make_unique<FakePanelWindow>(panel);
+                 },
+             .reload =
+                 [this](CapturePanelController::Captures captures, auto loaded) {
+                     ++reloads;
+                     for (auto& capture : captures)
+                         capture = Capture::create(capture->url(), capture->date());
+                     scheduler.async([captures, loaded] { loaded(captures); });
+                 }});
     }
 
     std::shared_ptr<CapturePanelController> controller_;

@@ -42,6 +42,8 @@ void open(const InputFile& file) {
                                           : PixelSize{std::min(size.width, maximum.width),
                                                       std::min(size.height, maximum.height)};
         image->draw(target);
+        if (image->pageCount() > 1 && image->selectPage(image->pageCount() - 1))
+            image->draw(target);
     }
     if (const auto recording = module.openRecording ? module.openRecording(file) : nullptr)
         recording->frame(std::min(std::max(recording->duration() * 0.5, 0.0), 0.5), maximum.width);

@@ -7,11 +7,13 @@
 #include "fakes/FakeAlerts.h"
 #include "fakes/FakeApplication.h"
 #include "fakes/FakeCanvas.h"
+#include "fakes/FakeContextMenu.h"
 #include "fakes/FakeEnvironment.h"
 #include "fakes/FakeFileOpener.h"
 #include "fakes/FakeFileSystem.h"
 #include "fakes/FakeLoginItem.h"
 #include "fakes/FakeMediaLoader.h"
+#include "fakes/FakeOpenWith.h"
 #include "fakes/FakePanelWindow.h"
 #include "fakes/FakePasteboard.h"
 #include "fakes/FakePreferencesDomain.h"
@@ -67,6 +69,7 @@ protected:
         clock = add(platform.clock, std::make_unique<fakes::VirtualClock>(time));
         auto* queue = add(platform.watcherQueue, std::make_unique<fakes::ManualQueue>(time));
         platform.serverQueue = std::make_unique<fakes::ManualQueue>(time);
+        platform.pictureQueue = std::make_unique<fakes::ManualQueue>(time);
         auto fileSystem = std::make_unique<fakes::FakeFileSystem>(*queue);
         files = fileSystem.get();
         (void)files->createDirectory(folder);
@@ -81,8 +84,10 @@ protected:
         screens = add(platform.screens, std::make_unique<fakes::FakeScreens>());
         application = add(platform.application, std::make_unique<fakes::FakeApplication>());
         opener = add(platform.opener, std::make_unique<fakes::FakeFileOpener>());
+        openWith = add(platform.openWith, std::make_unique<fakes::FakeOpenWith>(*scheduler));
         pasteboard = add(platform.pasteboard, std::make_unique<fakes::FakePasteboard>(*files));
         platform.sharing = std::make_unique<fakes::FakeSharingServicePicker>();
+        contextMenu = add(platform.contextMenu, std::make_unique<fakes::FakeContextMenu>());
         platform.trash = std::make_unique<fakes::FakeTrash>(*scheduler, *files);
         statusItem = add(platform.statusItem, std::make_unique<fakes::FakeStatusItem>());
         alerts = add(platform.alerts, std::make_unique<fakes::FakeAlerts>());
@@ -167,6 +172,8 @@ protected:
     fakes::FakePasteboard* pasteboard = nullptr;
     fakes::FakeApplication* application = nullptr;
     fakes::FakeFileOpener* opener = nullptr;
+    fakes::FakeContextMenu* contextMenu = nullptr;
+    fakes::FakeOpenWith* openWith = nullptr;
     fakes::FakeStatusItem* statusItem = nullptr;
     fakes::FakeAlerts* alerts = nullptr;
     fakes::FakePrivacySettings* privacySettings = nullptr;

@@ -228,6 +228,21 @@ TEST_F(CaptureTest, ARecordingWithoutFrameKeepsItsDurationOnly) {
     EXPECT_EQ(capture->pixelSize(), Size{});
 }
 
+TEST_F(CaptureTest, ARenamedOneKeepsAllButItsAddress) {
+    media.addRecording(clip, 5, Size{1080, 1920}, Size{450, 800});
+    const auto capture = Capture::create(clip, Date{std::chrono::seconds(7)});
+    capture->loadThumbnail(media);
+    const auto renamed = capture->renamed(Url::file("/shots/better name.mov"));
+    EXPECT_EQ(renamed->fileName(), "better name.mov");
+    EXPECT_EQ(renamed->id(), capture->id());
+    EXPECT_EQ(renamed->date(), capture->date());
+    EXPECT_EQ(renamed->kind(), capture->kind());
+    EXPECT_EQ(renamed->thumbnail(), capture->thumbnail());
+    EXPECT_EQ(renamed->pixelSize(), capture->pixelSize());
+    EXPECT_EQ(renamed->duration(), 5);
+    EXPECT_EQ(capture->fileName(), "clip.mov");
+}
+
 TEST_F(CaptureTest, TwoOfTheSameFileAreEqualAlthoughTheirIdentifiersDiffer) {
     const auto first = Capture::create(shot, Date{});
     const auto second = Capture::create(shot, Date{});

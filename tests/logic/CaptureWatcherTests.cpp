@@ -146,8 +146,8 @@ TEST_F(CaptureWatcherTest, HiddenFilesAndOtherExtensionsAreNeverReportedAndNever
     wait(1);
     EXPECT_THAT(captured, IsEmpty());
     // Because they are not known, the same files are new under names of captures.
-    files.rename(url(".hidden.png"), url("shown.png"));
-    files.rename(url("notes.txt"), url("notes.png"));
+    (void)files.rename(url(".hidden.png"), url("shown.png"));
+    (void)files.rename(url("notes.txt"), url("notes.png"));
     wait(1);
     EXPECT_THAT(captured, ElementsAre("shown.png", "notes.png"));
 }
@@ -631,6 +631,150 @@ TEST_F(CaptureWatcherTest, LogsTheWatchedFolderWhenDebugging) {
     save("old.png");
     start();
     EXPECT_THAT(log.lines(), ElementsAre("Vantle[dbg]: watching /shots (fd 3, 1 existing files)"));
+}
+
+TEST_F(CaptureWatcherTest, ANewFileUnderTheNameOfARenamedOlderOneIsReported) {
+    save("old.png");
+    start();
+    watcher->willRename(url("b.png"));
+    watcher->didRename(url("old.png"), url("b.png"),
+                       !files.rename(url("old.png"), url("b.png")).has_value());
+    wait(1);
+    save("old.png");
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("old.png"));
+}
+
+/// A capture that was reported, and that the user renames.
+class RenamingTest : public CaptureWatcherTest {
+protected:
+    RenamingTest() {
+        start();
+        save("a.png");
+        wait(1);
+        EXPECT_THAT(captured, ElementsAre("a.png"));
+        captured.clear();
+    }
+    void begin() { watcher->willRename(url("b.png")); }
+    bool rename() { return !files.rename(url("a.png"), url("b.png")).has_value(); }
+    void end(bool isSuccess) { watcher->didRename(url("a.png"), url("b.png"), isSuccess); }
+};
+
+TEST_F(RenamingTest, TheNewNameIsNotReported) {
+    begin();
+    end(rename());
+    wait(60);
+    EXPECT_THAT(captured, IsEmpty());
+    files.touch(folder);
+    wait(60);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(RenamingTest, ARenamingThatNobodyAnnouncedIsReported) {
+    rename();
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("b.png"));
+}
+
+TEST_F(RenamingTest, AScanBeforeTheRenamingDoesNotForgetTheNewName) {
+    begin();
+    files.touch(folder);
+    time.settle();
+    end(rename());
+    wait(60);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(RenamingTest, AScanBeforeTheEndOfTheRenamingReportsNothing) {
+    begin();
+    const bool isSuccess = rename();
+    wait(10);
+    end(isSuccess);
+    wait(60);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(RenamingTest, AScanThatFindsTheNewNameBeforeItIsAnnouncedReportsNothing) {
+    // The event is handled first, but the scan lists the folder after the renaming.
+    files.touch(folder);
+    begin();
+    const bool isSuccess = rename();
+    wait(10);
+    end(isSuccess);
+    wait(60);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(RenamingTest, ThatScanReportsNothingAfterAQuickRenamingEither) {
+    files.touch(folder);
+    begin();
+    end(rename());
+    wait(60);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(RenamingTest, AnotherFileUnderTheNewNameIsReportedIfTheRenamingFails) {
+    begin();
+    save("b.png");
+    time.settle();
+    const bool isSuccess = rename();
+    EXPECT_FALSE(isSuccess);
+    end(isSuccess);
+    wait(1);
+    EXPECT_THAT(captured, ElementsAre("b.png"));
+    wait(60);
+    EXPECT_THAT(captured, ElementsAre("b.png"));
+}
+
+TEST_F(RenamingTest, ANewFileUnderTheOldNameIsReported) {
+    begin();
+    const bool isSuccess = rename();
+    save("a.png");
+    end(isSuccess);
+    wait(60);
+    EXPECT_THAT(captured, ElementsAre("a.png"));
+}
+
+TEST_F(RenamingTest, ALaterFileUnderTheNewNameIsReportedOnceTheOldOneIsGone) {
+    begin();
+    end(rename());
+    wait(1);
+    files.remove(url("b.png"));
+    wait(1);
+    save("b.png");
+    wait(60);
+    EXPECT_THAT(captured, ElementsAre("b.png"));
+}
+
+TEST_F(RenamingTest, AFileThatIsRemovedAtOnceAndReplacedIsReportedOnce) {
+    files.touch(folder);
+    begin();
+    end(rename());
+    time.settle();
+    files.remove(url("b.png"));
+    time.settle();
+    save("b.png");
+    wait(60);
+    EXPECT_THAT(captured, ElementsAre("b.png"));
+}
+
+TEST_F(RenamingTest, ARenamedFileCanBeRenamedBack) {
+    begin();
+    end(rename());
+    watcher->willRename(url("a.png"));
+    watcher->didRename(url("b.png"), url("a.png"),
+                       !files.rename(url("b.png"), url("a.png")).has_value());
+    wait(60);
+    EXPECT_THAT(captured, IsEmpty());
+}
+
+TEST_F(RenamingTest, AFileOfAnotherFolderChangesNothing) {
+    const Url other = Url::file("/other");
+    watcher->willRename(other.appending("b.png"));
+    watcher->didRename(other.appending("a.png"), other.appending("b.png"), true);
+    save("b.png");
+    wait(60);
+    EXPECT_THAT(captured, ElementsAre("b.png"));
 }
 
 }  // namespace

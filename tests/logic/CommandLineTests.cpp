@@ -61,8 +61,8 @@ TEST(CommandLineTest, SomeActionsStartTheProgramAndOthersNeedARunningOne) {
         EXPECT_EQ(line.kind, Kind::start) << name;
         EXPECT_EQ(line.request, (ApplicationRequest{name, {}}));
     }
-    for (const auto* name :
-         {"pause", "resume", "dismiss", "focus-panel", "open-folder", "quit", "status"}) {
+    for (const auto* name : {"pause", "resume", "dismiss", "restore", "focus-panel", "open-folder",
+                             "quit", "status"}) {
         const auto line = parse({std::string("--") + name});
         EXPECT_EQ(line.kind, Kind::sendRequest) << name;
         EXPECT_EQ(line.request, (ApplicationRequest{name, {}}));
@@ -88,8 +88,8 @@ TEST(CommandLineTest, VersionAndHelpArePrinted) {
     const auto help = parse({"--help"});
     EXPECT_EQ(help.kind, Kind::print);
     for (const auto* option : {"--settings", "--pause", "--resume", "--show FILE…", "--dismiss",
-                               "--focus-panel", "--open-folder", "--sample", "--quit", "--status",
-                               "  --verbose", "  --with-paths", "--version", "--help"})
+                               "--restore", "--focus-panel", "--open-folder", "--sample", "--quit",
+                               "--status", "  --verbose", "  --with-paths", "--version", "--help"})
         EXPECT_THAT(help.text, HasSubstr(option));
 }
 

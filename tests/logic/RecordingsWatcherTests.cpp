@@ -253,5 +253,17 @@ TEST_F(RecordingsWatcherTest, LogsThatAFolderCannotBeAwaited) {
                                                    " to be created: ")));
 }
 
+TEST_F(RecordingsWatcherTest, ARenamedRecordingIsNotReportedAgain) {
+    make(folder);
+    start();
+    save("a.mp4");
+    const Url from = folder.appending("a.mp4");
+    const Url to = folder.appending("b.mp4");
+    watcher->willRename(to);
+    watcher->didRename(from, to, !files.rename(from, to).has_value());
+    time.advance(Seconds(60));
+    EXPECT_THAT(captured, ElementsAre("a.mp4"));
+}
+
 }  // namespace
 }  // namespace vantle

@@ -12,7 +12,10 @@ from conftest import ROOT, release, run
 
 IDENTIFIER = "org.vantle.Vantle"
 SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
-PROGRAMS = ["vantle", "vantle-decoder", "vantle-folder-dialog", "vantle-updater"]
+PROGRAMS = [
+    "vantle", "vantle-applications", "vantle-decoder", "vantle-folder-dialog", "vantle-reader",
+    "vantle-updater",
+]  # fmt: skip
 LANGUAGES = sorted(path.stem for path in (ROOT / "translations").glob("*.ts"))
 FORMATS = sorted(path.parent.name
                  for path in (ROOT / "src/decoder/formats").glob("*/CMakeLists.txt"))
@@ -111,6 +114,9 @@ def test_it_depends_on_modules_that_are_loaded_by_name(package):
     depends = [part.split()[0] for part in field(package, "Depends").split(", ")]
     assert set(modules) < set(depends)
     assert {"libqt6quick6", "libc6"} < set(depends)
+    # The text reader loads its library, so that Vantle can be installed without it.
+    assert not any(name.startswith("libtesseract") for name in depends)
+    assert "tesseract-ocr" in field(package, "Recommends").split(", ")
     # The number in the package's name depends on the release.
     assert any(name.startswith("libpoppler-cpp") for name in depends)
 

@@ -17,6 +17,7 @@ from pngs import pngs
 from recordings import write_recordings
 from tiffs import tiffs
 from webps import webps
+from words import words
 
 
 def others():
@@ -40,7 +41,7 @@ def main():
     folder = Path(sys.argv[1])
     folder.mkdir(parents=True, exist_ok=True)
     for group in (pngs(), jpegs(), gifs(), tiffs(), deep_tiffs(), pdfs(), webps(),
-                  others()):
+                  words(), others()):
         for name, data in group.items():
             (folder / name).write_bytes(data)
     write_profiled(folder)

@@ -31,6 +31,18 @@ def page(text, wide=WIDTH, high=HEIGHT, extra=b""):
     )
 
 
+def two_pages():
+    """Returns a red page and, twice as wide, a blue one."""
+    return pdf(
+        b"<< /Type /Catalog /Pages 2 0 R >>",
+        b"<< /Type /Pages /Kids [3 0 R 5 0 R] /Count 2 >>",
+        b"<< /Type /Page /Parent 2 0 R /MediaBox [0 0 %d %d] /Contents 4 0 R >>" % (WIDTH, HEIGHT),
+        stream(fill(RED, 0, 0, WIDTH, HEIGHT)),
+        b"<< /Type /Page /Parent 2 0 R /MediaBox [0 0 %d %d] /Contents 6 0 R >>"
+        % (2 * WIDTH, HEIGHT),
+        stream(fill(BLUE, 0, 0, 2 * WIDTH, HEIGHT)))
+
+
 def fill(color, left, bottom, wide=WIDTH // 2, high=HEIGHT // 2):
     red, green, blue = (part / 255 for part in color)
     return b"%g %g %g rg %d %d %d %d re f\n" % (red, green, blue, left, bottom, wide, high)
@@ -83,6 +95,7 @@ def pdfs():
         "after_garbage.pdf": b"garbage\n" + good,
         "turned.pdf": page(turned_quarters(), HEIGHT, WIDTH, b"/Rotate 90"),
         "letters.pdf": letters(),
+        "two_pages.pdf": two_pages(),
         "recursive_pages.pdf": recursive_pages(),
         "recursive_form.pdf": recursive_form(),
         "endless.pdf": endless_work(),

@@ -46,37 +46,37 @@ protected:
 };
 
 TEST_F(CaptureListModelTest, ANewCaptureInsertsOneRow) {
-    model.setCaptures({a, b});
+    model.setTiles({a, b});
     changes.clear();
-    model.setCaptures({a, b, c});
+    model.setTiles({a, b, c});
     EXPECT_THAT(changes, ElementsAre("insert 2"));
 }
 
 TEST_F(CaptureListModelTest, ARemovalLeavesTheOtherRowsAlone) {
-    model.setCaptures({a, b, c});
+    model.setTiles({a, b, c});
     changes.clear();
-    model.setCaptures({a, c});
+    model.setTiles({a, c});
     EXPECT_THAT(changes, IsEmpty()) << "its row stays until it has been shown leaving";
     EXPECT_EQ(at(1, CaptureListModel::isLeavingRole), true);
     EXPECT_EQ(at(2, CaptureListModel::positionRole), 1);
     model.forget(QString::fromStdString(b->id().text()));
     EXPECT_THAT(changes, ElementsAre("remove 1"));
-    EXPECT_EQ(model.captures(), (std::vector<CapturePointer>{a, c}));
+    EXPECT_EQ(model.tiles(), (std::vector<CapturePointer>{a, c}));
 }
 
 TEST_F(CaptureListModelTest, AnotherOrderMovesRows) {
-    model.setCaptures({a, b, c});
+    model.setTiles({a, b, c});
     changes.clear();
-    model.setCaptures({c, a, b});
+    model.setTiles({c, a, b});
     EXPECT_THAT(changes, ElementsAre("move 2 to 0"));
-    EXPECT_EQ(model.captures(), (std::vector<CapturePointer>{c, a, b}));
+    EXPECT_EQ(model.tiles(), (std::vector<CapturePointer>{c, a, b}));
 }
 
 TEST_F(CaptureListModelTest, ARetakenCaptureOfTheSameFileIsAnotherRow) {
-    model.setCaptures({a, b});
+    model.setTiles({a, b});
     changes.clear();
     const auto again = capture("a");
-    model.setCaptures({b, again});
+    model.setTiles({b, again});
     EXPECT_THAT(changes, ElementsAre("insert 2"));
     EXPECT_EQ(at(0, CaptureListModel::isLeavingRole), true);
     model.forget(QString::fromStdString(a->id().text()));
@@ -84,9 +84,9 @@ TEST_F(CaptureListModelTest, ARetakenCaptureOfTheSameFileIsAnotherRow) {
 }
 
 TEST_F(CaptureListModelTest, ACaptureThatComesBackKeepsItsRow) {
-    model.setCaptures({a, b, c});
-    model.setCaptures({a, c});
-    model.setCaptures({a, c, b});
+    model.setTiles({a, b, c});
+    model.setTiles({a, c});
+    model.setTiles({a, c, b});
     model.forget(QString::fromStdString(b->id().text()));
     EXPECT_EQ(model.rowCount(), 3);
     EXPECT_EQ(at(2, CaptureListModel::captureIdRole), QString::fromStdString(b->id().text()));
@@ -94,47 +94,47 @@ TEST_F(CaptureListModelTest, ACaptureThatComesBackKeepsItsRow) {
 }
 
 TEST_F(CaptureListModelTest, ALeavingCaptureKeepsItsPlaceAndSize) {
-    model.setCaptures({a, b});
-    model.setCaptures({a});
+    model.setTiles({a, b});
+    model.setTiles({a});
     EXPECT_EQ(at(0, CaptureListModel::tileWidthRole), 304);
     EXPECT_EQ(at(1, CaptureListModel::tileXRole), 212);
     EXPECT_EQ(at(1, CaptureListModel::tileWidthRole), 202);
 }
 
 TEST_F(CaptureListModelTest, TheSameListChangesNoRows) {
-    model.setCaptures({a, b});
+    model.setTiles({a, b});
     changes.clear();
-    model.setCaptures({a, b});
+    model.setTiles({a, b});
     EXPECT_THAT(changes, IsEmpty());
 }
 
 TEST_F(CaptureListModelTest, AllChangesAtOnceGiveTheNewOrder) {
     std::vector<CapturePointer> before;
     for (int i = 0; i < 8; ++i) before.push_back(capture(std::to_string(i)));
-    model.setCaptures(before);
+    model.setTiles(before);
     const std::vector<CapturePointer> after{before[7], a, before[2], before[3], b, before[0], c};
-    model.setCaptures(after);
-    EXPECT_EQ(model.captures(), after);
+    model.setTiles(after);
+    EXPECT_EQ(model.tiles(), after);
     EXPECT_THAT(changes, testing::Not(testing::Contains("reset")));
 }
 
 TEST_F(CaptureListModelTest, TileSizesFollowTheCount) {
-    model.setCaptures({a});
+    model.setTiles({a});
     EXPECT_EQ(at(0, CaptureListModel::tileWidthRole), 304);
     EXPECT_EQ(at(0, CaptureListModel::thumbnailHeightRole), 190);
     int announced = 0;
     QObject::connect(&model, &QAbstractItemModel::dataChanged, &model, [&] { ++announced; });
-    model.setCaptures({a, b});
+    model.setTiles({a, b});
     EXPECT_EQ(at(0, CaptureListModel::tileWidthRole), 202);
     EXPECT_EQ(at(1, CaptureListModel::tileXRole), 212);
     EXPECT_EQ(announced, 1);
-    model.setCaptures({a, b, c});
+    model.setTiles({a, b, c});
     EXPECT_EQ(at(2, CaptureListModel::tileXRole), 340);
     EXPECT_EQ(at(2, CaptureListModel::thumbnailHeightRole), 100);
 }
 
 TEST_F(CaptureListModelTest, SelectionAndPinsAreFoundByIdentifier) {
-    model.setCaptures({a, b});
+    model.setTiles({a, b});
     model.setSelected({b->id()});
     model.setPinned({a->id()});
     EXPECT_EQ(at(0, CaptureListModel::isSelectedRole), false);
@@ -142,6 +142,35 @@ TEST_F(CaptureListModelTest, SelectionAndPinsAreFoundByIdentifier) {
     EXPECT_EQ(at(0, CaptureListModel::isPinnedRole), true);
     EXPECT_EQ(model.capture(QString::fromStdString(b->id().text())), b);
     EXPECT_EQ(model.capture(QStringLiteral("none")), nullptr);
+}
+
+TEST_F(CaptureListModelTest, ATrashedCaptureKeepsItsPlaceForItsNotice) {
+    model.setTiles({a, b, c});
+    changes.clear();
+    model.setTiles({a, c}, {{b->id(), TrashNotice::moved}});
+    EXPECT_EQ(model.tiles(), (std::vector<CapturePointer>{a, b, c}));
+    EXPECT_THAT(changes, IsEmpty());
+    EXPECT_EQ(at(1, CaptureListModel::trashNoticeRole), QStringLiteral("Moved to Trash"));
+    EXPECT_EQ(at(1, CaptureListModel::canUndoTrashRole), true);
+    EXPECT_EQ(at(0, CaptureListModel::trashNoticeRole), QString());
+    EXPECT_EQ(model.stayingCapture(QString::fromStdString(b->id().text())), nullptr);
+}
+
+TEST_F(CaptureListModelTest, NoticesStayBehindTheirNeighbours) {
+    model.setTiles({a, b, c});
+    model.setTiles({c}, {{a->id(), TrashNotice::moved}, {b->id(), TrashNotice::moved}});
+    EXPECT_EQ(model.tiles(), (std::vector<CapturePointer>{a, b, c}));
+    const auto d = capture("d");
+    model.setTiles({d, c}, {{b->id(), TrashNotice::moved}});
+    EXPECT_EQ(model.tiles(), (std::vector<CapturePointer>{b, d, c}));
+}
+
+TEST_F(CaptureListModelTest, AnEndedNoticeLeavesItsTile) {
+    model.setTiles({a, b});
+    model.setTiles({a}, {{b->id(), TrashNotice::moved}});
+    model.setTiles({a});
+    EXPECT_EQ(model.tiles(), (std::vector<CapturePointer>{a}));
+    EXPECT_EQ(at(1, CaptureListModel::isLeavingRole), true);
 }
 
 }  // namespace

@@ -41,6 +41,21 @@ void CardStage::recordRequests() {
     actions.copySelected = onPanel("copy selected");
     actions.trashSelected = onPanel("trash selected");
     actions.removeSelected = onPanel("remove selected");
+    actions.selectAll = onPanel("select all");
+    actions.beginRenaming = onCapture("rename");
+    actions.finishRenaming = [this](const std::string& name) { asked.push_back("name " + name); };
+    actions.cancelRenaming = onPanel("cancel renaming");
+    actions.captureMenu = [this](const CapturePointer& one, const MenuRequest& request) {
+        asked.push_back("menu of " + one->fileName());
+        menuRequest = request;
+    };
+    actions.backgroundMenu = [this](const MenuRequest& request) {
+        asked.push_back("menu");
+        menuRequest = request;
+    };
+    actions.undo = onPanel("undo");
+    actions.preview = onCapture("preview");
+    actions.undoTrash = [this](const UUID& id) { asked.push_back("undo trash " + id.text()); };
 }
 
 CapturePanel& CardStage::preparedCard() {
@@ -53,6 +68,16 @@ CapturePanel& CardStage::preparedCard() {
 void CardStage::makeCard() {
     preparedCard().orderFrontRegardless();
     if (!QTest::qWaitForWindowExposed(&window())) throw std::runtime_error("no window came up");
+    rest();
+}
+
+void CardStage::trash(const CapturePointer& trashed, TrashNotice notice) {
+    auto notices = state.trashNotices.value();
+    notices[trashed->id()] = notice;
+    state.trashNotices.set(std::move(notices));
+    auto left = state.captures.value();
+    std::erase(left, trashed);
+    state.captures.set(std::move(left));
     rest();
 }
 

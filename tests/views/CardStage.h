@@ -28,6 +28,8 @@ public:
     void makeCard();
     /// Changes the captures and lets everything come to rest.
     void show(const std::vector<CapturePointer>& captures);
+    /// Replaces a capture by a notice.
+    void trash(const CapturePointer& trashed, TrashNotice notice = TrashNotice::moved);
     void rest() {
         frames.settle();
         time.advance(Seconds(4));
@@ -71,6 +73,7 @@ public:
     CardActions actions;
     std::vector<std::string> asked;  ///< "copy a.png", "clear selection", ...
     Rect shareAnchor;
+    MenuRequest menuRequest;  ///< The latest.
     std::unique_ptr<CapturePanel> panel;
 
     PanelModel::Rendering rendering = PanelModel::Rendering::glass;

@@ -123,7 +123,7 @@ TEST_F(HostingViewTest, APressThatMovesMoreThanSixPointsDrawsAMarquee) {
 TEST_F(HostingViewTest, ALittleFurtherThanSixPointsIsEnoughForAMarquee) {
     showTwo();
     press(background());
-    move(background() + QPointF(6, -2));
+    move(background() + QPointF(-6, -2));
     EXPECT_EQ(marquees.size(), 1u);
     release(background());
     EXPECT_EQ(backgroundClicks, 0);

@@ -59,13 +59,22 @@ TEST_F(KeyboardTest, ACardWithTheFocusCountsAsHovered) {
     EXPECT_TRUE(flag(item("ClearAllPill"), "isShown"));
 }
 
-TEST_F(KeyboardTest, ReturnOpensSpaceSelectsDeleteTrashes) {
+TEST_F(KeyboardTest, ReturnOpensSpacePreviewsDeleteTrashes) {
     showThree();
     key(Qt::Key_Left);
     key(Qt::Key_Return);
     key(Qt::Key_Space);
+    key(Qt::Key_Space, Qt::ControlModifier);
     key(Qt::Key_Delete);
-    EXPECT_THAT(asked, ElementsAre("open b.png", "toggle select b.png", "trash b.png"));
+    EXPECT_THAT(asked,
+                ElementsAre("open b.png", "preview b.png", "toggle select b.png", "trash b.png"));
+}
+
+TEST_F(KeyboardTest, SpaceIsMeantForTheTileUnderThePointer) {
+    showThree();
+    hover(*tile(0));
+    key(Qt::Key_Space);
+    EXPECT_THAT(asked, ElementsAre("preview a.png"));
 }
 
 TEST_F(KeyboardTest, DeleteOnASelectedTileTrashesTheSelection) {
@@ -74,6 +83,24 @@ TEST_F(KeyboardTest, DeleteOnASelectedTileTrashesTheSelection) {
     key(Qt::Key_Left);
     key(Qt::Key_Delete);
     EXPECT_THAT(asked, ElementsAre("trash selected"));
+}
+
+TEST_F(KeyboardTest, ControlAndZUndo) {
+    showThree();
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_THAT(asked, ElementsAre("undo"));
+}
+
+TEST_F(KeyboardTest, ATrashedTileKeepsTheFocusAndIsUndoneByReturnOrSpace) {
+    showThree();
+    key(Qt::Key_Left);
+    trash(b);
+    EXPECT_EQ(focused(), 1);
+    key(Qt::Key_Return);
+    key(Qt::Key_Space);
+    key(Qt::Key_Delete);
+    const std::string undone = "undo trash " + b->id().text();
+    EXPECT_THAT(asked, ElementsAre(undone, undone));
 }
 
 TEST_F(KeyboardTest, EscapeIsNotLoggedAsATap) {

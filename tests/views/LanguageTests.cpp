@@ -101,8 +101,8 @@ TEST_F(PseudolanguageTest, EveryTextOfTheCardIsTranslatedExceptForNamesOfFiles) 
         CardStage stage;
         scene.set(stage);
         QStringList names;
-        for (const auto& capture : stage.state.captures.value())
-            names << QString::fromStdString(capture->fileName());
+        for (const QQuickItem* tile : stage.items("CaptureTile"))
+            names << tile->property("fileName").toString();
         EXPECT_THAT(untranslated(*stage.window().contentItem(), names), IsEmpty());
     }
 }

@@ -7,7 +7,9 @@
 #include <QTest>
 #include <optional>
 
+#include "ManualFrames.h"
 #include "menus/MenuWindow.h"
+#include "panel/views/Appearance.h"
 
 namespace vantle {
 namespace {
@@ -32,9 +34,12 @@ protected:
     }
     QPoint inLine(int line) {
         int lines = 0;
-        for (const auto* item : window.rootObject()->childItems().back()->childItems())
-            if (item->property("isSeparator").isValid() && lines++ == line)
-                return item->mapToScene(item->boundingRect().center()).toPoint();
+        for (const auto* page : window.rootObject()->childItems().back()->childItems()) {
+            if (!page->isVisible()) continue;
+            for (const auto* item : page->childItems())
+                if (item->property("isSeparator").isValid() && lines++ == line)
+                    return item->mapToScene(item->boundingRect().center()).toPoint();
+        }
         ADD_FAILURE() << "there is no line " << line;
         return {};
     }
@@ -210,6 +215,170 @@ TEST_F(MenuTest, IsAsLargeAsItsLinesAndCutsALongOne) {
     open({{.title = "A telephone with a name that somebody wrote a small novel into, and more"}});
     EXPECT_EQ(plate().height(), 28 + 2 * 5);
     EXPECT_EQ(plate().width(), 380 + 2 * 5);
+}
+
+/// A menu with a submenu that is higher than the menu itself.
+class MenuPageTest : public MenuTest {
+protected:
+    std::vector<std::string> titles() {
+        std::vector<std::string> titles;
+        for (const QVariant& line : window.model().lines())
+            titles.push_back(line.toMap()[QStringLiteral("title")].toString().toStdString());
+        return titles;
+    }
+    QRectF plateFrame() { return window.rootObject()->property("plateFrame").toRectF(); }
+    std::function<void()> tell(const std::string& what) {
+        return [this, what] { performed.push_back(what); };
+    }
+
+    std::vector<std::string> performed;
+    const std::vector<MenuItem> pages{
+        {.title = "Open", .action = tell("open")},
+        {.title = "Open With",
+         .items = {{.title = "Viewer", .action = tell("viewer")},
+                   {.title = "Editor", .action = tell("editor")},
+                   rule,
+                   {.title = "More", .items = {{.title = "Deep", .action = tell("deep")}}},
+                   {.title = "Other…", .action = tell("other")}}},
+        {.title = "Copy", .action = tell("copy")}};
+};
+
+TEST_F(MenuPageTest, RightEntersAndSelectsTheFirstLineAfterTheWayBack) {
+    open(pages);
+    press(Qt::Key_Down);
+    press(Qt::Key_Right);
+    EXPECT_EQ(window.model().page(), 0) << "this line leads nowhere";
+    press(Qt::Key_Down);
+    press(Qt::Key_Right);
+    EXPECT_THAT(titles(),
+                testing::ElementsAre("Open With", "Viewer", "Editor", "", "More", "Other…"));
+    EXPECT_EQ(window.model().title(), QStringLiteral("Open With"));
+    EXPECT_EQ(current(), 1);
+}
+
+TEST_F(MenuPageTest, ReturnEntersAndChooses) {
+    open(pages);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(window.isVisible());
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_THAT(performed, testing::ElementsAre("editor"));
+    EXPECT_EQ(chosen, 1) << "the line that leads to the page";
+}
+
+TEST_F(MenuPageTest, LeftBackspaceAndEscapeGoBackToTheLineThatWasEntered) {
+    open(pages);
+    for (const auto key : {Qt::Key_Left, Qt::Key_Backspace, Qt::Key_Escape}) {
+        window.open({"Menu", pages, 1}, {{300, 200, 28, 28}});
+        press(Qt::Key_Right);
+        ASSERT_EQ(window.model().page(), 1);
+        press(key);
+        EXPECT_EQ(window.model().page(), 0);
+        EXPECT_EQ(current(), 1);
+        EXPECT_TRUE(window.isVisible());
+    }
+    press(Qt::Key_Left);
+    EXPECT_TRUE(window.isVisible());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(MenuPageTest, AClickEntersGoesBackAndChooses) {
+    open(pages);
+    QTest::mouseClick(&window, Qt::LeftButton, {}, inLine(1));
+    EXPECT_EQ(window.model().page(), 1);
+    EXPECT_EQ(current(), MenuModel::none);
+    window.grabWindow();
+    QTest::mouseClick(&window, Qt::LeftButton, {}, inLine(0));
+    EXPECT_EQ(window.model().page(), 0);
+    QTest::mouseClick(&window, Qt::LeftButton, {}, inLine(1));
+    window.grabWindow();
+    QTest::mouseClick(&window, Qt::LeftButton, {}, inLine(1));
+    EXPECT_THAT(performed, testing::ElementsAre("viewer"));
+}
+
+TEST_F(MenuPageTest, APageMayHavePages) {
+    open(pages);
+    for (const auto key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_Down, Qt::Key_Down,
+                           Qt::Key_Right, Qt::Key_Return})
+        press(key);
+    EXPECT_THAT(performed, testing::ElementsAre("deep"));
+    EXPECT_EQ(chosen, 1);
+}
+
+TEST_F(MenuPageTest, TheWindowHasRoomForTheLargestPageAndThePlateForTheCurrentOne) {
+    open(pages);
+    const QSize size = window.size();
+    EXPECT_EQ(plate().height(), 5 * 28 + 9 + 2 * 5);
+    EXPECT_EQ(plateFrame().height(), 3 * 28 + 2 * 5);
+    EXPECT_EQ(plateFrame().top(), window.rootObject()->property("margin").toReal());
+    press(Qt::Key_Up);
+    press(Qt::Key_Up);
+    press(Qt::Key_Right);
+    EXPECT_EQ(plateFrame().height(), 5 * 28 + 9 + 2 * 5);
+    EXPECT_EQ(window.size(), size);
+}
+
+TEST_F(MenuPageTest, ThePlateGrowsToThePageLikeASpring) {
+    ManualFrames frames;
+    open(pages, {300, 200, 28, 28});
+    const auto height = [this] { return window.rootObject()->property("drawnHeight").toDouble(); };
+    EXPECT_EQ(height(), 3 * 28 + 2 * 5);
+    press(Qt::Key_Up);
+    press(Qt::Key_Up);
+    press(Qt::Key_Right);
+    frames.advance(60);
+    EXPECT_GT(height(), 3 * 28 + 2 * 5);
+    EXPECT_LT(height(), 5 * 28 + 9 + 2 * 5);
+    frames.settle();
+    EXPECT_EQ(height(), 5 * 28 + 9 + 2 * 5);
+}
+
+TEST_F(MenuPageTest, ThePlateChangesAtOnceForAUserWhoPrefersLessMotion) {
+    DesktopAppearance desktop;
+    desktop.look.set({.reducesMotion = true});
+    Appearance::follow(&desktop);
+    {
+        MenuWindow calm;
+        calm.open({"Menu", pages, 1}, {{300, 200, 28, 28}});
+        QTest::keyClick(&calm, Qt::Key_Right);
+        EXPECT_EQ(calm.rootObject()->property("drawnHeight").toDouble(), 5 * 28 + 9 + 2 * 5);
+    }
+    Appearance::follow(nullptr);
+}
+
+TEST_F(MenuPageTest, StaysBesideAnAnchorBelowIt) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    open(pages, {300, room.bottom() - 40, 28, 28});
+    const double bottom = window.y() + plateFrame().bottom();
+    EXPECT_EQ(bottom + 4, room.bottom() - 40);
+}
+
+TEST_F(MenuPageTest, APressBesideTheCurrentPageCloses) {
+    open(pages);
+    QTest::mousePress(&window, Qt::LeftButton, {},
+                      QPoint(window.width() / 2, qRound(plateFrame().bottom()) + 12));
+    EXPECT_EQ(timesEnded, 1);
+}
+
+TEST_F(MenuPageTest, AnotherMenuBeginsAtItsFirstPage) {
+    open(pages);
+    press(Qt::Key_Up);
+    press(Qt::Key_Up);
+    press(Qt::Key_Right);
+    open(pages);
+    EXPECT_EQ(window.model().page(), 0);
+    EXPECT_EQ(current(), MenuModel::none);
+}
+
+TEST_F(MenuPageTest, AnIconLeavesTheLineAsHighAsTheOthers) {
+    const auto picture = std::make_shared<Image>(Image{1, 1, {20, 20}, {255, 0, 0, 255}});
+    const MenuImage icon{picture, {20, 20}, {{0, 0}, {20, 20}}};
+    open({{.title = "Viewer", .image = icon}, {.title = "Other…"}});
+    EXPECT_EQ(plate().height(), 2 * 28 + 2 * 5);
 }
 
 }  // namespace

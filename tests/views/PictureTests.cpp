@@ -16,6 +16,8 @@
 #include <cstdlib>
 #include <functional>
 
+#include "ManualFrames.h"
+#include "PreviewStage.h"
 #include "Scenes.h"
 #include "ScreenStage.h"
 #include "Updates.h"
@@ -66,6 +68,52 @@ QImage drawnMenu() {
     window.open(menu, {{20, 20, 28, 28}}, [](auto) {});
     QTest::keyClick(&window, Qt::Key_End);
     QTest::keyClick(&window, Qt::Key_Up);
+    return window.grabWindow();
+}
+
+/// Returns the icon of a program: a disc of a colour.
+MenuImage icon(const QColor& color) {
+    constexpr int size = 40;
+    QImage drawn(size, size, QImage::Format_RGBA8888_Premultiplied);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(color);
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(drawn.rect().adjusted(2, 2, -2, -2));
+    painter.end();
+    auto picture = std::make_shared<Image>(Image{size, size, {20, 20}, {}});
+    picture->rgba.assign(drawn.constBits(), drawn.constBits() + drawn.sizeInBytes());
+    return {picture, {20, 20}, {{0, 0}, {20, 20}}};
+}
+
+Menu menuWithPage() {
+    return {"Capture",
+            {{.title = "Open"},
+             {.title = "Open With",
+              .items = {{.title = "Image Viewer", .image = icon(Qt::darkGreen)},
+                        {.title = "Paint", .image = icon(QColor(190, 60, 50))},
+                        {.title = "A program without an icon"},
+                        {.kind = MenuItem::Kind::separator},
+                        {.title = "Other…"}}},
+             {.kind = MenuItem::Kind::separator},
+             {.title = "Copy", .keyEquivalent = "c"},
+             {.title = "Move to Trash"}},
+            1};
+}
+
+QImage drawnMenuWithPage() {
+    MenuWindow window;
+    window.open(menuWithPage(), {{20, 20, 28, 28}});
+    return window.grabWindow();
+}
+
+QImage drawnMenuPage() {
+    ManualFrames frames;
+    MenuWindow window;
+    window.open(menuWithPage(), {{20, 20, 28, 28}});
+    QTest::keyClick(&window, Qt::Key_Right);
+    frames.settle();
     return window.grabWindow();
 }
 
@@ -146,7 +194,15 @@ std::vector<Subject> subjects() {
                            scene.set(stage);
                            return drawn(stage);
                        }});
+    for (const PreviewScene& scene : previewScenes())
+        all.push_back({"preview-" + scene.name, [scene] {
+                           PreviewStage stage;
+                           scene.set(stage);
+                           return stage.picture();
+                       }});
     all.push_back({"menu", drawnMenu});
+    all.push_back({"menu-with-page", drawnMenuWithPage});
+    all.push_back({"menu-page", drawnMenuPage});
     all.push_back({"status-menu", drawnStatusMenu});
     all.push_back({"alert-warning", [] { return drawnAlert(warning()); }});
     all.push_back({"alert-information", [] { return drawnAlert(information); }});

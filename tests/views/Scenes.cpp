@@ -66,6 +66,23 @@ const std::vector<Scene>& allScenes() {
              select(stage, {0, 2});
              hoverTile(stage, 1);
          }},
+        {"trashed",
+         [](CardStage& stage) {
+             showShots(stage, 3);
+             stage.trash(stage.state.captures.value()[1]);
+         }},
+        {"trashed-one",
+         [](CardStage& stage) {
+             showShots(stage, 1);
+             stage.trash(stage.state.captures.value()[0]);
+         }},
+        {"not-put-back",
+         [](CardStage& stage) {
+             showShots(stage, 6);
+             const auto shown = stage.state.captures.value();
+             stage.trash(shown[1], TrashNotice::notPutBack);
+             stage.trash(shown[3], TrashNotice::notMoved);
+         }},
         {"marquee",
          [](CardStage& stage) {
              showShots(stage, 3);

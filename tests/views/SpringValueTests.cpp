@@ -96,5 +96,29 @@ TEST_F(SpringValueTest, SignalsNothingAtRest) {
     EXPECT_EQ(spy.count(), 0);
 }
 
+TEST_F(SpringValueTest, ALaunchBeginsWithThatSpeed) {
+    begin(0);
+    spring.jumpTo(30);
+    spring.launch(0, 600);
+    const Spring expected({.response = 0.5, .dampingFraction = 0.82}, {30, 600}, 0);
+    for (int i = 1; i <= 10; ++i) {
+        frames.advance(16);
+        EXPECT_NEAR(spring.value(), expected.at(0.016 * i).value, 1e-6) << i;
+    }
+    EXPECT_EQ(spring.target(), 0);
+    frames.settle();
+    EXPECT_EQ(spring.value(), 0);
+    EXPECT_FALSE(spring.isRunning());
+}
+
+TEST_F(SpringValueTest, ALaunchToTheTargetThatItHasMovesAsWell) {
+    begin(0);
+    spring.launch(0, 600);
+    frames.advance(32);
+    EXPECT_GT(spring.value(), 5);
+    frames.settle();
+    EXPECT_EQ(spring.value(), 0);
+}
+
 }  // namespace
 }  // namespace vantle

@@ -133,6 +133,52 @@ TEST_F(TileTest, ShowsThatItsFileIsGone) {
     EXPECT_THAT(items("MissingNotice", tile(0)), IsEmpty());
 }
 
+TEST_F(TileTest, ATrashedCaptureLeavesANoticeInItsPlace) {
+    show({a, b, capture("c")});
+    makeCard();
+    const QRectF before = frame(*tile(1));
+    trash(b);
+    EXPECT_EQ(frame(*tile(1)), before);
+    const auto* notice = item("TrashNotice", tile(1));
+    EXPECT_EQ(text(notice, "text"), "Moved to Trash");
+    EXPECT_THAT(items("TrashNotice", tile(0)), IsEmpty());
+    click(*button("Undo", tile(1)));
+    EXPECT_THAT(asked, ElementsAre("undo trash " + b->id().text()));
+    state.captures.set({a, b, capture("c")});
+    state.trashNotices.set({});
+    rest();
+    EXPECT_THAT(items("TrashNotice", tile(1)), IsEmpty());
+}
+
+TEST_F(TileTest, ATrashedCaptureCanNeitherBeOpenedNorHasButtons) {
+    show({a, b});
+    makeCard();
+    trash(b);
+    hover(*tile(1));
+    click(frame(*tile(1)).center() - QPointF(0, 40));
+    EXPECT_THAT(asked, IsEmpty());
+    for (const auto* bar : items("HoverBar", tile(1))) EXPECT_FALSE(flag(bar, "isShown"));
+}
+
+TEST_F(TileTest, ANoticeOfAFailureOffersNoUndo) {
+    show({a, b});
+    makeCard();
+    trash(b, TrashNotice::notPutBack);
+    EXPECT_EQ(text(item("TrashNotice", tile(1)), "text"), "Could not be put back");
+    EXPECT_FALSE(button("Undo", tile(1))->isVisible());
+}
+
+TEST_F(TileTest, TheCardOfTheLastCaptureStaysForItsNotice) {
+    show({a});
+    makeCard();
+    trash(a);
+    EXPECT_FALSE(glassFrame().isEmpty());
+    EXPECT_TRUE(item("TrashNotice")->isVisible());
+    state.trashNotices.set({});
+    rest();
+    EXPECT_FALSE(item("TileRow")->isVisible());
+}
+
 TEST_F(TileTest, TallLettersKeepTheMarginBelowThem) {
     showTwo();
     const auto room = [this] {

@@ -6,8 +6,8 @@
 
 namespace vantle::decoder {
 
-std::uint32_t confine(std::span<const std::string> readable) {
-    limitResources();
+std::uint32_t confine(std::span<const std::string> readable, ResourceLimits limits) {
+    limitResources(limits);
     // Both guards below require this: a program that is started cannot gain rights.
     prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
     prctl(PR_SET_DUMPABLE, 0);

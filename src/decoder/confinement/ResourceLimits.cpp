@@ -8,13 +8,11 @@ namespace {
 
 // The sanitizers' shadow memory is larger than any limit.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr rlim_t memory = RLIM_INFINITY;
+constexpr bool limitsMemory = false;
 #else
-constexpr rlim_t memory = rlim_t{2} * 1024 * 1024 * 1024;
+constexpr bool limitsMemory = true;
 #endif
 
-// Enough for a burst of the largest pictures. A decoder that uses it up is replaced by a new one.
-constexpr rlim_t processorSeconds = 60;
 constexpr rlim_t descriptors = 64;
 
 void limit(int resource, rlim_t value) {
@@ -25,9 +23,9 @@ void limit(int resource, rlim_t value) {
 
 }  // namespace
 
-void limitResources() {
-    limit(RLIMIT_AS, memory);
-    limit(RLIMIT_CPU, processorSeconds);
+void limitResources(ResourceLimits limits) {
+    if (limitsMemory) limit(RLIMIT_AS, static_cast<rlim_t>(limits.memory));
+    limit(RLIMIT_CPU, static_cast<rlim_t>(limits.processorSeconds));
     limit(RLIMIT_FSIZE, static_cast<rlim_t>(maximumPictureBytes));
     limit(RLIMIT_NOFILE, descriptors);
     limit(RLIMIT_CORE, 0);

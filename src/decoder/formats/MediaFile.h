@@ -20,6 +20,11 @@ public:
     virtual PixelSize pixelSize() const = 0;
     virtual Size pointSize() const = 0;
 
+    virtual int pageCount() const { return 1; }
+    /// Chooses the page, counted from 0, that the other functions are about. Returns false and
+    /// changes nothing if that page cannot be opened.
+    virtual bool selectPage(int page) { return page == 0; }
+
     /// Draws the upright picture in `target` pixels, which must be at least 1 × 1 and, unless this
     /// is a vector image, at most pixelSize(). Returns std::nullopt if the contents are damaged or
     /// incomplete.

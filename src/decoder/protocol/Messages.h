@@ -27,13 +27,15 @@ struct Ready {
     std::uint32_t missingGuards = 0;  ///< The sum of Guard values.
 };
 
-enum class Operation : std::uint32_t { openImage, openRecording, draw, frame, close };
+enum class Operation : std::uint32_t { openImage, openRecording, page, draw, frame, close };
 
 /// openImage and openRecording carry the descriptor of the file. If they succeed, the decoder keeps
-/// it until close, or until another file is opened; draw and frame apply to that file. There is no
-/// reply to close.
+/// it until close, or until another file is opened; page, draw and frame apply to that file. There
+/// is no reply to close. The reply to page describes that page; draw names it again, because
+/// another decoder may have taken over in between.
 struct Request {
     Operation operation = Operation::openImage;
+    std::int32_t page = 0;        ///< Used by page and draw, from 0.
     PixelSize target;             ///< Used by draw.
     double time = 0;              ///< Used by frame, in seconds.
     double maximumDimension = 0;  ///< Used by frame, in pixels.
@@ -51,8 +53,9 @@ enum class Status : std::uint32_t {
 struct Reply {
     Status status = Status::failed;
     Format format = Format::png;
-    PixelSize pixelSize;  ///< The opened image's size; 0 × 0 for a vector image.
-    Size size;            ///< The opened image's size in points, or the video track's size.
+    PixelSize pixelSize;         ///< The size of the image or page; 0 × 0 for a vector image.
+    Size size;                   ///< The same in points, or the video track's size.
+    std::int32_t pageCount = 1;  ///< Of the opened image.
     std::uint32_t hasVideoTrack = 0;
     double duration = 0;  ///< The opened recording's duration in seconds; not a number if unknown.
     PixelSize picture;

@@ -1,9 +1,5 @@
 #include "decoder/service/Server.h"
 
-#include <fcntl.h>
-#include <sys/mman.h>
-#include <unistd.h>
-
 #include <chrono>
 #include <cmath>
 #include <exception>
@@ -12,24 +8,10 @@
 #include "decoder/formats/Contents.h"
 #include "decoder/protocol/MessageSocket.h"
 #include "decoder/protocol/Messages.h"
+#include "decoder/protocol/SealedMemory.h"
 
 namespace vantle::decoder {
 namespace {
-
-/// Returns memory that holds a picture and that nobody can change any more; an empty descriptor if
-/// there is not enough memory.
-FileDescriptor sealedMemory(const Picture& picture) {
-    FileDescriptor memory(memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING));
-    if (!memory) return {};
-    for (std::size_t done = 0; done < picture.rgba.size();) {
-        const auto count =
-            write(memory.get(), picture.rgba.data() + done, picture.rgba.size() - done);
-        if (count <= 0) return {};
-        done += static_cast<std::size_t>(count);
-    }
-    constexpr int seals = F_SEAL_SEAL | F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
-    return fcntl(memory.get(), F_ADD_SEALS, seals) == 0 ? std::move(memory) : FileDescriptor();
-}
 
 bool isDrawable(PixelSize target) {
     return target.width > 0 && target.height > 0 &&
@@ -71,8 +53,12 @@ private:
             case Operation::openImage:
             case Operation::openRecording:
                 return open(request.operation, std::move(file));
+            case Operation::page:
+                if (!image_ || !image_->selectPage(request.page)) return {};
+                return {imageReply(), {}};
             case Operation::draw:
-                if (!image_ || !isDrawable(request.target)) return {};
+                if (!image_ || !isDrawable(request.target) || !image_->selectPage(request.page))
+                    return {};
                 return answerWith(image_->draw(request.target));
             case Operation::frame:
                 if (!recording_) return {};
@@ -110,9 +96,14 @@ private:
     Answer openImage() {
         if (module_.openImage) image_ = module_.openImage(*file_);
         if (!image_) return {};
-        return {
-            {.status = Status::done, .pixelSize = image_->pixelSize(), .size = image_->pointSize()},
-            {}};
+        return {imageReply(), {}};
+    }
+
+    Reply imageReply() const {
+        return {.status = Status::done,
+                .pixelSize = image_->pixelSize(),
+                .size = image_->pointSize(),
+                .pageCount = image_->pageCount()};
     }
 
     Answer openRecording() {
@@ -128,7 +119,7 @@ private:
 
     static Answer answerWith(const std::optional<Picture>& picture) {
         if (!picture) return {};
-        auto memory = sealedMemory(*picture);
+        auto memory = sealedMemory(picture->rgba);
         if (!memory) return {};
         return {{.status = Status::done, .picture = picture->size}, std::move(memory)};
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "panel/CardLayout.h"
+#include "panel/NewName.h"
 #include "panel/views/DisplayText.h"
 #include "support/DisplayName.h"
 
@@ -13,6 +14,10 @@ namespace {
 double tileWidth(const Capture& capture, int count) {
     return count == 1 ? CardLayout::singleWidth(capture)
                       : CardLayout::tileSize(count, capture).width;
+}
+
+const UUID& idOf(const CapturePointer& capture) {
+    return capture->id();
 }
 
 }  // namespace
@@ -46,9 +51,39 @@ QVariant CaptureListModel::data(const QModelIndex& index, int role) const {
             return durationText(capture.duration());
         case isLeavingRole:
             return row.isLeaving;
+        case isRenamingRole:
+        case changeableNameRole:
+        case extensionRole:
+        case refusalRole:
+            return nameData(capture, role);
+        case trashNoticeRole:
+        case canUndoTrashRole:
+            return noticeData(capture.id(), role);
         default:
             return markData(capture.id(), role);
     }
+}
+
+QVariant CaptureListModel::nameData(const Capture& capture, int role) const {
+    const bool isRenaming = renaming_ && renaming_->captureID == capture.id();
+    const std::string name = changeablePart(capture.fileName());
+    switch (role) {
+        case isRenamingRole:
+            return isRenaming;
+        case changeableNameRole:
+            return QString::fromStdString(displayName(name));
+        case extensionRole:
+            return QString::fromStdString(displayName(capture.fileName().substr(name.size())));
+        default:
+            return isRenaming ? QString::fromStdString(renaming_->refusal) : QString();
+    }
+}
+
+QVariant CaptureListModel::noticeData(const UUID& id, int role) const {
+    const auto found = notices_.find(id);
+    if (role == canUndoTrashRole)
+        return found != notices_.end() && found->second == TrashNotice::moved;
+    return found == notices_.end() ? QString() : trashNoticeText(found->second);
 }
 
 QVariant CaptureListModel::markData(const UUID& id, int role) const {
@@ -73,22 +108,41 @@ QHash<int, QByteArray> CaptureListModel::roleNames() const {
             {hasThumbnailRole, "hasThumbnail"}, {isRecordingRole, "isRecording"},
             {durationTextRole, "durationText"}, {isSelectedRole, "isSelected"},
             {isPinnedRole, "isPinned"},         {isCopiedRole, "isCopied"},
-            {isMissingRole, "isMissing"},       {isLeavingRole, "isLeaving"}};
+            {isMissingRole, "isMissing"},       {isLeavingRole, "isLeaving"},
+            {isRenamingRole, "isRenaming"},     {changeableNameRole, "changeableName"},
+            {extensionRole, "extension"},       {refusalRole, "refusal"},
+            {trashNoticeRole, "trashNotice"},   {canUndoTrashRole, "canUndoTrash"}};
 }
 
-void CaptureListModel::setCaptures(const std::vector<CapturePointer>& captures) {
-    captures_ = captures;
+void CaptureListModel::setTiles(const std::vector<CapturePointer>& captures,
+                                const std::map<UUID, TrashNotice>& notices) {
+    notices_ = notices;
+    tiles_ = withTrashed(captures);
     markLeaving();
     updateRows(layOut());
     // The size of a tile depends on the number of tiles, its place on the tiles before it.
-    announce({isLeavingRole, positionRole, tileXRole, tileWidthRole, thumbnailHeightRole});
+    announce({fileNameRole, changeableNameRole, extensionRole, isLeavingRole, positionRole,
+              tileXRole, tileWidthRole, thumbnailHeightRole, trashNoticeRole, canUndoTrashRole});
+}
+
+std::vector<CapturePointer> CaptureListModel::withTrashed(
+    std::vector<CapturePointer> captures) const {
+    auto place = captures.begin();
+    for (const auto& tile : tiles_) {
+        const auto kept = std::ranges::find(captures, tile->id(), idOf);
+        if (kept != captures.end())
+            place = std::next(kept);
+        else if (notices_.contains(tile->id()))
+            place = std::next(captures.insert(place, tile));
+    }
+    return captures;
 }
 
 std::vector<CaptureListModel::Row> CaptureListModel::layOut() const {
-    const int count = static_cast<int>(captures_.size());
+    const int count = static_cast<int>(tiles_.size());
     std::vector<Row> rows;
     double x = 0;
-    for (const auto& capture : captures_) {
+    for (const auto& capture : tiles_) {
         const double width = tileWidth(*capture, count);
         rows.push_back({capture, x, width, CardLayout::tileSize(count, *capture).height});
         x += width + CardLayout::spacing;
@@ -143,6 +197,11 @@ void CaptureListModel::setCopied(const std::optional<UUID>& copied) {
     announce({isCopiedRole});
 }
 
+void CaptureListModel::setRenaming(const std::optional<PanelState::Renaming>& renaming) {
+    renaming_ = renaming;
+    announce({isRenamingRole, refusalRole});
+}
+
 void CaptureListModel::setMissing(const std::optional<UUID>& missing) {
     missing_ = missing;
     announce({isMissingRole});
@@ -158,7 +217,7 @@ void CaptureListModel::forget(const QString& captureId) {
 
 void CaptureListModel::clear() {
     beginResetModel();
-    captures_.clear();
+    tiles_.clear();
     rows_.clear();
     endResetModel();
 }
@@ -170,9 +229,8 @@ void CaptureListModel::remove(int row) {
 }
 
 int CaptureListModel::positionOf(const UUID& id) const {
-    const auto found =
-        std::ranges::find(captures_, id, [](const auto& capture) { return capture->id(); });
-    return found == captures_.end() ? -1 : static_cast<int>(found - captures_.begin());
+    const auto found = std::ranges::find(tiles_, id, idOf);
+    return found == tiles_.end() ? -1 : static_cast<int>(found - tiles_.begin());
 }
 
 void CaptureListModel::announce(const QList<int>& roles) {
@@ -181,12 +239,13 @@ void CaptureListModel::announce(const QList<int>& roles) {
 
 int CaptureListModel::selectedCount() const {
     return static_cast<int>(std::ranges::count_if(
-        captures_, [this](const auto& capture) { return selected_.contains(capture->id()); }));
+        tiles_, [this](const auto& capture) { return selected_.contains(capture->id()); }));
 }
 
 CapturePointer CaptureListModel::stayingCapture(const QString& captureId) const {
     const auto found = capture(captureId);
-    return found && positionOf(found->id()) >= 0 ? found : nullptr;
+    const bool stays = found && positionOf(found->id()) >= 0 && !notices_.contains(found->id());
+    return stays ? found : nullptr;
 }
 
 CapturePointer CaptureListModel::capture(const QString& captureId) const {

@@ -3,18 +3,21 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <QAbstractListModel>
+#include <map>
 #include <optional>
 #include <set>
 #include <vector>
 
 #include "capture/Capture.h"
+#include "panel/PanelState.h"
 #include "support/UUID.h"
 
 namespace vantle {
 
-/// The captures on the card as rows. Changes are announced as inserts, removals and moves of single
-/// rows, matched by the captures' identifiers, so that views can animate them. A removed capture
-/// keeps its row, with its place and size, until the view has shown it leaving.
+/// The tiles on the card as rows: its captures, and the notices of those that were trashed. Changes
+/// are announced as inserts, removals and moves of single rows, matched by the captures'
+/// identifiers, so that views can animate them. A removed capture keeps its row, with its place and
+/// size, until the view has shown it leaving.
 class CaptureListModel : public QAbstractListModel {
     Q_OBJECT
     QML_NAMED_ELEMENT(CaptureList)
@@ -24,7 +27,7 @@ public:
     enum Role {
         captureIdRole = Qt::UserRole,
         fileNameRole,
-        positionRole,  ///< Among the captures that stay, from 0; -1 for one that leaves.
+        positionRole,  ///< Among the tiles that stay, from 0; -1 for one that leaves.
         tileXRole,     ///< Distance from the left edge of the row's first tile.
         tileWidthRole,
         thumbnailHeightRole,
@@ -34,7 +37,14 @@ public:
         isSelectedRole,
         isPinnedRole,
         isCopiedRole,
-        isMissingRole,  ///< Its file was gone when it was needed.
+        isMissingRole,       ///< Its file was gone when it was needed.
+        isRenamingRole,      ///< The user is typing its name.
+        changeableNameRole,  ///< The part of its file's name that the user can change.
+        extensionRole,       ///< The rest of the name, with the full stop.
+        refusalRole,         ///< Why the latest name was refused; empty if none was.
+        trashNoticeRole,     ///< The text of the notice that replaces the tile; empty if there is
+                             ///< none.
+        canUndoTrashRole,    ///< The file is in the Trash and can come back.
         isLeavingRole,
     };
 
@@ -44,10 +54,13 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    void setCaptures(const std::vector<CapturePointer>& captures);
+    /// Shows these captures. A capture that is gone from them and has a notice keeps its tile.
+    void setTiles(const std::vector<CapturePointer>& captures,
+                  const std::map<UUID, TrashNotice>& notices = {});
     void setSelected(const std::set<UUID>& selected);
     void setPinned(const std::set<UUID>& pinned);
     void setCopied(const std::optional<UUID>& copied);
+    void setRenaming(const std::optional<PanelState::Renaming>& renaming);
     void setMissing(const std::optional<UUID>& missing);
 
     /// Removes the row of a capture that has been shown leaving. Does nothing if the capture is
@@ -57,12 +70,12 @@ public:
 
     /// Returns null if no row has that identifier.
     CapturePointer capture(const QString& captureId) const;
-    /// Like capture(), but also returns null for a capture that is leaving.
+    /// Like capture(), but also returns null for a capture that is leaving or was trashed.
     CapturePointer stayingCapture(const QString& captureId) const;
     /// Returns how many of the captures that stay are selected.
     int selectedCount() const;
-    /// Returns the captures that stay.
-    const std::vector<CapturePointer>& captures() const { return captures_; }
+    /// Returns the captures of all tiles that stay, trashed ones included.
+    const std::vector<CapturePointer>& tiles() const { return tiles_; }
 
 private:
     struct Row {
@@ -73,6 +86,10 @@ private:
         bool isLeaving = false;
     };
 
+    /// Adds the captures of the notices at the places of their tiles.
+    std::vector<CapturePointer> withTrashed(std::vector<CapturePointer> captures) const;
+    QVariant nameData(const Capture& capture, int role) const;
+    QVariant noticeData(const UUID& id, int role) const;
     std::vector<Row> layOut() const;
     void markLeaving();
     void updateRows(std::vector<Row> staying);
@@ -82,12 +99,14 @@ private:
     void remove(int row);
     void announce(const QList<int>& roles);
 
-    std::vector<CapturePointer> captures_;
+    std::vector<CapturePointer> tiles_;
+    std::map<UUID, TrashNotice> notices_;
     std::vector<Row> rows_;
     std::set<UUID> selected_;
     std::set<UUID> pinned_;
     std::optional<UUID> copied_;
     std::optional<UUID> missing_;
+    std::optional<PanelState::Renaming> renaming_;
 };
 
 }  // namespace vantle

@@ -68,6 +68,18 @@ QString durationText(double seconds) {
     return QStringLiteral("%1:%2").arg(whole / 60).arg(whole % 60, 2, 10, QLatin1Char('0'));
 }
 
+QString trashNoticeText(TrashNotice notice) {
+    switch (notice) {
+        case TrashNotice::moved:
+            return QCoreApplication::translate("TrashNotice", "Moved to Trash");
+        case TrashNotice::notMoved:
+            return QCoreApplication::translate("TrashNotice", "Could not be moved to the Trash");
+        case TrashNotice::notPutBack:
+            return QCoreApplication::translate("TrashNotice", "Could not be put back");
+    }
+    return {};
+}
+
 QString pointText(const QPointF& point) {
     return QStringLiteral("{%1, %2}").arg(point.x()).arg(point.y());
 }

@@ -5,6 +5,7 @@
 #include <QString>
 #include <string>
 
+#include "panel/PanelState.h"
 #include "support/Date.h"
 #include "support/Geometry.h"
 
@@ -23,6 +24,9 @@ QString subtitle(Size pixels, Date date, Date now);
 /// Returns minutes and seconds, rounded to the nearest second: "1:05", "62:05". Returns an empty
 /// string if the length is not known (not finite).
 QString durationText(double seconds);
+
+/// Returns what a tile says after its file was moved to the Trash.
+QString trashNoticeText(TrashNotice notice);
 
 /// Returns "{x, y}".
 QString pointText(const QPointF& point);

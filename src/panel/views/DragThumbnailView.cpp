@@ -45,8 +45,9 @@ void DragThumbnailView::mousePressEvent(QMouseEvent* event) {
     isSecondClick_ = false;
 }
 
-void DragThumbnailView::mouseDoubleClickEvent(QMouseEvent*) {
+void DragThumbnailView::mouseDoubleClickEvent(QMouseEvent* event) {
     isSecondClick_ = true;
+    emit doubleClick(event->position());
 }
 
 void DragThumbnailView::mouseMoveEvent(QMouseEvent* event) {
@@ -57,23 +58,23 @@ void DragThumbnailView::mouseMoveEvent(QMouseEvent* event) {
 void DragThumbnailView::startDrag() {
     dragging_ = true;
     Debug::log([] { return "thumb drag begins"; });
-    panel_->dragBegan();
-    const std::vector<DragItem> items = panel_->dragItems(captureId_);
+    source_->dragBegan();
+    const std::vector<DragItem> items = source_->dragItems(captureId_);
     if (items.empty()) {
-        panel_->dragEnded(false, {});
+        source_->dragEnded(false, {});
         return;
     }
     std::vector<Url> urls;
     urls.reserve(items.size());
     for (const auto& item : items) urls.push_back(item.url);
-    panel_->draggingSessions().begin(
+    source_->draggingSessions().begin(
         *window(), draggingItems(items), *mouseDownPoint_,
         [view = QPointer(this), start = mapToScene({})] {
             return view ? view->mapToScene({}) - start : QPointF();
         },
-        [view = QPointer(this), panel = QPointer(panel_), urls](DragOperation operation) {
+        [view = QPointer(this), source = QPointer(source_), urls](DragOperation operation) {
             if (view) view->dragEnded(operation);
-            if (panel) panel->dragEnded(operation == DragOperation::copy, urls);
+            if (source) source->dragEnded(operation == DragOperation::copy, urls);
         });
 }
 

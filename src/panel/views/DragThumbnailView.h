@@ -7,19 +7,18 @@
 #include <optional>
 #include <vector>
 
-#include "panel/views/PanelModel.h"
-#include "panel/views/dragging/DraggingSession.h"
+#include "panel/views/DragSource.h"
 
 namespace vantle {
 
 /// Receives the mouse on a capture's thumbnail. It distinguishes a click, a click with a modifier
-/// key and a drag, and starts the drag. The panel learns how a drag ended even if the tile has
+/// key and a drag, and starts the drag. The source learns how a drag ended even if the tile has
 /// gone.
 class DragThumbnailView : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
 
-    Q_PROPERTY(vantle::PanelModel* panel MEMBER panel_ NOTIFY changed)
+    Q_PROPERTY(vantle::DragSource* source MEMBER source_ NOTIFY changed)
     Q_PROPERTY(QString captureId MEMBER captureId_ NOTIFY changed)
     Q_PROPERTY(QString fileName MEMBER fileName_ NOTIFY changed)
 
@@ -36,6 +35,8 @@ signals:
     void changed();
     /// Emitted for a click, and once for a double-click.
     void click();
+    /// Emitted for the second click of a double-click, with its place.
+    void doubleClick(QPointF place);
     /// Emitted for a click with a key that adds to a selection (Control or Shift).
     void toggleSelect();
 
@@ -52,7 +53,7 @@ private:
     QImage preview(const DragItem& item) const;
     void dragEnded(DragOperation operation);
 
-    PanelModel* panel_ = nullptr;
+    DragSource* source_ = nullptr;
     QString captureId_;
     QString fileName_;
     std::optional<QPointF> mouseDownPoint_;  ///< The press in the window, if there is one.

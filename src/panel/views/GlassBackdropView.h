@@ -14,6 +14,9 @@ class GlassBackdropView : public vantle::PlateView {  // the linter needs the fu
 
     /// True if presses within the plate's frame count; false while the card is leaving.
     Q_PROPERTY(bool isSolid MEMBER isSolid_ NOTIFY isSolidChanged)
+    /// True while the plate is beside its place only for a moment; the window's input region then
+    /// stays where it is.
+    Q_PROPERTY(bool isHeld MEMBER isHeld_ NOTIFY isHeldChanged)
     /// True if the compositor blurs what is behind the plate. The plate's window sets it.
     Q_PROPERTY(bool isBlurred READ isBlurred NOTIFY isBlurredChanged)
 
@@ -23,6 +26,7 @@ public:
     explicit GlassBackdropView(QQuickItem* parent = nullptr);
 
     bool isSolid() const { return isSolid_; }
+    bool isHeld() const { return isHeld_; }
     bool isBlurred() const { return isBlurred_; }
     void setBlurred(bool isBlurred);
 
@@ -34,10 +38,12 @@ public:
 
 signals:
     void isSolidChanged();
+    void isHeldChanged();
     void isBlurredChanged();
 
 private:
     bool isSolid_ = true;
+    bool isHeld_ = false;
     bool isBlurred_ = false;
 };
 

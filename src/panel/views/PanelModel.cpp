@@ -12,6 +12,14 @@ namespace {
 /// The spring of changes that have none of their own.
 constexpr Animation arrivalSpring{.response = 0.55, .dampingFraction = 0.8};
 
+Rect toRect(const QRectF& rect) {
+    return {{rect.x(), rect.y()}, {rect.width(), rect.height()}};
+}
+
+MenuRequest menuRequest(const QRectF& anchor, bool byKeyboard) {
+    return {toRect(anchor), byKeyboard ? MenuRequest::By::keyboard : MenuRequest::By::pointer};
+}
+
 }  // namespace
 
 PanelModel::PanelModel(Context context)
@@ -28,14 +36,18 @@ PanelModel::~PanelModel() {
 
 void PanelModel::observeCaptures() {
     PanelState& state = context_.state;
-    subscriptions_.push_back(
-        state.captures.observe([this](const auto& captures) { setCaptures(captures); }));
+    subscriptions_.push_back(state.captures.observe(
+        [this, &state](const auto& captures) { setTiles(captures, state.trashNotices.value()); }));
+    subscriptions_.push_back(state.trashNotices.observeChanges(
+        [this, &state](const auto& notices) { setTiles(state.captures.value(), notices); }));
     subscriptions_.push_back(
         state.pinned.observe([this](const auto& pinned) { captures_.setPinned(pinned); }));
     subscriptions_.push_back(
         state.copiedID.observe([this](const auto& copied) { captures_.setCopied(copied); }));
     subscriptions_.push_back(
         state.missingID.observe([this](const auto& missing) { captures_.setMissing(missing); }));
+    subscriptions_.push_back(
+        state.renaming.observe([this](const auto& renaming) { captures_.setRenaming(renaming); }));
     subscriptions_.push_back(state.selected.observe([this](const auto& selected) {
         captures_.setSelected(selected);
         emit selectedCountChanged();
@@ -74,12 +86,13 @@ void PanelModel::observePresence() {
     }));
 }
 
-void PanelModel::setCaptures(const std::vector<CapturePointer>& captures) {
-    isEmpty_ = captures.empty();
+void PanelModel::setTiles(const std::vector<CapturePointer>& captures,
+                          const std::map<UUID, TrashNotice>& notices) {
+    isEmpty_ = captures.empty() && notices.empty();
     if (!isEmpty_) {
         listAnimation_ = context_.state.animation().value_or(arrivalSpring);
         emit listAnimationChanged();
-        captures_.setCaptures(captures);
+        captures_.setTiles(captures, notices);
         emit countChanged();
         emit selectedCountChanged();
         emit subtitleChanged();
@@ -88,11 +101,11 @@ void PanelModel::setCaptures(const std::vector<CapturePointer>& captures) {
 }
 
 double PanelModel::contentWidth() const {
-    return CardLayout::contentWidth(captures_.captures());
+    return CardLayout::contentWidth(captures_.tiles());
 }
 
 double PanelModel::thumbnailHeight() const {
-    const auto& shown = captures_.captures();
+    const auto& shown = captures_.tiles();
     if (shown.empty()) return 0;
     return CardLayout::tileSize(count(), *shown.front()).height;
 }
@@ -102,7 +115,7 @@ bool PanelModel::overflows() const {
 }
 
 const Capture* PanelModel::onlyCapture() const {
-    return count() == 1 ? captures_.captures().front().get() : nullptr;
+    return count() == 1 ? captures_.tiles().front().get() : nullptr;
 }
 
 QString PanelModel::subtitle() const {
@@ -188,8 +201,8 @@ void PanelModel::reveal(const QString& captureId) {
 }
 
 void PanelModel::share(const QString& captureId, const QRectF& anchor) {
-    const Rect frame{{anchor.x(), anchor.y()}, {anchor.width(), anchor.height()}};
-    if (const auto capture = stayingCapture(captureId)) context_.actions.share(capture, frame);
+    if (const auto capture = stayingCapture(captureId))
+        context_.actions.share(capture, toRect(anchor));
 }
 
 void PanelModel::trash(const QString& captureId) {
@@ -220,8 +233,42 @@ void PanelModel::removeSelected() {
     context_.actions.removeSelected();
 }
 
-void PanelModel::log(const QString& line) const {
-    Debug::log([&line] { return line.toStdString(); });
+void PanelModel::selectAll() {
+    context_.actions.selectAll();
+}
+
+void PanelModel::showMenu(const QString& captureId, const QRectF& anchor, bool byKeyboard) {
+    if (const auto capture = stayingCapture(captureId))
+        context_.actions.captureMenu(capture, menuRequest(anchor, byKeyboard));
+}
+
+void PanelModel::showBackgroundMenu(const QRectF& anchor, bool byKeyboard) {
+    if (isPresented()) context_.actions.backgroundMenu(menuRequest(anchor, byKeyboard));
+}
+
+void PanelModel::beginRenaming(const QString& captureId) {
+    perform(context_.actions.beginRenaming, captureId);
+}
+
+void PanelModel::finishRenaming(const QString& name) {
+    context_.actions.finishRenaming(name.toStdString());
+}
+
+void PanelModel::cancelRenaming() {
+    context_.actions.cancelRenaming();
+}
+
+void PanelModel::undo() {
+    context_.actions.undo();
+}
+
+void PanelModel::undoTrash(const QString& captureId) {
+    if (const auto capture = captures_.capture(captureId))
+        context_.actions.undoTrash(capture->id());
+}
+
+void PanelModel::preview(const QString& captureId) {
+    perform(context_.actions.preview, captureId);
 }
 
 }  // namespace vantle

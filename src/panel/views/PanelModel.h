@@ -6,12 +6,14 @@
 #include <QObject>
 #include <QRectF>
 #include <QString>
+#include <utility>
 #include <vector>
 
 #include "panel/CardActions.h"
 #include "panel/PanelState.h"
+#include "panel/ScreenSide.h"
 #include "panel/views/CaptureListModel.h"
-#include "panel/views/dragging/DraggingSession.h"
+#include "panel/views/DragSource.h"
 #include "platform/Scheduler.h"
 #include "platform/WallClock.h"
 #include "settings/Settings.h"
@@ -21,14 +23,15 @@ namespace vantle {
 
 /// The panel's state as properties for the card, and the card's requests as functions. It keeps the
 /// values that it receives, because a change is announced before it is stored.
-class PanelModel : public QObject, private QAccessible::ActivationObserver {
+class PanelModel : public vantle::DragSource,  // the linter needs the full name
+                   private QAccessible::ActivationObserver {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("created by the panel")
 
     Q_PROPERTY(vantle::CaptureListModel* captures READ captures CONSTANT)
-    /// The number of captures on the card. A card that leaves because its last capture was removed
-    /// still shows that capture.
+    /// The number of tiles on the card, with the notices of trashed captures. A card that leaves
+    /// because its last tile was removed still shows that tile.
     Q_PROPERTY(int count READ count NOTIFY countChanged)
     Q_PROPERTY(double contentWidth READ contentWidth NOTIFY countChanged)
     /// The height of the thumbnails in a row, or of the only thumbnail.
@@ -67,7 +70,7 @@ public:
         PanelState& state;
         Settings& settings;
         const WallClock& clock;
-        const Scheduler& scheduler;
+        Scheduler& scheduler;
         DraggingSessions& dragging;
         CardActions actions;
         Rendering rendering = Rendering::glass;
@@ -78,7 +81,7 @@ public:
 
     CaptureListModel* captures() { return &captures_; }
     const CaptureListModel* captures() const { return &captures_; }
-    int count() const { return static_cast<int>(captures_.captures().size()); }
+    int count() const { return static_cast<int>(captures_.tiles().size()); }
     double contentWidth() const;
     double thumbnailHeight() const;
     bool overflows() const;
@@ -105,11 +108,15 @@ public:
 
     /// Returns the time on the clock that only moves forward.
     Instant now() const { return context_.scheduler.now(); }
-    DraggingSessions& draggingSessions() { return context_.dragging; }
-    /// Returns the items of a drag from that capture: at least its own file, while its tile exists.
-    std::vector<DragItem> dragItems(const QString& captureId) const;
-    void dragBegan();
-    void dragEnded(bool completed, const std::vector<Url>& urls);
+    /// Calls `work` after that time, unless the timer is cancelled.
+    TimerPointer after(Seconds delay, Scheduler::Work work) const {
+        return context_.scheduler.after(delay, std::move(work));
+    }
+    ScreenSide nearEdge() const { return atRight() ? ScreenSide::right : ScreenSide::left; }
+    DraggingSessions& draggingSessions() override { return context_.dragging; }
+    std::vector<DragItem> dragItems(const QString& captureId) const override;
+    void dragBegan() override;
+    void dragEnded(bool completed, const std::vector<Url>& urls) override;
 
     Q_INVOKABLE void setHovering(bool hovering);
     /// Removes the row of a capture that has been shown leaving, after the tile's current work.
@@ -128,8 +135,18 @@ public:
     Q_INVOKABLE void copySelected();
     Q_INVOKABLE void trashSelected();
     Q_INVOKABLE void removeSelected();
-    /// Writes one line to the debug log.
-    Q_INVOKABLE void log(const QString& line) const;
+    Q_INVOKABLE void selectAll();
+    /// `anchor` is what the menu points to, in the panel's content.
+    Q_INVOKABLE void showMenu(const QString& captureId, const QRectF& anchor, bool byKeyboard);
+    Q_INVOKABLE void showBackgroundMenu(const QRectF& anchor, bool byKeyboard);
+    Q_INVOKABLE void beginRenaming(const QString& captureId);
+    /// Gives the capture that is being renamed this name, without its extension.
+    Q_INVOKABLE void finishRenaming(const QString& name);
+    Q_INVOKABLE void cancelRenaming();
+    Q_INVOKABLE void undo();
+    /// Brings the file of a capture with a notice back from the Trash.
+    Q_INVOKABLE void undoTrash(const QString& captureId);
+    Q_INVOKABLE void preview(const QString& captureId);
 
 signals:
     void countChanged();
@@ -152,7 +169,8 @@ private:
     void observeCaptures();
     void observeMarks();
     void observePresence();
-    void setCaptures(const std::vector<CapturePointer>& captures);
+    void setTiles(const std::vector<CapturePointer>& captures,
+                  const std::map<UUID, TrashNotice>& notices);
     void setDragging(bool isDragging);
     /// Returns null if the capture has left or is leaving, because nothing can be done with it
     /// then.

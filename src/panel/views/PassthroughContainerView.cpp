@@ -88,6 +88,14 @@ QQuickItem* PassthroughContainerView::itemAt(const QPointF& point) const {
     return control ? control : background;
 }
 
+QString PassthroughContainerView::captureOf(const QQuickItem* item) {
+    for (; item; item = item->parentItem()) {
+        const QVariant captureId = item->property("captureId");
+        if (captureId.isValid()) return captureId.toString();
+    }
+    return {};
+}
+
 QQuickItem* PassthroughContainerView::hitTest(const QPointF& point) const {
     QQuickItem* found = itemAt(point);
     const GlassBackdropView* glass = visibleGlass();
@@ -109,11 +117,15 @@ bool PassthroughContainerView::eventFilter(QObject* object, QEvent* event) {
 void PassthroughContainerView::follow(Repeat repeat) {
     GlassBackdropView* glass = visibleGlass();
     const QRect frame = glass ? frameOf(*glass).toAlignedRect() : QRect();
-    if (!window_.isExposed() || (repeat == Repeat::whenChanged && frame == glassFrame_)) return;
+    const bool isHeld = glass && glass->isHeld();
+    const bool isSame = frame == glassFrame_ && isHeld == glassIsHeld_;
+    if (!window_.isExposed() || (repeat == Repeat::whenChanged && isSame)) return;
     glassFrame_ = frame;
+    glassIsHeld_ = isHeld;
     // The region of a leaving card stays, so that the second click of a double-click reaches no
-    // other window.
-    if (!glass || glass->isSolid()) inputRegion_->set(frame);
+    // other window. That of a held card stays because the fingers that hold it scroll what is under
+    // the pointer, and the pointer must not leave the window on their way.
+    if (!glass || (glass->isSolid() && !isHeld)) inputRegion_->set(frame);
     const QRegion shape = glass ? shapeOf(*glass) : QRegion();
     updateMask(glass, shape);
     if (repeat == Repeat::always) blurIsOffered_ = DisplayServer::current().offersBlur();

@@ -30,6 +30,9 @@ public:
     QQuickItem* hitTest(const QPointF& point) const;
     /// Does the same without logging.
     QQuickItem* itemAt(const QPointF& point) const;
+    /// Returns the identifier of the capture to which the item belongs; empty if it belongs to
+    /// none.
+    static QString captureOf(const QQuickItem* item);
 
 protected:
     /// Drops the presses that should fall through but are delivered by the window system.
@@ -43,6 +46,7 @@ private:
     QQuickWindow& window_;
     const std::unique_ptr<WindowInputRegion> inputRegion_;
     QRect glassFrame_;
+    bool glassIsHeld_ = false;
     bool blurIsOffered_ = false;
 };
 

@@ -93,10 +93,8 @@ bool PressFilter::isIntended(const QPointerEvent& event) {
 
 std::string PressFilter::targetAt(const QPointF& point) const {
     const QQuickItem* hit = container_.itemAt(point);
-    for (const QQuickItem* item = hit; item; item = item->parentItem()) {
-        const QVariant captureId = item->property("captureId");
-        if (captureId.isValid()) return captureId.toString().toStdString();
-    }
+    const QString capture = PassthroughContainerView::captureOf(hit);
+    if (!capture.isEmpty()) return capture.toStdString();
     return hit ? std::to_string(reinterpret_cast<quintptr>(hit)) : std::string();
 }
 

@@ -46,6 +46,13 @@ void SpringValue::jumpTo(double value) {
     emit targetChanged();
 }
 
+void SpringValue::launch(double target, double velocity) {
+    target_ = target;
+    state_.velocity = velocity;
+    follow();
+    emit targetChanged();
+}
+
 void SpringValue::follow() {
     if (!enabled_) {
         finish();

@@ -42,6 +42,8 @@ public:
 
     /// Stops at that value, which becomes the target.
     Q_INVOKABLE void jumpTo(double value);
+    /// Moves to that target, at first with that speed in units a second.
+    Q_INVOKABLE void launch(double target, double velocity);
 
     void classBegin() override {}
     void componentComplete() override;

@@ -4,8 +4,11 @@
 #include <QObject>
 #include <QVariantMap>
 #include <memory>
+#include <optional>
 
 #include "platform/FolderChooser.h"
+#include "platform/freedesktop/PortalRequest.h"
+#include "support/Result.h"
 
 namespace vantle {
 
@@ -13,8 +16,6 @@ namespace vantle {
 /// dialog. If there is no portal or it cannot start in a given folder (before version 4), uses
 /// `next` instead.
 class PortalFolderChooser final : public QObject, public FolderChooser {
-    Q_OBJECT
-
 public:
     explicit PortalFolderChooser(std::unique_ptr<FolderChooser> next,
                                  const QDBusConnection& bus = QDBusConnection::sessionBus());
@@ -22,21 +23,15 @@ public:
 
     void choose(const FolderRequest& request, Chosen chosen) override;
 
-private slots:
-    void responded(uint response, const QVariantMap& results);
-
 private:
-    void watchPortal();
     void open(const FolderRequest& request);
+    void responded(const Result<QVariantMap>& result);
     void end(const std::optional<Url>& folder);
-    void closeRequest();
 
     std::unique_ptr<FolderChooser> next_;
-    bool watchesPortal_ = false;
     QDBusConnection bus_;
-    Chosen chosen_;   ///< Set while a dialog is open.
-    QString handle_;  ///< The open dialog's path on the bus; empty if none is open.
-    unsigned count_ = 0;
+    Chosen chosen_;                           ///< Set while a dialog is open.
+    std::unique_ptr<PortalRequest> request_;  ///< Set while the portal's dialog is open.
 };
 
 }  // namespace vantle

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <utility>
 
+#include "decoder/protocol/SealedMemory.h"
 #include "filetypes/FileTypes.h"
 
 namespace vantle {
@@ -49,16 +50,20 @@ bool isSensible(Size size) {
     return isSensible(size.width) && isSensible(size.height);
 }
 
+/// Returns true if a reply about an image or a page makes sense.
+bool isUsable(const Reply& reply) {
+    constexpr int maximumPages = 1'000'000;
+    return reply.pixelSize.width >= 0 && reply.pixelSize.height >= 0 && isSensible(reply.size) &&
+           reply.pageCount >= 1 && reply.pageCount <= maximumPages;
+}
+
 /// Copies the picture from the memory that came with a reply. Returns null unless the memory is
 /// complete and sealed, so that the decoder can no longer change it.
 ImagePointer picture(const DecoderProcess::Answer& answer, Size points) {
     const auto [width, height] = answer.reply.picture;
     const auto bytes = std::int64_t{4} * width * height;
-    constexpr int seals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
-    struct stat status {};
     if (width < 1 || height < 1 || bytes > maximumPictureBytes || !answer.memory ||
-        (fcntl(answer.memory.get(), F_GET_SEALS) & seals) != seals ||
-        fstat(answer.memory.get(), &status) != 0 || status.st_size != bytes)
+        !isSealed(answer.memory.get(), bytes))
         return nullptr;
     auto image = std::make_shared<Image>();
     image->pixelsWide = width;
@@ -95,25 +100,39 @@ public:
         : file_(std::move(file)),
           pixels_(reply.pixelSize),
           points_(reply.size),
+          pageCount_(reply.pageCount),
           pixelsPerPoint_(pixelsPerPoint) {}
 
     std::optional<Size> pixelSize() const override {
         return Size{static_cast<double>(pixels_.width), static_cast<double>(pixels_.height)};
     }
     Size pointSize() const override { return points_; }
+    int pageCount() const override { return pageCount_; }
+
+    bool selectPage(int page) override {
+        const auto answer = file_->ask({.operation = Operation::page, .page = page});
+        if (!answer || !isUsable(answer->reply)) return false;
+        page_ = page;
+        pixels_ = answer->reply.pixelSize;
+        points_ = answer->reply.size;
+        return true;
+    }
 
     ImagePointer draw(Size size) override {
         const double scale = pixelsPerPoint_();
         const PixelSize target{pixelsFor(size.width, scale, pixels_.width),
                                pixelsFor(size.height, scale, pixels_.height)};
-        const auto answer = file_->ask({.operation = Operation::draw, .target = target});
+        const auto answer =
+            file_->ask({.operation = Operation::draw, .page = page_, .target = target});
         return answer && answer->reply.picture == target ? picture(*answer, size) : nullptr;
     }
 
 private:
     std::unique_ptr<DecodedFile> file_;
-    const PixelSize pixels_;
-    const Size points_;
+    PixelSize pixels_;
+    Size points_;
+    const int pageCount_;
+    int page_ = 0;
     const std::function<double()>& pixelsPerPoint_;
 };
 
@@ -121,9 +140,7 @@ private:
 std::unique_ptr<DecodedImage> decodedImage(std::unique_ptr<DecodedFile> file,
                                            const std::function<double()>& pixelsPerPoint) {
     const auto reply = file->open();
-    const bool isUsable = reply && reply->pixelSize.width >= 0 && reply->pixelSize.height >= 0 &&
-                          isSensible(reply->size);
-    if (!isUsable) return nullptr;
+    if (!reply || !isUsable(*reply)) return nullptr;
     return std::make_unique<DecodedImage>(std::move(file), *reply, pixelsPerPoint);
 }
 
@@ -137,6 +154,8 @@ public:
         return opened() ? image_->pixelSize() : std::nullopt;
     }
     Size pointSize() const override { return opened() ? image_->pointSize() : Size{}; }
+    int pageCount() const override { return opened() ? image_->pageCount() : 1; }
+    bool selectPage(int page) override { return opened() && image_->selectPage(page); }
     ImagePointer draw(Size size) override { return opened() ? image_->draw(size) : nullptr; }
 
 private:

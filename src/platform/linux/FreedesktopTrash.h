@@ -18,8 +18,11 @@ public:
     FreedesktopTrash(Scheduler& main, const Environment& environment);
 
     void recycle(const std::vector<Url>& urls, Completion completion) override;
+    void putBack(const std::vector<Moved>& files, Completion completion) override;
 
 private:
+    PollQueue& queue();
+
     Scheduler& main_;
     const Environment& environment_;
     std::optional<PollQueue> queue_;

@@ -8,11 +8,13 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <system_error>
 #include <utility>
 
 #include "platform/linux/DirectoryStream.h"
+#include "platform/linux/FileMove.h"
 #include "platform/linux/UserDirectories.h"
 #include "platform/linux/WholeFile.h"
 #include "platform/linux/WriterCheck.h"
@@ -26,6 +28,14 @@ Date date(const statx_timestamp& stamp) {
     constexpr std::int64_t furthest = 9'000'000'000;
     const std::chrono::seconds seconds(std::clamp<std::int64_t>(stamp.tv_sec, -furthest, furthest));
     return Date(seconds + std::chrono::nanoseconds(stamp.tv_nsec));
+}
+
+/// Returns true if both names are one entry of a folder that does not distinguish cases.
+bool isSameEntry(const Url& a, const Url& b) {
+    struct stat first {};
+    struct stat second {};
+    return lstat(a.path().c_str(), &first) == 0 && lstat(b.path().c_str(), &second) == 0 &&
+           first.st_ino == second.st_ino && first.st_dev == second.st_dev && first.st_nlink == 1;
 }
 
 }  // namespace
@@ -91,6 +101,14 @@ Outcome LinuxFileManager::createDirectory(const Url& folder) {
 
 Outcome LinuxFileManager::write(const std::string& contents, const Url& file) {
     return replaceWholeFile(file, contents, Durability::untilRestart);
+}
+
+Outcome LinuxFileManager::rename(const Url& from, const Url& to) {
+    int error = moveByRename(from.path(), AT_FDCWD, to.path());
+    if (error == EEXIST && isSameEntry(from, to))
+        error = ::rename(from.path().c_str(), to.path().c_str()) == 0 ? 0 : errno;
+    if (error == 0) return {};
+    return systemFailure(error, error == ENOENT ? from.path() : to.path());
 }
 
 Result<Url> LinuxFileManager::temporaryDirectory() {

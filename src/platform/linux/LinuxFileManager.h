@@ -26,6 +26,7 @@ public:
     /// and the captures in it.
     Outcome createDirectory(const Url& folder) override;
     Outcome write(const std::string& contents, const Url& file) override;
+    Outcome rename(const Url& from, const Url& to) override;
     /// Returns a folder that only this user can enter, in $TMPDIR or /tmp, to which other users may
     /// be able to write as well.
     Result<Url> temporaryDirectory() override;

@@ -15,6 +15,8 @@ namespace vantle {
 namespace {
 
 constexpr mode_t ownerOnly = 0700;
+constexpr auto homeName = "Trash";
+constexpr auto sharedName = ".Trash";
 // Links are not followed: other users can write to the roots of some volumes and place links there.
 constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
@@ -31,22 +33,23 @@ Result<FileDescriptor> openOwnFolder(int parent, const std::string& name) {
     return folder;
 }
 
-Result<TrashFolder> openInside(Result<FileDescriptor> trash, std::string top) {
+Result<TrashFolder> openInside(Result<FileDescriptor> trash, Url path, std::string top) {
     if (!trash) return trash.failure();
-    auto files = openOwnFolder(trash.value().get(), "files");
+    auto files = openOwnFolder(trash.value().get(), TrashFolder::filesName);
     if (!files) return files.failure();
-    auto info = openOwnFolder(trash.value().get(), "info");
+    auto info = openOwnFolder(trash.value().get(), TrashFolder::infoName);
     if (!info) return info.failure();
-    return TrashFolder{std::move(files.value()), std::move(info.value()), std::move(top)};
+    return TrashFolder{std::move(path), std::move(files.value()), std::move(info.value()),
+                       std::move(top)};
 }
 
 /// Opens this user's folder in the Trash that the administrator has made for all users. That must
 /// not be a link and must have the sticky bit, so that users cannot touch each other's files.
 Result<FileDescriptor> openShared(int top, const std::string& user) {
-    const FileDescriptor shared(openat(top, ".Trash", folderFlags));
+    const FileDescriptor shared(openat(top, sharedName, folderFlags));
     struct stat status {};
-    if (!shared || fstat(shared.get(), &status) != 0) return systemFailure(errno, ".Trash");
-    if ((status.st_mode & S_ISVTX) == 0) return systemFailure(EPERM, ".Trash");
+    if (!shared || fstat(shared.get(), &status) != 0) return systemFailure(errno, sharedName);
+    if ((status.st_mode & S_ISVTX) == 0) return systemFailure(EPERM, sharedName);
     return openOwnFolder(shared.get(), user);
 }
 
@@ -79,7 +82,7 @@ Result<TrashFolder> openHomeTrash(const Url& dataFolder) {
     if (error) return systemFailure(error.value(), dataFolder.path());
     const FileDescriptor data(open(dataFolder.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!data) return systemFailure(errno, dataFolder.path());
-    return openInside(openOwnFolder(data.get(), "Trash"), {});
+    return openInside(openOwnFolder(data.get(), homeName), dataFolder.appending(homeName), {});
 }
 
 Result<TrashFolder> openVolumeTrash(const std::string& folder, const Volume& volume) {
@@ -88,9 +91,12 @@ Result<TrashFolder> openVolumeTrash(const std::string& folder, const Volume& vol
     if (!top) return systemFailure(errno, path);
     const std::string user = std::to_string(geteuid());
     const std::string prefix = path == "/" ? path : path + "/";
-    auto shared = openInside(openShared(top.get(), user), prefix);
+    const Url sharedPath = Url::file(path).appending(sharedName).appending(user);
+    auto shared = openInside(openShared(top.get(), user), sharedPath, prefix);
     if (shared) return shared;
-    return openInside(openOwnFolder(top.get(), ".Trash-" + user), prefix);
+    const std::string ownName = sharedName + ("-" + user);
+    return openInside(openOwnFolder(top.get(), ownName), Url::file(path).appending(ownName),
+                      prefix);
 }
 
 }  // namespace vantle

@@ -12,6 +12,10 @@ namespace vantle {
 /// An open Trash as freedesktop.org defines it: the folder "files" with the trashed files, and the
 /// folder "info" with their original paths. Other programs use it at the same time.
 struct TrashFolder {
+    static constexpr auto filesName = "files";
+    static constexpr auto infoName = "info";
+
+    Url path;
     FileDescriptor files;
     FileDescriptor info;
     /// The folder that the paths in "info" are relative to, with a slash at the end; empty if they

@@ -12,8 +12,13 @@ namespace vantle {
 /// overwrites another file. If it is interrupted, the file is complete in at least one of the two
 /// places. Blocks, but takes long only if it copies.
 ///
-/// `dataFolder` is $XDG_DATA_HOME. Fails with the system's error number and leaves the file where
-/// it was.
-Outcome moveToTrash(const Url& file, const Url& dataFolder);
+/// `dataFolder` is $XDG_DATA_HOME. Returns where the file is now. Fails with the system's error
+/// number and leaves the file where it was.
+Result<Url> moveToTrash(const Url& file, const Url& dataFolder);
+
+/// Moves a file that is at `inTrash` back to `original` and removes the information about it from
+/// the Trash. Never overwrites another file. Blocks as moveToTrash() does. If it fails, the file is
+/// still in the Trash, unless only the information could not be removed.
+Outcome putBackFromTrash(const Url& inTrash, const Url& original);
 
 }  // namespace vantle

@@ -80,6 +80,10 @@ void DisplayServer::setClipboard(std::unique_ptr<QMimeData> contents) {
     QGuiApplication::clipboard()->setMimeData(contents.release());
 }
 
+void DisplayServer::requestActivationToken(QObject&, TokenReceiver receiver) {
+    receiver({});
+}
+
 void DisplayServer::bringToFront(QWindow& window) {
     window.raise();
     window.requestActivate();

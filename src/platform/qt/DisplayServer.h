@@ -6,7 +6,9 @@
 #include <QRect>
 #include <QRegion>
 #include <QScreen>
+#include <QString>
 #include <QWindow>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -104,6 +106,11 @@ public:
 
     // Ordinary windows.
 
+    using TokenReceiver = std::function<void(const QString& token)>;
+    /// Calls `receiver` once, possibly inside this call, with a token by which the window of a
+    /// program that the user starts now may come to the front; empty if the server gives none.
+    /// Does not call it after `owner` was destroyed.
+    virtual void requestActivationToken(QObject& owner, TokenReceiver receiver);
     /// Gives a shown window the keyboard, raises it above all others and moves it to the user's
     /// current workspace, as far as the desktop allows.
     virtual void bringToFront(QWindow& window);

@@ -34,6 +34,9 @@ public:
     /// Hides the window and releases the pointer and the keyboard.
     virtual void hide() = 0;
 
+    /// Returns true if show() has placed the menu above its anchor.
+    virtual bool isAboveAnchor() const { return false; }
+
     /// Call it when the window is on the screen.
     virtual void exposed() {}
 

@@ -14,7 +14,9 @@ PlacedMenu::PlacedMenu(QWindow& window)
       overlay_(DisplayServer::current().makeOverlay(window, Overlay::Focus::accepted)) {}
 
 void PlacedMenu::show(const MenuAnchor& anchor, const QRect& plate) {
-    overlay_->setFrame(menuFrame(anchor.frame, plate, window_.size()));
+    const QRect frame = menuFrame(anchor.frame, plate, window_.size());
+    isAboveAnchor_ = frame.top() + plate.top() < anchor.frame.top();
+    overlay_->setFrame(frame);
     overlay_->show();
 }
 

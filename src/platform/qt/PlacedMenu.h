@@ -15,11 +15,13 @@ public:
 
     void show(const MenuAnchor& anchor, const QRect& plate) override;
     void hide() override;
+    bool isAboveAnchor() const override { return isAboveAnchor_; }
     void exposed() override;
 
 private:
     QWindow& window_;
     const std::unique_ptr<Overlay> overlay_;
+    bool isAboveAnchor_ = false;
 };
 
 /// Returns the frame of the window of a placed menu on the screen of the anchor.

@@ -13,7 +13,8 @@ namespace {
 Screen converted(QScreen& screen) {
     return {
         toScreenCoordinates(screen.geometry(), primaryScreenGeometry()),
-        toScreenCoordinates(DisplayServer::current().usableArea(screen), primaryScreenGeometry())};
+        toScreenCoordinates(DisplayServer::current().usableArea(screen), primaryScreenGeometry()),
+        screen.devicePixelRatio()};
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/freedesktop/ActivationToken.h"
+#include "platform/wayland/ActivationRequest.h"
 #include "platform/wayland/CompositorMenu.h"
 #include "platform/wayland/Connection.h"
 #include "platform/wayland/Drag.h"
@@ -68,6 +69,10 @@ void Compositor::setClipboard(std::unique_ptr<QMimeData> contents) {
         selection_.offer(std::move(contents));
     else
         DisplayServer::setClipboard(std::move(contents));
+}
+
+void Compositor::requestActivationToken(QObject& owner, TokenReceiver receiver) {
+    wayland::requestActivationToken(owner, std::move(receiver));
 }
 
 void Compositor::bringToFront(QWindow& window) {

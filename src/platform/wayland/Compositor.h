@@ -28,6 +28,7 @@ public:
     std::unique_ptr<DragSupport> supportDrag(QDrag& drag, const DragContents& contents) override;
     void setClipboard(std::unique_ptr<QMimeData> contents) override;
 
+    void requestActivationToken(QObject& owner, TokenReceiver receiver) override;
     void bringToFront(QWindow& window) override;
     std::string taskbarObstacle() const override;
 

@@ -30,8 +30,14 @@ void CompositorMenu::showOverWindow(QWindow& host, const QRect& anchor) {
     window_.setFlags(Qt::Popup | Qt::FramelessWindowHint);
     window_.setTransientParent(&host);
     readKeysOf(host);
-    window_.setGeometry(menuFrame(anchor, plate_, window_.size()));
+    placeBeside(anchor);
     window_.show();
+}
+
+void CompositorMenu::placeBeside(const QRect& anchor) {
+    const QRect frame = menuFrame(anchor, plate_, window_.size());
+    isAboveAnchor_ = frame.top() + plate_.top() < anchor.top();
+    window_.setGeometry(frame);
 }
 
 void CompositorMenu::showOverLayer(LayerOverlay& host, const QRect& anchor) {
@@ -46,6 +52,7 @@ void CompositorMenu::showOverLayer(LayerOverlay& host, const QRect& anchor) {
         surface(window_), *host.surface(),
         PopupSurface::below(inHost, plate_.marginsAdded({edge, 0, edge, 0}), {-edge, gap}),
         PopupSurface::Grab::pointer);
+    isAboveAnchor_ = popup_->top() < inHost.top();
     const auto dismissed = [this] { notifyDismissed(); };
     popup_->onDismissed = [this, dismissed] {
         QMetaObject::invokeMethod(this, dismissed, Qt::QueuedConnection);
@@ -64,7 +71,7 @@ void CompositorMenu::showAt(const QPoint& place) {
 }
 
 void CompositorMenu::showAnywhere(const QRect& anchor) {
-    window_.setGeometry(menuFrame(anchor, plate_, window_.size()));
+    placeBeside(anchor);
     window_.show();
     window_.raise();
 }

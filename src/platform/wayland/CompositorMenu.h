@@ -19,6 +19,7 @@ public:
 
     void show(const MenuAnchor& anchor, const QRect& plate) override;
     void hide() override;
+    bool isAboveAnchor() const override { return isAboveAnchor_; }
 
 protected:
     /// Forwards to the menu the keys of the window below it, which keeps the keyboard.
@@ -30,11 +31,14 @@ private:
     void showAt(const QPoint& place);
     /// Shows the menu with compositors that place only popups of windows that they manage.
     void showAnywhere(const QRect& anchor);
+    /// Places the window beside an anchor that is in screen coordinates.
+    void placeBeside(const QRect& anchor);
     void readKeysOf(QWindow& host);
     void notifyDismissed();
 
     QWindow& window_;
     QRect plate_;
+    bool isAboveAnchor_ = false;
     std::unique_ptr<AnchorWindow> anchor_;  ///< Created when first needed.
     std::unique_ptr<PopupSurface> popup_;
     Overlay::BorrowedKeyboard keyboard_;

@@ -1,6 +1,7 @@
 #include "platform/wayland/Connection.h"
 
 #include <qpa/qplatformnativeinterface.h>
+#include <xdg-activation-client-protocol.h>
 #include <xdg-shell-client-protocol.h>
 
 #include <QGuiApplication>
@@ -59,6 +60,8 @@ void bindOffered(void* data, wl_registry* registry, std::uint32_t name, const ch
     else if (isOffered(datacontrol::managerInterface))
         bind(globals.dataControl, registry, name, version, datacontrol::managerInterface,
              datacontrol::version);
+    else if (isOffered(xdg_activation_v1_interface))
+        bind(globals.activation, registry, name, version, xdg_activation_v1_interface, 1);
     else if (offered == kwinInterface)
         isKWin = true;
     else if (isOffered(blur::managerInterface))
@@ -96,6 +99,8 @@ Globals bindGlobals() {
     wl_registry_destroy(registry);
     globals.quirks = quirksOf(offered);
     if (globals.shell) answerPings(globals.shell);
+    // Tokens arrive while the toolkit handles its events.
+    if (globals.activation) useToolkitQueue(globals.activation);
     return globals;
 }
 

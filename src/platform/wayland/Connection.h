@@ -6,6 +6,7 @@
 
 #include "platform/wayland/Protocols.h"
 
+struct xdg_activation_v1;
 struct xdg_wm_base;
 
 /// Access to what a Wayland compositor offers beyond what the toolkit uses, over the toolkit's
@@ -38,7 +39,8 @@ struct Globals {
     layershell::Shell* layerShell = nullptr;
     blur::Manager* blur = nullptr;
     datacontrol::Manager* dataControl = nullptr;
-    xdg_wm_base* shell = nullptr;  ///< For ordinary windows and popups.
+    xdg_wm_base* shell = nullptr;             ///< For ordinary windows and popups.
+    xdg_activation_v1* activation = nullptr;  ///< Makes tokens for windows of other programs.
     /// Differences between compositors that the protocols allow.
     struct Quirks {
         /// A popup that grabs the pointer gets the keyboard, too. With other compositors the

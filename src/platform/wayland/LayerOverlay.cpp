@@ -1,6 +1,7 @@
 #include "platform/wayland/LayerOverlay.h"
 
 #include <QGuiApplication>
+#include <vector>
 
 #include "platform/qt/QtGeometry.h"
 
@@ -26,6 +27,12 @@ LayerSurface::Place placeAt(const QMargins& distances, const QSize& size, QScree
             .size = size};
 }
 
+/// Returns the overlays that want the keyboard; the last one has it.
+std::vector<LayerOverlay*>& keyboardHolders() {
+    static std::vector<LayerOverlay*> holders;
+    return holders;
+}
+
 }  // namespace
 
 LayerOverlay::LayerOverlay(QWindow& window, Focus focus) : Overlay(window) {
@@ -33,6 +40,10 @@ LayerOverlay::LayerOverlay(QWindow& window, Focus focus) : Overlay(window) {
     if (!globals().quirks.popupStaysOnWorkspace) return;
     workspaces_ = std::make_unique<WorkspaceEvents>();
     connect(workspaces_.get(), &WorkspaceEvents::changed, this, &LayerOverlay::workspaceChanged);
+}
+
+LayerOverlay::~LayerOverlay() {
+    std::erase(keyboardHolders(), this);
 }
 
 void LayerOverlay::show() {
@@ -113,13 +124,30 @@ void LayerOverlay::startKeyboard(bool couldHaveIt) {
     if (!surface_) return;
     if (globals().quirks.clickTakesKeyboard && !couldHaveIt) showAgain();
     if (!surface_) return;
+    // Compositors leave the keyboard with the first of two surfaces that request it.
+    auto& holders = keyboardHolders();
+    if (!holders.empty() && holders.back() != this) holders.back()->setKeyboard(false);
+    std::erase(holders, this);
+    holders.push_back(this);
     // Requests the keyboard again, because the user may have clicked another window since.
-    if (couldHaveIt) surface_->giveBackKeyboard();
-    surface_->takeKeyboard();
+    if (couldHaveIt) setKeyboard(false);
+    setKeyboard(true);
 }
 
 void LayerOverlay::endKeyboard() {
-    if (surface_) surface_->giveBackKeyboard();
+    setKeyboard(false);
+    auto& holders = keyboardHolders();
+    const bool hadIt = !holders.empty() && holders.back() == this;
+    std::erase(holders, this);
+    if (hadIt && !holders.empty()) holders.back()->setKeyboard(true);
+}
+
+void LayerOverlay::setKeyboard(bool isHeld) {
+    if (!surface_) return;
+    if (isHeld)
+        surface_->takeKeyboard();
+    else
+        surface_->giveBackKeyboard();
 }
 
 }  // namespace vantle::wayland

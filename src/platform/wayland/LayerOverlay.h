@@ -14,6 +14,7 @@ class LayerOverlay final : public Overlay {
 
 public:
     LayerOverlay(QWindow& window, Focus focus);
+    ~LayerOverlay() override;
 
     void show() override;
     void hide() override;
@@ -26,6 +27,7 @@ private:
     void screenAdded() override { showOnRemainingScreen(); }
     void startKeyboard(bool couldHaveIt) override;
     void endKeyboard() override;
+    void setKeyboard(bool isHeld);
 
     /// Shows the window on a new surface, because the current one cannot get the keyboard.
     void showAgain();

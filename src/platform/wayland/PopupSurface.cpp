@@ -26,7 +26,6 @@ xdg_surface* makeShellSurface(wl_surface* surface) {
     return made;
 }
 
-void placed(void*, xdg_popup*, std::int32_t, std::int32_t, std::int32_t, std::int32_t) {}
 void placedAgain(void*, xdg_popup*, std::uint32_t) {}
 
 }  // namespace
@@ -73,6 +72,11 @@ void PopupSurface::waitUntilConfigured() {
     useToolkitQueue(surface_);
     useToolkitQueue(popup_);
     wl_display_dispatch_queue_pending(display(), globals().queue);
+}
+
+void PopupSurface::placed(void* data, xdg_popup*, std::int32_t, std::int32_t y, std::int32_t,
+                          std::int32_t) {
+    static_cast<PopupSurface*>(data)->top_ = y;
 }
 
 void PopupSurface::configured(void* data, xdg_surface* surface, std::uint32_t serial) {

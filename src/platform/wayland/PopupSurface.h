@@ -50,6 +50,9 @@ public:
 
     xdg_surface* shellSurface() const { return surface_; }
 
+    /// Returns where the placed part of the popup begins, from the top of the parent.
+    int top() const { return top_; }
+
     /// Returns true if the compositor has dismissed the popup, for example after a click elsewhere.
     bool isDismissed() const { return isDismissed_; }
 
@@ -57,12 +60,15 @@ public:
     std::function<void()> onDismissed;
 
 private:
+    static void placed(void* data, xdg_popup* popup, std::int32_t x, std::int32_t y,
+                       std::int32_t width, std::int32_t height);
     static void configured(void* data, xdg_surface* surface, std::uint32_t serial);
     static void dismissed(void* data, xdg_popup* popup);
     void waitUntilConfigured();
 
     xdg_surface* surface_;
     xdg_popup* popup_ = nullptr;
+    int top_ = 0;
     bool isConfigured_ = false;
     bool isDismissed_ = false;
 };

@@ -1,5 +1,9 @@
 #include "platform/x11/KeyboardFocus.h"
 
+#include <QGuiApplication>
+#include <QWindow>
+#include <algorithm>
+
 #include "platform/x11/Connection.h"
 
 namespace vantle::x11 {
@@ -15,11 +19,17 @@ void focus(xcb_connection_t* x, xcb_window_t window) {
     xcb_flush(x);
 }
 
+bool isOurs(xcb_window_t wanted) {
+    return std::ranges::any_of(QGuiApplication::allWindows(), [wanted](const QWindow* window) {
+        return window->handle() && windowId(*window) == wanted;
+    });
+}
+
 /// Returns the window that gets the keyboard back. Behind Mutter's XWayland that is the root
-/// window: if no X window has the keyboard, Mutter returns it to the window that had it last, which
-/// may be a Wayland window.
+/// window, unless a window of ours had it: if no X window has the keyboard, Mutter returns it to
+/// the window that had it last, which may be a Wayland window.
 xcb_window_t windowToRestore(xcb_window_t previous) {
-    return versionOfMutter().empty() ? previous : rootWindow();
+    return versionOfMutter().empty() || isOurs(previous) ? previous : rootWindow();
 }
 
 }  // namespace

@@ -1,12 +1,15 @@
 #include "platform/x11/Server.h"
 
 #include <QGuiApplication>
+#include <QPointer>
+#include <cstdint>
 #include <utility>
 
 #include "platform/x11/Connection.h"
 #include "platform/x11/Drag.h"
 #include "platform/x11/FrontWindow.h"
 #include "platform/x11/PersistentInputRegion.h"
+#include "platform/x11/StartupToken.h"
 #include "platform/x11/Taskbar.h"
 #include "platform/x11/UnmanagedOverlay.h"
 #include "platform/x11/UsableArea.h"
@@ -99,7 +102,18 @@ void Server::setClipboard(std::unique_ptr<QMimeData> contents) {
     // If this is called several times, only the last contents are set: some clipboard managers
     // would refill a clipboard that is empty in between with its old contents.
     nextContents_ = std::move(contents);
-    time_.refreshThen([this] { DisplayServer::setClipboard(std::move(nextContents_)); });
+    if (std::exchange(isSettingClipboard_, true)) return;
+    time_.refreshThen([this](std::uint32_t) {
+        isSettingClipboard_ = false;
+        DisplayServer::setClipboard(std::move(nextContents_));
+    });
+}
+
+void Server::requestActivationToken(QObject& owner, TokenReceiver receiver) {
+    time_.refreshThen(
+        [guard = QPointer<QObject>(&owner), receiver = std::move(receiver)](std::uint32_t time) {
+            if (guard) receiver(startupToken(time));
+        });
 }
 
 void Server::bringToFront(QWindow& window) {

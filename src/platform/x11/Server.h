@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "platform/qt/DisplayServer.h"
-#include "platform/x11/SelectionTime.h"
+#include "platform/x11/ServerTime.h"
 
 namespace vantle::x11 {
 
@@ -34,6 +34,7 @@ public:
     std::unique_ptr<DragSupport> supportDrag(QDrag& drag, const DragContents& contents) override;
     void setClipboard(std::unique_ptr<QMimeData> contents) override;
 
+    void requestActivationToken(QObject& owner, TokenReceiver receiver) override;
     void bringToFront(QWindow& window) override;
     bool isOnOtherWorkspace(const QWindow& window) const override;
     void keepOutOfTaskbar(const QWindow& window) override;
@@ -42,7 +43,8 @@ public:
 
 private:
     const std::function<std::string()> whyNotNative_;
-    SelectionTime time_;
+    ServerTime time_;
+    bool isSettingClipboard_ = false;
     std::unique_ptr<QMimeData> nextContents_;  ///< For the clipboard, until the time is known.
 };
 

@@ -25,13 +25,26 @@ public:
         document_.reset(
             poppler::document::load_from_raw_data(bytes.data(), static_cast<int>(bytes.size())));
         if (!document_ || document_->is_locked() || document_->pages() < 1) return false;
-        page_.reset(document_->create_page(0));
-        if (!page_) return false;
-        const auto box = page_->page_rect();
-        const bool isOnSide = page_->orientation() == poppler::page::landscape ||
-                              page_->orientation() == poppler::page::seascape;
-        size_ = isOnSide ? Size{box.height(), box.width()} : Size{box.width(), box.height()};
-        return isSensible(size_.width) && isSensible(size_.height);
+        return selectPage(0);
+    }
+
+    int pageCount() const override { return document_->pages(); }
+
+    bool selectPage(int number) override {
+        if (page_ && number == number_) return true;
+        if (number < 0 || number >= pageCount()) return false;
+        std::unique_ptr<poppler::page> page(document_->create_page(number));
+        if (!page) return false;
+        const auto box = page->page_rect();
+        const bool isOnSide = page->orientation() == poppler::page::landscape ||
+                              page->orientation() == poppler::page::seascape;
+        const Size size =
+            isOnSide ? Size{box.height(), box.width()} : Size{box.width(), box.height()};
+        if (!isSensible(size.width) || !isSensible(size.height)) return false;
+        page_ = std::move(page);
+        number_ = number;
+        size_ = size;
+        return true;
     }
 
     PixelSize pixelSize() const override { return {}; }
@@ -75,6 +88,7 @@ private:
     const MappedFile file_;
     std::unique_ptr<poppler::document> document_;
     std::unique_ptr<poppler::page> page_;
+    int number_ = 0;
     Size size_;
 };
 

@@ -23,7 +23,8 @@ bool isEqual(const std::optional<MenuImage>& a, const std::optional<MenuImage>& 
 /// Returns true if the two lines look the same to the user; their actions may differ.
 bool looksEqual(const MenuItem& a, const MenuItem& b) {
     return a.kind == b.kind && a.title == b.title && a.keyEquivalent == b.keyEquivalent &&
-           a.isEnabled == b.isEnabled && isEqual(a.image, b.image);
+           a.isEnabled == b.isEnabled && a.items.empty() == b.items.empty() &&
+           isEqual(a.image, b.image);
 }
 
 /// Doubles underscores: a single one would mark the next letter as the line's access key.
@@ -81,43 +82,63 @@ void BusMenu::closed() {
 }
 
 bool BusMenu::rebuild() {
-    std::vector<Line> former = std::exchange(lines_, {});
-    const auto idsOf = [](const std::vector<Line>& lines) {
-        std::vector<int> ids;
-        for (const auto& line : lines) ids.push_back(line.id);
-        return ids;
-    };
-    const auto formerIds = idsOf(former);
+    const auto former = idsOf(lines_);
+    lines_ = matched(makeMenu_().items, std::exchange(lines_, {}));
+    const bool isChanged = revision_ == 0 || idsOf(lines_) != former;
+    if (isChanged) ++revision_;
+    return isChanged;
+}
+
+std::vector<int> BusMenu::idsOf(const std::vector<Line>& lines) {
+    std::vector<int> ids;
+    for (const auto& line : lines) {
+        ids.push_back(line.id);
+        std::ranges::copy(idsOf(line.lines), std::back_inserter(ids));
+        // Ends the submenu, so that a line that leaves it changes the list.
+        ids.push_back(root);
+    }
+    return ids;
+}
+
+std::vector<BusMenu::Line> BusMenu::matched(std::vector<MenuItem> made, std::vector<Line> former) {
+    std::vector<Line> lines;
     // Matches from the end, where the menu changes least: separators all look the same, and trays
     // do not handle moved lines well.
-    std::vector<MenuItem> made = makeMenu_().items;
     std::ranges::reverse(made);
     for (auto& item : made) {
         const auto same = std::find_if(former.rbegin(), former.rend(), [&item](const Line& line) {
             return looksEqual(line.item, item);
         });
-        int id = 0;
+        Line line;
         if (same == former.rend()) {
-            id = ++lastId_;
+            line.id = ++lastId_;
         } else {
-            id = same->id;
+            line = std::move(*same);
             former.erase(std::next(same).base());
         }
-        lines_.push_back({id, std::move(item)});
+        line.lines = matched(item.items, std::move(line.lines));
+        line.item = std::move(item);
+        lines.push_back(std::move(line));
     }
-    std::ranges::reverse(lines_);
-    const bool isChanged = revision_ == 0 || idsOf(lines_) != formerIds;
-    if (isChanged) ++revision_;
-    return isChanged;
+    std::ranges::reverse(lines);
+    return lines;
 }
 
 void BusMenu::ensureBuilt() {
     if (revision_ == 0) rebuild();
 }
 
+const BusMenu::Line* BusMenu::lineOf(int id, const std::vector<Line>& lines) {
+    for (const auto& line : lines) {
+        if (line.id == id) return &line;
+        if (const Line* found = lineOf(id, line.lines)) return found;
+    }
+    return nullptr;
+}
+
 const MenuItem* BusMenu::item(int id) const {
-    const auto found = std::ranges::find(lines_, id, &Line::id);
-    return found == lines_.end() ? nullptr : &found->item;
+    const Line* line = lineOf(id, lines_);
+    return line ? &line->item : nullptr;
 }
 
 bool BusMenu::isKnown(int id) const {
@@ -137,16 +158,30 @@ QVariantMap BusMenu::properties(int id) const {
         properties.insert(QStringLiteral("shortcut"),
                           QVariant::fromValue(shortcut(line.keyEquivalent)));
     if (line.image) properties.insert(QStringLiteral("icon-data"), png(*line.image));
+    if (!line.items.empty())
+        properties.insert(QStringLiteral("children-display"), QStringLiteral("submenu"));
     return properties;
 }
 
 uint BusMenu::GetLayout(int parent, int depth, const QStringList& names, BusMenuLayout& layout) {
     ensureBuilt();
+    const Line* line = lineOf(parent, lines_);
     layout = {parent, selected(properties(parent), names), {}};
-    if (parent != root || depth == 0) return revision_;
-    for (const auto& line : lines_)
-        layout.children << BusMenuLayout{line.id, selected(properties(line.id), names), {}};
+    if (parent == root)
+        addLayouts(lines_, depth, names, layout);
+    else if (line)
+        addLayouts(line->lines, depth, names, layout);
     return revision_;
+}
+
+void BusMenu::addLayouts(const std::vector<Line>& lines, int depth, const QStringList& names,
+                         BusMenuLayout& layout) const {
+    // A negative depth has no limit.
+    if (depth == 0) return;
+    for (const auto& line : lines) {
+        layout.children << BusMenuLayout{line.id, selected(properties(line.id), names), {}};
+        addLayouts(line.lines, depth - 1, names, layout.children.last());
+    }
 }
 
 BusMenuPropertiesList BusMenu::GetGroupProperties(const QList<int>& ids, const QStringList& names) {

@@ -53,21 +53,29 @@ signals:
                                 const vantle::BusMenuRemovedPropertiesList& removed);
 
 private:
+    struct Line {
+        int id = 0;
+        MenuItem item;
+        std::vector<Line> lines;  ///< Those of the submenu.
+    };
+
     void opened();
     void closed();
     /// Returns true if the menu has changed.
     bool rebuild();
     void ensureBuilt();
+    /// Returns the numbers of all lines, in a list that two different menus do not share.
+    static std::vector<int> idsOf(const std::vector<Line>& lines);
+    /// Returns the lines for these items, with the numbers of the former lines that look the same.
+    std::vector<Line> matched(std::vector<MenuItem> made, std::vector<Line> former);
+    static const Line* lineOf(int id, const std::vector<Line>& lines);
+    void addLayouts(const std::vector<Line>& lines, int depth, const QStringList& names,
+                    BusMenuLayout& layout) const;
     /// Returns null if no line has that number.
     const MenuItem* item(int id) const;
     /// Returns true if the number is that of a line or of the menu itself.
     bool isKnown(int id) const;
     QVariantMap properties(int id) const;
-
-    struct Line {
-        int id = 0;
-        MenuItem item;
-    };
 
     const std::function<Menu()> makeMenu_;
     std::vector<Line> lines_;

@@ -1,16 +1,17 @@
-#include "platform/x11/SelectionTime.h"
+#include "platform/x11/ServerTime.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>
 #include <QMetaObject>
 #include <utility>
+#include <vector>
 
 #include "platform/x11/Connection.h"
 
 namespace vantle::x11 {
 
 /// An invisible window. The server reports a change of its property with the current time.
-class SelectionTime::Clock final : public QObject, public QAbstractNativeEventFilter {
+class ServerTime::Clock final : public QObject, public QAbstractNativeEventFilter {
 public:
     Clock() {
         window_.setFlags(Qt::ToolTip);
@@ -18,8 +19,8 @@ public:
         QCoreApplication::instance()->installNativeEventFilter(this);
     }
 
-    void ask(std::function<void()> work) {
-        work_ = std::move(work);
+    void ask(Work work) {
+        waiting_.push_back(std::move(work));
         xcb_connection_t* x = connection();
         xcb_change_property(x, XCB_PROP_MODE_REPLACE, windowId(window_), timeAtom(),
                             XCB_ATOM_INTEGER, 32, 0, nullptr);
@@ -33,25 +34,25 @@ public:
         if (notify->window != windowId(window_) || notify->atom != timeAtom()) return false;
         // Qt reads the time from the event after this filter returns.
         QMetaObject::invokeMethod(
-            this, [this] { finish(); }, Qt::QueuedConnection);
+            this, [this, time = notify->time] { finish(time); }, Qt::QueuedConnection);
         return false;
     }
 
 private:
     static xcb_atom_t timeAtom() { return atom("VANTLE_TIME"); }
 
-    void finish() {
-        if (const auto work = std::exchange(work_, nullptr)) work();
+    void finish(std::uint32_t time) {
+        for (const auto& work : std::exchange(waiting_, {})) work(time);
     }
 
     QWindow window_;
-    std::function<void()> work_;
+    std::vector<Work> waiting_;
 };
 
-SelectionTime::SelectionTime() = default;
-SelectionTime::~SelectionTime() = default;
+ServerTime::ServerTime() = default;
+ServerTime::~ServerTime() = default;
 
-void SelectionTime::refreshThen(std::function<void()> work) {
+void ServerTime::refreshThen(Work work) {
     if (!clock_) clock_ = std::make_unique<Clock>();
     clock_->ask(std::move(work));
 }
