@@ -39,7 +39,7 @@ CaptureLoader makeLoader(const Platform& platform,
             panel};
 }
 
-CapturePanelController::Reload makeReload(const Platform& platform) {
+DepartedCaptures::Reload makeReload(const Platform& platform) {
     return [loader = makeLoader(platform, nullptr), &queue = *platform.watcherQueue](
                std::vector<CapturePointer> captures, auto loaded) {
         queue.async([loader, captures = std::move(captures), loaded = std::move(loaded)] {
@@ -213,14 +213,14 @@ void AppDelegate::connectStatusBar() {
 
 void AppDelegate::connectPreview() {
     panel_->onSettings = weakly(shared_from_this(), [](auto& self) { self.showSettings(); });
-    panel_->renaming().willRename = weakly(shared_from_this(), [](auto& self, const Url& to) {
-        self.watcher_->willRename(to);
-        self.recordings_->willRename(to);
+    panel_->willMove = weakly(shared_from_this(), [](auto& self, const Url& to) {
+        self.watcher_->willMove(to);
+        self.recordings_->willMove(to);
     });
-    panel_->renaming().didRename =
+    panel_->didMove =
         weakly(shared_from_this(), [](auto& self, const Url& from, const Url& to, bool isSuccess) {
-            self.watcher_->didRename(from, to, isSuccess);
-            self.recordings_->didRename(from, to, isSuccess);
+            self.watcher_->didMove(from, to, isSuccess);
+            self.recordings_->didMove(from, to, isSuccess);
             if (isSuccess) self.recent_.renamed(from, to);
             self.statusBar_.recentChanged();
         });

@@ -103,17 +103,17 @@ std::optional<WatchError> CaptureWatcher::begin(const Opening& opening, WatchNum
     return std::nullopt;
 }
 
-void CaptureWatcher::willRename(const Url& to) {
+void CaptureWatcher::willMove(const Url& to) {
     services_.queue.async(weakly(shared_from_this(), [to](auto& self) {
         // A scan that runs already may find the new name before this is known. It only begins to
         // poll the file then, and the polling looks here before it reports the file.
-        self.renamingTo_.insert(to.path());
+        self.movingTo_.insert(to.path());
     }));
 }
 
-void CaptureWatcher::didRename(const Url& from, const Url& to, bool isSuccess) {
+void CaptureWatcher::didMove(const Url& from, const Url& to, bool isSuccess) {
     services_.queue.async(weakly(shared_from_this(), [from, to, isSuccess](auto& self) {
-        self.endRenaming(from, to, isSuccess);
+        self.endMove(from, to, isSuccess);
     }));
 }
 
@@ -183,8 +183,8 @@ CaptureWatcher::CheckResult CaptureWatcher::checkFile(const Url& folder, std::st
 
 void CaptureWatcher::waitUntilStable(const Url& url, int attempts, std::int64_t lastSize,
                                      const std::function<void()>& done) {
-    const bool isRenamed = !pending_.contains(url.path()) || renamingTo_.contains(url.path());
-    if (isRenamed) return;
+    const bool isMovedByUs = !pending_.contains(url.path()) || movingTo_.contains(url.path());
+    if (isMovedByUs) return;
     const auto size = services_.files.fileSize(url);
     const bool hasContents = size && *size >= 1;
     if (hasContents && (*size == lastSize || attempts >= lastAttempt)) {
@@ -209,14 +209,16 @@ void CaptureWatcher::settle(const Url& url, Date fileDate) {
     deliverNext();
 }
 
-void CaptureWatcher::endRenaming(const Url& from, const Url& to, bool isSuccess) {
-    renamingTo_.erase(to.path());
+void CaptureWatcher::endMove(const Url& from, const Url& to, bool isSuccess) {
+    movingTo_.erase(to.path());
     // The scan below begins anew with a file that has one of these names now.
     pending_.erase(to.path());
     if (isSuccess) pending_.erase(from.path());
     const Url folder = known_.folder();
     if (to.deletingLastPathComponent() != folder) return;
-    if (isSuccess) known_.rename(from.lastPathComponent(), to.lastPathComponent());
+    const bool wasHere = from.deletingLastPathComponent() == folder;
+    if (isSuccess && wasHere) known_.rename(from.lastPathComponent(), to.lastPathComponent());
+    if (isSuccess && !wasHere) known_.insert(to.lastPathComponent());
     if (currentWatch_ != notWatching) scan(folder);
 }
 

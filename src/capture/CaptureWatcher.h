@@ -72,12 +72,12 @@ public:
     /// Stops watching. Files that are settling at that moment may still be reported.
     void stop();
 
-    /// Call these before and after this program renames a file, so that the file is not reported
-    /// again under its new name. A file that appears under the old name later is reported, and so
-    /// is one under the new name if the renaming failed because of it. Harmless for files of other
-    /// folders.
-    void willRename(const Url& to);
-    void didRename(const Url& from, const Url& to, bool isSuccess);
+    /// Call these before and after this program moves a file to another name or folder, so that the
+    /// file is not reported again under its new name. A file that appears under the old name later
+    /// is reported, and so is one under the new name if the move failed because of it. Harmless for
+    /// files of other folders.
+    void willMove(const Url& to);
+    void didMove(const Url& from, const Url& to, bool isSuccess);
 
     /// Returns the folder of the latest start(), even if that failed.
     const std::optional<Url>& folder() const { return folder_; }
@@ -119,7 +119,7 @@ private:
     void waitUntilStable(const Url& url, int attempts, std::int64_t lastSize,
                          const std::function<void()>& done);
     void settle(const Url& url, Date fileDate);
-    void endRenaming(const Url& from, const Url& to, bool isSuccess);
+    void endMove(const Url& from, const Url& to, bool isSuccess);
     /// Loads the next settled file, unless enough captures wait for the main thread.
     void deliverNext();
     void deliver(const Url& url, Date fileDate);
@@ -138,7 +138,7 @@ private:
     // Queue only.
     KnownNames known_;
     std::unordered_set<std::string> pending_;
-    std::unordered_set<std::string> renamingTo_;  ///< The new names of files that are renamed now.
+    std::unordered_set<std::string> movingTo_;  ///< Where this program moves files to now.
     struct Settled {
         Url url;
         Date date;

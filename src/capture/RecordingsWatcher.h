@@ -37,9 +37,9 @@ public:
     void stop();
 
     /// Like those of CaptureWatcher.
-    void willRename(const Url& to) { watcher_->willRename(to); }
-    void didRename(const Url& from, const Url& to, bool isSuccess) {
-        watcher_->didRename(from, to, isSuccess);
+    void willMove(const Url& to) { watcher_->willMove(to); }
+    void didMove(const Url& from, const Url& to, bool isSuccess) {
+        watcher_->didMove(from, to, isSuccess);
     }
 
     State state() const;

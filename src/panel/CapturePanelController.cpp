@@ -18,8 +18,6 @@ namespace {
 constexpr Seconds hideDelay{0.5};
 constexpr Seconds releaseDelay{2};  // keeps the panel loaded while screenshots follow quickly
 constexpr Seconds debugDumpDelay{1.2};
-// A slip is usually noticed at once; later, whole thumbnails would cost more than loading them.
-constexpr Seconds shrinkDelay{10};
 constexpr Animation removalSpring{.response = 0.45, .dampingFraction = 0.82};
 constexpr Rect frameWithoutScreens{{0, 0}, {1440, 900}};
 
@@ -50,6 +48,8 @@ CapturePanelController::CapturePanelController(Services services)
     : services_(std::move(services)),
       countdown_(Countdown::create(
           {.settings = services_.settings, .scheduler = services_.scheduler, .state = state_})),
+      departed_(DepartedCaptures::create(
+          {.scheduler = services_.scheduler, .state = state_, .reload = services_.reload})),
       trashed_(TrashedCaptures::create(
           {.scheduler = services_.scheduler, .trash = services_.trash, .state = state_})),
       renaming_({.files = services_.files, .state = state_, .countdown = *countdown_}),
@@ -82,10 +82,18 @@ void CapturePanelController::connect() {
         self, [](auto& controller, const auto& captures) { controller.removeMany(captures); });
     captureActions_->onDismiss = weakly(
         self, [](auto& controller, const auto& captures) { controller.dismissMany(captures); });
-    trashed_->onRemove = captureActions_->onRemove;
-    trashed_->onReturn =
+    departed_->onChange = weakly(self, [](auto& controller) { controller.onDeparture(); });
+    departed_->onReturn =
         weakly(self, [](auto& controller, const auto& captures, const auto& order) {
             controller.putBack(captures, order);
+        });
+    trashed_->onRemove = captureActions_->onRemove;
+    trashed_->onReturn = departed_->onReturn;
+    trashed_->willMove = renaming_.willMove =
+        weakly(self, [](auto& controller, const Url& to) { controller.willMove(to); });
+    trashed_->didMove = renaming_.didMove =
+        weakly(self, [](auto& controller, const Url& from, const Url& to, bool isSuccess) {
+            controller.didMove(from, to, isSuccess);
         });
     trashed_->onNoticesEnd = weakly(self, [](auto& controller) {
         if (controller.state_.captures.value().empty()) controller.dismiss();
@@ -101,8 +109,7 @@ void CapturePanelController::connect() {
 
 void CapturePanelController::show(const CapturePointer& capture) {
     keepPanel();
-    departures_.captureAppeared(*capture);
-    onDeparture();
+    departed_->captureAppeared(*capture);
     add(capture);
     state_.copiedID.set(std::nullopt);
     present();
@@ -239,61 +246,21 @@ void CapturePanelController::remove(const CapturePointer& capture) {
 }
 
 void CapturePanelController::dismissMany(const Captures& captures) {
-    rememberDeparture(captures);
+    departed_->remember(captures);
     removeMany(captures);
 }
 
-void CapturePanelController::rememberDeparture(const Captures& captures) {
-    if (captures.empty()) return;
-    Departure departure{.card = urlsOf(state_.captures.value()), .time = services_.scheduler.now()};
-    for (const auto& capture : captures)
-        departure.captures.push_back({capture, state_.pinned.value().contains(capture->id())});
-    departures_.add(std::move(departure));
-    onDeparture();
-    if (shrinkWork_) shrinkWork_->cancel();
-    shrinkWork_ = services_.scheduler.after(shrinkDelay, weakly(shared_from_this(), [](auto& self) {
-                                                self.departures_.shrinkThumbnails();
-                                            }));
-}
-
-bool CapturePanelController::canBringBack() const {
-    return departures_.latest(services_.scheduler.now()).has_value();
-}
-
 void CapturePanelController::undo() {
-    const Instant now = services_.scheduler.now();
-    const auto departure = departures_.latest(now);
+    const auto departure = departed_->latest();
     const auto trashing = trashed_->latest();
     if (trashing && (!departure || *trashing > *departure))
         trashed_->undoLatest();
-    else if (const auto latest = departures_.takeLatest(now))
-        bringBack(*latest);
+    else
+        departed_->bringBackLatest();
 }
 
 void CapturePanelController::undoTrash(const UUID& captureID) {
     trashed_->undo(captureID);
-}
-
-void CapturePanelController::bringBack() {
-    while (const auto departure = departures_.takeLatest(services_.scheduler.now()))
-        bringBack(*departure);
-}
-
-void CapturePanelController::bringBack(const Departure& departure) {
-    onDeparture();
-    Captures captures;
-    for (const auto& departed : departure.captures) captures.push_back(departed.capture);
-    const auto show = weakly(shared_from_this(), [departure](auto& self, const Captures& loaded) {
-        self.putBack(loaded, departure.card);
-        auto pinned = self.state_.pinned.value();
-        for (std::size_t i = 0; i < loaded.size(); ++i)
-            if (departure.captures[i].wasPinned) pinned.insert(loaded[i]->id());
-        self.state_.pinned.set(std::move(pinned));
-    });
-    if (departure.areThumbnailsWhole)
-        show(captures);
-    else
-        services_.reload(std::move(captures), show);
 }
 
 void CapturePanelController::putBack(const Captures& captures, const std::vector<Url>& order) {
@@ -370,7 +337,7 @@ void CapturePanelController::dismiss() {
         return "dismiss; visible=" + text(state_.visible.value()) +
                " count=" + std::to_string(state_.captures.value().size());
     });
-    if (state_.visible.value()) rememberDeparture(state_.captures.value());
+    if (state_.visible.value()) departed_->remember(state_.captures.value());
     trashed_->endNotices();
     // The share menu points at the card, which is about to go.
     captureActions_->closeShareMenu();
@@ -400,8 +367,7 @@ void CapturePanelController::hide() {
 }
 
 void CapturePanelController::release() {
-    if (shrinkWork_) shrinkWork_->cancel();
-    departures_.shrinkThumbnails();
+    departed_->shrinkThumbnails();
     panel_->releaseResources();
     services_.spareMemory.giveBack();
 }

@@ -11,7 +11,7 @@
 #include "panel/CardMenus.h"
 #include "panel/Countdown.h"
 #include "panel/DebugSnapshots.h"
-#include "panel/Departures.h"
+#include "panel/DepartedCaptures.h"
 #include "panel/PanelState.h"
 #include "panel/Renaming.h"
 #include "panel/Selection.h"
@@ -43,10 +43,6 @@ public:
         PanelState& state, Settings& settings, CardActions actions)>;
 
     using Captures = std::vector<CapturePointer>;
-    /// Loads the thumbnails of captures again in the background, then calls `loaded` on the main
-    /// thread with captures of the same files in the same order.
-    using Reload = std::function<void(Captures, std::function<void(const Captures&)> loaded)>;
-
     struct Services {
         Settings& settings;
         Scheduler& scheduler;
@@ -61,7 +57,7 @@ public:
         SpareMemory& spareMemory;
         Environment environment;
         PanelFactory makePanel;
-        Reload reload;
+        DepartedCaptures::Reload reload;
     };
 
     static std::shared_ptr<CapturePanelController> create(Services services);
@@ -108,6 +104,12 @@ public:
     void beginRenaming(const CapturePointer& capture);
     Renaming& renaming() { return renaming_; }
 
+    /// Called before and after a file is renamed, or moved back from the Trash, so that it is not
+    /// taken for a new one.
+    std::function<void(const Url& to)> willMove = [](const Url&) {};
+    std::function<void(const Url& from, const Url& to, bool isSuccess)> didMove =
+        [](const Url&, const Url&, bool) {};
+
     /// Returns the actions that the card requests.
     CardActions actions();
     /// Returns the visible frame of a capture's tile, in screen coordinates; absent if it is out of
@@ -117,9 +119,9 @@ public:
     std::shared_ptr<void> holdCountdown() { return countdown_->hold(); }
 
     /// Returns true if captures that left the card can come back.
-    bool canBringBack() const;
+    bool canBringBack() const { return departed_->latest().has_value(); }
     /// Brings back all captures that left the card without having been used, to their places.
-    void bringBack();
+    void bringBack() { departed_->bringBackAll(); }
 
     /// Called when canBringBack() may have changed.
     std::function<void()> onDeparture = [] {};
@@ -140,10 +142,6 @@ private:
 
     /// Removes captures that can come back.
     void dismissMany(const Captures& captures);
-    /// Must be called before these captures leave the card.
-    void rememberDeparture(const Captures& captures);
-    /// Shows captures that left the card again.
-    void bringBack(const Departure& departure);
     /// Puts captures back to their places on the card. `order` lists the files of the card when
     /// they left.
     void putBack(const Captures& captures, const std::vector<Url>& order);
@@ -170,8 +168,8 @@ private:
     Services services_;
     PanelState state_;
     Selection selection_{state_};
-    Departures departures_;
     std::shared_ptr<Countdown> countdown_;
+    std::shared_ptr<DepartedCaptures> departed_;
     std::shared_ptr<TrashedCaptures> trashed_;
     Renaming renaming_;
     std::shared_ptr<CaptureActions> captureActions_;
@@ -180,7 +178,6 @@ private:
     std::unique_ptr<PanelWindow> panel_;
     Subscription corner_;
     TimerPointer hideWork_;     ///< Hides the panel; null once it has run or was cancelled.
-    TimerPointer shrinkWork_;   ///< Shrinks the thumbnails of captures that left the card.
     TimerPointer releaseWork_;  ///< Calls release() after the panel was hidden.
 };
 

@@ -65,9 +65,9 @@ void Renaming::refuse(const std::string& reason) {
 
 void Renaming::rename(const CapturePointer& capture, const Url& to) {
     const Url from = capture->url();
-    willRename(to);
+    willMove(to);
     const Outcome failure = services_.files.rename(from, to);
-    didRename(from, to, !failure);
+    didMove(from, to, !failure);
     if (failure) return refuse(reasonOf(*failure));
     auto captures = services_.state.captures.value();
     std::ranges::replace(captures, capture, CapturePointer(capture->renamed(to)));

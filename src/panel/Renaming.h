@@ -24,9 +24,8 @@ public:
     explicit Renaming(const Services& services) : services_(services) {}
 
     /// Called before and after a file is renamed, so that it is not taken for a new one.
-    std::function<void(const Url& to)> willRename = [](const Url&) {};
-    std::function<void(const Url& from, const Url& to, bool isSuccess)> didRename =
-        [](const Url&, const Url&, bool) {};
+    std::function<void(const Url& to)> willMove;
+    std::function<void(const Url& from, const Url& to, bool isSuccess)> didMove;
 
     void begin(const CapturePointer& capture);
 

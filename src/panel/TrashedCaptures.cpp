@@ -77,11 +77,24 @@ void TrashedCaptures::undo(const MovePointer& move) {
 }
 
 void TrashedCaptures::putBack(const MovePointer& move) {
+    for (const auto& file : move->files) willMove(file.original);
     services_.trash.putBack(
         move->files, [weak = weak_from_this(), move](const Outcome& failure, const auto& files) {
             if (failure) systemLog("Undo of the Trash failed: " + failure->message);
-            if (const auto self = weak.lock()) self->returned(move, files);
+            const auto self = weak.lock();
+            if (!self) return;
+            self->tellMoved(move, files);
+            self->returned(move, files);
         });
+}
+
+void TrashedCaptures::tellMoved(const MovePointer& move,
+                                const std::vector<Trash::Moved>& files) const {
+    for (const auto& file : move->files) {
+        const bool isBack =
+            std::ranges::find(files, file.original, &Trash::Moved::original) != files.end();
+        didMove(file.inTrash, file.original, isBack);
+    }
 }
 
 void TrashedCaptures::returned(const MovePointer& move, const std::vector<Trash::Moved>& files) {

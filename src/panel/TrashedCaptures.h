@@ -33,6 +33,9 @@ public:
     /// Called with captures whose files are back, while their notices are still set. `order` lists
     /// the files of the card when they left.
     std::function<void(const std::vector<CapturePointer>&, const std::vector<Url>& order)> onReturn;
+    /// Called before and after a file is moved back, so that it is not taken for a new one.
+    std::function<void(const Url& to)> willMove;
+    std::function<void(const Url& from, const Url& to, bool isSuccess)> didMove;
     /// Called when a notice has ended and no other is left.
     std::function<void()> onNoticesEnd;
 
@@ -69,6 +72,7 @@ private:
                const std::vector<Trash::Moved>& files);
     void undo(const MovePointer& move);
     void putBack(const MovePointer& move);
+    void tellMoved(const MovePointer& move, const std::vector<Trash::Moved>& files) const;
     void returned(const MovePointer& move, const std::vector<Trash::Moved>& files);
     void end(const MovePointer& move);
     void endNotices(const std::vector<CapturePointer>& captures);

@@ -28,6 +28,20 @@ TEST_F(AppDelegateTest, ASavedScreenshotIsShownOnThePanelAndInTheRecentList) {
     EXPECT_EQ(delegate->panel().state().captures.value().size(), 1u);
 }
 
+TEST_F(AppDelegateTest, AFileThatIsBackFromTheTrashIsNoNewCapture) {
+    launch();
+    save("shot.png");
+    events.clear();
+    auto& panelController = delegate->panel();
+    const CapturePointer capture = panelController.state().captures.value().front();
+    panelController.actions().trash(capture);
+    time.advance(Seconds(1));
+    panelController.actions().undoTrash(capture->id());
+    time.advance(Seconds(3));
+    EXPECT_THAT(recentNames(), ElementsAre("shot.png"));
+    EXPECT_EQ(panelController.state().captures.value(), std::vector{capture});
+}
+
 TEST_F(AppDelegateTest, WithRecordingsOffANewRecordingChangesNothing) {
     defaults->stored["showRecordings"] = false;
     defaults->stored["copyOnCapture"] = true;

@@ -636,8 +636,8 @@ TEST_F(CaptureWatcherTest, LogsTheWatchedFolderWhenDebugging) {
 TEST_F(CaptureWatcherTest, ANewFileUnderTheNameOfARenamedOlderOneIsReported) {
     save("old.png");
     start();
-    watcher->willRename(url("b.png"));
-    watcher->didRename(url("old.png"), url("b.png"),
+    watcher->willMove(url("b.png"));
+    watcher->didMove(url("old.png"), url("b.png"),
                        !files.rename(url("old.png"), url("b.png")).has_value());
     wait(1);
     save("old.png");
@@ -655,9 +655,9 @@ protected:
         EXPECT_THAT(captured, ElementsAre("a.png"));
         captured.clear();
     }
-    void begin() { watcher->willRename(url("b.png")); }
+    void begin() { watcher->willMove(url("b.png")); }
     bool rename() { return !files.rename(url("a.png"), url("b.png")).has_value(); }
-    void end(bool isSuccess) { watcher->didRename(url("a.png"), url("b.png"), isSuccess); }
+    void end(bool isSuccess) { watcher->didMove(url("a.png"), url("b.png"), isSuccess); }
 };
 
 TEST_F(RenamingTest, TheNewNameIsNotReported) {
@@ -761,8 +761,8 @@ TEST_F(RenamingTest, AFileThatIsRemovedAtOnceAndReplacedIsReportedOnce) {
 TEST_F(RenamingTest, ARenamedFileCanBeRenamedBack) {
     begin();
     end(rename());
-    watcher->willRename(url("a.png"));
-    watcher->didRename(url("b.png"), url("a.png"),
+    watcher->willMove(url("a.png"));
+    watcher->didMove(url("b.png"), url("a.png"),
                        !files.rename(url("b.png"), url("a.png")).has_value());
     wait(60);
     EXPECT_THAT(captured, IsEmpty());
@@ -770,8 +770,8 @@ TEST_F(RenamingTest, ARenamedFileCanBeRenamedBack) {
 
 TEST_F(RenamingTest, AFileOfAnotherFolderChangesNothing) {
     const Url other = Url::file("/other");
-    watcher->willRename(other.appending("b.png"));
-    watcher->didRename(other.appending("a.png"), other.appending("b.png"), true);
+    watcher->willMove(other.appending("b.png"));
+    watcher->didMove(other.appending("a.png"), other.appending("b.png"), true);
     save("b.png");
     wait(60);
     EXPECT_THAT(captured, ElementsAre("b.png"));

@@ -309,10 +309,10 @@ TEST_F(RenamedCaptureTest, CancellingChangesNothing) {
 
 TEST_F(RenamedCaptureTest, TellsTheWatcherBeforeAndAfter) {
     std::vector<std::string> told;
-    controller().renaming().willRename = [&](const Url& to) {
+    controller().willMove = [&](const Url& to) {
         told.push_back("will " + to.path() + (exists("a.png") ? "" : " too late"));
     };
-    controller().renaming().didRename = [&](const Url& from, const Url& to, bool isSuccess) {
+    controller().didMove = [&](const Url& from, const Url& to, bool isSuccess) {
         told.push_back((isSuccess ? "did " : "failed ") + from.path() + " to " + to.path());
     };
     type("b");

@@ -259,8 +259,8 @@ TEST_F(RecordingsWatcherTest, ARenamedRecordingIsNotReportedAgain) {
     save("a.mp4");
     const Url from = folder.appending("a.mp4");
     const Url to = folder.appending("b.mp4");
-    watcher->willRename(to);
-    watcher->didRename(from, to, !files.rename(from, to).has_value());
+    watcher->willMove(to);
+    watcher->didMove(from, to, !files.rename(from, to).has_value());
     time.advance(Seconds(60));
     EXPECT_THAT(captured, ElementsAre("a.mp4"));
 }
