@@ -5,16 +5,16 @@ chat."""
 import time
 
 # This import must come first: it sets the search path for the others.
-from stage import BINARY, PICTURES, furnish, private_desktop
+from stage import BINARY, furnish, private_desktop
 
 from hand import Hand
 from hero import CHAT, HEADER, SIZE, WEBSITE, screenshot_name
 from pages import Pages
 from panel_checks import is_dismissed, wait_for_card
-from privatedesktop import Program, processes, wait_until, wait_until_still
+from privatedesktop import Program, wait_until, wait_until_still
+from recorder import recorded
 from using import tile_of
 
-FRAMES_PER_SECOND = 25
 REST = (600, 640)
 # The dragged capture must not cover the input line of the chat.
 ABOVE_COMPOSER = (1064, 385)
@@ -31,15 +31,9 @@ def main():
             pages.open("chat", "Website", CHAT)
             show_and_dismiss_one(desktop, vantle)
             hand = Hand(desktop, REST)
-            wait_until_still(lambda: desktop.screen.screenshot().tobytes(), "the desktop")
-            recording = desktop.home / "recording.mkv"
-            recorder = start_recorder(desktop, recording)
-            begun = time.monotonic()
-            play(desktop, vantle, pages, hand)
-            seconds = time.monotonic() - begun
-            processes.end(recorder)
+            with recorded(desktop, SIZE, "drag.gif"):
+                play(desktop, vantle, pages, hand)
         vantle.stop()
-        write_animation(desktop, recording, seconds)
 
 
 def show_and_dismiss_one(desktop, vantle):
@@ -49,16 +43,6 @@ def show_and_dismiss_one(desktop, vantle):
     wait_until_still(lambda: desktop.screen.screenshot().tobytes(), "the card")
     vantle.command("--dismiss")
     wait_until(lambda: is_dismissed(desktop), "the card goes")
-
-
-def start_recorder(desktop, path):
-    recorder = desktop.start(
-        "ffmpeg", "-f", "x11grab", "-draw_mouse", "1", "-framerate", str(FRAMES_PER_SECOND),
-        "-video_size", f"{SIZE[0]}x{SIZE[1]}", "-i", desktop.environment["DISPLAY"],
-        "-c:v", "libx264rgb", "-preset", "ultrafast", "-qp", "0", str(path),
-    )  # fmt: skip
-    wait_until(lambda: path.exists() and path.stat().st_size > 0, "the recorder records")
-    return recorder
 
 
 def play(desktop, vantle, pages, hand):
@@ -90,16 +74,6 @@ def take_capture(desktop, vantle, hand):
     hand.glide((HEADER.right - 2, HEADER.bottom - 2), 0.9)
     hand.release()
     vantle.wait_for_log("captured ", times=2)
-
-
-def write_animation(desktop, recording, seconds):
-    """Writes the last `seconds` of the recording, which began before there was something to see."""
-    colours = (
-        "split[all][once];[once]palettegen=stats_mode=full[palette];"
-        "[all][palette]paletteuse=dither=sierra2_4a:diff_mode=rectangle"
-    )
-    desktop.run("ffmpeg", "-y", "-sseof", str(-seconds), "-i", str(recording), "-vf", colours,
-                "-loop", "0", str(PICTURES / "drag.gif"))
 
 
 if __name__ == "__main__":

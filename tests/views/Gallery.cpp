@@ -1,14 +1,15 @@
 // gallery FOLDER [LANGUAGE]
 //
 // Writes sheets of pictures at the scale in QT_SCALE_FACTOR: each scene of the card, light and
-// dark, over a light and a dark wallpaper; the steps of the onboarding and the settings, light and
-// dark.
+// dark, over a light and a dark wallpaper; the preview of each kind of capture, the steps of the
+// onboarding and the settings, light and dark.
 #include <QFont>
 #include <QGuiApplication>
 #include <QLinearGradient>
 #include <QPainter>
 #include <cstdio>
 
+#include "PreviewStage.h"
 #include "Scenes.h"
 #include "ScreenStage.h"
 #include "Updates.h"
@@ -19,7 +20,6 @@ namespace {
 
 using namespace vantle;
 
-constexpr int columns = 3;
 // The part of the panel to show, in points.
 constexpr QRect part(100, 20, 700, 310);
 
@@ -48,31 +48,52 @@ QImage paper(Wallpaper wallpaper, const QSize& size) {
     return picture;
 }
 
-QImage onPaper(const Scene& scene, const QImage& wallpaper) {
-    CardStage stage;
-    scene.set(stage);
-    const QImage panel = drawn(stage);
-    const double scale = panel.width() / static_cast<double>(stage.window().width());
+/// Returns `wallpaper` with a window above it, whose pixel at `offset` lies in its upper left
+/// corner.
+QImage onPaper(const QImage& window, const QPoint& offset, const QImage& wallpaper) {
     QImage picture = wallpaper;
     QPainter painter(&picture);
-    painter.drawImage(QPointF(-part.x() * scale, -part.y() * scale),
-                      QImage(panel.constBits(), panel.width(), panel.height(), panel.bytesPerLine(),
-                             QImage::Format_ARGB32_Premultiplied));
+    painter.drawImage(-offset, QImage(window.constBits(), window.width(), window.height(),
+                                      window.bytesPerLine(), QImage::Format_ARGB32_Premultiplied));
     return picture;
 }
 
-QImage sheet(Wallpaper wallpaper, double scale) {
-    const auto& scenes = allScenes();
-    const QSize cell = part.size() * scale;
-    const int rows = (static_cast<int>(scenes.size()) + columns - 1) / columns;
-    QImage picture(cell.width() * columns, cell.height() * rows, QImage::Format_RGB32);
-    picture.fill(Qt::gray);
-    QPainter painter(&picture);
-    const QImage background = paper(wallpaper, cell);
-    for (int i = 0; i < static_cast<int>(scenes.size()); ++i)
+/// Returns pictures of one size in rows.
+QImage arranged(const std::vector<QImage>& pictures, int columns) {
+    const QSize cell = pictures.front().size();
+    const int count = static_cast<int>(pictures.size());
+    const int rows = (count + columns - 1) / columns;
+    QImage sheet(cell.width() * columns, cell.height() * rows, QImage::Format_RGB32);
+    sheet.fill(Qt::gray);
+    QPainter painter(&sheet);
+    for (int i = 0; i < count; ++i)
         painter.drawImage(i % columns * cell.width(), i / columns * cell.height(),
-                          onPaper(scenes[static_cast<std::size_t>(i)], background));
-    return picture;
+                          pictures[static_cast<std::size_t>(i)]);
+    return sheet;
+}
+
+QImage cards(Wallpaper wallpaper, double scale) {
+    const QImage background = paper(wallpaper, part.size() * scale);
+    const QPoint offset(qRound(part.x() * scale), qRound(part.y() * scale));
+    std::vector<QImage> pictures;
+    for (const Scene& scene : allScenes()) {
+        CardStage stage;
+        scene.set(stage);
+        pictures.push_back(onPaper(drawn(stage), offset, background));
+    }
+    return arranged(pictures, 3);
+}
+
+QImage previews(Wallpaper wallpaper) {
+    std::vector<QImage> pictures;
+    for (const PreviewScene& scene : previewScenes()) {
+        PreviewStage stage;
+        scene.set(stage);
+        QImage picture = stage.picture();
+        picture.setDevicePixelRatio(1);
+        pictures.push_back(onPaper(picture, {}, paper(wallpaper, picture.size())));
+    }
+    return arranged(pictures, 2);
 }
 
 std::vector<QImage> screens() {
@@ -141,9 +162,11 @@ int main(int argc, char** argv) {
         desktop.look.set({.scheme = scheme});
         const QLatin1String looks(look);
         for (const Wallpaper wallpaper : {Wallpaper::light, Wallpaper::dark})
-            write(sheet(wallpaper, scale), QStringLiteral("%1/card-%2-on-%3@%4x.png")
+            write(cards(wallpaper, scale), QStringLiteral("%1/card-%2-on-%3@%4x.png")
                                                .arg(folder, looks, QLatin1String(name(wallpaper)))
                                                .arg(scale));
+        const auto own = scheme == ColorScheme::dark ? Wallpaper::dark : Wallpaper::light;
+        write(previews(own), QStringLiteral("%1/preview-%2@%3x.png").arg(folder, looks).arg(scale));
         write(screenSheet(scale),
               QStringLiteral("%1/screens-%2@%3x.png").arg(folder, looks).arg(scale));
         write(offer(), QStringLiteral("%1/update-%2@%3x.png").arg(folder, looks).arg(scale));
