@@ -39,10 +39,10 @@ def watches(pid):
     return count
 
 
-def descendants(pid):
-    """Returns the number of its running child processes."""
-    children = pathlib.Path("/proc", str(pid), "task").glob("*/children")
-    return sum(len(entry.read_text().split()) for entry in children)
+def children(pid):
+    """Returns its running child processes."""
+    lists = pathlib.Path("/proc", str(pid), "task").glob("*/children")
+    return [int(child) for entry in lists for child in entry.read_text().split()]
 
 
 def sharers(pid, library="libQt6Core"):

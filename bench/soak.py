@@ -180,7 +180,7 @@ class Soak:
             "captures": self._saved, "MiB": memory["all"], "anonymous": memory["anonymous"],
             "descriptors": readings.descriptors(pid), "threads": readings.threads(pid),
             "watches": readings.watches(pid), "names": self._remote.names_of(pid),
-            "processes": readings.descendants(pid), "sharers": len(readings.sharers(pid)),
+            "processes": len(readings.children(pid)), "sharers": len(readings.sharers(pid)),
         }  # fmt: skip
         self.samples.append(sample)
         print(json.dumps(sample), file=sys.stderr, flush=True)
