@@ -93,9 +93,9 @@ def test_a_click_beside_our_menu_closes_it_after_a_long_press(desktop, vantle):
 def test_menu_in_the_panel_of_lxqt(desktop, vantle, folder):
     start_lxqt_panel(desktop)
     icon = start_with_one_capture(desktop, vantle, folder, "bottom")
-    # The heading cannot be chosen, so the lines are: the capture, its folder, pause.
+    # The heading cannot be chosen, so the lines are: the capture, "Bring back", its folder, pause.
     open_menu_of_tray(desktop, icon)
-    choose_by_keys(desktop, 3)
+    choose_by_keys(desktop, 4)
     wait_until(lambda: state(vantle) == "state: paused", "it is paused")
     wait_until(icon.is_dim, "the icon is dimmed")
     open_menu_of_tray(desktop, icon)
