@@ -61,6 +61,7 @@ CapturePanelController::Services panelServices(
             .pasteboard = *platform.pasteboard,
             .sharing = *platform.sharing,
             .trash = *platform.trash,
+            .textReader = *platform.textReader,
             .spareMemory = *platform.spareMemory,
             .environment = platform.environment,
             .makePanel = makePanel,

@@ -52,6 +52,11 @@ CapturePanelController::CapturePanelController(Services services)
           {.scheduler = services_.scheduler, .state = state_, .reload = services_.reload})),
       trashed_(TrashedCaptures::create(
           {.scheduler = services_.scheduler, .trash = services_.trash, .state = state_})),
+      textCopy_(TextCopy::create({.scheduler = services_.scheduler,
+                                  .reader = services_.textReader,
+                                  .pasteboard = services_.pasteboard,
+                                  .state = state_,
+                                  .countdown = *countdown_})),
       renaming_({.files = services_.files, .state = state_, .countdown = *countdown_}),
       captureActions_(CaptureActions::create({.settings = services_.settings,
                                               .scheduler = services_.scheduler,
@@ -141,7 +146,7 @@ void CapturePanelController::createPanel() {
 }
 
 CardActions CapturePanelController::actions() {
-    return makeCardActions(shared_from_this(), *captureActions_, selection_, renaming_,
+    return makeCardActions(shared_from_this(), *captureActions_, *textCopy_, selection_, renaming_,
                            services_.opener);
 }
 
@@ -339,6 +344,7 @@ void CapturePanelController::dismiss() {
     });
     if (state_.visible.value()) departed_->remember(state_.captures.value());
     trashed_->endNotices();
+    textCopy_->stopAll();
     // The share menu points at the card, which is about to go.
     captureActions_->closeShareMenu();
     menus_->close();

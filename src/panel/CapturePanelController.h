@@ -15,6 +15,7 @@
 #include "panel/PanelState.h"
 #include "panel/Renaming.h"
 #include "panel/Selection.h"
+#include "panel/TextCopy.h"
 #include "panel/TrashedCaptures.h"
 #include "platform/ContextMenu.h"
 #include "platform/FileManager.h"
@@ -26,6 +27,7 @@
 #include "platform/Screens.h"
 #include "platform/SharingServicePicker.h"
 #include "platform/SpareMemory.h"
+#include "platform/TextReader.h"
 #include "platform/Trash.h"
 #include "settings/Settings.h"
 #include "support/Environment.h"
@@ -54,6 +56,7 @@ public:
         Pasteboard& pasteboard;
         SharingServicePicker& sharing;
         Trash& trash;
+        TextReader& textReader;
         SpareMemory& spareMemory;
         Environment environment;
         PanelFactory makePanel;
@@ -171,6 +174,7 @@ private:
     std::shared_ptr<Countdown> countdown_;
     std::shared_ptr<DepartedCaptures> departed_;
     std::shared_ptr<TrashedCaptures> trashed_;
+    std::shared_ptr<TextCopy> textCopy_;
     Renaming renaming_;
     std::shared_ptr<CaptureActions> captureActions_;
     std::shared_ptr<CardMenus> menus_;

@@ -59,6 +59,11 @@ struct CardActions {
     std::function<void(const Rect& anchor)> shareSelected;
     OnPanel revealSelected;
     std::function<void(const std::vector<CapturePointer>&)> copyPaths;
+    /// Returns true if the text in the capture's picture can be copied on this system.
+    std::function<bool(const CapturePointer&)> canCopyText;
+    /// Begins to copy the text of one page (from 0) to the clipboard.
+    std::function<void(const CapturePointer&, int page)> copyText;
+    OnCapture stopCopyingText;
     /// Opens the captures with a program that OpenWith has found.
     std::function<void(const std::vector<CapturePointer>&, const std::string& program)> openWith;
     /// Lets the user choose a program in a dialog of the desktop.

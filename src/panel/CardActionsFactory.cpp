@@ -26,8 +26,8 @@ void addMenuActions(CardActions& actions, const auto& weak, CapturePanelControll
 }  // namespace
 
 CardActions makeCardActions(const std::shared_ptr<CapturePanelController>& controller,
-                            CaptureActions& captures, Selection& selection, Renaming& renaming,
-                            FileOpener& opener) {
+                            CaptureActions& captures, TextCopy& texts, Selection& selection,
+                            Renaming& renaming, FileOpener& opener) {
     // The controller owns the parts, so they live as long as it does.
     const auto weak = [&controller](auto& part, auto operation) {
         return weakly(controller, [&part, operation](auto&, const auto&... arguments) {
@@ -70,6 +70,12 @@ CardActions makeCardActions(const std::shared_ptr<CapturePanelController>& contr
     actions.undo = weak(*controller, &CapturePanelController::undo);
     actions.preview = weak(*controller, &CapturePanelController::preview);
     actions.undoTrash = weak(*controller, &CapturePanelController::undoTrash);
+    actions.canCopyText = [held, &texts](const CapturePointer& capture) {
+        const auto owner = held.lock();
+        return owner && texts.canCopy(capture);
+    };
+    actions.copyText = weak(texts, &TextCopy::copy);
+    actions.stopCopyingText = weak(texts, &TextCopy::stop);
     addMenuActions(actions, weak, *controller, captures, selection, renaming);
     return actions;
 }

@@ -104,6 +104,7 @@ Menu CardMenus::menuOfOne(const CapturePointer& capture, const Rect& inContent,
     menu.items.push_back(action(localized("CardMenus", "Copy"), on(actions.copy)));
     menu.items.push_back(action(localized("CardMenus", "Copy Path"),
                                 [act = actions.copyPaths, capture] { act({capture}); }));
+    addCopyText(menu, capture);
     menu.items.push_back(
         action(localized("CardMenus", "Share…"),
                [act = actions.share, capture, inContent] { act(capture, inContent); }));
@@ -143,6 +144,17 @@ Menu CardMenus::menuOfSelection(const Captures& captures, const Rect& inContent,
     menu.items.push_back(separator());
     menu.items.push_back(action(localized("CardMenus", "Move to Trash"), actions.trashSelected));
     return menu;
+}
+
+void CardMenus::addCopyText(Menu& menu, const CapturePointer& capture) const {
+    const CardActions actions = services_.actions();
+    if (!actions.canCopyText(capture)) return;
+    const auto& all = services_.state.textCopying.value();
+    const auto found = all.find(capture->id());
+    const bool isBeingRead = found != all.end() && found->second.notice.empty();
+    menu.items.push_back(action(
+        localized("CardMenus", "Copy Text"), [act = actions.copyText, capture] { act(capture, 0); },
+        !isBeingRead));
 }
 
 void CardMenus::addOpenWith(Menu& menu, const Captures& captures,

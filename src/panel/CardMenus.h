@@ -71,6 +71,8 @@ private:
                    const OpeningPrograms& programs) const;
     Menu menuOfSelection(const Captures& captures, const Rect& inContent,
                          const OpeningPrograms& programs) const;
+    /// Adds the line unless text cannot be copied here.
+    void addCopyText(Menu& menu, const CapturePointer& capture) const;
     void addOpenWith(Menu& menu, const Captures& captures, const OpeningPrograms& programs) const;
     void addPin(Menu& menu, const Captures& captures) const;
     void addSelectAll(Menu& menu) const;

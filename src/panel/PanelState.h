@@ -45,6 +45,13 @@ public:
         std::string refusal;  ///< Empty until a name is refused.
     };
     Published<std::optional<Renaming>> renaming{std::nullopt};
+    /// The text of a capture that is being copied, or was copied a moment ago.
+    struct TextCopying {
+        double fraction = 0;  ///< How much of the picture is read, 0 to 1.
+        std::string notice;   ///< What became of it, for the user; empty while it is being read.
+        friend bool operator==(const TextCopying&, const TextCopying&) = default;
+    };
+    Published<std::map<UUID, TextCopying>> textCopying{{}};
     Published<double> progress{1.0};  ///< The part of the countdown that is left, 0 to 1.
 
     /// Copied from the setting whenever the panel is placed; cannot be observed.

@@ -26,6 +26,9 @@ struct PreviewActions {
     Action open;
     Action copy;
     Action trash;
+    /// Copies the text of the page that is shown.
+    Action copyText;
+    Action stopCopyingText;
     std::function<std::vector<DragItem>()> dragItems;
     Action dragBegan;
     std::function<void(bool completed, const std::vector<Url>& urls)> dragEnded;

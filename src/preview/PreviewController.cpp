@@ -64,6 +64,8 @@ void PreviewController::connect() {
     subscriptions_.push_back(card.visible.observeChanges([this](bool isVisible) {
         if (!isVisible) close();
     }));
+    subscriptions_.push_back(
+        card.textCopying.observeChanges([this](const TextsBeingCopied& all) { followText(all); }));
 }
 
 void PreviewController::open(const UUID& captureID) {
@@ -98,6 +100,9 @@ PreviewActions PreviewController::makeActions() {
     actions.open = weakly(self, [act = card.open](auto& preview) { preview.act(act); });
     actions.copy = weakly(self, [act = card.copy](auto& preview) { preview.act(act); });
     actions.trash = weakly(self, [act = card.trash](auto& preview) { preview.act(act); });
+    actions.copyText = weakly(self, [](auto& preview) { preview.copyText(); });
+    actions.stopCopyingText =
+        weakly(self, [act = card.stopCopyingText](auto& preview) { preview.act(act); });
     actions.dragItems = [weak = weak_from_this(), items = card.dragItems] {
         const auto preview = weak.lock();
         return preview ? items(preview->state_.capture.value()) : std::vector<DragItem>{};
@@ -110,6 +115,19 @@ PreviewActions PreviewController::makeActions() {
 
 void PreviewController::act(const CardActions::OnCapture& action) {
     if (isOpen()) action(CapturePointer(state_.capture.value()));
+}
+
+void PreviewController::copyText() {
+    const int page = state_.facts.value().page;
+    act([copy = services_.card.actions().copyText, page](const CapturePointer& capture) {
+        copy(capture, page);
+    });
+}
+
+void PreviewController::followText(const TextsBeingCopied& all) {
+    if (!state_.capture.value()) return;
+    const auto found = all.find(state_.capture.value()->id());
+    state_.textCopying.set(found == all.end() ? std::nullopt : std::optional(found->second));
 }
 
 void PreviewController::close() {
@@ -174,6 +192,8 @@ void PreviewController::show(const CapturePointer& capture, const Captures& capt
     state_.zoom.set(fittedZoom(capture->pixelSize(), isVector));
     state_.tile.set(tileInWindow(capture->id()));
     state_.capture.set(capture);
+    state_.canCopyText.set(services_.card.actions().canCopyText(capture));
+    followText(services_.card.state.textCopying.value());
     Debug::log([&] { return "preview shows " + capture->fileName(); });
     load(0);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -64,12 +65,15 @@ public:
 
 private:
     using Captures = std::vector<CapturePointer>;
+    using TextsBeingCopied = std::map<UUID, PanelState::TextCopying>;
 
     explicit PreviewController(Services services);
 
     void connect();
     PreviewActions makeActions();
     void act(const CardActions::OnCapture& action);
+    void copyText();
+    void followText(const TextsBeingCopied& all);
     /// Follows what has come to or left the card.
     void captured(const Captures& captures);
     void show(const CapturePointer& capture, const Captures& captures);

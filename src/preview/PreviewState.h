@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "capture/Capture.h"
+#include "panel/PanelState.h"
 #include "preview/PreviewZoom.h"
 #include "support/Geometry.h"
 #include "support/Published.h"
@@ -34,6 +35,10 @@ public:
     Published<ImagePointer> picture{nullptr};
     Published<bool> cannotBeDrawn{false};
     Published<PreviewZoom> zoom{{}};
+    /// True if the text in the capture's picture can be copied on this system.
+    Published<bool> canCopyText{false};
+    /// Present while the text of the capture is being copied, and for a while afterwards.
+    Published<std::optional<PanelState::TextCopying>> textCopying{std::nullopt};
     /// The frame of the capture's tile, from which the preview grows and into which it goes back;
     /// absent if the tile is out of sight. In the preview's window, y downwards.
     Published<std::optional<Rect>> tile{std::nullopt};

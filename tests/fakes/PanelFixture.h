@@ -15,6 +15,7 @@
 #include "fakes/FakeScreens.h"
 #include "fakes/FakeSharingServicePicker.h"
 #include "fakes/FakeSpareMemory.h"
+#include "fakes/FakeTextReader.h"
 #include "fakes/FakeTrash.h"
 #include "fakes/SettingsOnFakes.h"
 #include "panel/CapturePanelController.h"
@@ -72,6 +73,7 @@ protected:
     FakePasteboard pasteboard{files};
     FakeSharingServicePicker sharing;
     FakeTrash trash{scheduler, files};
+    FakeTextReader textReader{scheduler};
     FakeOpenWith openWith{scheduler};
     FakeContextMenu contextMenu;
     FakeSpareMemory spareMemory;
@@ -95,6 +97,7 @@ private:
              .pasteboard = pasteboard,
              .sharing = sharing,
              .trash = trash,
+             .textReader = textReader,
              .spareMemory = spareMemory,
              .environment = environment,
              .makePanel =

@@ -23,6 +23,7 @@
 #include "fakes/FakeSharingServicePicker.h"
 #include "fakes/FakeSpareMemory.h"
 #include "fakes/FakeStatusItem.h"
+#include "fakes/FakeTextReader.h"
 #include "fakes/FakeTrash.h"
 #include "fakes/FakeUserDefaults.h"
 #include "fakes/FakeWindow.h"
@@ -89,6 +90,7 @@ protected:
         platform.sharing = std::make_unique<fakes::FakeSharingServicePicker>();
         contextMenu = add(platform.contextMenu, std::make_unique<fakes::FakeContextMenu>());
         platform.trash = std::make_unique<fakes::FakeTrash>(*scheduler, *files);
+        platform.textReader = std::make_unique<fakes::FakeTextReader>(*scheduler);
         statusItem = add(platform.statusItem, std::make_unique<fakes::FakeStatusItem>());
         alerts = add(platform.alerts, std::make_unique<fakes::FakeAlerts>());
         privacySettings =

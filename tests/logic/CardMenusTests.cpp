@@ -46,8 +46,8 @@ protected:
 TEST_F(CardMenusTest, ACaptureHasItsActionsInOrder) {
     openMenu(show({"a"})[0]);
     EXPECT_THAT(titles(), ElementsAre("Open", "Open With", "Preview", "-", "Copy", "Copy Path",
-                                      "Share…", "Reveal in Finder", "-", "Rename…", "Select All",
-                                      "-", "Move to Trash"));
+                                      "Copy Text", "Share…", "Reveal in Finder", "-", "Rename…",
+                                      "Select All", "-", "Move to Trash"));
     EXPECT_EQ(contextMenu.menu.current, -1);
 }
 
@@ -139,6 +139,37 @@ TEST_F(CardMenusTest, LinesActOnTheCapture) {
     openMenu(shown[0]);
     choose("Move to Trash");
     EXPECT_THAT(shownNames(), ElementsAre("b.png"));
+}
+
+TEST_F(CardMenusTest, CopyTextIsAbsentIfTextCannotBeRecognized) {
+    const auto shown = show({"a"});
+    textReader.available = false;
+    openMenu(shown[0]);
+    EXPECT_THAT(titles(), testing::Not(testing::Contains("Copy Text")));
+}
+
+TEST_F(CardMenusTest, ARecordingHasNoTextToCopy) {
+    const auto shown = recording("a");
+    showAll({shown});
+    openMenu(shown);
+    EXPECT_THAT(titles(), testing::Contains("Copy Path"));
+    EXPECT_THAT(titles(), testing::Not(testing::Contains("Copy Text")));
+}
+
+TEST_F(CardMenusTest, CopyTextReadsTheFirstPageAndIsOffMeanwhile) {
+    const auto shown = show({"a"});
+    textReader.addText(shown[0]->url(), "Hello");
+    openMenu(shown[0]);
+    EXPECT_TRUE(line("Copy Text").isEnabled);
+    choose("Copy Text");
+    EXPECT_THAT(textReader.requests, ElementsAre(std::pair(shown[0]->url(), 0)));
+    openMenu(shown[0]);
+    EXPECT_FALSE(line("Copy Text").isEnabled);
+    contextMenu.close();
+    wait(2);
+    EXPECT_THAT(pasteboard.contents(), ElementsAre("text Hello"));
+    openMenu(shown[0]);
+    EXPECT_TRUE(line("Copy Text").isEnabled);
 }
 
 TEST_F(CardMenusTest, SpeaksOfTheSelectionIfTheCaptureBelongsToIt) {

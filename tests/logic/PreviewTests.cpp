@@ -370,5 +370,59 @@ TEST_F(PreviewTest, AppearsOnTheScreenOfItsTile) {
     EXPECT_THAT(window.frames, ElementsAre(screens.screens[1].visibleFrame));
 }
 
+TEST_F(PreviewTest, CopiesTheTextOfThePageThatIsShown) {
+    const auto document = drawn("d.pdf", {800, 600});
+    media.addDocument(document->url(), {{800, 600}, {800, 600}, {800, 600}});
+    textReader.addText(document->url(), "Hello");
+    showAll({document});
+    open(document);
+    EXPECT_TRUE(preview().state().canCopyText.value());
+    buttons.stepPage(1);
+    time.settle();
+    buttons.copyText();
+    EXPECT_THAT(textReader.requests, ElementsAre(std::pair(document->url(), 1)));
+}
+
+TEST_F(PreviewTest, FollowsTheTextOfItsCapture) {
+    const auto& text = preview().state().textCopying;
+    textReader.addText(a->url(), "Hello");
+    showAll({a, b});
+    actions.copyText(a, 0);
+    wait(1);
+    open(a);
+    EXPECT_EQ(text.value(), (PanelState::TextCopying{.fraction = 0.5, .notice = ""}));
+    wait(1);
+    EXPECT_EQ(text.value()->notice, "Copied 1 word");
+    preview().step(1);
+    EXPECT_EQ(text.value(), std::nullopt);
+    preview().step(-1);
+    EXPECT_EQ(text.value()->notice, "Copied 1 word");
+    wait(3);
+    EXPECT_EQ(text.value(), std::nullopt);
+}
+
+TEST_F(PreviewTest, StopsCopyingTheText) {
+    textReader.addText(a->url(), "Hello");
+    showAll({a});
+    open(a);
+    buttons.copyText();
+    buttons.stopCopyingText();
+    EXPECT_EQ(preview().state().textCopying.value(), std::nullopt);
+    wait(60);
+    EXPECT_THAT(pasteboard.contents(), IsEmpty());
+}
+
+TEST_F(PreviewTest, KnowsWhetherTextCanBeCopied) {
+    const auto film = drawn("film.mov", {800, 600});
+    showAll({a, film});
+    open(film);
+    EXPECT_FALSE(preview().state().canCopyText.value());
+    preview().step(-1);
+    EXPECT_TRUE(preview().state().canCopyText.value());
+    textReader.available = false;
+    open(a);
+    EXPECT_FALSE(preview().state().canCopyText.value());
+}
+
 }  // namespace
 }  // namespace vantle
