@@ -29,6 +29,10 @@ FocusScope {
     // What takes the place of the tile after its file was moved to the Trash; otherwise empty.
     required property string trashNotice
     required property bool canUndoTrash
+    // The text in its picture is being copied, or a notice says what became of it.
+    required property bool isReadingText
+    required property real textProgress
+    required property string textNotice
 
     // True if the tile is new in the row and must grow into it.
     required property bool animatesIn
@@ -61,7 +65,7 @@ FocusScope {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: isRecording && durationText !== "" ? qsTr("%1, recording, %2").arg(fileName).arg(durationText) : fileName
-    Accessible.description: isTrashed ? trashNotice : isMissing ? qsTr("The file is gone") : isPinned ? qsTr("Pinned") : ""
+    Accessible.description: isTrashed ? trashNotice : isReadingText ? qsTr("Copying text") : textNotice !== "" ? textNotice : isMissing ? qsTr("The file is gone") : isPinned ? qsTr("Pinned") : ""
     Accessible.selectable: true
     Accessible.selected: isSelected
     Accessible.focusable: true
@@ -147,6 +151,15 @@ FocusScope {
         cornerRadius: CardLayout.thumbnailCornerRadius - anchors.margins
     }
 
+    TileTextCopy {
+        anchors.fill: picture
+        panel: tile.panel
+        captureId: tile.captureId
+        isReading: tile.isReadingText
+        progress: tile.textProgress
+        notice: tile.textNotice
+    }
+
     CornerMark {
         x: tile.width - width
         isSelected: tile.isSelected
@@ -166,7 +179,7 @@ FocusScope {
         extension: tile.extension
         refusal: tile.refusal
         isAttended: tile.isAttended
-        hasActions: tile.compact && tile.panel.selectedCount === 0
+        hasActions: tile.compact && tile.panel.selectedCount === 0 && !tile.isReadingText
         canClose: !tile.isSelected
         visibleLeft: tile.visibleLeft - tile.x
         visibleRight: tile.visibleRight - tile.x

@@ -7,4 +7,5 @@ HoverHandler {
     required property string help
 
     onHoveredChanged: Help.follow(parent, hovered, help)
+    onHelpChanged: if (hovered) Help.follow(parent, hovered, help)
 }

@@ -53,6 +53,7 @@ void CardStage::recordRequests() {
         asked.push_back("menu");
         menuRequest = request;
     };
+    actions.stopCopyingText = onCapture("stop copying text of");
     actions.undo = onPanel("undo");
     actions.preview = onCapture("preview");
     actions.undoTrash = [this](const UUID& id) { asked.push_back("undo trash " + id.text()); };

@@ -44,6 +44,8 @@ PreviewActions PreviewStage::recordedActions() {
     actions.open = onRequest("open");
     actions.copy = onRequest("copy");
     actions.trash = onRequest("trash");
+    actions.copyText = onRequest("copy text");
+    actions.stopCopyingText = onRequest("stop copying text");
     actions.dragItems = [] { return std::vector<DragItem>{}; };
     actions.dragBegan = onRequest("drag began");
     actions.dragEnded = [this](bool completed, const std::vector<Url>&) {
@@ -129,6 +131,27 @@ const std::vector<PreviewScene>& previewScenes() {
          [](PreviewStage& stage) {
              stage.show(capture("Paper", {595, 842}, stage.clock.now()),
                         {.count = 1, .page = 1, .pageCount = 7, .isVector = true, .bytes = 54'321});
+         }},
+        {"text-reading",
+         [](PreviewStage& stage) {
+             stage.state.canCopyText.set(true);
+             stage.state.textCopying.set(PanelState::TextCopying{.fraction = 0.4, .notice = ""});
+             stage.show(capture("Screenshot from 2026-11-21", {1200, 700}, stage.clock.now()),
+                        {.position = 2, .count = 5, .bytes = 1'234'567});
+         }},
+        {"text-copied",
+         [](PreviewStage& stage) {
+             stage.state.canCopyText.set(true);
+             stage.state.textCopying.set(
+                 PanelState::TextCopying{.fraction = 1, .notice = "Copied 12 words"});
+             stage.show(capture("Screenshot from 2026-11-21", {1200, 700}, stage.clock.now()),
+                        {.position = 2, .count = 5, .bytes = 1'234'567});
+         }},
+        {"text-tiny",
+         [](PreviewStage& stage) {
+             stage.state.canCopyText.set(true);
+             stage.show(capture("Icon", {48, 32}, stage.clock.now()),
+                        {.position = 1, .count = 2, .page = 0, .pageCount = 3, .bytes = 321});
          }},
         {"unreadable",
          [](PreviewStage& stage) {

@@ -2,6 +2,8 @@
 
 #include <QQuickWindow>
 
+#include "support/Localization.h"
+
 namespace vantle {
 namespace {
 
@@ -39,6 +41,17 @@ void select(CardStage& stage, const std::vector<std::size_t>& positions) {
 
 void hoverTile(CardStage& stage, std::size_t position) {
     stage.hover(stage.frame(*stage.tile(position)).center() - QPointF(0, 20));
+}
+
+std::string copiedWords(const char* count) {
+    return filled(localized("TextCopy", "Copied %1 words"), {count});
+}
+
+void setText(CardStage& stage, std::size_t position, PanelState::TextCopying copying) {
+    auto all = stage.state.textCopying.value();
+    all[stage.state.captures.value()[position]->id()] = std::move(copying);
+    stage.state.textCopying.set(std::move(all));
+    stage.rest();
 }
 
 }  // namespace
@@ -82,6 +95,29 @@ const std::vector<Scene>& allScenes() {
              const auto shown = stage.state.captures.value();
              stage.trash(shown[1], TrashNotice::notPutBack);
              stage.trash(shown[3], TrashNotice::notMoved);
+         }},
+        {"text-reading",
+         [](CardStage& stage) {
+             showShots(stage, 3);
+             setText(stage, 1, {.fraction = 0.4, .notice = ""});
+             hoverTile(stage, 1);
+         }},
+        {"text-reading-one",
+         [](CardStage& stage) {
+             showShots(stage, 1);
+             setText(stage, 0, {.fraction = 0.8, .notice = ""});
+         }},
+        {"text-copied",
+         [](CardStage& stage) {
+             showShots(stage, 4);
+             setText(stage, 0, {.fraction = 1, .notice = copiedWords("12")});
+             setText(stage, 1, {.fraction = 1, .notice = localized("TextCopy", "No text found")});
+             setText(stage, 2, {.fraction = 0, .notice = ""});
+             setText(stage, 3,
+                     {.fraction = 1,
+                      .notice = localized("TextReader",
+                                          "The program that recognizes text ended unexpectedly.")});
+             hoverTile(stage, 0);
          }},
         {"marquee",
          [](CardStage& stage) {

@@ -59,6 +59,10 @@ QVariant CaptureListModel::data(const QModelIndex& index, int role) const {
         case trashNoticeRole:
         case canUndoTrashRole:
             return noticeData(capture.id(), role);
+        case isReadingTextRole:
+        case textProgressRole:
+        case textNoticeRole:
+            return textData(capture.id(), role);
         default:
             return markData(capture.id(), role);
     }
@@ -86,6 +90,19 @@ QVariant CaptureListModel::noticeData(const UUID& id, int role) const {
     return found == notices_.end() ? QString() : trashNoticeText(found->second);
 }
 
+QVariant CaptureListModel::textData(const UUID& id, int role) const {
+    const auto found = textCopying_.find(id);
+    const auto text = found == textCopying_.end() ? std::nullopt : std::optional(found->second);
+    switch (role) {
+        case isReadingTextRole:
+            return text && text->notice.empty();
+        case textProgressRole:
+            return text ? text->fraction : 0.0;
+        default:
+            return text ? QString::fromStdString(text->notice) : QString();
+    }
+}
+
 QVariant CaptureListModel::markData(const UUID& id, int role) const {
     switch (role) {
         case isSelectedRole:
@@ -102,16 +119,18 @@ QVariant CaptureListModel::markData(const UUID& id, int role) const {
 }
 
 QHash<int, QByteArray> CaptureListModel::roleNames() const {
-    return {{captureIdRole, "captureId"},       {fileNameRole, "fileName"},
-            {positionRole, "position"},         {tileXRole, "tileX"},
-            {tileWidthRole, "tileWidth"},       {thumbnailHeightRole, "thumbnailHeight"},
-            {hasThumbnailRole, "hasThumbnail"}, {isRecordingRole, "isRecording"},
-            {durationTextRole, "durationText"}, {isSelectedRole, "isSelected"},
-            {isPinnedRole, "isPinned"},         {isCopiedRole, "isCopied"},
-            {isMissingRole, "isMissing"},       {isLeavingRole, "isLeaving"},
-            {isRenamingRole, "isRenaming"},     {changeableNameRole, "changeableName"},
-            {extensionRole, "extension"},       {refusalRole, "refusal"},
-            {trashNoticeRole, "trashNotice"},   {canUndoTrashRole, "canUndoTrash"}};
+    return {{captureIdRole, "captureId"},         {fileNameRole, "fileName"},
+            {positionRole, "position"},           {tileXRole, "tileX"},
+            {tileWidthRole, "tileWidth"},         {thumbnailHeightRole, "thumbnailHeight"},
+            {hasThumbnailRole, "hasThumbnail"},   {isRecordingRole, "isRecording"},
+            {durationTextRole, "durationText"},   {isSelectedRole, "isSelected"},
+            {isPinnedRole, "isPinned"},           {isCopiedRole, "isCopied"},
+            {isMissingRole, "isMissing"},         {isLeavingRole, "isLeaving"},
+            {isRenamingRole, "isRenaming"},       {changeableNameRole, "changeableName"},
+            {extensionRole, "extension"},         {refusalRole, "refusal"},
+            {trashNoticeRole, "trashNotice"},     {canUndoTrashRole, "canUndoTrash"},
+            {isReadingTextRole, "isReadingText"}, {textProgressRole, "textProgress"},
+            {textNoticeRole, "textNotice"}};
 }
 
 void CaptureListModel::setTiles(const std::vector<CapturePointer>& captures,
@@ -205,6 +224,11 @@ void CaptureListModel::setRenaming(const std::optional<PanelState::Renaming>& re
 void CaptureListModel::setMissing(const std::optional<UUID>& missing) {
     missing_ = missing;
     announce({isMissingRole});
+}
+
+void CaptureListModel::setTextCopying(const std::map<UUID, PanelState::TextCopying>& all) {
+    textCopying_ = all;
+    announce({isReadingTextRole, textProgressRole, textNoticeRole});
 }
 
 void CaptureListModel::forget(const QString& captureId) {

@@ -45,6 +45,9 @@ public:
         trashNoticeRole,     ///< The text of the notice that replaces the tile; empty if there is
                              ///< none.
         canUndoTrashRole,    ///< The file is in the Trash and can come back.
+        isReadingTextRole,   ///< The text in its picture is being copied.
+        textProgressRole,    ///< How much of its picture is read, 0 to 1.
+        textNoticeRole,      ///< What became of its text; empty if there is nothing to say.
         isLeavingRole,
     };
 
@@ -62,6 +65,7 @@ public:
     void setCopied(const std::optional<UUID>& copied);
     void setRenaming(const std::optional<PanelState::Renaming>& renaming);
     void setMissing(const std::optional<UUID>& missing);
+    void setTextCopying(const std::map<UUID, PanelState::TextCopying>& all);
 
     /// Removes the row of a capture that has been shown leaving. Does nothing if the capture is
     /// back.
@@ -90,6 +94,7 @@ private:
     std::vector<CapturePointer> withTrashed(std::vector<CapturePointer> captures) const;
     QVariant nameData(const Capture& capture, int role) const;
     QVariant noticeData(const UUID& id, int role) const;
+    QVariant textData(const UUID& id, int role) const;
     std::vector<Row> layOut() const;
     void markLeaving();
     void updateRows(std::vector<Row> staying);
@@ -107,6 +112,7 @@ private:
     std::optional<UUID> copied_;
     std::optional<UUID> missing_;
     std::optional<PanelState::Renaming> renaming_;
+    std::map<UUID, PanelState::TextCopying> textCopying_;
 };
 
 }  // namespace vantle

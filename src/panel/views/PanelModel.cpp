@@ -48,6 +48,8 @@ void PanelModel::observeCaptures() {
         state.missingID.observe([this](const auto& missing) { captures_.setMissing(missing); }));
     subscriptions_.push_back(
         state.renaming.observe([this](const auto& renaming) { captures_.setRenaming(renaming); }));
+    subscriptions_.push_back(
+        state.textCopying.observe([this](const auto& all) { captures_.setTextCopying(all); }));
     subscriptions_.push_back(state.selected.observe([this](const auto& selected) {
         captures_.setSelected(selected);
         emit selectedCountChanged();
@@ -265,6 +267,10 @@ void PanelModel::undo() {
 void PanelModel::undoTrash(const QString& captureId) {
     if (const auto capture = captures_.capture(captureId))
         context_.actions.undoTrash(capture->id());
+}
+
+void PanelModel::stopCopyingText(const QString& captureId) {
+    perform(context_.actions.stopCopyingText, captureId);
 }
 
 void PanelModel::preview(const QString& captureId) {

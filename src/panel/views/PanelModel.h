@@ -146,6 +146,7 @@ public:
     Q_INVOKABLE void undo();
     /// Brings the file of a capture with a notice back from the Trash.
     Q_INVOKABLE void undoTrash(const QString& captureId);
+    Q_INVOKABLE void stopCopyingText(const QString& captureId);
     Q_INVOKABLE void preview(const QString& captureId);
 
 signals:

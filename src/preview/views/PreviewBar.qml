@@ -78,6 +78,11 @@ Item {
             onAction: bar.preview.copy()
         }
 
+        TextCopyButton {
+            preview: bar.preview
+            visible: bar.preview.canCopyText
+        }
+
         TapIcon {
             symbol: "trash"
             help: qsTr("Move to Trash")

@@ -43,6 +43,8 @@ void PreviewModel::observe() {
     follow(state.facts, facts_, &PreviewModel::factsChanged);
     follow(state.cannotBeDrawn, cannotBeDrawn_, &PreviewModel::cannotBeDrawnChanged);
     follow(state.zoom, zoom_, &PreviewModel::zoomChanged);
+    follow(state.canCopyText, canCopyText_, &PreviewModel::canCopyTextChanged);
+    follow(state.textCopying, text_, &PreviewModel::textChanged);
     follow(state.tile, tile_, &PreviewModel::tileChanged);
     subscriptions_.push_back(state.picture.observe([this](const ImagePointer& picture) {
         picture_ = picture;

@@ -51,6 +51,11 @@ class PreviewModel : public vantle::DragSource {  // the linter needs the full n
     /// False if the whole picture is shown in its real pixels already.
     Q_PROPERTY(bool hasOtherZoom READ hasOtherZoom NOTIFY zoomChanged)
     Q_PROPERTY(bool isDragging READ isDragging NOTIFY isDraggingChanged)
+    Q_PROPERTY(bool canCopyText READ canCopyText NOTIFY canCopyTextChanged)
+    /// The text is being read; how much of the picture is done, and what became of it in the end.
+    Q_PROPERTY(bool isReadingText READ isReadingText NOTIFY textChanged)
+    Q_PROPERTY(double textProgress READ textProgress NOTIFY textChanged)
+    Q_PROPERTY(QString textNotice READ textNotice NOTIFY textChanged)
     Q_PROPERTY(double margin READ margin CONSTANT)
     Q_PROPERTY(double barHeight READ barHeight CONSTANT)
 
@@ -87,6 +92,10 @@ public:
     bool isReal() const { return zoom_.isReal(); }
     bool hasOtherZoom() const { return !zoom_.isReal() || !zoom_.isFitted(); }
     bool isDragging() const { return isDragging_; }
+    bool canCopyText() const { return canCopyText_; }
+    bool isReadingText() const { return text_ && text_->notice.empty(); }
+    double textProgress() const { return text_ ? text_->fraction : 0; }
+    QString textNotice() const { return text_ ? QString::fromStdString(text_->notice) : QString(); }
     static double margin();
     static double barHeight();
 
@@ -105,6 +114,8 @@ public:
     Q_INVOKABLE void open() { context_.actions.open(); }
     Q_INVOKABLE void copy() { context_.actions.copy(); }
     Q_INVOKABLE void trash() { context_.actions.trash(); }
+    Q_INVOKABLE void copyText() { context_.actions.copyText(); }
+    Q_INVOKABLE void stopCopyingText() { context_.actions.stopCopyingText(); }
     /// Places count from the middle of the area.
     Q_INVOKABLE void toggleRealPixels(const QPointF& anchor);
     Q_INVOKABLE void zoomBy(double factor, const QPointF& anchor);
@@ -118,6 +129,8 @@ signals:
     void factsChanged();
     void tileChanged();
     void zoomChanged();
+    void canCopyTextChanged();
+    void textChanged();
     void isDraggingChanged();
 
 private:
@@ -127,6 +140,8 @@ private:
     bool isOpen_ = false;
     bool cannotBeDrawn_ = false;
     bool isDragging_ = false;
+    bool canCopyText_ = false;
+    std::optional<PanelState::TextCopying> text_;
     CapturePointer capture_;
     ImagePointer picture_;
     int pictureNumber_ = 0;  ///< Distinguishes the pictures, which may be of the same capture.

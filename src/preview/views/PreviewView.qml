@@ -101,6 +101,15 @@ FocusScope {
             onTapped: view.preview.step(1)
         }
 
+        TextCopyNotice {
+            x: picture.x
+            y: picture.y + picture.height - height
+            width: picture.width
+            height: Math.min(64, picture.height)
+            notice: view.preview.textNotice
+            visible: view.growth > 0.5
+        }
+
         PreviewBar {
             x: view.preview.margin + 6
             y: picture.y + picture.height
