@@ -47,6 +47,8 @@ FocusScope {
     // True while the pointer is on another tile's actions, which extend over this one.
     property bool isUnderOtherActions: false
     readonly property bool isActionsHovered: controls.areActionsHovered
+    // What the middle of the thumbnail shows of its text, in words.
+    readonly property string textState: isReadingText ? qsTr("Copying text") : textNotice
     readonly property bool isTrashed: trashNotice !== ""
     readonly property bool isAttended: (hovering || activeFocus) && !isLeaving && !isTrashed
     // How far the tile is above or below its place, because the fingers move it.
@@ -65,7 +67,7 @@ FocusScope {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: isRecording && durationText !== "" ? qsTr("%1, recording, %2").arg(fileName).arg(durationText) : fileName
-    Accessible.description: isTrashed ? trashNotice : isReadingText ? qsTr("Copying text") : textNotice !== "" ? textNotice : isMissing ? qsTr("The file is gone") : isPinned ? qsTr("Pinned") : ""
+    Accessible.description: isTrashed ? trashNotice : textState !== "" ? textState : isMissing ? qsTr("The file is gone") : isPinned ? qsTr("Pinned") : ""
     Accessible.selectable: true
     Accessible.selected: isSelected
     Accessible.focusable: true
@@ -179,7 +181,7 @@ FocusScope {
         extension: tile.extension
         refusal: tile.refusal
         isAttended: tile.isAttended
-        hasActions: tile.compact && tile.panel.selectedCount === 0 && !tile.isReadingText
+        hasActions: tile.compact && tile.panel.selectedCount === 0 && tile.textState === ""
         canClose: !tile.isSelected
         visibleLeft: tile.visibleLeft - tile.x
         visibleRight: tile.visibleRight - tile.x

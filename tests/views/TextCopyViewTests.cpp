@@ -149,12 +149,17 @@ TEST_F(TextOnATileTest, ARingThatFadesOutTakesNoClicks) {
     EXPECT_THAT(asked, testing::Not(testing::Contains("stop copying text of a.png")));
 }
 
-TEST_F(TextOnATileTest, TheActionsMakeRoomForTheRing) {
+TEST_F(TextOnATileTest, TheActionsMakeRoomForTheRingAndItsNotice) {
     hover(*tile(0));
     EXPECT_TRUE(item("HoverBar", tile(0))->isVisible());
-    set(a, reading(0.2));
+    for (const auto& copying : {reading(0.2), read("Copied 12 words")}) {
+        set(a, copying);
+        rest();
+        EXPECT_FALSE(item("HoverBar", tile(0))->isVisible());
+    }
+    state.textCopying.set({});
     rest();
-    EXPECT_FALSE(item("HoverBar", tile(0))->isVisible());
+    EXPECT_TRUE(item("HoverBar", tile(0))->isVisible());
 }
 
 TEST_F(TextOnATileTest, ALongNoticeStaysOnItsTile) {
