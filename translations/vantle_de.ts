@@ -149,6 +149,10 @@
         <source>The file is gone</source>
         <translation>Die Datei ist nicht mehr da</translation>
     </message>
+    <message>
+        <source>Copying text</source>
+        <translation>Text wird kopiert</translation>
+    </message>
 </context>
 <context>
     <name>CardMenus</name>
@@ -227,6 +231,10 @@
     <message>
         <source>Select All</source>
         <translation>Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Copy Text</source>
+        <translation>Text kopieren</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1038,39 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
     <message>
         <source>Bring back</source>
         <translation>Zurückholen</translation>
+    </message>
+</context>
+<context>
+    <name>TextCopy</name>
+    <message>
+        <source>Copied 1 word</source>
+        <translation>1 Wort kopiert</translation>
+    </message>
+    <message>
+        <source>Copied %1 words</source>
+        <translation>%1 Wörter kopiert</translation>
+    </message>
+    <message>
+        <source>No text found</source>
+        <translation>Kein Text gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>TextCopyButton</name>
+    <message>
+        <source>Stop</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Copy Text</source>
+        <translation>Text kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>TextCopyStop</name>
+    <message>
+        <source>Stop</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

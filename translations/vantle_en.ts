@@ -149,6 +149,10 @@
         <source>The file is gone</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Copying text</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CardMenus</name>
@@ -226,6 +230,10 @@
     </message>
     <message>
         <source>Select All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Text</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1026,6 +1034,39 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
     <message>
         <source>Bring back</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TextCopy</name>
+    <message>
+        <source>Copied 1 word</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copied %1 words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No text found</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TextCopyButton</name>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TextCopyStop</name>
+    <message>
+        <source>Stop</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -149,6 +149,10 @@
         <source>The file is gone</source>
         <translation>Le fichier n’existe plus</translation>
     </message>
+    <message>
+        <source>Copying text</source>
+        <translation>Copie du texte</translation>
+    </message>
 </context>
 <context>
     <name>CardMenus</name>
@@ -227,6 +231,10 @@
     <message>
         <source>Select All</source>
         <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Copy Text</source>
+        <translation>Copier le texte</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1038,39 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
     <message>
         <source>Bring back</source>
         <translation>Ramener</translation>
+    </message>
+</context>
+<context>
+    <name>TextCopy</name>
+    <message>
+        <source>Copied 1 word</source>
+        <translation>1 mot copié</translation>
+    </message>
+    <message>
+        <source>Copied %1 words</source>
+        <translation>%1 mots copiés</translation>
+    </message>
+    <message>
+        <source>No text found</source>
+        <translation>Aucun texte trouvé</translation>
+    </message>
+</context>
+<context>
+    <name>TextCopyButton</name>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Copy Text</source>
+        <translation>Copier le texte</translation>
+    </message>
+</context>
+<context>
+    <name>TextCopyStop</name>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
     </message>
 </context>
 <context>

@@ -149,6 +149,10 @@
         <source>The file is gone</source>
         <translation>ファイルがありません</translation>
     </message>
+    <message>
+        <source>Copying text</source>
+        <translation>テキストをコピー中</translation>
+    </message>
 </context>
 <context>
     <name>CardMenus</name>
@@ -227,6 +231,10 @@
     <message>
         <source>Select All</source>
         <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Copy Text</source>
+        <translation>テキストをコピー</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1021,39 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <message>
         <source>Bring back</source>
         <translation>元に戻す</translation>
+    </message>
+</context>
+<context>
+    <name>TextCopy</name>
+    <message>
+        <source>Copied 1 word</source>
+        <translation>1語をコピーしました</translation>
+    </message>
+    <message>
+        <source>Copied %1 words</source>
+        <translation>%1語をコピーしました</translation>
+    </message>
+    <message>
+        <source>No text found</source>
+        <translation>テキストが見つかりません</translation>
+    </message>
+</context>
+<context>
+    <name>TextCopyButton</name>
+    <message>
+        <source>Stop</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>Copy Text</source>
+        <translation>テキストをコピー</translation>
+    </message>
+</context>
+<context>
+    <name>TextCopyStop</name>
+    <message>
+        <source>Stop</source>
+        <translation>中止</translation>
     </message>
 </context>
 <context>

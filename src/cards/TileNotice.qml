@@ -7,6 +7,9 @@ Item {
 
     required property string text
 
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+
     PlateView {
         anchors.fill: label
         anchors.margins: -6

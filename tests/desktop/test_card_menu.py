@@ -4,31 +4,11 @@ import os
 
 import pytest
 from assistant import ENVIRONMENT, Assistant
+from card_menu import CardMenu
 from conftest import require_peer
 from panel_checks import is_dismissed, show_one, show_several, wait_for_card
 from privatedesktop import Program, wait_until
 from using import tile_of, window_titled
-
-KEYS = "menu gets the keys: yes"
-
-
-class Menu:
-    """The menu of the card as the screen shows it."""
-
-    def __init__(self, desktop, vantle):
-        self._desktop = desktop
-        self._vantle = vantle
-
-    def open_at(self, x, y):
-        before = self._vantle.log_text().count(KEYS)
-        self._desktop.screen.pointer.click(x, y, button=3)
-        self._vantle.wait_for_log(KEYS, times=before + 1)
-        return self
-
-    def choose(self, *keys):
-        """Presses these keys, and Return."""
-        for key in (*keys, "Return"):
-            self._desktop.screen.keyboard.press(key)
 
 
 @pytest.fixture
@@ -46,7 +26,7 @@ def assistant(desktop):
 
 @pytest.fixture
 def menu(desktop, vantle):
-    return Menu(desktop, vantle)
+    return CardMenu(desktop, vantle)
 
 
 def test_a_program_of_the_menu_opens_the_file(desktop, vantle, folder, menu):
