@@ -20,6 +20,7 @@ REST = (620, 330)
 def main():
     with private_desktop(SIZE, scale=1) as desktop:
         vantle = Program(BINARY, desktop)
+        vantle.write_settings()
         furnish(desktop)
         vantle.start_watching()
         with Pages(desktop) as pages:

@@ -638,7 +638,7 @@ TEST_F(CaptureWatcherTest, ANewFileUnderTheNameOfARenamedOlderOneIsReported) {
     start();
     watcher->willMove(url("b.png"));
     watcher->didMove(url("old.png"), url("b.png"),
-                       !files.rename(url("old.png"), url("b.png")).has_value());
+                     !files.rename(url("old.png"), url("b.png")).has_value());
     wait(1);
     save("old.png");
     wait(1);
@@ -763,7 +763,7 @@ TEST_F(RenamingTest, ARenamedFileCanBeRenamedBack) {
     end(rename());
     watcher->willMove(url("a.png"));
     watcher->didMove(url("b.png"), url("a.png"),
-                       !files.rename(url("b.png"), url("a.png")).has_value());
+                     !files.rename(url("b.png"), url("a.png")).has_value());
     wait(60);
     EXPECT_THAT(captured, IsEmpty());
 }
