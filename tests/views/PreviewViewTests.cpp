@@ -8,6 +8,7 @@
 #include "PreviewStage.h"
 #include "fakes/SettingsOnFakes.h"
 #include "panel/views/Appearance.h"
+#include "platform/qt/DisplayServer.h"
 
 namespace vantle {
 namespace {
@@ -61,6 +62,29 @@ TEST_F(PreviewViewTest, GoesBackIntoItsTileAndSaysWhenItIsThere) {
     EXPECT_THAT(asked, IsEmpty());
     frames.settle();
     EXPECT_THAT(asked, ElementsAre("closed"));
+}
+
+/// A display server with a compositor that blurs.
+class BlurringServer final : public DisplayServer {
+public:
+    explicit BlurringServer(QRegion& blurred) : blurred_(blurred) {}
+    bool offersBlur() const override { return true; }
+    void setBlurBehind(QWindow&, const QRegion& region) override { blurred_ = region; }
+
+private:
+    QRegion& blurred_;
+};
+
+TEST(PreviewBlurTest, EndsBeforeThePlateFades) {
+    QRegion blurred;
+    const DisplayServer::Choice choice(std::make_unique<BlurringServer>(blurred));
+    PreviewStage stage;
+    stage.show(capture("a", {2880, 1800}, stage.clock.now()));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !blurred.isEmpty(); }));
+    stage.close();
+    stage.frames.advance(ManualFrames::frame);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return blurred.isEmpty(); }));
+    EXPECT_GT(stage.frame(*stage.item("GlassBackdropView")).width(), 500);
 }
 
 TEST_F(PreviewViewTest, OnlyFadesUnderLessMotion) {

@@ -17,6 +17,8 @@ class GlassBackdropView : public vantle::PlateView {  // the linter needs the fu
     /// True while the plate is beside its place only for a moment; the window's input region then
     /// stays where it is.
     Q_PROPERTY(bool isHeld MEMBER isHeld_ NOTIFY isHeldChanged)
+    /// False while the plate fades: a blur would stay where the plate can no longer be seen.
+    Q_PROPERTY(bool wantsBlur MEMBER wantsBlur_ NOTIFY wantsBlurChanged)
     /// True if the compositor blurs what is behind the plate. The plate's window sets it.
     Q_PROPERTY(bool isBlurred READ isBlurred NOTIFY isBlurredChanged)
 
@@ -27,6 +29,7 @@ public:
 
     bool isSolid() const { return isSolid_; }
     bool isHeld() const { return isHeld_; }
+    bool wantsBlur() const { return wantsBlur_; }
     bool isBlurred() const { return isBlurred_; }
     void setBlurred(bool isBlurred);
 
@@ -39,11 +42,13 @@ public:
 signals:
     void isSolidChanged();
     void isHeldChanged();
+    void wantsBlurChanged();
     void isBlurredChanged();
 
 private:
     bool isSolid_ = true;
     bool isHeld_ = false;
+    bool wantsBlur_ = true;
     bool isBlurred_ = false;
 };
 

@@ -118,10 +118,13 @@ void PassthroughContainerView::follow(Repeat repeat) {
     GlassBackdropView* glass = visibleGlass();
     const QRect frame = glass ? frameOf(*glass).toAlignedRect() : QRect();
     const bool isHeld = glass && glass->isHeld();
-    const bool isSame = frame == glassFrame_ && isHeld == glassIsHeld_;
+    const bool wantsBlur = glass && glass->wantsBlur();
+    const bool isSame =
+        frame == glassFrame_ && isHeld == glassIsHeld_ && wantsBlur == glassWantsBlur_;
     if (!window_.isExposed() || (repeat == Repeat::whenChanged && isSame)) return;
     glassFrame_ = frame;
     glassIsHeld_ = isHeld;
+    glassWantsBlur_ = wantsBlur;
     // The region of a leaving card stays, so that the second click of a double-click reaches no
     // other window. That of a held card stays because the fingers that hold it scroll what is under
     // the pointer, and the pointer must not leave the window on their way.
@@ -129,8 +132,9 @@ void PassthroughContainerView::follow(Repeat repeat) {
     const QRegion shape = glass ? shapeOf(*glass) : QRegion();
     updateMask(glass, shape);
     if (repeat == Repeat::always) blurIsOffered_ = DisplayServer::current().offersBlur();
-    if (glass) glass->setBlurred(blurIsOffered_);
-    if (blurIsOffered_) DisplayServer::current().setBlurBehind(window_, shape);
+    if (glass) glass->setBlurred(blurIsOffered_ && wantsBlur);
+    if (blurIsOffered_)
+        DisplayServer::current().setBlurBehind(window_, wantsBlur ? shape : QRegion());
 }
 
 void PassthroughContainerView::updateMask(const GlassBackdropView* glass, const QRegion& shape) {

@@ -47,6 +47,7 @@ private:
     const std::unique_ptr<WindowInputRegion> inputRegion_;
     QRect glassFrame_;
     bool glassIsHeld_ = false;
+    bool glassWantsBlur_ = false;
     bool blurIsOffered_ = false;
 };
 

@@ -64,6 +64,7 @@ FocusScope {
 
             anchors.fill: parent
             isSolid: view.preview.isOpen && !view.preview.isDragging
+            wantsBlur: view.preview.isOpen
             // The card may be right behind, so without a blur little of it may shine through.
             fill: isBlurred ? Appearance.glassMaterial : Qt.alpha(Appearance.popoverMaterial, 0.96)
             borderWidth: 1
