@@ -72,6 +72,10 @@ QPoint DisplayServer::userPosition() const {
     return QCursor::pos();
 }
 
+std::unique_ptr<BorrowedSpaceBar> DisplayServer::makeBorrowedSpaceBar() {
+    return nullptr;
+}
+
 std::unique_ptr<DragSupport> DisplayServer::supportDrag(QDrag&, const DragContents&) {
     return std::make_unique<DragSupport>();
 }

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "platform/ReportLine.h"
+#include "platform/qt/BorrowedSpaceBar.h"
 #include "platform/qt/DragSupport.h"
 #include "platform/qt/EmbeddedIcon.h"
 #include "platform/qt/MenuPlacement.h"
@@ -96,6 +97,11 @@ public:
     /// Returns the pointer's place or, if that is unknown, a place on the screen where the user is
     /// working.
     virtual QPoint userPosition() const;
+
+    // The keyboard.
+
+    /// Returns null if no program gets a key that is meant for the window of another.
+    virtual std::unique_ptr<BorrowedSpaceBar> makeBorrowedSpaceBar();
 
     // Drags and the clipboard.
 

@@ -9,6 +9,7 @@
 #include "platform/x11/Drag.h"
 #include "platform/x11/FrontWindow.h"
 #include "platform/x11/PersistentInputRegion.h"
+#include "platform/x11/SpaceBarGrab.h"
 #include "platform/x11/StartupToken.h"
 #include "platform/x11/Taskbar.h"
 #include "platform/x11/UnmanagedOverlay.h"
@@ -92,6 +93,10 @@ void Server::setBlurBehind(QWindow& window, const QRegion& region) {
 
 QRect Server::usableArea(QScreen& screen) const {
     return x11::usableArea(screen);
+}
+
+std::unique_ptr<BorrowedSpaceBar> Server::makeBorrowedSpaceBar() {
+    return std::make_unique<SpaceBarGrab>();
 }
 
 std::unique_ptr<DragSupport> Server::supportDrag(QDrag&, const DragContents& contents) {

@@ -31,6 +31,8 @@ public:
 
     QRect usableArea(QScreen& screen) const override;
 
+    std::unique_ptr<BorrowedSpaceBar> makeBorrowedSpaceBar() override;
+
     std::unique_ptr<DragSupport> supportDrag(QDrag& drag, const DragContents& contents) override;
     void setClipboard(std::unique_ptr<QMimeData> contents) override;
 
