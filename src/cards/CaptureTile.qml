@@ -109,6 +109,10 @@ FocusScope {
     readonly property bool isStaying: panel.isPresented && !isLeaving
     onIsStayingChanged: if (isStaying) shift.target = 0
 
+    // The tile whose capture the space bar shows large, also while another window has the keyboard.
+    readonly property bool isHoveredCapture: hovering && isStaying && !isTrashed
+    onIsHoveredCaptureChanged: panel.setTileHovered(captureId, isHoveredCapture)
+
     HoverHandler {
         id: hover
     }

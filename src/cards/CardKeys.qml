@@ -60,6 +60,8 @@ QtObject {
             panel.open(tile.captureId);
             break;
         case Qt.Key_Space:
+            if (event.isAutoRepeat)
+                break;
             if (event.modifiers & Qt.ControlModifier)
                 panel.toggleSelect(tile.captureId);
             else

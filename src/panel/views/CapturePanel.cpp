@@ -63,6 +63,7 @@ CapturePanel::CapturePanel(PanelModel::Context context) : model_(std::move(conte
     container_ = std::make_unique<PassthroughContainerView>(*view_);
     pressFilter_ = std::make_unique<PressFilter>(*view_, *container_, model_);
     swipeFilter_ = std::make_unique<SwipeFilter>(*view_, *container_, model_);
+    previewKeyFilter_ = std::make_unique<PreviewKeyFilter>(*view_, model_);
     view_->onFlick = [this](double velocity) { swipeFilter_->throwCard(velocity); };
     QObject::connect(&model_, &PanelModel::isPresentedChanged, view_.get(), [this] {
         if (!model_.isPresented()) endInteraction();

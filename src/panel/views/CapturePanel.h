@@ -6,6 +6,7 @@
 #include "panel/views/PanelModel.h"
 #include "panel/views/PassthroughContainerView.h"
 #include "panel/views/PressFilter.h"
+#include "panel/views/PreviewKeyFilter.h"
 #include "panel/views/SwipeFilter.h"
 #include "platform/PanelWindow.h"
 #include "platform/qt/Overlay.h"
@@ -42,6 +43,7 @@ private:
     std::unique_ptr<PassthroughContainerView> container_;
     std::unique_ptr<PressFilter> pressFilter_;
     std::unique_ptr<SwipeFilter> swipeFilter_;
+    std::unique_ptr<PreviewKeyFilter> previewKeyFilter_;
     std::unique_ptr<Overlay> overlay_;
 };
 

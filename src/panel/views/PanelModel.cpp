@@ -150,6 +150,13 @@ void PanelModel::setHovering(bool hovering) {
     if (hovering != hovering_) context_.state.hovering.set(hovering);
 }
 
+void PanelModel::setTileHovered(const QString& captureId, bool isHovered) {
+    // The pointer may reach a tile before it has left another one.
+    if (!isHovered && hoveredTile_ != captureId) return;
+    hoveredTile_ = isHovered ? captureId : QString();
+    emit hoveredTileChanged();
+}
+
 std::vector<DragItem> PanelModel::dragItems(const QString& captureId) const {
     const auto capture = captures_.capture(captureId);
     if (!capture) return {};

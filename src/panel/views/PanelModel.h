@@ -112,13 +112,20 @@ public:
     TimerPointer after(Seconds delay, Scheduler::Work work) const {
         return context_.scheduler.after(delay, std::move(work));
     }
+    Scheduler& scheduler() const { return context_.scheduler; }
     ScreenSide nearEdge() const { return atRight() ? ScreenSide::right : ScreenSide::left; }
     DraggingSessions& draggingSessions() override { return context_.dragging; }
     std::vector<DragItem> dragItems(const QString& captureId) const override;
     void dragBegan() override;
     void dragEnded(bool completed, const std::vector<Url>& urls) override;
 
+    /// Returns the identifier of the capture whose tile is under the pointer; empty if there is
+    /// none.
+    const QString& hoveredTile() const { return hoveredTile_; }
+
     Q_INVOKABLE void setHovering(bool hovering);
+    /// Reports that the tile of a capture came under the pointer, or is no longer there.
+    Q_INVOKABLE void setTileHovered(const QString& captureId, bool isHovered);
     /// Removes the row of a capture that has been shown leaving, after the tile's current work.
     Q_INVOKABLE void forget(const QString& captureId);
     Q_INVOKABLE void close(const QString& captureId);
@@ -155,6 +162,7 @@ signals:
     void subtitleChanged();
     void isPresentedChanged();
     void hoveringChanged();
+    void hoveredTileChanged();
     void selectedCountChanged();
     void progressChanged();
     void isDraggingChanged();
@@ -186,6 +194,7 @@ private:
     bool visible_ = false;
     bool isEmpty_ = true;
     bool hovering_ = false;
+    QString hoveredTile_;
     bool isDragging_ = false;
     double progress_ = 1;
     double dismissAfter_ = 0;

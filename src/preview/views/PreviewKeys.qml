@@ -23,6 +23,9 @@ QtObject {
             preview.close();
             return true;
         case Qt.Key_Space:
+            // The key that opened the preview may still be held.
+            if (event.isAutoRepeat)
+                return true;
             if (preview.isRecording)
                 preview.open();
             else
