@@ -12,6 +12,7 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 class KeyboardTest : public CardFixture {
 protected:
@@ -75,6 +76,16 @@ TEST_F(KeyboardTest, SpaceIsMeantForTheTileUnderThePointer) {
     hover(*tile(0));
     key(Qt::Key_Space);
     EXPECT_THAT(asked, ElementsAre("preview a.png"));
+}
+
+TEST_F(KeyboardTest, AHeldSpaceBarPreviewsOnce) {
+    showThree();
+    QKeyEvent again(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
+    QCoreApplication::sendEvent(&window(), &again);
+    EXPECT_THAT(asked, IsEmpty()) << "it is held since it closed the preview";
+    key(Qt::Key_Space);
+    QCoreApplication::sendEvent(&window(), &again);
+    EXPECT_THAT(asked, ElementsAre("preview c.png"));
 }
 
 TEST_F(KeyboardTest, DeleteOnASelectedTileTrashesTheSelection) {

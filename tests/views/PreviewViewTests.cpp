@@ -117,6 +117,14 @@ TEST_F(PreviewViewTest, KeysAskForWhatTheySay) {
     EXPECT_THAT(asked, ElementsAre("copy"));
 }
 
+TEST_F(PreviewViewTest, TheHeldKeyThatOpenedItDoesNotCloseIt) {
+    show(wide);
+    QKeyEvent again(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
+    QCoreApplication::sendEvent(&window(), &again);
+    EXPECT_THAT(asked, IsEmpty());
+    EXPECT_TRUE(again.isAccepted());
+}
+
 TEST_F(PreviewViewTest, SpacePlaysARecording) {
     show(recording("r", 65, {1280, 720}, clock.now()));
     key(Qt::Key_Space);
