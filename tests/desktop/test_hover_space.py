@@ -176,7 +176,6 @@ def test_a_key_that_another_program_has_taken_stays_there(desktop, typist):
     wait_until(lambda: connection.next_event().type == X.KeyPress, "the other program's key")
     connection.close()
     assert typist.count("preview shows") == 0
-    assert "XCB error" not in typist.log()
     desktop.screen.pointer.move(*BESIDE)
     typist.point_at_tile()
     typist.press_space()
