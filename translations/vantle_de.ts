@@ -146,10 +146,6 @@
         <translation>Angeheftet</translation>
     </message>
     <message>
-        <source>The file is gone</source>
-        <translation>Die Datei ist nicht mehr da</translation>
-    </message>
-    <message>
         <source>Copying text</source>
         <translation>Text wird kopiert</translation>
     </message>
@@ -461,13 +457,6 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
     </message>
 </context>
 <context>
-    <name>MissingNotice</name>
-    <message>
-        <source>The file is gone</source>
-        <translation>Die Datei ist nicht mehr da</translation>
-    </message>
-</context>
-<context>
     <name>MissingTrayAdvice</name>
     <message>
         <source>The installed extension “%1” provides a tray. Turn it on in Extensions.</source>
@@ -567,6 +556,17 @@ Startet Vantle oder holt das laufende nach vorn. Optionen steuern das laufende V
     <message>
         <source>The program does not respond.</source>
         <translation>Das Programm antwortet nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningFailure</name>
+    <message>
+        <source>The file is gone</source>
+        <translation>Die Datei ist nicht mehr da</translation>
+    </message>
+    <message>
+        <source>Could not be opened</source>
+        <translation>Konnte nicht geöffnet werden</translation>
     </message>
 </context>
 <context>

@@ -146,10 +146,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is gone</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Copying text</source>
         <translation type="unfinished"></translation>
     </message>
@@ -458,13 +454,6 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
 </context>
 <context>
-    <name>MissingNotice</name>
-    <message>
-        <source>The file is gone</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>MissingTrayAdvice</name>
     <message>
         <source>The installed extension “%1” provides a tray. Turn it on in Extensions.</source>
@@ -563,6 +552,17 @@ copy; --settings, --show and --sample start Vantle if it is not running.</source
     </message>
     <message>
         <source>The program does not respond.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OpeningFailure</name>
+    <message>
+        <source>The file is gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not be opened</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

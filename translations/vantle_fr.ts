@@ -146,10 +146,6 @@
         <translation>Épinglée</translation>
     </message>
     <message>
-        <source>The file is gone</source>
-        <translation>Le fichier n’existe plus</translation>
-    </message>
-    <message>
         <source>Copying text</source>
         <translation>Copie du texte</translation>
     </message>
@@ -461,13 +457,6 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
     </message>
 </context>
 <context>
-    <name>MissingNotice</name>
-    <message>
-        <source>The file is gone</source>
-        <translation>Le fichier n’existe plus</translation>
-    </message>
-</context>
-<context>
     <name>MissingTrayAdvice</name>
     <message>
         <source>The installed extension “%1” provides a tray. Turn it on in Extensions.</source>
@@ -567,6 +556,17 @@ commandent cette copie ; --settings, --show et --sample lancent Vantle au besoin
     <message>
         <source>The program does not respond.</source>
         <translation>Le programme ne répond pas.</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningFailure</name>
+    <message>
+        <source>The file is gone</source>
+        <translation>Le fichier n’existe plus</translation>
+    </message>
+    <message>
+        <source>Could not be opened</source>
+        <translation>Impossible à ouvrir</translation>
     </message>
 </context>
 <context>

@@ -146,10 +146,6 @@
         <translation>ピン留め</translation>
     </message>
     <message>
-        <source>The file is gone</source>
-        <translation>ファイルがありません</translation>
-    </message>
-    <message>
         <source>Copying text</source>
         <translation>テキストをコピー中</translation>
     </message>
@@ -461,13 +457,6 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     </message>
 </context>
 <context>
-    <name>MissingNotice</name>
-    <message>
-        <source>The file is gone</source>
-        <translation>ファイルがありません</translation>
-    </message>
-</context>
-<context>
     <name>MissingTrayAdvice</name>
     <message>
         <source>The installed extension “%1” provides a tray. Turn it on in Extensions.</source>
@@ -567,6 +556,17 @@ Vantleを起動するか、動作中のものを前面に出します。オプ�
     <message>
         <source>The program does not respond.</source>
         <translation>プログラムが応答しません。</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningFailure</name>
+    <message>
+        <source>The file is gone</source>
+        <translation>ファイルがありません</translation>
+    </message>
+    <message>
+        <source>Could not be opened</source>
+        <translation>開けませんでした</translation>
     </message>
 </context>
 <context>

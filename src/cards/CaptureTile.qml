@@ -19,7 +19,7 @@ FocusScope {
     required property bool isSelected
     required property bool isPinned
     required property bool isCopied
-    required property bool isMissing
+    required property string openingFailure
     required property bool isLeaving
     // The user is typing the name of its file; why the latest one was refused.
     required property bool isRenaming
@@ -67,7 +67,7 @@ FocusScope {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: isRecording && durationText !== "" ? qsTr("%1, recording, %2").arg(fileName).arg(durationText) : fileName
-    Accessible.description: isTrashed ? trashNotice : textState !== "" ? textState : isMissing ? qsTr("The file is gone") : isPinned ? qsTr("Pinned") : ""
+    Accessible.description: isTrashed ? trashNotice : textState !== "" ? textState : openingFailure !== "" ? openingFailure : isPinned ? qsTr("Pinned") : ""
     Accessible.selectable: true
     Accessible.selected: isSelected
     Accessible.focusable: true
@@ -143,7 +143,7 @@ FocusScope {
         isRecording: tile.isRecording
         durationText: tile.durationText
         isSelected: tile.isSelected
-        isMissing: tile.isMissing
+        openingFailure: tile.openingFailure
         trashNotice: tile.trashNotice
         canUndoTrash: tile.canUndoTrash
         pictureWidth: tile.tileWidth

@@ -16,7 +16,8 @@ Item {
     required property bool isRecording
     required property string durationText
     required property bool isSelected
-    required property bool isMissing
+    // Why it could not be opened; empty if there is nothing to say.
+    required property string openingFailure
     required property string trashNotice
     required property bool canUndoTrash
     // The size for which the thumbnail is made.
@@ -101,9 +102,8 @@ Item {
         }
     }
 
-    FadingLoader {
+    FadingNotice {
         anchors.fill: parent
-        isShown: picture.isMissing
-        sourceComponent: MissingNotice {}
+        notice: picture.openingFailure
     }
 }

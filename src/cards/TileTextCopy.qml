@@ -22,7 +22,7 @@ Item {
         }
     }
 
-    TextCopyNotice {
+    FadingNotice {
         anchors.fill: parent
         notice: copying.notice
     }

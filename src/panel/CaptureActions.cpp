@@ -16,7 +16,7 @@ namespace {
 constexpr Animation defaultAnimation{.response = 0.55, .dampingFraction = 1.0};
 constexpr Animation pinSpring{.response = 0.3, .dampingFraction = 0.7};
 constexpr Seconds copiedConfirmation{1.2};
-constexpr Seconds missingNotice{3};
+constexpr Seconds failureNotice{3};
 // The delays leave time to show that something was copied before the captures go.
 constexpr Seconds removalAfterCopy{0.7};
 constexpr Seconds removalAfterCopyOfSelection{0.3};
@@ -62,22 +62,26 @@ void CaptureActions::openWithOther(const CapturePointer& capture) {
 
 OpenWith::Completion CaptureActions::whenOpened(const std::vector<CapturePointer>& captures) {
     return weakly(shared_from_this(), [captures](auto& self, const Outcome& failure) {
-        if (!failure)
-            self.afterUse(captures);
-        else if (std::errc(failure->code) != std::errc::operation_canceled)
-            systemLog("Open With failed: " + failure->message);
+        if (!failure) return self.afterUse(captures);
+        if (std::errc(failure->code) == std::errc::operation_canceled) return;
+        systemLog("Open With failed: " + failure->message);
+        self.showFailure(
+            {captures.front()->id(), PanelState::OpeningFailure::Reason::programFailed});
     });
 }
 
 bool CaptureActions::checkFileExists(const CapturePointer& capture) {
     if (services_.files.existence(capture->url()) != FileManager::Existence::none) return true;
-    services_.state.missingID.set(capture->id());
-    services_.scheduler.after(missingNotice,
-                              weakly(shared_from_this(), [id = capture->id()](auto& self) {
-                                  auto& missing = self.services_.state.missingID;
-                                  if (missing.value() == id) missing.set(std::nullopt);
-                              }));
+    showFailure({capture->id(), PanelState::OpeningFailure::Reason::fileIsGone});
     return false;
+}
+
+void CaptureActions::showFailure(const PanelState::OpeningFailure& failure) {
+    services_.state.openingFailure.set(failure);
+    services_.scheduler.after(failureNotice, weakly(shared_from_this(), [failure](auto& self) {
+                                  auto& shown = self.services_.state.openingFailure;
+                                  if (shown.value() == failure) shown.set(std::nullopt);
+                              }));
 }
 
 void CaptureActions::copy(const CapturePointer& capture) {

@@ -94,6 +94,7 @@ private:
     /// Returns a completion that counts a use, or logs the failure unless the user cancelled.
     OpenWith::Completion whenOpened(const std::vector<CapturePointer>& captures);
     bool checkFileExists(const CapturePointer& capture);
+    void showFailure(const PanelState::OpeningFailure& failure);
     void copyToPasteboard(const std::vector<CapturePointer>& captures);
     /// Removes used captures from the card after `delay`, if the settings say so.
     void afterUse(const std::vector<CapturePointer>& captures, Seconds delay = Seconds(0));

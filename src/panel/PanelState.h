@@ -35,8 +35,16 @@ public:
     Published<bool> hovering{false};  ///< True while the pointer or the keyboard is on the card.
     /// The capture whose tile shows that it was copied.
     Published<std::optional<UUID>> copiedID{std::nullopt};
-    /// The capture whose file was gone when it was needed. Its tile says so for a while.
-    Published<std::optional<UUID>> missingID{std::nullopt};
+    /// The capture that could not be opened last, and why. Its tile says so for a while.
+    struct OpeningFailure {
+        enum class Reason { fileIsGone, programFailed };
+
+        UUID captureID;
+        Reason reason = Reason::fileIsGone;
+
+        bool operator==(const OpeningFailure&) const = default;
+    };
+    Published<std::optional<OpeningFailure>> openingFailure{std::nullopt};
     /// The captures whose tiles are replaced by a notice. They are not in `captures` any more.
     Published<std::map<UUID, TrashNotice>> trashNotices{{}};
     /// The capture whose name the user is typing, and why the latest name was refused.

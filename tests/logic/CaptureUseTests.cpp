@@ -80,18 +80,22 @@ TEST_F(CaptureUseTest, RevealShowsTheFileAndCountsAsUseAtOnce) {
 }
 
 TEST_F(CaptureUseTest, AVanishedFileIsMarkedAndNotOpened) {
+    const auto gone = [](const CapturePointer& capture) {
+        return PanelState::OpeningFailure{capture->id()};
+    };
     remove();
     const auto shown = show({"a", "b"});
     for (const auto& capture : shown) files.remove(capture->url());
     actions.open(shown[0]);
-    EXPECT_EQ(state->missingID.value(), shown[0]->id());
+    EXPECT_EQ(state->openingFailure.value(), gone(shown[0]));
     wait(2);
     actions.reveal(shown[1]);
-    EXPECT_EQ(state->missingID.value(), shown[1]->id());
+    EXPECT_EQ(state->openingFailure.value(), gone(shown[1]));
     wait(2.9);
-    EXPECT_EQ(state->missingID.value(), shown[1]->id()) << "the end of the first is not its own";
+    EXPECT_EQ(state->openingFailure.value(), gone(shown[1]))
+        << "the end of the first is not its own";
     wait(0.2);
-    EXPECT_EQ(state->missingID.value(), std::nullopt);
+    EXPECT_EQ(state->openingFailure.value(), std::nullopt);
     EXPECT_THAT(opener.opened, IsEmpty());
     EXPECT_THAT(opener.revealed, IsEmpty());
     EXPECT_THAT(shownNames(), ElementsAre("a.png", "b.png"));

@@ -87,15 +87,21 @@ TEST_F(CardMenusTest, OpeningInAProgramIsAUse) {
     EXPECT_THAT(shownNames(), ElementsAre("b.png"));
 }
 
-TEST_F(CardMenusTest, AProgramThatCannotBeStartedIsLoggedAndIsNoUse) {
+TEST_F(CardMenusTest, AProgramThatCannotBeStartedIsNoUseAndTheTileSaysSo) {
     const fakes::CapturedLog log;
     settings.removeAfterUse.set(true);
-    openMenu(show({"a"})[0]);
+    const auto shown = show({"a"});
+    openMenu(shown[0]);
     openWith.failure = Failure{ENOENT, "No such file or directory", {}};
     contextMenu.choose({1, 0});
     time.settle();
     EXPECT_THAT(shownNames(), ElementsAre("a.png"));
     EXPECT_TRUE(log.contains("Open With failed: No such file or directory"));
+    const PanelState::OpeningFailure expected{shown[0]->id(),
+                                              PanelState::OpeningFailure::Reason::programFailed};
+    EXPECT_EQ(state->openingFailure.value(), expected);
+    wait(3);
+    EXPECT_EQ(state->openingFailure.value(), std::nullopt);
 }
 
 TEST_F(CardMenusTest, AChooserThatIsCancelledIsNoUse) {

@@ -135,10 +135,10 @@ TEST_F(CentredCardTest, TheContentsOfATileAreCentred) {
     const auto a = capture("a");
     show({a, capture("b")});
     makeCard();
-    state.missingID.set(a->id());
+    state.openingFailure.set({{a->id()}});
     hover(*tile(0));
     const auto* thumbnail = item("DraggableThumbnail", tile(0));
-    auto* notice = item("MissingNotice", tile(0));
+    auto* notice = item("TileNotice", tile(0));
     expectWhollyInTheMiddleOf(*item("QQuickText", notice), *thumbnail);
     expectWhollyInTheMiddleOf(*item("PlateView", notice), *thumbnail);
     expectInTheMiddleOf(*item("HoverBar", tile(0)), *thumbnail);

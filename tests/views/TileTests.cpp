@@ -122,15 +122,15 @@ TEST_F(TileTest, TheCheckMarkAppearsLikeTheBorder) {
 
 TEST_F(TileTest, ShowsThatItsFileIsGone) {
     showTwo();
-    EXPECT_THAT(items("MissingNotice", tile(0)), IsEmpty());
-    state.missingID.set(a->id());
+    EXPECT_THAT(items("TileNotice", tile(0)), IsEmpty());
+    state.openingFailure.set({{a->id()}});
     rest();
-    const auto* notice = item("MissingNotice", tile(0));
+    const auto* notice = item("TileNotice", tile(0));
     EXPECT_TRUE(notice->isVisible());
-    EXPECT_THAT(items("MissingNotice", tile(1)), IsEmpty());
-    state.missingID.set(std::nullopt);
+    EXPECT_THAT(items("TileNotice", tile(1)), IsEmpty());
+    state.openingFailure.set(std::nullopt);
     rest();
-    EXPECT_THAT(items("MissingNotice", tile(0)), IsEmpty());
+    EXPECT_THAT(items("TileNotice", tile(0)), IsEmpty());
 }
 
 TEST_F(TileTest, ATrashedCaptureLeavesANoticeInItsPlace) {

@@ -111,25 +111,38 @@ QVariant CaptureListModel::markData(const UUID& id, int role) const {
             return pinned_.contains(id);
         case isCopiedRole:
             return copied_ == id;
-        case isMissingRole:
-            return missing_ == id;
+        case openingFailureRole:
+            return openingFailure_ && openingFailure_->captureID == id
+                       ? openingFailureText(openingFailure_->reason)
+                       : QString();
         default:
             return {};
     }
 }
 
 QHash<int, QByteArray> CaptureListModel::roleNames() const {
-    return {{captureIdRole, "captureId"},         {fileNameRole, "fileName"},
-            {positionRole, "position"},           {tileXRole, "tileX"},
-            {tileWidthRole, "tileWidth"},         {thumbnailHeightRole, "thumbnailHeight"},
-            {hasThumbnailRole, "hasThumbnail"},   {isRecordingRole, "isRecording"},
-            {durationTextRole, "durationText"},   {isSelectedRole, "isSelected"},
-            {isPinnedRole, "isPinned"},           {isCopiedRole, "isCopied"},
-            {isMissingRole, "isMissing"},         {isLeavingRole, "isLeaving"},
-            {isRenamingRole, "isRenaming"},       {changeableNameRole, "changeableName"},
-            {extensionRole, "extension"},         {refusalRole, "refusal"},
-            {trashNoticeRole, "trashNotice"},     {canUndoTrashRole, "canUndoTrash"},
-            {isReadingTextRole, "isReadingText"}, {textProgressRole, "textProgress"},
+    return {{captureIdRole, "captureId"},
+            {fileNameRole, "fileName"},
+            {positionRole, "position"},
+            {tileXRole, "tileX"},
+            {tileWidthRole, "tileWidth"},
+            {thumbnailHeightRole, "thumbnailHeight"},
+            {hasThumbnailRole, "hasThumbnail"},
+            {isRecordingRole, "isRecording"},
+            {durationTextRole, "durationText"},
+            {isSelectedRole, "isSelected"},
+            {isPinnedRole, "isPinned"},
+            {isCopiedRole, "isCopied"},
+            {openingFailureRole, "openingFailure"},
+            {isLeavingRole, "isLeaving"},
+            {isRenamingRole, "isRenaming"},
+            {changeableNameRole, "changeableName"},
+            {extensionRole, "extension"},
+            {refusalRole, "refusal"},
+            {trashNoticeRole, "trashNotice"},
+            {canUndoTrashRole, "canUndoTrash"},
+            {isReadingTextRole, "isReadingText"},
+            {textProgressRole, "textProgress"},
             {textNoticeRole, "textNotice"}};
 }
 
@@ -221,9 +234,9 @@ void CaptureListModel::setRenaming(const std::optional<PanelState::Renaming>& re
     announce({isRenamingRole, refusalRole});
 }
 
-void CaptureListModel::setMissing(const std::optional<UUID>& missing) {
-    missing_ = missing;
-    announce({isMissingRole});
+void CaptureListModel::setOpeningFailure(const std::optional<PanelState::OpeningFailure>& failure) {
+    openingFailure_ = failure;
+    announce({openingFailureRole});
 }
 
 void CaptureListModel::setTextCopying(const std::map<UUID, PanelState::TextCopying>& all) {

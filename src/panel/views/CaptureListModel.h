@@ -37,7 +37,7 @@ public:
         isSelectedRole,
         isPinnedRole,
         isCopiedRole,
-        isMissingRole,       ///< Its file was gone when it was needed.
+        openingFailureRole,  ///< Why it could not be opened; empty if there is nothing to say.
         isRenamingRole,      ///< The user is typing its name.
         changeableNameRole,  ///< The part of its file's name that the user can change.
         extensionRole,       ///< The rest of the name, with the full stop.
@@ -64,7 +64,7 @@ public:
     void setPinned(const std::set<UUID>& pinned);
     void setCopied(const std::optional<UUID>& copied);
     void setRenaming(const std::optional<PanelState::Renaming>& renaming);
-    void setMissing(const std::optional<UUID>& missing);
+    void setOpeningFailure(const std::optional<PanelState::OpeningFailure>& failure);
     void setTextCopying(const std::map<UUID, PanelState::TextCopying>& all);
 
     /// Removes the row of a capture that has been shown leaving. Does nothing if the capture is
@@ -110,7 +110,7 @@ private:
     std::set<UUID> selected_;
     std::set<UUID> pinned_;
     std::optional<UUID> copied_;
-    std::optional<UUID> missing_;
+    std::optional<PanelState::OpeningFailure> openingFailure_;
     std::optional<PanelState::Renaming> renaming_;
     std::map<UUID, PanelState::TextCopying> textCopying_;
 };

@@ -68,6 +68,12 @@ QString durationText(double seconds) {
     return QStringLiteral("%1:%2").arg(whole / 60).arg(whole % 60, 2, 10, QLatin1Char('0'));
 }
 
+QString openingFailureText(PanelState::OpeningFailure::Reason reason) {
+    return reason == PanelState::OpeningFailure::Reason::fileIsGone
+               ? QCoreApplication::translate("OpeningFailure", "The file is gone")
+               : QCoreApplication::translate("OpeningFailure", "Could not be opened");
+}
+
 QString trashNoticeText(TrashNotice notice) {
     switch (notice) {
         case TrashNotice::moved:

@@ -27,6 +27,7 @@ QString durationText(double seconds);
 
 /// Returns what a tile says after its file was moved to the Trash.
 QString trashNoticeText(TrashNotice notice);
+QString openingFailureText(PanelState::OpeningFailure::Reason reason);
 
 /// Returns "{x, y}".
 QString pointText(const QPointF& point);

@@ -44,8 +44,8 @@ void PanelModel::observeCaptures() {
         state.pinned.observe([this](const auto& pinned) { captures_.setPinned(pinned); }));
     subscriptions_.push_back(
         state.copiedID.observe([this](const auto& copied) { captures_.setCopied(copied); }));
-    subscriptions_.push_back(
-        state.missingID.observe([this](const auto& missing) { captures_.setMissing(missing); }));
+    subscriptions_.push_back(state.openingFailure.observe(
+        [this](const auto& failure) { captures_.setOpeningFailure(failure); }));
     subscriptions_.push_back(
         state.renaming.observe([this](const auto& renaming) { captures_.setRenaming(renaming); }));
     subscriptions_.push_back(

@@ -102,7 +102,7 @@ FocusScope {
             onTapped: view.preview.step(1)
         }
 
-        TextCopyNotice {
+        FadingNotice {
             x: picture.x
             y: picture.y + picture.height - height
             width: picture.width

@@ -1,6 +1,6 @@
 import QtQuick
 
-// Says over a picture what became of its text, for as long as there is a notice.
+// Says something over a picture for as long as there is something to say.
 FadingLoader {
     id: loader
 
