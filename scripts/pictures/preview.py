@@ -25,13 +25,12 @@ def main():
         vantle.start_watching()
         with Pages(desktop) as pages:
             pages.open("cabins", "Alder Cabins", WEBSITE)
-            for page, size in CAPTURES:
+            for number, (page, size) in enumerate(CAPTURES, 1):
                 pages.picture(page, size, desktop.home / "Desktop" / screenshot_name())
-            wait_until(lambda: len(vantle.captured()) == len(CAPTURES), "all captures arrive")
+                vantle.wait_for_log("captured ", times=number)
             panel = wait_until(desktop.screen.panel, "the panel appears")
             wait_until(lambda: desktop.screen.input_areas(panel.number), "the card stands on it")
             card = wait_for_card(desktop, panel)
-            vantle.command("--focus-panel")
             hand = Hand(desktop, REST)
             with recorded(desktop, SIZE, "preview.gif"):
                 play(desktop, hand, card)

@@ -93,7 +93,7 @@ QImage previews(Wallpaper wallpaper) {
         picture.setDevicePixelRatio(1);
         pictures.push_back(onPaper(picture, {}, paper(wallpaper, picture.size())));
     }
-    return arranged(pictures, 2);
+    return arranged(pictures, 3);
 }
 
 std::vector<QImage> screens() {
