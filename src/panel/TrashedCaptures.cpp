@@ -119,9 +119,11 @@ void TrashedCaptures::returned(const MovePointer& move, const std::vector<Trash:
 }
 
 void TrashedCaptures::endLater(const MovePointer& move) {
+    // The move owns the timer, so the timer must not own the move.
     move->end = services_.scheduler.after(
-        noticeTime, weakly(shared_from_this(), [move](auto& self) {
-            self.services_.state.animate(noticeSpring, [&] { self.end(move); });
+        noticeTime, weakly(shared_from_this(), [weak = std::weak_ptr(move)](auto& self) {
+            const auto ended = weak.lock();
+            if (ended) self.services_.state.animate(noticeSpring, [&] { self.end(ended); });
         }));
 }
 
