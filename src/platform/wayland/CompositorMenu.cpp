@@ -80,8 +80,9 @@ void CompositorMenu::hide() {
     if (keySource_) keySource_->removeEventFilter(this);
     keySource_ = nullptr;
     disconnect(hostEnds_);
-    keyboard_.reset();
+    // No other window gets the keyboard while the popup grabs the pointer.
     popup_.reset();
+    keyboard_.reset();
     window_.hide();
     if (anchor_) anchor_->hide();
     // A surface keeps its role forever, so the next menu needs a new one.
