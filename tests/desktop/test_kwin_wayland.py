@@ -11,6 +11,7 @@ from privatedesktop import wait_until_still
 from wayland_checks import (
     beside_card,
     check_above_a_full_screen_window,
+    check_card_menu,
     check_clicks_count_under_a_pointer_at_rest,
     check_clicks_pass,
     check_copied_by_itself,
@@ -87,6 +88,10 @@ def test_the_focus_stays_where_the_user_types(kwin, vantle):
 
 def test_the_card_gets_the_keyboard_on_request_and_gives_it_back(kwin, vantle):
     check_keyboard_on_request(kwin, vantle)
+
+
+def test_the_menu_of_a_tile_renames_its_file(kwin, vantle):
+    check_card_menu(kwin, vantle)
 
 
 def test_the_preview_has_the_keyboard_while_it_is_open(kwin, vantle):

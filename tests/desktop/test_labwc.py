@@ -10,6 +10,7 @@ from trays import start_xfce_panel
 from wayland_checks import (
     beside_card,
     check_above_a_full_screen_window,
+    check_card_menu,
     check_clicks_count_under_a_pointer_at_rest,
     check_clicks_pass,
     check_copied_by_itself,
@@ -100,6 +101,10 @@ def test_the_focus_stays_where_the_user_types(labwc, vantle):
 
 def test_the_card_gets_the_keyboard_on_request_and_gives_it_back(labwc, vantle):
     check_keyboard_on_request(labwc, vantle)
+
+
+def test_the_menu_of_a_tile_renames_its_file(labwc, vantle):
+    check_card_menu(labwc, vantle)
 
 
 def test_the_preview_has_the_keyboard_while_it_is_open(labwc, vantle):

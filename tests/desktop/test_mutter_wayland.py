@@ -14,6 +14,7 @@ from using import Drag
 from wayland_checks import (
     beside_card,
     check_above_a_full_screen_window,
+    check_card_menu,
     check_clicks_count_under_a_pointer_at_rest,
     check_clicks_pass,
     check_clicks_pass_while_time_runs,
@@ -93,6 +94,10 @@ def test_the_focus_stays_where_the_user_types(mutter, vantle):
 
 def test_the_card_gets_the_keyboard_on_request_and_gives_it_back(mutter, vantle):
     check_keyboard_on_request(mutter, vantle)
+
+
+def test_the_menu_of_a_tile_renames_its_file(mutter, vantle):
+    check_card_menu(mutter, vantle)
 
 
 def test_the_preview_has_the_keyboard_while_it_is_open(mutter, vantle):

@@ -292,6 +292,36 @@ def check_preview(desktop, vantle):
     wait_until(lambda: window.typed() == "x", "the letter arrives")
 
 
+def check_card_menu(desktop, vantle):
+    """Opens the menu of the background, and renames a file by that of its tile and by keys."""
+    window = NativeWindow(desktop)
+    vantle.start_watching()
+    tile = show_one(desktop, vantle)
+    keyboard = desktop.screen.keyboard
+
+    def open_menu(place):
+        desktop.screen.pointer.click(*place, button=3)
+        wait_until(window.has_lost_focus, "the menu has the keyboard")
+        wait_until_still(lambda: desktop.screen.screenshot(corner(desktop)).tobytes(), "the menu")
+
+    open_menu(on_glass(tile))
+    keyboard.press("Escape")
+    wait_until(window.has_focus, "the window has the keyboard again")
+    open_menu(tile.centre)
+    # "Rename…" is the third line from the end.
+    for key in ("Up", "Up", "Up", "Return"):
+        keyboard.press(key)
+    # The field for the name is dark, over the bright lower edge of the tile.
+    edge = Rectangle(tile.centre[0] - 40, tile.bottom - 12, 80, 1)
+    wait_until(lambda: desktop.screen.screenshot(edge).convert("L").getextrema()[1] < 100,
+               "the field")
+    wait_until(lambda: not window.has_focus(), "the card has the keyboard")
+    keyboard.type("invoices")
+    keyboard.press("Return")
+    wait_until((desktop.home / "Desktop/invoices.png").exists, "the file has its new name")
+    assert window.typed() == ""
+
+
 def check_dragged_into_a_native_window(desktop, vantle):
     window = NativeWindow(desktop)
     vantle.start_watching()
