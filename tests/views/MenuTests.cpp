@@ -290,7 +290,8 @@ TEST_F(MenuPageTest, AClickEntersGoesBackAndChooses) {
     open(pages);
     QTest::mouseClick(&window, Qt::LeftButton, {}, inLine(1));
     EXPECT_EQ(window.model().page(), 1);
-    EXPECT_EQ(current(), MenuModel::none);
+    // Qt 6.8 tells at once that the pointer is on the second line, Qt 6.4 when the pointer moves.
+    EXPECT_THAT(current(), testing::AnyOf(MenuModel::none, 1));
     window.grabWindow();
     QTest::mouseClick(&window, Qt::LeftButton, {}, inLine(0));
     EXPECT_EQ(window.model().page(), 0);
