@@ -1,6 +1,9 @@
 #include "ScreenStage.h"
 
+#include <QtQuickTest/quicktest.h>
+
 #include <QCoreApplication>
+#include <stdexcept>
 #include <utility>
 
 namespace vantle {
@@ -164,6 +167,9 @@ void ScreenStage::settle() {
     QCoreApplication::processEvents();
     time.settle();
     QCoreApplication::processEvents();
+    // Columns and rows of buttons place what is in them with the next frame.
+    if (window_ && window_->isVisible() && !QQuickTest::qWaitForPolish(window_.get()))
+        throw std::runtime_error("no frame was drawn");
 }
 
 }  // namespace vantle
