@@ -28,20 +28,27 @@ def trashed(desktop):
     return desktop.run("gio", "trash", "--list").stdout.decode().splitlines()
 
 
+def undo(desktop, card, assistant):
+    """Clicks "Undo" in the notice of a single tile. The file is in the Trash before the notice
+    stands on the card."""
+    assistant.wait_for("Undo")
+    desktop.screen.pointer.click(card.centre[0], card.y + UNDO_BELOW_EDGE)
+
+
 def tiles(assistant):
     return [item["name"] for item in assistant.found() if item["role"] == "list item"]
 
 
-def test_undo_of_the_trash_puts_the_file_back(desktop, vantle, folder):
+def test_undo_of_the_trash_puts_the_file_back(desktop, vantle, folder, assistant):
     vantle.start_watching()
     card = wait_for_card(desktop, show_one(desktop, folder))
     original = folder.path / "shot.png"
     content, modified = original.read_bytes(), original.stat().st_mtime_ns
     press_button(desktop, card, "trash")
     wait_until(lambda: len(trashed(desktop)) == 1, "the file is in the Trash")
-    desktop.screen.pointer.click(card.centre[0], card.y + UNDO_BELOW_EDGE)
+    undo(desktop, card, assistant)
     wait_until(original.exists, "the file is back")
-    assert trashed(desktop) == []
+    wait_until(lambda: trashed(desktop) == [], "the Trash is empty")
     assert (original.read_bytes(), original.stat().st_mtime_ns) == (content, modified)
     ensure_never(lambda: is_dismissed(desktop), "the card leaves", seconds=7)
 
@@ -53,7 +60,7 @@ def test_undo_of_the_trash_never_overwrites(desktop, vantle, folder, assistant):
     press_button(desktop, card, "trash")
     wait_until(lambda: len(trashed(desktop)) == 1, "the file is in the Trash")
     original.write_bytes(b"of somebody else")
-    desktop.screen.pointer.click(card.centre[0], card.y + UNDO_BELOW_EDGE)
+    undo(desktop, card, assistant)
     vantle.wait_for_log("^Undo of the Trash failed: .*shot.png: File exists")
     wait_until(
         lambda: "Could not be put back" in [item["description"] for item in assistant.found()],
