@@ -12,21 +12,27 @@ USER_FOLDERS = 'XDG_DESKTOP_DIR="$HOME/Desktop"\nXDG_PICTURES_DIR="$HOME/Bilder"
 
 
 class ScreenshotTool:
-    """A tool that saves by itself; take() waits for its end."""
+    """A tool that saves by itself; take() waits for its end. `setting` is the schema and the key of
+    its folder, if GSettings has it."""
 
-    def __init__(self, *command):
+    def __init__(self, *command, setting=None):
         self._command = command
+        self._setting = setting
 
     def take(self, desktop):
         desktop.run(*self._command)
 
+    def stored_folder(self, desktop):
+        """Returns its folder as GSettings has it; None for other tools."""
+        return self._setting and desktop.run("gsettings", "get", *self._setting).stdout.decode()
 
-class AskingTool:
+
+class AskingTool(ScreenshotTool):
     """A tool that opens windows with these titles, one after the other. Return accepts each of
     them."""
 
-    def __init__(self, *command, titles):
-        self._command = command
+    def __init__(self, *command, titles, setting=None):
+        super().__init__(*command, setting=setting)
         self._titles = titles
 
     def take(self, desktop):
@@ -36,14 +42,14 @@ class AskingTool:
         wait_until(lambda: process.poll() is not None, f"{self._command[0]} ends")
 
 
-class Editor:
+class Editor(ScreenshotTool):
     """A tool that shows the screenshot in a window and saves it on Ctrl+S.
 
     It then either opens a dialog, which Return accepts, or shows the file's name in its title.
     """
 
     def __init__(self, *command, window, dialog=None):
-        self._command = command
+        super().__init__(*command)
         self._window = window
         self._dialog = dialog
 
@@ -82,11 +88,14 @@ def press_until(desktop, title, press, is_done):
 
 
 SPECTACLE = ScreenshotTool("spectacle", "-b", "-n")
-GNOME_SCREENSHOT = ScreenshotTool("gnome-screenshot")
+GNOME_SCREENSHOT = ScreenshotTool(
+    "gnome-screenshot", setting=["org.gnome.gnome-screenshot", "auto-save-directory"])
 KSNIP = ScreenshotTool("ksnip", "-f", "-s")
 FLAMESHOT = AskingTool("flameshot", "full", titles=["Save screenshot"])
 XFCE = AskingTool("xfce4-screenshooter", "-f", titles=["Screenshot", "Save screenshot as..."])
-MATE = AskingTool("mate-screenshot", titles=["Save Screenshot"])
+MATE = AskingTool(
+    "mate-screenshot", titles=["Save Screenshot"],
+    setting=["org.mate.screenshot", "last-save-directory"])
 SCREENGRAB = Editor("screengrab", "-f", window="ScreenGrab", dialog="Save As...")
 KSNIP_EDITOR = Editor("ksnip", "-f", window="ksnip")
 
