@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QPointer>
+#include <QSGTextureProvider>
 #include <QWheelEvent>
 
 #include "PreviewStage.h"
@@ -85,6 +87,20 @@ TEST(PreviewBlurTest, EndsBeforeThePlateFades) {
     stage.frames.advance(ManualFrames::frame);
     EXPECT_TRUE(QTest::qWaitFor([&] { return blurred.isEmpty(); }));
     EXPECT_GT(stage.frame(*stage.item("GlassBackdropView")).width(), 500);
+}
+
+TEST_F(PreviewViewTest, ItsPicturesAreFreedWhileTheCardStays) {
+    QQuickWindow card;
+    bool isDrawn = false;
+    QObject::connect(&card, &QQuickWindow::frameSwapped, [&] { isDrawn = true; });
+    card.show();
+    show(wide);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isDrawn; }));
+    const auto* image = items("QQuickImage", item("PreviewPicture")).front();
+    const QPointer<QSGTexture> picture = image->textureProvider()->texture();
+    ASSERT_TRUE(picture);
+    panel.reset();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !picture; }));
 }
 
 TEST_F(PreviewViewTest, OnlyFadesUnderLessMotion) {

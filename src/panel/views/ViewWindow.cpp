@@ -1,5 +1,6 @@
 #include "panel/views/ViewWindow.h"
 
+#include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQmlExtensionPlugin>
 #include <QQuickItem>
@@ -46,6 +47,10 @@ void ViewWindow::load(const QString& file, const QVariantMap& properties) {
 
 void ViewWindow::unload() {
     delete rootObject();
+    // The software renderer keeps the pictures of a closed window until another one draws a frame.
+    for (QWindow* window : QGuiApplication::topLevelWindows())
+        if (auto* other = qobject_cast<QQuickWindow*>(window); other && other != this)
+            other->update();
 }
 
 }  // namespace vantle

@@ -20,6 +20,8 @@ protected:
 
     /// Sets the properties, then shows the view in that file (below qrc:/qt/qml/Vantle).
     void load(const QString& file, const QVariantMap& properties);
+    /// Deletes the view. The memory of its pictures is free when another window has drawn a frame,
+    /// for which this asks.
     void unload();
 };
 
