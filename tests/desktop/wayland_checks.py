@@ -292,17 +292,24 @@ def check_preview(desktop, vantle):
     wait_until(lambda: window.typed() == "x", "the letter arrives")
 
 
-def check_card_menu(desktop, vantle):
-    """Opens the menu of the background, and renames a file by that of its tile and by keys."""
+def check_card_menu(desktop, vantle, menu_takes_focus=True):
+    """Opens the menu of the background, and renames a file by that of its tile and by keys. Without
+    `menu_takes_focus`, the window underneath does not lose the keyboard before the first key."""
     window = NativeWindow(desktop)
     vantle.start_watching()
     tile = show_one(desktop, vantle)
     keyboard = desktop.screen.keyboard
 
     def open_menu(place):
+        before = screen()
         desktop.screen.pointer.click(*place, button=3)
-        wait_until(window.has_lost_focus, "the menu has the keyboard")
-        wait_until_still(lambda: desktop.screen.screenshot(corner(desktop)).tobytes(), "the menu")
+        wait_until(lambda: screen() != before, "the menu appears")
+        if menu_takes_focus:
+            wait_until(lambda: not window.has_focus(), "the menu has the keyboard")
+        wait_until_still(screen, "the menu")
+
+    def screen():
+        return desktop.screen.screenshot(corner(desktop)).tobytes()
 
     open_menu(on_glass(tile))
     keyboard.press("Escape")

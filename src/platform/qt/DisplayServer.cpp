@@ -48,6 +48,7 @@ std::unique_ptr<MenuPlacement> DisplayServer::makeMenuPlacement(QWindow& window)
     return std::make_unique<PlacedMenu>(window);
 }
 
+// Other display servers keep the function. NOLINTNEXTLINE(performance-unnecessary-value-param)
 std::unique_ptr<EmbeddedIcon> DisplayServer::makeEmbeddedIcon(EmbeddedIcon::Draw) {
     return nullptr;
 }
@@ -84,6 +85,7 @@ void DisplayServer::setClipboard(std::unique_ptr<QMimeData> contents) {
     QGuiApplication::clipboard()->setMimeData(contents.release());
 }
 
+// Other display servers keep the function. NOLINTNEXTLINE(performance-unnecessary-value-param)
 void DisplayServer::requestActivationToken(QObject&, TokenReceiver receiver) {
     receiver({});
 }

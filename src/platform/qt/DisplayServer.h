@@ -100,6 +100,9 @@ public:
 
     // The keyboard.
 
+    /// Returns true if a window that grabs the keyboard also gets the keys that are meant for the
+    /// windows of other programs.
+    virtual bool grabsAllKeys() const { return true; }
     /// Returns null if no program gets a key that is meant for the window of another.
     virtual std::unique_ptr<BorrowedSpaceBar> makeBorrowedSpaceBar();
 

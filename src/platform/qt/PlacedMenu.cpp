@@ -21,6 +21,7 @@ void PlacedMenu::show(const MenuAnchor& anchor, const QRect& plate) {
 }
 
 void PlacedMenu::exposed() {
+    if (!DisplayServer::current().grabsAllKeys()) overlay_->takeKeyboard();
     window_.setMouseGrabEnabled(true);
     const bool getsKeys = window_.setKeyboardGrabEnabled(true);
     Debug::log([&] { return std::string("menu gets the keys: ") + (getsKeys ? "yes" : "no"); });
@@ -29,6 +30,7 @@ void PlacedMenu::exposed() {
 void PlacedMenu::hide() {
     window_.setMouseGrabEnabled(false);
     window_.setKeyboardGrabEnabled(false);
+    overlay_->giveBackKeyboard();
     overlay_->hide();
 }
 

@@ -95,6 +95,10 @@ QRect Server::usableArea(QScreen& screen) const {
     return x11::usableArea(screen);
 }
 
+bool Server::grabsAllKeys() const {
+    return versionOfMutter().empty();
+}
+
 std::unique_ptr<BorrowedSpaceBar> Server::makeBorrowedSpaceBar() {
     return std::make_unique<SpaceBarGrab>();
 }

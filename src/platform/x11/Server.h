@@ -31,6 +31,7 @@ public:
 
     QRect usableArea(QScreen& screen) const override;
 
+    bool grabsAllKeys() const override;
     std::unique_ptr<BorrowedSpaceBar> makeBorrowedSpaceBar() override;
 
     std::unique_ptr<DragSupport> supportDrag(QDrag& drag, const DragContents& contents) override;
