@@ -301,7 +301,9 @@ def check_card_menu(desktop, vantle, menu_takes_focus=True):
     keyboard = desktop.screen.keyboard
 
     def open_menu(place):
-        before = screen()
+        # Mutter may report a press at the place before, if the pointer has only just moved.
+        desktop.screen.pointer.move(*place)
+        before = wait_until_still(screen, "the card below the pointer")
         desktop.screen.pointer.click(*place, button=3)
         wait_until(lambda: screen() != before, "the menu appears")
         if menu_takes_focus:
