@@ -54,14 +54,19 @@ class Drag:
         turn = 0
 
         def is_promised():
-            # The target is asked only while the pointer moves.
+            # The target is asked only while the pointer moves. LibreOffice answers each movement
+            # with no and then with yes, so only its last word counts.
             nonlocal turn
             turn += 1
             self._pointer.move(x + turn % 3, y)
-            return re.findall(r"drop target promised=(\w+)", self._log())[-1:] == ["true"]
+            answers = wait_until_still(self._answers, "the target's answer", interval=0.05)
+            return answers[-1:] == ["true"]
 
-        wait_until(is_promised, "the drop target promises to take it", interval=0.1)
+        wait_until(is_promised, "the drop target promises to take it")
         return self
+
+    def _answers(self):
+        return re.findall(r"drop target promised=(\w+)", self._log())
 
     def drop(self):
         self._pointer.release()
