@@ -294,7 +294,7 @@ def check_preview(desktop, vantle):
 
 def check_card_menu(desktop, vantle, menu_takes_focus=True):
     """Opens the menu of the background, and renames a file by that of its tile and by keys. Without
-    `menu_takes_focus`, the window underneath does not lose the keyboard before the first key."""
+    `menu_takes_focus`, the keyboard goes to the menu, and back, only with the next key."""
     window = NativeWindow(desktop)
     vantle.start_watching()
     tile = show_one(desktop, vantle)
@@ -308,14 +308,19 @@ def check_card_menu(desktop, vantle, menu_takes_focus=True):
         wait_until(lambda: screen() != before, "the menu appears")
         if menu_takes_focus:
             wait_until(lambda: not window.has_focus(), "the menu has the keyboard")
-        wait_until_still(screen, "the menu")
+        return wait_until_still(screen, "the menu")
 
     def screen():
         return desktop.screen.screenshot(corner(desktop)).tobytes()
 
-    open_menu(on_glass(tile))
+    menu = open_menu(on_glass(tile))
     keyboard.press("Escape")
-    wait_until(window.has_focus, "the window has the keyboard again")
+    wait_until(lambda: screen() != menu, "the menu fades")
+    wait_until_still(screen, "the card without its menu")
+    if menu_takes_focus:
+        wait_until(window.has_focus, "the window has the keyboard again")
+    keyboard.type("x")
+    wait_until(lambda: window.typed() == "x", "the window gets the next key")
     open_menu(tile.centre)
     # "Rename…" is the third line from the end.
     for key in ("Up", "Up", "Up", "Return"):
@@ -328,7 +333,7 @@ def check_card_menu(desktop, vantle, menu_takes_focus=True):
     keyboard.type("invoices")
     keyboard.press("Return")
     wait_until((desktop.home / "Desktop/invoices.png").exists, "the file has its new name")
-    assert window.typed() == ""
+    assert window.typed() == "x"
 
 
 def check_dragged_into_a_native_window(desktop, vantle):
