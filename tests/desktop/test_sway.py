@@ -44,6 +44,7 @@ from wayland_checks import (
     program_on,
     save,
     show_one,
+    type_letter_into,
     wait_for_bar,
 )
 from wayland_desktop import NativeWindow
@@ -232,8 +233,7 @@ def test_the_share_menu_opens_over_the_card_and_closes(sway, vantle):
     wait_until(lambda: picture_around(sway, tile) != closed, "it opens again")
     sway.screen.pointer.click(300, 300)
     wait_until(is_closed, "a click beside it closes it")
-    sway.screen.keyboard.type("x")
-    wait_until(lambda: window.typed() == "x", "the window has the keyboard again")
+    type_letter_into(sway, window)
     assert window.clicks() == []
 
 

@@ -79,6 +79,12 @@ def click_on_glass(desktop, vantle, tile):
     vantle.wait_for_log("host mouseDown", times=before + 1)
 
 
+def type_letter_into(desktop, window):
+    """Types "x", and checks that the window, into which nothing was typed before, gets it."""
+    desktop.screen.keyboard.type("x")
+    wait_until(lambda: window.typed() == "x", "the letter arrives")
+
+
 def click_through(desktop, window, points, tries=1):
     """Clicks at the points, and checks that the window underneath gets these clicks and no others.
     Each click is tried up to `tries` times."""
@@ -268,8 +274,7 @@ def check_keyboard_on_request(desktop, vantle):
     desktop.screen.keyboard.press("Escape")
     wait_until(lambda: is_gone(desktop), "the card goes")
     wait_until(window.has_focus, "the window has the keyboard again")
-    desktop.screen.keyboard.type("x")
-    wait_until(lambda: window.typed() == "x", "the letter arrives")
+    type_letter_into(desktop, window)
 
 
 def check_preview(desktop, vantle):
@@ -288,13 +293,12 @@ def check_preview(desktop, vantle):
     press_key("Escape")
     wait_until(lambda: is_gone(desktop), "the card, which has the keyboard again, goes")
     wait_until(window.has_focus, "the window has the keyboard again")
-    desktop.screen.keyboard.type("x")
-    wait_until(lambda: window.typed() == "x", "the letter arrives")
+    type_letter_into(desktop, window)
 
 
 def check_card_menu(desktop, vantle, menu_takes_focus=True):
     """Opens the menu of the background, and renames a file by that of its tile and by keys. Without
-    `menu_takes_focus`, the keyboard goes to the menu, and back, only with the next key."""
+    `menu_takes_focus`, the compositor moves the keyboard to the menu or back only with a key."""
     window = NativeWindow(desktop)
     vantle.start_watching()
     tile = show_one(desktop, vantle)
@@ -319,8 +323,7 @@ def check_card_menu(desktop, vantle, menu_takes_focus=True):
     wait_until_still(screen, "the card without its menu")
     if menu_takes_focus:
         wait_until(window.has_focus, "the window has the keyboard again")
-    keyboard.type("x")
-    wait_until(lambda: window.typed() == "x", "the window gets the next key")
+    type_letter_into(desktop, window)
     open_menu(tile.centre)
     # "Rename…" is the third line from the end.
     for key in ("Up", "Up", "Up", "Return"):
